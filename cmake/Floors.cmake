@@ -1,0 +1,28 @@
+# add_floor(<name> HEADERS … SOURCES … USES …)
+# One floor of the house: a static library that shows its users its own folder and nothing else,
+# so that an include against the direction of the arrows does not compile.
+function(add_floor name)
+  cmake_parse_arguments(FLOOR "" "" "HEADERS;SOURCES;USES" ${ARGN})
+  add_library(${name} STATIC ${FLOOR_SOURCES})
+  target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${CMAKE_CURRENT_SOURCE_DIR} FILES ${FLOOR_HEADERS})
+  # Headers are compiled alone, too, and by those who use the floor.
+  target_compile_features(${name} PUBLIC cxx_std_20)
+  target_link_libraries(${name} PUBLIC ${FLOOR_USES} PRIVATE strictness)
+endfunction()
+
+# add_loan_test(<name> LABEL <folder> SOURCES … USES … [MAIN <library with main>])
+# A GoogleTest program whose tests carry their folder's name as label.
+function(add_loan_test name)
+  cmake_parse_arguments(TEST "" "LABEL;MAIN" "SOURCES;USES" ${ARGN})
+  if(NOT TEST_MAIN)
+    set(TEST_MAIN GTest::gtest_main)
+  endif()
+  add_executable(${name} ${TEST_SOURCES})
+  target_link_libraries(${name} PRIVATE ${TEST_USES} GTest::gtest ${TEST_MAIN} strictness)
+  target_compile_definitions(${name} PRIVATE
+    QUEND_SOURCE_DIR="${CMAKE_SOURCE_DIR}" QUEND_PROGRAM_DIR="${QUEND_PROGRAM_DIR}"
+    QUEND_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
+  include(GoogleTest)
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${TEST_LABEL} TIMEOUT 120
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0")
+endfunction()

@@ -1,0 +1,22 @@
+# What every target of the house is compiled with. Linked privately, so that no flag leaks.
+add_library(strictness INTERFACE)
+target_compile_features(strictness INTERFACE cxx_std_20)
+target_compile_definitions(strictness INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_KEYWORDS
+  QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_FOREACH QT_NO_URL_CAST_FROM_STRING
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400 $<$<NOT:$<CONFIG:Debug>>:QT_NO_DEBUG_OUTPUT>)
+target_compile_options(strictness INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wdouble-promotion
+  -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Wcast-align -Wformat=2
+  -Wnull-dereference -Wimplicit-fallthrough -Wextra-semi
+  # The arithmetic of a loan has one right answer: no fused operations that round differently.
+  -ffp-contract=off
+  # Rounding a double is then one instruction; nobody here reads errno after it.
+  -fno-math-errno)
+
+if(QUEND_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)

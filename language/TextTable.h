@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+#include <map>
+#include <vector>
+
+/// What is wrong with a table of texts, and where.
+struct TextTableFault {
+    int line; ///< counted from 1; 0 when the fault is of the table as a whole
+    QString description;
+
+    friend bool operator==(const TextTableFault&, const TextTableFault&) = default;
+};
+
+/// A table of numbered texts as the translators write it:
+///
+///     # a note
+///     language = English
+///     tag = engl
+///     201 = Loan &Name:
+///
+/// In a text "\n" is a new line and "\\" one backslash; blanks around the text do not count.
+/// The table does not look into its texts: access keys and "%1" mean nothing to it.
+class TextTable {
+public:
+    /// Reads a whole table. Never throws: a line at fault is left out and named in Faults().
+    static TextTable Parse(QStringView source);
+
+    /// In order of their lines, faults of the whole table last; empty for a sound table.
+    const std::vector<TextTableFault>& Faults() const { return m_faults; }
+
+    /// The language's own name for itself, such as "Español".
+    const QString& LanguageName() const { return m_languageName; }
+    /// The language's short mark, such as "span".
+    const QString& Tag() const { return m_tag; }
+    /// The text of this number; a null QString when the table does not know it.
+    QString Text(int id) const;
+    /// All texts by their numbers, which are 1 or more.
+    const std::map<int, QString>& Texts() const { return m_texts; }
+
+private:
+    void ReadLine(int line, QStringView content);
+    void ReadHeader(int line, QStringView key, const QString& value);
+    void ReadText(int line, QStringView key, const QString& text);
+    void AddFault(int line, const QString& description);
+
+    std::vector<TextTableFault> m_faults;
+    std::map<int, QString> m_texts;
+    QString m_languageName;
+    QString m_tag;
+};

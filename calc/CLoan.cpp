@@ -1,0 +1,78 @@
+#include "CLoan.h"
+
+#include "Frequency.h"
+#include "Payment.h"
+#include "Schedule.h"
+
+#include <utility>
+
+void CLoan::SetInterestRate(double rate) {
+    Change(m_interestRate, rate);
+    if (m_interestRate != 0.0 && m_term == 0) {
+        SetTerm(m_context->LoanTerm());
+    }
+}
+
+QString CLoan::Frequency() const { return FrequencyCodeToText(m_frequencyCode); }
+
+void CLoan::SetFrequency(const QString& text) { SetFrequencyCode(FrequencyTextToCode(text)); }
+
+Money CLoan::StartingPrinciple() {
+    Money principal = m_startingAmount;
+    if (m_financePoints) {
+        principal += Money::FromDouble(m_startingAmount.ToDouble() * m_points / 100.0);
+    }
+    if (m_financeClosingCosts) {
+        principal += m_closingCosts;
+    }
+    m_startingPrinciple = principal;
+    return m_startingPrinciple;
+}
+
+Money CLoan::PandI() {
+    return PrincipalAndInterest(StartingPrinciple(), m_interestRate, m_term, m_frequencyCode);
+}
+
+Money CLoan::Payment() {
+    const Money principalAndInterest = PandI();
+    if (principalAndInterest.IsZero()) {
+        return {};
+    }
+    const Money payment =
+        principalAndInterest + EscrowShare(m_frequencyCode, m_context->EscrowMonthly());
+    if (payment > m_actualPayment) {
+        Change(m_actualPayment, payment);
+        m_forced = true;
+    }
+    return payment;
+}
+
+bool CLoan::Forced() { return std::exchange(m_forced, false); }
+
+void CLoan::SetActualPayment(Money payment) {
+    const Money least = Payment();
+    if (payment <= Money() || payment >= least) {
+        Change(m_actualPayment, payment);
+        return;
+    }
+    m_context->PaymentRefused();
+    Change(m_actualPayment, Payment());
+}
+
+Date CLoan::PayoffDate() {
+    m_interest = Money(); // stands if the schedule fails
+    const Money principal = StartingPrinciple();
+    if (principal.IsZero() || m_interestRate == 0.0 || m_frequencyCode.isEmpty() ||
+        m_actualPayment.IsZero()) {
+        return {};
+    }
+    const Payoff payoff =
+        RunToPayoff({.balance = principal,
+                     .rate = m_interestRate,
+                     .payment = m_actualPayment,
+                     .escrowShare = EscrowShare(m_frequencyCode, m_context->EscrowMonthly()),
+                     .frequency = FindFrequency(m_frequencyCode),
+                     .start = m_context->Today()});
+    m_interest = payoff.interest;
+    return payoff.date;
+}

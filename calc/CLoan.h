@@ -1,0 +1,114 @@
+#pragma once
+
+#include "Date.h"
+#include "Money.h"
+
+#include <QString>
+
+/// What an offer asks of the worksheet it stands in, and what it reports to it.
+class LoanContext {
+public:
+    LoanContext() = default;
+    LoanContext(const LoanContext&) = delete;
+    LoanContext& operator=(const LoanContext&) = delete;
+    LoanContext(LoanContext&&) = delete;
+    LoanContext& operator=(LoanContext&&) = delete;
+    virtual ~LoanContext() = default;
+
+    virtual Money LoanAmount() const = 0;
+    /// The default term in months.
+    virtual int LoanTerm() const = 0;
+    virtual Money EscrowMonthly() const = 0;
+    virtual Date Today() const = 0;
+
+    /// A value that is saved with the loan has changed.
+    virtual void MarkDirty() = 0;
+    /// A positive actual payment below the computed payment was turned down. The user is to be
+    /// told.
+    virtual void PaymentRefused() = 0;
+};
+
+/// One loan offer: its inputs, and the payment, payoff date and interest that follow from them.
+/// It neither shows a message nor knows its row, and results are computed when read, never kept up
+/// to date. The context must outlive it. Points are in percent, the rate is annual and a fraction,
+/// the term is in months.
+///
+/// A missing input (zero, or no frequency) gives zero results or no date, never a failure. What
+/// leaves the range of money, or of a date, raises OverflowFailure from the reading function.
+class CLoan {
+public:
+    explicit CLoan(LoanContext& context)
+        : m_context(&context), m_startingPrinciple(context.LoanAmount()) {}
+
+    // Every setter marks the worksheet dirty when its value differs from the stored one, except for
+    // the starting amount, which is the worksheet's own.
+    bool FinancePoints() const { return m_financePoints; }
+    void SetFinancePoints(bool finance) { Change(m_financePoints, finance); }
+    double Points() const { return m_points; }
+    void SetPoints(double percent) { Change(m_points, percent); }
+    bool FinanceClosingCosts() const { return m_financeClosingCosts; }
+    void SetFinanceClosingCosts(bool finance) { Change(m_financeClosingCosts, finance); }
+    Money ClosingCosts() const { return m_closingCosts; }
+    void SetClosingCosts(Money costs) { Change(m_closingCosts, costs); }
+    void SetStartingAmount(Money amount) { m_startingAmount = amount; }
+    int Term() const { return m_term; }
+    void SetTerm(int months) { Change(m_term, months); }
+    double InterestRate() const { return m_interestRate; }
+    /// A rate other than zero gives a missing term the worksheet's default one.
+    void SetInterestRate(double rate);
+    const QString& FrequencyCode() const { return m_frequencyCode; }
+    /// Any text is kept as it is; an unknown code is no failure.
+    void SetFrequencyCode(const QString& code) { Change(m_frequencyCode, code); }
+    /// The frequency's name in the language of the moment; empty for an unknown code.
+    QString Frequency() const;
+    /// A text that names no frequency clears the code.
+    void SetFrequency(const QString& text);
+    const QString& Who() const { return m_who; }
+    void SetWho(const QString& lender) { Change(m_who, lender); }
+
+    /// What the payments repay: the starting amount with financed points (to the nearest
+    /// ten-thousandth) and financed closing costs.
+    Money StartingPrinciple();
+    /// Principal and interest of one payment, in whole cents.
+    Money PandI();
+    /// One payment with its share of the escrow. Raises a lower actual payment to itself, marks the
+    /// worksheet dirty then and sets Forced. Zero, and nothing raised, while PandI is zero.
+    Money Payment();
+    /// True once after Payment has raised the actual payment; reading it clears it.
+    bool Forced();
+
+    Money ActualPayment() const { return m_actualPayment; }
+    /// Reads Payment first. A positive value below it is refused: the context is told once, and the
+    /// computed payment is stored instead. Zero and less are accepted.
+    void SetActualPayment(Money payment);
+
+    /// The day on which the actual payment, made from today on, has repaid the loan. No date while
+    /// principal, rate, frequency code or actual payment is missing.
+    Date PayoffDate();
+    /// The whole interest of the last PayoffDate; zero before the first and after one that failed.
+    Money Interest() const { return m_interest; }
+
+private:
+    template <typename Value>
+    void Change(Value& stored, const Value& value) {
+        if (stored != value) {
+            stored = value;
+            m_context->MarkDirty();
+        }
+    }
+
+    LoanContext* m_context;
+    bool m_financePoints = false;
+    double m_points = 0.0;
+    bool m_financeClosingCosts = false;
+    Money m_closingCosts;
+    Money m_startingAmount;
+    Money m_startingPrinciple;
+    int m_term = 0;
+    double m_interestRate = 0.0;
+    QString m_frequencyCode;
+    Money m_actualPayment;
+    bool m_forced = false;
+    Money m_interest;
+    QString m_who;
+};

@@ -1,0 +1,39 @@
+#include "Date.h"
+
+#include "Failure.h"
+
+namespace {
+
+constexpr std::chrono::sys_days DayZero = std::chrono::year(1899) / std::chrono::December / 30;
+
+} // namespace
+
+Date Date::FromCalendar(int year, int month, int day) {
+    // The calendar type holds a month or day of up to 255 and would cut a larger one short.
+    if (year < 1 || year > 9999 || month < 1 || month > 12 || day < 1 || day > 31) {
+        RaiseOverflow();
+    }
+    const auto calendar = std::chrono::year(year) / month / day;
+    if (!calendar.ok()) {
+        RaiseOverflow();
+    }
+    return Date(static_cast<int>((std::chrono::sys_days(calendar) - DayZero).count()));
+}
+
+std::chrono::year_month_day Date::Calendar() const { return DayZero + std::chrono::days(m_days); }
+
+Date Date::PlusDays(int days) const {
+    int sum = 0;
+    if (__builtin_add_overflow(m_days, days, &sum)) {
+        RaiseOverflow();
+    }
+    return FromDays(sum);
+}
+
+Date Date::PlusOneMonth() const {
+    const auto next = Calendar() + std::chrono::months(1);
+    const auto day = next.ok() ? next : next.year() / next.month() / std::chrono::last;
+    return FromDays(static_cast<int>((std::chrono::sys_days(day) - DayZero).count()));
+}
+
+void Date::RaiseOverflow() { throw OverflowFailure("Date"); }

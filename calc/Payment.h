@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Money.h"
+
+#include <QString>
+
+/// The payment, principal and interest, that repays a loan within its term, rounded to the nearest
+/// cent, halves to even. The rate is the annual one as a fraction. Zero for a zero principal, rate
+/// or term and for a code that is no frequency: there is no formula without interest. Raises
+/// OverflowFailure for a payment outside the range of money or that is no number, and for "B" when
+/// twice the term leaves the 32-bit range.
+Money PrincipalAndInterest(Money principal, double rate, int termMonths, const QString& code);

@@ -1,0 +1,30 @@
+#include "Schedule.h"
+
+#include "Failure.h"
+
+namespace {
+
+constexpr auto Unwatched = [](const SchedulePeriod&) {};
+
+} // namespace
+
+void ScheduleLoop::RaiseEndless() { throw OverflowFailure("Schedule"); }
+
+ScheduleTotals ScheduleLoop::Totals(const ScheduleTerms& terms, const Payoff& payoff) {
+    if (payoff.periods == 0) {
+        return {};
+    }
+    std::int64_t fullPayments = 0;
+    if (__builtin_mul_overflow(terms.payment.TenThousandths(), payoff.periods - 1, &fullPayments)) {
+        throw OverflowFailure("Schedule");
+    }
+    const Money lastPayment = terms.escrowShare + payoff.lastPrincipal + payoff.lastInterest;
+    const Money paid = Money::FromTenThousandths(fullPayments) + lastPayment;
+    return {payoff.date, payoff.interest, paid, payoff.periods};
+}
+
+Payoff RunToPayoff(const ScheduleTerms& terms) { return RunToPayoff(terms, Unwatched); }
+
+ScheduleTotals RunSchedule(const ScheduleTerms& terms) {
+    return ScheduleLoop::Totals(terms, RunToPayoff(terms));
+}

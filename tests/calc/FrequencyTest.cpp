@@ -1,0 +1,130 @@
+#include "Frequency.h"
+
+#include "Failure.h"
+#include "Language.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <ostream>
+#include <vector>
+
+void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
+
+namespace {
+
+const std::vector<QString> CodesWithoutFrequency{QString(),
+                                                 QStringLiteral(""),
+                                                 QStringLiteral("X"),
+                                                 QStringLiteral("m"),
+                                                 QStringLiteral("MM"),
+                                                 QStringLiteral(" M"),
+                                                 QStringLiteral("M "),
+                                                 QStringLiteral("114")};
+
+struct FrequencyCase {
+    QString code;
+    int listIndex;
+    int textNumber;
+    double periodsOf360;
+    double periodsOf100;
+    std::int64_t escrowOf250; ///< ten-thousandths
+    std::int64_t escrowOf1;   ///< of 0.0001, the smallest that cannot be halved
+    std::int64_t escrowOf8333;
+};
+
+const std::vector<FrequencyCase>& Cases() {
+    // clang-format off
+    static const std::vector<FrequencyCase> cases{
+        // code     listIndex  textNumber  periodsOf360  periodsOf100     escrowOf250  escrowOf1  escrowOf8333
+        {  u"M"_qs,         0,        114,        360.0, 100.0,             2'500'000,         1,      833'300 },
+        {  u"B"_qs,         1,        111,        720.0, 200.0,             1'250'000,         0,      416'650 },
+        {  u"W"_qs,         2,        112,        780.0, 100 / 12.0 * 26,   1'250'000,         0,      416'650 },
+        {  u"Q"_qs,         3,        115,        390.0, 100 / 12.0 * 13,   2'500'000,         1,      833'300 },
+    };
+    // clang-format on
+    return cases;
+}
+
+TEST(Frequency, HasAPlaceATextPeriodsAndAnEscrowShare) {
+    for (const FrequencyCase& row : Cases()) {
+        SCOPED_TRACE(row.code.toStdString());
+        const Frequency* const frequency = FindFrequency(row.code);
+        ASSERT_NE(frequency, nullptr);
+        EXPECT_EQ(frequency - Frequencies.data(), row.listIndex);
+        EXPECT_EQ(frequency->Code(), row.code);
+        EXPECT_EQ(frequency->textNumber, row.textNumber);
+        EXPECT_EQ(PeriodsOfTerm(*frequency, 360), row.periodsOf360);
+        EXPECT_EQ(PeriodsOfTerm(*frequency, 100), row.periodsOf100);
+        EXPECT_EQ(PeriodsOfTerm(*frequency, 0), 0.0);
+        const auto share = [&row](std::int64_t monthly) {
+            return EscrowShare(row.code, Money::FromTenThousandths(monthly)).TenThousandths();
+        };
+        EXPECT_EQ(share(2'500'000), row.escrowOf250);
+        EXPECT_EQ(share(1), row.escrowOf1);
+        EXPECT_EQ(share(833'300), row.escrowOf8333);
+        EXPECT_EQ(share(0), 0);
+    }
+}
+
+TEST(Frequency, OfAnyOtherCodeIsNoneAndHalvesTheEscrow) {
+    for (const QString& code : CodesWithoutFrequency) {
+        SCOPED_TRACE(code.toStdString());
+        EXPECT_EQ(FindFrequency(code), nullptr);
+        EXPECT_EQ(FrequencyCodeToText(code), QString());
+        EXPECT_EQ(EscrowShare(code, Money::FromTenThousandths(2'500'000)),
+                  Money::FromTenThousandths(1'250'000));
+    }
+}
+
+struct TermLimitCase {
+    QString code;
+    int months;
+    bool overflows;
+};
+
+TEST(Frequency, CountsPaymentsTwiceAMonthInWholeNumbersOnly) {
+    constexpr int Longest = std::numeric_limits<int>::max();
+    constexpr int Shortest = std::numeric_limits<int>::min();
+    // clang-format off
+    const std::vector<TermLimitCase> cases{
+        // code     months           overflows
+        {  u"B"_qs, Longest / 2,     false },
+        {  u"B"_qs, Longest / 2 + 1, true },
+        {  u"B"_qs, Longest,         true },
+        {  u"B"_qs, Shortest / 2,    false },
+        {  u"B"_qs, Shortest,        true },
+        {  u"M"_qs, Longest,         false },
+        {  u"M"_qs, Shortest,        false },
+        {  u"W"_qs, Longest,         false },
+        {  u"Q"_qs, Shortest,        false },
+    };
+    // clang-format on
+    for (const auto& [code, months, overflows] : cases) {
+        SCOPED_TRACE(testing::Message() << code.toStdString() << " " << months);
+        const Frequency& frequency = *FindFrequency(code);
+        if (overflows) {
+            EXPECT_THROW(PeriodsOfTerm(frequency, months), OverflowFailure);
+        } else {
+            EXPECT_EQ(PeriodsOfTerm(frequency, months) < 0.0, months < 0);
+        }
+    }
+}
+
+TEST(Frequency, IsShownAndReadBackInTheLanguageInUse) {
+    QStringList expected;
+    for (const FrequencyCase& row : Cases()) {
+        const QString text = GetResourceText(row.textNumber);
+        ASSERT_FALSE(text.isEmpty()) << row.textNumber;
+        EXPECT_EQ(FrequencyCodeToText(row.code), text);
+        EXPECT_EQ(FrequencyTextToCode(text), row.code);
+        EXPECT_EQ(FrequencyTextToCode(text + u' '), QString());
+        EXPECT_EQ(FrequencyTextToCode(text.toUpper()), QString());
+        expected.append(text);
+    }
+    EXPECT_EQ(FrequencyTexts(), expected);
+    EXPECT_EQ(FrequencyTextToCode(QString()), QString());
+    EXPECT_EQ(FrequencyTextToCode(QStringLiteral("M")), QString());
+}
+
+} // namespace

@@ -1,0 +1,65 @@
+#include "Payment.h"
+
+#include "Failure.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <optional>
+#include <vector>
+
+namespace {
+
+struct PaymentCase {
+    double principal;
+    double rate;
+    int term;
+    QString code;
+    std::optional<std::int64_t> cents; ///< none: OverflowFailure
+};
+
+TEST(Payment, RepaysALoanWithinItsTerm) {
+    constexpr int Longest = std::numeric_limits<int>::max();
+    constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
+    // clang-format off
+    const std::vector<PaymentCase> cases{
+        //  principal  rate      term             code            cents
+        {   100'000.0, 0.06,     360,             u"M"_qs,       59'955 },
+        {   100'000.0, 0.06,     360,             u"B"_qs,       29'964 },
+        {   100'000.0, 0.06,     360,             u"W"_qs,       27'658 },
+        {   100'000.0, 0.06,     360,             u"Q"_qs,       55'339 },
+        {     1'000.0, 0.12,     2,               u"M"_qs,       50'751 },
+        {         0.0, 0.06,     360,             u"M"_qs,            0 },
+        {   100'000.0, 0.0,      360,             u"M"_qs,            0 },
+        {   100'000.0, -0.0,     360,             u"M"_qs,            0 },
+        {   100'000.0, 0.06,     0,               u"M"_qs,            0 },
+        {   100'000.0, 0.06,     360,             u""_qs,             0 },
+        {   100'000.0, 0.06,     360,             u"X"_qs,            0 },
+        {   100'000.0, 0.06,     360,             u"m"_qs,            0 },
+        {   100'000.0, NoNumber, 360,             u"X"_qs,            0 },
+        {  -100'000.0, 0.06,     360,             u"M"_qs,      -59'955 },
+        {   100'000.0, 0.06,     Longest,         u"M"_qs,       50'000 }, // interest alone
+        {   100'000.0, 0.06,     Longest / 2,     u"B"_qs,       25'000 },
+        {   100'000.0, 0.06,     Longest / 2 + 1, u"B"_qs, std::nullopt },
+        {         0.0, 0.06,     Longest,         u"B"_qs,            0 }, // a missing input comes first
+        {   100'000.0, 0.06,     Longest,         u"X"_qs,            0 },
+        {   100'000.0, NoNumber, 360,             u"M"_qs, std::nullopt },
+        {   100'000.0, -30.0,    100,             u"W"_qs, std::nullopt }, // a broken power of a negative number
+        {   100'000.0, 1e-17,    360,             u"M"_qs, std::nullopt }, // vanishes beside 1
+        {        9e14, 10.0,     1,               u"M"_qs, std::nullopt },
+    };
+    // clang-format on
+    for (const auto& [principal, rate, term, code, cents] : cases) {
+        SCOPED_TRACE(testing::Message() << principal << " at " << rate << " for " << term << " "
+                                        << code.toStdString());
+        const Money amount = Money::FromDouble(principal);
+        if (cents) {
+            EXPECT_EQ(PrincipalAndInterest(amount, rate, term, code),
+                      Money::FromTenThousandths(*cents * 100));
+        } else {
+            EXPECT_THROW(PrincipalAndInterest(amount, rate, term, code), OverflowFailure);
+        }
+    }
+}
+
+} // namespace

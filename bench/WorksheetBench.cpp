@@ -1,0 +1,57 @@
+// What one edit costs: everything that a full window of sixteen offers shows, computed anew, with
+// its texts; without painting.
+
+#include "Frequency.h"
+#include "Worksheet.h"
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+class NoDisplay : public WorksheetDisplay {
+public:
+    void ShowText(Field, const QString& text) override { benchmark::DoNotOptimize(text.size()); }
+    void ShowTicked(Field, bool) override {}
+    void ShowDate(Field, Date) override {}
+    void ShowMark(Field, Mark) override {}
+    void ShowToolTip(Field, bool) override {}
+    void PaymentRaised() override {}
+    void PaymentRefused() override {}
+};
+
+/// Sixteen offers over thirty years, four of each frequency, and a loan held today.
+void Fill(Worksheet& worksheet) {
+    worksheet.GrowOfferArrays(Row{-1}, Row{15});
+    worksheet.SetLoanAmount(Money::FromDouble(250'000));
+    for (Row row{0}; row <= Row{15}; ++row.value) {
+        const auto frequency = static_cast<std::size_t>(row.value) % Frequencies.size();
+        worksheet.StoreNumber({FieldId::Term, row}, QStringLiteral("30"));
+        worksheet.StoreNumber({FieldId::InterestRate, row},
+                              QString::number(5.5 + 0.125 * row.value));
+        worksheet.StoreChoice({FieldId::Frequency, row},
+                              FrequencyCodeToText(Frequencies.at(frequency).Code()));
+    }
+    worksheet.StoreNumber({FieldId::CurLoanAmount}, QStringLiteral("230000"));
+    worksheet.StoreNumber({FieldId::CurLoanTerm}, QStringLiteral("30"));
+    worksheet.StoreNumber({FieldId::CurInterestRate}, QStringLiteral("7.25"));
+    worksheet.StoreNumber({FieldId::CurrentBalance}, QStringLiteral("198450.75"));
+    worksheet.StoreNumber({FieldId::CurActualPayment}, QStringLiteral("2050"));
+    worksheet.StoreChoice({FieldId::ActPaymentFrequency}, FrequencyCodeToText(QStringLiteral("M")));
+}
+
+/// Changes the annual taxes back and forth: the escrow, every offer and the loan held today follow.
+void EverythingTheWindowShows(benchmark::State& state) {
+    NoDisplay display;
+    const QLocale locale(QLocale::English, QLocale::UnitedStates);
+    Worksheet worksheet(display, FieldTexts(DisplayFormats(locale), false),
+                        [] { return Date::FromCalendar(2026, 11, 21); });
+    Fill(worksheet);
+    bool more = false;
+    for (auto _ : state) {
+        more = !more;
+        worksheet.SetEscrowTaxes(Money::FromDouble(more ? 3'600 : 3'000));
+    }
+}
+BENCHMARK(EverythingTheWindowShows)->Unit(benchmark::kMicrosecond);
+
+} // namespace

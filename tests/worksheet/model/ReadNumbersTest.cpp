@@ -1,0 +1,229 @@
+#include "DisplayFormats.h"
+
+#include "Failure.h"
+#include "Printing.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <vector>
+
+namespace {
+
+DisplayFormats FormatsOf(const QString& locale) { return DisplayFormats(QLocale(locale)); }
+
+constexpr std::int64_t Largest = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t Lowest = std::numeric_limits<std::int64_t>::min();
+
+enum class Outcome { Read, NoNumber, TooLarge };
+
+/// What reading gives, or how it fails.
+template <class Reading>
+Outcome OutcomeOf(Reading reading) {
+    try {
+        reading();
+        return Outcome::Read;
+    } catch (const ConversionFailure&) {
+        return Outcome::NoNumber;
+    } catch (const OverflowFailure&) {
+        return Outcome::TooLarge;
+    }
+}
+
+struct RefusedCase {
+    QString locale;
+    QString text;
+};
+
+/// Of both readings.
+TEST(ReadNumbers, RefusesWhatIsNoNumber) {
+    // clang-format off
+    const std::vector<RefusedCase> cases{
+        {u"en_US"_qs, u""_qs},
+        {u"en_US"_qs, u"-"_qs},
+        {u"en_US"_qs, u"+"_qs},
+        {u"en_US"_qs, u"."_qs},
+        {u"en_US"_qs, u"-."_qs},
+        {u"en_US"_qs, u"1,234"_qs},
+        {u"en_US"_qs, u"1,234.56"_qs},
+        {u"en_US"_qs, u"6,875"_qs},
+        {u"en_US"_qs, u"1.2.3"_qs},
+        {u"en_US"_qs, u"5-"_qs},
+        {u"en_US"_qs, u"--5"_qs},
+        {u"en_US"_qs, u" 5"_qs},
+        {u"en_US"_qs, u"5 "_qs},
+        {u"en_US"_qs, u"1e3"_qs},
+        {u"en_US"_qs, u"nan"_qs},
+        {u"en_US"_qs, u"inf"_qs},
+        {u"en_US"_qs, u"0x1F"_qs},
+        {u"en_US"_qs, u"$5.00"_qs},
+        {u"en_US"_qs, u"6.5%"_qs},
+        {u"en_US"_qs, u"٥"_qs},
+        {u"de_DE"_qs, u"6.5"_qs},
+        {u"de_DE"_qs, u"1.234"_qs},
+        {u"de_DE"_qs, u","_qs},
+        {u"es_ES"_qs, u"1.234,56"_qs},
+        {u"fr_FR"_qs, u"1 234"_qs},
+        {u"ar_EG"_qs, u"6.5"_qs},
+    };
+    // clang-format on
+    for (const auto& [locale, text] : cases) {
+        const DisplayFormats formats = FormatsOf(locale);
+        EXPECT_EQ(OutcomeOf([&, &typed = text] { formats.ReadAmount(typed); }), Outcome::NoNumber)
+            << text.toStdString();
+        EXPECT_EQ(OutcomeOf([&, &typed = text] { formats.ReadReal(typed); }), Outcome::NoNumber)
+            << text.toStdString();
+    }
+}
+
+struct ReadAmountCase {
+    QString locale;
+    QString text;
+    std::optional<std::int64_t> tenThousandths; ///< none where no amount can hold it
+};
+
+void ExpectRead(const std::vector<ReadAmountCase>& cases) {
+    for (const auto& [locale, text, expected] : cases) {
+        std::optional<std::int64_t> read;
+        const Outcome outcome = OutcomeOf([&, &typed = text, &from = locale] {
+            read = FormatsOf(from).ReadAmount(typed).TenThousandths();
+        });
+        EXPECT_EQ(read, expected) << text.toStdString();
+        EXPECT_EQ(outcome, expected ? Outcome::Read : Outcome::TooLarge) << text.toStdString();
+    }
+}
+
+TEST(ReadNumbers, ReadsAmountsExactly) {
+    // clang-format off
+    const std::vector<ReadAmountCase> cases{
+        {u"en_US"_qs, u"0"_qs,                             0},
+        {u"en_US"_qs, u"-0"_qs,                            0},
+        {u"en_US"_qs, u"1234.56"_qs,                       12'345'600},
+        {u"en_US"_qs, u"0001"_qs,                          10'000},
+        {u"en_US"_qs, u"5."_qs,                            50'000},
+        {u"en_US"_qs, u".5"_qs,                            5'000},
+        {u"en_US"_qs, u"+.5"_qs,                           5'000},
+        {u"en_US"_qs, u"-.05"_qs,                          -500},
+        {u"en_US"_qs, u"-1234.56"_qs,                      -12'345'600},
+        {u"en_US"_qs, u"1.2345"_qs,                        12'345},
+        {u"en_US"_qs, u"0.00005"_qs,                       0}, // more than four decimals: halves to even
+        {u"en_US"_qs, u"0.000251"_qs,                      3},
+        {u"en_US"_qs, u"9007199254740.9931"_qs,            90'071'992'547'409'931}, // no double holds it
+        {u"en_US"_qs, u"12345678901234567"_qs,             std::nullopt},
+        {u"en_US"_qs, u"922337203685477.5807"_qs,          Largest},
+        {u"en_US"_qs, u"922337203685477.5808"_qs,          std::nullopt},
+        {u"en_US"_qs, u"-922337203685477.5808"_qs,         Lowest},
+        {u"en_US"_qs, u"-922337203685477.5809"_qs,         std::nullopt},
+        {u"en_US"_qs, u"922337203685478"_qs,               std::nullopt},
+        {u"en_US"_qs, u"9"_qs.repeated(400),               std::nullopt},
+        {u"en_US"_qs, u"1"_qs.repeated(30) + u".00000"_qs, std::nullopt},
+        {u"en_US"_qs, u"0"_qs.repeated(400),               0},
+        {u"de_DE"_qs, u"1234,56"_qs,                       12'345'600},
+        {u"es_ES"_qs, u"-,5"_qs,                           -5'000},
+        {u"C"_qs,     u"1234.56"_qs,                       12'345'600},
+        {u"ar_EG"_qs, u"6\u066b5"_qs,                      65'000},
+    };
+    // clang-format on
+    ExpectRead(cases);
+}
+
+/// Decimals that a double cannot count are still those that were typed.
+TEST(ReadNumbers, RoundsMoreThanFourDecimalsAsTyped) {
+    // clang-format off
+    const std::vector<ReadAmountCase> cases{
+        // locale     text                         ten-thousandths
+        {u"en_US"_qs, u"0.00005"_qs,               0},
+        {u"en_US"_qs, u"0.00015"_qs,               2},
+        {u"en_US"_qs, u"0.00025"_qs,               2},
+        {u"en_US"_qs, u"-0.00015"_qs,              -2},
+        {u"en_US"_qs, u"900719925474099.30000"_qs, 9'007'199'254'740'993'000},
+        {u"en_US"_qs, u"922337203685477.58070"_qs, Largest},
+        {u"en_US"_qs, u"922337203685477.58075"_qs, std::nullopt},
+    };
+    // clang-format on
+    ExpectRead(cases);
+}
+
+struct ReadRealCase {
+    QString locale;
+    QString text;
+    std::optional<double> value; ///< none where it is out of range
+};
+
+TEST(ReadNumbers, ReadsRealNumbersToTheLastDigit) {
+    // clang-format off
+    const std::vector<ReadRealCase> cases{
+        {u"en_US"_qs, u"0"_qs,                         0.0},
+        {u"en_US"_qs, u"6.5"_qs,                       6.5},
+        {u"en_US"_qs, u"-6.5"_qs,                      -6.5},
+        {u"en_US"_qs, u"+6.5"_qs,                      6.5},
+        {u"en_US"_qs, u".125"_qs,                      0.125},
+        {u"en_US"_qs, u"5."_qs,                        5.0},
+        {u"en_US"_qs, u"0.10000000000000001"_qs,       0.10000000000000001}, // seventeen digits
+        {u"en_US"_qs, u"0.30000000000000004"_qs,       0.30000000000000004},
+        {u"en_US"_qs, u"1.7976931348623157"_qs,        1.7976931348623157},
+        {u"en_US"_qs, u"12345678901234567"_qs,         12345678901234567.0},
+        {u"en_US"_qs, u"9"_qs.repeated(308),           1e308},
+        {u"en_US"_qs, u"9"_qs.repeated(400),           std::nullopt},
+        {u"en_US"_qs, u"-"_qs + u"9"_qs.repeated(400), std::nullopt},
+        {u"de_DE"_qs, u"6,5"_qs,                       6.5},
+        {u"es_ES"_qs, u",5"_qs,                        0.5},
+        {u"ar_EG"_qs, u"6\u066b5"_qs,                  6.5},
+    };
+    // clang-format on
+    for (const auto& [locale, text, expected] : cases) {
+        std::optional<double> read;
+        const Outcome outcome = OutcomeOf(
+            [&, &typed = text, &from = locale] { read = FormatsOf(from).ReadReal(typed); });
+        EXPECT_EQ(read, expected) << text.toStdString();
+        EXPECT_EQ(outcome, expected ? Outcome::Read : Outcome::TooLarge) << text.toStdString();
+    }
+}
+
+/// Makes a locale of the C library that writes 6.5 as 6,5; false where none can be made.
+bool MakeCommaLocale(const QTemporaryDir& folder) {
+    QFile source(folder.filePath(u"source"_qs));
+    if (!source.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    source.write(
+        "LC_NUMERIC\ndecimal_point \",\"\nthousands_sep \"\"\ngrouping -1\nEND LC_NUMERIC\n");
+    source.close();
+    QProcess localedef;
+    localedef.start(u"localedef"_qs, {u"-c"_qs, u"-i"_qs, source.fileName(), u"-f"_qs, u"UTF-8"_qs,
+                                      folder.filePath(u"comma.UTF-8"_qs)});
+    return localedef.waitForFinished();
+}
+
+/// The toolkit gives the C library the user's locale, in which a point may end a number.
+TEST(ReadNumbers, ReadsRealNumbersWhateverTheCLibraryReads) {
+    const QTemporaryDir folder;
+    if (!MakeCommaLocale(folder)) {
+        GTEST_SKIP() << "no localedef";
+    }
+    const DisplayFormats formats = FormatsOf(u"en_US"_qs);
+    qputenv("LOCPATH", folder.path().toUtf8());
+    const bool comma = std::setlocale(LC_NUMERIC, "comma.UTF-8") != nullptr;
+    const double read = formats.ReadReal(u"6.5"_qs);
+    const QString shown = formats.GeneralNumber(6.5) + formats.ThreeDecimals(6.5);
+    EXPECT_NE(std::setlocale(LC_NUMERIC, "C"), nullptr);
+    qunsetenv("LOCPATH");
+    if (!comma) {
+        GTEST_SKIP() << "localedef made no locale";
+    }
+    EXPECT_EQ(read, 6.5);
+    EXPECT_EQ(shown, u"6.56.500"_qs);
+}
+
+TEST(ReadNumbers, ReadsAnyNumberOfZerosAsZero) {
+    EXPECT_EQ(FormatsOf(u"en_US"_qs).ReadReal(u"0"_qs.repeated(400)), 0.0);
+}
+
+} // namespace

@@ -1,0 +1,220 @@
+#include "WorksheetTest.h"
+
+#include "Failure.h"
+
+namespace {
+
+constexpr Row Row1{1};
+const std::vector<QString> NoTexts(4);
+
+/// Three offers and a loan held today, all computed, before something goes wrong.
+class WorksheetFailureTest : public WorksheetTest {
+protected:
+    WorksheetFailureTest() {
+        EnterOffers(3);
+        EnterCurrentLoan();
+        StartCounting();
+    }
+
+    void ExpectCurrentSchedule(bool shown) const {
+        for (const FieldId id :
+             {FieldId::CurPayoffDate, FieldId::CurAmountLeft, FieldId::CurInterestLeft}) {
+            EXPECT_EQ(TextOf({id}).isEmpty(), !shown) << RuleOf(id).control.latin1();
+        }
+        EXPECT_EQ(m_worksheet.CurrentPayoffDate().IsNone(), !shown);
+        EXPECT_EQ(m_worksheet.CurrentAmountLeft().IsZero(), !shown);
+        EXPECT_EQ(m_worksheet.CurrentInterestLeft().IsZero(), !shown);
+    }
+};
+
+struct UnreadableCase {
+    Field field;
+    QString text;
+    bool tooLarge; ///< else it is no number
+};
+
+TEST_F(WorksheetFailureTest, WhatCannotBeReadChangesNothing) {
+    // clang-format off
+    const std::vector<UnreadableCase> cases{
+        {{FieldId::LoanAmount},          u"-"_qs,                  false},
+        {{FieldId::LoanAmount},          u"922337203685477.59"_qs, true},
+        {{FieldId::LoanTerm},            u"2147483648"_qs,         true},
+        {{FieldId::AnnualTaxes},         u"."_qs,                  false},
+        {{FieldId::CurLoanTerm},         u"2147483648"_qs,         true},
+        {{FieldId::CurInterestRate},     u"6%"_qs,                 false},
+        {{FieldId::Points, Row1},        u"9"_qs.repeated(400),    true},
+        {{FieldId::InterestRate, Row1},  u"+"_qs,                  false},
+        {{FieldId::Term, Row1},          u"2147483648"_qs,         true},
+        {{FieldId::ActualPayment, Row1}, u"1,000"_qs,              false},
+    };
+    // clang-format on
+    for (const auto& [field, text, tooLarge] : cases) {
+        const QString before = m_worksheet.EntryText(field);
+        if (tooLarge) {
+            EXPECT_THROW(Store(field, text), OverflowFailure) << text.toStdString();
+        } else {
+            EXPECT_THROW(Store(field, text), ConversionFailure) << text.toStdString();
+        }
+        EXPECT_EQ(m_worksheet.EntryText(field), before);
+    }
+    EXPECT_FALSE(m_worksheet.Dirty());
+    EXPECT_TRUE(m_display.TextsInOrder().empty());
+}
+
+TEST_F(WorksheetFailureTest, AnEscrowTooLargeCountsAsNone) {
+    m_worksheet.SetEscrowInsurance(Units(2700));
+    m_worksheet.SetCurrentBalance(Units(9'000));
+    EXPECT_EQ(TextOf({FieldId::Payment, Row1}), u"$824.55"_qs);
+    StartCounting();
+    EXPECT_THROW(m_worksheet.SetEscrowTaxes(LargestAmount()), OverflowFailure);
+    EXPECT_EQ(m_worksheet.EscrowTaxes(), LargestAmount());
+    EXPECT_EQ(m_worksheet.EscrowInsurance(), Units(2700));
+    EXPECT_TRUE(m_worksheet.Dirty());
+    EXPECT_EQ(m_worksheet.EscrowMonthly(), Money());
+    EXPECT_EQ(TextOf({FieldId::MonthlyEscrow}), QString());
+    EXPECT_EQ(m_display.Of({FieldId::MonthlyEscrow}).texts, 1);
+    for (Row row{0}; row.value < 3; ++row.value) {
+        EXPECT_EQ(TextOf({FieldId::Payment, row}), u"$599.55"_qs);
+    }
+    EXPECT_EQ(TextOf({FieldId::CurPayment}), u"$758.48"_qs);
+    ExpectCurrentSchedule(true);
+
+    m_worksheet.SetEscrowTaxes(Money()); // and all is well again
+    EXPECT_EQ(TextOf({FieldId::MonthlyEscrow}), u"$225.00"_qs);
+    EXPECT_EQ(TextOf({FieldId::Payment, Row1}), u"$824.55"_qs);
+}
+
+TEST_F(WorksheetFailureTest, OneOfferThatFailsLeavesTheOthersShown) {
+    m_worksheet.StoreFinancePoints(Row1, true);
+    Store({FieldId::Points, Row1}, u"5000"_qs); // fifty times the loan, on top of it
+    ASSERT_FALSE(TextOf({FieldId::Interest, Row1}).isEmpty());
+    StartCounting();
+    EXPECT_THROW(m_worksheet.SetLoanAmount(Units(20e12)), OverflowFailure);
+    EXPECT_EQ(m_worksheet.LoanAmount(), Units(20e12));
+    EXPECT_TRUE(m_worksheet.Dirty());
+    EXPECT_EQ(ResultTexts(Row1), NoTexts);
+    EXPECT_EQ(m_worksheet.EntryText({FieldId::Points, Row1}), u"5000"_qs);
+    EXPECT_TRUE(m_worksheet.OfferOfRow(Row1).FinancePoints());
+    for (const Row row : {Row{0}, Row{2}}) {
+        EXPECT_EQ(TextOf({FieldId::PandI, row}), u"$119,910,105,030.55"_qs);
+        EXPECT_EQ(TextOf({FieldId::PayoffDate, row}), u"3/10/2056"_qs);
+    }
+    for (const Field field : OfferResults(Row1)) {
+        EXPECT_EQ(m_display.Of(field).texts, 1) << testing::PrintToString(field);
+    }
+
+    m_worksheet.SetLoanAmount(Units(100'000));
+    EXPECT_NE(ResultTexts(Row1), NoTexts);
+    EXPECT_EQ(TextOf({FieldId::PandI, Row{0}}), u"$599.55"_qs);
+}
+
+TEST_F(WorksheetFailureTest, AnOfferWhosePaymentsAreTooManyKeepsItsFrequency) {
+    EXPECT_NO_THROW(Store({FieldId::Term, Row1}, u"1073741824"_qs));
+    EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_qs),
+                 OverflowFailure);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"B"_qs);
+    EXPECT_EQ(TextOf({FieldId::Frequency, Row1}), u"Twice a month"_qs);
+    EXPECT_EQ(ResultTexts(Row1), NoTexts);
+    EXPECT_TRUE(m_worksheet.Dirty());
+}
+
+/// Without a term there is no payment to compare with, so a figure that never repays is taken.
+TEST_F(WorksheetFailureTest, AnIntendedPaymentThatNeverRepaysIsKept) {
+    const Field intended{FieldId::ActualPayment, Row1};
+    Store({FieldId::Term, Row1}, u""_qs);
+    StartCounting();
+    EXPECT_THROW(Store(intended, u"1"_qs), OverflowFailure);
+    EXPECT_EQ(TextOf(intended), u"$1.00"_qs);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).ActualPayment(), Units(1));
+    EXPECT_TRUE(m_worksheet.Dirty());
+    EXPECT_EQ(ResultTexts(Row1), NoTexts);
+    EXPECT_THROW(m_worksheet.RecalculateOffer(Row1), OverflowFailure);
+    EXPECT_EQ(ResultTexts(Row1), NoTexts);
+    EXPECT_NO_THROW(Store({FieldId::Term, Row1}, u"360"_qs));
+    EXPECT_EQ(TextOf(intended), u"$599.55"_qs);
+
+    EXPECT_THROW(Store(intended, u"-5"_qs), OverflowFailure); // nothing to refuse below zero
+    EXPECT_EQ(TextOf(intended), u"($5.00)"_qs);
+    EXPECT_EQ(TextOf({FieldId::PayoffDate, Row1}), QString());
+    EXPECT_EQ(TextOf({FieldId::Interest, Row1}), QString());
+    EXPECT_EQ(m_display.PaymentsRefused(), 0);
+}
+
+TEST_F(WorksheetFailureTest, AnIntendedPaymentThatCannotBeCheckedStaysAsItWas) {
+    const Field intended{FieldId::ActualPayment, Row1};
+    m_worksheet.StoreFinancePoints(Row1, true);
+    EXPECT_THROW(Store({FieldId::Points, Row1}, u"1000000000000"_qs), OverflowFailure);
+    EXPECT_EQ(m_worksheet.EntryText({FieldId::Points, Row1}), u"1000000000000"_qs);
+    EXPECT_EQ(TextOf({FieldId::Points, Row1}), u"1000000000000.000"_qs);
+    StartCounting();
+    EXPECT_THROW(Store(intended, u"900"_qs), OverflowFailure);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).ActualPayment(), Units(599.55));
+    EXPECT_EQ(TextOf(intended), u"$599.55"_qs);
+    EXPECT_EQ(m_display.Of(intended).texts, 1);
+    EXPECT_FALSE(m_worksheet.Dirty());
+    EXPECT_EQ(ResultTexts(Row1), NoTexts);
+}
+
+/// Nothing stands there that a tooltip could explain.
+TEST_F(WorksheetFailureTest, AnOfferThatFailsHasNoToolTipAtItsPayoffDate) {
+    ASSERT_TRUE(m_display.Of({FieldId::PayoffDate, Row1}).toolTip);
+    Store({FieldId::Term, Row1}, u"1073741824"_qs);
+    EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_qs),
+                 OverflowFailure);
+    EXPECT_FALSE(m_display.Of({FieldId::PayoffDate, Row1}).toolTip);
+
+    const Row last{2};
+    Store({FieldId::Term, last}, u""_qs);
+    ASSERT_TRUE(m_display.Of({FieldId::PayoffDate, last}).toolTip);
+    EXPECT_THROW(Store({FieldId::ActualPayment, last}, u"1"_qs), OverflowFailure);
+    EXPECT_FALSE(m_display.Of({FieldId::PayoffDate, last}).toolTip);
+}
+
+struct EndlessCase {
+    FieldId field;
+    QString typed;
+};
+
+/// The loan held today is not checked against its payment: it may never be repaid.
+TEST_F(WorksheetFailureTest, ACurrentLoanThatIsNeverRepaidShowsNoSchedule) {
+    // clang-format off
+    const std::vector<EndlessCase> cases{
+        {FieldId::CurActualPayment, u"1"_qs},
+        {FieldId::CurActualPayment, u"-1000"_qs},
+        {FieldId::CurrentBalance,   u"900000000000"_qs},
+        {FieldId::CurInterestRate,  u"1000"_qs},
+        {FieldId::AnnualTaxes,      u"12000"_qs},
+    };
+    // clang-format on
+    for (const auto& [id, typed] : cases) {
+        SCOPED_TRACE(RuleOf(id).control.latin1());
+        const QString before = m_worksheet.EntryText({id});
+        ExpectCurrentSchedule(true);
+        StartCounting();
+        EXPECT_THROW(Store({id}, typed), OverflowFailure);
+        EXPECT_EQ(m_worksheet.EntryText({id}), typed);
+        EXPECT_TRUE(m_worksheet.Dirty());
+        ExpectCurrentSchedule(false);
+        EXPECT_FALSE(TextOf({FieldId::CurPayment}).isEmpty());
+        EXPECT_NE(ResultTexts(Row{2}), NoTexts);
+        Store({id}, before);
+    }
+}
+
+TEST_F(WorksheetFailureTest, ACurrentPaymentTooLargeLeavesTheScheduleShown) {
+    Store({FieldId::CurLoanTerm}, u"1"_qs);
+    StartCounting();
+    EXPECT_THROW(Store({FieldId::CurLoanAmount}, u"922337203685477"_qs), OverflowFailure);
+    EXPECT_EQ(m_worksheet.EntryText({FieldId::CurLoanAmount}), u"922337203685477"_qs);
+    EXPECT_TRUE(m_worksheet.Dirty());
+    EXPECT_EQ(m_worksheet.CurrentPandI(), Money());
+    EXPECT_EQ(m_worksheet.CurrentPayment(), Money());
+    EXPECT_EQ(TextOf({FieldId::CurPayment}), QString());
+    EXPECT_EQ(m_display.Of({FieldId::CurPayment}).texts, 1);
+    EXPECT_EQ(m_display.Of({FieldId::CurPayoffDate}).texts, 1);
+    ExpectCurrentSchedule(true);
+    Store({FieldId::CurLoanAmount}, u"120000"_qs);
+    EXPECT_EQ(TextOf({FieldId::CurPayment}), u"$120,650.00"_qs);
+}
+
+} // namespace

@@ -1,0 +1,314 @@
+#include "Language.h"
+#include "WorksheetTest.h"
+
+#include "Failure.h"
+
+#include <functional>
+
+namespace {
+
+constexpr Row Row1{1};
+
+/// Two offers and a loan held today with room to change: no intended payment is raised below.
+class WorksheetFieldsTest : public WorksheetTest {
+protected:
+    WorksheetFieldsTest() {
+        EnterOffers(2);
+        for (const Row row : {Row{0}, Row1}) {
+            Store({FieldId::ActualPayment, row}, u"5000"_qs);
+        }
+        EnterCurrentLoan();
+        StartCounting();
+    }
+};
+
+const std::vector<Field> CurrentLoan{{FieldId::CurPayment},
+                                     {FieldId::CurAmountLeft},
+                                     {FieldId::CurInterestLeft},
+                                     {FieldId::CurPayoffDate}};
+const std::vector<Field> BothOffers = Sorted({OfferResults(Row{0}), OfferResults(Row1)});
+const std::vector<Field> Everything = Sorted({{{FieldId::MonthlyEscrow}}, BothOffers, CurrentLoan});
+
+struct NumberCase {
+    Field field;
+    QString typed;
+    QString entry;
+    QString shown;
+    std::vector<Field> others; ///< whose texts are shown as well, each once
+    int schedules;             ///< of offers
+};
+
+const std::vector<NumberCase>& NumberCases() {
+    using enum FieldId;
+    // clang-format off
+    static const std::vector<NumberCase> cases{
+        // field                typed          entry         shown              others                                        schedules
+        {{FieldId::LoanAmount}, u"200000"_qs,  u"200000"_qs, u"$200,000.00"_qs, BothOffers,                                   2},
+        {{FieldId::LoanTerm},   u"+180"_qs,    u"180"_qs,    u"180"_qs,         {},                                           0},
+        {{AnnualTaxes},         u"1800.50"_qs, u"1800.5"_qs, u"$1,800.50"_qs,   Everything,                                   2},
+        {{AnnualInsurance},     u"900"_qs,     u"900"_qs,    u"$900.00"_qs,     Everything,                                   2},
+        {{CurLoanAmount},       u"130000"_qs,  u"130000"_qs, u"$130,000.00"_qs, CurrentLoan,                                  0},
+        {{CurLoanTerm},         u"180"_qs,     u"180"_qs,    u"180"_qs,         CurrentLoan,                                  0},
+        {{CurInterestRate},     u"7.337"_qs,   u"7.337"_qs,  u"7.337%"_qs,      CurrentLoan,                                  0},
+        {{CurrentBalance},      u"9000"_qs,    u"9000"_qs,   u"$9,000.00"_qs,   CurrentLoan,                                  0},
+        {{CurActualPayment},    u"2000"_qs,    u"2000"_qs,   u"$2,000.00"_qs,   CurrentLoan,                                  0},
+        {{Points, Row1},        u".5"_qs,      u"0.5"_qs,    u".500"_qs,        OfferResults(Row1),                           1},
+        {{InterestRate, Row1},  u"7"_qs,       u"7"_qs,      u"7.000%"_qs,      Sorted({{{Term, Row1}}, OfferResults(Row1)}), 1},
+        {{Term, Row1},          u"180"_qs,     u"180"_qs,    u"180"_qs,         OfferResults(Row1),                           1},
+        {{ActualPayment, Row1}, u"6000"_qs,    u"6000"_qs,   u"$6,000.00"_qs,   {{PayoffDate, Row1}, {Interest, Row1}},       1},
+    };
+    // clang-format on
+    return cases;
+}
+
+TEST_F(WorksheetFieldsTest, ANumberIsStoredShownAndComputedOnce) {
+    for (const NumberCase& c : NumberCases()) {
+        SCOPED_TRACE(testing::PrintToString(c.field));
+        const std::vector<Field> shown = Sorted({{c.field}, c.others});
+        StartCounting();
+        Store(c.field, c.typed);
+        EXPECT_TRUE(m_worksheet.Dirty());
+        EXPECT_EQ(m_worksheet.EntryText(c.field), c.entry);
+        EXPECT_EQ(TextOf(c.field), c.shown);
+        EXPECT_EQ(Sorted({m_display.TextsInOrder()}), shown);
+        EXPECT_EQ(m_offerSchedules, c.schedules);
+        EXPECT_EQ(m_display.PaymentsRaised(), 0);
+
+        StartCounting();
+        Store(c.field, c.typed);
+        EXPECT_FALSE(m_worksheet.Dirty()) << "the same number again";
+        EXPECT_EQ(Sorted({m_display.TextsInOrder()}), shown);
+        EXPECT_EQ(m_offerSchedules, c.schedules);
+    }
+    EXPECT_EQ(TextOf({FieldId::Points, Row{0}}), QString()) << "of another row";
+}
+
+TEST_F(WorksheetFieldsTest, AnEmptyTextStoresZero) {
+    for (const NumberCase& c : NumberCases()) {
+        SCOPED_TRACE(testing::PrintToString(c.field));
+        Store(c.field, c.typed);
+        StartCounting();
+        Store(c.field, u""_qs);
+        EXPECT_TRUE(m_worksheet.Dirty());
+        EXPECT_EQ(m_worksheet.EntryText(c.field), QString());
+        EXPECT_EQ(TextOf(c.field), QString());
+    }
+    EXPECT_EQ(m_worksheet.LoanAmount(), Money());
+    EXPECT_EQ(m_worksheet.LoanTerm(), 0);
+    EXPECT_EQ(m_worksheet.CurrentInterestRate(), 0.0);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).InterestRate(), 0.0);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).Term(), 0);
+}
+
+struct AcceptCase {
+    FieldId field;
+    QString text;
+    bool accepted;
+};
+
+TEST_F(WorksheetFieldsTest, AcceptsTheFormOfEachField) {
+    // clang-format off
+    const std::vector<AcceptCase> cases{
+        // field                   text              accepted
+        {FieldId::LoanAmount,      u"1234.56"_qs,    true},
+        {FieldId::LoanAmount,      u"1234.567"_qs,   false},
+        {FieldId::LoanAmount,      u"12345678.9"_qs, true},
+        {FieldId::LoanAmount,      u""_qs,           true},
+        {FieldId::LoanAmount,      u"-5"_qs,         true},
+        {FieldId::LoanAmount,      u"5-"_qs,         false},
+        {FieldId::LoanAmount,      u"5."_qs,         true},
+        {FieldId::LoanAmount,      u"-"_qs,          false}, // of the right form, but no number
+        {FieldId::LoanAmount,      u"."_qs,          false},
+        {FieldId::LoanTerm,        u"30.5"_qs,       false},
+        {FieldId::LoanTerm,        u"-"_qs,          false},
+        {FieldId::CurLoanTerm,     u"30.5"_qs,       false},
+        {FieldId::CurInterestRate, u"6.875"_qs,      true},
+        {FieldId::CurInterestRate, u"6.8755"_qs,     false},
+        {FieldId::Points,          u"-5"_qs,         true},
+        {FieldId::InterestRate,    u"6,5"_qs,        false},
+        {FieldId::Term,            u"30.5"_qs,       true},
+        {FieldId::Term,            u"30.5555"_qs,    false},
+        {FieldId::ActualPayment,   u"599.555"_qs,    false},
+    };
+    // clang-format on
+    for (const auto& [id, text, accepted] : cases) {
+        const Field field{id, id < FieldId::FinancePoints ? Field::NoRow : Row1};
+        EXPECT_EQ(m_worksheet.Accepts(field, text), accepted)
+            << RuleOf(id).control.latin1() << " \"" << text.toStdString() << '"';
+    }
+    EXPECT_THROW(static_cast<void>(m_worksheet.Accepts({FieldId::LoanTerm}, u"2147483648"_qs)),
+                 OverflowFailure);
+    EXPECT_TRUE(m_display.TextsInOrder().empty());
+    EXPECT_FALSE(m_worksheet.Dirty());
+}
+
+TEST_F(WorksheetFieldsTest, TermsAreYearsWhereTheUserWantsYears) {
+    RecordingDisplay display;
+    Worksheet sheet(display, FieldTexts(DisplayFormats(QLocale(u"de_DE"_qs)), false),
+                    [] { return Date(); });
+    sheet.GrowOfferArrays(sheet.HighestOfferRow(), Row{0});
+    const Field offer{FieldId::Term, Row{0}};
+    sheet.StoreNumber({FieldId::LoanTerm}, u"15"_qs);
+    sheet.StoreNumber(offer, u"12,5"_qs);
+    sheet.StoreNumber({FieldId::CurLoanTerm}, u"12,5"_qs);
+    EXPECT_EQ(sheet.LoanTerm(), 180);
+    EXPECT_EQ(sheet.OfferOfRow(Row{0}).Term(), 144);
+    EXPECT_EQ(sheet.CurrentTerm(), 150);
+    EXPECT_EQ(display.TextOf({FieldId::LoanTerm}), u"15"_qs);
+    EXPECT_EQ(display.TextOf(offer), u"12"_qs);
+    EXPECT_EQ(display.TextOf({FieldId::CurLoanTerm}), u"12,5"_qs);
+    EXPECT_EQ(sheet.EntryText({FieldId::CurLoanTerm}), u"12,5"_qs);
+}
+
+struct ChoiceCase {
+    Field field;
+    QString picked;
+    std::function<QString(const Worksheet&)> stored;
+    QString code;
+    std::vector<Field> others;
+};
+
+const std::vector<ChoiceCase>& ChoiceCases() {
+    using W = Worksheet;
+    constexpr auto OfferCode = [](const W& sheet) {
+        return sheet.OfferOfRow(Row1).FrequencyCode();
+    };
+    // clang-format off
+    static const std::vector<ChoiceCase> cases{
+        // field                         picked                  stored as                   is                     others
+        {{FieldId::LoanType},            u"Home equity"_qs,      &W::LoanType,               u"H"_qs,               {}},
+        {{FieldId::CurPaymentFrequency}, u"Twice a month"_qs,    &W::CurrentFrequency,       u"Twice a month"_qs,   CurrentLoan},
+        {{FieldId::ActPaymentFrequency}, u"Every two weeks"_qs,  &W::CurrentActualFrequency, u"Every two weeks"_qs, CurrentLoan},
+        {{FieldId::Frequency, Row1},     u"Every four weeks"_qs, OfferCode,                  u"Q"_qs,               OfferResults(Row1)},
+    };
+    // clang-format on
+    return cases;
+}
+
+TEST_F(WorksheetFieldsTest, AChoiceIsStoredShownAndComputedOnce) {
+    for (const ChoiceCase& c : ChoiceCases()) {
+        SCOPED_TRACE(testing::PrintToString(c.field));
+        StartCounting();
+        m_worksheet.StoreChoice(c.field, c.picked);
+        EXPECT_TRUE(m_worksheet.Dirty());
+        EXPECT_EQ(c.stored(m_worksheet), c.code);
+        EXPECT_EQ(TextOf(c.field), c.picked);
+        EXPECT_EQ(Sorted({m_display.TextsInOrder()}), Sorted({{c.field}, c.others}));
+        m_worksheet.ClearDirty();
+        m_worksheet.StoreChoice(c.field, c.picked);
+        EXPECT_FALSE(m_worksheet.Dirty()) << "the same choice again";
+    }
+}
+
+TEST_F(WorksheetFieldsTest, AChoiceThatIsNoneIsEmpty) {
+    for (const ChoiceCase& c : ChoiceCases()) {
+        SCOPED_TRACE(testing::PrintToString(c.field));
+        m_worksheet.StoreChoice(c.field, c.picked);
+        m_worksheet.StoreChoice(c.field, u"Nothing of the kind"_qs);
+        // A loan held today is monthly until told otherwise.
+        const bool monthly = c.field.id == FieldId::CurPaymentFrequency;
+        EXPECT_EQ(c.stored(m_worksheet), monthly ? u"Monthly"_qs : QString());
+        EXPECT_EQ(TextOf(c.field), monthly ? u"Monthly"_qs : QString());
+    }
+}
+
+TEST_F(WorksheetFieldsTest, ATickIsStoredShownAndComputedOnce) {
+    const Field box{FieldId::FinancePoints, Row1};
+    for (const bool ticked : {true, false}) {
+        for (const bool changed : {true, false}) {
+            StartCounting();
+            m_worksheet.StoreFinancePoints(Row1, ticked);
+            EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FinancePoints(), ticked);
+            EXPECT_EQ(m_display.Of(box).ticked, ticked);
+            EXPECT_EQ(m_display.Of(box).ticks, 1);
+            EXPECT_EQ(m_worksheet.Dirty(), changed);
+            EXPECT_EQ(m_display.TextsInOrder(), OfferResults(Row1));
+        }
+    }
+}
+
+TEST_F(WorksheetFieldsTest, ALenderIsKeptAsTyped) {
+    const Field who{FieldId::Who, Row1};
+    for (const QString& name : {u"  Peña & Söhne "_qs, u"0"_qs, u""_qs}) {
+        StartCounting();
+        m_worksheet.StoreWho(Row1, name);
+        EXPECT_EQ(m_worksheet.OfferOfRow(Row1).Who(), name);
+        EXPECT_EQ(TextOf(who), name);
+        EXPECT_EQ(m_display.TextsInOrder(), std::vector{who});
+        EXPECT_TRUE(m_worksheet.Dirty());
+        m_worksheet.ClearDirty();
+        m_worksheet.StoreWho(Row1, name);
+        EXPECT_FALSE(m_worksheet.Dirty());
+    }
+}
+
+/// What stands in the fields is what Show puts there.
+class WorksheetShowTest : public WorksheetFieldsTest {
+protected:
+    WorksheetShowTest() {
+        m_worksheet.SetLoanName(u"Home"_qs);
+        for (const NumberCase& c : NumberCases()) {
+            Store(c.field, c.typed);
+        }
+        for (const ChoiceCase& c : ChoiceCases()) {
+            m_worksheet.StoreChoice(c.field, c.picked);
+        }
+        m_worksheet.StoreFinancePoints(Row1, true);
+        m_worksheet.StoreWho(Row1, u"First Bank"_qs);
+    }
+
+    void ExpectShown(Field field) {
+        SCOPED_TRACE(testing::PrintToString(field));
+        const RecordingDisplay::Record before = m_display.Of(field);
+        m_display.ForgetCalls();
+        m_worksheet.Show(field);
+        const RecordingDisplay::Record after = m_display.Of(field);
+        EXPECT_EQ(after.text, before.text);
+        EXPECT_EQ(after.ticked, before.ticked);
+        EXPECT_EQ(after.date, before.date);
+        EXPECT_EQ(after.texts + after.ticks + after.dates, 1);
+    }
+};
+
+TEST_F(WorksheetShowTest, ShowsEveryFieldAsItStood) {
+    for (const FieldRule& rule : LoanFields()) {
+        ExpectShown({rule.id});
+    }
+    for (const FieldRule& rule : OfferFields()) {
+        if (rule.access == Access::Input) { // the results of an offer are not kept
+            ExpectShown({rule.id, Row1});
+        }
+    }
+}
+
+TEST_F(WorksheetFieldsTest, ChoicesStayTheSameInAnotherLanguage) {
+    for (const ChoiceCase& c : ChoiceCases()) {
+        m_worksheet.StoreChoice(c.field, c.picked);
+    }
+    const std::vector<Field> choices = Sorted({{{FieldId::LoanType},
+                                                {FieldId::CurPaymentFrequency},
+                                                {FieldId::ActPaymentFrequency},
+                                                {FieldId::Frequency, Row{0}},
+                                                {FieldId::Frequency, Row1}}});
+    const std::vector<std::vector<QString>> expected{
+        {u"Home equity"_qs, u"Twice a month"_qs, u"Every two weeks"_qs, u"Monthly"_qs,
+         u"Every four weeks"_qs},
+        {u"Valor neto de la vivienda"_qs, u"Dos veces al mes"_qs, u"Cada dos semanas"_qs,
+         u"Mensual"_qs, u"Cada cuatro semanas"_qs},
+    };
+    for (const int language : {2, 1, 2}) {
+        Language::Instance().LoadLanguage(language);
+        StartCounting();
+        m_worksheet.ShowChoices();
+        EXPECT_EQ(Sorted({m_display.TextsInOrder()}), choices);
+        EXPECT_EQ(TextsOf(choices), expected.at(static_cast<std::size_t>(language - 1)));
+        EXPECT_EQ(m_worksheet.LoanType(), u"H"_qs);
+        EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"Q"_qs);
+        EXPECT_FALSE(m_worksheet.Dirty());
+    }
+    // And what is picked now is picked in Spanish.
+    m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Mensual"_qs);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"M"_qs);
+}
+
+} // namespace

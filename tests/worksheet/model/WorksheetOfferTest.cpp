@@ -1,0 +1,289 @@
+#include "WorksheetTest.h"
+
+namespace {
+
+constexpr Row Row0{0};
+constexpr Field Intended{FieldId::ActualPayment, Row0};
+
+class WorksheetOfferTest : public WorksheetTest {
+protected:
+    WorksheetOfferTest() { EnterOffers(1); }
+
+    /// Nothing intended yet, as in a row just typed.
+    void ClearIntended() {
+        Store(Intended, u""_qs);
+        StartCounting();
+    }
+};
+
+struct OfferCase {
+    QString frequency;
+    double taxes;
+    QString pAndI;
+    QString payment;
+    QString payoff;
+    QString interest;
+};
+
+TEST_F(WorksheetOfferTest, ComputesEveryFrequencyWithItsShareOfTheEscrow) {
+    // clang-format off
+    const std::vector<OfferCase> cases{
+        // frequency             taxes  P and I        payment        payoff           interest
+        {u"Monthly"_qs,          0,     u"$599.55"_qs, u"$599.55"_qs, u"3/10/2056"_qs, u"$115,838.53"_qs},
+        {u"Twice a month"_qs,    0,     u"$299.64"_qs, u"$299.64"_qs, u"3/10/2056"_qs, u"$115,744.53"_qs},
+        {u"Every two weeks"_qs,  0,     u"$276.58"_qs, u"$276.58"_qs, u"12/7/2055"_qs, u"$114,681.82"_qs},
+        {u"Every four weeks"_qs, 0,     u"$553.39"_qs, u"$553.39"_qs, u"12/7/2055"_qs, u"$114,769.78"_qs},
+        {u"Monthly"_qs,          3000,  u"$599.55"_qs, u"$849.55"_qs, u"3/10/2056"_qs, u"$115,838.53"_qs},
+        {u"Twice a month"_qs,    3000,  u"$299.64"_qs, u"$424.64"_qs, u"3/10/2056"_qs, u"$115,744.53"_qs},
+        {u"Every two weeks"_qs,  3000,  u"$276.58"_qs, u"$401.58"_qs, u"12/7/2055"_qs, u"$114,681.82"_qs},
+        {u"Every four weeks"_qs, 3000,  u"$553.39"_qs, u"$803.39"_qs, u"12/7/2055"_qs, u"$114,769.78"_qs},
+        {u""_qs,                 3000,  u""_qs,        u""_qs,        u""_qs,          u""_qs},
+        {u"Yearly"_qs,           3000,  u""_qs,        u""_qs,        u""_qs,          u""_qs},
+    };
+    // clang-format on
+    for (const auto& [frequency, taxes, pAndI, payment, payoff, interest] : cases) {
+        SCOPED_TRACE(frequency.toStdString());
+        m_worksheet.SetEscrowTaxes(Units(taxes));
+        m_worksheet.StoreChoice({FieldId::Frequency, Row0}, frequency);
+        ClearIntended();
+        m_worksheet.RecalculateOffer(Row0);
+        EXPECT_EQ(ResultTexts(Row0), (std::vector{pAndI, payment, payoff, interest}));
+        EXPECT_EQ(TextOf(Intended), payment) << "raised to the payment";
+    }
+}
+
+TEST_F(WorksheetOfferTest, ShowsEachResultOnceAndInOrder) {
+    ClearIntended();
+    m_worksheet.RecalculateOffer(Row0);
+    EXPECT_EQ(m_display.TextsInOrder(), (std::vector<Field>{{FieldId::PandI, Row0},
+                                                            {FieldId::Payment, Row0},
+                                                            Intended,
+                                                            {FieldId::PayoffDate, Row0},
+                                                            {FieldId::Interest, Row0}}));
+    EXPECT_EQ(m_offerSchedules, 1);
+    StartCounting();
+    m_worksheet.RecalculateOffer(Row0);
+    EXPECT_EQ(m_display.TextsInOrder(), OfferResults(Row0));
+    EXPECT_EQ(m_offerSchedules, 1);
+}
+
+struct MissingCase {
+    FieldId missing;
+    bool paysOff; ///< what is intended still repays the loan
+};
+
+TEST_F(WorksheetOfferTest, ShowsNothingWhereAnInputIsMissing) {
+    // clang-format off
+    const std::vector<MissingCase> cases{
+        {FieldId::LoanAmount,   false},
+        {FieldId::InterestRate, false},
+        {FieldId::Frequency,    false},
+        {FieldId::Term,         true},
+    };
+    // clang-format on
+    for (const auto& [missing, paysOff] : cases) {
+        EnterOffers(1);
+        const Field field{missing, missing == FieldId::LoanAmount ? Field::NoRow : Row0};
+        SCOPED_TRACE(testing::PrintToString(field));
+        StartCounting();
+        if (missing == FieldId::Frequency) {
+            m_worksheet.StoreChoice(field, u""_qs);
+        } else {
+            Store(field, u""_qs);
+        }
+        EXPECT_EQ(TextOf({FieldId::PandI, Row0}), QString());
+        EXPECT_EQ(TextOf({FieldId::Payment, Row0}), QString());
+        EXPECT_EQ(TextOf({FieldId::PayoffDate, Row0}).isEmpty(), !paysOff);
+        EXPECT_EQ(m_display.Of({FieldId::PayoffDate, Row0}).toolTip, paysOff);
+        EXPECT_EQ(TextOf({FieldId::Interest, Row0}).isEmpty(), !paysOff);
+        EXPECT_FALSE(m_display.Of({FieldId::Interest, Row0}).toolTip);
+        EXPECT_EQ(TextOf(Intended), u"$599.55"_qs);
+        EXPECT_EQ(m_display.PaymentsRaised(), 0);
+    }
+}
+
+TEST_F(WorksheetOfferTest, RaisesAnIntendedPaymentThatIsMissing) {
+    ClearIntended();
+    m_worksheet.RecalculateOffer(Row0);
+    EXPECT_EQ(TextOf(Intended), u"$599.55"_qs);
+    EXPECT_EQ(m_display.Of(Intended).mark, Mark::Raised);
+    EXPECT_EQ(m_display.PaymentsRaised(), 1);
+    EXPECT_EQ(m_display.PaymentsRefused(), 0);
+    EXPECT_TRUE(m_worksheet.Dirty());
+    EXPECT_FALSE(m_worksheet.PaymentNoticeShown()) << "the window's business";
+    EXPECT_TRUE(m_display.Of({FieldId::PayoffDate, Row0}).toolTip);
+
+    StartCounting();
+    m_worksheet.RecalculateOffer(Row0);
+    EXPECT_EQ(m_display.Of(Intended).marks, 0) << "raised once";
+    EXPECT_EQ(m_display.PaymentsRaised(), 0);
+    EXPECT_FALSE(m_worksheet.Dirty());
+}
+
+TEST_F(WorksheetOfferTest, RaisesAnIntendedPaymentThatHasBecomeTooLow) {
+    StartCounting();
+    Store({FieldId::Term, Row0}, u"180"_qs);
+    EXPECT_EQ(TextOf(Intended), u"$843.86"_qs);
+    EXPECT_EQ(m_display.Of(Intended).mark, Mark::Raised);
+    EXPECT_EQ(m_display.PaymentsRaised(), 1);
+
+    StartCounting();
+    Store({FieldId::Term, Row0}, u"360"_qs); // a lower payment lowers nothing
+    EXPECT_EQ(TextOf(Intended), u"$843.86"_qs);
+    EXPECT_EQ(m_display.Of(Intended).marks, 0);
+    EXPECT_EQ(m_display.PaymentsRaised(), 0);
+}
+
+struct IntendedCase {
+    QString typed;
+    QString shown;
+    bool refused;
+    QString payoff;
+    QString interest;
+};
+
+TEST_F(WorksheetOfferTest, TakesAnIntendedPaymentFromThePaymentUpwards) {
+    // clang-format off
+    const std::vector<IntendedCase> cases{
+        // typed       shown          refused  payoff           interest
+        {u"900"_qs,    u"$900.00"_qs, false,   u"9/10/2039"_qs, u"$46,332.60"_qs},
+        {u"599.55"_qs, u"$599.55"_qs, false,   u"3/10/2056"_qs, u"$115,838.53"_qs},
+        {u"599.54"_qs, u"$599.55"_qs, true,    u"3/10/2056"_qs, u"$115,838.53"_qs},
+        {u".01"_qs,    u"$599.55"_qs, true,    u"3/10/2056"_qs, u"$115,838.53"_qs},
+        {u""_qs,       u""_qs,        false,   u""_qs,          u""_qs},
+        {u"0"_qs,      u""_qs,        false,   u""_qs,          u""_qs},
+    };
+    // clang-format on
+    for (const auto& [typed, shown, refused, payoff, interest] : cases) {
+        SCOPED_TRACE(typed.toStdString());
+        Store(Intended, u"700"_qs);
+        m_display.ShowMark(Intended, Mark::None);
+        m_worksheet.SetPaymentNoticeShown(false);
+        StartCounting();
+        Store(Intended, typed);
+        EXPECT_EQ(TextOf(Intended), shown);
+        EXPECT_EQ(TextOf({FieldId::PayoffDate, Row0}), payoff);
+        EXPECT_EQ(TextOf({FieldId::Interest, Row0}), interest);
+        EXPECT_EQ(m_display.Of({FieldId::PayoffDate, Row0}).toolTip, !payoff.isEmpty());
+        EXPECT_EQ(
+            m_display.TextsInOrder(),
+            (std::vector<Field>{Intended, {FieldId::PayoffDate, Row0}, {FieldId::Interest, Row0}}));
+        EXPECT_EQ(m_offerSchedules, payoff.isEmpty() ? 0 : 1);
+        EXPECT_EQ(m_display.Of(Intended).mark, refused ? Mark::Raised : Mark::None);
+        EXPECT_EQ(m_display.PaymentsRefused(), refused ? 1 : 0);
+        EXPECT_EQ(m_display.PaymentsRaised(), refused ? 1 : 0);
+        EXPECT_EQ(m_worksheet.PaymentNoticeShown(), refused);
+        EXPECT_TRUE(m_worksheet.Dirty());
+    }
+}
+
+/// Checking a new figure raises the missing old one on the way; nobody is to be told of that.
+TEST_F(WorksheetOfferTest, AFigureTypedIntoAnEmptyFieldIsNotMarked) {
+    ClearIntended();
+    Store(Intended, u"900"_qs);
+    m_worksheet.RecalculateOffer(Row0);
+    EXPECT_EQ(TextOf(Intended), u"$900.00"_qs);
+    EXPECT_EQ(m_display.Of(Intended).marks, 0);
+    EXPECT_EQ(m_display.PaymentsRaised(), 0);
+}
+
+TEST_F(WorksheetOfferTest, AClearedIntendedPaymentIsRaisedByTheNextRecalculation) {
+    Store(Intended, u""_qs);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row0).ActualPayment(), Money());
+    StartCounting();
+    m_worksheet.RecalculateOffer(Row0);
+    EXPECT_EQ(TextOf(Intended), u"$599.55"_qs);
+    EXPECT_EQ(m_display.PaymentsRaised(), 1);
+}
+
+TEST_F(WorksheetOfferTest, FinancedPointsAreBorrowed) {
+    Store({FieldId::Points, Row0}, u"1.25"_qs);
+    EXPECT_EQ(TextOf({FieldId::PandI, Row0}), u"$599.55"_qs) << "paid up front";
+    m_worksheet.StoreFinancePoints(Row0, true);
+    EXPECT_EQ(ResultTexts(Row0),
+              (std::vector{u"$607.04"_qs, u"$607.04"_qs, u"3/10/2056"_qs, u"$117,289.36"_qs}));
+    EXPECT_EQ(TextOf(Intended), u"$607.04"_qs);
+    m_worksheet.StoreFinancePoints(Row0, false);
+    EXPECT_EQ(TextOf({FieldId::PandI, Row0}), u"$599.55"_qs);
+}
+
+struct DefaultTermCase {
+    int defaultTerm;
+    QString term;
+    QString rate;
+    QString shown;
+};
+
+TEST_F(WorksheetOfferTest, ARateFillsAMissingTermWithTheDefault) {
+    // clang-format off
+    const std::vector<DefaultTermCase> cases{
+        // default  term       rate     shown
+        {180,       u""_qs,    u"6"_qs, u"180"_qs},
+        {180,       u""_qs,    u"0"_qs, u""_qs},
+        {180,       u"360"_qs, u"6"_qs, u"360"_qs},
+        {0,         u""_qs,    u"6"_qs, u""_qs},
+    };
+    // clang-format on
+    const Field term{FieldId::Term, Row0};
+    for (const DefaultTermCase& c : cases) {
+        m_worksheet.SetLoanTerm(c.defaultTerm);
+        Store({FieldId::InterestRate, Row0}, u""_qs);
+        Store(term, c.term);
+        StartCounting();
+        Store({FieldId::InterestRate, Row0}, c.rate);
+        EXPECT_EQ(TextOf(term), c.shown) << c.defaultTerm << ", " << c.rate.toStdString();
+        EXPECT_EQ(m_worksheet.EntryText(term), c.shown);
+        EXPECT_LE(m_display.Of(term).texts, 1);
+        EXPECT_EQ(m_worksheet.Dirty(), c.rate != u"0"_qs);
+    }
+}
+
+TEST_F(WorksheetOfferTest, EveryRowFollowsTheLoanAmountAndTheEscrow) {
+    EnterOffers(3);
+    StartCounting();
+    m_worksheet.SetEscrowTaxes(Units(1800));
+    m_worksheet.SetEscrowInsurance(Units(900));
+    for (Row row{0}; row.value < 3; ++row.value) {
+        EXPECT_EQ(TextOf({FieldId::PandI, row}), u"$599.55"_qs);
+        EXPECT_EQ(TextOf({FieldId::Payment, row}), u"$824.55"_qs);
+        EXPECT_EQ(TextOf({FieldId::ActualPayment, row}), u"$824.55"_qs);
+        EXPECT_EQ(m_display.Of({FieldId::ActualPayment, row}).mark, Mark::Raised);
+    }
+    EXPECT_EQ(m_display.PaymentsRaised(), 6); // taxes, then insurance
+    EXPECT_EQ(m_offerSchedules, 6);
+
+    m_worksheet.SetLoanAmount(Units(200'000));
+    for (Row row{0}; row.value < 3; ++row.value) {
+        EXPECT_EQ(TextOf({FieldId::PandI, row}), u"$1,199.10"_qs);
+    }
+}
+
+TEST_F(WorksheetOfferTest, GrowingKeepsWhatIsThere) {
+    Store(Intended, u"900"_qs);
+    m_worksheet.StoreWho(Row0, u"First Bank"_qs);
+    StartCounting();
+    m_worksheet.GrowOfferArrays(Row0, Row{15});
+    EXPECT_EQ(m_worksheet.HighestOfferRow(), Row{15});
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row0).Who(), u"First Bank"_qs);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row0).ActualPayment(), Units(900));
+    EXPECT_FALSE(m_worksheet.Dirty());
+    EXPECT_TRUE(m_display.TextsInOrder().empty());
+
+    m_worksheet.GrowOfferArrays(Row{15}, Row{15}); // nothing to add
+    EXPECT_EQ(m_worksheet.HighestOfferRow(), Row{15});
+    for (Row row{0}; row <= m_worksheet.HighestOfferRow(); ++row.value) {
+        EXPECT_EQ(m_worksheet.OfferIndexOfRow(row).value, static_cast<std::size_t>(row.value));
+    }
+
+    // A new row lends the same amount, and an old one still knows its worksheet.
+    const Row last{15};
+    m_worksheet.SetLoanTerm(360);
+    m_worksheet.StoreChoice({FieldId::Frequency, last}, u"Monthly"_qs);
+    Store({FieldId::InterestRate, last}, u"6"_qs);
+    EXPECT_EQ(TextOf({FieldId::PandI, last}), u"$599.55"_qs);
+    StartCounting();
+    m_worksheet.StoreWho(Row0, u"Second Bank"_qs);
+    EXPECT_TRUE(m_worksheet.Dirty());
+}
+
+} // namespace

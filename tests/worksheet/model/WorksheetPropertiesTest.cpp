@@ -1,0 +1,194 @@
+#include "WorksheetTest.h"
+
+#include <functional>
+#include <type_traits>
+
+namespace {
+
+/// A property of the worksheet with a value to write.
+struct Access {
+    std::function<void(Worksheet&)> write;
+    std::function<void(Worksheet&)> clear; ///< writes the empty value
+    std::function<bool(const Worksheet&)> holds;
+    std::function<bool(const Worksheet&)> isEmpty;
+};
+
+template <class Written, class Value>
+Access Property(void (Worksheet::*set)(Written), Value (Worksheet::*get)() const,
+                const std::type_identity_t<Value>& value) {
+    return {[=](Worksheet& sheet) { (sheet.*set)(value); },
+            [=](Worksheet& sheet) { (sheet.*set)(Value()); },
+            [=](const Worksheet& sheet) { return (sheet.*get)() == value; },
+            [=](const Worksheet& sheet) { return (sheet.*get)() == Value(); }};
+}
+
+struct Case {
+    Access property;
+    bool dirties;
+    FieldId field;
+    QString text;
+    std::vector<Field> results; ///< whose texts are shown too, on an otherwise empty worksheet
+};
+
+const std::vector<Field> Schedule{
+    {FieldId::CurAmountLeft}, {FieldId::CurInterestLeft}, {FieldId::CurPayoffDate}};
+const std::vector<Field> EscrowAndSchedule{{FieldId::MonthlyEscrow},
+                                           {FieldId::CurAmountLeft},
+                                           {FieldId::CurInterestLeft},
+                                           {FieldId::CurPayoffDate}};
+
+const std::vector<Case>& Properties() {
+    using W = Worksheet;
+    using enum FieldId;
+    // clang-format off
+    static const std::vector<Case> cases{
+        // setter and getter, value                                                           dirty  field                text               results
+        {Property(&W::SetLoanName, &W::LoanName, u"Home"_qs),                                 false, FieldId::LoanName,            u"Home"_qs,        {}},
+        {Property(&W::SetLoanType, &W::LoanType, u"M"_qs),                                    true,  FieldId::LoanType,            u"Mortgage"_qs,    {}},
+        {Property(&W::SetLoanType, &W::LoanType, u"Z"_qs),                                    true,  FieldId::LoanType,            u""_qs,            {}},
+        {Property(&W::SetLoanAmount, &W::LoanAmount, Units(1234.5)),                          true,  FieldId::LoanAmount,          u"$1,234.50"_qs,   {}},
+        {Property(&W::SetLoanTerm, &W::LoanTerm, 360),                                        true,  FieldId::LoanTerm,            u"360"_qs,         {}},
+        {Property(&W::SetEscrowTaxes, &W::EscrowTaxes, Units(1800)),                          true,  AnnualTaxes,         u"$1,800.00"_qs,   EscrowAndSchedule},
+        {Property(&W::SetEscrowInsurance, &W::EscrowInsurance, Units(900)),                   true,  AnnualInsurance,     u"$900.00"_qs,     EscrowAndSchedule},
+        {Property(&W::SetCurrentLoanAmount, &W::CurrentLoanAmount, Units(120'000)),           true,  CurLoanAmount,       u"$120,000.00"_qs, Schedule},
+        {Property(&W::SetCurrentTerm, &W::CurrentTerm, 186),                                  true,  CurLoanTerm,         u"186"_qs,         Schedule},
+        {Property(&W::SetCurrentInterestRate, &W::CurrentInterestRate, 0.065),                true,  CurInterestRate,     u"6.500%"_qs,      Schedule},
+        {Property(&W::SetCurrentFrequency, &W::CurrentFrequency, u"Every two weeks"_qs),      true,  CurPaymentFrequency, u"Every two weeks"_qs, {}},
+        {Property(&W::SetCurrentPayment, &W::CurrentPayment, Units(758.48)),                  true,  CurPayment,          u"$758.48"_qs,     Schedule},
+        {Property(&W::SetCurrentBalance, &W::CurrentBalance, Units(-10)),                     true,  CurrentBalance,      u"($10.00)"_qs,    Schedule},
+        {Property(&W::SetCurrentActualPayment, &W::CurrentActualPayment, Units(0.5)),         true,  CurActualPayment,    u"$0.50"_qs,       Schedule},
+        {Property(&W::SetCurrentActualFrequency, &W::CurrentActualFrequency, u"Monthly"_qs),  true,  ActPaymentFrequency, u"Monthly"_qs,     {}},
+    };
+    // clang-format on
+    return cases;
+}
+
+using WorksheetPropertiesTest = WorksheetTest;
+
+TEST_F(WorksheetPropertiesTest, StartEmpty) {
+    for (const Case& c : Properties()) {
+        EXPECT_TRUE(c.property.isEmpty(m_worksheet)) << testing::PrintToString(Field{c.field});
+    }
+    EXPECT_TRUE(m_worksheet.CurrentNextPayment().IsNone());
+    EXPECT_TRUE(m_worksheet.CurrentPayoffDate().IsNone());
+    EXPECT_EQ(m_worksheet.EscrowMonthly(), Money());
+    EXPECT_EQ(m_worksheet.CurrentPandI(), Money());
+    EXPECT_EQ(m_worksheet.CurrentAmountLeft(), Money());
+    EXPECT_EQ(m_worksheet.CurrentInterestLeft(), Money());
+    EXPECT_EQ(m_worksheet.HighestOfferRow(), Row{-1});
+    EXPECT_FALSE(m_worksheet.Dirty());
+    EXPECT_FALSE(m_worksheet.PaymentNoticeShown());
+    EXPECT_TRUE(m_display.TextsInOrder().empty());
+}
+
+/// Each on a worksheet of its own.
+TEST_F(WorksheetPropertiesTest, StoreShowAndDirtyWhenTheyChange) {
+    for (const Case& c : Properties()) {
+        SCOPED_TRACE(testing::PrintToString(Field{c.field}));
+        RecordingDisplay display;
+        Worksheet sheet(display, m_worksheet.Texts(), [] { return Date(); });
+        const std::vector<Field> shown = Sorted({{{c.field}}, c.results});
+
+        c.property.clear(sheet); // what it already is
+        EXPECT_FALSE(sheet.Dirty());
+        EXPECT_EQ(display.TextOf({c.field}), QString());
+
+        display.ForgetCalls();
+        c.property.write(sheet);
+        EXPECT_TRUE(c.property.holds(sheet));
+        EXPECT_EQ(sheet.Dirty(), c.dirties);
+        EXPECT_EQ(display.TextOf({c.field}), c.text);
+        EXPECT_EQ(Sorted({display.TextsInOrder()}), shown);
+
+        sheet.ClearDirty();
+        EXPECT_FALSE(sheet.Dirty());
+        display.ForgetCalls();
+        c.property.write(sheet);
+        EXPECT_FALSE(sheet.Dirty()) << "the same value again";
+        EXPECT_EQ(Sorted({display.TextsInOrder()}), shown);
+
+        c.property.clear(sheet);
+        EXPECT_TRUE(c.property.isEmpty(sheet));
+        EXPECT_EQ(sheet.Dirty(), c.dirties);
+        EXPECT_EQ(display.TextOf({c.field}), QString());
+    }
+}
+
+TEST_F(WorksheetPropertiesTest, TheNextPaymentIsShownAsADate) {
+    const Date first = Date::FromCalendar(2026, 3, 1);
+    for (const Date date : {first, Date()}) {
+        StartCounting();
+        m_worksheet.SetCurrentNextPayment(date);
+        EXPECT_EQ(m_worksheet.CurrentNextPayment(), date);
+        EXPECT_TRUE(m_worksheet.Dirty());
+        EXPECT_EQ(m_display.Of({FieldId::NextPayment}).date, date);
+        EXPECT_EQ(m_display.Of({FieldId::NextPayment}).dates, 1);
+        EXPECT_EQ(Sorted({m_display.TextsInOrder()}), Sorted({Schedule}));
+
+        m_worksheet.ClearDirty();
+        m_worksheet.SetCurrentNextPayment(date);
+        EXPECT_FALSE(m_worksheet.Dirty());
+    }
+}
+
+TEST_F(WorksheetPropertiesTest, FrequenciesOfNoKnownTextAreNone) {
+    for (const QString& text : {u"monthly"_qs, u"M"_qs, u"Yearly"_qs, u""_qs}) {
+        m_worksheet.SetCurrentFrequency(u"Monthly"_qs);
+        m_worksheet.SetCurrentActualFrequency(u"Monthly"_qs);
+        m_worksheet.SetCurrentFrequency(text);
+        m_worksheet.SetCurrentActualFrequency(text);
+        EXPECT_EQ(m_worksheet.CurrentFrequency(), QString());
+        EXPECT_EQ(m_worksheet.CurrentActualFrequency(), QString());
+        EXPECT_EQ(TextOf({FieldId::ActPaymentFrequency}), QString());
+    }
+}
+
+TEST_F(WorksheetPropertiesTest, RecalculatingAloneIsNoChange) {
+    EnterOffers(1);
+    EnterCurrentLoan();
+    StartCounting();
+    m_worksheet.RecalculateEscrow();
+    m_worksheet.RecalculateOffer(Row{0});
+    m_worksheet.RecalculateCurrentPayment();
+    m_worksheet.RecalculateCurrentSchedule();
+    EXPECT_FALSE(m_worksheet.Dirty());
+}
+
+struct EscrowCase {
+    double taxes;
+    double insurance;
+    double monthly;
+    QString text;
+};
+
+TEST_F(WorksheetPropertiesTest, TheMonthlyEscrowIsATwelfthInWholeCents) {
+    // clang-format off
+    const std::vector<EscrowCase> cases{
+        // taxes  insurance  monthly  text
+        {1800,    900,       225.00,  u"$225.00"_qs},
+        {1000,    0,         83.33,   u"$83.33"_qs},
+        {0,       1000,      83.33,   u"$83.33"_qs},
+        {0.18,    0,         0.02,    u"$0.02"_qs}, // one and a half cents: halves to even
+        {0.30,    0,         0.02,    u"$0.02"_qs}, // two and a half
+        {0.06,    0,         0,       u""_qs}, // half a cent
+        {100,     -100,      0,       u""_qs},
+        {-1200,   0,         -100,    u"($100.00)"_qs},
+        {0,       0,         0,       u""_qs},
+    };
+    // clang-format on
+    for (const auto& [taxes, insurance, monthly, text] : cases) {
+        m_worksheet.SetEscrowTaxes(Units(taxes));
+        m_worksheet.SetEscrowInsurance(Units(insurance));
+        EXPECT_EQ(m_worksheet.EscrowMonthly(), Units(monthly)) << taxes << " and " << insurance;
+        EXPECT_EQ(TextOf({FieldId::MonthlyEscrow}), text);
+    }
+}
+
+TEST_F(WorksheetPropertiesTest, TheNoticeIsRememberedAsTold) {
+    m_worksheet.SetPaymentNoticeShown(true);
+    EXPECT_TRUE(m_worksheet.PaymentNoticeShown());
+    m_worksheet.SetPaymentNoticeShown(false);
+    EXPECT_FALSE(m_worksheet.PaymentNoticeShown());
+}
+
+} // namespace

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Date.h"
+#include "DigitGroups.h"
+#include "Money.h"
+
+#include <QLocale>
+#include <QString>
+
+/// How values look to the user, and how typed numbers are read: by the user's locale.
+/// Does not know that zero shows as an empty field; that is the fields' business.
+class DisplayFormats {
+public:
+    explicit DisplayFormats(const QLocale& locale);
+
+    /// The decimal symbol, one character. No grouping is ever read.
+    QChar DecimalSeparator() const { return m_separator; }
+
+    /// "general number": no grouping, no more decimals than the value has.
+    QString GeneralNumber(Money amount) const;
+    /// The same for a real number, to fifteen digits: 0.07337 × 100 reads 7.337.
+    QString GeneralNumber(double value) const;
+
+    /// "currency": rounded to the cent (halves to even), with symbol and grouping.
+    QString Currency(Money amount) const;
+
+    /// "#.000": three decimals, and no zero in front of the symbol (".500").
+    QString ThreeDecimals(double value) const;
+
+    /// "#.000%": a fraction shown in percent.
+    QString Percent(double fraction) const;
+
+    /// "short date", with four digits for the year in every locale.
+    QString ShortDate(Date date) const;
+    QString ShortDateFormat() const { return m_shortDate; }
+
+    /// A typed amount, exact; more than four decimals are rounded, halves to even.
+    /// ConversionFailure when the text is no number, OverflowFailure when no amount can hold it.
+    Money ReadAmount(const QString& text) const;
+
+    /// A typed real number. ConversionFailure when it is none, OverflowFailure when out of range.
+    double ReadReal(const QString& text) const;
+
+private:
+    QString WithSeparator(QString plainNumber) const;
+    /// With a point for the decimal symbol and without a plus sign. Throws ConversionFailure.
+    QString PlainNumber(const QString& text) const;
+
+    QLocale m_locale;
+    QChar m_separator;
+    QString m_shortDate;
+    DigitGroups m_groups;
+};

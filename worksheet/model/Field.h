@@ -1,0 +1,108 @@
+#pragma once
+
+#include <QLatin1String>
+
+#include <compare>
+#include <cstddef>
+#include <span>
+
+/// A row of the offer area, counted from 0 at the top. Not an offer: after a sort row 0 shows
+/// another offer than offer 0. The two meet in OfferOrder alone.
+struct Row {
+    int value = 0;
+    friend constexpr auto operator<=>(Row, Row) = default;
+};
+
+/// The place of an offer in the worksheet, counted from 0 in the order of entry.
+struct OfferIndex {
+    std::size_t value = 0;
+    friend constexpr auto operator<=>(OfferIndex, OfferIndex) = default;
+};
+
+/// Every control of the worksheet that shows a value, typed or computed.
+enum class FieldId {
+    LoanName,
+    LoanType,
+    LoanAmount,
+    LoanTerm,
+    AnnualTaxes,
+    AnnualInsurance,
+    MonthlyEscrow,
+    CurLoanAmount,
+    CurLoanTerm,
+    CurInterestRate,
+    CurPaymentFrequency,
+    CurPayment,
+    CurrentBalance,
+    CurActualPayment,
+    ActPaymentFrequency,
+    NextPayment,
+    CurAmountLeft,
+    CurInterestLeft,
+    CurPayoffDate,
+    // One of each in every row of offers, in the order of the columns.
+    FinancePoints,
+    Points,
+    InterestRate,
+    Term,
+    Frequency,
+    PandI,
+    Payment,
+    ActualPayment,
+    PayoffDate,
+    Interest,
+    Who,
+};
+
+/// What a field holds, and with it how its text is read and shown.
+enum class ValueKind {
+    Amount,         ///< Money, shown as currency
+    Percent,        ///< a fraction (0.065), typed and shown in percent (6.5)
+    Decimal,        ///< a real number
+    WholeTerm,      ///< whole months; typed in whole months or whole years
+    FractionalTerm, ///< whole months; typed in whole months or in years and parts of years
+    Choice,         ///< a text picked from a list
+    Flag,           ///< ticked or not
+    Date,           ///< a calendar date
+    Text,           ///< free text
+};
+
+enum class Access { Input, Result };
+
+/// A field of the worksheet: a control of the two upper bands (no row) or of one row of offers.
+struct Field {
+    FieldId id = FieldId::LoanName;
+    Row row = NoRow;
+
+    static constexpr Row NoRow{-1};
+    friend constexpr auto operator<=>(const Field&, const Field&) = default;
+};
+
+/// What is known of one field beforehand.
+struct FieldRule {
+    FieldId id = FieldId::LoanName;
+    QLatin1String control; ///< the name of its control; in a row, the name of the control array
+    ValueKind kind = ValueKind::Text;
+    Access access = Access::Input;
+    int decimals = 0;          ///< the most digits after the decimal symbol; 0 forbids the symbol
+    bool separatorKey = false; ///< whether the decimal symbol can be typed
+
+    constexpr bool IsNumber() const {
+        return kind == ValueKind::Amount || kind == ValueKind::Percent ||
+               kind == ValueKind::Decimal || kind == ValueKind::WholeTerm ||
+               kind == ValueKind::FractionalTerm;
+    }
+};
+
+/// The fields of the two upper bands, in the order of the tab key.
+std::span<const FieldRule> LoanFields();
+
+/// The fields of one row of offers, in the order of the columns.
+std::span<const FieldRule> OfferFields();
+
+/// The rule of a field. Every identifier has one.
+const FieldRule& RuleOf(FieldId id);
+
+/// What a number of so many decimals looks like: " nnnn.nn". It begins with a blank and stays the
+/// same in every language and locale.
+QLatin1String NumberPicture(int decimals);

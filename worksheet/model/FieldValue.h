@@ -1,0 +1,44 @@
+#pragma once
+
+#include "DisplayFormats.h"
+#include "Field.h"
+
+#include <utility>
+#include <variant>
+
+/// A term in whole months.
+struct Months {
+    int count = 0;
+    friend constexpr bool operator==(Months, Months) = default;
+};
+
+/// The number in a field: an amount, a real number (points in percent, a rate as a fraction) or a
+/// term. Its kind says which.
+using FieldNumber = std::variant<Money, double, Months>;
+
+bool IsZero(const FieldNumber& number);
+
+/// Between the numbers of the fields and their texts. Zero is the empty text, both ways.
+class FieldTexts {
+public:
+    FieldTexts(DisplayFormats formats, bool termInMonths)
+        : m_formats(std::move(formats)), m_termInMonths(termInMonths) {}
+
+    const DisplayFormats& Formats() const { return m_formats; }
+    bool TermInMonths() const { return m_termInMonths; }
+
+    /// The bare value, as it is edited.
+    QString EntryText(ValueKind kind, const FieldNumber& number) const;
+
+    /// The value as it stands in a field that is not being edited.
+    QString DisplayText(ValueKind kind, const FieldNumber& number) const;
+
+    /// The number that a text stands for. Throws ConversionFailure or OverflowFailure.
+    FieldNumber Read(ValueKind kind, const QString& text) const;
+
+private:
+    Months ReadTerm(ValueKind kind, const QString& text) const;
+
+    DisplayFormats m_formats;
+    bool m_termInMonths;
+};

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QChar>
+#include <QStringView>
+
+/// Whether a text has the form of a number: digits, one sign in front, one decimal symbol with at
+/// most `decimals` digits after it (0 forbids the symbol). The empty text is a number (zero); so
+/// are a lone sign and a lone symbol. Only the form is looked at, never the size.
+bool IsValidNumber(QStringView text, int decimals, QChar decimalSeparator);

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What a loan is for is kept as a letter and shown as a text of the language in use.
+/// An unknown letter or text gives the empty one.
+QString LoanTypeCodeToText(const QString& code);
+QString LoanTypeTextToCode(const QString& text);
+
+/// The texts in the order in which they are offered to choose from.
+QStringList LoanTypeTexts();

@@ -1,0 +1,180 @@
+#pragma once
+
+#include "CLoan.h"
+#include "FieldValue.h"
+#include "OfferOrder.h"
+#include "WorksheetDisplay.h"
+
+#include <functional>
+#include <vector>
+
+/// One worksheet: the loan wanted, the loan held today and the offers, one a row.
+///
+/// Each value is a property with a read and a write side. A write stores, sets Dirty when an input
+/// changed, shows the value in its display format and recalculates what depends on it. Terms are
+/// months, rates fractions, dates whole days; zero means "not entered" and shows as an empty field.
+///
+/// A failure (Failure.h) in a write leaves every input as it was before or as it was given, shows
+/// the results that could not be computed as empty, finishes all other recalculations and is then
+/// thrown.
+///
+/// Shows nothing itself, asks nothing, and keeps nothing beyond its own life.
+class Worksheet final : public LoanContext {
+public:
+    Worksheet(WorksheetDisplay& display, FieldTexts texts, std::function<Date()> today);
+    // The offers point back at their worksheet.
+    Worksheet(const Worksheet&) = delete;
+    Worksheet& operator=(const Worksheet&) = delete;
+    Worksheet(Worksheet&&) = delete;
+    Worksheet& operator=(Worksheet&&) = delete;
+    ~Worksheet() override = default;
+
+    // The loan wanted. Types and frequencies are codes; their texts pass through ChoiceText.
+    QString LoanName() const { return m_loan.name; }
+    void SetLoanName(const QString& name);
+    QString LoanType() const { return m_loan.type; }
+    void SetLoanType(const QString& code);
+    Money LoanAmount() const override { return m_loan.amount; }
+    void SetLoanAmount(Money amount);
+    int LoanTerm() const override { return m_loan.term; }
+    void SetLoanTerm(int months);
+    Money EscrowTaxes() const { return m_loan.taxes; }
+    void SetEscrowTaxes(Money perYear);
+    Money EscrowInsurance() const { return m_loan.insurance; }
+    void SetEscrowInsurance(Money perYear);
+    Money EscrowMonthly() const override { return m_loan.escrowMonthly; }
+
+    // The loan held today.
+    Money CurrentLoanAmount() const { return m_current.amount; }
+    void SetCurrentLoanAmount(Money amount);
+    int CurrentTerm() const { return m_current.term; }
+    void SetCurrentTerm(int months);
+    double CurrentInterestRate() const { return m_current.rate; }
+    void SetCurrentInterestRate(double fraction);
+    QString CurrentFrequency() const;
+    void SetCurrentFrequency(const QString& text);
+    Money CurrentPandI() const { return m_current.pAndI; }
+    Money CurrentPayment() const { return m_current.payment; }
+    void SetCurrentPayment(Money payment);
+    Money CurrentBalance() const { return m_current.balance; }
+    void SetCurrentBalance(Money balance);
+    Money CurrentActualPayment() const { return m_current.actualPayment; }
+    void SetCurrentActualPayment(Money payment);
+    QString CurrentActualFrequency() const;
+    void SetCurrentActualFrequency(const QString& text);
+    Date CurrentNextPayment() const { return m_current.nextPayment; }
+    void SetCurrentNextPayment(Date date);
+    Money CurrentAmountLeft() const { return m_current.amountLeft; }
+    Money CurrentInterestLeft() const { return m_current.interestLeft; }
+    Date CurrentPayoffDate() const { return m_current.payoffDate; }
+
+    // The offers. There is one calculator for every row.
+    Row HighestOfferRow() const { return Row{static_cast<int>(m_offers.size()) - 1}; }
+    /// Adds calculators for the offers after `from` up to `to`, keeping those that are there.
+    void GrowOfferArrays(Row from, Row to);
+    OfferIndex OfferIndexOfRow(Row row) const { return m_order.OfferIndexOfRow(row); }
+    const CLoan& OfferOfRow(Row row) const { return m_offers.at(OfferIndexOfRow(row).value); }
+
+    // What the fields need: one way in and out for whatever is typed, picked or ticked.
+    const FieldTexts& Texts() const { return m_texts; }
+    QString EntryText(Field field) const;
+    /// Whether a text has the form of the field's number and stands for one: a lone sign does not.
+    /// Throws OverflowFailure for a number that the field cannot hold.
+    bool Accepts(Field field, const QString& text) const;
+    /// Stores what a number field holds. Throws ConversionFailure or OverflowFailure.
+    void StoreNumber(Field field, const QString& text);
+    void StoreChoice(Field field, const QString& text);
+    void StoreFinancePoints(Row row, bool financed);
+    void StoreWho(Row row, const QString& who);
+    /// Shows the value of a field in its display format. Not for the results of an offer: those are
+    /// not kept, RecalculateOffer shows them.
+    void Show(Field field) const;
+    /// Shows every choice again in the language now in use.
+    void ShowChoices() const;
+
+    // The four recalculations.
+    void RecalculateEscrow();
+    void RecalculateOffer(Row row);
+    void RecalculateCurrentPayment();
+    void RecalculateCurrentSchedule();
+
+    /// Whether anything has been changed that a save would keep.
+    bool Dirty() const { return m_dirty; }
+    void ClearDirty() { m_dirty = false; }
+    /// Whether the user has been told that intended payments are raised.
+    bool PaymentNoticeShown() const { return m_paymentNoticeShown; }
+    void SetPaymentNoticeShown(bool shown) { m_paymentNoticeShown = shown; }
+
+    Date Today() const override { return m_today(); }
+    void MarkDirty() override { m_dirty = true; }
+    void PaymentRefused() override;
+
+private:
+    struct Loan {
+        QString name;
+        QString type;
+        Money amount;
+        int term = 0;
+        Money taxes;
+        Money insurance;
+        Money escrowMonthly;
+    };
+    struct CurrentLoan {
+        Money amount;
+        int term = 0;
+        double rate = 0;
+        QString frequency;
+        Money pAndI;
+        Money payment;
+        Money balance;
+        Money actualPayment;
+        QString actualFrequency;
+        Date nextPayment;
+        Money amountLeft;
+        Money interestLeft;
+        Date payoffDate;
+    };
+    /// What is to be computed anew after a write, each at most once and in this order.
+    enum Pending : unsigned {
+        Nothing = 0,
+        Escrow = 1,
+        Offers = 2,
+        Payment = 4,
+        Schedule = 8,
+    };
+
+    /// Stores and shows an input; a changed one sets Dirty.
+    template <class Value>
+    void Write(Value& stored, const Value& value, FieldId field) {
+        if (stored != value) {
+            stored = value;
+            m_dirty = true;
+        }
+        Show({field});
+    }
+    void Recalculate(unsigned pending);
+    void SetStartingAmounts();
+    void StoreLoanNumber(FieldId field, const FieldNumber& number);
+    void StoreOfferNumber(Field field, const FieldNumber& number);
+    void StoreActualPayment(Row row, Money payment);
+    void ShowAmount(Field field, Money amount) const;
+    void ShowDate(Field field, Date date) const;
+    void ShowPayoff(CLoan& offer, Row row);
+    void ShowPayment(CLoan& offer, Row row);
+    void MarkRaised(Row row);
+    void MarkMissing(FieldId field, bool missing);
+    FieldNumber NumberOf(Field field) const;
+    QString ChoiceText(Field field) const;
+    CLoan& Offer(Row row) { return m_offers.at(OfferIndexOfRow(row).value); }
+
+    WorksheetDisplay* m_display;
+    FieldTexts m_texts;
+    std::function<Date()> m_today;
+    Loan m_loan;
+    CurrentLoan m_current;
+    std::vector<CLoan> m_offers;
+    OfferOrder m_order;
+    bool m_dirty = false;
+    bool m_paymentNoticeShown = false;
+    bool m_paymentRefused = false;
+};

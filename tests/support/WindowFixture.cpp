@@ -1,0 +1,206 @@
+#include "WindowFixture.h"
+
+#include "Language.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QTest>
+#include <QWheelEvent>
+#include <QWindow>
+
+#include <ostream>
+
+using namespace Qt::StringLiterals;
+
+void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
+void PrintTo(QStringView text, std::ostream* out) { PrintTo(text.toString(), out); }
+
+WindowTest::WindowTest() {
+    Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
+}
+
+WindowTest::~WindowTest() = default;
+
+void WindowTest::Open(const Start& start) {
+    QLocale::setDefault(start.locale);
+    Language::Instance().SetCurrentLanguage(start.language);
+    Settings settings;
+    settings.loansDisplayed = start.loansDisplayed;
+    settings.termInMonths = start.termInMonths;
+    settings.wallpaper = start.wallpaper;
+    m_window = std::make_unique<Loan>(
+        Loan::World{.messages = start.messages ? start.messages : &m_messages,
+                    .locale = start.locale,
+                    .today = [] { return Date::FromCalendar(2026, 11, 21); }},
+        settings);
+    m_window->show();
+    ActivateAgain();
+}
+
+void WindowTest::ActivateAgain() {
+    m_window->activateWindow();
+    if (!QTest::qWaitForWindowActive(m_window.get())) {
+        throw std::runtime_error("the window does not become active");
+    }
+}
+
+QWidget& WindowTest::Control(QStringView name) const {
+    if (auto* control = m_window->findChild<QWidget*>(name.toString())) {
+        return *control;
+    }
+    QStringList names;
+    for (const QWidget* control : m_window->findChildren<QWidget*>()) {
+        if (!control->objectName().isEmpty()) {
+            names.append(control->objectName());
+        }
+    }
+    names.sort();
+    throw std::runtime_error("no control " + name.toString().toStdString() + "; there are " +
+                             names.join(u' ').toStdString());
+}
+
+QLineEdit& WindowTest::Edit(QStringView name) const { return Get<QLineEdit>(name); }
+QComboBox& WindowTest::List(QStringView name) const { return Get<QComboBox>(name); }
+QScrollBar& WindowTest::Bar() const { return Get<QScrollBar>(u"vsbLoans"); }
+
+QString WindowTest::Text(QStringView name) const {
+    const QWidget& control = Control(name);
+    const char* property = qobject_cast<const QComboBox*>(&control) ? "currentText" : "text";
+    return control.property(property).toString();
+}
+
+QString WindowTest::FocusName() {
+    const QWidget* focus = QApplication::focusWidget();
+    return focus ? focus->objectName() : QString();
+}
+
+QPoint WindowTest::PlaceInWindow(const QWidget& control, QPoint at) const {
+    return control.mapTo(m_window.get(), at);
+}
+
+void WindowTest::Click(const QWidget& control, QPoint at) {
+    QTest::mouseClick(control.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      control.mapTo(control.window(), at));
+}
+
+void WindowTest::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(m_window->windowHandle(), key, modifiers);
+}
+
+void WindowTest::Type(QStringView text) {
+    for (const QChar character : text) {
+        QTest::sendKeyEvent(QTest::Click, m_window->windowHandle(),
+                            static_cast<Qt::Key>(character.toUpper().unicode()), QString(character),
+                            Qt::NoModifier);
+    }
+}
+
+void WindowTest::Paste(QStringView text) {
+    QGuiApplication::clipboard()->setText(text.toString());
+    Press(Qt::Key_V, Qt::ControlModifier);
+}
+
+void WindowTest::Enter(QStringView name) {
+    if (FocusName() != name) {
+        Click(name);
+    }
+}
+
+void WindowTest::Fill(QStringView name, QStringView text) {
+    Enter(name);
+    Type(text);
+    Tab();
+}
+
+void WindowTest::Choose(QStringView name, int index) {
+    Click(name);
+    const auto popup = [] { return QApplication::activePopupWidget() != nullptr; };
+    if (!WaitFor(popup)) {
+        throw std::runtime_error("no list opens: " + name.toString().toStdString());
+    }
+    Settle(); // the entry under the pointer is marked once the list stands
+    Press(Qt::Key_Home);
+    for (int entry = 0; entry < index; ++entry) {
+        Press(Qt::Key_Down);
+    }
+    Press(Qt::Key_Return);
+    if (!WaitFor([&] { return !popup(); })) {
+        throw std::runtime_error("the list stays open: " + name.toString().toStdString());
+    }
+    ActivateAgain();
+}
+
+void WindowTest::Wheel(const QWidget& control, int notches) {
+    const QPoint at = PlaceInWindow(control, control.rect().center());
+    QWheelEvent event(at, m_window->mapToGlobal(at), QPoint(), QPoint(0, notches * 120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(m_window->windowHandle(), &event);
+}
+
+void WindowTest::SwitchLanguage(int number) {
+    const QString name = QStringLiteral("mnuToolsLanguageOpt(%1)").arg(number);
+    if (auto* entry = m_window->findChild<QAction*>(name)) {
+        return entry->trigger();
+    }
+    throw std::runtime_error("no entry " + name.toStdString());
+}
+
+void WindowTest::FillFirstOffer() {
+    Fill(u"txtLoanAmount", u"100000");
+    Fill(u"txtInterestRate(0)", u"6");
+    Fill(u"txtTerm(0)", u"30");
+    Choose(u"cboFrequency(0)", 0);
+}
+
+bool WindowTest::WaitFor(const std::function<bool()>& condition) {
+    return QTest::qWaitFor(condition, 5000);
+}
+
+void WindowTest::Settle() {
+    constexpr int rounds = 6; // an event, the message it posts, what follows it, and back
+    for (int round = 0; round < rounds; ++round) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+}
+
+QStringList WindowTest::SettledMessages() {
+    Settle();
+    return m_messages.Texts();
+}
+
+void WindowTest::OpenContextMenu(QStringView name) {
+    QWidget& control = Control(name);
+    const QPoint at = control.rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, at, control.mapToGlobal(at));
+    QApplication::sendEvent(&control, &event);
+    const auto menu = [] { return QApplication::activePopupWidget(); };
+    if (!WaitFor([&] { return menu() != nullptr; })) {
+        throw std::runtime_error("no context menu opens: " + name.toString().toStdString());
+    }
+    Press(Qt::Key_Escape);
+    WaitFor([&] { return menu() == nullptr; });
+    ActivateAgain();
+}
+
+QString WindowTest::RowName(QStringView control, int row) {
+    return QStringLiteral("%1(%2)").arg(control).arg(row);
+}
+
+int WindowTest::RowHeight() const {
+    return Control(u"OfferRow(1)").y() - Control(u"OfferRow(0)").y();
+}
+
+int WindowTest::RowCount() const {
+    const QRegularExpression row(QStringLiteral("^OfferRow\\(\\d+\\)$"));
+    return static_cast<int>(m_window->findChildren<QWidget*>(row).size());
+}

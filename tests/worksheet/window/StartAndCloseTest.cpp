@@ -1,0 +1,122 @@
+// The window as it comes up and goes.
+
+#include "WindowFixture.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+
+namespace {
+
+struct StartCase {
+    const char* name;
+    Start start;
+};
+
+void PrintTo(const StartCase& start, std::ostream* out) { *out << start.name; }
+
+class FreshStart : public WindowTest, public ::testing::WithParamInterface<StartCase> {
+protected:
+    FreshStart() { Open(GetParam().start); }
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Starts, FreshStart,
+    ::testing::Values(StartCase{"English", {}},
+                      StartCase{"Spanish", {.locale = Spain, .language = Spanish}},
+                      StartCase{"Detected", {.language = -2}},
+                      StartCase{"Months", {.locale = Germany, .termInMonths = true}},
+                      StartCase{"OneRow", {.loansDisplayed = 0}}),
+    [](const auto& start) { return start.param.name; });
+
+TEST_P(FreshStart, HasNothingToSaveAndAsksNothing) {
+    EXPECT_FALSE(Sheet().Dirty());
+    EXPECT_FALSE(Sheet().PaymentNoticeShown());
+    EXPECT_TRUE(Window().close());
+    EXPECT_TRUE(SettledMessages().isEmpty());
+    EXPECT_FALSE(Window().isVisible());
+}
+
+TEST_P(FreshStart, ShowsEmptyFields) {
+    for (const QLineEdit* field : Window().findChildren<QLineEdit*>()) {
+        if (!field->objectName().startsWith(u"qt_")) {
+            EXPECT_EQ(field->text(), u"") << field->objectName().toStdString();
+        }
+    }
+    for (const QComboBox* list : Window().findChildren<QComboBox*>()) {
+        EXPECT_EQ(list->currentText(), u"") << list->objectName().toStdString();
+        EXPECT_EQ(list->count(), list->objectName() == u"cboLoanName"   ? 0
+                                 : list->objectName() == u"cboLoanType" ? 6
+                                                                        : 4);
+    }
+}
+
+TEST_P(FreshStart, ShowsTodayAsTheNextPayment) {
+    EXPECT_EQ(Get<QDateEdit>(u"dtNextPayment").date(), QDate(2026, 11, 21));
+    EXPECT_EQ(Sheet().CurrentNextPayment(), Date::FromCalendar(2026, 11, 21));
+    EXPECT_EQ(Get<QDateEdit>(u"dtNextPayment").text(),
+              GetParam().start.locale == UnitedStates ? u"11/21/2026"
+              : GetParam().start.locale == Germany    ? u"21.11.2026"
+                                                      : u"21/11/2026");
+}
+
+TEST_P(FreshStart, CarriesTheTitle) { EXPECT_EQ(Window().windowTitle(), u"Quend Loan"); }
+
+TEST_P(FreshStart, WalkingThroughItChangesNothing) {
+    Click(u"cboLoanName");
+    for (int step = 0; step < 60; ++step) {
+        Tab();
+    }
+    EXPECT_FALSE(Sheet().Dirty());
+    EXPECT_TRUE(SettledMessages().isEmpty());
+}
+
+using Closing = WindowTest;
+
+TEST_F(Closing, ByTheMenu) {
+    Open();
+    Window().findChild<QAction*>(QStringLiteral("mnuFileExit"))->trigger();
+    EXPECT_FALSE(Window().isVisible());
+    EXPECT_TRUE(SettledMessages().isEmpty());
+}
+
+TEST_F(Closing, ByTheKeysOfTheMenu) {
+    Open();
+    Click(u"txtLoanAmount");
+    Press(Qt::Key_F, Qt::AltModifier);
+    Press(Qt::Key_X);
+    EXPECT_TRUE(WaitFor([&] { return !Window().isVisible(); }));
+}
+
+// The date of the loan held today is an input like any other.
+TEST_F(Closing, AnotherDateIsAChange) {
+    Open();
+    auto& picker = Get<QDateEdit>(u"dtNextPayment");
+    Click(picker, {8, picker.height() / 2});
+    Press(Qt::Key_Up);
+    EXPECT_TRUE(Sheet().Dirty());
+}
+
+// A loan that is never paid off is told; the value stands and the rest goes on.
+TEST_F(Closing, AFailureOfTheArithmeticIsToldAndNothingIsLost) {
+    Open();
+    Fill(u"txtCurrentBalance", u"10000");
+    Fill(u"txtCurInterestRate", u"12");
+    Choose(u"cboActPaymentFrequency", 0);
+    Enter(u"txtCurActualPayment");
+    Type(u"100"); // just the interest
+    Press(Qt::Key_Return);
+    const QStringList told = SettledMessages();
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_TRUE(told.front().startsWith(u"errn=6  src=")) << told.front().toStdString();
+    EXPECT_TRUE(told.front().endsWith(u"  desc=Overflow"));
+    EXPECT_EQ(Sheet().CurrentActualPayment(), Money::FromDouble(100));
+    EXPECT_EQ(Text(u"txtCurPayoffDate"), u"");
+    Type(u"1000");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(SettledMessages().size(), 1);
+    EXPECT_FALSE(Text(u"txtCurPayoffDate").isEmpty());
+}
+
+} // namespace

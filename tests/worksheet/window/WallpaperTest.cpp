@@ -1,0 +1,112 @@
+// The background picture of the window.
+
+#include "WindowFixture.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <vector>
+
+namespace {
+
+class WallpaperOfTheWindow : public WindowTest {
+protected:
+    QString PathOf(const QString& file) const { return m_folder.filePath(file); }
+    /// A picture whose every pixel tells its place.
+    QImage Picture(int width, int height) const {
+        QImage picture(width, height, QImage::Format_RGB32);
+        for (int x = 0; x < width; ++x) {
+            for (int y = 0; y < height; ++y) {
+                picture.setPixel(x, y, qRgb(x * 255 / width, y * 255 / height, 90));
+            }
+        }
+        return picture;
+    }
+    void Write(const QString& file, const QByteArray& bytes) const {
+        QFile out(PathOf(file));
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(bytes);
+    }
+    bool IsBare(QPoint at) {
+        const QWidget* child = Window().childAt(at);
+        return child == nullptr || child->objectName() == u"centralWidget";
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+TEST_F(WallpaperOfTheWindow, IsTiledUnscaledFromTheCorner) {
+    struct Case {
+        int width;
+        int height;
+    };
+    const std::vector<Case> sizes = {{37, 23}, {5, 200}, {2000, 3}};
+    for (const auto& size : sizes) {
+        const QImage picture = Picture(size.width, size.height);
+        const QString path = PathOf(u"tile.bmp"_qs);
+        ASSERT_TRUE(picture.save(path));
+        Open({.wallpaper = path});
+        Settle();
+        const QImage window = Window().grab().toImage();
+        int compared = 0;
+        int wrong = 0;
+        for (int x = 0; x < window.width(); ++x) {
+            for (int y = 0; y < window.height(); ++y) {
+                if (IsBare({x, y})) {
+                    ++compared;
+                    wrong += window.pixel(x, y) == picture.pixel(x % size.width, y % size.height)
+                                 ? 0
+                                 : 1;
+                }
+            }
+        }
+        EXPECT_GT(compared, 1000);
+        EXPECT_EQ(wrong, 0) << "of " << compared;
+        EXPECT_TRUE(SettledMessages().isEmpty());
+        EXPECT_EQ(Window().GetSettings().wallpaper, path);
+        Shut();
+    }
+}
+
+TEST_F(WallpaperOfTheWindow, IsNoneWithoutAPath) {
+    Open();
+    Settle();
+    const QImage window = Window().grab().toImage();
+    EXPECT_EQ(window.pixelColor(3, window.height() / 2),
+              Window().palette().color(QPalette::Window));
+    EXPECT_TRUE(SettledMessages().isEmpty());
+}
+
+TEST_F(WallpaperOfTheWindow, ThatCannotBeLoadedIsToldOnceAndForgotten) {
+    QByteArray whole;
+    {
+        const QImage picture = Picture(37, 23);
+        ASSERT_TRUE(picture.save(PathOf(u"whole.bmp"_qs)));
+        QFile file(PathOf(u"whole.bmp"_qs));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        whole = file.readAll();
+    }
+    Write(u"empty.bmp"_qs, {});
+    Write(u"garbage.bmp"_qs, "This is no picture.");
+    Write(u"truncated.bmp"_qs, whole.left(20));
+    for (const QString& file :
+         {u"missing.bmp"_qs, u"empty.bmp"_qs, u"garbage.bmp"_qs, u"truncated.bmp"_qs, u"."_qs}) {
+        Door().Clear();
+        Open({.wallpaper = PathOf(file)});
+        EXPECT_EQ(SettledMessages(),
+                  QStringList(u"This background picture could not be loaded: "_qs + PathOf(file)));
+        EXPECT_EQ(Window().GetSettings().wallpaper, u"");
+        EXPECT_EQ(RowCount(), 6) << "the rest of the window is there";
+        EXPECT_FALSE(Sheet().Dirty());
+        Shut();
+    }
+}
+
+TEST_F(WallpaperOfTheWindow, ThatCannotBeLoadedIsToldInTheLanguageOfTheUser) {
+    Open({.language = Spanish, .wallpaper = PathOf(u"nada.bmp"_qs)});
+    EXPECT_EQ(SettledMessages(),
+              QStringList(u"No se pudo cargar esta imagen de fondo: "_qs + PathOf(u"nada.bmp"_qs)));
+}
+
+} // namespace

@@ -1,0 +1,20 @@
+#include "ClickSwallower.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+void ClickSwallower::SwallowNext() { QCoreApplication::instance()->installEventFilter(this); }
+
+/// Only what goes to a control: the window itself must see press and release to keep its books.
+bool ClickSwallower::eventFilter(QObject* watched, QEvent* event) {
+    const bool isMouse = event->type() == QEvent::MouseButtonPress ||
+                         event->type() == QEvent::MouseButtonRelease ||
+                         event->type() == QEvent::MouseButtonDblClick;
+    if (!isMouse || !watched->isWidgetType()) {
+        return false;
+    }
+    if (event->type() == QEvent::MouseButtonRelease) {
+        QCoreApplication::instance()->removeEventFilter(this);
+    }
+    return true;
+}

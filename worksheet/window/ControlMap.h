@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Field.h"
+
+#include <QHash>
+#include <QWidget>
+
+#include <map>
+#include <optional>
+
+/// Which control shows which field, both ways.
+class ControlMap {
+public:
+    /// Finds the controls of these fields by name below `parent`. In a row of offers each then
+    /// takes the row into its name: "txtPoints" becomes "txtPoints(3)".
+    void Add(const QWidget& parent, std::span<const FieldRule> fields, Row row = Field::NoRow);
+
+    QWidget* ControlOf(Field field) const;
+    template <class Control>
+    Control* ControlOf(Field field) const {
+        return qobject_cast<Control*>(ControlOf(field));
+    }
+    std::optional<Field> FieldOf(const QObject* control) const;
+
+private:
+    std::map<Field, QWidget*> m_controls;
+    QHash<const QObject*, Field> m_fields;
+};

@@ -1,0 +1,39 @@
+#include "FieldWidth.h"
+
+#include "DisplayFormats.h"
+
+#include <QFontMetrics>
+
+namespace {
+
+/// The widest text that a field shows every day.
+QString SampleOf(FieldId field, const DisplayFormats& formats) {
+    constexpr double loan = 8'888'888.88;
+    constexpr double payment = 88'888.88;
+    switch (RuleOf(field).kind) {
+    case ValueKind::Percent:
+        return formats.Percent(0.88888);
+    case ValueKind::Decimal:
+        return formats.ThreeDecimals(88.888);
+    case ValueKind::WholeTerm:
+    case ValueKind::FractionalTerm:
+        return formats.GeneralNumber(88.5);
+    case ValueKind::Date:
+        return formats.ShortDate(Date::FromCalendar(2058, 12, 28));
+    case ValueKind::Text:
+        return QStringLiteral("Financial Institute");
+    default:
+        break;
+    }
+    const bool isPayment =
+        field == FieldId::PandI || field == FieldId::Payment || field == FieldId::ActualPayment;
+    return formats.Currency(Money::FromDouble(isPayment ? payment : loan));
+}
+
+} // namespace
+
+int LeastFieldWidth(FieldId field, const QFontMetrics& metrics, const DisplayFormats& formats) {
+    // Frame, inner margins and the caret.
+    const int around = metrics.averageCharWidth() * 2 + 8;
+    return metrics.horizontalAdvance(SampleOf(field, formats)) + around;
+}

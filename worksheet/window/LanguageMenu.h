@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+#include <vector>
+
+class QAction;
+class QActionGroup;
+class QMenu;
+
+/// The entries of the language menu, one a language; the active one carries the check mark.
+class LanguageMenu : public QObject {
+    Q_OBJECT
+
+public:
+    struct Callbacks {
+        std::function<bool()> commit; ///< stores the field being edited; false: stop
+        std::function<void(const std::function<void()>&)> guard; ///< runs a handler
+        std::function<void()> renew; ///< gives the window the texts of the new language
+    };
+    /// `known` are the entries of the form; further languages found get entries behind them.
+    LanguageMenu(QMenu& menu, const std::vector<QAction*>& known, Callbacks callbacks);
+
+    /// Sets the check marks to the language in use.
+    void MarkCurrent() const;
+
+private:
+    void mnuToolsLanguageOpt_Click(int index) const;
+
+    Callbacks m_callbacks;
+    QActionGroup* m_entries;
+};

@@ -1,0 +1,193 @@
+#include "Loan.h"
+
+#include "Captions.h"
+#include "FieldWidth.h"
+#include "Language.h"
+#include "Lists.h"
+#include "TextNumbers.h"
+#include "ui_Loan.h"
+
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QPainter>
+#include <QTimer>
+
+#include <utility>
+
+namespace {
+
+std::unique_ptr<Ui::Loan> FormOf(Loan& window) {
+    auto form = std::make_unique<Ui::Loan>();
+    form->setupUi(&window);
+    return form;
+}
+
+ControlMap ControlsOf(const QWidget& window) {
+    ControlMap controls;
+    controls.Add(window, LoanFields());
+    return controls;
+}
+
+TermUnit UnitOf(const Settings& settings) {
+    return settings.termInMonths ? TermUnit::Months : TermUnit::Years;
+}
+
+} // namespace
+
+Loan::Loan(const World& world, Settings settings)
+    : m_settings(std::move(settings)), m_ui(FormOf(*this)), m_messages(*world.messages),
+      m_report(m_messages), m_controls(ControlsOf(*this)),
+      m_display(m_controls, {.raised = [this] { m_notice.Start(); },
+                             .refused = [this] { m_notice.TellRefused(); }}),
+      m_worksheet(m_display, {DisplayFormats(world.locale), m_settings.termInMonths}, world.today),
+      m_columns(*m_ui->picHeadings, m_controls),
+      m_rows({m_ui->picScroll, m_ui->picCanvas, m_ui->vsbLoans}, m_worksheet, m_controls,
+             m_columns),
+      m_notice(*this, m_worksheet, m_messages, [this] { ClearRaisedMarks(); }),
+      m_discipline(m_worksheet, m_controls, m_rows, m_messages),
+      m_handlers(m_worksheet, m_controls, m_discipline), m_focus(m_handlers, m_controls, m_report),
+      m_languages(*m_ui->mnuToolsLanguage, {m_ui->mnuToolsLanguageOpt1, m_ui->mnuToolsLanguageOpt2},
+                  {.commit = [this] { return m_focus.Commit(); },
+                   .guard = [this](const auto& handler) { m_report.Guard(handler); },
+                   .renew = [this] { RenewLanguage(); }}) {
+    WireFields();
+    m_report.Guard([this] { Form_Load(); });
+}
+
+Loan::~Loan() = default;
+
+void Loan::Form_Load() {
+    Language& language = Language::Instance();
+    if (language.CurrentLanguage() < 1) {
+        language.SettleDetectedLanguage();
+    } else {
+        m_report.Guard([&] { language.LoadLanguage(language.CurrentLanguage()); });
+    }
+    m_languages.MarkCurrent();
+    m_rows.CreateRows(Row{m_settings.loansDisplayed});
+    ApplyCaptions();
+    RefillLists();
+    m_loaded = true;
+    MeasureFields();
+    LoadWallpaper();
+    m_ui->dtNextPayment->setDisplayFormat(m_worksheet.Texts().Formats().ShortDateFormat());
+    m_worksheet.SetCurrentNextPayment(m_worksheet.Today());
+    m_worksheet.SetPaymentNoticeShown(false);
+    m_worksheet.ClearDirty();
+}
+
+/// Nothing typed is lost on the way out: a field that cannot be stored keeps the window open.
+bool Loan::Form_Unload() { return m_focus.Commit(); }
+
+void Loan::mnuFileExit_Click() { close(); }
+
+void Loan::closeEvent(QCloseEvent* event) { event->setAccepted(Form_Unload()); }
+
+void Loan::WireFields() {
+    m_focus.Watch(*this);
+    for (const FieldRule& rule : LoanFields()) {
+        WireChoice({rule.id});
+    }
+    connect(m_ui->dtNextPayment, &QDateEdit::dateChanged, this,
+            [this] { m_report.Guard([this] { m_handlers.dtNextPayment_Change(); }); });
+    connect(&m_rows, &OfferRows::RowCreated, this, &Loan::WireRow);
+    connect(m_ui->mnuFileExit, &QAction::triggered, this, &Loan::mnuFileExit_Click);
+}
+
+void Loan::WireRow(int row, const QWidget* controls) {
+    m_focus.Watch(*controls);
+    WireChoice({FieldId::Frequency, Row{row}});
+    const Field points{FieldId::FinancePoints, Row{row}};
+    connect(m_controls.ControlOf<QCheckBox>(points), &QCheckBox::clicked, this,
+            [this, points] { m_report.Guard([&] { m_handlers.Click(points); }); });
+    ApplyRowCaptions(Row{row});
+}
+
+/// A list that is chosen from tells so at once, not only when it is left.
+void Loan::WireChoice(Field field) {
+    if (RuleOf(field.id).kind == ValueKind::Choice) {
+        connect(m_controls.ControlOf<QComboBox>(field), &QComboBox::activated, this,
+                [this, field] { m_report.Guard([&] { m_handlers.Click(field); }); });
+    }
+}
+
+void Loan::ApplyCaptions() {
+    ApplyTexts(*this, UnitOf(m_settings));
+    for (Row row{0}; row <= m_rows.HighestOfferRow(); ++row.value) {
+        ApplyRowCaptions(row);
+    }
+}
+
+void Loan::ApplyRowCaptions(Row row) {
+    QWidget* controls = m_controls.ControlOf({FieldId::Who, row})->parentWidget();
+    ApplyTexts(*controls, UnitOf(m_settings), row.value + 1);
+}
+
+void Loan::RefillLists() {
+    const auto refill = [](QComboBox& list, void (&fill)(QComboBox&)) {
+        list.clear();
+        fill(list);
+    };
+    refill(*m_ui->cboLoanType, FillLoanTypeList);
+    refill(*m_ui->cboCurPaymentFrequency, FillFrequencyList);
+    refill(*m_ui->cboActPaymentFrequency, FillFrequencyList);
+    for (Row row{0}; row <= m_rows.HighestOfferRow(); ++row.value) {
+        refill(*m_controls.ControlOf<QComboBox>({FieldId::Frequency, row}), FillFrequencyList);
+    }
+    m_worksheet.ShowChoices();
+}
+
+void Loan::RenewLanguage() {
+    ApplyCaptions();
+    RefillLists();
+    MeasureFields();
+}
+
+void Loan::MeasureFields() {
+    const DisplayFormats& formats = m_worksheet.Texts().Formats();
+    for (const FieldRule& rule : LoanFields()) {
+        if (auto* edit = m_controls.ControlOf<QLineEdit>({rule.id})) {
+            edit->setMinimumWidth(LeastFieldWidth(rule.id, edit->fontMetrics(), formats));
+        } else if (rule.kind == ValueKind::Choice) {
+            // The toolkit goes on asking for the least width of the letters of the start.
+            QWidget* list = m_controls.ControlOf({rule.id});
+            list->setMinimumWidth(list->sizeHint().width());
+        }
+    }
+    m_columns.Measure(formats);
+    const int shown = m_rows.LoansDisplayed().value + 1;
+    m_ui->picScroll->setMinimumSize(m_columns.MinimumWidth(), shown * m_columns.RowHeight());
+    m_ui->picScroll->setMaximumHeight(shown * m_columns.RowHeight() * 3 / 2);
+    m_rows.Layout();
+}
+
+void Loan::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (m_loaded && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
+        // Once every control has learned of it.
+        QTimer::singleShot(0, this, &Loan::MeasureFields);
+    }
+}
+
+/// A picture that cannot be loaded is told once and forgotten.
+void Loan::LoadWallpaper() {
+    if (!m_wallpaper.Load(m_settings.wallpaper)) {
+        m_messages.Post(GetResourceText(TextNumber::PictureNotLoaded) + u' ' +
+                        m_settings.wallpaper);
+        m_settings.wallpaper.clear();
+    }
+    update();
+}
+
+void Loan::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    QPainter painter(this);
+    m_wallpaper.Paint(painter, size());
+}
+
+void Loan::ClearRaisedMarks() {
+    for (Row row{0}; row <= m_rows.HighestOfferRow(); ++row.value) {
+        m_display.ShowMark({FieldId::ActualPayment, row}, Mark::None);
+    }
+}

@@ -1,0 +1,45 @@
+#include "Messages.h"
+
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto MouseReleaseCheck = 10ms;
+
+} // namespace
+
+Messages::Messages(MessageDoor& door) : m_door(&door) {
+    m_later.setSingleShot(true);
+    connect(&m_later, &QTimer::timeout, this, &Messages::ShowNext);
+}
+
+void Messages::Post(const QString& text, const std::function<void()>& afterwards) {
+    if (std::ranges::find(m_waiting, text, &Message::text) == m_waiting.end()) {
+        m_waiting.push_back({text, afterwards});
+    }
+    if (!m_showing) {
+        m_later.start(0ms);
+    }
+}
+
+void Messages::ShowNext() {
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+        m_later.start(MouseReleaseCheck);
+        return;
+    }
+    m_showing = true;
+    while (!m_waiting.empty()) {
+        const Message message = m_waiting.front();
+        m_door->Show(message.text);
+        m_waiting.pop_front();
+        if (message.afterwards) {
+            message.afterwards();
+        }
+    }
+    m_showing = false;
+}

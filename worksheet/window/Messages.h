@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <deque>
+#include <functional>
+
+/// Shows a text to the user and waits until it has been read. The one door for message boxes.
+class MessageDoor {
+public:
+    virtual ~MessageDoor() = default;
+    virtual void Show(const QString& text) = 0;
+};
+
+/// Messages on their way to the user, shown one after another once the event that raised them is
+/// over and no mouse button is down: a box that opens in the middle of a change of focus or of a
+/// click would leave the window half way. The same text is not queued twice.
+class Messages : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Messages(MessageDoor& door);
+
+    /// `afterwards` runs once the user has closed the message.
+    void Post(const QString& text, const std::function<void()>& afterwards = {});
+    bool Waiting() const { return !m_waiting.empty(); }
+
+private:
+    struct Message {
+        QString text;
+        std::function<void()> afterwards;
+    };
+    void ShowNext();
+
+    MessageDoor* m_door;
+    std::deque<Message> m_waiting;
+    QTimer m_later;
+    bool m_showing = false;
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Field.h"
+
+#include <QRect>
+
+#include <vector>
+
+class ControlMap;
+class DisplayFormats;
+class QWidget;
+
+/// Where the columns of the offers stand: as wide as their values and headings need, the rest of
+/// the width shared out. Headings and rows are placed by the same columns. Does not scroll.
+class OfferColumns {
+public:
+    /// `headings` holds the headings of the columns; `sampleRow` any row of fields.
+    OfferColumns(QWidget& headings, const ControlMap& controls);
+
+    /// Measures anew, after a change of font, language or locale.
+    void Measure(const DisplayFormats& formats);
+
+    /// The least width that shows every column whole.
+    int MinimumWidth() const;
+    int RowHeight() const { return m_rowHeight; }
+
+    /// Shares out a width; the columns then stay until the next call.
+    void Share(int width);
+    void PlaceHeadings() const;
+    void PlaceRow(Row row, int height) const;
+
+private:
+    struct Column {
+        FieldId field = FieldId::Who;
+        int least = 0;
+        int left = 0;
+        int width = 0;
+    };
+    QRect SpanOf(FieldId first, FieldId last) const;
+    const Column& ColumnOf(FieldId field) const;
+
+    QWidget* m_headings;
+    const ControlMap* m_controls;
+    std::vector<Column> m_columns;
+    int m_rowHeight = 0;
+};

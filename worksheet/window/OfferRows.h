@@ -1,0 +1,70 @@
+#pragma once
+
+#include "Field.h"
+
+#include <QObject>
+
+#include <functional>
+#include <map>
+
+class ControlMap;
+class OfferColumns;
+class QScrollBar;
+class QWidget;
+class Worksheet;
+
+/// The rows of the offers and their scrolling: a canvas as high as all rows moves up and down
+/// behind a frame as high as those on display. What the fields of a row do is none of its business.
+class OfferRows : public QObject {
+    Q_OBJECT
+
+public:
+    struct Place {
+        QWidget* picScroll;
+        QWidget* picCanvas;
+        QScrollBar* vsbLoans;
+    };
+    OfferRows(Place place, Worksheet& worksheet, ControlMap& controls, OfferColumns& columns);
+
+    /// Makes the rows that show without scrolling; `loansDisplayed` is the index of the last of
+    /// them.
+    void CreateRows(Row loansDisplayed);
+
+    Row HighestOfferRow() const;
+    Row LoansDisplayed() const { return m_loansDisplayed; }
+    /// The distance of two rows in pixels.
+    int OfferRowHeight() const { return m_rowHeight; }
+
+    /// Appends an empty row, up to the cap; at the cap nothing happens.
+    void AddOfferRow();
+    /// Brings a row into the frame.
+    void ShowOfferRow(Row row) const;
+    /// Places everything anew, after the columns have been measured.
+    void Layout();
+
+Q_SIGNALS:
+    void RowCreated(int row, QWidget* controls);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool CreateOfferRow(Row row);
+    bool HasRoomFor(Row row) const;
+    void PlaceRow(Row row);
+    void SetMaximum() const;
+    void MoveCanvas() const;
+    void ScrollByWheel(int eighthsOfDegree);
+    void vsbLoans_Change() const;
+    void vsbLoans_Scroll() const;
+
+    Place m_place;
+    Worksheet* m_worksheet;
+    ControlMap* m_controls;
+    OfferColumns* m_columns;
+    std::map<Row, QWidget*> m_rows;
+    Row m_loansDisplayed{0};
+    Row m_offerRowCap{15};
+    int m_rowHeight = 1;
+    int m_wheel = 0;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+class Messages;
+class Worksheet;
+
+/// Tells the user, once in a run, that an intended payment was raised, and takes the yellow mark
+/// off again after one interval.
+class PaymentNotice : public QObject {
+    Q_OBJECT
+
+public:
+    /// The timer is a child of the window.
+    PaymentNotice(QObject& window, Worksheet& worksheet, Messages& messages,
+                  std::function<void()> clearMarks);
+
+    /// An intended payment has been marked.
+    void Start();
+    /// An intended payment was refused.
+    void TellRefused();
+
+private:
+    void Timer1_Timer();
+
+    Worksheet* m_worksheet;
+    Messages* m_messages;
+    std::function<void()> m_clearMarks;
+    QTimer* m_timer;
+};

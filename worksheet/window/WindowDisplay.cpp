@@ -1,0 +1,55 @@
+#include "WindowDisplay.h"
+
+#include "CalendarDate.h"
+#include "ControlMap.h"
+#include "FieldEdits.h"
+#include "Language.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QSignalBlocker>
+
+#include <utility>
+
+WindowDisplay::WindowDisplay(const ControlMap& controls, Notices notices)
+    : m_controls(&controls), m_notices(std::move(notices)) {}
+
+void WindowDisplay::ShowText(Field field, const QString& text) {
+    if (auto* edit = m_controls->ControlOf<QLineEdit>(field)) {
+        edit->setText(text);
+        edit->setCursorPosition(0); // the leading digits of an amount are the ones that matter
+    } else if (auto* list = m_controls->ControlOf<QComboBox>(field)) {
+        if (list->isEditable()) {
+            list->setEditText(text);
+        } else {
+            list->setCurrentIndex(text.isEmpty() ? -1 : list->findText(text));
+        }
+    }
+}
+
+void WindowDisplay::ShowTicked(Field field, bool ticked) {
+    if (auto* box = m_controls->ControlOf<QCheckBox>(field)) {
+        box->setChecked(ticked);
+    }
+}
+
+void WindowDisplay::ShowDate(Field field, Date date) {
+    if (auto* picker = m_controls->ControlOf<QDateEdit>(field); picker && !date.IsNone()) {
+        const QSignalBlocker quiet(picker);
+        picker->setDate(ToCalendar(date));
+    }
+}
+
+void WindowDisplay::ShowMark(Field field, Mark mark) {
+    if (auto* edit = m_controls->ControlOf<EntryEdit>(field)) {
+        edit->SetMark(mark);
+    }
+}
+
+void WindowDisplay::ShowToolTip(Field field, bool shown) {
+    if (auto* control = m_controls->ControlOf(field)) {
+        control->setToolTip(shown ? GetResourceText(control->property("toolTipText").toInt())
+                                  : QString());
+    }
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "WorksheetDisplay.h"
+
+#include <functional>
+
+class ControlMap;
+
+/// Shows the worksheet in the controls of the window.
+class WindowDisplay : public WorksheetDisplay {
+public:
+    struct Notices {
+        std::function<void()> raised;  ///< an intended payment has been raised
+        std::function<void()> refused; ///< an intended payment was refused
+    };
+    WindowDisplay(const ControlMap& controls, Notices notices);
+
+    void ShowText(Field field, const QString& text) override;
+    void ShowTicked(Field field, bool ticked) override;
+    void ShowDate(Field field, Date date) override;
+    void ShowMark(Field field, Mark mark) override;
+    void ShowToolTip(Field field, bool shown) override;
+    void PaymentRaised() override { m_notices.raised(); }
+    void PaymentRefused() override { m_notices.refused(); }
+
+private:
+    const ControlMap* m_controls;
+    Notices m_notices;
+};

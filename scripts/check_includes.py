@@ -1,0 +1,83 @@
+"""Checks the direction of the includes: a floor knows only the floors below it.
+
+Takes source files as arguments, by their paths from the root of the tree. Prints what is wrong, one
+finding a line, and ends with 1 where there is something.
+"""
+
+from __future__ import annotations
+
+import re
+import sys
+from collections import defaultdict
+from collections.abc import Iterator
+from pathlib import Path
+
+# The floors from the ground up, and the folders whose headers each may include besides its own.
+# A floor that is not named here, like tests or bench, stands outside the house and may use all.
+_FLOORS: dict[str, tuple[str, ...]] = {
+    "foundation":       (),
+    "language":         ("foundation",),
+    "calc":             ("foundation", "language"),
+    "worksheet/model":  ("foundation", "language", "calc"),
+    "worksheet/window": ("foundation", "language", "calc", "worksheet/model"),
+    "storage":          ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
+}
+
+# Floors that know no window system.
+_WITHOUT_WIDGETS = ("foundation", "language", "calc", "worksheet/model")
+
+_INCLUDE = re.compile(r'\s*#\s*include\s+([<"])([^>"]+)[>"]')
+
+
+def _floor_of(file: Path) -> str | None:
+    folder = file.parent.as_posix()
+    found = [floor for floor in _FLOORS if folder == floor or folder.startswith(floor + "/")]
+    return max(found, key=len, default=None)
+
+
+def _widget_headers() -> frozenset[str]:
+    folders = Path("/usr/include").glob("**/qt6/QtWidgets")
+    return frozenset(header.name for folder in folders for header in folder.iterdir()
+                     if header.is_file())
+
+
+def _includes(file: Path) -> Iterator[tuple[int, bool, str]]:
+    """Line number, whether it stands in quotes, and name of each include."""
+    for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), start=1):
+        found = _INCLUDE.match(line)
+        if found:
+            yield number, found[1] == '"', found[2]
+
+
+def _faults(file: Path, homes: dict[str, set[str]], widgets: frozenset[str]) -> Iterator[str]:
+    floor = _floor_of(file)
+    for number, quoted, name in _includes(file):
+        place = f"{file}:{number}:"
+        if ".." in Path(name).parts:
+            yield f"{place} {name}: no include climbs out of its folder"
+        if floor is None:
+            continue
+        above = homes[name] - {floor, *_FLOORS[floor]} if quoted else set()
+        if above:
+            yield f"{place} {name} belongs to {', '.join(sorted(above))}, which {floor} may not know"
+        if floor in _WITHOUT_WIDGETS and (name in widgets or name.startswith("QtWidgets")):
+            yield f"{place} {name}: {floor} knows no widget"
+
+
+def main() -> int:
+    files = [Path(name) for name in sys.argv[1:]]
+    homes: dict[str, set[str]] = defaultdict(set)
+    for file in files:
+        floor = _floor_of(file)
+        if file.suffix == ".h" and floor:
+            homes[file.name].add(floor)
+    widgets = _widget_headers()
+    faults = [fault for file in files for fault in _faults(file, homes, widgets)]
+    faults += [f"{name}: one name for headers of {', '.join(sorted(floors))}"
+               for name, floors in homes.items() if len(floors) > 1]
+    print("\n".join(faults))
+    return 1 if faults else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,74 @@
+"""Starts the program on a desktop of its own and plays a scenario in its window.
+
+What the scenario reads is printed as "control<TAB>text"; the exit code is 0 when every step went
+well, 1 when the window did not do as it should, 2 when the scenario is at fault.
+"""
+
+from __future__ import annotations
+
+import argparse
+import sys
+from pathlib import Path
+
+from accessibility import BusError
+from controls import Texts
+from scenario import Malformed, Reading, parse, play
+from session import Session
+from waiting import Expired
+from window import Refused, Window
+
+_ROOT = Path(__file__).resolve().parents[2]
+
+
+def _arguments() -> argparse.Namespace:
+    parser = argparse.ArgumentParser(prog="driver", description=__doc__)
+    parser.add_argument("scenario", nargs="?", type=Path,
+                        help="file of steps (default: standard input); scenario.py lists them")
+    parser.add_argument("--program", type=Path, default=_ROOT / "build/release/bin/Loan")
+    parser.add_argument("--texts", type=Path, default=_ROOT / "language/components",
+                        help="folder of the language components' texts")
+    parser.add_argument("--locale", default="en_US.UTF-8")
+    parser.add_argument("--deadline", type=float, default=10.0, metavar="SECONDS",
+                        help="how long to wait for each thing to happen (default: %(default)s)")
+    parser.add_argument("--noisy", action="store_true",
+                        help="let the X server, the window manager and the bus speak")
+    return parser.parse_args()
+
+
+def _show(reading: Reading) -> None:
+    text = reading.text.replace("\n", "\\n") if reading.control != "tree" else reading.text
+    print(f"{reading.control}\t{text}", flush=True)
+
+
+def main() -> int:
+    given = _arguments()
+    try:
+        lines = (given.scenario.read_text(encoding="utf-8") if given.scenario
+                 else sys.stdin.read()).splitlines()
+        steps = parse(lines)
+        texts = Texts(given.texts)
+    except (OSError, Malformed) as error:
+        print(f"driver: {error}", file=sys.stderr)
+        return 2
+    with Session(given.locale, noisy=given.noisy) as session:
+        window = None
+        try:
+            window = Window(session, given.program, texts, given.deadline)
+            for reading in play(window, steps):
+                _show(reading)
+        except (Refused, Expired, BusError, OSError) as error:
+            print(f"driver: {error}", file=sys.stderr)
+            return 1
+        finally:
+            said = (session.folder / "program.log")
+            if said.exists() and said.stat().st_size:
+                print(f"driver: the program said:\n{said.read_text(errors='replace')}",
+                      file=sys.stderr)
+    return 0
+
+
+if __name__ == "__main__":
+    try:
+        sys.exit(main())
+    except KeyboardInterrupt:
+        sys.exit(130)

@@ -1,0 +1,132 @@
+"""The accessibility bus as the driver sees it: a tree of controls with roles, names and texts.
+
+Nothing is cached: every question goes to the running program, so that what is read is what the
+window shows at that moment. Knows nothing of loans and moves no mouse.
+"""
+
+from __future__ import annotations
+
+from collections.abc import Iterator
+from dataclasses import dataclass
+from typing import Any
+
+from gi.repository import Gio, GLib
+
+_PREFIX = "org.a11y.atspi."
+_ROOT = "/org/a11y/atspi/accessible/root"
+_SCREEN = 0  # coordinates counted from the corner of the screen
+_TIMEOUT_MS = 10_000
+
+# Bits of a control's state, as the accessibility protocol numbers them.
+ACTIVE = 1
+CHECKED = 4
+EXPANDED = 10
+FOCUSED = 12
+SHOWING = 25
+
+
+class BusError(Exception):
+    """The bus or the program behind it gave no answer."""
+
+
+@dataclass(frozen=True)
+class Box:
+    """Where a control stands on the screen, in pixels."""
+
+    x: int
+    y: int
+    width: int
+    height: int
+
+    def middle(self) -> tuple[int, int]:
+        return self.x + self.width // 2, self.y + self.height // 2
+
+
+class Bus:
+    """A connection to the accessibility bus of one session."""
+
+    def __init__(self, session_address: str) -> None:
+        answer = _connect(session_address).call_sync(
+            "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress",
+            None, None, Gio.DBusCallFlags.NONE, _TIMEOUT_MS, None)
+        self._connection = _connect(answer.unpack()[0])
+
+    def call(self, owner: str, path: str, interface: str, method: str,
+             arguments: GLib.Variant | None = None) -> Any:
+        """The first value of the answer. Raises BusError."""
+        try:
+            answer = self._connection.call_sync(
+                owner, path, interface, method, arguments, None,
+                Gio.DBusCallFlags.NONE, _TIMEOUT_MS, None)
+        except GLib.Error as error:
+            raise BusError(f"{method} on {path}: {error.message}") from error
+        return answer.unpack()[0]
+
+    def programs(self) -> list[Node]:
+        """The programs that have said they can be read; the newest last."""
+        children = self.call(_PREFIX + "Registry", _ROOT, _PREFIX + "Accessible", "GetChildren")
+        return [Node(self, owner, path) for owner, path in children]
+
+
+class Node:
+    """One control, menu or window of a running program."""
+
+    def __init__(self, bus: Bus, owner: str, path: str) -> None:
+        self._bus = bus
+        self._owner = owner
+        self.path = path
+
+    def __eq__(self, other: object) -> bool:
+        return isinstance(other, Node) and (self._owner, self.path) == (other._owner, other.path)
+
+    def __hash__(self) -> int:
+        return hash((self._owner, self.path))
+
+    def _ask(self, interface: str, method: str, arguments: GLib.Variant | None = None) -> Any:
+        return self._bus.call(self._owner, self.path, interface, method, arguments)
+
+    def _property(self, interface: str, name: str) -> Any:
+        return self._ask("org.freedesktop.DBus.Properties", "Get",
+                         GLib.Variant("(ss)", (_PREFIX + interface, name)))
+
+    def role(self) -> str:
+        return str(self._ask(_PREFIX + "Accessible", "GetRoleName"))
+
+    def name(self) -> str:
+        return str(self._property("Accessible", "Name"))
+
+    def children(self) -> list[Node]:
+        found = self._ask(_PREFIX + "Accessible", "GetChildren")
+        return [Node(self._bus, owner, path) for owner, path in found]
+
+    def has(self, state: int) -> bool:
+        words = self._ask(_PREFIX + "Accessible", "GetState")
+        return bool(words[state // 32] >> (state % 32) & 1)
+
+    def box(self) -> Box:
+        x, y, width, height = self._ask(
+            _PREFIX + "Component", "GetExtents", GLib.Variant("(u)", (_SCREEN,)))
+        return Box(x, y, width, height)
+
+    def text(self) -> str:
+        """What an entry field shows. Raises BusError for a control without text."""
+        return str(self._ask(_PREFIX + "Text", "GetText", GLib.Variant("(ii)", (0, -1))))
+
+    def walk(self) -> Iterator[Node]:
+        """This node and all below it, parents first; what goes away meanwhile is left out."""
+        yield self
+        try:
+            below = self.children()
+        except BusError:
+            return
+        for child in below:
+            yield from child.walk()
+
+
+def _connect(address: str) -> Gio.DBusConnection:
+    flags = (Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+             | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION)
+    try:
+        return Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
+    except GLib.Error as error:
+        raise BusError(f"cannot reach the bus {address}: {error.message}") from error

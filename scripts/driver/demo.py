@@ -1,0 +1,111 @@
+"""Shows the program at work: fills its window with a sample, takes pictures, prints what it reads.
+
+Nothing printed is computed here: every figure is what the window shows.
+"""
+
+from __future__ import annotations
+
+import argparse
+import sys
+from pathlib import Path
+
+from accessibility import BusError
+from controls import Texts
+from scenario import parse, play
+from session import Session
+from waiting import Expired
+from window import Refused, Window
+
+_ROOT = Path(__file__).resolve().parents[2]
+_SAMPLE = Path(__file__).with_name("sample.scenario")
+_OFFERS = 6
+
+_COLUMNS = {
+    # heading     control of the row   to the right
+    "F?":         ("chkPoints", False),
+    "Points":     ("txtPoints", True),
+    "Rate":       ("txtInterestRate", True),
+    "Term":       ("txtTerm", True),
+    "Frequency":  ("cboFrequency", False),
+    "P & I":      ("txtPandI", True),
+    "Payment":    ("txtPayment", True),
+    "Actual":     ("txtActualPayment", True),
+    "Payoff":     ("txtPayoffDate", True),
+    "Interest":   ("txtInterest", True),
+    "Lender":     ("txtWho", False),
+}
+
+_CURRENT = {
+    "Loan amount":      "txtCurLoanAmount",
+    "Term":             "txtCurLoanTerm",
+    "Rate":             "txtCurInterestRate",
+    "Payment":          "txtCurPayment",
+    "Balance":          "txtCurrentBalance",
+    "Actual payment":   "txtCurActualPayment",
+    "Next payment":     "dtNextPayment",
+    "Amount left":      "txtCurAmountLeft",
+    "Interest left":    "txtCurInterestLeft",
+    "Payoff":           "txtCurPayoffDate",
+}
+
+
+def _arguments() -> argparse.Namespace:
+    parser = argparse.ArgumentParser(prog="scripts/demo", description=__doc__)
+    parser.add_argument("--locale", default="en_US.UTF-8")
+    parser.add_argument("--pictures", type=Path, default=_ROOT / "demo", metavar="FOLDER")
+    parser.add_argument("--program", type=Path, default=_ROOT / "build/release/bin/Loan")
+    return parser.parse_args()
+
+
+def _speak(window: Window, language: int, file: Path) -> None:
+    """Chooses a language in the menu and takes a picture of the window in it."""
+    window.menu(["mnuTools", "mnuToolsLanguage", f"mnuToolsLanguageOpt({language})"])
+    window.screenshot(file)
+    print(f"picture: {file}")
+
+
+def _print_offers(window: Window) -> None:
+    rows = [list(_COLUMNS)]
+    for row in range(_OFFERS):
+        rows.append([window.read(f"{control}({row})") for control, _ in _COLUMNS.values()])
+    widths = [max(len(row[column]) for row in rows) for column in range(len(_COLUMNS))]
+    for row in rows:
+        cells = [cell.rjust(width) if right else cell.ljust(width)
+                 for cell, width, (_, right) in zip(row, widths, _COLUMNS.values())]
+        print("  ".join(cells).rstrip())
+
+
+def _print_current(window: Window) -> None:
+    print("\nThe loan held today")
+    for heading, control in _CURRENT.items():
+        print(f"  {heading:<15}{window.read(control):>14}")
+    print(f"  {'Monthly escrow':<15}{window.read('txtMonthlyEscrow'):>14}\n")
+
+
+def _show(window: Window, pictures: Path) -> None:
+    window.menu(["mnuTools", "mnuToolsLanguage", "mnuToolsLanguageOpt(1)"])
+    for reading in play(window, parse(_SAMPLE.read_text(encoding="utf-8").splitlines())):
+        print(f"{reading.control}: {reading.text}\n")
+    _print_offers(window)
+    _print_current(window)
+    _speak(window, 1, pictures / "window-english.png")
+    _speak(window, 2, pictures / "window-spanish.png")
+
+
+def main() -> int:
+    given = _arguments()
+    with Session(given.locale) as session:
+        try:
+            window = Window(session, given.program, Texts(_ROOT / "language/components"), 10.0)
+            _show(window, given.pictures.resolve())
+        except (Refused, Expired, BusError, OSError) as error:
+            print(f"demo: {error}", file=sys.stderr)
+            return 1
+    return 0
+
+
+if __name__ == "__main__":
+    try:
+        sys.exit(main())
+    except KeyboardInterrupt:
+        sys.exit(130)

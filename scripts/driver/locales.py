@@ -1,0 +1,19 @@
+"""How the locales that scenarios are played in write numbers and dates.
+
+Known here from outside, so that the driver takes nothing from the program it watches.
+"""
+
+from __future__ import annotations
+
+_POINT = ("C", "POSIX", "en_", "es_MX", "es_US")
+_MONTH_FIRST = ("en_US", "es_US")
+
+
+def decimal_sign(locale: str) -> str:
+    return "." if locale.startswith(_POINT) else ","
+
+
+def typed_date(locale: str, day: str) -> str:
+    """A date given as year-month-day, written in the order in which the locale shows it."""
+    year, month, date = (str(int(part)) for part in day.split("-"))
+    return "/".join([month, date, year] if locale.startswith(_MONTH_FIRST) else [date, month, year])

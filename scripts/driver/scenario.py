@@ -1,0 +1,125 @@
+"""Scenarios: what a user does, line by line.
+
+    # a note
+    type <control> <text>           replaces what the field holds and leaves it by Tab
+    number <control> <number>       the same with the locale's own decimal sign in place of a point
+    date <control> <yyyy-mm-dd>     the same in a date picker
+    choose <control> <text>|@<n>    picks an entry of a list, by text or by the text's number
+    check <control>, clear <control>
+    press <control>                 clicks on a button
+    menu <entry> <entry> ...        opens the menus and clicks on the last entry
+    key <control> <key> ...         presses keys by their X names, such as Down or shift+Tab
+    keystrokes <control> <text>     types, and neither empties the field nor leaves it
+    dialog                          waits for a message box, prints its text and closes it
+    expect <control> <text>         waits until the control shows the text
+    read <control> ...              prints what each control shows
+    name <control> ...              prints what a screen reader calls each control
+    title                           prints the title of the window
+    screenshot <file>               takes a picture of the window
+    tree                            prints all controls there are
+    quit                            closes the window and waits for a good end
+
+Printed is a line for each thing read: the control, a tab, the text.
+"""
+
+from __future__ import annotations
+
+from collections.abc import Callable, Iterable, Iterator
+from dataclasses import dataclass
+from pathlib import Path
+
+from window import Refused, Window
+
+
+class Malformed(Exception):
+    """A line that is no step of a scenario."""
+
+
+@dataclass(frozen=True)
+class Reading:
+    """What one control showed."""
+
+    control: str
+    text: str
+
+
+@dataclass(frozen=True)
+class Step:
+    """One line of a scenario."""
+
+    number: int
+    command: str
+    rest: str
+
+
+Handler = Callable[[Window, str], list[Reading]]
+
+
+def parse(lines: Iterable[str]) -> list[Step]:
+    """The steps of a scenario. Raises Malformed for a command that there is not."""
+    steps = []
+    for number, line in enumerate(lines, start=1):
+        command, _, rest = line.strip().partition(" ")
+        if not command or command.startswith("#"):
+            continue
+        if command not in _HANDLERS:
+            raise Malformed(f"line {number}: there is no {command!r}")
+        steps.append(Step(number, command, rest.strip()))
+    return steps
+
+
+def play(window: Window, steps: Iterable[Step]) -> Iterator[Reading]:
+    """Carries the steps out, giving each reading as it is made. Raises Refused."""
+    for step in steps:
+        try:
+            yield from _HANDLERS[step.command](window, step.rest)
+        except KeyError as error:
+            raise Refused(f"line {step.number}: there is no control {error}") from error
+        except Exception as error:
+            raise Refused(f"line {step.number}: {step.command} {step.rest}: {error}") from error
+
+
+def _two(rest: str) -> tuple[str, str]:
+    control, _, text = rest.partition(" ")
+    return control, text.strip()
+
+
+def _deed(act: Callable[[Window, str, str], None]) -> Handler:
+    def handle(window: Window, rest: str) -> list[Reading]:
+        act(window, *_two(rest))
+        return []
+    return handle
+
+
+def _look(read: Callable[[Window, str], str]) -> Handler:
+    def handle(window: Window, rest: str) -> list[Reading]:
+        return [Reading(control, read(window, control)) for control in rest.split()]
+    return handle
+
+
+def _note(what: str, read: Callable[[Window], str]) -> Handler:
+    def handle(window: Window, _rest: str) -> list[Reading]:
+        return [Reading(what, read(window))]
+    return handle
+
+
+_HANDLERS: dict[str, Handler] = {
+    "type": _deed(Window.type),
+    "number": _deed(Window.number),
+    "date": _deed(Window.date),
+    "choose": _deed(Window.choose),
+    "check": _deed(lambda window, control, _: window.check(control)),
+    "clear": _deed(lambda window, control, _: window.check(control, wanted=False)),
+    "press": _deed(lambda window, control, _: window.press(control)),
+    "menu": _deed(lambda window, first, rest: window.menu([first, *rest.split()])),
+    "key": _deed(lambda window, control, keys: window.key(control, keys.split())),
+    "keystrokes": _deed(Window.keystrokes),
+    "expect": _deed(Window.expect),
+    "screenshot": _deed(lambda window, file, _: window.screenshot(Path(file))),
+    "quit": _deed(lambda window, *_: window.quit()),
+    "read": _look(Window.read),
+    "name": _look(lambda window, control: window.find(control).name()),
+    "dialog": _note("dialog", Window.dialog),
+    "title": _note("title", Window.title),
+    "tree": _note("tree", Window.tree),
+}

@@ -1,0 +1,173 @@
+"""A desktop of its own for one run of the program: X server, window manager, message bus.
+
+Everything started here ends here, also after a failure or a signal: the driver adopts what its
+children leave behind and ends it by process id. Knows nothing of the program's controls.
+"""
+
+from __future__ import annotations
+
+import ctypes
+import os
+import secrets
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+from collections.abc import Mapping, Sequence
+from contextlib import ExitStack
+from pathlib import Path
+from types import FrameType, TracebackType
+
+from waiting import wait_for
+
+_LIBC = ctypes.CDLL(None, use_errno=True)
+_PR_SET_PDEATHSIG = 1
+_PR_SET_CHILD_SUBREAPER = 36
+_GRACE_SECONDS = 3.0
+
+
+def _die_with_parent() -> None:
+    """Runs in a child before its program starts: no child outlives a driver that was killed."""
+    _LIBC.prctl(_PR_SET_PDEATHSIG, signal.SIGTERM, 0, 0, 0)
+
+
+def _stop(_number: int, _frame: FrameType | None) -> None:
+    raise KeyboardInterrupt
+
+
+def _children() -> list[int]:
+    """Process ids of the children of this process that have not been waited for."""
+    found: list[int] = []
+    for task in Path("/proc/self/task").iterdir():
+        try:
+            found += [int(word) for word in (task / "children").read_text().split()]
+        except OSError:
+            continue
+    return found
+
+
+def _reap() -> None:
+    while True:
+        try:
+            if os.waitpid(-1, os.WNOHANG)[0] == 0:
+                return
+        except ChildProcessError:
+            return
+
+
+def _end_children() -> None:
+    """Ends the children, and theirs as they become ours, first gently and then by force."""
+    start = time.monotonic()
+    asked: set[int] = set()
+    while True:
+        _reap()
+        left = _children()
+        if not left:
+            return
+        force = time.monotonic() - start > _GRACE_SECONDS
+        for child in left:
+            if force or child not in asked:
+                asked.add(child)
+                try:
+                    os.kill(child, signal.SIGKILL if force else signal.SIGTERM)
+                except ProcessLookupError:
+                    pass
+        time.sleep(0.01)
+
+
+class Session:
+    """Starts the desktop on entering and ends it on leaving."""
+
+    def __init__(self, locale: str, screen: str = "1400x900x24", noisy: bool = False) -> None:
+        self._locale = locale
+        self._screen = screen
+        self._output = None if noisy else subprocess.DEVNULL
+        self._cleanup = ExitStack()
+        self.environment: dict[str, str] = {}
+        self.folder = Path()
+
+    def __enter__(self) -> Session:
+        _LIBC.prctl(_PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0)
+        for number in (signal.SIGTERM, signal.SIGHUP):
+            signal.signal(number, _stop)
+        with ExitStack() as undo:
+            self.folder = Path(undo.enter_context(tempfile.TemporaryDirectory(prefix="loan-")))
+            undo.callback(_end_children)
+            self.environment = self._fresh_environment()
+            self._start_display()
+            self._start_bus()
+            self._start_window_manager()
+            self._cleanup = undo.pop_all()
+        return self
+
+    def __exit__(self, kind: type[BaseException] | None, error: BaseException | None,
+                 trace: TracebackType | None) -> None:
+        self._cleanup.close()
+
+    def start(self, command: Sequence[str], extra: Mapping[str, str] | None = None,
+              output: int | None = None, pass_fds: Sequence[int] = ()) -> subprocess.Popen[bytes]:
+        """A child in this session's environment; it need not be ended by the caller."""
+        return subprocess.Popen(
+            command, env={**self.environment, **(extra or {})}, stdin=subprocess.DEVNULL,
+            stdout=self._output if output is None else output,
+            stderr=self._output if output is None else output,
+            pass_fds=pass_fds, preexec_fn=_die_with_parent)
+
+    def _fresh_environment(self) -> dict[str, str]:
+        """The caller's environment with this locale and folders that nobody has used before."""
+        left_out = ("LC_", "LANG", "XDG_", "DBUS_", "WAYLAND_", "QT_", "AT_SPI")
+        environment = {key: value for key, value in os.environ.items()
+                       if not key.startswith(left_out)}
+        for name in ("CONFIG_HOME", "DATA_HOME", "CACHE_HOME", "STATE_HOME", "RUNTIME_DIR"):
+            folder = self.folder / name.lower()
+            folder.mkdir(mode=0o700)
+            environment["XDG_" + name] = str(folder)
+        home = self.folder / "home"
+        home.mkdir()
+        environment.update(HOME=str(home), LC_ALL=self._locale,
+                           XAUTHORITY=str(self.folder / "xauthority"))
+        return environment
+
+    def _start_display(self) -> None:
+        cookie = secrets.token_hex(16)
+        server_cookies = str(self.folder / "server-cookies")
+        self._add_cookie(server_cookies, ":0", cookie)
+        reading, writing = os.pipe()
+        server = self.start(
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", self._screen,
+             "-nolisten", "tcp", "-noreset", "-auth", server_cookies], pass_fds=[writing])
+        os.close(writing)
+        with os.fdopen(reading) as answer:
+            display = answer.readline().strip()
+        if not display:
+            sys.exit(f"Xvfb did not start (exit code {server.wait()})")
+        self.environment["DISPLAY"] = f":{display}"
+        self._add_cookie(self.environment["XAUTHORITY"], f":{display}", cookie)
+
+    def _add_cookie(self, file: str, display: str, cookie: str) -> None:
+        subprocess.run(["xauth", "-q", "-f", file, "add", display, ".", cookie],
+                       check=True, env=self.environment, stderr=subprocess.DEVNULL)
+
+    def _start_bus(self) -> None:
+        address = f"unix:path={self.folder}/bus"
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
+        self.start(["dbus-daemon", "--session", "--nofork", "--nopidfile",
+                    f"--address={address}"])
+        wait_for("the message bus", (self.folder / "bus").exists, 10)
+
+    def _start_window_manager(self) -> None:
+        """A window that is mapped before its manager is there would never become active.
+
+        At the first key from a new keyboard the manager takes up its shortcuts anew and may miss
+        that key, so one without a meaning comes first.
+        """
+        self.start(["openbox"])
+
+        def ready() -> bool:
+            return subprocess.run(["xdotool", "get_num_desktops"], env=self.environment,
+                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                  check=False).returncode == 0
+
+        wait_for("the window manager", ready, 10)
+        subprocess.run(["xdotool", "key", "Shift_L"], env=self.environment, check=True)

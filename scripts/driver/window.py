@@ -1,0 +1,320 @@
+"""The running program's window, worked the way its user works it.
+
+A control is found by its accessible name, gets the focus by a click where it stands on the screen,
+and is typed into; what it shows is read back from the screen reader's side. No method sets a value
+behind the window's back.
+"""
+
+from __future__ import annotations
+
+import subprocess
+from collections.abc import Callable
+from functools import partial
+from pathlib import Path
+
+from accessibility import (ACTIVE, CHECKED, EXPANDED, FOCUSED, SHOWING, Bus, BusError,
+                           Node)
+from controls import Texts, kind_of
+from locales import decimal_sign, typed_date
+from pointer import Hands
+from session import Session
+from waiting import Expired, Found, wait_for
+
+_DIALOG_ROLES = frozenset({"alert", "alert message", "dialog"})
+_WINDOW_ROLES = frozenset({"frame", "window"})
+
+
+class Refused(Exception):
+    """The window did something else than a user would expect here."""
+
+
+class Window:
+    """The main window of one run of the program; it does not start or stop anything but that."""
+
+    def __init__(self, session: Session, program: Path, texts: Texts, seconds: float) -> None:
+        self._session = session
+        self._texts = texts
+        self._seconds = seconds
+        self._hands = Hands(session.environment)
+        self._locale = session.environment["LC_ALL"]
+        self._known: dict[str, Node] = {}
+        self._log = session.folder / "program.log"
+        with self._log.open("wb") as log:
+            self._process = session.start(
+                [str(program)], {"QT_QPA_PLATFORM": "xcb", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"},
+                output=log.fileno())
+        self._bus = Bus(session.environment["DBUS_SESSION_BUS_ADDRESS"])
+        self._frame = wait_for("the window to become active",
+                               lambda: self._top(_WINDOW_ROLES, ACTIVE), 3 * seconds)
+        self._wait("the window manager to know that", self._hands.window_in_hand)
+        self._look_around()
+
+    # What stands on the screen
+
+    def _alive(self) -> None:
+        code = self._process.poll()
+        if code is not None:
+            raise Refused(f"the program ended by itself (exit code {code})")
+
+    def _top(self, roles: frozenset[str], state: int) -> Node | None:
+        """The window of those roles that is in that state, if there is one."""
+        self._alive()
+        try:
+            tops = [top for program in self._bus.programs() for top in program.children()]
+            return next((top for top in tops if top.role() in roles and top.has(state)), None)
+        except BusError:
+            return None
+
+    def _dialog_now(self) -> Node | None:
+        return self._top(_DIALOG_ROLES, SHOWING)
+
+    def _must_be_free(self) -> None:
+        dialog = self._dialog_now()
+        if dialog:
+            raise Refused(f"a message box stands in the way: {_words(dialog)!r}")
+
+    def _look_around(self) -> list[str]:
+        """Notes each control that goes by a known name, and gives all the names there are.
+
+        A list that holds a value goes by that value instead of its own name, so a control is
+        remembered from the first time it is seen.
+        """
+        seen = []
+        for node in self._frame.walk():
+            try:
+                role, name = node.role(), node.name()
+            except BusError:
+                continue
+            seen.append(f"{role} {name!r}")
+            control = self._texts.control_of(role, name)
+            if control and not (control in self._known and _is_there(self._known[control])):
+                self._known[control] = node
+        return seen
+
+    def find(self, control: str) -> Node:
+        """The control of that name. Raises Refused, listing the names there are."""
+        kind_of(control)
+        self._alive()
+        if not (control in self._known and _is_there(self._known[control])):
+            self._known.pop(control, None)
+            seen = self._look_around()
+            if control not in self._known:
+                raise Refused(f"found no {control} among {', '.join(seen)}")
+        return self._known[control]
+
+    # What the user does
+
+    def focus(self, control: str) -> Node:
+        """Clicks on the control and waits until it has the focus."""
+        node = self.find(control)
+        if not _has_focus(node):
+            self._must_be_free()
+            self._hands.click(*node.box().middle())
+            self._wait(f"{control} to take the focus", lambda: _has_focus(node))
+        return node
+
+    def type(self, control: str, text: str) -> None:
+        """Replaces what the field holds and leaves it by Tab."""
+        node = _field_of(self.focus(control))
+        self._hands.keys("ctrl+a", "Delete")
+        self._hands.text(text)
+        self._wait(f"{control} to show {text!r}", lambda: node.text() == text)
+        self._hands.keys("Tab")
+        self._wait(f"{control} to be left or a message",
+                   lambda: self._dialog_now() or not _has_focus(node))
+
+    def number(self, control: str, text: str) -> None:
+        """Types a number given with a decimal point as the locale writes it."""
+        self.type(control, text.replace(".", decimal_sign(self._locale)))
+
+    def key(self, control: str, names: list[str]) -> None:
+        """Presses keys in the control, by their X names."""
+        self.focus(control)
+        self._hands.keys(*names)
+
+    def keystrokes(self, control: str, text: str) -> None:
+        """Types into the control without emptying, checking or leaving it."""
+        self.focus(control)
+        self._hands.text(text)
+
+    def choose(self, control: str, wanted: str) -> None:
+        """Opens a list and picks an entry by keys: by its text, or by @ and the number of its
+        text, whatever the language."""
+        node = self.find(control)
+        items = self._open_list(control)
+        index = self._index_of(wanted, [item.name() for item in items])
+        self._hands.keys("Home", *["Down"] * index)
+        self._wait(f"{control} to offer {wanted!r}", lambda: items[index].has(FOCUSED))
+        self._hands.keys("Return")
+        self._wait(f"the list of {control} to close", lambda: not node.has(EXPANDED))
+
+    def check(self, control: str, wanted: bool = True) -> None:
+        """Clicks on a check box unless it stands as wanted."""
+        node = self.find(control)
+        if node.has(CHECKED) != wanted:
+            self._must_be_free()
+            box = node.box()
+            self._hands.click(box.x + min(8, box.width // 2), box.middle()[1])
+            self._wait(f"{control} to be {'checked' if wanted else 'clear'}",
+                       lambda: node.has(CHECKED) == wanted)
+
+    def press(self, control: str) -> None:
+        """Clicks on a button."""
+        self._must_be_free()
+        self._hands.click(*self.find(control).box().middle())
+
+    def menu(self, path: list[str]) -> None:
+        """Opens one menu after another and clicks on the last entry."""
+        self._must_be_free()
+        for entry in path:
+            node = self.find(entry)
+            self._wait(f"{entry} to be shown", partial(_is_shown, node))
+            self._hands.click(*node.box().middle())
+        if len(path) > 1:
+            last = self.find(path[-1])
+            self._wait("the menu to close", lambda: not last.has(SHOWING))
+
+    def date(self, control: str, day: str) -> None:
+        """Types a date given as year-month-day, in the order the locale shows it; leaves by Tab."""
+        node = self.focus(control)
+        # The first section gives way to what is typed only when it is marked, as a step marks it.
+        self._hands.keys("Home", "Up", "Down")
+        self._hands.text(typed_date(self._locale, day))
+        self._hands.keys("Tab")
+        self._wait(f"{control} to be left", lambda: not _has_focus(node))
+
+    def dialog(self, seconds: float | None = None) -> str:
+        """Waits for a message box, closes it by its button's key and gives its text."""
+        box = wait_for("a message box", self._dialog_now, seconds or self._seconds)
+        words = _words(box)
+        self._hands.keys("Return")
+        self._wait("the message box to close", lambda: self._dialog_now() != box)
+        return words
+
+    def dialog_if_any(self) -> str:
+        """Closes a message box that stands open, and gives its text; empty where there is none."""
+        return self.dialog() if self._dialog_now() else ""
+
+    # What the user reads
+
+    def read(self, control: str) -> str:
+        """What the control shows: its text, the entry of a list, "yes" or "no" of a check box."""
+        node = self.find(control)
+        roles = kind_of(control)[0].roles
+        if "check box" in roles:
+            return "yes" if node.has(CHECKED) else "no"
+        if "combo box" in roles:
+            return self._read_list(control, node)
+        return node.text() if "text" in roles else node.name()
+
+    def _read_list(self, control: str, node: Node) -> str:
+        """What a list shows: its field's text, or the entry it goes by instead of its own name."""
+        field = _field_of(node)
+        if field is not node:
+            return field.text()
+        name = node.name()
+        return "" if name in self._texts.names(control) else name
+
+    def expect(self, control: str, text: str) -> None:
+        """Waits until the control shows the text."""
+        last = ""
+
+        def shown() -> bool:
+            nonlocal last
+            last = self.read(control)
+            return last == text
+
+        try:
+            self._wait(f"{control} to show {text!r}", shown)
+        except Expired as error:
+            raise Refused(f"{error}; it shows {last!r}") from error
+
+    def title(self) -> str:
+        return self._frame.name()
+
+    def tree(self) -> str:
+        """Every control with its role, name and place: for whoever looks for one in vain."""
+        lines = []
+        for node in self._frame.walk():
+            try:
+                lines.append(f"{node.role()}\t{node.name()}\t{node.box()}")
+            except BusError as error:
+                lines.append(str(error))
+        return "\n".join(lines)
+
+    def screenshot(self, file: Path) -> None:
+        """A picture of the window with its frame, with the mouse out of the way."""
+        file.parent.mkdir(parents=True, exist_ok=True)
+        self._hands.rest()
+        subprocess.run(["scrot", "--overwrite", "--focused", "--border", str(file)], check=True, timeout=60,
+                       env=self._session.environment, stdin=subprocess.DEVNULL)
+
+    def said(self) -> str:
+        """What the program wrote to its terminal so far."""
+        return self._log.read_text(encoding="utf-8", errors="replace").strip()
+
+    def quit(self) -> None:
+        """Closes the window as its frame's cross does, and waits for the program to end well."""
+        self._hands.keys("alt+F4")
+        self._wait("the program to end", lambda: self._process.poll() is not None)
+        if self._process.returncode != 0:
+            raise Refused(f"the program ended with exit code {self._process.returncode}")
+
+    # Lists
+
+    def _open_list(self, control: str) -> list[Node]:
+        """Clicks on the arrow at the right end of a list and gives the entries it then shows."""
+        node = self.find(control)
+        self._must_be_free()
+        box = node.box()
+        self._hands.click(box.x + box.width - 8, box.middle()[1])
+        return self._wait(f"the list of {control} to open", lambda: _open_items(node))
+
+    def _index_of(self, wanted: str, entries: list[str]) -> int:
+        named = {wanted}
+        if wanted.startswith("@"):
+            named = self._texts.shown(int(wanted[1:]))
+        found = next((index for index, entry in enumerate(entries) if entry in named), None)
+        if found is None:
+            raise Refused(f"the list has no {wanted!r}, but {entries}")
+        return found
+
+    def _wait(self, what: str, condition: Callable[[], Found]) -> Found:
+        try:
+            return wait_for(what, condition, self._seconds)
+        except Expired:
+            self._must_be_free()
+            raise
+
+
+def _is_there(node: Node) -> bool:
+    try:
+        return bool(node.role())
+    except BusError:
+        return False
+
+
+def _is_shown(node: Node) -> bool:
+    return node.has(SHOWING) and node.box().width > 0
+
+
+def _field_of(node: Node) -> Node:
+    """The entry field within a list that has one; otherwise the control itself."""
+    return next((child for child in node.children() if child.role() == "text"), node)
+
+
+def _has_focus(node: Node) -> bool:
+    return node.has(FOCUSED) or _field_of(node).has(FOCUSED)
+
+
+def _open_items(node: Node) -> list[Node]:
+    """The entries of a list that is open; none while it is closed or marks no entry."""
+    if not node.has(EXPANDED):
+        return []
+    return [item for part in node.children() if part.role() == "list" for item in part.children()]
+
+
+def _words(dialog: Node) -> str:
+    """The text of a message box."""
+    return "\n".join(part.name() for part in dialog.walk()
+                     if part.role() == "label" and part.name())

@@ -1,0 +1,37 @@
+#include "Drive.h"
+
+#include <QProcess>
+
+namespace {
+
+/// Longer than any scenario takes under the sanitizers, shorter than a test may run.
+constexpr int PatienceMs = 110'000;
+
+/// The interpreter that the driver's packages belong to.
+const QString& Interpreter() {
+    static const QString path = QStringLiteral("/usr/bin/python3");
+    return path;
+}
+
+} // namespace
+
+DriveResult Drive(const std::string& locale, const std::string& scenario) {
+    QProcess driver;
+    driver.start(Interpreter(),
+                 {QStringLiteral(QUEND_SOURCE_DIR "/scripts/driver"), QStringLiteral("--program"),
+                  QStringLiteral(QUEND_PROGRAM_DIR "/Loan"), QStringLiteral("--locale"),
+                  QString::fromStdString(locale)});
+    driver.write(QByteArray::fromStdString(scenario));
+    driver.closeWriteChannel();
+    const bool ended = driver.waitForFinished(PatienceMs);
+    DriveResult result{.readings = driver.readAllStandardOutput().toStdString(),
+                       .complaints = driver.readAllStandardError().toStdString()};
+    if (!ended) {
+        result.complaints += "the driver did not end: " + driver.errorString().toStdString();
+        driver.terminate();
+        driver.waitForFinished();
+    } else if (driver.exitCode() != 0 && result.complaints.empty()) {
+        result.complaints = "the driver ended with " + std::to_string(driver.exitCode());
+    }
+    return result;
+}

@@ -148,10 +148,11 @@ TEST_F(TabOrder, GoesThroughBothBandsAndRowByRow) {
 }
 
 TEST_F(TabOrder, GoesBackTheSameWay) {
-    const QStringList expected = ExpectedOrder(3);
+    QStringList expected = ExpectedOrder(3);
+    std::ranges::reverse(expected);
     Click(RowName(u"txtWho", 2));
-    for (auto name = expected.rbegin(); name != expected.rend(); ++name) {
-        EXPECT_EQ(FocusName(), *name);
+    for (const QString& name : expected) {
+        EXPECT_EQ(FocusName(), name);
         BackTab();
     }
 }

@@ -11,7 +11,6 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QPainter>
-#include <QTimer>
 
 #include <utility>
 
@@ -166,7 +165,7 @@ void Loan::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (m_loaded && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
         // Once every control has learned of it.
-        QTimer::singleShot(0, this, &Loan::MeasureFields);
+        QMetaObject::invokeMethod(this, &Loan::MeasureFields, Qt::QueuedConnection);
     }
 }
 

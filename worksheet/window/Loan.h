@@ -68,6 +68,8 @@ private:
     void LoadWallpaper();
     void ClearRaisedMarks();
 
+    // First, because making the form raises events that ask for it.
+    bool m_loaded = false;
     Settings m_settings;
     std::unique_ptr<Ui::Loan> m_ui;
     Messages m_messages;
@@ -83,5 +85,4 @@ private:
     FocusTranslator m_focus;
     LanguageMenu m_languages;
     Wallpaper m_wallpaper;
-    bool m_loaded = false;
 };

@@ -186,6 +186,7 @@ class Window:
     def dialog(self, seconds: float | None = None) -> str:
         """Waits for a message box, closes it by its button's key and gives its text."""
         box = wait_for("a message box", self._dialog_now, seconds or self._seconds)
+        wait_for("the message box to become active", lambda: box.has(ACTIVE), self._seconds)
         words = _words(box)
         self._hands.keys("Return")
         self._wait("the message box to close", lambda: self._dialog_now() != box)

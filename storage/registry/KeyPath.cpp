@@ -1,0 +1,40 @@
+#include "KeyPath.h"
+
+#include "Utf8.h"
+
+#include <string_view>
+
+namespace {
+
+std::string_view UpToNul(std::string_view text) { return text.substr(0, text.find('\0')); }
+
+bool Fits(std::string_view name, std::size_t longest) {
+    return IsUtf8(name) && Utf16Length(name) <= longest;
+}
+
+} // namespace
+
+std::optional<std::vector<std::string>> PathElements(const std::string& keyName) {
+    std::string_view rest = UpToNul(keyName);
+    if (rest.starts_with('\\')) {
+        return std::nullopt;
+    }
+    std::vector<std::string> elements;
+    while (!rest.empty()) {
+        const std::string_view element = rest.substr(0, rest.find('\\'));
+        rest.remove_prefix(element.size() == rest.size() ? rest.size() : element.size() + 1);
+        if (element.empty()) {
+            continue;
+        }
+        if (!Fits(element, LongestKeyName) || elements.size() == DeepestPath) {
+            return std::nullopt;
+        }
+        elements.emplace_back(element);
+    }
+    return elements;
+}
+
+std::optional<std::string> ValueNameOf(const std::string& valueName) {
+    const std::string_view name = UpToNul(valueName);
+    return Fits(name, LongestValueName) ? std::optional<std::string>(name) : std::nullopt;
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// How long a name may be, in units of UTF-16, and how deep a path: what the platform's registry
+/// holds, so that a store can move between platforms.
+inline constexpr std::size_t LongestKeyName = 255;
+inline constexpr std::size_t LongestValueName = 16'383;
+inline constexpr std::size_t DeepestPath = 512;
+
+/// The elements of a path below a root: none for an empty path, which is the root itself. Doubled
+/// and trailing backslashes count for nothing. No value when no key can have that path: it starts
+/// with a backslash, is deeper or has a longer element than a store holds, or is no UTF-8. A path
+/// ends at its first NUL.
+std::optional<std::vector<std::string>> PathElements(const std::string& keyName);
+
+/// The name of a value up to its first NUL, or no value when no value can have that name.
+std::optional<std::string> ValueNameOf(const std::string& valueName);

@@ -1,0 +1,72 @@
+#include "OpenStore.h"
+
+#include "StoreFile.h"
+#include "StoreImage.h"
+#include "StoreLayout.h"
+
+#include <sqlite3.h>
+
+namespace {
+
+using StoreLayout::State;
+
+/// Whether a store that cannot be opened may still be read as a plain file.
+bool IsOutOfReach(const StoreError& error) {
+    switch (error.Code()) {
+    case SQLITE_CANTOPEN:
+    case SQLITE_READONLY:
+    case SQLITE_IOERR:
+    case SQLITE_FULL:
+    case SQLITE_PERM:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Require(bool fine, const char* otherwise) {
+    if (!fine) {
+        throw StoreError(SQLITE_MISUSE, otherwise);
+    }
+}
+
+} // namespace
+
+OpenStore::OpenStore(Connection connection, Transaction::Kind kind)
+    : m_connection(std::move(connection)), m_transaction(m_connection, kind), m_keys(m_connection) {
+    const State state = StoreLayout::StateOf(m_connection);
+    if (kind == Transaction::Kind::Write && state == State::Older) {
+        StoreLayout::Migrate(m_connection);
+        return;
+    }
+    Require(state == State::Current, "no store of this version");
+}
+
+std::unique_ptr<OpenStore> OpenStore::ToRead(const std::filesystem::path& store,
+                                             std::chrono::milliseconds wait) {
+    const auto opened = [](Connection connection) {
+        return std::unique_ptr<OpenStore>(
+            new OpenStore(std::move(connection), Transaction::Kind::Read));
+    };
+    try {
+        return opened(Connection(store, wait));
+    } catch (const StoreError& error) {
+        if (!IsOutOfReach(error)) {
+            throw;
+        }
+    }
+    const std::string image = StoreImage(store).AsPlainFile();
+    Require(!image.empty(), "no store there");
+    return opened(Connection::OfBytes(image));
+}
+
+std::unique_ptr<OpenStore> OpenStore::ToWrite(const std::filesystem::path& store,
+                                              std::chrono::milliseconds wait, Missing missing) {
+    if (missing == Missing::IsMade) {
+        StoreFile::MakeWhereMissing(store, wait);
+    }
+    Connection connection(store, wait);
+    StoreFile::SetUpForWriting(connection);
+    return std::unique_ptr<OpenStore>(
+        new OpenStore(std::move(connection), Transaction::Kind::Write));
+}

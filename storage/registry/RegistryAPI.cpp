@@ -1,0 +1,201 @@
+#include "RegistryAPI.h"
+
+#include "Failure.h"
+#include "KeyPath.h"
+#include "StoreStep.h"
+#include "ValueBytes.h"
+
+namespace {
+
+Failure NotMade() { return {1001, "", "Unable to create the registry key"}; }
+
+std::int64_t KeyOf(RegistryRoot root) { return KeyTree::RootKey(static_cast<std::uint32_t>(root)); }
+
+/// What a reader of any type gets of a value.
+std::string ReadBytes(const KeyTree::Value& value) {
+    const bool text = value.type == RegistryType::Text && !value.bytes.empty();
+    return text ? value.bytes + '\0' : value.bytes;
+}
+
+/// Calls `action` with the number of the key if there is one.
+template <typename Action>
+std::function<void(KeyTree&)> OnKey(RegistryRoot root, const std::vector<std::string>& path,
+                                    const Action& action) {
+    return [root, &path, &action](KeyTree& keys) {
+        if (const std::optional<std::int64_t> key = keys.Find(KeyOf(root), path)) {
+            action(keys, *key);
+        }
+    };
+}
+
+std::shared_ptr<StoreStep> StartStep(const std::filesystem::path& store,
+                                     std::chrono::milliseconds wait) {
+    try {
+        return std::make_shared<StoreStep>(
+            OpenStore::ToWrite(store, wait, OpenStore::Missing::IsMade), StoreStep::Kind::Writes);
+    } catch (const StoreError&) {
+        throw NotMade();
+    }
+}
+
+/// A store that cannot be read gives defaults.
+std::shared_ptr<StoreStep> StartReading(const std::filesystem::path& store,
+                                        std::chrono::milliseconds wait) {
+    std::unique_ptr<OpenStore> opened;
+    try {
+        opened = OpenStore::ToRead(store, wait);
+    } catch (const StoreError&) {
+        opened.reset();
+    }
+    return std::make_shared<StoreStep>(std::move(opened), StoreStep::Kind::Reads);
+}
+
+} // namespace
+
+RegistryAPI::RegistryAPI(std::filesystem::path store, std::chrono::milliseconds wait)
+    : m_store(std::move(store)), m_wait(wait) {}
+
+bool RegistryAPI::Read(const std::function<void(KeyTree&)>& reading) const {
+    if (m_step) {
+        return m_step->Run(reading);
+    }
+    try {
+        reading(OpenStore::ToRead(m_store, m_wait)->Keys());
+        return true;
+    } catch (const StoreError&) {
+        return false;
+    }
+}
+
+bool RegistryAPI::Write(const std::function<void(KeyTree&)>& writing, bool makesStore) const {
+    if (m_step) {
+        return m_step->Writes() && m_step->Run(writing);
+    }
+    using Missing = OpenStore::Missing;
+    try {
+        const auto store =
+            OpenStore::ToWrite(m_store, m_wait, makesStore ? Missing::IsMade : Missing::Fails);
+        writing(store->Keys());
+        store->Keep();
+        return true;
+    } catch (const StoreError&) {
+        return false;
+    }
+}
+
+bool RegistryAPI::KeyExists(RegistryRoot keyRoot, const std::string& keyName) const {
+    const auto path = PathElements(keyName);
+    bool exists = path && path->empty(); // a root is there without a store, too
+    if (path && !exists) {
+        Read(OnKey(keyRoot, *path, [&exists](KeyTree&, std::int64_t) { exists = true; }));
+    }
+    return exists;
+}
+
+bool RegistryAPI::CreateKey(RegistryRoot keyRoot, const std::string& keyName) const {
+    const auto path = PathElements(keyName);
+    if (!path) {
+        throw NotMade();
+    }
+    if (KeyExists(keyRoot, keyName)) {
+        return true;
+    }
+    bool existed = false;
+    const auto create = [&](KeyTree& keys) {
+        existed = keys.Find(KeyOf(keyRoot), *path).has_value(); // made by another program just now
+        keys.Create(KeyOf(keyRoot), *path);
+    };
+    if (!Write(create, true)) {
+        throw NotMade();
+    }
+    return existed;
+}
+
+void RegistryAPI::DeleteKey(RegistryRoot keyRoot, const std::string& keyName) const {
+    if (const auto path = PathElements(keyName)) {
+        Write(OnKey(keyRoot, *path, [](KeyTree& keys, std::int64_t key) { keys.Delete(key); }));
+    }
+}
+
+RegistryValue RegistryAPI::GetValue(RegistryRoot keyRoot, const std::string& keyName,
+                                    const std::string& valueName, std::int16_t type,
+                                    const RegistryValue& defaultValue) const {
+    const auto path = PathElements(keyName);
+    const auto name = ValueNameOf(valueName);
+    if (!IsKnownType(type) && KeyExists(keyRoot, keyName)) {
+        throw Failure(1001, "", "Unsupported value type");
+    }
+    std::optional<KeyTree::Value> stored;
+    if (path && name) {
+        Read(OnKey(keyRoot, *path,
+                   [&](KeyTree& keys, std::int64_t key) { stored = keys.Get(key, *name); }));
+    }
+    return stored ? ValueOfBytes(type, ReadBytes(*stored)).value_or(defaultValue) : defaultValue;
+}
+
+void RegistryAPI::SetValue(RegistryRoot keyRoot, const std::string& keyName,
+                           const std::string& valueName, std::int16_t type,
+                           const RegistryValue& value) const {
+    const auto path = PathElements(keyName);
+    const auto name = ValueNameOf(valueName);
+    const auto bytes = BytesOfValue(type, value);
+    if (path && name && bytes) {
+        Write(OnKey(keyRoot, *path, [&](KeyTree& keys, std::int64_t key) {
+            keys.Set(key, *name, {type, *bytes});
+        }));
+    }
+}
+
+void RegistryAPI::DeleteValue(RegistryRoot keyRoot, const std::string& keyName,
+                              const std::string& valueName) const {
+    const auto path = PathElements(keyName);
+    const auto name = ValueNameOf(valueName);
+    if (path && name) {
+        Write(OnKey(keyRoot, *path,
+                    [&](KeyTree& keys, std::int64_t key) { keys.Remove(key, *name); }));
+    }
+}
+
+std::vector<std::string> RegistryAPI::GetSubKeys(RegistryRoot keyRoot,
+                                                 const std::string& keyName) const {
+    const auto path = PathElements(keyName);
+    if (!path) {
+        return {};
+    }
+    bool opened = path->empty();
+    std::vector<std::string> names;
+    Read(OnKey(keyRoot, *path, [&](KeyTree& keys, std::int64_t key) {
+        opened = true;
+        names = keys.Subkeys(key);
+    }));
+    if (opened && names.empty()) {
+        names.emplace_back(NoSubkeysLength, ' ');
+    }
+    return names;
+}
+
+void RegistryAPI::InOneStep(const std::function<void(const RegistryAPI&)>& steps) const {
+    const bool inner = m_step != nullptr;
+    RegistryAPI bound(*this);
+    if (!inner) {
+        bound.m_step = StartStep(m_store, m_wait);
+    }
+    StoreStep& step = *bound.m_step;
+    try {
+        steps(bound);
+        if (!step.Writes() || !(inner ? step.IsWhole() : step.Keep())) {
+            throw NotMade();
+        }
+    } catch (...) {
+        step.Break(); // an inner step takes the outer one with it
+        throw;
+    }
+}
+
+void RegistryAPI::ReadInOneStep(const std::function<void(const RegistryAPI&)>& steps) const {
+    RegistryAPI bound(*this);
+    if (!m_step) {
+        bound.m_step = StartReading(m_store, m_wait);
+    }
+    steps(bound);
+}

@@ -1,0 +1,167 @@
+#include "Sqlite.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <unistd.h>
+
+namespace {
+
+constexpr const char* FileSystemName = "quend-loan";
+
+void Check(int code, sqlite3* connection) {
+    if (code != SQLITE_OK) {
+        throw connection != nullptr ? StoreError(code, sqlite3_errmsg(connection))
+                                    : StoreError(code);
+    }
+}
+
+/// SQLite flushes the folder when it makes a log file. It thinks that it makes one whenever it may,
+/// so it may only where there is none: that halves the flushes of a save.
+int OpenFile(sqlite3_vfs* system, sqlite3_filename name, sqlite3_file* file, int flags,
+             int* outFlags) {
+    auto* const base = static_cast<sqlite3_vfs*>(system->pAppData);
+    if ((flags & SQLITE_OPEN_WAL) != 0 && name != nullptr && access(name, F_OK) == 0) {
+        flags &= ~SQLITE_OPEN_CREATE;
+    }
+    return base->xOpen(base, name, file, flags, outFlags);
+}
+
+const char* FileSystem() {
+    static sqlite3_vfs system = [] {
+        sqlite3_vfs* const base = sqlite3_vfs_find(nullptr);
+        sqlite3_vfs copy = *base;
+        copy.pNext = nullptr;
+        copy.zName = FileSystemName;
+        copy.pAppData = base;
+        copy.xOpen = OpenFile;
+        return copy;
+    }();
+    static const int registered = sqlite3_vfs_register(&system, 0);
+    return registered == SQLITE_OK ? FileSystemName : nullptr;
+}
+
+} // namespace
+
+StoreError::StoreError(int code) : StoreError(code, sqlite3_errstr(code)) {}
+
+void Statement::Finalize::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+
+Statement::Statement(sqlite3* connection, const char* command) {
+    sqlite3_stmt* statement = nullptr;
+    Check(sqlite3_prepare_v2(connection, command, -1, &statement, nullptr), connection);
+    m_statement.reset(statement);
+}
+
+void Statement::Reset() {
+    sqlite3_reset(m_statement.get()); // answers with the failure of the last run, told already
+}
+
+void Statement::Bind(int position, std::int64_t number) {
+    Check(sqlite3_bind_int64(m_statement.get(), position, number), nullptr);
+}
+
+void Statement::Bind(int position, const std::string& bytes) {
+    Check(sqlite3_bind_blob64(m_statement.get(), position, bytes.data(), bytes.size(),
+                              SQLITE_TRANSIENT),
+          nullptr);
+}
+
+void Statement::Bind(int position, std::string_view text) {
+    Check(sqlite3_bind_text64(m_statement.get(), position, text.data(), text.size(),
+                              SQLITE_TRANSIENT, SQLITE_UTF8),
+          nullptr);
+}
+
+bool Statement::Next() {
+    const int code = sqlite3_step(m_statement.get());
+    if (code == SQLITE_ROW) {
+        return true;
+    }
+    sqlite3* const connection = sqlite3_db_handle(m_statement.get());
+    if (code != SQLITE_DONE) {
+        const std::string text = sqlite3_errmsg(connection);
+        Reset();
+        throw StoreError(code, text);
+    }
+    Reset();
+    return false;
+}
+
+void Statement::Run() {
+    while (Next()) {
+    }
+}
+
+std::int64_t Statement::Number(int column) const {
+    return sqlite3_column_int64(m_statement.get(), column);
+}
+
+std::string Statement::Bytes(int column) const {
+    const auto* const bytes =
+        static_cast<const char*>(sqlite3_column_blob(m_statement.get(), column));
+    const int size = sqlite3_column_bytes(m_statement.get(), column);
+    return bytes == nullptr ? std::string() : std::string(bytes, static_cast<std::size_t>(size));
+}
+
+void Connection::Close::operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
+
+Connection::Connection(const std::filesystem::path& file, std::chrono::milliseconds wait) {
+    sqlite3* connection = nullptr;
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+    const int code = sqlite3_open_v2(file.c_str(), &connection, flags, FileSystem());
+    m_connection.reset(connection);
+    Check(code, connection);
+    Check(sqlite3_busy_timeout(connection, static_cast<int>(wait.count())), connection);
+    // A file from elsewhere must not run anything of its own here.
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+    // The log is folded into the file at the program's start and end, not with every save.
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+}
+
+Connection Connection::OfBytes(const std::string& bytes) {
+    Connection made;
+    sqlite3* connection = nullptr;
+    const int code = sqlite3_open_v2(":memory:", &connection,
+                                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    made.m_connection.reset(connection);
+    Check(code, connection);
+    auto* const copy = static_cast<unsigned char*>(sqlite3_malloc64(bytes.size()));
+    if (copy == nullptr) {
+        throw StoreError(SQLITE_NOMEM);
+    }
+    std::copy(bytes.begin(), bytes.end(), copy);
+    const auto size = static_cast<sqlite3_int64>(bytes.size());
+    Check(sqlite3_deserialize(connection, "main", copy, size, size,
+                              SQLITE_DESERIALIZE_FREEONCLOSE | SQLITE_DESERIALIZE_READONLY),
+          connection);
+    return made;
+}
+
+void Connection::Execute(const char* commands) const {
+    Check(sqlite3_exec(Handle(), commands, nullptr, nullptr, nullptr), Handle());
+}
+
+std::int64_t Connection::Ask(const char* command) const {
+    Statement statement(Handle(), command);
+    return statement.Next() ? statement.Number(0) : 0;
+}
+
+Transaction::Transaction(const Connection& connection, Kind kind) : m_connection(&connection) {
+    connection.Execute(kind == Kind::Write ? "BEGIN IMMEDIATE" : "BEGIN");
+}
+
+Transaction::~Transaction() {
+    if (m_open) {
+        // Where SQLite has rolled back by itself there is nothing left to roll back.
+        sqlite3_exec(m_connection->Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    }
+}
+
+void Transaction::Keep() {
+    m_connection->Execute("COMMIT");
+    m_open = false;
+}

@@ -1,0 +1,196 @@
+#include "StoreCheck.h"
+
+#include "OpenStore.h"
+#include "Salvage.h"
+#include "StoreFile.h"
+#include "StoreImage.h"
+#include "StoreSoundness.h"
+
+#include <sqlite3.h>
+
+#include <chrono>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using State = StoreCondition::State;
+
+constexpr std::chrono::milliseconds Wait{2'000};
+/// Above it a store, of hundreds of thousands of worksheets, is taken for sound: looking at it all
+/// would keep the user waiting.
+constexpr std::uintmax_t LargestChecked = std::uintmax_t{1} << 28;
+/// Reading a log costs every step some time; at this size it is a millisecond.
+constexpr std::uintmax_t LongLog = std::uintmax_t{1} << 20;
+constexpr std::uintmax_t LogWorthFolding = std::uintmax_t{1} << 14;
+
+std::uintmax_t SizeOf(const fs::path& file) {
+    std::error_code error;
+    const std::uintmax_t size = fs::file_size(file, error);
+    return error ? 0 : size;
+}
+
+bool CanRead(const fs::path& file) { return access(file.c_str(), R_OK) == 0; }
+
+void FoldLogIfLonger(const fs::path& store, std::uintmax_t size) {
+    if (SizeOf(StoreFile::LogOf(store)) <= size) {
+        return;
+    }
+    try {
+        StoreFile::FoldLog(Connection(store, std::chrono::milliseconds(0)));
+    } catch (const StoreError&) {
+        return; // another program has it open and can do it later
+    }
+}
+
+enum class Finding { Sound, Damaged, Newer, Unknown };
+
+Finding FindingOf(const StoreImage& image) {
+    switch (KindOf(image)) {
+    case StoreKind::Newer:
+        return Finding::Newer;
+    case StoreKind::Older:
+        return Finding::Sound; // the next write brings it to this version
+    default:
+        return IsSound(image) ? Finding::Sound : Finding::Damaged;
+    }
+}
+
+/// What looks like damage may be another program's writing: looked at again while nobody writes.
+Finding SecondLook(const fs::path& store) {
+    if (SizeOf(store) == 0) {
+        return Finding::Damaged; // SQLite would throw away the log of an empty file
+    }
+    try {
+        const Connection connection(store, Wait);
+        const Transaction nobodyWrites(connection, Transaction::Kind::Write);
+        return FindingOf(StoreImage(store));
+    } catch (const StoreError& error) {
+        switch (error.Code()) {
+        case SQLITE_CORRUPT:
+        case SQLITE_NOTADB:
+            return FindingOf(StoreImage(store));
+        case SQLITE_BUSY:
+            return Finding::Sound; // somebody writes, and finds it sound enough for that
+        default:
+            return Finding::Unknown;
+        }
+    }
+}
+
+fs::path FreeNameFor(const fs::path& store, const std::string& today) {
+    fs::path name = store;
+    name += ".damaged-" + today;
+    fs::path free = name;
+    for (int number = 2; fs::exists(fs::symlink_status(free)); ++number) {
+        free = name;
+        free += "-" + std::to_string(number);
+    }
+    return free;
+}
+
+/// A second name for a file, or where the file system knows no such thing a copy.
+void KeepAs(const fs::path& file, const fs::path& name) {
+    std::error_code error;
+    fs::create_hard_link(file, name, error);
+    if (error) {
+        fs::copy_file(file, name);
+        fs::permissions(name, fs::perms::owner_read | fs::perms::owner_write);
+    }
+}
+
+void RemoveStore(const fs::path& store) {
+    for (const fs::path& file : {store, StoreFile::LogOf(store), StoreFile::SharedOf(store)}) {
+        std::error_code error;
+        fs::remove(file, error);
+    }
+}
+
+Salvage::Counts WriteNew(const fs::path& made, const Salvage& salvage) {
+    RemoveStore(made);
+    StoreFile::Make(made, Wait);
+    Salvage::Counts counts;
+    {
+        const auto store = OpenStore::ToWrite(made, Wait, OpenStore::Missing::Fails);
+        counts = salvage.WriteTo(store->Keys());
+        store->Keep();
+    }
+    Connection(made, Wait).Execute("PRAGMA wal_checkpoint(TRUNCATE)");
+    return counts;
+}
+
+/// At no moment is there less on the disk than the damaged store and its log.
+StoreCondition Repair(const fs::path& store, const std::string& today) {
+    fs::path made = store;
+    made += ".new";
+    try {
+        const Salvage::Counts counts = WriteNew(made, Salvage(StoreImage(store)));
+        const fs::path kept = FreeNameFor(store, today);
+        KeepAs(store, kept);
+        if (fs::exists(StoreFile::LogOf(store))) {
+            KeepAs(StoreFile::LogOf(store), StoreFile::LogOf(kept));
+        }
+        fs::remove(StoreFile::LogOf(store));
+        fs::remove(StoreFile::SharedOf(store));
+        fs::rename(made, store);
+        RemoveStore(made);
+        FoldLogIfLonger(store, 0);
+        return {State::Repaired, kept, counts.keys, counts.values};
+    } catch (const StoreError&) {
+        RemoveStore(made);
+    } catch (const fs::filesystem_error&) {
+        RemoveStore(made);
+    }
+    return {State::Unusable, {}, 0, 0};
+}
+
+StoreCondition RepairIfStillDamaged(const fs::path& store, const std::string& today) {
+    try {
+        // Of two programs that start at once the second finds what the first has repaired.
+        const StoreFile::FolderLock lock(store.parent_path(), Wait);
+        switch (SecondLook(store)) {
+        case Finding::Sound:
+            return {};
+        case Finding::Newer:
+            return {State::Newer, {}, 0, 0};
+        case Finding::Damaged:
+            return Repair(store, today);
+        case Finding::Unknown:
+            break;
+        }
+    } catch (const StoreError&) {
+        return {State::Unusable, {}, 0, 0};
+    }
+    return {State::Unusable, {}, 0, 0};
+}
+
+} // namespace
+
+StoreCondition PrepareStore(const fs::path& store, const std::string& today) {
+    std::error_code error;
+    const fs::file_status status = fs::status(store, error);
+    if (status.type() == fs::file_type::not_found) {
+        return {State::Missing, {}, 0, 0};
+    }
+    if (!fs::is_regular_file(status) || !CanRead(store)) {
+        return {State::Unusable, {}, 0, 0};
+    }
+    if (SizeOf(store) > LargestChecked) {
+        return {};
+    }
+    switch (FindingOf(StoreImage(store))) {
+    case Finding::Newer:
+        return {State::Newer, {}, 0, 0};
+    case Finding::Sound:
+        FoldLogIfLonger(store, LongLog);
+        return {};
+    default:
+        return RepairIfStillDamaged(store, today);
+    }
+}
+
+void TidyStore(const fs::path& store) {
+    if (SizeOf(store) > 0) {
+        FoldLogIfLonger(store, LogWorthFolding);
+    }
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+
+class Connection;
+
+/// The store as a file: made readable by its user alone, and its log kept short. What is in it is
+/// StoreLayout's and KeyTree's.
+namespace StoreFile {
+
+/// The names of the files that SQLite keeps beside a store: the log of what was written last, and
+/// what programs that have it open share.
+std::filesystem::path LogOf(const std::filesystem::path& store);
+std::filesystem::path SharedOf(const std::filesystem::path& store);
+
+/// Makes a store, or fills an empty file; the folder must be there. A file that has something in it
+/// is left as it is. Throws StoreError.
+void Make(const std::filesystem::path& store, std::chrono::milliseconds wait);
+
+/// Makes the store with its folders, or fills an empty one, unless there is one. Throws StoreError.
+void MakeWhereMissing(const std::filesystem::path& store, std::chrono::milliseconds wait);
+
+/// Each step that is kept is then on the disk, at the cost of one flush.
+void SetUpForWriting(const Connection& connection);
+
+/// Folds the log into the file and begins a new one, so that the next save costs its one flush
+/// only. Takes three flushes or so. Does nothing to a store of another version. Throws StoreError,
+/// also when other programs are in the way.
+void FoldLog(const Connection& connection);
+
+/// Keeps other programs from making or repairing the stores of a folder while it lives; reading and
+/// writing goes on. Throws StoreError after the wait, or when the folder cannot be opened.
+class FolderLock {
+public:
+    FolderLock(const std::filesystem::path& folder, std::chrono::milliseconds wait);
+    FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(const FolderLock&) = delete;
+    FolderLock(FolderLock&&) = delete;
+    FolderLock& operator=(FolderLock&&) = delete;
+    ~FolderLock();
+
+private:
+    int m_folder;
+};
+
+} // namespace StoreFile

@@ -1,0 +1,20 @@
+#include "StoreStep.h"
+
+bool StoreStep::Run(const std::function<void(KeyTree&)>& action) {
+    if (!m_store) {
+        return false;
+    }
+    try {
+        action(m_store->Keys());
+        return true;
+    } catch (const StoreError&) {
+        Break();
+        return false;
+    }
+}
+
+bool StoreStep::Keep() {
+    const bool kept = Run([this](KeyTree&) { m_store->Keep(); });
+    Break();
+    return kept;
+}

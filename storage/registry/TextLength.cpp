@@ -1,0 +1,17 @@
+#include "TextLength.h"
+
+#include <QString>
+#include <QTextBoundaryFinder>
+
+bool IsReadableLength(const std::string& text) {
+    if (text.size() <= LongestText) {
+        return true; // a character takes a byte at least
+    }
+    const QString characters = QString::fromStdString(text);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, characters);
+    std::size_t count = 0;
+    while (count <= LongestText && finder.toNextBoundary() != -1) {
+        ++count;
+    }
+    return count <= LongestText;
+}

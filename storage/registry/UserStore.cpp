@@ -1,0 +1,29 @@
+#include "RegistryAPI.h"
+
+#include <cstdlib>
+#include <pwd.h>
+#include <unistd.h>
+
+namespace {
+
+std::filesystem::path HomeFolder() {
+    if (const char* const home = std::getenv("HOME"); home != nullptr && *home != '\0') {
+        return home;
+    }
+    const passwd* const user = getpwuid(getuid());
+    return user != nullptr ? user->pw_dir : "/";
+}
+
+std::filesystem::path DataFolder() {
+    const char* const data = std::getenv("XDG_DATA_HOME");
+    // A relative folder is to be ignored: it would be another one wherever the program is started.
+    return data != nullptr && std::filesystem::path(data).is_absolute()
+               ? std::filesystem::path(data)
+               : HomeFolder() / ".local" / "share";
+}
+
+} // namespace
+
+std::filesystem::path RegistryAPI::UserStore() {
+    return DataFolder() / "Quend Halverworks" / "Loan.store";
+}

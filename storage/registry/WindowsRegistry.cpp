@@ -1,0 +1,240 @@
+// The seven procedures on the platform's own registry. Its calls take texts in the program's code
+// page, which the program's manifest makes UTF-8.
+#include "RegistryAPI.h"
+
+#include "Failure.h"
+#include "KeyPath.h"
+#include "Utf8.h"
+#include "ValueBytes.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
+namespace {
+
+constexpr std::size_t MostBytesOfCharacter = 3; // of each unit of UTF-16
+constexpr DWORD MostSubkeys = 1'000'000;
+
+HKEY HandleOf(RegistryRoot root) {
+    // The predefined handles are negative numbers of 32 bits.
+    const auto number = static_cast<std::int32_t>(static_cast<std::uint32_t>(root));
+    return reinterpret_cast<HKEY>(static_cast<LONG_PTR>(number));
+}
+
+Failure NotMade() { return {1001, "", "Unable to create the registry key"}; }
+
+/// A key that is open while this lives, or none. The predefined keys are never closed.
+class OpenKey {
+public:
+    OpenKey() = default;
+    explicit OpenKey(HKEY key) : m_key(key) {}
+    OpenKey(OpenKey&& other) noexcept : m_key(std::exchange(other.m_key, nullptr)) {}
+    OpenKey& operator=(OpenKey&& other) noexcept {
+        std::swap(m_key, other.m_key);
+        return *this;
+    }
+    OpenKey(const OpenKey&) = delete;
+    OpenKey& operator=(const OpenKey&) = delete;
+    ~OpenKey() {
+        if (m_key != nullptr) {
+            RegCloseKey(m_key);
+        }
+    }
+
+    explicit operator bool() const { return m_key != nullptr; }
+    HKEY Handle() const { return m_key; }
+
+private:
+    HKEY m_key = nullptr;
+};
+
+/// A path cut into parts that the calls can take, each of one element or more: they hold no more
+/// than a name's length at once. A usual path is one part. No value when no key can have the path.
+std::optional<std::vector<std::string>> PartsOf(const std::string& keyName) {
+    const auto elements = PathElements(keyName);
+    if (!elements) {
+        return std::nullopt;
+    }
+    std::vector<std::string> parts;
+    for (const std::string& element : *elements) {
+        if (!parts.empty() &&
+            Utf16Length(parts.back()) + 1 + Utf16Length(element) <= LongestKeyName) {
+            parts.back().append(1, '\\').append(element);
+        } else {
+            parts.push_back(element);
+        }
+    }
+    return parts;
+}
+
+/// Opens the parts one below the other, all but the last only to get there. None at all is the
+/// root. No key when one of them is missing or may not be opened so.
+OpenKey Open(RegistryRoot root, const std::vector<std::string>& parts, REGSAM rights) {
+    OpenKey key;
+    HKEY parent = HandleOf(root);
+    for (std::size_t i = 0; i < std::max<std::size_t>(parts.size(), 1); ++i) {
+        const REGSAM wanted = i + 1 < parts.size() ? KEY_READ : rights;
+        const char* const part = parts.empty() ? "" : parts[i].c_str();
+        HKEY opened = nullptr;
+        if (RegOpenKeyExA(parent, part, 0, wanted, &opened) != ERROR_SUCCESS) {
+            return {};
+        }
+        key = OpenKey(opened);
+        parent = opened;
+    }
+    return key;
+}
+
+OpenKey Open(RegistryRoot root, const std::string& keyName, REGSAM rights) {
+    const auto parts = PartsOf(keyName);
+    return parts ? Open(root, *parts, rights) : OpenKey();
+}
+
+BYTE* BytesIn(std::string& buffer) { return reinterpret_cast<BYTE*>(buffer.data()); }
+
+/// The bytes of a value, however many there are; no value when there is none.
+std::optional<std::string> Query(HKEY key, const std::string& name) {
+    std::string buffer(LongestBinary, ' ');
+    for (;;) {
+        auto size = static_cast<DWORD>(buffer.size());
+        const LSTATUS status =
+            RegQueryValueExA(key, name.c_str(), nullptr, nullptr, BytesIn(buffer), &size);
+        if (status == ERROR_SUCCESS) {
+            buffer.resize(size);
+            return buffer;
+        }
+        if (status != ERROR_MORE_DATA) {
+            return std::nullopt;
+        }
+        buffer.resize(std::max<std::size_t>(size, 2 * buffer.size()));
+    }
+}
+
+/// The names of the subkeys of an open key.
+std::vector<std::string> NamesBelow(HKEY key) {
+    std::vector<std::string> names;
+    std::array<char, LongestKeyName * MostBytesOfCharacter + 1> buffer{};
+    for (DWORD index = 0; index < MostSubkeys; ++index) {
+        if (RegEnumKeyA(key, index, buffer.data(), static_cast<DWORD>(buffer.size())) != 0) {
+            break;
+        }
+        names.emplace_back(buffer.data());
+    }
+    return names;
+}
+
+} // namespace
+
+RegistryAPI::RegistryAPI(std::filesystem::path store, std::chrono::milliseconds wait)
+    : m_store(std::move(store)), m_wait(wait) {}
+
+std::filesystem::path RegistryAPI::UserStore() { return {}; }
+
+bool RegistryAPI::KeyExists(RegistryRoot keyRoot, const std::string& keyName) const {
+    return static_cast<bool>(Open(keyRoot, keyName, KEY_READ));
+}
+
+bool RegistryAPI::CreateKey(RegistryRoot keyRoot, const std::string& keyName) const {
+    const auto parts = PartsOf(keyName);
+    if (!parts) {
+        throw NotMade();
+    }
+    OpenKey key;
+    HKEY parent = HandleOf(keyRoot);
+    DWORD disposition = REG_OPENED_EXISTING_KEY; // as the root does
+    for (std::size_t i = 0; i < parts->size(); ++i) {
+        // Nothing is asked of the last one, which is closed at once.
+        const REGSAM rights = i + 1 < parts->size() ? KEY_CREATE_SUB_KEY : 0;
+        HKEY opened = nullptr;
+        if (RegCreateKeyExA(parent, (*parts)[i].c_str(), 0, nullptr, 0, rights, nullptr, &opened,
+                            &disposition) != ERROR_SUCCESS) {
+            throw NotMade();
+        }
+        key = OpenKey(opened);
+        parent = opened;
+    }
+    return disposition == REG_OPENED_EXISTING_KEY;
+}
+
+void RegistryAPI::DeleteKey(RegistryRoot keyRoot, const std::string& keyName) const {
+    auto parts = PartsOf(keyName);
+    if (!parts || parts->empty()) {
+        return;
+    }
+    const std::string last = parts->back();
+    parts->pop_back();
+    const OpenKey key = parts->empty() ? OpenKey() : Open(keyRoot, *parts, KEY_READ);
+    if (key || parts->empty()) {
+        RegDeleteKeyA(key ? key.Handle() : HandleOf(keyRoot), last.c_str());
+    }
+}
+
+RegistryValue RegistryAPI::GetValue(RegistryRoot keyRoot, const std::string& keyName,
+                                    const std::string& valueName, std::int16_t type,
+                                    const RegistryValue& defaultValue) const {
+    const OpenKey key = Open(keyRoot, keyName, KEY_READ);
+    const auto name = ValueNameOf(valueName);
+    if (!key) {
+        return defaultValue;
+    }
+    if (!IsKnownType(type)) {
+        throw Failure(1001, "", "Unsupported value type");
+    }
+    const auto bytes = name ? Query(key.Handle(), *name) : std::nullopt;
+    return bytes ? ValueOfBytes(type, *bytes).value_or(defaultValue) : defaultValue;
+}
+
+void RegistryAPI::SetValue(RegistryRoot keyRoot, const std::string& keyName,
+                           const std::string& valueName, std::int16_t type,
+                           const RegistryValue& value) const {
+    const OpenKey key = Open(keyRoot, keyName, KEY_WRITE);
+    const auto name = ValueNameOf(valueName);
+    auto bytes = BytesOfValue(type, value);
+    if (!key || !name || !bytes) {
+        return;
+    }
+    if (type == RegistryType::Text && bytes->ends_with('\0')) {
+        *bytes += '\0'; // the platform takes the last one for the end mark
+    }
+    RegSetValueExA(key.Handle(), name->c_str(), 0, static_cast<DWORD>(type), BytesIn(*bytes),
+                   static_cast<DWORD>(bytes->size()));
+}
+
+void RegistryAPI::DeleteValue(RegistryRoot keyRoot, const std::string& keyName,
+                              const std::string& valueName) const {
+    const OpenKey key = Open(keyRoot, keyName, KEY_WRITE);
+    const auto name = ValueNameOf(valueName);
+    if (key && name) {
+        RegDeleteValueA(key.Handle(), name->c_str());
+    }
+}
+
+std::vector<std::string> RegistryAPI::GetSubKeys(RegistryRoot keyRoot,
+                                                 const std::string& keyName) const {
+    std::vector<std::string> names;
+    if (keyName.empty()) {
+        names = NamesBelow(HandleOf(keyRoot));
+    } else {
+        const OpenKey key = Open(keyRoot, keyName, KEY_READ);
+        if (!key) {
+            return {};
+        }
+        names = NamesBelow(key.Handle());
+    }
+    if (names.empty()) {
+        names.emplace_back(NoSubkeysLength, ' ');
+    }
+    return names;
+}
+
+void RegistryAPI::InOneStep(const std::function<void(const RegistryAPI&)>& steps) const {
+    steps(*this);
+}
+
+void RegistryAPI::ReadInOneStep(const std::function<void(const RegistryAPI&)>& steps) const {
+    steps(*this);
+}

@@ -1,0 +1,7 @@
+#include "StoreCheck.h"
+
+// The platform looks after its registry itself.
+
+StoreCondition PrepareStore(const std::filesystem::path&, const std::string&) { return {}; }
+
+void TidyStore(const std::filesystem::path&) {}

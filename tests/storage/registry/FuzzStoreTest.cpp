@@ -1,0 +1,202 @@
+// Damage at random, as much as fits into the time: nothing may crash, hang or trust what it reads.
+// QUEND_FUZZ_SECONDS says how long (30), QUEND_FUZZ_SEED where the seeds begin (1).
+#include "StoreCheck.h"
+
+#include "Sqlite.h"
+#include "StoreFile.h"
+#include "StoreFixture.h"
+#include "StoreImage.h"
+#include "StoreSoundness.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <random>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using State = StoreCondition::State;
+
+int Setting(const char* name, int usual) {
+    const char* const text = std::getenv(name);
+    return text != nullptr ? std::atoi(text) : usual;
+}
+
+/// A store's file and its log.
+struct Input {
+    std::string file;
+    std::string log;
+};
+
+class FuzzStore : public StoreFixture {
+protected:
+    /// In memory where there is such a place: a flush to the disk would take most of the time.
+    const fs::path fuzzed =
+        (access("/dev/shm", W_OK) == 0 ? fs::path("/dev/shm") / folder.filename()
+                                       : folder / "fuzz") /
+        "Loan.store";
+
+    FuzzStore() { fs::create_directories(fuzzed.parent_path()); }
+    ~FuzzStore() override { fs::remove_all(fuzzed.parent_path()); }
+
+    void Lay(const Input& input) const {
+        for (const auto& entry : fs::directory_iterator(fuzzed.parent_path())) {
+            fs::remove(entry.path());
+        }
+        WriteBytes(fuzzed, input.file);
+        if (!input.log.empty()) {
+            WriteBytes(StoreFile::LogOf(fuzzed), input.log);
+        }
+    }
+
+    /// Everything that a program may do with the store that it finds.
+    void Try(const Input& input) const;
+    void UseUnprepared() const;
+};
+
+/// What SQLite itself finds in the file: "ok" or what is wrong.
+std::string SqliteFinding(const fs::path& store) {
+    try {
+        const Connection connection(store, std::chrono::milliseconds(0));
+        Statement check(connection.Handle(), "PRAGMA integrity_check(1)");
+        return check.Next() ? check.Bytes(0) : "nothing";
+    } catch (const StoreError& error) {
+        return error.what();
+    }
+}
+
+void FuzzStore::UseUnprepared() const {
+    const RegistryAPI registry(fuzzed, std::chrono::milliseconds(0));
+    for (const std::string& name : registry.GetSubKeys(User, Base)) {
+        MarkOf(registry, name);
+    }
+    FailureOf([&] { SaveWorksheet(registry, "Fuzz", "fuzz"); });
+    registry.DeleteKey(User, Base + "\\0");
+}
+
+void FuzzStore::Try(const Input& input) const {
+    Lay(input);
+    const bool sound = IsSound(StoreImage(fuzzed));
+    if (sound) {
+        EXPECT_EQ(SqliteFinding(fuzzed), "ok"); // ours may be the stricter one only
+    }
+    UseUnprepared();
+    Lay(input);
+    const StoreCondition condition = PrepareStore(fuzzed, "today");
+    EXPECT_EQ(condition.state == State::Sound || condition.state == State::Newer,
+              sound || condition.state == State::Newer);
+    if (condition.state == State::Newer) {
+        return;
+    }
+    ASSERT_NE(condition.state, State::Unusable);
+    const RegistryAPI registry(fuzzed, std::chrono::milliseconds(0));
+    // Damage that neither check can see may still be in the way of a save: then it is told, and
+    // nothing of it is kept.
+    const std::string failure = FailureOf([&] { SaveWorksheet(registry, "Fuzz", "fuzz"); });
+    EXPECT_TRUE(failure.empty() || failure == "1001 Unable to create the registry key") << failure;
+    EXPECT_EQ(MarkOf(registry, "Fuzz"), failure.empty() ? "fuzz" : "");
+    EXPECT_EQ(SqliteFinding(fuzzed), "ok");
+}
+
+class Mutation {
+public:
+    explicit Mutation(unsigned seed) : m_random(seed) {}
+
+    void Apply(Input& input) {
+        const std::size_t count = 1 + Below(6);
+        for (std::size_t i = 0; i < count; ++i) {
+            std::string& bytes = Below(5) == 0 ? input.log : input.file;
+            if (!bytes.empty()) {
+                ApplyOne(bytes);
+            }
+        }
+    }
+
+private:
+    std::size_t Below(std::size_t end) { return m_random() % end; }
+
+    /// Mostly where pages begin: what stands there leads on to everything else.
+    std::size_t Position(const std::string& bytes) {
+        const std::size_t anywhere = Below(bytes.size());
+        const std::size_t page = anywhere / 4'096 * 4'096;
+        return Below(3) == 0 ? anywhere : std::min(page + Below(120), bytes.size() - 1);
+    }
+
+    void ApplyOne(std::string& bytes) {
+        const std::size_t position = Position(bytes);
+        const std::size_t length = std::min(1 + Below(64), bytes.size() - position);
+        constexpr char Extremes[]{'\0', '\1', '\x7F', '\x80', '\xFF'};
+        switch (Below(6)) {
+        case 0:
+            bytes[position] = static_cast<char>(bytes[position] ^ (1 << Below(8)));
+            break;
+        case 1:
+            bytes[position] = Extremes[Below(std::size(Extremes))];
+            break;
+        case 2:
+            std::generate_n(bytes.begin() + static_cast<std::ptrdiff_t>(position), length,
+                            [this] { return static_cast<char>(m_random() & 0xFF); });
+            break;
+        case 3:
+            bytes.replace(position, length, bytes.substr(Below(bytes.size()), length));
+            break;
+        case 4:
+            bytes[position] = static_cast<char>(Below(12)); // a small number: a page, a kind
+            break;
+        default:
+            if (Below(10) == 0) {
+                bytes.resize(position);
+            }
+        }
+    }
+
+    std::mt19937 m_random;
+};
+
+/// A small store that has everything in it: inner pages, long texts, free pages, a log.
+Input ValidInput(const fs::path& store) {
+    const RegistryAPI registry(store);
+    SaveWorksheets(registry, 4);
+    registry.SetValue(User, Base, "Long", RegistryType::Text, std::string(9'000, 'x'));
+    registry.DeleteKey(User, Base + "\\2");
+    MakeOneFile(store);
+    Input input{BytesOf(store), ""};
+    SaveWorksheet(registry, "0", "log");
+    input.log = BytesOf(StoreFile::LogOf(store));
+    return input;
+}
+
+TEST_F(FuzzStore, SurvivesWhatIsKeptInTheCorpus) {
+    int count = 0;
+    for (const auto& entry : fs::directory_iterator(fs::path(QUEND_TEST_DATA) / "store-corpus")) {
+        SCOPED_TRACE(entry.path());
+        if (entry.path().extension() == ".store") {
+            Try({BytesOf(entry.path()), BytesOf(StoreFile::LogOf(entry.path()))});
+            ++count;
+        }
+    }
+    EXPECT_GE(count, 10);
+    // The damaged ones are made from it.
+    EXPECT_TRUE(IsSound(StoreImage(fs::path(QUEND_TEST_DATA) / "store-corpus" / "whole.store")));
+}
+
+TEST_F(FuzzStore, SurvivesDamageAtRandom) {
+    const Input valid = ValidInput(store);
+    Lay(valid);
+    ASSERT_TRUE(IsSound(StoreImage(fuzzed)));
+    const auto end =
+        std::chrono::steady_clock::now() + std::chrono::seconds(Setting("QUEND_FUZZ_SECONDS", 30));
+    auto seed = static_cast<unsigned>(Setting("QUEND_FUZZ_SEED", 1));
+    for (; std::chrono::steady_clock::now() < end && !HasFailure(); ++seed) {
+        SCOPED_TRACE(testing::Message() << "QUEND_FUZZ_SEED=" << seed);
+        alarm(20); // a store that makes the program hang ends it here
+        Input input = valid;
+        Mutation(seed).Apply(input);
+        Try(input);
+    }
+    alarm(0);
+    RecordProperty("stores", static_cast<int>(seed));
+}
+
+} // namespace

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "RegistryAPI.h"
+
+#include <string>
+
+/// A store with nothing below its base key: a file of its own, or on the platform that has a
+/// registry, a key of its own that is emptied.
+class TestStore {
+public:
+    TestStore();
+    TestStore(const TestStore&) = delete;
+    TestStore& operator=(const TestStore&) = delete;
+    ~TestStore();
+
+    const RegistryAPI& Registry() const { return m_registry; }
+
+private:
+    std::filesystem::path m_folder;
+    RegistryAPI m_registry;
+};
+
+/// The key that the tests write below. It is not there at first.
+inline const std::string BaseKey = "Software\\Quend Halverworks\\Loan Test";

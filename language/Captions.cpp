@@ -14,20 +14,29 @@ namespace {
 
 constexpr const char* CaptionNumber = "captionText";
 constexpr const char* CaptionNumberInYears = "captionTextInYears";
-constexpr const char* AccessibleName = "accessibleName";
+constexpr const char* AccessibleText = "accessibleText";
 constexpr const char* Ordinal = "_ordinal";
 
 /// A dynamic property that holds a text's number, and the property that shows the text.
 struct ShownText {
     const char* number;
     const char* property;
+    const char* unless = nullptr; ///< a dynamic property: no text while it is true
+    const char* kind = "QObject"; ///< the class of objects that show it
 };
 
 constexpr std::array ShownTexts{
-    ShownText{"toolTipText", "toolTip"},
-    ShownText{"accessibleText", AccessibleName},
+    ShownText{"toolTipText", "toolTip", "toolTipAway"},
+    ShownText{AccessibleText, "accessibleName"},
+    ShownText{AccessibleText, "accessibleDescription", nullptr, "QComboBox"},
     ShownText{"hintText", "placeholderText"},
 };
+
+bool IsShownBy(const ShownText& shown, const QObject& object) {
+    return object.property(shown.number).isValid() && object.inherits(shown.kind) &&
+           object.metaObject()->indexOfProperty(shown.property) >= 0 &&
+           !(shown.unless != nullptr && object.property(shown.unless).toBool());
+}
 
 /// In order of preference: what a group box or label shows comes before the title of a window,
 /// which every widget has.
@@ -70,7 +79,7 @@ void Show(QObject& object, const char* property, int number, int ordinal) {
     if (text.isNull()) {
         text = TextInstead(number, designText);
     }
-    if (ordinal > 0 && qstrcmp(property, AccessibleName) == 0) {
+    if (ordinal > 0) {
         text.replace(QStringLiteral("%1"), QString::number(ordinal));
     }
     object.setProperty(property, text);
@@ -102,9 +111,10 @@ void ApplyToTree(QObject& object, TermUnit unit, int ordinalAround) {
     const int ordinal = ownOrdinal.isValid() ? ownOrdinal.toInt() : ordinalAround;
     ApplyCaption(object, unit);
     for (const ShownText& shown : ShownTexts) {
-        const QVariant number = object.property(shown.number);
-        if (number.isValid() && HasProperty(object, shown.property)) {
-            Show(object, shown.property, number.toInt(), ordinal);
+        if (IsShownBy(shown, object)) {
+            const bool isName = qstrcmp(shown.number, AccessibleText) == 0;
+            Show(object, shown.property, object.property(shown.number).toInt(),
+                 isName ? ordinal : 0);
         }
     }
     for (QObject* child : object.children()) {

@@ -13,6 +13,10 @@ enum class TermUnit { Months, Years };
 ///     toolTipText         the tooltip
 ///     accessibleText      the name for screen readers
 ///     hintText            the text in an empty field
+///     toolTipAway         true while the control shows no tooltip, whatever the language
+///
+/// A list goes by its name for screen readers and, because the toolkit tells them its value instead
+/// as soon as it has one, by the same words as description.
 ///
 /// Where the language has no text of a number, the form's own text stands, also after a switch from
 /// a language that had one; where the form has none either, and for captions in years, English.

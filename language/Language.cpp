@@ -116,7 +116,7 @@ void Language::DetectLanguage(std::uint16_t languageId) {
 }
 
 void Language::SettleDetectedLanguage() {
-    if (m_currentLanguage > 0) {
+    if (EntryOfNumber(m_currentLanguage) != nullptr) {
         return;
     }
     const LanguageEntry* detected = EntryOfNumber(-m_currentLanguage);
@@ -148,6 +148,18 @@ QString Language::DefaultText(int id) {
         m_defaultTexts = std::make_unique<const DefaultTexts>();
     }
     return m_defaultTexts->Text(id);
+}
+
+QStringList Language::TextInEveryLanguage(int id) {
+    QStringList texts{Text(id), DefaultText(id)};
+    for (const LanguageEntry& entry : m_entries) {
+        const auto* component =
+            ComponentFile::Load(ComponentFile::Find(m_programFolder, entry.component));
+        texts.append(component != nullptr ? component->Text(id) : QString());
+    }
+    texts.removeAll(QString());
+    texts.removeDuplicates();
+    return texts;
 }
 
 QString GetResourceText(int id) {

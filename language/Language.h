@@ -59,7 +59,8 @@ public:
     /// could not be loaded.
     const QStringList& NamesTried() const { return m_namesTried; }
     /// Turns a detected language into a chosen one (-2 becomes 2), its texts staying as they are.
-    /// A language already chosen is left alone; 0 and numbers without an entry become English.
+    /// A language already chosen is left alone; 0 and numbers without an entry become English,
+    /// whose texts may still have to be loaded.
     void SettleDetectedLanguage();
 
     /// Takes the texts, tag and help file of this entry and makes it the CurrentLanguage().
@@ -72,6 +73,9 @@ public:
     QString Text(int id);
     /// The built-in English text; a null QString for an unknown number.
     QString DefaultText(int id);
+    /// The text in every language there is, the one in use first; without those that do not know
+    /// it. Loads the components of the others, so it is slow.
+    QStringList TextInEveryLanguage(int id);
 
 private:
     Language();

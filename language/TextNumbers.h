@@ -8,38 +8,102 @@ namespace TextNumber {
 inline constexpr int PaymentRaised = 3;
 inline constexpr int LoanTypeAuto = 10;
 inline constexpr int LoanTypeBusiness = 11;
+inline constexpr int Cancel = 15;
 inline constexpr int LoanTypeConstruction = 19;
+inline constexpr int DeleteTitle = 20;
 inline constexpr int LoanTypeDebtConsolidation = 29;
+/// The loan's name and NameEnd follow it.
+inline constexpr int DeleteQuestion = 31;
 inline constexpr int LoanTypeHomeEquity = 39;
+inline constexpr int NoNameToDelete = 45;
+inline constexpr int NoNameToSave = 46;
+inline constexpr int PictureTitle = 49;
+inline constexpr int NewLoan = 52;
 inline constexpr int LoanTypeMortgage = 83;
 /// A picture such as " nnnn.nn" follows it.
 inline constexpr int NumberRefused = 87;
+inline constexpr int OffersRefused = 88;
 inline constexpr int Ok = 90;
+/// Ends a question about a loan behind its name.
+inline constexpr int NameEnd = 102;
+/// The title of the question about unsaved changes, and all of it for a loan without a name.
+inline constexpr int SaveTitle = 103;
+/// The loan's name and NameEnd follow it.
+inline constexpr int SaveQuestion = 104;
+/// %1: the patterns of the pictures that can be shown.
+inline constexpr int PictureFilter = 105;
 inline constexpr int FrequencyTwiceAMonth = 111;
 inline constexpr int FrequencyEveryTwoWeeks = 112;
 inline constexpr int FrequencyMonthly = 114;
 inline constexpr int FrequencyEveryFourWeeks = 115;
 /// A blank and the picture's path follow it.
 inline constexpr int PictureNotLoaded = 124;
+inline constexpr int Yes = 125;
+inline constexpr int No = 126;
+/// What the store cannot do; the failure follows it on a line of its own.
+inline constexpr int NotSaved = 127;
+inline constexpr int NameNotPossible = 128;
+inline constexpr int LenderTooLong = 129;   ///< %1 takes the number of the offer
+inline constexpr int ValuesNotLoaded = 130; ///< the failures follow it, one a line
+inline constexpr int StoreRepaired = 131;   ///< %1: where the damaged file is, %2: how many loans
+inline constexpr int StoreNewer = 132;      ///< %1: the file
+inline constexpr int SettingsNotRead = 133; ///< the failures follow it, one a line
+inline constexpr int NotDeleted = 134;
+inline constexpr int StoreUnusable = 135; ///< %1: the file
 inline constexpr int WindowTitle = 200;
+inline constexpr int NoPicture = 520;
+inline constexpr int PictureNotShown = 521;
+inline constexpr int PictureLookIn = 522;
+inline constexpr int PictureFileName = 523;
+inline constexpr int PictureFileType = 524;
+inline constexpr int PictureOpen = 525;
 
 /// Every one of them: a text without a use, or a use without a text, shows up in the tests.
 inline constexpr std::array All{
     PaymentRaised,
     LoanTypeAuto,
     LoanTypeBusiness,
+    Cancel,
     LoanTypeConstruction,
+    DeleteTitle,
     LoanTypeDebtConsolidation,
+    DeleteQuestion,
     LoanTypeHomeEquity,
+    NoNameToDelete,
+    NoNameToSave,
+    PictureTitle,
+    NewLoan,
     LoanTypeMortgage,
     NumberRefused,
+    OffersRefused,
     Ok,
+    NameEnd,
+    SaveTitle,
+    SaveQuestion,
+    PictureFilter,
     FrequencyTwiceAMonth,
     FrequencyEveryTwoWeeks,
     FrequencyMonthly,
     FrequencyEveryFourWeeks,
     PictureNotLoaded,
+    Yes,
+    No,
+    NotSaved,
+    NameNotPossible,
+    LenderTooLong,
+    ValuesNotLoaded,
+    StoreRepaired,
+    StoreNewer,
+    SettingsNotRead,
+    NotDeleted,
+    StoreUnusable,
     WindowTitle,
+    NoPicture,
+    PictureNotShown,
+    PictureLookIn,
+    PictureFileName,
+    PictureFileType,
+    PictureOpen,
 };
 
 } // namespace TextNumber

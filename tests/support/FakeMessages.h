@@ -5,10 +5,14 @@
 #include <QString>
 #include <QStringList>
 
+#include <deque>
 #include <functional>
+#include <initializer_list>
+#include <vector>
 
 /// Stands in the door of the message boxes: keeps each text and closes at once. What a user does
-/// while a box is open is done by `whileOpen`.
+/// while a box is open is done by `whileOpen`; questions are answered from a queue, and by Cancel
+/// (or No, where there is no Cancel) once it is empty.
 class FakeMessages : public MessageDoor {
 public:
     void Show(const QString& text) override {
@@ -17,13 +21,30 @@ public:
             m_whileOpen();
         }
     }
+    Answer Ask(const Question& question) override {
+        m_questions.push_back(question);
+        if (m_answers.empty()) {
+            return question.mayCancel ? Answer::Cancel : Answer::No;
+        }
+        const Answer answer = m_answers.front();
+        m_answers.pop_front();
+        return answer;
+    }
 
     /// Every text shown since the last Clear(), in order.
     const QStringList& Texts() const { return m_texts; }
-    void Clear() { m_texts.clear(); }
+    /// Every question asked since the last Clear(), in order.
+    const std::vector<Question>& Questions() const { return m_questions; }
+    void Clear() {
+        m_texts.clear();
+        m_questions.clear();
+    }
     void WhileOpen(std::function<void()> action) { m_whileOpen = std::move(action); }
+    void WillAnswer(std::initializer_list<Answer> answers) { m_answers = answers; }
 
 private:
     QStringList m_texts;
+    std::vector<Question> m_questions;
+    std::deque<Answer> m_answers;
     std::function<void()> m_whileOpen;
 };

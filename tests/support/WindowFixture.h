@@ -59,7 +59,7 @@ protected:
     Loan& Window() { return *m_window; }
     const Worksheet& Sheet() const { return m_window->GetWorksheet(); }
     /// The worksheet to write to, for values that a user cannot type but a kept worksheet can hold.
-    Worksheet& SheetToWrite() { return const_cast<Worksheet&>(m_window->GetWorksheet()); }
+    Worksheet& SheetToWrite() { return m_window->GetWorksheet(); }
     FakeMessages& Door() { return m_messages; }
 
     /// The control of this name. Throws, naming those there are, when there is none.

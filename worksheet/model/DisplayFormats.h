@@ -13,6 +13,8 @@ class DisplayFormats {
 public:
     explicit DisplayFormats(const QLocale& locale);
 
+    const QLocale& Locale() const { return m_locale; }
+
     /// The decimal symbol, one character. No grouping is ever read.
     QChar DecimalSeparator() const { return m_separator; }
 

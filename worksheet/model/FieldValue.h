@@ -26,6 +26,7 @@ public:
 
     const DisplayFormats& Formats() const { return m_formats; }
     bool TermInMonths() const { return m_termInMonths; }
+    void SetTermInMonths(bool inMonths) { m_termInMonths = inMonths; }
 
     /// The bare value, as it is edited.
     QString EntryText(ValueKind kind, const FieldNumber& number) const;

@@ -18,6 +18,13 @@ constexpr std::array LoanTypes{
     LoanType{u'D', 29, 5}, LoanType{u'H', 39, 4}, LoanType{u'M', 83, 0},
 };
 
+/// The letter of the first type that is meant; empty when none is.
+template <class IsMeant>
+QString CodeOf(IsMeant isMeant) {
+    const auto* type = std::ranges::find_if(LoanTypes, isMeant);
+    return type == LoanTypes.end() ? QString() : QString(type->code);
+}
+
 } // namespace
 
 QString LoanTypeCodeToText(const QString& code) {
@@ -27,9 +34,14 @@ QString LoanTypeCodeToText(const QString& code) {
 }
 
 QString LoanTypeTextToCode(const QString& text) {
-    const auto* type = std::ranges::find_if(
-        LoanTypes, [&](const LoanType& t) { return GetResourceText(t.text) == text; });
-    return type == LoanTypes.end() ? QString() : QString(type->code);
+    return CodeOf([&](const LoanType& type) { return GetResourceText(type.text) == text; });
+}
+
+QString LoanTypeTextToCodeInAnyLanguage(const QString& text) {
+    const QString code = LoanTypeTextToCode(text);
+    return !code.isEmpty() ? code : CodeOf([&](const LoanType& type) {
+        return Language::Instance().TextInEveryLanguage(type.text).contains(text);
+    });
 }
 
 QStringList LoanTypeTexts() {

@@ -8,5 +8,8 @@
 QString LoanTypeCodeToText(const QString& code);
 QString LoanTypeTextToCode(const QString& text);
 
+/// The letter of a text of any language there is; empty for a text that none of them knows.
+QString LoanTypeTextToCodeInAnyLanguage(const QString& text);
+
 /// The texts in the order in which they are offered to choose from.
 QStringList LoanTypeTexts();

@@ -72,7 +72,7 @@ void Worksheet::RecalculateEscrow() {
 }
 
 void Worksheet::RecalculateOffer(Row row) {
-    CLoan& offer = Offer(row);
+    CLoan& offer = OfferOfRow(row);
     constexpr std::array results{FieldId::PandI, FieldId::Payment, FieldId::PayoffDate,
                                  FieldId::Interest};
     std::size_t shown = 0;
@@ -118,7 +118,7 @@ void Worksheet::MarkRaised(Row row) {
 /// The intended payment is the one input that the calculator answers with a figure of its own.
 /// Only what depends on it is shown anew.
 void Worksheet::StoreActualPayment(Row row, Money payment) {
-    CLoan& offer = Offer(row);
+    CLoan& offer = OfferOfRow(row);
     const Field field{FieldId::ActualPayment, row};
     m_paymentRefused = false;
     try {

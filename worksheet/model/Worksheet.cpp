@@ -89,6 +89,23 @@ void Worksheet::GrowOfferArrays(Row from, Row to) {
     }
 }
 
+void Worksheet::Clear() {
+    const Row highest = HighestOfferRow();
+    m_loan = {};
+    m_current = {};
+    m_current.nextPayment = m_today();
+    m_order = {};
+    m_offers.clear();
+    GrowOfferArrays(Row{-1}, highest);
+    ShowLoan();
+    for (Row row{0}; row <= highest; ++row.value) {
+        ShowOffer(row);
+        m_display->ShowMark({FieldId::ActualPayment, row}, Mark::None);
+    }
+    Recalculate(Payment | Schedule);
+    m_dirty = false;
+}
+
 void Worksheet::SetStartingAmounts() {
     for (CLoan& offer : m_offers) {
         offer.SetStartingAmount(m_loan.amount);

@@ -74,6 +74,17 @@ public:
     void GrowOfferArrays(Row from, Row to);
     OfferIndex OfferIndexOfRow(Row row) const { return m_order.OfferIndexOfRow(row); }
     const CLoan& OfferOfRow(Row row) const { return m_offers.at(OfferIndexOfRow(row).value); }
+    /// The calculator itself, for whoever brings a whole offer; ShowOffer then shows it.
+    CLoan& OfferOfRow(Row row) { return m_offers.at(OfferIndexOfRow(row).value); }
+    /// Shows the inputs of the offer in this row, then calculates it and shows the results.
+    void ShowOffer(Row row);
+
+    // The worksheet as a whole.
+    /// Back to how it started: nothing entered, the next payment today, nothing to save. The rows
+    /// stay, empty.
+    void Clear();
+    /// From now on terms are typed and shown in months, or in years; shows them so.
+    void SetTermInMonths(bool inMonths);
 
     // What the fields need: one way in and out for whatever is typed, picked or ticked.
     const FieldTexts& Texts() const { return m_texts; }
@@ -165,7 +176,7 @@ private:
     void MarkMissing(FieldId field, bool missing);
     FieldNumber NumberOf(Field field) const;
     QString ChoiceText(Field field) const;
-    CLoan& Offer(Row row) { return m_offers.at(OfferIndexOfRow(row).value); }
+    void ShowLoan() const;
 
     WorksheetDisplay* m_display;
     FieldTexts m_texts;

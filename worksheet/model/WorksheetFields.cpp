@@ -97,6 +97,30 @@ void Worksheet::Show(Field field) const {
     }
 }
 
+void Worksheet::ShowLoan() const {
+    for (const FieldRule& rule : LoanFields()) {
+        Show({rule.id});
+    }
+}
+
+void Worksheet::ShowOffer(Row row) {
+    for (const FieldRule& rule : OfferFields()) {
+        if (rule.access == Access::Input) {
+            Show({rule.id, row});
+        }
+    }
+    RecalculateOffer(row);
+}
+
+void Worksheet::SetTermInMonths(bool inMonths) {
+    m_texts.SetTermInMonths(inMonths);
+    Show({FieldId::LoanTerm});
+    Show({FieldId::CurLoanTerm});
+    for (Row row{0}; row <= HighestOfferRow(); ++row.value) {
+        Show({FieldId::Term, row});
+    }
+}
+
 void Worksheet::ShowChoices() const {
     for (const FieldId id :
          {FieldId::LoanType, FieldId::CurPaymentFrequency, FieldId::ActPaymentFrequency}) {
@@ -153,7 +177,7 @@ void Worksheet::StoreLoanNumber(FieldId field, const FieldNumber& number) {
 }
 
 void Worksheet::StoreOfferNumber(Field field, const FieldNumber& number) {
-    switch (CLoan& offer = Offer(field.row); field.id) {
+    switch (CLoan& offer = OfferOfRow(field.row); field.id) {
     case FieldId::Points:
         offer.SetPoints(std::get<double>(number));
         break;
@@ -183,19 +207,19 @@ void Worksheet::StoreChoice(Field field, const QString& text) {
         SetCurrentActualFrequency(text);
         return Recalculate(Payment | Schedule);
     default:
-        Offer(field.row).SetFrequency(text);
+        OfferOfRow(field.row).SetFrequency(text);
         Show(field);
         return RecalculateOffer(field.row);
     }
 }
 
 void Worksheet::StoreFinancePoints(Row row, bool financed) {
-    Offer(row).SetFinancePoints(financed);
+    OfferOfRow(row).SetFinancePoints(financed);
     Show({FieldId::FinancePoints, row});
     RecalculateOffer(row);
 }
 
 void Worksheet::StoreWho(Row row, const QString& who) {
-    Offer(row).SetWho(who);
+    OfferOfRow(row).SetWho(who);
     Show({FieldId::Who, row});
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "Mark.h"
+
 #include <QColor>
+#include <QPalette>
 
 /// The backgrounds that tell something. Both are light in every palette, so the text on them is
 /// dark.
@@ -9,5 +12,15 @@ namespace Colours {
 inline constexpr QColor Missing{255, 208, 215}; ///< light pink
 inline constexpr QColor Raised{255, 255, 128};  ///< light yellow
 inline constexpr QColor TextOnMark{0, 0, 0};
+
+/// What a marked field sets of its own; nothing where there is no mark.
+inline QPalette MarkedPalette(Mark mark) {
+    QPalette palette;
+    if (mark != Mark::None) {
+        palette.setColor(QPalette::Base, mark == Mark::Missing ? Missing : Raised);
+        palette.setColor(QPalette::Text, TextOnMark);
+    }
+    return palette;
+}
 
 } // namespace Colours

@@ -1,9 +1,24 @@
 #include "FailureReport.h"
 
+#include <QStringList>
+
 QString FailureText(const Failure& failure) {
     return QStringLiteral("errn=%1  src=%2  desc=%3")
         .arg(QString::number(failure.Number()), QString::fromStdString(failure.Source()),
              QString::fromStdString(failure.Description()));
+}
+
+QString FailureLines(const std::vector<Failure>& failures) {
+    constexpr std::size_t most = 10;
+    QStringList lines;
+    for (const Failure& failure : failures) {
+        if (static_cast<std::size_t>(lines.size()) == most) {
+            lines.append(QStringLiteral("… (%1)").arg(failures.size()));
+            break;
+        }
+        lines.append(FailureText(failure));
+    }
+    return lines.join(u'\n');
 }
 
 void FailureReport::Report(const std::exception& failure) const {

@@ -6,9 +6,13 @@
 #include <QString>
 
 #include <exception>
+#include <vector>
 
 /// How a failure is told: "errn=" number "  src=" source "  desc=" description.
 QString FailureText(const Failure& failure);
+
+/// Several of them, one a line; of many, the first ones and their number.
+QString FailureLines(const std::vector<Failure>& failures);
 
 /// The one place where a failure in a handler ends up: it is told to the user, and the program
 /// carries on.

@@ -16,12 +16,7 @@ void EntryEdit::SetMark(Mark mark) {
         return;
     }
     m_mark = mark;
-    QPalette marked;
-    if (mark != Mark::None) {
-        marked.setColor(QPalette::Base, mark == Mark::Missing ? Colours::Missing : Colours::Raised);
-        marked.setColor(QPalette::Text, Colours::TextOnMark);
-    }
-    setPalette(marked);
+    setPalette(Colours::MarkedPalette(mark));
 }
 
 void EntryEdit::focusInEvent(QFocusEvent* event) {

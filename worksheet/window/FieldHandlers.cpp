@@ -3,6 +3,7 @@
 #include "CalendarDate.h"
 #include "ControlMap.h"
 #include "FieldDiscipline.h"
+#include "LoanNameBox.h"
 #include "Worksheet.h"
 
 #include <QCheckBox>
@@ -34,7 +35,9 @@ struct Events {
 };
 
 constexpr std::array LoanEvents{
-    Events<>{.field = LoanName, .lostFocus = &H::cboLoanName_LostFocus},
+    Events<>{.field = LoanName,
+             .gotFocus = &H::cboLoanName_GotFocus,
+             .lostFocus = &H::cboLoanName_LostFocus},
     Events<>{
         .field = LoanType, .lostFocus = &H::cboLoanType_LostFocus, .click = &H::cboLoanType_Click},
     Events<>{LoanAmount, &H::txtLoanAmount_GotFocus, &H::txtLoanAmount_KeyPress,
@@ -166,7 +169,16 @@ bool FieldHandlers::IsTicked(Row row) const {
     return m_controls->ControlOf<QCheckBox>({FinancePoints, row})->isChecked();
 }
 
-void FieldHandlers::cboLoanName_LostFocus() { m_worksheet->SetLoanName(ChosenText({LoanName})); }
+void FieldHandlers::cboLoanName_GotFocus() {
+    m_controls->ControlOf<LoanNameBox>({LoanName})->SelectAll();
+}
+/// The mark of a missing name goes once there is one.
+void FieldHandlers::cboLoanName_LostFocus() {
+    m_worksheet->SetLoanName(ChosenText({LoanName}));
+    if (!m_worksheet->LoanName().isEmpty()) {
+        m_controls->ControlOf<LoanNameBox>({LoanName})->SetMark(Mark::None);
+    }
+}
 
 void FieldHandlers::cboLoanType_Click() { StoreChoice({LoanType}); }
 void FieldHandlers::cboLoanType_LostFocus() { StoreChoice({LoanType}); }

@@ -27,6 +27,7 @@ public:
     bool KeyUp(Field field, int key);
 
     // The loan wanted and the loan held today.
+    void cboLoanName_GotFocus();
     void cboLoanName_LostFocus();
     void cboLoanType_Click();
     void cboLoanType_LostFocus();

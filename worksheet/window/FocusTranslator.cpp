@@ -5,16 +5,18 @@
 #include "FieldEdits.h"
 #include "FieldHandlers.h"
 
+#include <QApplication>
 #include <QDateEdit>
 #include <QFocusEvent>
 #include <QKeyEvent>
 
 namespace {
 
-/// The focus goes away for a while and comes back: the field is still being edited.
+/// The focus goes away for a while and comes back: the field is still being edited. The pop-up of a
+/// list takes the focus for its entries under no reason of its own.
 bool IsPassing(Qt::FocusReason reason) {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
-           reason == Qt::MenuBarFocusReason;
+           reason == Qt::MenuBarFocusReason || QApplication::activePopupWidget() != nullptr;
 }
 
 } // namespace
@@ -51,8 +53,14 @@ bool FocusTranslator::Commit() {
         return false;
     }
     m_report->Guard([&] { m_handlers->LostFocus(field); });
-    m_report->Guard([&] { m_handlers->GotFocus(field); });
+    Reenter();
     return true;
+}
+
+void FocusTranslator::Reenter() {
+    if (m_edited) {
+        m_report->Guard([&] { m_handlers->GotFocus(*m_edited); });
+    }
 }
 
 bool FocusTranslator::eventFilter(QObject* watched, QEvent* event) {

@@ -31,6 +31,9 @@ public:
     /// False when it is refused; the user has been told.
     bool Commit();
 
+    /// Puts the field being edited, if any, into entry form: its value may be another one.
+    void Reenter();
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -62,6 +62,7 @@ void Loan::Form_Load() {
         language.SettleDetectedLanguage();
     } else {
         m_report.Guard([&] { language.LoadLanguage(language.CurrentLanguage()); });
+        language.SettleDetectedLanguage(); // a number that no language has is not kept
     }
     m_languages.MarkCurrent();
     m_rows.CreateRows(Row{m_settings.loansDisplayed});
@@ -77,7 +78,7 @@ void Loan::Form_Load() {
 }
 
 /// Nothing typed is lost on the way out: a field that cannot be stored keeps the window open.
-bool Loan::Form_Unload() { return m_focus.Commit(); }
+bool Loan::Form_Unload() { return m_focus.Commit() && (!m_mayClose || m_mayClose()); }
 
 void Loan::mnuFileExit_Click() { close(); }
 
@@ -159,6 +160,33 @@ void Loan::MeasureFields() {
     m_ui->picScroll->setMinimumSize(m_columns.MinimumWidth(), shown * m_columns.RowHeight());
     m_ui->picScroll->setMaximumHeight(shown * m_columns.RowHeight() * 3 / 2);
     m_rows.Layout();
+}
+
+/// Another number of rows takes or gives room; a window that fills the screen keeps its size.
+void Loan::FitHeight() {
+    if (!isMaximized() && !isFullScreen()) {
+        m_ui->centralWidget->layout()->activate();
+        resize(width(), minimumSizeHint().height());
+    }
+}
+
+void Loan::MarkNameMissing() { m_display.ShowMark({FieldId::LoanName}, Mark::Missing); }
+
+void Loan::ClearNameMark() { m_display.ShowMark({FieldId::LoanName}, Mark::None); }
+
+void Loan::ApplySettings(const Settings& settings) {
+    const Settings before = std::exchange(m_settings, settings);
+    if (before.wallpaper != m_settings.wallpaper) {
+        LoadWallpaper();
+    }
+    m_worksheet.SetTermInMonths(m_settings.termInMonths);
+    ApplyCaptions();
+    m_rows.SetLoansDisplayed(Row{m_settings.loansDisplayed});
+    MeasureFields();
+    if (before.loansDisplayed != m_settings.loansDisplayed) {
+        FitHeight();
+    }
+    Reenter();
 }
 
 void Loan::changeEvent(QEvent* event) {

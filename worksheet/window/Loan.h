@@ -20,6 +20,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 namespace Ui {
 class Loan;
@@ -44,8 +45,28 @@ public:
     Loan& operator=(Loan&&) = delete;
     ~Loan() override;
 
-    const Worksheet& GetWorksheet() const { return m_worksheet; }
+    // For the commands of the other rooms, which own the handlers of their menu entries.
+    const Ui::Loan& Form() const { return *m_ui; }
+    Worksheet& GetWorksheet() { return m_worksheet; }
+    OfferRows& Rows() { return m_rows; }
+    Messages& GetMessages() { return m_messages; }
+    const FailureReport& Report() const { return m_report; }
+    /// Stores the field being edited, which stays in entry form. False: it is refused, and the user
+    /// has been told; the command stops.
+    bool Commit() { return m_focus.Commit(); }
+    /// After a change of the whole worksheet: the field being edited shows its new value to edit.
+    void Reenter() { m_focus.Reenter(); }
+    /// A worksheet without a name cannot be saved: marks the name's box.
+    void MarkNameMissing();
+    void ClearNameMark();
+
     const Settings& GetSettings() const { return m_settings; }
+    /// Takes other settings and shows what follows from them. A picture that cannot be loaded is
+    /// told and dropped.
+    void ApplySettings(const Settings& settings);
+
+    /// Asked before the window closes, once the field being edited is stored; false keeps it open.
+    void OnUnload(std::function<bool()> mayClose) { m_mayClose = std::move(mayClose); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -65,12 +86,14 @@ private:
     void RefillLists();
     void RenewLanguage();
     void MeasureFields();
+    void FitHeight();
     void LoadWallpaper();
     void ClearRaisedMarks();
 
     // First, because making the form raises events that ask for it.
     bool m_loaded = false;
     Settings m_settings;
+    std::function<bool()> m_mayClose;
     std::unique_ptr<Ui::Loan> m_ui;
     Messages m_messages;
     FailureReport m_report;

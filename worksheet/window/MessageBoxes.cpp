@@ -7,10 +7,47 @@
 #include <QApplication>
 #include <QMessageBox>
 
-void MessageBoxes::Show(const QString& text) {
-    QMessageBox box(QMessageBox::NoIcon, GetResourceText(TextNumber::WindowTitle), text,
-                    QMessageBox::Ok, QApplication::activeWindow());
+#include <array>
+
+namespace {
+
+struct ButtonText {
+    QMessageBox::StandardButton button;
+    int text;
+};
+
+constexpr std::array ButtonTexts{
+    ButtonText{QMessageBox::Ok, TextNumber::Ok},
+    ButtonText{QMessageBox::Yes, TextNumber::Yes},
+    ButtonText{QMessageBox::No, TextNumber::No},
+    ButtonText{QMessageBox::Cancel, TextNumber::Cancel},
+};
+
+/// The button pressed, by its role.
+int Run(QMessageBox::Icon icon, const QString& title, const QString& text,
+        QMessageBox::StandardButtons buttons) {
+    QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
-    box.button(QMessageBox::Ok)->setText(GetResourceText(TextNumber::Ok));
-    box.exec();
+    for (const ButtonText& shown : ButtonTexts) {
+        if (QAbstractButton* button = box.button(shown.button)) {
+            button->setText(GetResourceText(shown.text));
+        }
+    }
+    return box.exec();
+}
+
+} // namespace
+
+void MessageBoxes::Show(const QString& text) {
+    Run(QMessageBox::NoIcon, GetResourceText(TextNumber::WindowTitle), text, QMessageBox::Ok);
+}
+
+Answer MessageBoxes::Ask(const Question& question) {
+    QMessageBox::StandardButtons buttons = QMessageBox::Yes | QMessageBox::No;
+    buttons.setFlag(QMessageBox::Cancel, question.mayCancel);
+    const int pressed = Run(QMessageBox::Question, question.title, question.text, buttons);
+    if (pressed == QMessageBox::Yes) {
+        return Answer::Yes;
+    }
+    return pressed == QMessageBox::No || !question.mayCancel ? Answer::No : Answer::Cancel;
 }

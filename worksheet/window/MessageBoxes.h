@@ -2,11 +2,10 @@
 
 #include "Messages.h"
 
-class QWidget;
-
-/// The toolkit's message boxes, over the active window: a text and an OK button, under the
-/// program's own title.
+/// The toolkit's message boxes, over the active window. A message stands under the program's own
+/// title, a question under a title of its own.
 class MessageBoxes : public MessageDoor {
 public:
     void Show(const QString& text) override;
+    Answer Ask(const Question& question) override;
 };

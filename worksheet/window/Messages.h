@@ -7,11 +7,24 @@
 #include <deque>
 #include <functional>
 
-/// Shows a text to the user and waits until it has been read. The one door for message boxes.
+/// A question that is answered by yes or no or, where that is possible, by leaving everything as it
+/// is.
+struct Question {
+    QString text;
+    QString title;
+    bool mayCancel = false;
+};
+
+enum class Answer { Yes, No, Cancel };
+
+/// Shows a text to the user and waits until it has been read or answered. The one door for message
+/// boxes.
 class MessageDoor {
 public:
     virtual ~MessageDoor() = default;
     virtual void Show(const QString& text) = 0;
+    /// Closing the box by other means than its buttons is Cancel or, where that is not offered, No.
+    virtual Answer Ask(const Question& question) = 0;
 };
 
 /// Messages on their way to the user, shown one after another once the event that raised them is
@@ -26,6 +39,9 @@ public:
     /// `afterwards` runs once the user has closed the message.
     void Post(const QString& text, const std::function<void()>& afterwards = {});
     bool Waiting() const { return !m_waiting.empty(); }
+
+    /// Asks at once: what is to happen next depends on the answer.
+    Answer Ask(const Question& question) { return m_door->Ask(question); }
 
 private:
     struct Message {

@@ -17,6 +17,7 @@
 OfferRows::OfferRows(Place place, Worksheet& worksheet, ControlMap& controls, OfferColumns& columns)
     : m_place(place), m_worksheet(&worksheet), m_controls(&controls), m_columns(&columns) {
     m_place.picScroll->installEventFilter(this);
+    m_place.vsbLoans->installEventFilter(this);
     connect(m_place.vsbLoans, &QScrollBar::valueChanged, this, [this] {
         if (m_place.vsbLoans->isSliderDown()) {
             vsbLoans_Scroll();
@@ -32,6 +33,17 @@ void OfferRows::CreateRows(Row loansDisplayed) {
     m_worksheet->GrowOfferArrays(HighestOfferRow(), loansDisplayed);
     for (Row row{0}; row <= loansDisplayed; ++row.value) {
         CreateOfferRow(row);
+    }
+}
+
+void OfferRows::SetLoansDisplayed(Row loansDisplayed) {
+    m_loansDisplayed = loansDisplayed;
+    GrowTo(loansDisplayed);
+}
+
+void OfferRows::GrowTo(Row row) {
+    while (HighestOfferRow() < std::min(row, m_offerRowCap)) {
+        AddOfferRow();
     }
 }
 
@@ -140,8 +152,8 @@ void OfferRows::ScrollByWheel(int eighthsOfDegree) {
     m_place.vsbLoans->setValue(m_place.vsbLoans->value() - rows * m_rowHeight);
 }
 
-/// The wheel scrolls the rows wherever it turns over them: a list under the pointer must not change
-/// its choice unseen.
+/// The wheel scrolls the rows by one a notch wherever it turns over them or their scroll bar: a
+/// list under the pointer must not change its choice unseen.
 bool OfferRows::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Wheel) {
         ScrollByWheel(static_cast<QWheelEvent*>(event)->angleDelta().y());

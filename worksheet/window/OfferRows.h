@@ -30,6 +30,9 @@ public:
     /// them.
     void CreateRows(Row loansDisplayed);
 
+    /// Another number of rows on display: rows are added until there are as many. Layout follows.
+    void SetLoansDisplayed(Row loansDisplayed);
+
     Row HighestOfferRow() const;
     Row LoansDisplayed() const { return m_loansDisplayed; }
     /// The distance of two rows in pixels.
@@ -37,6 +40,10 @@ public:
 
     /// Appends an empty row, up to the cap; at the cap nothing happens.
     void AddOfferRow();
+    /// Appends rows until this one is there, or the last one that may be.
+    void GrowTo(Row row);
+    /// The last row that may be.
+    Row OfferRowCap() const { return m_offerRowCap; }
     /// Brings a row into the frame.
     void ShowOfferRow(Row row) const;
     /// Places everything anew, after the columns have been measured.

@@ -6,5 +6,6 @@
 struct Settings {
     int loansDisplayed = 5; ///< the index of the last row that shows without scrolling
     bool termInMonths = false;
-    QString wallpaper; ///< path of the background picture; empty: none
+    QString wallpaper;          ///< path of the background picture; empty: none
+    QString wallpaperDirectory; ///< where the next picture is looked for; empty: anywhere
 };

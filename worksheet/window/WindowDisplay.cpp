@@ -4,6 +4,7 @@
 #include "ControlMap.h"
 #include "FieldEdits.h"
 #include "Language.h"
+#include "LoanNameBox.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -21,6 +22,7 @@ void WindowDisplay::ShowText(Field field, const QString& text) {
         edit->setCursorPosition(0); // the leading digits of an amount are the ones that matter
     } else if (auto* list = m_controls->ControlOf<QComboBox>(field)) {
         if (list->isEditable()) {
+            list->setCurrentIndex(-1); // the text alone counts, not an entry that it came from
             list->setEditText(text);
         } else {
             list->setCurrentIndex(text.isEmpty() ? -1 : list->findText(text));
@@ -35,7 +37,9 @@ void WindowDisplay::ShowTicked(Field field, bool ticked) {
 }
 
 void WindowDisplay::ShowDate(Field field, Date date) {
-    if (auto* picker = m_controls->ControlOf<QDateEdit>(field); picker && !date.IsNone()) {
+    auto* picker = m_controls->ControlOf<QDateEdit>(field);
+    // Set again, a date would undo the part of it that is being typed.
+    if (picker && !date.IsNone() && picker->date() != ToCalendar(date)) {
         const QSignalBlocker quiet(picker);
         picker->setDate(ToCalendar(date));
     }
@@ -44,11 +48,14 @@ void WindowDisplay::ShowDate(Field field, Date date) {
 void WindowDisplay::ShowMark(Field field, Mark mark) {
     if (auto* edit = m_controls->ControlOf<EntryEdit>(field)) {
         edit->SetMark(mark);
+    } else if (auto* name = m_controls->ControlOf<LoanNameBox>(field)) {
+        name->SetMark(mark);
     }
 }
 
 void WindowDisplay::ShowToolTip(Field field, bool shown) {
     if (auto* control = m_controls->ControlOf(field)) {
+        control->setProperty("toolTipAway", !shown);
         control->setToolTip(shown ? GetResourceText(control->property("toolTipText").toInt())
                                   : QString());
     }

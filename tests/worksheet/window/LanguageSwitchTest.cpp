@@ -137,6 +137,19 @@ TEST_F(LanguageSwitch, ReachesEveryKindOfText) {
     EXPECT_EQ(SettledMessages(), QStringList(u"Escriba un número de la forma nnnn.nn"_qs));
 }
 
+TEST_F(LanguageSwitch, BringsNoTooltipBackThatIsAway) {
+    Open();
+    FillFirstOffer();
+    SwitchLanguage(Spanish);
+    EXPECT_EQ(Control(u"txtInterest(0)").toolTip(), u"");
+    EXPECT_EQ(Control(u"txtPayoffDate(0)").toolTip(),
+              u"La fecha en que este préstamo quedará liquidado");
+    Fill(u"txtInterestRate(0)", u"0");
+    SwitchLanguage(English);
+    EXPECT_EQ(Control(u"txtPayoffDate(0)").toolTip(), u"");
+    EXPECT_EQ(Control(u"txtPandI(0)").toolTip(), u"Principle and Interest");
+}
+
 TEST_F(LanguageSwitch, ReachesRowsAppendedLater) {
     Open({.language = Spanish});
     Click(u"txtPoints(5)");

@@ -139,7 +139,7 @@ TEST_F(Scrolling, TheWheelScrollsWhereverItTurns) {
     Choose(u"cboFrequency(0)", 1);
     for (const QStringView place :
          {u"chkPoints(2)", u"txtPoints(2)", u"cboFrequency(0)", u"cboFrequency(2)", u"txtPandI(2)",
-          u"txtWho(2)", u"OfferRow(2)", u"picScroll"}) {
+          u"txtWho(2)", u"OfferRow(2)", u"picScroll", u"vsbLoans"}) {
         SCOPED_TRACE(place.toString().toStdString());
         ScrollTo(0);
         Wheel(Control(place), -1);

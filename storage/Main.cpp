@@ -1,34 +1,105 @@
+// The composition root: makes everything, wires it, starts it.
+
 #include "CalendarDate.h"
+#include "FileCommands.h"
 #include "Language.h"
 #include "LanguageIdentifier.h"
 #include "Loan.h"
 #include "MessageBoxes.h"
+#include "OptionsCommands.h"
+#include "PictureDialog.h"
+#include "SettingsStore.h"
+#include "StartUp.h"
+#include "StoreCheck.h"
+#include "TextNumbers.h"
+#include "WindowPlace.h"
 
 #include <QApplication>
 #include <QDate>
 #include <QFileInfo>
+#include <QSettings>
+
+#include <optional>
 
 namespace {
 
 Date Today() { return FromCalendar(QDate::currentDate()); }
 
-/// Chooses the language before any window needs a text.
-void ChooseLanguage() {
+void SetUpLanguage() {
     const QFileInfo program(QCoreApplication::applicationFilePath());
-    Language& language = Language::Instance();
-    language.SetUp(program.absolutePath(), program.completeBaseName());
-    language.DetectLanguage(UserDefaultLanguageIdentifier());
+    Language::Instance().SetUp(program.absolutePath(), program.completeBaseName());
+}
+
+/// A text about the store itself, before the store has told the language.
+QString StoreText(int number) {
+    Language::Instance().DetectLanguage(UserDefaultLanguageIdentifier());
+    return GetResourceText(number).arg(QString::fromStdString(RegistryAPI::UserStore().string()));
+}
+
+/// What keeps the program from starting, in words; nothing when it can start.
+std::optional<QString> Obstacle(const RegistryAPI& store, const StoreCondition& condition) {
+    if (condition.state == StoreCondition::State::Newer) {
+        return StoreText(TextNumber::StoreNewer);
+    }
+    try {
+        PrepareKeyAndLanguage(store, UserDefaultLanguageIdentifier());
+    } catch (const Failure& failure) {
+        return StoreText(TextNumber::StoreUnusable) + QStringLiteral("\n\n") + FailureText(failure);
+    }
+    return std::nullopt;
+}
+
+void TellAboutStore(Messages& messages, const RegistryAPI& store, const StoreCondition& condition,
+                    const std::vector<Failure>& refused) {
+    if (condition.state == StoreCondition::State::Repaired) {
+        messages.Post(GetResourceText(TextNumber::StoreRepaired)
+                          .arg(QString::fromStdString(condition.keptAs.string()))
+                          .arg(LoanStore(store).Names().size()));
+    }
+    if (!refused.empty()) {
+        messages.Post(GetResourceText(TextNumber::SettingsNotRead) + QStringLiteral("\n\n") +
+                      FailureLines(refused));
+    }
+}
+
+int Run(const RegistryAPI& store, const StoreCondition& condition, MessageBoxes& messages) {
+    const auto [settings, refused] = LoadSettings(store);
+    Loan window({.messages = &messages, .locale = QLocale::system(), .today = Today}, settings);
+    FileCommands files(window, LoanStore(store));
+    PictureDialog pictures;
+    const OptionsCommands options(window, store, pictures);
+    QSettings kept;
+    window.OnUnload([&] {
+        if (!files.MayDrop()) {
+            return false;
+        }
+        SaveSettings(store, window.GetSettings());
+        KeepPlace(window, kept);
+        return true;
+    });
+    RestorePlace(window, kept);
+    TellAboutStore(window.GetMessages(), store, condition, refused);
+    window.show();
+    return QApplication::exec();
 }
 
 } // namespace
 
 int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Quend Halverworks"));
     QCoreApplication::setApplicationName(QStringLiteral("Loan"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Quend Loan"));
-    ChooseLanguage();
+    SetUpLanguage();
     MessageBoxes messages;
-    Loan window({.messages = &messages, .locale = QLocale::system(), .today = Today}, Settings());
-    window.show();
-    return QApplication::exec();
+    const RegistryAPI store(RegistryAPI::UserStore());
+    const StoreCondition condition = PrepareStore(
+        RegistryAPI::UserStore(), QDate::currentDate().toString(Qt::ISODate).toStdString());
+    if (const auto obstacle = Obstacle(store, condition)) {
+        messages.Show(*obstacle);
+        return 1;
+    }
+    const int result = Run(store, condition, messages);
+    TidyStore(RegistryAPI::UserStore());
+    return result;
 }

@@ -13,7 +13,7 @@ from pathlib import Path
 from accessibility import BusError
 from controls import Texts
 from scenario import Malformed, Reading, parse, play
-from session import Session
+from session import Session, run
 from waiting import Expired
 from window import Refused, Window
 
@@ -68,7 +68,4 @@ def main() -> int:
 
 
 if __name__ == "__main__":
-    try:
-        sys.exit(main())
-    except KeyboardInterrupt:
-        sys.exit(130)
+    run(main)

@@ -12,7 +12,7 @@ from pathlib import Path
 from accessibility import BusError
 from controls import Texts
 from scenario import parse, play
-from session import Session
+from session import Session, run
 from waiting import Expired
 from window import Refused, Window
 
@@ -64,10 +64,20 @@ def _speak(window: Window, language: int, file: Path) -> None:
     print(f"picture: {file}")
 
 
-def _print_offers(window: Window) -> None:
-    rows = [list(_COLUMNS)]
-    for row in range(_OFFERS):
-        rows.append([window.read(f"{control}({row})") for control, _ in _COLUMNS.values()])
+def _offers(window: Window) -> list[list[str]]:
+    """What the rows of the offers show."""
+    return [[window.read(f"{control}({row})") for control, _ in _COLUMNS.values()]
+            for row in range(_OFFERS)]
+
+
+def _current(window: Window) -> dict[str, str]:
+    """What the band of the loan held today shows, and the escrow."""
+    controls = {**_CURRENT, "Monthly escrow": "txtMonthlyEscrow"}
+    return {heading: window.read(control) for heading, control in controls.items()}
+
+
+def _print_offers(offers: list[list[str]]) -> None:
+    rows = [list(_COLUMNS), *offers]
     widths = [max(len(row[column]) for row in rows) for column in range(len(_COLUMNS))]
     for row in rows:
         cells = [cell.rjust(width) if right else cell.ljust(width)
@@ -75,19 +85,33 @@ def _print_offers(window: Window) -> None:
         print("  ".join(cells).rstrip())
 
 
-def _print_current(window: Window) -> None:
+def _print_current(shown: dict[str, str]) -> None:
     print("\nThe loan held today")
-    for heading, control in _CURRENT.items():
-        print(f"  {heading:<15}{window.read(control):>14}")
-    print(f"  {'Monthly escrow':<15}{window.read('txtMonthlyEscrow'):>14}\n")
+    for heading, text in shown.items():
+        print(f"  {heading:<15}{text:>14}")
+    print()
 
 
-def _show(window: Window, pictures: Path) -> None:
+def _open_again(window: Window, locale: str) -> None:
+    """Ends the program and opens the saved worksheet in a new run of it."""
+    name = window.read("cboLoanName")
+    window.menu(["mnuFile", "mnuFileSave"])
+    before = (_offers(window), _current(window))
+    window.quit()
+    window.start(locale)
+    window.choose("cboLoanName", name)
+    if (_offers(window), _current(window)) != before:
+        raise Refused("the saved worksheet shows other figures than before")
+    print(f"Saved as {name!r} and opened again: the same figures.")
+
+
+def _show(window: Window, pictures: Path, locale: str) -> None:
     window.menu(["mnuTools", "mnuToolsLanguage", "mnuToolsLanguageOpt(1)"])
     for reading in play(window, parse(_SAMPLE.read_text(encoding="utf-8").splitlines())):
         print(f"{reading.control}: {reading.text}\n")
-    _print_offers(window)
-    _print_current(window)
+    _print_offers(_offers(window))
+    _print_current(_current(window))
+    _open_again(window, locale)
     _speak(window, 1, pictures / "window-english.png")
     _speak(window, 2, pictures / "window-spanish.png")
 
@@ -97,7 +121,7 @@ def main() -> int:
     with Session(given.locale) as session:
         try:
             window = Window(session, given.program, Texts(_ROOT / "language/components"), 10.0)
-            _show(window, given.pictures.resolve())
+            _show(window, given.pictures.resolve(), given.locale)
         except (Refused, Expired, BusError, OSError) as error:
             print(f"demo: {error}", file=sys.stderr)
             return 1
@@ -105,7 +129,4 @@ def main() -> int:
 
 
 if __name__ == "__main__":
-    try:
-        sys.exit(main())
-    except KeyboardInterrupt:
-        sys.exit(130)
+    run(main)

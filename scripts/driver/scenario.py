@@ -11,6 +11,7 @@
     key <control> <key> ...         presses keys by their X names, such as Down or shift+Tab
     keystrokes <control> <text>     types, and neither empties the field nor leaves it
     dialog                          waits for a message box, prints its text and closes it
+    answer <text>|@<n>              waits for a question, prints it and presses that button
     expect <control> <text>         waits until the control shows the text
     read <control> ...              prints what each control shows
     name <control> ...              prints what a screen reader calls each control
@@ -18,6 +19,10 @@
     screenshot <file>               takes a picture of the window
     tree                            prints all controls there are
     quit                            closes the window and waits for a good end
+    close                           closes the window; a question may follow
+    ended                           waits for a good end
+    kill                            ends the program at once, without a chance to do anything
+    start <locale>                  starts the program again, with what it has kept
 
 Printed is a line for each thing read: the control, a tab, the text.
 """
@@ -117,6 +122,11 @@ _HANDLERS: dict[str, Handler] = {
     "expect": _deed(Window.expect),
     "screenshot": _deed(lambda window, file, _: window.screenshot(Path(file))),
     "quit": _deed(lambda window, *_: window.quit()),
+    "close": _deed(lambda window, *_: window.close()),
+    "ended": _deed(lambda window, *_: window.ended()),
+    "kill": _deed(lambda window, *_: window.kill()),
+    "start": _deed(lambda window, locale, _: window.start(locale)),
+    "answer": lambda window, rest: [Reading("answer", window.answer(rest))],
     "read": _look(Window.read),
     "name": _look(lambda window, control: window.find(control).name()),
     "dialog": _note("dialog", Window.dialog),

@@ -14,10 +14,11 @@ import subprocess
 import sys
 import tempfile
 import time
-from collections.abc import Mapping, Sequence
+from collections.abc import Callable, Mapping, Sequence
 from contextlib import ExitStack
 from pathlib import Path
 from types import FrameType, TracebackType
+from typing import NoReturn
 
 from waiting import wait_for
 
@@ -45,6 +46,14 @@ def _children() -> list[int]:
         except OSError:
             continue
     return found
+
+
+def run(main: Callable[[], int]) -> NoReturn:
+    """Ends this process with the exit code of its main function, 130 after an interrupt."""
+    try:
+        sys.exit(main())
+    except KeyboardInterrupt:
+        sys.exit(130)
 
 
 def _reap() -> None:

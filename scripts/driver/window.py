@@ -33,19 +33,26 @@ class Window:
 
     def __init__(self, session: Session, program: Path, texts: Texts, seconds: float) -> None:
         self._session = session
+        self._program = program
         self._texts = texts
         self._seconds = seconds
         self._hands = Hands(session.environment)
-        self._locale = session.environment["LC_ALL"]
-        self._known: dict[str, Node] = {}
         self._log = session.folder / "program.log"
-        with self._log.open("wb") as log:
-            self._process = session.start(
-                [str(program)], {"QT_QPA_PLATFORM": "xcb", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"},
-                output=log.fileno())
         self._bus = Bus(session.environment["DBUS_SESSION_BUS_ADDRESS"])
+        self.start(session.environment["LC_ALL"])
+
+    def start(self, locale: str) -> None:
+        """Starts the program, on what earlier runs of the session have left in its folders."""
+        self._locale = locale
+        self._known: dict[str, Node] = {}
+        with self._log.open("ab") as log:
+            self._process = self._session.start(
+                [str(self._program)],
+                {"LC_ALL": locale, "QT_QPA_PLATFORM": "xcb",
+                 "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"},
+                output=log.fileno())
         self._frame = wait_for("the window to become active",
-                               lambda: self._top(_WINDOW_ROLES, ACTIVE), 3 * seconds)
+                               lambda: self._top(_WINDOW_ROLES, ACTIVE), 3 * self._seconds)
         self._wait("the window manager to know that", self._hands.window_in_hand)
         self._look_around()
 
@@ -192,6 +199,26 @@ class Window:
         self._wait("the message box to close", lambda: self._dialog_now() != box)
         return words
 
+    def answer(self, wanted: str) -> str:
+        """Waits for a question, clicks on the button of that text, and gives the question's."""
+        box = wait_for("a question", self._dialog_now, self._seconds)
+        wait_for("the question to become active", lambda: box.has(ACTIVE), self._seconds)
+        words = _words(box)
+        names = self._texts.shown(int(wanted[1:])) if wanted.startswith("@") else {wanted}
+        buttons = [part for part in box.walk() if part.role() in ("push button", "button")]
+        button = next((part for part in buttons if part.name() in names), None)
+        if button is None:
+            raise Refused(f"no {wanted!r} among {[part.name() for part in buttons]}")
+        self._hands.click(*button.box().middle())
+        self._wait_gone(box)
+        return words
+
+    def _wait_gone(self, box: Node) -> None:
+        """Waits until a dialog is gone, be it with the whole program."""
+        wait_for("the dialog to close",
+                 lambda: self._process.poll() is not None or self._dialog_now() != box,
+                 self._seconds)
+
     def dialog_if_any(self) -> str:
         """Closes a message box that stands open, and gives its text; empty where there is none."""
         return self.dialog() if self._dialog_now() else ""
@@ -254,12 +281,25 @@ class Window:
         """What the program wrote to its terminal so far."""
         return self._log.read_text(encoding="utf-8", errors="replace").strip()
 
-    def quit(self) -> None:
-        """Closes the window as its frame's cross does, and waits for the program to end well."""
+    def close(self) -> None:
+        """Closes the window as its frame's cross does. A question may follow."""
         self._hands.keys("alt+F4")
-        self._wait("the program to end", lambda: self._process.poll() is not None)
+
+    def ended(self) -> None:
+        """Waits for the program to end well."""
+        wait_for("the program to end", lambda: self._process.poll() is not None, self._seconds)
         if self._process.returncode != 0:
             raise Refused(f"the program ended with exit code {self._process.returncode}")
+
+    def quit(self) -> None:
+        """Closes the window where nothing is to be asked, and waits for the program to end well."""
+        self.close()
+        self.ended()
+
+    def kill(self) -> None:
+        """Ends the program as a failure of power does."""
+        self._process.kill()
+        self._process.wait()
 
     # Lists
 

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QAbstractSpinBox>
+
+#include <optional>
+
+/// A number of things that is typed or counted up and down with the spin buttons. Takes digits
+/// alone, typed or pasted, and leaves them as they are: a number out of range can stand in it, and
+/// is judged by whoever asks. The buttons stay within the range.
+class CountSpin : public QAbstractSpinBox {
+    Q_OBJECT
+    // What screen readers ask a spin box for.
+    Q_PROPERTY(int value READ ValueOrZero WRITE SetNumber)
+    Q_PROPERTY(int minimum READ Minimum)
+    Q_PROPERTY(int maximum READ Maximum)
+
+public:
+    explicit CountSpin(QWidget* parent = nullptr);
+
+    void SetRange(int minimum, int maximum);
+    int Minimum() const { return m_minimum; }
+    int Maximum() const { return m_maximum; }
+
+    void SetNumber(int number);
+    /// The number in the field; none when the field is empty, or when the number is out of range.
+    std::optional<int> Number() const;
+
+    /// The field itself.
+    QLineEdit& Edit() const { return *lineEdit(); }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    QValidator::State validate(QString& text, int& caret) const override;
+    void stepBy(int steps) override;
+
+protected:
+    StepEnabled stepEnabled() const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    int ValueOrZero() const { return Number().value_or(0); }
+    int NearestNumber() const;
+    void OnTextChanged();
+
+    int m_minimum = 0;
+    int m_maximum = 99;
+};

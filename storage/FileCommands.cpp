@@ -1,0 +1,202 @@
+#include "FileCommands.h"
+
+#include "CMouse.h"
+#include "Language.h"
+#include "Loan.h"
+#include "LoanForm.h"
+#include "LoanNameBox.h"
+#include "TextNumbers.h"
+
+#include <QAction>
+
+#include <array>
+#include <utility>
+
+namespace {
+
+/// The question about a loan by its name: what to do, the name, the end.
+QString WithName(int question, const QString& name) {
+    return GetResourceText(question) + name + GetResourceText(TextNumber::NameEnd);
+}
+
+} // namespace
+
+FileCommands::FileCommands(Loan& window, LoanStore store)
+    : m_window(&window), m_store(std::move(store)), m_worksheet(&window.GetWorksheet()),
+      m_cboLoanName(window.Form().cboLoanName) {
+    struct Command {
+        QAction* entry;
+        void (FileCommands::*run)();
+    };
+    const Ui::Loan& form = window.Form();
+    for (const Command& command :
+         {Command{form.mnuFileNew, &FileCommands::mnuFileNew_Click},
+          Command{form.mnuFileSave, &FileCommands::mnuFileSave_Click},
+          Command{form.mnuFileDelete, &FileCommands::mnuFileDelete_Click}}) {
+        command.entry->setEnabled(true);
+        connect(command.entry, &QAction::triggered, this, [this, run = command.run] {
+            m_window->Report().Guard([&] {
+                if (m_window->Commit()) {
+                    (this->*run)();
+                }
+            });
+        });
+    }
+    connect(m_cboLoanName, &LoanNameBox::DropDown, this, &FileCommands::cboLoanName_DropDown);
+    connect(m_cboLoanName, &LoanNameBox::Picked, this, [this](const QString& picked) {
+        m_window->Report().Guard([&] { cboLoanName_Click(picked); });
+    });
+}
+
+void FileCommands::cboLoanName_DropDown() { RefreshLoanList(); }
+
+/// What is typed in the box stays.
+void FileCommands::RefreshLoanList() {
+    const QString typed = m_cboLoanName->currentText();
+    m_cboLoanName->clear();
+    m_cboLoanName->addItem(GetResourceText(TextNumber::NewLoan));
+    m_cboLoanName->addItems(m_store.Names());
+    m_cboLoanName->setCurrentIndex(-1);
+    m_cboLoanName->setEditText(typed);
+}
+
+void FileCommands::mnuFileNew_Click() {
+    RefreshLoanList();
+    m_cboLoanName->setCurrentIndex(0);
+    cboLoanName_Click(m_cboLoanName->currentText());
+    m_cboLoanName->setFocus();
+}
+
+void FileCommands::mnuFileSave_Click() {
+    if (m_cboLoanName->currentText().isEmpty()) {
+        m_window->MarkNameMissing();
+        return;
+    }
+    SaveLoan();
+}
+
+bool FileCommands::MayDrop() {
+    if (!m_worksheet->Dirty()) {
+        return true;
+    }
+    const QString name = m_worksheet->LoanName();
+    const QString title = GetResourceText(TextNumber::SaveTitle);
+    const QString text = name.isEmpty() ? title : WithName(TextNumber::SaveQuestion, name);
+    switch (m_window->GetMessages().Ask({text, title, true})) {
+    case Answer::Yes:
+        return SaveOrMark();
+    case Answer::No:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// On the way to something else: a worksheet without a name stays, and its name is asked for.
+bool FileCommands::SaveOrMark() {
+    if (!LoanStore::IsEmptyName(m_worksheet->LoanName())) {
+        return SaveLoan();
+    }
+    m_window->MarkNameMissing();
+    m_cboLoanName->setFocus();
+    return false;
+}
+
+void FileCommands::cboLoanName_Click(const QString& picked) {
+    if (!MayDrop()) {
+        m_worksheet->Show({FieldId::LoanName});
+    } else if (picked == GetResourceText(TextNumber::NewLoan)) {
+        ClearWorksheet();
+    } else if (m_store.Exists(picked)) {
+        LoadLoan(picked);
+    } else {
+        m_worksheet->SetLoanName(picked);
+    }
+    m_window->Reenter();
+}
+
+bool FileCommands::CanSave() const {
+    if (LoanStore::IsEmptyName(m_worksheet->LoanName())) {
+        Tell(GetResourceText(TextNumber::NoNameToSave));
+        return false;
+    }
+    if (!LoanStore::CanHold(m_worksheet->LoanName())) {
+        Tell(GetResourceText(TextNumber::NameNotPossible));
+        return false;
+    }
+    for (Row row{0}; row <= m_worksheet->HighestOfferRow(); ++row.value) {
+        if (!LoanStore::CanHoldLender(m_worksheet->OfferOfRow(row).Who())) {
+            Tell(GetResourceText(TextNumber::LenderTooLong).arg(row.value + 1));
+            return false;
+        }
+    }
+    return true;
+}
+
+bool FileCommands::SaveLoan() {
+    if (!CanSave()) {
+        return false;
+    }
+    CMouse mouse;
+    mouse.SetPointer(MousePointer::Hourglass);
+    try {
+        m_store.Save(*m_worksheet);
+    } catch (const Failure& failure) {
+        Tell(GetResourceText(TextNumber::NotSaved), FailureText(failure));
+        return false;
+    }
+    return true;
+}
+
+void FileCommands::LoadLoan(const QString& name) {
+    CMouse mouse;
+    mouse.SetPointer(MousePointer::Hourglass);
+    const std::vector<Failure> failures =
+        m_store.Load(*m_worksheet, name, [this](Row last) { m_window->Rows().GrowTo(last); });
+    m_window->ClearNameMark();
+    if (!failures.empty()) {
+        Tell(GetResourceText(TextNumber::ValuesNotLoaded), FailureLines(failures));
+    }
+}
+
+void FileCommands::mnuFileDelete_Click() {
+    const QString name = m_worksheet->LoanName();
+    if (LoanStore::IsEmptyName(name) && m_worksheet->Dirty()) {
+        ClearWorksheet();
+    } else {
+        const Question question{WithName(TextNumber::DeleteQuestion, name),
+                                GetResourceText(TextNumber::DeleteTitle)};
+        if (m_window->GetMessages().Ask(question) != Answer::Yes || !DeleteLoan()) {
+            return;
+        }
+        ClearWorksheet();
+        RefreshLoanList();
+    }
+    m_cboLoanName->setFocus();
+    m_window->Reenter();
+}
+
+/// False when the worksheet is still kept.
+bool FileCommands::DeleteLoan() {
+    if (LoanStore::IsEmptyName(m_worksheet->LoanName())) {
+        Tell(GetResourceText(TextNumber::NoNameToDelete));
+        return true;
+    }
+    CMouse mouse;
+    mouse.SetPointer(MousePointer::Hourglass);
+    const bool gone = m_store.Delete(m_worksheet->LoanName());
+    if (!gone) {
+        Tell(GetResourceText(TextNumber::NotDeleted));
+    }
+    return gone;
+}
+
+void FileCommands::ClearWorksheet() {
+    m_worksheet->Clear();
+    m_window->ClearNameMark();
+}
+
+void FileCommands::Tell(const QString& text, const QString& details) const {
+    m_window->GetMessages().Post(details.isEmpty() ? text
+                                                   : text + QStringLiteral("\n\n") + details);
+}

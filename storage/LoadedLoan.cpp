@@ -1,0 +1,97 @@
+#include "LoadedLoan.h"
+
+#include "LoanValues.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr RegistryRoot Root = RegistryRoot::CurrentUser;
+
+template <class Owner>
+std::vector<RegistryValue> ReadValues(const RegistryAPI& store, const std::string& key,
+                                      const std::string& prefix,
+                                      std::span<const KeptValue<Owner>> values) {
+    std::vector<RegistryValue> read;
+    for (const KeptValue<Owner>* value : InOrderOfReading(values)) {
+        read.push_back(
+            store.GetValue(Root, key, prefix + value->name, value->type, value->Missing()));
+    }
+    return read;
+}
+
+} // namespace
+
+std::string OfferPrefix(int number) { return "Loan " + std::to_string(number); }
+
+void LoadedLoan::Read(const RegistryAPI& store, const std::string& key) {
+    m_loan = ReadValues(store, key, "", KeptLoanValues());
+    m_count = std::get<std::int32_t>(
+        store.GetValue(Root, key, LoanCountName, RegistryType::Number, std::int32_t{0}));
+    m_dateFormat = std::get<std::string>(
+        store.GetValue(Root, key, DateFormatName, RegistryType::Text, std::string()));
+    for (int number = 1; number <= std::min(m_count, MostOffers); ++number) {
+        m_offers.push_back(ReadValues(store, key, OfferPrefix(number), KeptOfferValues()));
+    }
+}
+
+template <class Step>
+void LoadedLoan::Try(const std::string& value, Step step) {
+    try {
+        step();
+    } catch (const Failure& failure) {
+        m_failures.emplace_back(failure.Number(), value, failure.Description());
+    }
+}
+
+void LoadedLoan::CheckCount() {
+    Try(LoanCountName, [&] {
+        if (m_count < 0 || m_count > MostOffers) {
+            throw OverflowFailure(LoanCountName);
+        }
+    });
+}
+
+std::vector<Failure> LoadedLoan::Put(Worksheet& worksheet, const QString& name,
+                                     const std::function<void(Row)>& growTo) {
+    // An offer of before must not be calculated with an amount of now.
+    worksheet.Clear();
+    worksheet.SetLoanName(name);
+    const StoredTexts texts(m_formats, m_dateFormat);
+    const auto values = InOrderOfReading(KeptLoanValues());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const bool isMissing = m_loan.at(i) == values[i]->Missing();
+        Try(values[i]->name, [&] {
+            if (!isMissing) {
+                values[i]->read(worksheet, m_loan.at(i), texts);
+            }
+        });
+    }
+    CheckCount();
+    if (!m_offers.empty()) {
+        growTo(Row{static_cast<int>(m_offers.size()) - 1});
+    }
+    PutOffers(worksheet);
+    // The offers and the schedule have been computed as their values came.
+    Try("CurrentPayment", [&] { worksheet.RecalculateCurrentPayment(); });
+    worksheet.ClearDirty();
+    return m_failures;
+}
+
+/// They come back packed into the first rows.
+void LoadedLoan::PutOffers(Worksheet& worksheet) {
+    const StoredTexts texts(m_formats, m_dateFormat);
+    const auto values = InOrderOfReading(KeptOfferValues());
+    for (std::size_t i = 0; i < m_offers.size(); ++i) {
+        const Row row{static_cast<int>(i)};
+        if (row > worksheet.HighestOfferRow()) {
+            break;
+        }
+        CLoan& offer = worksheet.OfferOfRow(row);
+        for (std::size_t v = 0; v < values.size(); ++v) {
+            Try(OfferPrefix(row.value + 1) + values[v]->name,
+                [&] { values[v]->read(offer, m_offers[i].at(v), texts); });
+        }
+        Try(OfferPrefix(row.value + 1), [&] { worksheet.ShowOffer(row); });
+    }
+}

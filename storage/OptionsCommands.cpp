@@ -1,0 +1,36 @@
+#include "OptionsCommands.h"
+
+#include "FailureReport.h"
+#include "Loan.h"
+#include "LoanForm.h"
+#include "SettingsStore.h"
+#include "frmOptions.h"
+
+#include <QAction>
+
+OptionsCommands::OptionsCommands(Loan& window, const RegistryAPI& store, PictureChooser& pictures)
+    : m_window(&window), m_store(store), m_pictures(&pictures) {
+    QAction* entry = window.Form().mnuToolsOptions;
+    entry->setEnabled(true);
+    connect(entry, &QAction::triggered, this,
+            [this] { m_window->Report().Guard([this] { mnuToolsOptions_Click(); }); });
+}
+
+/// Does nothing where the field being edited cannot be stored: its new text would be lost when the
+/// fields are written anew.
+void OptionsCommands::mnuToolsOptions_Click() {
+    if (!m_window->Commit()) {
+        return;
+    }
+    const std::optional<Settings> chosen = AskUser();
+    SaveSettings(m_store, chosen.value_or(m_window->GetSettings()));
+    if (chosen) {
+        m_window->ApplySettings(*chosen);
+    }
+}
+
+/// Nothing when the user gave up.
+std::optional<Settings> OptionsCommands::AskUser() {
+    frmOptions dialog(m_window->GetSettings(), m_window->GetMessages(), *m_pictures, m_window);
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.Chosen()) : std::nullopt;
+}

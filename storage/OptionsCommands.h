@@ -1,0 +1,29 @@
+#pragma once
+
+#include "RegistryAPI.h"
+#include "Settings.h"
+
+#include <QObject>
+
+#include <optional>
+
+class Loan;
+class PictureChooser;
+
+/// The Options entry of the Tools menu: runs the dialog, keeps the settings, and hands them to the
+/// main window.
+class OptionsCommands : public QObject {
+    Q_OBJECT
+
+public:
+    /// All three outlive the commands. Enables the entry.
+    OptionsCommands(Loan& window, const RegistryAPI& store, PictureChooser& pictures);
+
+private:
+    void mnuToolsOptions_Click();
+    std::optional<Settings> AskUser();
+
+    Loan* m_window;
+    RegistryAPI m_store;
+    PictureChooser* m_pictures;
+};

@@ -1,0 +1,64 @@
+#include "PictureDialog.h"
+
+#include "Language.h"
+#include "TextNumbers.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QStandardPaths>
+
+#include <array>
+
+namespace {
+
+struct LabelText {
+    QFileDialog::DialogLabel label;
+    int text;
+};
+
+constexpr std::array LabelTexts{
+    LabelText{QFileDialog::LookIn, TextNumber::PictureLookIn},
+    LabelText{QFileDialog::FileName, TextNumber::PictureFileName},
+    LabelText{QFileDialog::FileType, TextNumber::PictureFileType},
+    LabelText{QFileDialog::Accept, TextNumber::PictureOpen},
+    LabelText{QFileDialog::Reject, TextNumber::Cancel},
+};
+
+/// The folder asked for; where that is not there, the user's pictures or home.
+QString ExistingFolder(const QString& folder) {
+    for (const QString& candidate :
+         {folder, QStandardPaths::writableLocation(QStandardPaths::PicturesLocation)}) {
+        if (!candidate.isEmpty() && QFileInfo(candidate).isDir()) {
+            return candidate;
+        }
+    }
+    return QStandardPaths::writableLocation(QStandardPaths::HomeLocation);
+}
+
+} // namespace
+
+QStringList PictureDialog::Filters() {
+    QStringList patterns;
+    for (const QByteArray& ending : QImageReader::supportedImageFormats()) {
+        patterns.append(QStringLiteral("*.") + QString::fromLatin1(ending));
+    }
+    return GetResourceText(TextNumber::PictureFilter)
+        .arg(patterns.join(u' '))
+        .split(QStringLiteral(";;"));
+}
+
+QString PictureDialog::Choose(QWidget& parent, const PictureRequest& request) {
+    QFileDialog dialog(&parent, GetResourceText(TextNumber::PictureTitle));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilters(Filters());
+    dialog.setDefaultSuffix(QStringLiteral("bmp"));
+    for (const LabelText& shown : LabelTexts) {
+        dialog.setLabelText(shown.label, GetResourceText(shown.text));
+    }
+    dialog.setDirectory(ExistingFolder(request.folder));
+    if (QFileInfo(request.file).isFile()) {
+        dialog.selectFile(QFileInfo(request.file).absoluteFilePath());
+    }
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}

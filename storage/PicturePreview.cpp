@@ -1,0 +1,94 @@
+#include "PicturePreview.h"
+
+#include "Language.h"
+#include "TextNumbers.h"
+
+#include <QEvent>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPixmap>
+
+namespace {
+
+/// No sample on any screen is finer than this.
+constexpr QSize FinestSample(1600, 1200);
+
+/// The toolkit's own limit of memory at four bytes a pixel. Files with fewer bytes a pixel pass
+/// that limit and then take four on the way to the screen.
+constexpr qint64 MostPixels = qint64{128} * 1024 * 1024 / 4;
+
+QSize ShrunkInto(const QSize& box, const QSize& size) {
+    const bool fits = size.width() <= box.width() && size.height() <= box.height();
+    return fits ? size : size.scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+}
+
+struct Sample {
+    QImage picture; ///< null when the file cannot be shown
+    QSize ownSize;
+};
+
+Sample ReadSample(const QString& path) {
+    if (!QFileInfo(path).isFile()) {
+        return {}; // a folder, a device or a pipe might never end
+    }
+    QImageReader reader(path);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (qint64{size.width()} * size.height() > MostPixels) {
+        return {};
+    }
+    if (size.isValid()) {
+        reader.setScaledSize(ShrunkInto(FinestSample, size));
+    }
+    const QImage picture = reader.read();
+    const bool isTurned = (reader.transformation() & QImageIOHandler::TransformationRotate90) != 0;
+    const QSize ownSize = isTurned ? size.transposed() : size;
+    return {picture, size.isValid() ? ownSize : picture.size()};
+}
+
+} // namespace
+
+PicturePreview::PicturePreview(QWidget* parent) : QLabel(parent) {
+    setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    setAlignment(Qt::AlignCenter);
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+    setMargin(4);
+    // Its size decides about the picture, never the picture about its size.
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+QSize PicturePreview::sizeHint() const {
+    const int line = fontMetrics().lineSpacing();
+    return {28 * line, 13 * line};
+}
+
+void PicturePreview::ShowFile(const QString& path) {
+    const Sample sample = path.isEmpty() ? Sample() : ReadSample(path);
+    m_picture = sample.picture;
+    m_ownSize = sample.ownSize;
+    if (m_picture.isNull()) {
+        setText(
+            GetResourceText(path.isEmpty() ? TextNumber::NoPicture : TextNumber::PictureNotShown));
+    } else {
+        ShowPicture();
+    }
+    setAccessibleDescription(text());
+}
+
+void PicturePreview::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    if (!m_picture.isNull()) {
+        ShowPicture();
+    }
+}
+
+void PicturePreview::ShowPicture() {
+    const int margins = 2 * margin();
+    const QSize room = contentsRect().size() - QSize(margins, margins);
+    const QSize shown = ShrunkInto(room.expandedTo(QSize(1, 1)), m_ownSize);
+    QPixmap pixmap = QPixmap::fromImage(m_picture.scaled(
+        shown * devicePixelRatioF(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    pixmap.setDevicePixelRatio(devicePixelRatioF());
+    setPixmap(pixmap);
+}

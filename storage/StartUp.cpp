@@ -1,0 +1,29 @@
+#include "StartUp.h"
+
+#include "Language.h"
+#include "RegistryAPI.h"
+#include "StoreNames.h"
+
+namespace {
+
+constexpr RegistryRoot Root = RegistryRoot::CurrentUser;
+
+/// 0 when none was ever set.
+int ChosenLanguage(const RegistryAPI& store) {
+    if (!store.KeyExists(Root, BaseKey)) {
+        store.CreateKey(Root, BaseKey);
+        return 0;
+    }
+    return std::get<std::int32_t>(
+        store.GetValue(Root, BaseKey, "CurrentLanguage", RegistryType::Number, std::int32_t{0}));
+}
+
+} // namespace
+
+void PrepareKeyAndLanguage(const RegistryAPI& store, std::uint16_t languageIdentifier) {
+    Language& language = Language::Instance();
+    language.SetCurrentLanguage(ChosenLanguage(store));
+    if (language.CurrentLanguage() == 0) {
+        language.DetectLanguage(languageIdentifier);
+    }
+}

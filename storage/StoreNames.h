@@ -1,0 +1,5 @@
+#pragma once
+
+/// The key of the program in the user's store: its values are the settings, its subkeys the saved
+/// worksheets.
+inline constexpr char BaseKey[] = "Software\\Quend Halverworks\\Loan";

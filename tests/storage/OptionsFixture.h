@@ -1,0 +1,86 @@
+#pragma once
+
+#include "FakeMessages.h"
+#include "Messages.h"
+#include "PictureChooser.h"
+#include "WindowFixture.h"
+#include "frmOptions.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+class QImage;
+
+/// Stands in for the user looking for a picture: answers with `answer` and keeps what was asked.
+class FakePictures : public PictureChooser {
+public:
+    QString Choose(QWidget& /*parent*/, const PictureRequest& request) override {
+        requests.push_back(request);
+        return answer;
+    }
+    QString answer;
+    std::vector<PictureRequest> requests;
+};
+
+/// The dialog as a user meets it: on the screen, active, in a fixed language. Keys and clicks go
+/// through the window system.
+class OptionsDialog : public ::testing::Test {
+protected:
+    OptionsDialog();
+
+    void Open(const Settings& settings = {}, int language = English);
+    frmOptions& Dialog() { return *m_dialog; }
+
+    /// The control of this name. Throws when there is none.
+    QWidget& Control(QStringView name) const;
+    template <class Kind>
+    Kind& Get(QStringView name) const {
+        if (auto* control = qobject_cast<Kind*>(&Control(name))) {
+            return *control;
+        }
+        throw std::runtime_error("of another kind: " + name.toString().toStdString());
+    }
+    /// What a field or label shows.
+    QString Text(QStringView name) const;
+    static QString FocusName();
+
+    void Click(QStringView name);
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void Tab() { Press(Qt::Key_Tab); }
+    void Type(QStringView text);
+    void Paste(QStringView text);
+    /// Into the field, whose text is replaced.
+    void TypeInto(QStringView name, QStringView text);
+    /// The messages there are once everything has happened.
+    QStringList SettledMessages();
+
+    /// A file of this name in a folder of the test's own.
+    QString PathOf(QStringView file) const { return m_folder.filePath(file.toString()); }
+    /// A picture of one colour, written in the format of its ending.
+    QString Picture(QStringView file, QSize size) const;
+    QString File(QStringView file, const QByteArray& bytes) const;
+
+    FakeMessages m_door;
+    Messages m_messages{m_door};
+    FakePictures m_pictures;
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<frmOptions> m_dialog;
+};
+
+/// The defaults, but for a picture and the folder where the next is looked for.
+inline Settings WithPicture(const QString& picture, const QString& folder = {}) {
+    Settings settings;
+    settings.wallpaper = picture;
+    settings.wallpaperDirectory = folder;
+    return settings;
+}
+
+/// What text 88 says.
+inline const QString RefusedInEnglish = u"Please enter a number of offers from 1 to 15."_qs;
+inline const QString RefusedInSpanish = u"Escriba un número de ofertas del 1 al 15."_qs;

@@ -1,0 +1,125 @@
+// The toolkit's dialog in which a picture is looked for.
+
+#include "PictureDialog.h"
+#include "OptionsFixture.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <functional>
+#include <vector>
+
+namespace {
+
+class LookingForAPicture : public OptionsDialog {
+protected:
+    /// What comes of the dialog when the user does this in it.
+    QString Choose(const PictureRequest& request, const std::function<void(QFileDialog&)>& user) {
+        int shown = 0;
+        QTimer::singleShot(0, &Dialog(), [&] {
+            if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) {
+                ++shown;
+                user(*dialog);
+                static_cast<QDialog*>(dialog)->done(dialog->result());
+            }
+        });
+        const QString path = PictureDialog().Choose(Dialog(), request);
+        EXPECT_EQ(shown, 1);
+        return path;
+    }
+};
+
+TEST_F(LookingForAPicture, StartsWhereItShould) {
+    const QString picture = Picture(u"house.bmp", {3, 2});
+    const QString folder = PathOf(u"");
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    const QString usual = QDir(pictures).exists() ? pictures : QDir::homePath();
+    const auto real = [](const QString& path) { return QDir(path).absolutePath(); };
+    struct Case {
+        PictureRequest request;
+        QString folder;
+        QStringList files;
+    };
+    const std::vector<Case> cases = {
+        // file                    folder          starts in       with
+        {{picture, u"/"_qs}, folder, {picture}},           {{{}, folder + u'/'}, folder, {}},
+        {{u"/no/such.bmp"_qs, folder + u'/'}, folder, {}}, {{{}, {}}, usual, {}},
+        {{u"/no/such.bmp"_qs, u"/no/"_qs}, usual, {}},
+    };
+    Open();
+    for (const Case& tested : cases) {
+        SCOPED_TRACE((tested.request.file + u' ' + tested.request.folder).toStdString());
+        const QString path = Choose(tested.request, [&](const QFileDialog& dialog) {
+            EXPECT_EQ(real(dialog.directory().path()), real(tested.folder));
+            EXPECT_EQ(tested.files.isEmpty() ? QStringList() : dialog.selectedFiles(),
+                      tested.files);
+            EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+            EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+            EXPECT_EQ(dialog.defaultSuffix(), u"bmp");
+        });
+        EXPECT_TRUE(path.isEmpty()) << "given up";
+    }
+}
+
+TEST_F(LookingForAPicture, GivesTheFullPath) {
+    const QString picture = Picture(u"house.bmp", {3, 2});
+    Open();
+    const QString path = Choose({{}, PathOf(u"")}, [&](QFileDialog& dialog) {
+        dialog.selectFile(picture);
+        dialog.setResult(QDialog::Accepted);
+    });
+    EXPECT_EQ(path, picture);
+}
+
+TEST_F(LookingForAPicture, SpeaksTheLanguageOfTheUser) {
+    struct Case {
+        int language;
+        QString title;
+        QString bitmaps;
+        QString pictures;
+        QString all;
+        QStringList labels;
+    };
+    const std::vector<Case> cases = {
+        {English,
+         u"Choose a background picture"_qs,
+         u"Bitmaps (*.bmp)"_qs,
+         u"Pictures ("_qs,
+         u"All files (*)"_qs,
+         {u"Look in:"_qs, u"File name:"_qs, u"Files of type:"_qs, u"Open"_qs, u"Cancel"_qs}},
+        {Spanish,
+         u"Elegir una imagen de fondo"_qs,
+         u"Mapas de bits (*.bmp)"_qs,
+         u"Imágenes ("_qs,
+         u"Todos los archivos (*)"_qs,
+         {u"Buscar en:"_qs, u"Nombre de archivo:"_qs, u"Tipo de archivo:"_qs, u"Abrir"_qs,
+          u"Cancelar"_qs}},
+    };
+    for (const Case& tested : cases) {
+        Open({}, tested.language);
+        Choose({}, [&](const QFileDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), tested.title);
+            const QStringList filters = dialog.nameFilters();
+            ASSERT_EQ(filters.size(), 3);
+            EXPECT_EQ(filters[0], tested.bitmaps);
+            EXPECT_EQ(dialog.selectedNameFilter(), filters[0]);
+            EXPECT_TRUE(filters[1].startsWith(tested.pictures));
+            for (const QStringView ending : {u"*.bmp", u"*.png", u"*.jpg", u"*.gif"}) {
+                EXPECT_TRUE(filters[1].contains(ending)) << filters[1].toStdString();
+            }
+            EXPECT_EQ(filters[2], tested.all);
+            QStringList labels;
+            for (const auto label :
+                 {QFileDialog::LookIn, QFileDialog::FileName, QFileDialog::FileType,
+                  QFileDialog::Accept, QFileDialog::Reject}) {
+                labels.append(dialog.labelText(label).remove(u'&'));
+            }
+            EXPECT_EQ(labels, tested.labels);
+        });
+    }
+}
+
+} // namespace

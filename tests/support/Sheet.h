@@ -1,0 +1,19 @@
+#pragma once
+
+#include "RecordingDisplay.h"
+#include "Worksheet.h"
+
+/// A worksheet of so many rows that nobody sees, on 21 November 2026, terms in years.
+struct Sheet {
+    explicit Sheet(const QLocale& locale = QLocale(QLocale::English, QLocale::UnitedStates),
+                   int rows = 6)
+        : worksheet(display, FieldTexts(DisplayFormats(locale), false),
+                    [] { return Date::FromCalendar(2026, 11, 21); }) {
+        worksheet.GrowOfferArrays(Row{-1}, Row{rows - 1});
+        worksheet.SetCurrentNextPayment(worksheet.Today());
+        worksheet.ClearDirty();
+    }
+
+    RecordingDisplay display;
+    Worksheet worksheet;
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "RegistryAPI.h"
+#include "StoreNames.h"
+
+#include <QTemporaryDir>
+
+#include <string>
+
+/// A user's store of its own, gone with the test. It holds the program's key and nothing else.
+class StoreFolder {
+public:
+    StoreFolder() { Store().CreateKey(Root, BaseKey); }
+
+    static constexpr RegistryRoot Root = RegistryRoot::CurrentUser;
+
+    std::filesystem::path File() const {
+        return std::filesystem::path(m_folder.path().toStdString()) / "Loan.store";
+    }
+    RegistryAPI Store() const { return RegistryAPI(File()); }
+
+    static std::string LoanKey(const std::string& name) {
+        return std::string(BaseKey) + '\\' + name;
+    }
+    std::string Text(const std::string& key, const std::string& value) const {
+        return std::get<std::string>(
+            Store().GetValue(Root, key, value, RegistryType::Text, std::string("(missing)")));
+    }
+    std::int32_t Number(const std::string& key, const std::string& value) const {
+        constexpr std::int32_t missing = -12345;
+        return std::get<std::int32_t>(
+            Store().GetValue(Root, key, value, RegistryType::Number, missing));
+    }
+
+private:
+    QTemporaryDir m_folder;
+};

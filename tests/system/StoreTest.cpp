@@ -1,0 +1,100 @@
+// Worksheets and settings across runs of the real program, in a real window, with its own store.
+
+#include "Drive.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+
+namespace {
+
+struct Story {
+    const char* name;
+    const char* locale;
+    std::string steps;
+    std::string shown;
+};
+
+void PrintTo(const Story& story, std::ostream* out) { *out << story.name << ' ' << story.locale; }
+
+class StoreStory : public testing::TestWithParam<Story> {};
+
+TEST_P(StoreStory, IsShown) {
+    const DriveResult result = Drive(GetParam().locale, GetParam().steps);
+    EXPECT_EQ(result.readings, GetParam().shown);
+    EXPECT_EQ(result.complaints, "");
+}
+
+const std::string Enter = R"(
+type cboLoanName Our home
+choose cboLoanType @83
+type txtLoanAmount 100000
+number txtInterestRate(0) 6.125
+type txtTerm(0) 30
+choose cboFrequency(0) @114
+dialog
+type txtWho(0) First Prairie Bank
+date dtNextPayment 2027-03-01
+)";
+
+const std::string Figures = "read cboLoanName cboLoanType txtLoanAmount txtInterestRate(0) "
+                            "txtTerm(0) cboFrequency(0) txtPandI(0) txtWho(0) dtNextPayment\n";
+
+const std::string Raised =
+    "dialog\tThe payment you intend to make cannot be lower than the payment calculated for the "
+    "offer. It has been set to the calculated payment; you can enter a higher one.\n";
+
+const std::string Shown = "cboLoanName\tOur home\ncboLoanType\tMortgage\n"
+                          "txtLoanAmount\t$100,000.00\ntxtInterestRate(0)\t6.125%\n"
+                          "txtTerm(0)\t30\ncboFrequency(0)\tMonthly\ntxtPandI(0)\t$607.61\n"
+                          "txtWho(0)\tFirst Prairie Bank\ndtNextPayment\t3/1/2027\n";
+
+const std::string ShownInGermany = "cboLoanName\tOur home\ncboLoanType\tMortgage\n"
+                                   "txtLoanAmount\t100.000,00\u00A0€\ntxtInterestRate(0)\t6,125%\n"
+                                   "txtTerm(0)\t30\ncboFrequency(0)\tMonthly\n"
+                                   "txtPandI(0)\t607,61\u00A0€\n"
+                                   "txtWho(0)\tFirst Prairie Bank\ndtNextPayment\t01.03.2027\n";
+
+INSTANTIATE_TEST_SUITE_P(
+    Store, StoreStory,
+    testing::Values(
+        Story{"SavedAndOpenedAgain", "en_US.UTF-8",
+              Enter +
+                  "menu mnuFile mnuFileSave\nquit\nstart en_US.UTF-8\n"
+                  "choose cboLoanName Our home\n" +
+                  Figures + "quit",
+              Raised + Shown},
+        Story{"SavedAndOpenedInAnotherCountry", "en_US.UTF-8",
+              Enter +
+                  "menu mnuFile mnuFileSave\nquit\nstart de_DE.UTF-8\n"
+                  "choose cboLoanName Our home\n" +
+                  Figures + "quit",
+              Raised + ShownInGermany},
+        Story{"SavedOnTheWayOut", "en_US.UTF-8",
+              Enter +
+                  "close\nanswer @125\nended\nstart en_US.UTF-8\n"
+                  "choose cboLoanName Our home\n" +
+                  Figures,
+              Raised + "answer\tDo you want to save the changes to “Our home”?\n" + Shown},
+        Story{"StaysWhenTheUserChangesHisMind", "en_US.UTF-8",
+              Enter + "close\nanswer @15\n" + Figures,
+              Raised + "answer\tDo you want to save the changes to “Our home”?\n" + Shown},
+        Story{"OutlivesAFailureOfPower", "en_US.UTF-8",
+              Enter +
+                  "menu mnuFile mnuFileSave\nkill\nstart en_US.UTF-8\n"
+                  "choose cboLoanName Our home\n" +
+                  Figures,
+              Raised + Shown},
+        Story{"DeletedForGood", "en_US.UTF-8",
+              Enter + "menu mnuFile mnuFileSave\nmenu mnuFile mnuFileDelete\nanswer @125\n"
+                      "quit\nstart en_US.UTF-8\nread cboLoanName txtLoanAmount",
+              Raised + "answer\tDo you want to delete the worksheet “Our home”?\n"
+                       "cboLoanName\t\ntxtLoanAmount\t\n"},
+        Story{"LanguageIsKept", "en_US.UTF-8",
+              "menu mnuTools mnuToolsLanguage mnuToolsLanguageOpt(2)\nquit\nstart en_US.UTF-8\n"
+              "name mnuFile",
+              "mnuFile\tArchivo\n"}),
+    [](const auto& story) { return story.param.name; });
+
+} // namespace

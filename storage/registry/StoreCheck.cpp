@@ -43,7 +43,7 @@ void FoldLogIfLonger(const fs::path& store, std::uintmax_t size) {
     }
 }
 
-enum class Finding { Sound, Damaged, Newer, Unknown };
+enum class Finding { Sound, Damaged, Newer };
 
 Finding FindingOf(const StoreImage& image) {
     switch (KindOf(image)) {
@@ -66,15 +66,8 @@ Finding SecondLook(const fs::path& store) {
         const Transaction nobodyWrites(connection, Transaction::Kind::Write);
         return FindingOf(StoreImage(store));
     } catch (const StoreError& error) {
-        switch (error.Code()) {
-        case SQLITE_CORRUPT:
-        case SQLITE_NOTADB:
-            return FindingOf(StoreImage(store));
-        case SQLITE_BUSY:
-            return Finding::Sound; // somebody writes, and finds it sound enough for that
-        default:
-            return Finding::Unknown;
-        }
+        // Somebody who writes has found it sound enough for that.
+        return error.Code() == SQLITE_BUSY ? Finding::Sound : FindingOf(StoreImage(store));
     }
 }
 
@@ -148,20 +141,14 @@ StoreCondition RepairIfStillDamaged(const fs::path& store, const std::string& to
     try {
         // Of two programs that start at once the second finds what the first has repaired.
         const StoreFile::FolderLock lock(store.parent_path(), Wait);
-        switch (SecondLook(store)) {
-        case Finding::Sound:
-            return {};
-        case Finding::Newer:
-            return {State::Newer, {}, 0, 0};
-        case Finding::Damaged:
-            return Repair(store, today);
-        case Finding::Unknown:
-            break;
-        }
+        const Finding finding = SecondLook(store);
+        return finding == Finding::Damaged
+                   ? Repair(store, today)
+                   : StoreCondition{
+                         finding == Finding::Newer ? State::Newer : State::Sound, {}, 0, 0};
     } catch (const StoreError&) {
         return {State::Unusable, {}, 0, 0};
     }
-    return {State::Unusable, {}, 0, 0};
 }
 
 } // namespace

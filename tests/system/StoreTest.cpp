@@ -1,30 +1,16 @@
 // Worksheets and settings across runs of the real program, in a real window, with its own store.
 
-#include "Drive.h"
+#include "Story.h"
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <string>
 
 namespace {
 
-struct Story {
-    const char* name;
-    const char* locale;
-    std::string steps;
-    std::string shown;
-};
-
-void PrintTo(const Story& story, std::ostream* out) { *out << story.name << ' ' << story.locale; }
-
 class StoreStory : public testing::TestWithParam<Story> {};
 
-TEST_P(StoreStory, IsShown) {
-    const DriveResult result = Drive(GetParam().locale, GetParam().steps);
-    EXPECT_EQ(result.readings, GetParam().shown);
-    EXPECT_EQ(result.complaints, "");
-}
+TEST_P(StoreStory, IsShown) { ExpectShown(GetParam()); }
 
 const std::string Enter = R"(
 type cboLoanName Our home

@@ -1,31 +1,16 @@
-#include "Drive.h"
+#include "Story.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <ostream>
 #include <string>
 #include <vector>
 
 namespace {
 
-/// One run of the program: what the user does, and what the window shows where the user looks.
-struct Story {
-    const char* name;
-    const char* locale;
-    std::string steps;
-    std::string shown;
-};
-
-void PrintTo(const Story& story, std::ostream* out) { *out << story.name << ' ' << story.locale; }
-
 class WindowStory : public testing::TestWithParam<Story> {};
 
-TEST_P(WindowStory, IsShown) {
-    const DriveResult result = Drive(GetParam().locale, GetParam().steps);
-    EXPECT_EQ(result.readings, GetParam().shown);
-    EXPECT_EQ(result.complaints, "");
-}
+TEST_P(WindowStory, IsShown) { ExpectShown(GetParam()); }
 
 /// Four offers for the same 100,000 at 6 % over 30 years, one for each frequency. The first one
 /// brings the notice that its payment was filled in, and no other does.

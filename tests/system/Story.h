@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Drive.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+
+/// One run of the program: what the user does, and what the window shows where the user looks.
+struct Story {
+    const char* name;
+    const char* locale;
+    std::string steps;
+    std::string shown;
+};
+
+inline void PrintTo(const Story& story, std::ostream* out) {
+    *out << story.name << ' ' << story.locale;
+}
+
+inline void ExpectShown(const Story& story) {
+    const DriveResult result = Drive(story.locale, story.steps);
+    EXPECT_EQ(result.readings, story.shown);
+    EXPECT_EQ(result.complaints, "");
+}

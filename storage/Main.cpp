@@ -89,7 +89,6 @@ int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Quend Halverworks"));
     QCoreApplication::setApplicationName(QStringLiteral("Loan"));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Quend Loan"));
     SetUpLanguage();
     MessageBoxes messages;
     const RegistryAPI store(RegistryAPI::UserStore());

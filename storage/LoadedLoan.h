@@ -15,9 +15,9 @@
 /// The most offers that are ever kept; a count beyond it is damage.
 inline constexpr std::int32_t MostOffers = 16;
 
-inline constexpr char LoanCountName[] = "LoanCount";
+inline constexpr const char* LoanCountName = "LoanCount";
 /// The form in which the worksheet's date was written. Not a property: it only tells how to read.
-inline constexpr char DateFormatName[] = "DateFormat";
+inline constexpr const char* DateFormatName = "DateFormat";
 
 /// What the names of an offer's values begin with: "Loan 3". Offers are numbered from 1.
 std::string OfferPrefix(int number);

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr char Source[] = "Loan";
+constexpr const char* Source = "Loan";
 constexpr std::int16_t Text = RegistryType::Text;
 
 QString TextOf(const RegistryValue& value) {

@@ -8,8 +8,10 @@
 
 #include <QAction>
 
-OptionsCommands::OptionsCommands(Loan& window, const RegistryAPI& store, PictureChooser& pictures)
-    : m_window(&window), m_store(store), m_pictures(&pictures) {
+#include <utility>
+
+OptionsCommands::OptionsCommands(Loan& window, RegistryAPI store, PictureChooser& pictures)
+    : m_window(&window), m_store(std::move(store)), m_pictures(&pictures) {
     QAction* entry = window.Form().mnuToolsOptions;
     entry->setEnabled(true);
     connect(entry, &QAction::triggered, this,

@@ -16,8 +16,8 @@ class OptionsCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// All three outlive the commands. Enables the entry.
-    OptionsCommands(Loan& window, const RegistryAPI& store, PictureChooser& pictures);
+    /// Window and pictures outlive the commands. Enables the entry.
+    OptionsCommands(Loan& window, RegistryAPI store, PictureChooser& pictures);
 
 private:
     void mnuToolsOptions_Click();

@@ -2,4 +2,4 @@
 
 /// The key of the program in the user's store: its values are the settings, its subkeys the saved
 /// worksheets.
-inline constexpr char BaseKey[] = "Software\\Quend Halverworks\\Loan";
+inline constexpr const char* BaseKey = "Software\\Quend Halverworks\\Loan";

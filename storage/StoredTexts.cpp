@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr char Source[] = "Loan";
+constexpr const char* Source = "Loan";
 
 bool IsDecimalSymbol(QChar c) {
     constexpr QChar arabic(0x066B);

@@ -13,8 +13,8 @@ namespace {
 /// No sample on any screen is finer than this.
 constexpr QSize FinestSample(1600, 1200);
 
-/// The toolkit's own limit of memory at four bytes a pixel. Files with fewer bytes a pixel pass
-/// that limit and then take four on the way to the screen.
+/// As many as the toolkit's limit of memory lets a whole picture have. A format that can be read at
+/// the size of the sample would pass that limit, though the window could not show the picture.
 constexpr qint64 MostPixels = qint64{128} * 1024 * 1024 / 4;
 
 QSize ShrunkInto(const QSize& box, const QSize& size) {

@@ -10,6 +10,12 @@ function(add_floor name)
   target_link_libraries(${name} PUBLIC ${FLOOR_USES} PRIVATE strictness)
 endfunction()
 
+# compile_alone(<source>…)
+# Sources whose own names would clash with their neighbours' in a build that joins sources.
+function(compile_alone)
+  set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+endfunction()
+
 # add_loan_test(<name> LABEL <folder> SOURCES … USES … [MAIN <library with main>])
 # A GoogleTest program whose tests carry their folder's name as label.
 function(add_loan_test name)

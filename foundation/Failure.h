@@ -4,6 +4,9 @@
 #include <string>
 #include <utility>
 
+/// The source of a failure that arose in the program itself.
+inline constexpr const char* ProgramSource = "Loan";
+
 /// A failure that a user is told about: its number, where it arose, and what went wrong.
 /// The description is a fixed English text, the same in every language.
 class Failure : public std::runtime_error {

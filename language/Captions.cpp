@@ -19,8 +19,8 @@ constexpr const char* Ordinal = "_ordinal";
 
 /// A dynamic property that holds a text's number, and the property that shows the text.
 struct ShownText {
-    const char* number;
-    const char* property;
+    const char* number = nullptr;
+    const char* property = nullptr;
     const char* unless = nullptr; ///< a dynamic property: no text while it is true
     const char* kind = "QObject"; ///< the class of objects that show it
 };

@@ -17,14 +17,16 @@ from pathlib import Path
 _FLOORS: dict[str, tuple[str, ...]] = {
     "foundation":       (),
     "language":         ("foundation",),
+    "storage/registry": ("foundation",),
     "calc":             ("foundation", "language"),
     "worksheet/model":  ("foundation", "language", "calc"),
     "worksheet/window": ("foundation", "language", "calc", "worksheet/model"),
-    "storage":          ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
+    "storage":          ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
+                         "storage/registry"),
 }
 
 # Floors that know no window system.
-_WITHOUT_WIDGETS = ("foundation", "language", "calc", "worksheet/model")
+_WITHOUT_WIDGETS = ("foundation", "language", "storage/registry", "calc", "worksheet/model")
 
 _INCLUDE = re.compile(r'\s*#\s*include\s+([<"])([^>"]+)[>"]')
 

@@ -1,12 +1,11 @@
 #include "LoadedLoan.h"
 
 #include "LoanValues.h"
+#include "StoreNames.h"
 
 #include <algorithm>
 
 namespace {
-
-constexpr RegistryRoot Root = RegistryRoot::CurrentUser;
 
 template <class Owner>
 std::vector<RegistryValue> ReadValues(const RegistryAPI& store, const std::string& key,
@@ -15,7 +14,7 @@ std::vector<RegistryValue> ReadValues(const RegistryAPI& store, const std::strin
     std::vector<RegistryValue> read;
     for (const KeptValue<Owner>* value : InOrderOfReading(values)) {
         read.push_back(
-            store.GetValue(Root, key, prefix + value->name, value->type, value->Missing()));
+            store.GetValue(StoreRoot, key, prefix + value->name, value->type, value->Missing()));
     }
     return read;
 }
@@ -27,9 +26,9 @@ std::string OfferPrefix(int number) { return "Loan " + std::to_string(number); }
 void LoadedLoan::Read(const RegistryAPI& store, const std::string& key) {
     m_loan = ReadValues(store, key, "", KeptLoanValues());
     m_count = std::get<std::int32_t>(
-        store.GetValue(Root, key, LoanCountName, RegistryType::Number, std::int32_t{0}));
+        store.GetValue(StoreRoot, key, LoanCountName, RegistryType::Number, std::int32_t{0}));
     m_dateFormat = std::get<std::string>(
-        store.GetValue(Root, key, DateFormatName, RegistryType::Text, std::string()));
+        store.GetValue(StoreRoot, key, DateFormatName, RegistryType::Text, std::string()));
     for (int number = 1; number <= std::min(m_count, MostOffers); ++number) {
         m_offers.push_back(ReadValues(store, key, OfferPrefix(number), KeptOfferValues()));
     }

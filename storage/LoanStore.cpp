@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr RegistryRoot Root = RegistryRoot::CurrentUser;
-
 std::string KeyOf(const QString& name) { return std::string(BaseKey) + '\\' + name.toStdString(); }
 
 /// As a user counts: a letter with its accents is one.
@@ -27,7 +25,7 @@ qsizetype CharactersOf(const QString& text) {
 void WriteOffer(const RegistryAPI& store, const std::string& key, const CLoan& offer, int number,
                 const StoredTexts& texts) {
     for (const KeptValue<CLoan>& value : KeptOfferValues()) {
-        store.SetValue(Root, key, OfferPrefix(number) + value.name, value.type,
+        store.SetValue(StoreRoot, key, OfferPrefix(number) + value.name, value.type,
                        value.write(offer, texts));
     }
 }
@@ -35,7 +33,7 @@ void WriteOffer(const RegistryAPI& store, const std::string& key, const CLoan& o
 void Write(const RegistryAPI& store, const std::string& key, const Worksheet& worksheet) {
     const StoredTexts texts(worksheet.Texts().Formats());
     for (const KeptValue<Worksheet>& value : KeptLoanValues()) {
-        store.SetValue(Root, key, value.name, value.type, value.write(worksheet, texts));
+        store.SetValue(StoreRoot, key, value.name, value.type, value.write(worksheet, texts));
     }
     std::int32_t count = 0;
     for (Row row{0}; row <= worksheet.HighestOfferRow(); ++row.value) {
@@ -43,8 +41,8 @@ void Write(const RegistryAPI& store, const std::string& key, const Worksheet& wo
             WriteOffer(store, key, offer, ++count, texts);
         }
     }
-    store.SetValue(Root, key, LoanCountName, RegistryType::Number, count);
-    store.SetValue(Root, key, DateFormatName, RegistryType::Text, texts.DateFormat());
+    store.SetValue(StoreRoot, key, LoanCountName, RegistryType::Number, count);
+    store.SetValue(StoreRoot, key, DateFormatName, RegistryType::Text, texts.DateFormat());
 }
 
 } // namespace
@@ -71,7 +69,7 @@ bool LoanStore::IsWorthKeeping(const CLoan& offer) {
 }
 
 QStringList LoanStore::Names() const {
-    const std::vector<std::string> keys = m_store.GetSubKeys(Root, BaseKey);
+    const std::vector<std::string> keys = m_store.GetSubKeys(StoreRoot, BaseKey);
     QStringList names;
     for (const std::string& key : keys) {
         names.append(QString::fromStdString(key));
@@ -84,14 +82,16 @@ QStringList LoanStore::Names() const {
     return names;
 }
 
-bool LoanStore::Exists(const QString& name) const { return m_store.KeyExists(Root, KeyOf(name)); }
+bool LoanStore::Exists(const QString& name) const {
+    return m_store.KeyExists(StoreRoot, KeyOf(name));
+}
 
 void LoanStore::Save(Worksheet& worksheet) const {
     const std::string key = KeyOf(worksheet.LoanName());
     m_store.InOneStep([&](const RegistryAPI& store) {
         // The whole key first, so that no offer of an earlier, longer save survives.
-        store.DeleteKey(Root, key);
-        store.CreateKey(Root, key);
+        store.DeleteKey(StoreRoot, key);
+        store.CreateKey(StoreRoot, key);
         Write(store, key, worksheet);
     });
     worksheet.ClearDirty();
@@ -105,6 +105,6 @@ std::vector<Failure> LoanStore::Load(Worksheet& worksheet, const QString& name,
 }
 
 bool LoanStore::Delete(const QString& name) const {
-    m_store.DeleteKey(Root, KeyOf(name));
+    m_store.DeleteKey(StoreRoot, KeyOf(name));
     return !Exists(name);
 }

@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr const char* Source = "Loan";
 constexpr std::int16_t Text = RegistryType::Text;
 
 QString TextOf(const RegistryValue& value) {
@@ -72,7 +71,7 @@ struct LoanTypeText {
     }
     static QString Read(const QString& text, const StoredTexts&) {
         const QString code = LoanTypeTextToCodeInAnyLanguage(text);
-        return code.isEmpty() && !text.isEmpty() ? throw ConversionFailure(Source) : code;
+        return code.isEmpty() && !text.isEmpty() ? throw ConversionFailure(ProgramSource) : code;
     }
 };
 
@@ -80,8 +79,9 @@ struct LoanTypeText {
 struct FrequencyCode {
     static std::string Write(const QString& code, const StoredTexts&) { return code.toStdString(); }
     static QString Read(const QString& code, const StoredTexts&) {
-        return code.isEmpty() || FindFrequency(code) != nullptr ? code
-                                                                : throw ConversionFailure(Source);
+        return code.isEmpty() || FindFrequency(code) != nullptr
+                   ? code
+                   : throw ConversionFailure(ProgramSource);
     }
 };
 

@@ -88,9 +88,9 @@ RegistryValue NoValue(std::int16_t type) {
 void Write(const RegistryAPI& store, const StoredValue& stored, const Settings& settings) {
     const RegistryValue value = stored.of(settings);
     if (value == RegistryValue(std::string())) {
-        store.DeleteValue(RegistryRoot::CurrentUser, BaseKey, stored.name);
+        store.DeleteValue(StoreRoot, BaseKey, stored.name);
     } else {
-        store.SetValue(RegistryRoot::CurrentUser, BaseKey, stored.name, stored.type, value);
+        store.SetValue(StoreRoot, BaseKey, stored.name, stored.type, value);
     }
 }
 
@@ -105,8 +105,8 @@ StoredSettings LoadSettings(const RegistryAPI& store) {
             }
             try {
                 stored.take(loaded.settings,
-                            reading.GetValue(RegistryRoot::CurrentUser, BaseKey, stored.name,
-                                             stored.type, NoValue(stored.type)),
+                            reading.GetValue(StoreRoot, BaseKey, stored.name, stored.type,
+                                             NoValue(stored.type)),
                             stored.name);
             } catch (const Failure& failure) {
                 loaded.failures.push_back(failure);

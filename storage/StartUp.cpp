@@ -6,16 +6,14 @@
 
 namespace {
 
-constexpr RegistryRoot Root = RegistryRoot::CurrentUser;
-
 /// 0 when none was ever set.
 int ChosenLanguage(const RegistryAPI& store) {
-    if (!store.KeyExists(Root, BaseKey)) {
-        store.CreateKey(Root, BaseKey);
+    if (!store.KeyExists(StoreRoot, BaseKey)) {
+        store.CreateKey(StoreRoot, BaseKey);
         return 0;
     }
-    return std::get<std::int32_t>(
-        store.GetValue(Root, BaseKey, "CurrentLanguage", RegistryType::Number, std::int32_t{0}));
+    return std::get<std::int32_t>(store.GetValue(StoreRoot, BaseKey, "CurrentLanguage",
+                                                 RegistryType::Number, std::int32_t{0}));
 }
 
 } // namespace

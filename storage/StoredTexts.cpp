@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr const char* Source = "Loan";
-
 bool IsDecimalSymbol(QChar c) {
     constexpr QChar arabic(0x066B);
     return c == u'.' || c == u',' || c == arabic;
@@ -56,7 +54,7 @@ double StoredTexts::ReadReal(const std::string& text) const {
 int StoredTexts::ReadMonths(const std::string& text) const {
     const double months = std::nearbyint(ReadReal(text));
     if (!(std::abs(months) <= std::numeric_limits<int>::max())) {
-        throw OverflowFailure(Source);
+        throw OverflowFailure(ProgramSource);
     }
     return static_cast<int>(months);
 }
@@ -76,5 +74,5 @@ Date StoredTexts::ReadDate(const std::string& text) const {
             return FromCalendar(day);
         }
     }
-    throw ConversionFailure(Source);
+    throw ConversionFailure(ProgramSource);
 }

@@ -14,7 +14,7 @@
 namespace {
 
 namespace fs = std::filesystem;
-using State = StoreCondition::State;
+using Condition = StoreCondition::State;
 
 constexpr std::chrono::milliseconds Wait{2'000};
 /// Above it a store, of hundreds of thousands of worksheets, is taken for sound: looking at it all
@@ -128,13 +128,13 @@ StoreCondition Repair(const fs::path& store, const std::string& today) {
         fs::rename(made, store);
         RemoveStore(made);
         FoldLogIfLonger(store, 0);
-        return {State::Repaired, kept, counts.keys, counts.values};
+        return {Condition::Repaired, kept, counts.keys, counts.values};
     } catch (const StoreError&) {
         RemoveStore(made);
     } catch (const fs::filesystem_error&) {
         RemoveStore(made);
     }
-    return {State::Unusable, {}, 0, 0};
+    return {Condition::Unusable, {}, 0, 0};
 }
 
 StoreCondition RepairIfStillDamaged(const fs::path& store, const std::string& today) {
@@ -145,9 +145,9 @@ StoreCondition RepairIfStillDamaged(const fs::path& store, const std::string& to
         return finding == Finding::Damaged
                    ? Repair(store, today)
                    : StoreCondition{
-                         finding == Finding::Newer ? State::Newer : State::Sound, {}, 0, 0};
+                         finding == Finding::Newer ? Condition::Newer : Condition::Sound, {}, 0, 0};
     } catch (const StoreError&) {
-        return {State::Unusable, {}, 0, 0};
+        return {Condition::Unusable, {}, 0, 0};
     }
 }
 
@@ -157,17 +157,17 @@ StoreCondition PrepareStore(const fs::path& store, const std::string& today) {
     std::error_code error;
     const fs::file_status status = fs::status(store, error);
     if (status.type() == fs::file_type::not_found) {
-        return {State::Missing, {}, 0, 0};
+        return {Condition::Missing, {}, 0, 0};
     }
     if (!fs::is_regular_file(status) || !CanRead(store)) {
-        return {State::Unusable, {}, 0, 0};
+        return {Condition::Unusable, {}, 0, 0};
     }
     if (SizeOf(store) > LargestChecked) {
         return {};
     }
     switch (FindingOf(StoreImage(store))) {
     case Finding::Newer:
-        return {State::Newer, {}, 0, 0};
+        return {Condition::Newer, {}, 0, 0};
     case Finding::Sound:
         FoldLogIfLonger(store, LongLog);
         return {};

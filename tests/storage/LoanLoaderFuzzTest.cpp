@@ -122,7 +122,7 @@ private:
 std::string Written(const Values& values) {
     std::string lines;
     for (const auto& [name, text] : values) {
-        lines += name + " = " + text + "\n";
+        lines.append(name).append(" = ").append(text).append("\n");
     }
     return lines;
 }

@@ -48,18 +48,14 @@ const std::vector<Expected> Controls = {
 
 class OptionsTexts : public OptionsDialog, public ::testing::WithParamInterface<int> {
 protected:
-    OptionsTexts() { Open({}, GetParam()); }
-    ~OptionsTexts() override { QApplication::setFont(m_font); }
-    OptionsTexts(const OptionsTexts&) = delete;
-    OptionsTexts& operator=(const OptionsTexts&) = delete;
-    OptionsTexts(OptionsTexts&&) = delete;
-    OptionsTexts& operator=(OptionsTexts&&) = delete;
+    void SetUp() override { Open({}, GetParam()); }
+    void TearDown() override { QApplication::setFont(m_font); }
 
     QWidget& Widget(QStringView name) { return name == u"frmOptions" ? Dialog() : Control(name); }
     static QString TextOf(const QWidget& control, const char* number) {
         const int text = control.property(number).toInt();
         EXPECT_GT(text, 0) << control.objectName().toStdString() << ' ' << number;
-        const QString words = Language::Instance().Text(text);
+        QString words = Language::Instance().Text(text);
         EXPECT_FALSE(words.isEmpty()) << control.objectName().toStdString() << ' ' << number;
         return words;
     }
@@ -84,16 +80,16 @@ TEST_P(OptionsTexts, EveryControlHasItsOwn) {
     for (const Expected& tested : Controls) {
         SCOPED_TRACE(tested.name.toString().toStdString());
         QWidget& control = Widget(tested.name);
-        if (tested.needs & Caption) {
+        if ((tested.needs & Caption) != 0) {
             const char* property = qobject_cast<QDialog*>(&control)     ? "windowTitle"
                                    : qobject_cast<QGroupBox*>(&control) ? "title"
                                                                         : "text";
             EXPECT_EQ(control.property(property).toString(), TextOf(control, "captionText"));
         }
-        if (tested.needs & ToolTip) {
+        if ((tested.needs & ToolTip) != 0) {
             EXPECT_EQ(control.toolTip(), TextOf(control, "toolTipText"));
         }
-        if (tested.needs & Name) {
+        if ((tested.needs & Name) != 0) {
             EXPECT_FALSE(NameOf(control).isEmpty());
             EXPECT_FALSE(names.contains(NameOf(control))) << NameOf(control).toStdString();
             names.append(NameOf(control));

@@ -26,7 +26,7 @@ protected:
                 static_cast<QDialog*>(dialog)->done(dialog->result());
             }
         });
-        const QString path = PictureDialog().Choose(Dialog(), request);
+        QString path = PictureDialog().Choose(Dialog(), request);
         EXPECT_EQ(shown, 1);
         return path;
     }

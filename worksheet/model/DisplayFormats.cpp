@@ -113,7 +113,7 @@ Money DisplayFormats::ReadAmount(const QString& text) const {
     const qlonglong tenThousandths =
         ((negative ? QStringLiteral("-") : QString()) + count).toLongLong(&fits);
     if (!fits) {
-        throw OverflowFailure("Loan");
+        throw OverflowFailure(ProgramSource);
     }
     const Money amount = Money::FromTenThousandths(tenThousandths);
     if (!RoundsAway(decimals.mid(4), (tenThousandths & 1) != 0)) {
@@ -126,14 +126,14 @@ double DisplayFormats::ReadReal(const QString& text) const {
     // Not the C library's own conversion: that one follows the locale of the process.
     const double value = QLocale::c().toDouble(PlainNumber(text));
     if (!std::isfinite(value)) {
-        throw OverflowFailure("Loan");
+        throw OverflowFailure(ProgramSource);
     }
     return value;
 }
 
 QString DisplayFormats::PlainNumber(const QString& text) const {
     if (!IsValidNumber(text, AllDecimals, m_separator) || !HasDigit(text)) {
-        throw ConversionFailure("Loan");
+        throw ConversionFailure(ProgramSource);
     }
     QString plain = text;
     return plain.replace(m_separator, u'.').remove(u'+');

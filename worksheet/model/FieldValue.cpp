@@ -11,7 +11,7 @@ constexpr double MonthsPerYear = 12;
 
 Months WholeMonths(double months) {
     if (!(std::abs(months) <= std::numeric_limits<int>::max())) {
-        throw OverflowFailure("Loan");
+        throw OverflowFailure(ProgramSource);
     }
     return {static_cast<int>(months)};
 }

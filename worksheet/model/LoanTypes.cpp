@@ -7,15 +7,15 @@
 
 namespace {
 
-struct LoanType {
+struct TypeEntry {
     QChar code;
     int text = 0;      ///< number of its language text
     int listPlace = 0; ///< where it stands in the list
 };
 
 constexpr std::array LoanTypes{
-    LoanType{u'A', 10, 1}, LoanType{u'B', 11, 2}, LoanType{u'C', 19, 3},
-    LoanType{u'D', 29, 5}, LoanType{u'H', 39, 4}, LoanType{u'M', 83, 0},
+    TypeEntry{u'A', 10, 1}, TypeEntry{u'B', 11, 2}, TypeEntry{u'C', 19, 3},
+    TypeEntry{u'D', 29, 5}, TypeEntry{u'H', 39, 4}, TypeEntry{u'M', 83, 0},
 };
 
 /// The letter of the first type that is meant; empty when none is.
@@ -29,24 +29,24 @@ QString CodeOf(IsMeant isMeant) {
 
 QString LoanTypeCodeToText(const QString& code) {
     const auto* type = std::ranges::find_if(
-        LoanTypes, [&](const LoanType& t) { return code.size() == 1 && code[0] == t.code; });
+        LoanTypes, [&](const TypeEntry& t) { return code.size() == 1 && code[0] == t.code; });
     return type == LoanTypes.end() ? QString() : GetResourceText(type->text);
 }
 
 QString LoanTypeTextToCode(const QString& text) {
-    return CodeOf([&](const LoanType& type) { return GetResourceText(type.text) == text; });
+    return CodeOf([&](const TypeEntry& type) { return GetResourceText(type.text) == text; });
 }
 
 QString LoanTypeTextToCodeInAnyLanguage(const QString& text) {
     const QString code = LoanTypeTextToCode(text);
-    return !code.isEmpty() ? code : CodeOf([&](const LoanType& type) {
+    return !code.isEmpty() ? code : CodeOf([&](const TypeEntry& type) {
         return Language::Instance().TextInEveryLanguage(type.text).contains(text);
     });
 }
 
 QStringList LoanTypeTexts() {
     std::array<QString, LoanTypes.size()> texts;
-    for (const LoanType& type : LoanTypes) {
+    for (const TypeEntry& type : LoanTypes) {
         texts.at(static_cast<std::size_t>(type.listPlace)) = GetResourceText(type.text);
     }
     return {texts.begin(), texts.end()};

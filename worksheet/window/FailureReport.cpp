@@ -1,5 +1,7 @@
 #include "FailureReport.h"
 
+#include "Failure.h"
+
 #include <QStringList>
 
 QString FailureText(const Failure& failure) {
@@ -26,6 +28,6 @@ void FailureReport::Report(const std::exception& failure) const {
         m_messages->Post(FailureText(*ours));
     } else {
         constexpr int unexpected = 5;
-        m_messages->Post(FailureText(Failure(unexpected, "Loan", failure.what())));
+        m_messages->Post(FailureText(Failure(unexpected, ProgramSource, failure.what())));
     }
 }

@@ -18,7 +18,9 @@ int Flush(long call, int file) {
 } // namespace
 
 // The program's own functions come before the system's, for the libraries it uses too.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name): the system's name is reserved.
 extern "C" int fsync(int file) { return Flush(SYS_fsync, file); }
 extern "C" int fdatasync(int file) { return Flush(SYS_fdatasync, file); }
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
 
 int FlushCount() { return Count(); }

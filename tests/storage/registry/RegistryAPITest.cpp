@@ -225,7 +225,7 @@ TEST_F(RegistryAPITest, NamesAreKeptAsWrittenAndComparedWithoutRegardToCase) {
         EXPECT_FALSE(registry.KeyExists(User, KeyOf(written)));
     }
     for (const auto& [one, other] : different) {
-        SCOPED_TRACE(one + " / " + other);
+        SCOPED_TRACE(std::string(one).append(" / ").append(other));
         EXPECT_FALSE(registry.CreateKey(User, KeyOf(one)));
         EXPECT_FALSE(registry.KeyExists(User, KeyOf(other)));
         registry.DeleteKey(User, KeyOf(one));
@@ -290,7 +290,7 @@ TEST_F(RegistryAPITest, PathsThatNoKeyCanHaveAreRefused) {
     const std::vector<PathCase> cases{
         // what                     path                           holds  listedAs
         { "trailing backslash",     "A\\",                         true,  "A" },
-        { "doubled backslash",      "\\\\A\\\\\\",                 true,  "A" },
+        { "doubled backslash",      R"(\\A\\\)",                   true,  "A" },
         { "longest name",           Repeated(255, "x"),            true,  Repeated(255, "x") },
         { "longest, three bytes",   Repeated(255, "€"),            true,  Repeated(255, "€") },
         { "longest, four bytes",    Repeated(127, home),           true,  Repeated(127, home) },

@@ -10,11 +10,13 @@
 
 /// A folder of its own for a store file, and worksheets to put into it.
 class StoreFixture : public testing::Test {
+public:
+    StoreFixture(const StoreFixture&) = delete;
+    StoreFixture& operator=(const StoreFixture&) = delete;
+
 protected:
     StoreFixture();
     ~StoreFixture() override;
-    StoreFixture(const StoreFixture&) = delete;
-    StoreFixture& operator=(const StoreFixture&) = delete;
 
     const std::filesystem::path folder; ///< where the tests are
     const std::filesystem::path store;  ///< the store, in a folder "data" below it; not made yet

@@ -7,8 +7,10 @@
 #include "StoreFolder.h"
 #include "WindowFixture.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QLineEdit>
+#include <QScreen>
 #include <QTest>
 
 namespace {
@@ -189,6 +191,19 @@ TEST_F(FileCommandsTest, TheListIsMadeAnewEachTimeItDropsDown) {
     KeepLoan(u"alpha", u"8");
     Pick(0);
     EXPECT_EQ(Entries(), QStringList({u"(new loan)"_qs, u"alpha"_qs, u"Beta"_qs}));
+}
+
+TEST_F(FileCommandsTest, NamesLongerThanTheBoxAreSeenWholeInTheList) {
+    const QString begin = u"The offer of the savings bank at the corner of our street, "_qs;
+    KeepLoan(begin + u"refused"_qs, u"7");
+    KeepLoan(begin + u"accepted"_qs, u"8");
+    Click(u"cboLoanName");
+    Press(Qt::Key_Down);
+    ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+    const auto* list = NameBox().view();
+    EXPECT_GE(list->viewport()->width(), list->sizeHintForColumn(0));
+    EXPECT_LE(list->width(), NameBox().screen()->availableGeometry().width());
+    Press(Qt::Key_Escape);
 }
 
 TEST_F(FileCommandsTest, PickingANameLoadsIt) {

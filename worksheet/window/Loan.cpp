@@ -10,6 +10,7 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QLabel>
 #include <QPainter>
 
 #include <utility>
@@ -203,6 +204,10 @@ void Loan::LoadWallpaper() {
         m_messages.Post(GetResourceText(TextNumber::PictureNotLoaded) + u' ' +
                         m_settings.wallpaper);
         m_settings.wallpaper.clear();
+    }
+    // Captions stand on a plate of the window's own colour: any picture leaves them readable.
+    for (QLabel* caption : findChildren<QLabel*>()) {
+        caption->setAutoFillBackground(m_wallpaper.IsSet());
     }
     update();
 }

@@ -7,7 +7,10 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScreen>
+#include <QScrollBar>
 
+#include <algorithm>
 #include <utility>
 
 LoanNameBox::LoanNameBox(QWidget* parent) : QComboBox(parent) {
@@ -24,7 +27,17 @@ void LoanNameBox::SelectAll() { lineEdit()->selectAll(); }
 
 void LoanNameBox::showPopup() {
     Q_EMIT DropDown();
+    FitListToNames();
     QComboBox::showPopup();
+}
+
+/// Names alike in their first words can be told apart only where they are seen whole.
+void LoanNameBox::FitListToNames() {
+    const int names =
+        view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width();
+    const int room = screen()->availableGeometry().width() * 3 / 4;
+    view()->setTextElideMode(Qt::ElideMiddle);
+    view()->setMinimumWidth(std::max(width(), std::min(names, room)));
 }
 
 /// The pick is told after its list has closed, within the same event. What the toolkit tells before

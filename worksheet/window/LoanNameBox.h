@@ -29,6 +29,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void FitListToNames();
     void OnActivated(int index);
 
     bool m_picking = false;

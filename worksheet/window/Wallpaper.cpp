@@ -1,6 +1,8 @@
 #include "Wallpaper.h"
 
 #include <QPainter>
+#include <QPoint>
+#include <QRect>
 #include <QSize>
 
 bool Wallpaper::Load(const QString& path) {
@@ -9,12 +11,7 @@ bool Wallpaper::Load(const QString& path) {
 }
 
 void Wallpaper::Paint(QPainter& painter, const QSize& window) const {
-    if (!IsSet()) {
-        return;
-    }
-    for (int x = 0; x < window.width(); x += m_picture.width()) {
-        for (int y = 0; y < window.height(); y += m_picture.height()) {
-            painter.drawPixmap(x, y, m_picture);
-        }
+    if (IsSet()) {
+        painter.drawTiledPixmap(QRect(QPoint(), window), m_picture);
     }
 }

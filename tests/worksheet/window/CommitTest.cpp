@@ -103,6 +103,18 @@ TEST_F(CommitOfOthers, ADateHalfTypedIsTakenBeforeClosing) {
     EXPECT_EQ(Sheet().CurrentNextPayment(), Date::FromCalendar(2026, 11, 9));
 }
 
+// Each digit is an input of its own, which must not take back the part being typed.
+TEST_F(CommitOfOthers, ADateIsTypedWithoutItsSeparators) {
+    Open();
+    auto& picker = Get<QDateEdit>(u"dtNextPayment");
+    Click(picker, {8, picker.height() / 2});
+    picker.setSelectedSection(QDateTimeEdit::MonthSection);
+    Type(u"03012027");
+    Tab();
+    EXPECT_EQ(picker.date(), QDate(2027, 3, 1));
+    EXPECT_EQ(Sheet().CurrentNextPayment(), Date::FromCalendar(2027, 3, 1));
+}
+
 TEST_F(CommitOfOthers, ExitOfTheMenuStopsOnARefusedField) {
     Open();
     Click(u"txtLoanAmount");

@@ -2,7 +2,9 @@
 
 #include "WindowFixture.h"
 
+#include <QApplication>
 #include <QImage>
+#include <QLabel>
 #include <QTemporaryDir>
 
 #include <vector>
@@ -67,6 +69,27 @@ TEST_F(WallpaperOfTheWindow, IsTiledUnscaledFromTheCorner) {
         EXPECT_EQ(Window().GetSettings().wallpaper, path);
         Shut();
     }
+}
+
+TEST_F(WallpaperOfTheWindow, LeavesTheCaptionsReadable) {
+    QImage dark(16, 16, QImage::Format_RGB32);
+    dark.fill(QApplication::palette().color(QPalette::WindowText));
+    const QString path = PathOf(u"dark.bmp"_qs);
+    ASSERT_TRUE(dark.save(path));
+    Open({.wallpaper = path});
+    Settle();
+    const QColor plate = Window().palette().color(QPalette::Window);
+    const QImage window = Window().grab().toImage();
+    int captions = 0;
+    for (const QLabel* caption : Window().findChildren<QLabel*>()) {
+        if (caption->isVisible() && !caption->text().isEmpty()) {
+            const QRect place(caption->mapTo(&Window(), QPoint()), caption->size());
+            EXPECT_EQ(window.pixelColor(place.topLeft()), plate)
+                << caption->objectName().toStdString();
+            ++captions;
+        }
+    }
+    EXPECT_GT(captions, 20);
 }
 
 TEST_F(WallpaperOfTheWindow, IsNoneWithoutAPath) {

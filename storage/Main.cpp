@@ -12,6 +12,7 @@
 #include "StartUp.h"
 #include "StoreCheck.h"
 #include "TextNumbers.h"
+#include "VersionRecord.h"
 #include "WindowPlace.h"
 
 #include <QApplication>
@@ -89,6 +90,9 @@ int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Quend Halverworks"));
     QCoreApplication::setApplicationName(QStringLiteral("Loan"));
+    using namespace VersionRecord;
+    QCoreApplication::setApplicationVersion(
+        QStringLiteral("%1.%2.%3").arg(Major).arg(Minor).arg(Revision));
     SetUpLanguage();
     MessageBoxes messages;
     const RegistryAPI store(RegistryAPI::UserStore());

@@ -66,6 +66,8 @@ public:
     /// is read yet.
     Connection(const std::filesystem::path& file, std::chrono::milliseconds wait);
 
+    /// An empty store in memory.
+    static Connection InMemory();
     /// A store in memory, from the bytes of a file; for reading.
     static Connection OfBytes(const std::string& bytes);
 

@@ -45,6 +45,8 @@ const char* FileSystem() {
 
 StoreError::StoreError(int code) : StoreError(code, sqlite3_errstr(code)) {}
 
+bool StoreError::IsDamage() const { return Code() == SQLITE_CORRUPT || Code() == SQLITE_NOTADB; }
+
 void Statement::Finalize::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
 Statement::Statement(sqlite3* connection, const char* command) {

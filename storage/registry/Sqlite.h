@@ -19,6 +19,8 @@ public:
 
     /// SQLite's primary result code.
     int Code() const { return m_code & 0xFF; }
+    /// Whether what is in the file is the reason.
+    bool IsDamage() const;
 
 private:
     int m_code;

@@ -13,7 +13,8 @@ using Steps = std::vector<const char*>;
 constexpr std::chrono::milliseconds NoWait{0};
 
 /// Two layouts that could follow: the values get a time, and the keys a table of their own names.
-constexpr const char* AddTime = "ALTER TABLE KeyValues ADD COLUMN written INTEGER NOT NULL DEFAULT 0";
+constexpr const char* AddTime =
+    "ALTER TABLE KeyValues ADD COLUMN written INTEGER NOT NULL DEFAULT 0";
 constexpr const char* NamesApart =
     "CREATE TABLE Names(key INTEGER PRIMARY KEY, name TEXT NOT NULL) STRICT;"
     "INSERT INTO Names SELECT id, name FROM Keys; ALTER TABLE Keys DROP COLUMN name;";

@@ -7,6 +7,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QScreen>
 #include <QScrollBar>
 
@@ -17,6 +18,10 @@ LoanNameBox::LoanNameBox(QWidget* parent) : QComboBox(parent) {
     setEditable(true);
     setInsertPolicy(NoInsert);
     setCompleter(nullptr); // a name like another one must be typed as meant
+    // One line each: thousands need not be measured before the list can show.
+    if (auto* const list = qobject_cast<QListView*>(view())) {
+        list->setUniformItemSizes(true);
+    }
     lineEdit()->installEventFilter(this);
     connect(this, &QComboBox::activated, this, &LoanNameBox::OnActivated);
 }

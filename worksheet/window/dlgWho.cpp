@@ -35,7 +35,7 @@ void dlgWho::Form_Load() {
     const QSize room(txtWho.fontMetrics().averageCharWidth() * Characters,
                      txtWho.fontMetrics().lineSpacing() * Lines);
     txtWho.setMinimumSize(room / 2);
-    resize(sizeHint().expandedTo(room + sizeHint() - txtWho.sizeHint()));
+    resize((sizeHint() - txtWho.sizeHint() + room).expandedTo(minimumSizeHint()));
 }
 
 /// Every character as it stands in the field; a line ends with a paragraph separator.

@@ -38,6 +38,7 @@ protected:
             }
             look.stop();
             shown = QTest::qWaitForWindowActive(dialog);
+            Settle();
             user(*dialog);
             if (dialog->isVisible()) {
                 dialog->reject();
@@ -234,7 +235,7 @@ TEST_F(LenderDialog, SpeaksTheLanguage) {
 TEST_F(LenderDialog, TabGoesFromTheTextToTheButtonsAndItGrows) {
     EXPECT_TRUE(DoubleClick(u"txtWho(0)", [](dlgWho& dialog) {
         for (const char* name : {"txtWho", "cmdOK", "cmdCancel", "txtWho"}) {
-            EXPECT_EQ(FocusName(), QLatin1String(name));
+            EXPECT_EQ(FocusName(), QString(QLatin1String(name)));
             Key(dialog, Qt::Key_Tab);
         }
         const QSize before = TextOf(dialog).size();

@@ -109,7 +109,7 @@ def _sort(window: Window, heading: str, file: Path) -> None:
     """Sorts the offers by a column, prints them and takes a picture from the first row on."""
     window.sort(heading)
     window.focus("txtWho(0)")
-    print(f"\nSorted by {heading}")
+    print(f"\n{window.describe(heading)}:")
     _print_offers(_offers(window))
     window.screenshot(file)
     print(f"picture: {file}")
@@ -122,10 +122,10 @@ def _show(window: Window, pictures: Path, locale: str) -> None:
     _print_offers(_offers(window))
     _print_current(_current(window))
     _open_again(window, locale)
-    _speak(window, 2, pictures / "window-spanish.png")
     _speak(window, 1, pictures / "window-english.png")
     _sort(window, "cmdPayoffDate", pictures / "sorted-by-payoff.png")
     _sort(window, "cmdInterest", pictures / "sorted-by-interest.png")
+    _speak(window, 2, pictures / "window-spanish.png")
 
 
 def main() -> int:

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int Gap = 4;
+constexpr int ArrowGap = 4;
 
 } // namespace
 
@@ -31,7 +31,7 @@ QSize SortButton::ArrowSize() const {
 
 /// The caption stands in the middle, so the arrow's room is wanted on both sides.
 QSize SortButton::sizeHint() const {
-    return QPushButton::sizeHint() + QSize(2 * (ArrowSize().width() + Gap), 0);
+    return QPushButton::sizeHint() + QSize(2 * (ArrowSize().width() + ArrowGap), 0);
 }
 
 /// The arrow points from the last row to the first, where the least one stands.
@@ -42,7 +42,7 @@ void SortButton::paintEvent(QPaintEvent* event) {
     }
     const QSize size = ArrowSize();
     const int caption = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
-    const QPoint place(rect().center().x() + caption / 2 + Gap,
+    const QPoint place(rect().center().x() + caption / 2 + ArrowGap,
                        rect().center().y() - size.height() / 2);
     const QRectF arrow = QStyle::visualRect(layoutDirection(), rect(), QRect(place, size));
     QPainter painter(this);

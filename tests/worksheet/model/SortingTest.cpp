@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr Row Row0{0};
+constexpr Row Top{0};
 
 std::vector<int> Offers(std::initializer_list<int> offers) { return offers; }
 
@@ -85,8 +85,8 @@ TEST_F(SortingTest, KeysOfOffersWithoutAResultAreFixed) {
     for (const KeyCase& tested : LoneEntries) {
         SCOPED_TRACE(tested.what);
         m_worksheet.Clear();
-        EnterAlone(1, Row0, tested.field, tested.text);
-        CLoan& offer = m_worksheet.OfferOfRow(Row0);
+        EnterAlone(1, Top, tested.field, tested.text);
+        CLoan& offer = m_worksheet.OfferOfRow(Top);
         EXPECT_EQ(PayoffDateKey(offer), Date::FromCalendar(9999, 12, tested.isEntry ? 30 : 31));
         EXPECT_EQ(PayoffDateKey(offer).Days(), tested.isEntry ? 2958464 : 2958465);
         EXPECT_EQ(InterestKey(offer), Units(tested.isEntry ? 999'999'998 : 999'999'999));
@@ -95,15 +95,15 @@ TEST_F(SortingTest, KeysOfOffersWithoutAResultAreFixed) {
 
 TEST_F(SortingTest, KeysOfOffersWithAResultAreTheResults) {
     EnterOffers(1);
-    CLoan& offer = m_worksheet.OfferOfRow(Row0);
+    CLoan& offer = m_worksheet.OfferOfRow(Top);
     EXPECT_EQ(PayoffDateKey(offer), Date::FromCalendar(2056, 3, 10));
     EXPECT_EQ(InterestKey(offer), offer.Interest());
-    EXPECT_EQ(TextOf({FieldId::Interest, Row0}), u"$115,838.53"_qs);
+    EXPECT_EQ(TextOf({FieldId::Interest, Top}), u"$115,838.53"_qs);
 }
 
 TEST_F(SortingTest, AScheduleWithoutAnEndCountsAsNoDate) {
     EnterOffers(1);
-    CLoan& offer = m_worksheet.OfferOfRow(Row0);
+    CLoan& offer = m_worksheet.OfferOfRow(Top);
     offer.SetActualPayment(Units(-5));
     EXPECT_EQ(PayoffDateKey(offer), Date::FromCalendar(9999, 12, 30));
     EXPECT_EQ(InterestKey(offer), Units(999'999'998));
@@ -127,7 +127,7 @@ TEST_F(SortingTest, PayoffDatesThenPartlyFilledThenBlank) {
     m_worksheet.OfferOfRow(Row{1}) = CLoan(m_worksheet);
     m_worksheet.OfferOfRow(Row{3}) = CLoan(m_worksheet);
     Store({FieldId::InterestRate, Row{1}}, u"6"_qs);
-    EXPECT_EQ(TextOf({FieldId::PayoffDate, Row0}), u"5/10/2030"_qs);
+    EXPECT_EQ(TextOf({FieldId::PayoffDate, Top}), u"5/10/2030"_qs);
     EXPECT_EQ(TextOf({FieldId::PayoffDate, Row{2}}), u"1/10/2028"_qs);
     m_worksheet.SortByPayoffDate();
     EXPECT_EQ(Rows(), Offers({2, 0, 1, 3}));
@@ -212,14 +212,14 @@ TEST_F(SortingTest, EveryRowIsShownInTheOrderOfItsColumns) {
         }
     }
     EXPECT_EQ(m_display.TextsInOrder(), expected);
-    EXPECT_EQ(m_display.Of({FieldId::FinancePoints, Row0}).ticks, 1);
+    EXPECT_EQ(m_display.Of({FieldId::FinancePoints, Top}).ticks, 1);
 }
 
 TEST_F(SortingTest, ResultsThatCannotBeComputedStayEmpty) {
     EnterRates({"7", "6"});
-    EXPECT_THROW(Store({FieldId::ActualPayment, Row0}, u"-5"_qs), std::exception);
+    EXPECT_THROW(Store({FieldId::ActualPayment, Top}, u"-5"_qs), std::exception);
     StartCounting();
-    const std::vector before = ResultTexts(Row0);
+    const std::vector before = ResultTexts(Top);
     m_worksheet.SortByPayoffDate();
     EXPECT_NO_THROW(m_worksheet.ShowOffers());
     EXPECT_EQ(Rows(), Offers({1, 0}));
@@ -231,15 +231,15 @@ TEST_F(SortingTest, ResultsThatCannotBeComputedStayEmpty) {
 TEST_F(SortingTest, WhatIsEnteredGoesToTheOfferInTheRow) {
     EnterRates({"7", "6", "5"});
     m_worksheet.SortByInterest();
-    Store({FieldId::Points, Row0}, u"1.5"_qs);
+    Store({FieldId::Points, Top}, u"1.5"_qs);
     m_worksheet.StoreWho(Row{1}, u"Middle"_qs);
     m_worksheet.StoreFinancePoints(Row{2}, true);
-    m_worksheet.StoreChoice({FieldId::Frequency, Row0}, u"Every two weeks"_qs);
+    m_worksheet.StoreChoice({FieldId::Frequency, Top}, u"Every two weeks"_qs);
     EXPECT_EQ(m_worksheet.Offer({2}).Points(), 1.5);
     EXPECT_EQ(m_worksheet.Offer({2}).FrequencyCode(), u"W"_qs);
     EXPECT_EQ(m_worksheet.Offer({1}).Who(), u"Middle"_qs);
     EXPECT_TRUE(m_worksheet.Offer({0}).FinancePoints());
-    Store({FieldId::InterestRate, Row0}, u"9"_qs);
+    Store({FieldId::InterestRate, Top}, u"9"_qs);
     EXPECT_EQ(Rows(), Offers({2, 1, 0})) << "an edit does not sort again";
 }
 
@@ -267,7 +267,7 @@ TEST_F(SortingTest, ClearingBringsTheOrderOfEntryBack) {
 TEST_F(SortingTest, MarksOfRaisedPaymentsGoWithTheirOffers) {
     EnterRates({"7", "6"});
     m_worksheet.ClearRaisedMarks();
-    Store({FieldId::ActualPayment, Row0}, u"1"_qs);
+    Store({FieldId::ActualPayment, Top}, u"1"_qs);
     const auto markOf = [&](int row) {
         return m_display.Of({FieldId::ActualPayment, Row{row}}).mark;
     };

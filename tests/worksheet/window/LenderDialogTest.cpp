@@ -78,14 +78,14 @@ protected:
 };
 
 /// A way out of the dialog, and whether it stores.
-struct WayOut {
+struct DialogEnd {
     const char* name;
     std::function<void(dlgWho&)> leave;
     bool stores;
 };
 
-const std::vector<WayOut>& WaysOut() {
-    static const std::vector<WayOut> ways{
+const std::vector<DialogEnd>& DialogEnds() {
+    static const std::vector<DialogEnd> ways{
         {"OK", [](dlgWho& d) { d.findChild<QPushButton*>(u"cmdOK"_qs)->click(); }, true},
         {"return", [](dlgWho& d) { QTest::keyClick(d.windowHandle(), Qt::Key_Return); }, true},
         {"enter",
@@ -99,7 +99,7 @@ const std::vector<WayOut>& WaysOut() {
 }
 
 TEST_F(LenderDialog, EveryWayOutStoresOrDoesNot) {
-    for (const WayOut& way : WaysOut()) {
+    for (const DialogEnd& way : DialogEnds()) {
         SCOPED_TRACE(way.name);
         SheetToWrite().StoreWho(Row{1}, u"Old Bank"_qs);
         SheetToWrite().ClearDirty();

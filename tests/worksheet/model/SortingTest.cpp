@@ -22,7 +22,7 @@ protected:
         return offers;
     }
     /// Offers of 100,000.00 at these rates, in percent: the higher the rate, the more the interest.
-    void EnterRates(std::initializer_list<const char*> rates) {
+    void EnterRates(const std::vector<const char*>& rates) {
         EnterOffers(static_cast<int>(rates.size()));
         Row row{0};
         for (const char* rate : rates) {
@@ -135,7 +135,7 @@ TEST_F(SortingTest, PayoffDatesThenPartlyFilledThenBlank) {
 }
 
 struct OrderCase {
-    std::initializer_list<const char*> rates;
+    std::vector<const char*> rates;
     std::vector<int> rows;
 };
 

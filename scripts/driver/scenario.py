@@ -7,6 +7,8 @@
     choose <control> <text>|@<n>    picks an entry of a list, by text or by the text's number
     check <control>, clear <control>
     press <control>                 clicks on a button
+    sort <heading>                  clicks on the heading of a column and waits for the new order
+    lender <control> <text>         edits a lender in its dialog; a bar stands for a new line
     menu <entry> <entry> ...        opens the menus and clicks on the last entry
     key <control> <key> ...         presses keys by their X names, such as Down or shift+Tab
     keystrokes <control> <text>     types, and neither empties the field nor leaves it
@@ -15,6 +17,7 @@
     expect <control> <text>         waits until the control shows the text
     read <control> ...              prints what each control shows
     name <control> ...              prints what a screen reader calls each control
+    describe <control> ...          prints what a screen reader adds to that
     title                           prints the title of the window
     screenshot <file>               takes a picture of the window
     tree                            prints all controls there are
@@ -116,6 +119,8 @@ _HANDLERS: dict[str, Handler] = {
     "check": _deed(lambda window, control, _: window.check(control)),
     "clear": _deed(lambda window, control, _: window.check(control, wanted=False)),
     "press": _deed(lambda window, control, _: window.press(control)),
+    "sort": _deed(lambda window, control, _: window.sort(control)),
+    "lender": _deed(Window.lender),
     "menu": _deed(lambda window, first, rest: window.menu([first, *rest.split()])),
     "key": _deed(lambda window, control, keys: window.key(control, keys.split())),
     "keystrokes": _deed(Window.keystrokes),
@@ -129,6 +134,7 @@ _HANDLERS: dict[str, Handler] = {
     "answer": lambda window, rest: [Reading("answer", window.answer(rest))],
     "read": _look(Window.read),
     "name": _look(lambda window, control: window.find(control).name()),
+    "describe": _look(Window.describe),
     "dialog": _note("dialog", Window.dialog),
     "title": _note("title", Window.title),
     "tree": _note("tree", Window.tree),

@@ -14,7 +14,7 @@ from pathlib import Path
 
 from accessibility import (ACTIVE, CHECKED, EXPANDED, FOCUSED, SHOWING, Bus, BusError,
                            Node)
-from controls import Texts, kind_of
+from controls import Texts, active_text_of, kind_of
 from locales import decimal_sign, typed_date
 from pointer import Hands
 from session import Session
@@ -170,6 +170,27 @@ class Window:
         self._must_be_free()
         self._hands.click(*self.find(control).box().middle())
 
+    def sort(self, control: str) -> None:
+        """Clicks on the heading of a column and waits until it says that the offers are sorted."""
+        self.press(control)
+        sorted_by = self._texts.shown(active_text_of(control))
+        self._wait(f"{control} to say {sorted_by}",
+                   lambda: self.find(control).description() in sorted_by)
+
+    def lender(self, control: str, text: str) -> None:
+        """Double-clicks on a lender, replaces what the dialog holds and presses its OK button. A
+        bar in the text stands for a new line, made by Shift and the return key."""
+        self._must_be_free()
+        self._hands.double_click(*self.find(control).box().middle())
+        box = self._wait("the dialog of the lender", self._dialog_now)
+        self._wait("the dialog of the lender to become active", lambda: box.has(ACTIVE))
+        self._hands.keys("ctrl+a", "Delete")
+        for number, line in enumerate(text.split("|")):
+            self._hands.keys(*["shift+Return"] * min(number, 1))
+            self._hands.text(line)
+        self._hands.keys("Return")
+        self._wait_gone(box)
+
     def menu(self, path: list[str]) -> None:
         """Opens one menu after another and clicks on the last entry."""
         self._must_be_free()
@@ -242,6 +263,10 @@ class Window:
             return field.text()
         name = node.name()
         return "" if name in self._texts.names(control) else name
+
+    def describe(self, control: str) -> str:
+        """What a screen reader adds to the control's name."""
+        return self.find(control).description()
 
     def expect(self, control: str, text: str) -> None:
         """Waits until the control shows the text."""

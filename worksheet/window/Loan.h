@@ -8,6 +8,7 @@
 #include "LanguageMenu.h"
 #include "Messages.h"
 #include "OfferColumns.h"
+#include "OfferCommands.h"
 #include "OfferRows.h"
 #include "PaymentNotice.h"
 #include "Settings.h"
@@ -88,7 +89,6 @@ private:
     void MeasureFields();
     void FitHeight();
     void LoadWallpaper();
-    void ClearRaisedMarks();
 
     // First, because making the form raises events that ask for it.
     bool m_loaded = false;
@@ -106,6 +106,7 @@ private:
     FieldDiscipline m_discipline;
     FieldHandlers m_handlers;
     FocusTranslator m_focus;
+    OfferCommands m_offers;
     LanguageMenu m_languages;
     Wallpaper m_wallpaper;
 };

@@ -32,6 +32,15 @@ class Hands:
         self._run(["mousemove", str(x), str(y),
                    "click", "--repeat", "2", "--delay", "40", "1"])
 
+    def move(self, x: int, y: int) -> None:
+        self._run(["mousemove", "--sync", str(x), str(y)])
+
+    def hold(self, button: int) -> None:
+        self._run(["mousedown", str(button)])
+
+    def let_go(self, button: int) -> None:
+        self._run(["mouseup", str(button)])
+
     def rest(self) -> None:
         """Takes the mouse out of the way, so that no tooltip covers the window."""
         self._run(["mousemove", "1", "1"])

@@ -10,6 +10,12 @@
     menu <entry> <entry> ...        opens the menus and clicks on the last entry
     key <control> <key> ...         presses keys by their X names, such as Down or shift+Tab
     keystrokes <control> <text>     types, and neither empties the field nor leaves it
+    meet <text>                     starts another program, "neighbour", that gives this text
+    drag <from> <to>                drags with the left button; from or to may be "neighbour". Where it
+                                    drags, prints whether its text is to be copied, moved, or none
+    dragright <from> <to>           the same with the right button
+    dragescape <from> <to>          the same with the left button, and Escape before it is let go
+    got                             prints what has been dropped on the neighbour
     dialog                          waits for a message box, prints its text and closes it
     answer <text>|@<n>              waits for a question, prints it and presses that button
     expect <control> <text>         waits until the control shows the text
@@ -108,6 +114,13 @@ def _note(what: str, read: Callable[[Window], str]) -> Handler:
     return handle
 
 
+def _drag(button: int = 1, escape: bool = False) -> Handler:
+    def handle(window: Window, rest: str) -> list[Reading]:
+        told = window.drag(*_two(rest), button, escape)
+        return [Reading("drag", told)] if told else []
+    return handle
+
+
 _HANDLERS: dict[str, Handler] = {
     "type": _deed(Window.type),
     "number": _deed(Window.number),
@@ -126,6 +139,11 @@ _HANDLERS: dict[str, Handler] = {
     "ended": _deed(lambda window, *_: window.ended()),
     "kill": _deed(lambda window, *_: window.kill()),
     "start": _deed(lambda window, locale, _: window.start(locale)),
+    "meet": lambda window, text: window.meet(text) or [],
+    "drag": _drag(),
+    "dragright": _drag(button=3),
+    "dragescape": _drag(escape=True),
+    "got": _note("got", Window.got),
     "answer": lambda window, rest: [Reading("answer", window.answer(rest))],
     "read": _look(Window.read),
     "name": _look(lambda window, control: window.find(control).name()),

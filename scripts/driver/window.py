@@ -15,6 +15,7 @@ from pathlib import Path
 from accessibility import (ACTIVE, CHECKED, EXPANDED, FOCUSED, SHOWING, Bus, BusError,
                            Node)
 from controls import Texts, kind_of
+from dragging import Drag, Neighbour
 from locales import decimal_sign, typed_date
 from pointer import Hands
 from session import Session
@@ -154,6 +155,35 @@ class Window:
         self._wait(f"{control} to offer {wanted!r}", lambda: items[index].has(FOCUSED))
         self._hands.keys("Return")
         self._wait(f"the list of {control} to close", lambda: not node.has(EXPANDED))
+
+    def meet(self, text: str) -> None:
+        """Starts another program beside the window, which gives this text to be dragged."""
+        self._neighbour = Neighbour(self._session, text, self._seconds)
+
+    def drag(self, start: str, end: str, button: int = 1, escape: bool = False) -> str:
+        """Drags from one field to another; either may be "neighbour". Gives what the neighbour, where
+        it drags, was told that would be done with its text."""
+        self._must_be_free()
+        drag = Drag(self._hands, self._frame.name)
+        drag.begin(self._place(start, "gives"), button)
+        drag.over(self._place(end, "takes"))
+        if end == "neighbour":
+            self._neighbour.wait_for("over")
+        told = self._neighbour.wait_for("action") if start == "neighbour" else ""
+        if escape:
+            self._hands.keys("Escape")
+        drag.end(button)
+        if start == "neighbour":
+            self._neighbour.wait_for("end")
+        return told
+
+    def got(self) -> str:
+        """What has been dropped on the neighbour."""
+        return self._neighbour.wait_for("got")
+
+    def _place(self, control: str, what: str) -> tuple[int, int]:
+        return (self._neighbour.place(what) if control == "neighbour"
+                else self.find(control).box().middle())
 
     def check(self, control: str, wanted: bool = True) -> None:
         """Clicks on a check box unless it stands as wanted."""

@@ -1,16 +1,21 @@
 #pragma once
 
 #include "ControlMap.h"
+#include "DragHandlers.h"
 #include "FailureReport.h"
+#include "FieldClipboard.h"
 #include "FieldDiscipline.h"
 #include "FieldHandlers.h"
 #include "FocusTranslator.h"
 #include "LanguageMenu.h"
 #include "Messages.h"
 #include "OfferColumns.h"
+#include "OfferDragging.h"
 #include "OfferRows.h"
 #include "PaymentNotice.h"
 #include "Settings.h"
+#include "ToolkitTexts.h"
+#include "ValueExchange.h"
 #include "Wallpaper.h"
 #include "WindowDisplay.h"
 #include "Worksheet.h"
@@ -106,6 +111,11 @@ private:
     FieldDiscipline m_discipline;
     FieldHandlers m_handlers;
     FocusTranslator m_focus;
+    ValueExchange m_values;
+    DragHandlers m_dragHandlers;
+    OfferDragging m_dragging;
+    FieldClipboard m_clipboard;
+    ToolkitTexts m_toolkitTexts;
     LanguageMenu m_languages;
     Wallpaper m_wallpaper;
 };

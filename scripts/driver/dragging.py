@@ -1,0 +1,81 @@
+"""Dragging by the mouse, within the window and to and from another program (neighbour.py)."""
+
+from __future__ import annotations
+
+import subprocess
+import sys
+from collections.abc import Callable
+from pathlib import Path
+
+from pointer import Hands
+from session import Session
+from waiting import wait_for
+
+_NEIGHBOUR = Path(__file__).with_name("neighbour.py")
+_ROUNDS = 10  # of question and answer, after which a program has seen what came before them
+_START = 24   # pixels, more than any toolkit wants before a press becomes a drag
+
+
+class Neighbour:
+    """The other program, started beside the window; the session ends it."""
+
+    def __init__(self, session: Session, text: str, seconds: float) -> None:
+        self._seconds = seconds
+        self._said = session.folder / "neighbour.log"
+        with self._said.open("wb") as said:
+            self._process: subprocess.Popen[bytes] = session.start(
+                [sys.executable, str(_NEIGHBOUR), text], {"GDK_BACKEND": "x11", "NO_AT_BRIDGE": "1"},
+                output=said.fileno())
+        self.place("gives")
+
+    def lines(self) -> list[str]:
+        return self._said.read_text(encoding="utf-8", errors="replace").splitlines()
+
+    def last(self, word: str) -> str | None:
+        """What followed that word the last time it was said."""
+        found = [line[len(word) + 1:] for line in self.lines() if line.split(" ")[0] == word]
+        return found[-1] if found else None
+
+    def wait_for(self, word: str) -> str:
+        wait_for(f"the neighbour to say {word!r}", lambda: self.last(word) is not None,
+                 self._seconds)
+        return self.last(word) or ""
+
+    def place(self, what: str) -> tuple[int, int]:
+        """The middle of what "gives" or "takes"."""
+        wait_for(f"the place that {what}", lambda: self._places().get(what), self._seconds)
+        return self._places()[what]
+
+    def _places(self) -> dict[str, tuple[int, int]]:
+        words = [line.split(" ") for line in self.lines() if line.startswith("at ")]
+        return {what: (int(x), int(y)) for _, what, x, y in words}
+
+
+class Drag:
+    """One drag, step by step. Each step waits until the program has seen it."""
+
+    def __init__(self, hands: Hands, answer: Callable[[], object]) -> None:
+        self._hands = hands
+        self._answer = answer
+
+    def begin(self, start: tuple[int, int], button: int = 1) -> None:
+        x, y = start
+        self._hands.move(x, y)
+        self._hands.hold(button)
+        self._settle()
+        for step in range(1, 4):
+            self._hands.move(x + step * _START // 3, y)
+            self._settle()
+
+    def over(self, place: tuple[int, int]) -> None:
+        for nudge in (-2, 0):
+            self._hands.move(place[0] + nudge, place[1])
+            self._settle()
+
+    def end(self, button: int = 1) -> None:
+        self._hands.let_go(button)
+        self._settle()
+
+    def _settle(self) -> None:
+        for _ in range(_ROUNDS):
+            self._answer()

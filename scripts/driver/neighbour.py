@@ -1,0 +1,82 @@
+"""Another program on the same desktop, of another toolkit: it gives a text to be dragged, and shows
+what is dropped on it.
+
+Started with the text it gives. Each thing that happens is a line on its output:
+
+    at <what> <x> <y>       where "gives" and "takes" have their middle on the screen
+    action <none|copy|move> what the field under its drag would do with its text
+    over                    a drag has come over it
+    got <text>              what was dropped on it
+    end                     its drag is over
+"""
+
+from __future__ import annotations
+
+import sys
+
+import gi
+
+gi.require_version("Gtk", "3.0")
+from gi.repository import Gdk, Gtk  # noqa: E402
+
+_WIDTH = 200
+_HEIGHT = 60
+
+
+def _say(*words: object) -> None:
+    print(*words, flush=True)
+
+
+def _say_action(context: Gdk.DragContext, action: Gdk.DragAction) -> None:
+    names = {Gdk.DragAction.COPY: "copy", Gdk.DragAction.MOVE: "move"}
+    _say("action", names.get(context.get_selected_action() or action, "none"))
+
+
+def _giver(text: str) -> Gtk.Widget:
+    """A label to drag by."""
+    giver = Gtk.EventBox()
+    giver.add(Gtk.Label(label=text))
+    giver.drag_source_set(Gdk.ModifierType.BUTTON1_MASK, [], Gdk.DragAction.COPY)
+    giver.drag_source_add_text_targets()
+    giver.connect("drag-data-get", lambda _widget, _context, data, _info, _time: data.set_text(text, -1))
+    giver.connect("drag-begin", lambda _widget, context: context.connect("action-changed", _say_action))
+    giver.connect("drag-end", lambda *_: _say("end"))
+    return giver
+
+
+def _taker() -> Gtk.Widget:
+    """A field to drop on, with all that the toolkit does for one."""
+    taker = Gtk.Entry()
+    taker.connect("drag-motion", lambda *_: _say("over"))
+    taker.connect("changed", lambda entry: _say("got", entry.get_text()))
+    return taker
+
+
+def _tell_places(window: Gtk.Window, giver: Gtk.Widget, taker: Gtk.Widget) -> bool:
+    _, left, top = window.get_window().get_origin()
+    for name, widget in (("gives", giver), ("takes", taker)):
+        place = widget.get_allocation()
+        _say("at", name, left + place.x + place.width // 2, top + place.y + place.height // 2)
+    return False
+
+
+def main() -> None:
+    # No focus: the program it stands beside stays the active one.
+    window = Gtk.Window(title="Neighbour", decorated=False, accept_focus=False,
+                        focus_on_map=False, default_width=_WIDTH, default_height=_HEIGHT)
+    window.set_keep_above(True)
+    giver, taker = _giver(sys.argv[1]), _taker()
+    box = Gtk.Box(orientation=Gtk.Orientation.VERTICAL, homogeneous=True)
+    box.add(giver)
+    box.add(taker)
+    window.add(box)
+    window.connect("destroy", Gtk.main_quit)
+    window.connect("configure-event", lambda *_: _tell_places(window, giver, taker))
+    window.show_all()
+    screen = window.get_screen()
+    window.move(screen.get_width() - _WIDTH, screen.get_height() - _HEIGHT)
+    Gtk.main()
+
+
+if __name__ == "__main__":
+    main()

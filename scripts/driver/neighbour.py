@@ -7,17 +7,19 @@ Started with the text it gives. Each thing that happens is a line on its output:
     action <none|copy|move> what the field under its drag would do with its text
     over                    a drag has come over it
     got <text>              what was dropped on it
-    end                     its drag is over
+    begin, end              its drag has begun, is over
+    here                    the answer to the signal USR1, once all that came before it is done
 """
 
 from __future__ import annotations
 
+import signal
 import sys
 
 import gi
 
 gi.require_version("Gtk", "3.0")
-from gi.repository import Gdk, Gtk  # noqa: E402
+from gi.repository import Gdk, GLib, Gtk  # noqa: E402
 
 _WIDTH = 200
 _HEIGHT = 60
@@ -32,6 +34,16 @@ def _say_action(context: Gdk.DragContext, action: Gdk.DragAction) -> None:
     _say("action", names.get(context.get_selected_action() or action, "none"))
 
 
+def _begin(_giver: Gtk.Widget, context: Gdk.DragContext) -> None:
+    context.connect("action-changed", _say_action)
+    _say("begin")
+
+
+def _answer() -> bool:
+    _say("here")
+    return True
+
+
 def _giver(text: str) -> Gtk.Widget:
     """A label to drag by."""
     giver = Gtk.EventBox()
@@ -39,7 +51,7 @@ def _giver(text: str) -> Gtk.Widget:
     giver.drag_source_set(Gdk.ModifierType.BUTTON1_MASK, [], Gdk.DragAction.COPY)
     giver.drag_source_add_text_targets()
     giver.connect("drag-data-get", lambda _widget, _context, data, _info, _time: data.set_text(text, -1))
-    giver.connect("drag-begin", lambda _widget, context: context.connect("action-changed", _say_action))
+    giver.connect("drag-begin", _begin)
     giver.connect("drag-end", lambda *_: _say("end"))
     return giver
 
@@ -73,6 +85,7 @@ def main() -> None:
     window.connect("destroy", Gtk.main_quit)
     window.connect("configure-event", lambda *_: _tell_places(window, giver, taker))
     window.show_all()
+    GLib.unix_signal_add(GLib.PRIORITY_LOW, signal.SIGUSR1, _answer)
     screen = window.get_screen()
     window.move(screen.get_width() - _WIDTH, screen.get_height() - _HEIGHT)
     Gtk.main()

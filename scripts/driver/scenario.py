@@ -11,10 +11,12 @@
     key <control> <key> ...         presses keys by their X names, such as Down or shift+Tab
     keystrokes <control> <text>     types, and neither empties the field nor leaves it
     meet <text>                     starts another program, "neighbour", that gives this text
-    drag <from> <to>                drags with the left button; from or to may be "neighbour". Where it
-                                    drags, prints whether its text is to be copied, moved, or none
+    drag <from> <to>                drags by the mouse from a field to another, or to the neighbour
+    dragescape <from> <to>          the same, and presses Escape before letting go
+    dragnothing <from> <to>         the same, where no drag may begin
     dragright <from> <to>           the same with the right button
-    dragescape <from> <to>          the same with the left button, and Escape before it is let go
+    dragin <to>                     drags the neighbour's text to a field; prints what the neighbour
+                                    is told that would be done with it: copy, move or none
     got                             prints what has been dropped on the neighbour
     dialog                          waits for a message box, prints its text and closes it
     answer <text>|@<n>              waits for a question, prints it and presses that button
@@ -114,13 +116,6 @@ def _note(what: str, read: Callable[[Window], str]) -> Handler:
     return handle
 
 
-def _drag(button: int = 1, escape: bool = False) -> Handler:
-    def handle(window: Window, rest: str) -> list[Reading]:
-        told = window.drag(*_two(rest), button, escape)
-        return [Reading("drag", told)] if told else []
-    return handle
-
-
 _HANDLERS: dict[str, Handler] = {
     "type": _deed(Window.type),
     "number": _deed(Window.number),
@@ -139,10 +134,12 @@ _HANDLERS: dict[str, Handler] = {
     "ended": _deed(lambda window, *_: window.ended()),
     "kill": _deed(lambda window, *_: window.kill()),
     "start": _deed(lambda window, locale, _: window.start(locale)),
-    "meet": lambda window, text: window.meet(text) or [],
-    "drag": _drag(),
-    "dragright": _drag(button=3),
-    "dragescape": _drag(escape=True),
+    "meet": _deed(lambda window, *text: window.meet(" ".join(text).strip())),
+    "drag": _deed(Window.drag),
+    "dragescape": _deed(lambda window, *ends: window.drag(*ends, escape=True)),
+    "dragnothing": _deed(Window.drag_nothing),
+    "dragright": _deed(lambda window, *ends: window.drag_nothing(*ends, button=3)),
+    "dragin": lambda window, field: [Reading("drag", window.drag_in(field))],
     "got": _note("got", Window.got),
     "answer": lambda window, rest: [Reading("answer", window.answer(rest))],
     "read": _look(Window.read),

@@ -160,22 +160,50 @@ class Window:
         """Starts another program beside the window, which gives this text to be dragged."""
         self._neighbour = Neighbour(self._session, text, self._seconds)
 
-    def drag(self, start: str, end: str, button: int = 1, escape: bool = False) -> str:
-        """Drags from one field to another; either may be "neighbour". Gives what the neighbour, where
-        it drags, was told that would be done with its text."""
-        self._must_be_free()
-        drag = Drag(self._hands, self._frame.name)
-        drag.begin(self._place(start, "gives"), button)
+    def drag(self, start: str, end: str, escape: bool = False) -> None:
+        """Drags from one field to another or to the "neighbour"."""
+        drag = self._begin(start)
+        drag.must_begin()
+        if end == "neighbour":
+            self._neighbour.listen()
         drag.over(self._place(end, "takes"))
         if end == "neighbour":
             self._neighbour.wait_for("over")
-        told = self._neighbour.wait_for("action") if start == "neighbour" else ""
+            self._neighbour.catch_up()
         if escape:
             self._hands.keys("Escape")
+        drag.end()
+
+    def drag_nothing(self, start: str, end: str, button: int = 1) -> None:
+        """Does the same where nothing may begin."""
+        drag = self._begin(start, button)
+        drag.over(self._place(end, "takes"))
+        begun = drag.has_begun()
         drag.end(button)
-        if start == "neighbour":
-            self._neighbour.wait_for("end")
+        if begun:
+            raise Refused(f"{start} can be dragged")
+
+    def drag_in(self, end: str) -> str:
+        """Drags the neighbour's text to a field, and gives what the neighbour was told that would be
+        done with it."""
+        self._neighbour.listen()
+        drag = self._begin("neighbour")
+        self._neighbour.wait_for("begin")
+        # It is told of changes only, so it comes by a field that takes any text.
+        drag.over(self._place("txtWho(0)", "takes"))
+        self._neighbour.wait_for("action")
+        drag.over(self._place(end, "takes"))
+        self._neighbour.catch_up()
+        told = self._neighbour.wait_for("action")
+        drag.end()
+        self._neighbour.wait_for("end")
         return told
+
+    def _begin(self, start: str, button: int = 1) -> Drag:
+        self._must_be_free()
+        drag = Drag(self._hands, self._frame.name, self._seconds)
+        drag.begin(self._place(start, "gives"), button)
+        return drag
 
     def got(self) -> str:
         """What has been dropped on the neighbour."""

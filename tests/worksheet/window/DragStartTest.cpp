@@ -152,6 +152,7 @@ TEST_F(DragStart, WhatIsRefusedDoesNotTravel) {
     Paste(u"1.2.3");
     Press(Qt::Key_A, Qt::ControlModifier);
     EXPECT_TRUE(Drag(u"txtPoints(0)").empty());
+    EXPECT_TRUE(WaitFor([this] { return !Door().Texts().isEmpty(); })); // once the button is up
     EXPECT_EQ(SettledMessages(), QStringList{u"Please enter a number of the form nnnn.nnn"_qs});
     EXPECT_EQ(Text(u"txtPoints(0)"), u"1.2.3");
 }

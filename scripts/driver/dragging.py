@@ -14,6 +14,7 @@ from waiting import wait_for
 
 _NEIGHBOUR = Path(__file__).with_name("neighbour.py")
 _ROUNDS = 10  # of question and answer, after which a program has seen what came before them
+_BESIDE = 8   # pixels: a press so far from the one before is no double click
 _START = 24   # pixels, more than any toolkit wants before a press becomes a drag
 
 
@@ -69,6 +70,8 @@ class Neighbour:
 class Drag:
     """One drag, step by step. Each step waits until the window has seen it."""
 
+    _side = 1
+
     def __init__(self, hands: Hands, answer: Callable[[], object], seconds: float) -> None:
         """`answer` asks the window something, whatever it is."""
         self._hands = hands
@@ -76,7 +79,8 @@ class Drag:
         self._seconds = seconds
 
     def begin(self, start: tuple[int, int], button: int = 1) -> None:
-        x, y = start
+        Drag._side = -Drag._side
+        x, y = start[0] + Drag._side * _BESIDE, start[1]
         self._hands.move(x, y)
         self._settle()
         self._before = self._hands.windows()

@@ -64,8 +64,16 @@ def _taker() -> Gtk.Widget:
     return taker
 
 
+def _corner(window: Gtk.Window) -> tuple[int, int]:
+    """Where the window is to stand: in the corner of the screen, out of the way."""
+    screen = window.get_screen()
+    return screen.get_width() - _WIDTH, screen.get_height() - _HEIGHT
+
+
 def _tell_places(window: Gtk.Window, giver: Gtk.Widget, taker: Gtk.Widget) -> bool:
     _, left, top = window.get_window().get_origin()
+    if (left, top) != _corner(window):
+        return False  # on its way
     for name, widget in (("gives", giver), ("takes", taker)):
         place = widget.get_allocation()
         _say("at", name, left + place.x + place.width // 2, top + place.y + place.height // 2)
@@ -86,8 +94,7 @@ def main() -> None:
     window.connect("configure-event", lambda *_: _tell_places(window, giver, taker))
     window.show_all()
     GLib.unix_signal_add(GLib.PRIORITY_LOW, signal.SIGUSR1, _answer)
-    screen = window.get_screen()
-    window.move(screen.get_width() - _WIDTH, screen.get_height() - _HEIGHT)
+    window.move(*_corner(window))
     Gtk.main()
 
 

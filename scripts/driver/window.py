@@ -175,11 +175,13 @@ class Window:
         drag.end()
 
     def drag_nothing(self, start: str, end: str, button: int = 1) -> None:
-        """Does the same where nothing may begin."""
+        """Does the same where nothing may begin. The right button brings a menu up, which is left."""
         drag = self._begin(start, button)
         drag.over(self._place(end, "takes"))
-        begun = drag.has_begun()
+        begun = button == 1 and drag.has_begun()
         drag.end(button)
+        if button != 1:
+            self._hands.keys("Escape")
         if begun:
             raise Refused(f"{start} can be dragged")
 

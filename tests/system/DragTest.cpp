@@ -56,7 +56,6 @@ const std::string BetweenRowsShown = "txtInterestRate(0)\t6.500%\n"
 /// What starts nothing, and what comes to nothing; a drag at the end shows that drags work.
 const std::string Nothing = R"(
 dragright txtPoints(0) txtPoints(3)
-key txtTerm(0) Escape
 dragescape txtPoints(0) txtPoints(3)
 drag txtPoints(0) txtTerm(3)
 drag txtPoints(0) txtLoanTerm

@@ -8,8 +8,6 @@
 #include <algorithm>
 #include <array>
 
-using enum FieldId;
-
 namespace {
 
 using H = DragHandlers;
@@ -25,15 +23,15 @@ struct DragEvents {
 };
 
 constexpr std::array DragEventTable{
-    DragEvents{Points, &H::txtPoints_MouseDown, &H::txtPoints_OLEStartDrag,
+    DragEvents{FieldId::Points, &H::txtPoints_MouseDown, &H::txtPoints_OLEStartDrag,
                &H::txtPoints_OLEDragOver, &H::txtPoints_OLEDragDrop, &H::txtPoints_OLECompleteDrag},
-    DragEvents{InterestRate, &H::txtInterestRate_MouseDown, &H::txtInterestRate_OLEStartDrag,
-               &H::txtInterestRate_OLEDragOver, &H::txtInterestRate_OLEDragDrop,
-               &H::txtInterestRate_OLECompleteDrag},
-    DragEvents{ActualPayment, &H::txtActualPayment_MouseDown, &H::txtActualPayment_OLEStartDrag,
-               &H::txtActualPayment_OLEDragOver, &H::txtActualPayment_OLEDragDrop,
-               &H::txtActualPayment_OLECompleteDrag},
-    DragEvents{Who, &H::txtWho_MouseDown, &H::txtWho_OLEStartDrag, &H::txtWho_OLEDragOver,
+    DragEvents{FieldId::InterestRate, &H::txtInterestRate_MouseDown,
+               &H::txtInterestRate_OLEStartDrag, &H::txtInterestRate_OLEDragOver,
+               &H::txtInterestRate_OLEDragDrop, &H::txtInterestRate_OLECompleteDrag},
+    DragEvents{FieldId::ActualPayment, &H::txtActualPayment_MouseDown,
+               &H::txtActualPayment_OLEStartDrag, &H::txtActualPayment_OLEDragOver,
+               &H::txtActualPayment_OLEDragDrop, &H::txtActualPayment_OLECompleteDrag},
+    DragEvents{FieldId::Who, &H::txtWho_MouseDown, &H::txtWho_OLEStartDrag, &H::txtWho_OLEDragOver,
                &H::txtWho_OLEDragDrop, nullptr},
 };
 
@@ -99,68 +97,68 @@ Qt::DropAction DragHandlers::Store(Field field, const QMimeData& data, Qt::DropA
 void DragHandlers::Repaint(Field field) const { m_controls->ControlOf(field)->update(); }
 
 bool DragHandlers::txtPoints_MouseDown(int index, Qt::MouseButton button) {
-    return Starts({Points, Row{index}}, button);
+    return Starts({FieldId::Points, Row{index}}, button);
 }
 Qt::DropActions DragHandlers::txtPoints_OLEStartDrag(int index, QMimeData& data) {
-    return Fill({Points, Row{index}}, data);
+    return Fill({FieldId::Points, Row{index}}, data);
 }
 Qt::DropActions DragHandlers::txtPoints_OLEDragOver(int index, const QMimeData& data,
                                                     Qt::DropActions effect) {
-    return Possible({Points, Row{index}}, data, effect);
+    return Possible({FieldId::Points, Row{index}}, data, effect);
 }
 Qt::DropAction DragHandlers::txtPoints_OLEDragDrop(int index, const QMimeData& data,
                                                    Qt::DropActions effect) {
-    return Store({Points, Row{index}}, data, effect);
+    return Store({FieldId::Points, Row{index}}, data, effect);
 }
-void DragHandlers::txtPoints_OLECompleteDrag(int index) { Repaint({Points, Row{index}}); }
+void DragHandlers::txtPoints_OLECompleteDrag(int index) { Repaint({FieldId::Points, Row{index}}); }
 
 bool DragHandlers::txtInterestRate_MouseDown(int index, Qt::MouseButton button) {
-    return Starts({InterestRate, Row{index}}, button);
+    return Starts({FieldId::InterestRate, Row{index}}, button);
 }
 Qt::DropActions DragHandlers::txtInterestRate_OLEStartDrag(int index, QMimeData& data) {
-    return Fill({InterestRate, Row{index}}, data);
+    return Fill({FieldId::InterestRate, Row{index}}, data);
 }
 Qt::DropActions DragHandlers::txtInterestRate_OLEDragOver(int index, const QMimeData& data,
                                                           Qt::DropActions effect) {
-    return Possible({InterestRate, Row{index}}, data, effect);
+    return Possible({FieldId::InterestRate, Row{index}}, data, effect);
 }
 Qt::DropAction DragHandlers::txtInterestRate_OLEDragDrop(int index, const QMimeData& data,
                                                          Qt::DropActions effect) {
-    return Store({InterestRate, Row{index}}, data, effect);
+    return Store({FieldId::InterestRate, Row{index}}, data, effect);
 }
 void DragHandlers::txtInterestRate_OLECompleteDrag(int index) {
-    Repaint({InterestRate, Row{index}});
+    Repaint({FieldId::InterestRate, Row{index}});
 }
 
 bool DragHandlers::txtActualPayment_MouseDown(int index, Qt::MouseButton button) {
-    return Starts({ActualPayment, Row{index}}, button);
+    return Starts({FieldId::ActualPayment, Row{index}}, button);
 }
 Qt::DropActions DragHandlers::txtActualPayment_OLEStartDrag(int index, QMimeData& data) {
-    return Fill({ActualPayment, Row{index}}, data);
+    return Fill({FieldId::ActualPayment, Row{index}}, data);
 }
 Qt::DropActions DragHandlers::txtActualPayment_OLEDragOver(int index, const QMimeData& data,
                                                            Qt::DropActions effect) {
-    return Possible({ActualPayment, Row{index}}, data, effect);
+    return Possible({FieldId::ActualPayment, Row{index}}, data, effect);
 }
 Qt::DropAction DragHandlers::txtActualPayment_OLEDragDrop(int index, const QMimeData& data,
                                                           Qt::DropActions effect) {
-    return Store({ActualPayment, Row{index}}, data, effect);
+    return Store({FieldId::ActualPayment, Row{index}}, data, effect);
 }
 void DragHandlers::txtActualPayment_OLECompleteDrag(int index) {
-    Repaint({ActualPayment, Row{index}});
+    Repaint({FieldId::ActualPayment, Row{index}});
 }
 
 bool DragHandlers::txtWho_MouseDown(int index, Qt::MouseButton button) {
-    return Starts({Who, Row{index}}, button);
+    return Starts({FieldId::Who, Row{index}}, button);
 }
 Qt::DropActions DragHandlers::txtWho_OLEStartDrag(int index, QMimeData& data) {
-    return Fill({Who, Row{index}}, data);
+    return Fill({FieldId::Who, Row{index}}, data);
 }
 Qt::DropActions DragHandlers::txtWho_OLEDragOver(int index, const QMimeData& data,
                                                  Qt::DropActions effect) {
-    return Possible({Who, Row{index}}, data, effect);
+    return Possible({FieldId::Who, Row{index}}, data, effect);
 }
 Qt::DropAction DragHandlers::txtWho_OLEDragDrop(int index, const QMimeData& data,
                                                 Qt::DropActions effect) {
-    return Store({Who, Row{index}}, data, effect);
+    return Store({FieldId::Who, Row{index}}, data, effect);
 }

@@ -189,8 +189,7 @@ class Window:
         """Drags the neighbour's text to a field, and gives what the neighbour was told that would be
         done with it."""
         self._neighbour.listen()
-        drag = self._begin("neighbour")
-        self._neighbour.wait_for("begin")
+        drag = wait_for("the neighbour to drag", self._begin_at_neighbour, self._seconds)
         # It is told of changes only, so it comes by a field that takes any text.
         drag.over(self._place("txtWho(0)", "takes"))
         self._neighbour.wait_for("action")
@@ -200,6 +199,15 @@ class Window:
         drag.end()
         self._neighbour.wait_for("end")
         return told
+
+    def _begin_at_neighbour(self) -> Drag | None:
+        """A press that comes while the neighbour still puts its last drag away begins none."""
+        drag = self._begin("neighbour")
+        self._neighbour.catch_up()
+        if self._neighbour.last("begin") is None:
+            drag.end()
+            return None
+        return drag
 
     def _begin(self, start: str, button: int = 1) -> Drag:
         self._must_be_free()

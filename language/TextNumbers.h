@@ -57,6 +57,17 @@ inline constexpr int PictureLookIn = 522;
 inline constexpr int PictureFileName = 523;
 inline constexpr int PictureFileType = 524;
 inline constexpr int PictureOpen = 525;
+inline constexpr int CopyValue = 540;
+inline constexpr int PasteValue = 541;
+/// %1: what was to be pasted. A picture such as " nnnn.nn" follows it.
+inline constexpr int ValueRefused = 542;
+inline constexpr int EditUndo = 543;
+inline constexpr int EditRedo = 544;
+inline constexpr int EditCut = 545;
+inline constexpr int EditCopy = 546;
+inline constexpr int EditPaste = 547;
+inline constexpr int EditDelete = 548;
+inline constexpr int EditSelectAll = 549;
 
 /// Every one of them: a text without a use, or a use without a text, shows up in the tests.
 inline constexpr std::array All{
@@ -104,6 +115,16 @@ inline constexpr std::array All{
     PictureFileName,
     PictureFileType,
     PictureOpen,
+    CopyValue,
+    PasteValue,
+    ValueRefused,
+    EditUndo,
+    EditRedo,
+    EditCut,
+    EditCopy,
+    EditPaste,
+    EditDelete,
+    EditSelectAll,
 };
 
 } // namespace TextNumber

@@ -12,6 +12,14 @@
     menu <entry> <entry> ...        opens the menus and clicks on the last entry
     key <control> <key> ...         presses keys by their X names, such as Down or shift+Tab
     keystrokes <control> <text>     types, and neither empties the field nor leaves it
+    meet <text>                     starts another program, "neighbour", that gives this text
+    drag <from> <to>                drags by the mouse from a field to another, or to the neighbour
+    dragescape <from> <to>          the same, and presses Escape before letting go
+    dragnothing <from> <to>         the same, where no drag may begin
+    dragright <from> <to>           the same with the right button
+    dragin <to>                     drags the neighbour's text to a field; prints what the neighbour
+                                    is told that would be done with it: copy, move or none
+    got                             prints what has been dropped on the neighbour
     dialog                          waits for a message box, prints its text and closes it
     answer <text>|@<n>              waits for a question, prints it and presses that button
     expect <control> <text>         waits until the control shows the text
@@ -131,6 +139,13 @@ _HANDLERS: dict[str, Handler] = {
     "ended": _deed(lambda window, *_: window.ended()),
     "kill": _deed(lambda window, *_: window.kill()),
     "start": _deed(lambda window, locale, _: window.start(locale)),
+    "meet": _deed(lambda window, *text: window.meet(" ".join(text).strip())),
+    "drag": _deed(Window.drag),
+    "dragescape": _deed(lambda window, *ends: window.drag(*ends, escape=True)),
+    "dragnothing": _deed(Window.drag_nothing),
+    "dragright": _deed(lambda window, *ends: window.drag_nothing(*ends, button=3)),
+    "dragin": lambda window, field: [Reading("drag", window.drag_in(field))],
+    "got": _note("got", Window.got),
     "answer": lambda window, rest: [Reading("answer", window.answer(rest))],
     "read": _look(Window.read),
     "name": _look(lambda window, control: window.find(control).name()),

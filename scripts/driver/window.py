@@ -15,6 +15,7 @@ from pathlib import Path
 from accessibility import (ACTIVE, CHECKED, EXPANDED, FOCUSED, SHOWING, Bus, BusError,
                            Node)
 from controls import Texts, active_text_of, kind_of
+from dragging import Drag, Neighbour
 from locales import decimal_sign, typed_date
 from pointer import Hands
 from session import Session
@@ -154,6 +155,73 @@ class Window:
         self._wait(f"{control} to offer {wanted!r}", lambda: items[index].has(FOCUSED))
         self._hands.keys("Return")
         self._wait(f"the list of {control} to close", lambda: not node.has(EXPANDED))
+
+    def meet(self, text: str) -> None:
+        """Starts another program beside the window, which gives this text to be dragged."""
+        self._neighbour = Neighbour(self._session, text, self._seconds)
+
+    def drag(self, start: str, end: str, escape: bool = False) -> None:
+        """Drags from one field to another or to the "neighbour"."""
+        drag = self._begin(start)
+        drag.must_begin()
+        if end == "neighbour":
+            self._neighbour.listen()
+        drag.over(self._place(end, "takes"))
+        if end == "neighbour":
+            self._neighbour.wait_for("over")
+            self._neighbour.catch_up()
+        if escape:
+            self._hands.keys("Escape")
+        drag.end()
+
+    def drag_nothing(self, start: str, end: str, button: int = 1) -> None:
+        """Does the same where nothing may begin. The right button brings a menu up, which is left."""
+        drag = self._begin(start, button)
+        drag.over(self._place(end, "takes"))
+        begun = button == 1 and drag.has_begun()
+        drag.end(button)
+        if button != 1:
+            self._hands.keys("Escape")
+        if begun:
+            raise Refused(f"{start} can be dragged")
+
+    def drag_in(self, end: str) -> str:
+        """Drags the neighbour's text to a field, and gives what the neighbour was told that would be
+        done with it."""
+        self._neighbour.listen()
+        drag = wait_for("the neighbour to drag", self._begin_at_neighbour, self._seconds)
+        # It is told of changes only, so it comes by a field that takes any text.
+        drag.over(self._place("txtWho(0)", "takes"))
+        self._neighbour.wait_for("action")
+        drag.over(self._place(end, "takes"))
+        self._neighbour.catch_up()
+        told = self._neighbour.wait_for("action")
+        drag.end()
+        self._neighbour.wait_for("end")
+        return told
+
+    def _begin_at_neighbour(self) -> Drag | None:
+        """A press that comes while the neighbour still puts its last drag away begins none."""
+        drag = self._begin("neighbour")
+        self._neighbour.catch_up()
+        if self._neighbour.last("begin") is None:
+            drag.end()
+            return None
+        return drag
+
+    def _begin(self, start: str, button: int = 1) -> Drag:
+        self._must_be_free()
+        drag = Drag(self._hands, self._frame.name, self._seconds)
+        drag.begin(self._place(start, "gives"), button)
+        return drag
+
+    def got(self) -> str:
+        """What has been dropped on the neighbour."""
+        return self._neighbour.wait_for("got")
+
+    def _place(self, control: str, what: str) -> tuple[int, int]:
+        return (self._neighbour.place(what) if control == "neighbour"
+                else self.find(control).box().middle())
 
     def check(self, control: str, wanted: bool = True) -> None:
         """Clicks on a check box unless it stands as wanted."""

@@ -111,6 +111,9 @@ public:
     bool Accepts(Field field, const QString& text) const;
     /// Stores what a number field holds. Throws ConversionFailure or OverflowFailure.
     void StoreNumber(Field field, const QString& text);
+    /// The same for a number of an offer that has been read already: points, rate, term or intended
+    /// payment.
+    void StoreOfferNumber(Field field, const FieldNumber& number);
     void StoreChoice(Field field, const QString& text);
     void StoreFinancePoints(Row row, bool financed);
     void StoreWho(Row row, const QString& who);
@@ -183,7 +186,6 @@ private:
     void Recalculate(unsigned pending);
     void SetStartingAmounts();
     void StoreLoanNumber(FieldId field, const FieldNumber& number);
-    void StoreOfferNumber(Field field, const FieldNumber& number);
     void StoreActualPayment(Row row, Money payment);
     void ShowAmount(Field field, Money amount) const;
     void ShowDate(Field field, Date date) const;

@@ -49,7 +49,9 @@ Loan::Loan(const World& world, Settings settings)
       m_notice(*this, m_worksheet, m_messages, [this] { m_worksheet.ClearRaisedMarks(); }),
       m_discipline(m_worksheet, m_controls, m_rows, m_messages),
       m_handlers(m_worksheet, m_controls, m_discipline), m_focus(m_handlers, m_controls, m_report),
-      m_offers(*this),
+      m_offers(*this), m_values(m_worksheet, m_controls, m_focus, m_discipline),
+      m_dragHandlers(m_values, m_controls), m_dragging(*this, m_dragHandlers, m_controls, m_report),
+      m_clipboard(m_values, m_controls, m_messages, m_report),
       m_languages(*m_ui->mnuToolsLanguage, {m_ui->mnuToolsLanguageOpt1, m_ui->mnuToolsLanguageOpt2},
                   {.commit = [this] { return m_focus.Commit(); },
                    .guard = [this](const auto& handler) { m_report.Guard(handler); },
@@ -101,6 +103,8 @@ void Loan::WireFields() {
 
 void Loan::WireRow(int row, const QWidget* controls) {
     m_focus.Watch(*controls);
+    m_dragging.Watch(Row{row});
+    m_clipboard.Watch(Row{row});
     WireChoice({FieldId::Frequency, Row{row}});
     m_offers.Watch(*m_controls.ControlOf<LenderEdit>({FieldId::Who, Row{row}}), Row{row});
     const Field points{FieldId::FinancePoints, Row{row}};

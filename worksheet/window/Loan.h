@@ -1,7 +1,9 @@
 #pragma once
 
 #include "ControlMap.h"
+#include "DragHandlers.h"
 #include "FailureReport.h"
+#include "FieldClipboard.h"
 #include "FieldDiscipline.h"
 #include "FieldHandlers.h"
 #include "FocusTranslator.h"
@@ -9,9 +11,12 @@
 #include "Messages.h"
 #include "OfferColumns.h"
 #include "OfferCommands.h"
+#include "OfferDragging.h"
 #include "OfferRows.h"
 #include "PaymentNotice.h"
 #include "Settings.h"
+#include "ToolkitTexts.h"
+#include "ValueExchange.h"
 #include "Wallpaper.h"
 #include "WindowDisplay.h"
 #include "Worksheet.h"
@@ -107,6 +112,11 @@ private:
     FieldHandlers m_handlers;
     FocusTranslator m_focus;
     OfferCommands m_offers;
+    ValueExchange m_values;
+    DragHandlers m_dragHandlers;
+    OfferDragging m_dragging;
+    FieldClipboard m_clipboard;
+    ToolkitTexts m_toolkitTexts;
     LanguageMenu m_languages;
     Wallpaper m_wallpaper;
 };

@@ -21,6 +21,9 @@ _FLOORS: dict[str, tuple[str, ...]] = {
     "calc":             ("foundation", "language"),
     "worksheet/model":  ("foundation", "language", "calc"),
     "worksheet/window": ("foundation", "language", "calc", "worksheet/model"),
+    "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
+    "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
+                         "storage/registry"),
     "storage":          ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
                          "storage/registry"),
 }

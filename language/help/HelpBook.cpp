@@ -53,7 +53,7 @@ QUrl HelpBook::PageOfKeyword(const QString& keyword) const {
     return FirstOf(m_engine.documentsForKeyword(keyword));
 }
 
-bool HelpBook::Has(const QUrl& page) const { return m_engine.findFile(page).isValid(); }
+bool HelpBook::Has(const QUrl& page) const { return !Data(page).isEmpty(); }
 
 QByteArray HelpBook::Data(const QUrl& page) const {
     return m_engine.fileData(page.adjusted(QUrl::RemoveFragment));

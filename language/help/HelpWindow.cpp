@@ -217,7 +217,10 @@ void HelpWindow::BelongTo(const QWidget* dialog) {
 void HelpWindow::Place(const QWidget& beside) {
     if (!std::exchange(m_placed, true)) {
         const QRect place = m_place.On(beside.screen()->geometry());
-        resize(place.size());
+        // Both windows have the same frame.
+        const QWindow* framed = beside.window()->windowHandle();
+        const QRect within = framed ? place.marginsRemoved(framed->frameMargins()) : place;
+        resize(within.size());
         move(place.topLeft());
         const int side = place.width() / 3;
         m_ui->splHelp->setSizes({side, place.width() - side});

@@ -9,17 +9,36 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QWindow>
 
 namespace {
 
-/// What is there on the screen; a menu or list that is open comes first. Null beside the windows.
-QWidget* WidgetAt(const QPoint& at) {
-    QWidget* popup = QApplication::activePopupWidget();
-    if (popup && popup->rect().contains(popup->mapFromGlobal(at))) {
-        QWidget* child = popup->childAt(popup->mapFromGlobal(at));
-        return child ? child : popup;
+/// What is there of this widget, itself where it is bare; null when it is elsewhere.
+QWidget* PartAt(QWidget* widget, const QPoint& at) {
+    if (!widget || !widget->rect().contains(widget->mapFromGlobal(at))) {
+        return nullptr;
     }
-    return QApplication::widgetAt(at);
+    QWidget* child = widget->childAt(widget->mapFromGlobal(at));
+    return child ? child : widget;
+}
+
+QWidget* WidgetOf(const QObject* window) {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->windowHandle() == window) {
+            return widget;
+        }
+    }
+    return nullptr;
+}
+
+/// What is there on the screen. A menu or list that is open comes first, then the window that was
+/// told of the click, which may stand in for another one while a menu is open. Null beside them.
+QWidget* WidgetAt(const QObject* window, const QPoint& at) {
+    if (QWidget* part = PartAt(QApplication::activePopupWidget(), at)) {
+        return part;
+    }
+    QWidget* part = PartAt(WidgetOf(window), at);
+    return part ? part : QApplication::widgetAt(at);
 }
 
 /// The name of a menu that is still closed: a press there opens it.
@@ -95,9 +114,9 @@ bool WhatsThisMode::eventFilter(QObject* watched, QEvent* event) {
     // Windows get these before they choose the control, and before the focus follows.
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        return watched->isWindowType() && OnPress(*static_cast<QMouseEvent*>(event));
+        return watched->isWindowType() && OnPress(watched, *static_cast<QMouseEvent*>(event));
     case QEvent::MouseButtonRelease:
-        return watched->isWindowType() && OnRelease(*static_cast<QMouseEvent*>(event));
+        return watched->isWindowType() && OnRelease(watched, *static_cast<QMouseEvent*>(event));
     case QEvent::ContextMenu:
         return true;
     case QEvent::KeyPress:
@@ -112,9 +131,9 @@ bool WhatsThisMode::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-bool WhatsThisMode::OnPress(const QMouseEvent& event) {
+bool WhatsThisMode::OnPress(const QObject* told, const QMouseEvent& event) {
     const QPoint at = event.globalPosition().toPoint();
-    const QWidget* widget = WidgetAt(at);
+    const QWidget* widget = WidgetAt(told, at);
     if (!widget) {
         End();
         return false;
@@ -126,9 +145,9 @@ bool WhatsThisMode::OnPress(const QMouseEvent& event) {
     return true;
 }
 
-bool WhatsThisMode::OnRelease(const QMouseEvent& event) {
+bool WhatsThisMode::OnRelease(const QObject* told, const QMouseEvent& event) {
     const QPoint at = event.globalPosition().toPoint();
-    QWidget* widget = WidgetAt(at);
+    QWidget* widget = WidgetAt(told, at);
     // A menu may be opened and an entry chosen in one move, with the button held down.
     const auto* menu = qobject_cast<const QMenu*>(widget);
     const bool draggedTo =

@@ -7,6 +7,18 @@
 #include "VersionRecord.h"
 #include "ui_frmAbout.h"
 
+namespace {
+
+/// A layout leaves a wrapped text too little height where letters are large.
+void ShowLines(QLabel& label, const char* text) {
+    constexpr int letters = 44;
+    label.setText(QString::fromUtf8(text));
+    label.setFixedWidth(letters * label.fontMetrics().averageCharWidth());
+    label.setFixedHeight(label.heightForWidth(label.width()));
+}
+
+} // namespace
+
 frmAbout::frmAbout(QWidget& parent, const std::function<void()>& startSysInfo)
     : QDialog(&parent), m_ui(std::make_unique<Ui::frmAbout>()) {
     m_ui->setupUi(this);
@@ -28,8 +40,8 @@ void frmAbout::Form_Load() {
     m_ui->lblTitle->setText(QString::fromUtf8(ProductName));
     m_ui->lblVersion->setText(GetResourceText(TextNumber::Version) +
                               QStringLiteral(" %1.%2.%3").arg(Major).arg(Minor).arg(Revision));
-    m_ui->lblDescription->setText(QString::fromUtf8(Comments));
-    m_ui->lblDisclaimer->setText(QString::fromUtf8(LegalNotice));
+    ShowLines(*m_ui->lblDescription, Comments);
+    ShowLines(*m_ui->lblDisclaimer, LegalNotice);
     constexpr int size = 64;
     m_ui->picIcon->setPixmap(ProgramIcon().pixmap(QSize(size, size), devicePixelRatio()));
     m_ui->cmdOK->setFocus();

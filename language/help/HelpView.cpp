@@ -2,6 +2,8 @@
 
 #include "HelpBook.h"
 
+#include <QImage>
+
 HelpView::HelpView(QWidget* parent) : QTextBrowser(parent) {
     setOpenExternalLinks(false);
     setTabChangesFocus(false); // the tab key goes from link to link
@@ -12,6 +14,15 @@ void HelpView::SetBook(const HelpBook* book) {
     clearHistory();
 }
 
-QVariant HelpView::loadResource(int /*type*/, const QUrl& name) {
-    return m_book ? m_book->Data(source().resolved(name)) : QByteArray();
+QVariant HelpView::loadResource(int type, const QUrl& name) {
+    const QByteArray data = m_book ? m_book->Data(source().resolved(name)) : QByteArray();
+    if (type != QTextDocument::ImageResource) {
+        return data;
+    }
+    QImage picture = QImage::fromData(data);
+    const double room = viewport()->width() - 2 * document()->documentMargin();
+    if (room > 0 && picture.width() > room) {
+        picture.setDevicePixelRatio(picture.width() / room);
+    }
+    return picture;
 }

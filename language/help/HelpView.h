@@ -4,7 +4,8 @@
 
 class HelpBook;
 
-/// Shows pages of a help book. Links lead to pages of the book and nowhere else.
+/// Shows pages of a help book. Links lead to pages of the book and nowhere else; a picture that is
+/// wider than the view is made to fit.
 class HelpView : public QTextBrowser {
     Q_OBJECT
 

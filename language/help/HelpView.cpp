@@ -15,11 +15,11 @@ void HelpView::SetBook(const HelpBook* book) {
 }
 
 QVariant HelpView::loadResource(int type, const QUrl& name) {
-    const QByteArray data = m_book ? m_book->Data(source().resolved(name)) : QByteArray();
+    const QByteArray bytes = m_book ? m_book->Data(source().resolved(name)) : QByteArray();
     if (type != QTextDocument::ImageResource) {
-        return data;
+        return bytes;
     }
-    QImage picture = QImage::fromData(data);
+    QImage picture = QImage::fromData(bytes);
     const double room = viewport()->width() - 2 * document()->documentMargin();
     if (room > 0 && picture.width() > room) {
         picture.setDevicePixelRatio(picture.width() / room);

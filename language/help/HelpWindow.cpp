@@ -118,15 +118,20 @@ void HelpWindow::SetBook(std::shared_ptr<HelpBook> book) {
         Find();
     });
     connect(search, &QHelpSearchEngine::searchingFinished, this, &HelpWindow::ListFound);
-    connect(m_book->Engine().contentModel(), &QHelpContentModel::contentsCreated, m_ui->treContents,
-            &QTreeView::expandAll);
-    m_ui->treContents->expandAll();
+    connect(m_book->Engine().contentModel(), &QHelpContentModel::contentsCreated, this,
+            &HelpWindow::UnfoldContents);
+    UnfoldContents();
     search->reindexDocumentation();
 
     ShowTexts();
     QUrl same = m_book->Page(before.fileName());
     same.setFragment(before.fragment());
     ShowPage(!before.isEmpty() && m_book->Has(same) ? same : m_book->FirstPage());
+}
+
+void HelpWindow::UnfoldContents() {
+    m_ui->treContents->expandAll();
+    m_ui->treContents->setCurrentIndex(m_ui->treContents->model()->index(0, 0));
 }
 
 QUrl HelpWindow::PageInView() const { return m_ui->txtPage->source(); }

@@ -55,6 +55,7 @@ private:
     void Raise(QWidget& beside);
     void BelongTo(const QWidget* dialog);
     void Place(const QWidget& beside);
+    void UnfoldContents();
     void ShowPage(const QUrl& page);
     void ShowChapter(const QModelIndex& chapter);
     void ShowKeyword(const QModelIndex& keyword);

@@ -19,6 +19,8 @@ inline constexpr int NoNameToDelete = 45;
 inline constexpr int NoNameToSave = 46;
 inline constexpr int PictureTitle = 49;
 inline constexpr int NewLoan = 52;
+/// A menu entry, and without its first character the title of the About box.
+inline constexpr int About = 64;
 inline constexpr int LoanTypeMortgage = 83;
 /// A picture such as " nnnn.nn" follows it.
 inline constexpr int NumberRefused = 87;
@@ -32,6 +34,9 @@ inline constexpr int SaveTitle = 103;
 inline constexpr int SaveQuestion = 104;
 /// %1: the patterns of the pictures that can be shown.
 inline constexpr int PictureFilter = 105;
+/// Holds "?ID" where the query of the web address goes.
+inline constexpr int MailBody = 107;
+inline constexpr int MailSubject = 108;
 inline constexpr int FrequencyTwiceAMonth = 111;
 inline constexpr int FrequencyEveryTwoWeeks = 112;
 inline constexpr int FrequencyMonthly = 114;
@@ -68,6 +73,14 @@ inline constexpr int EditCopy = 546;
 inline constexpr int EditPaste = 547;
 inline constexpr int EditDelete = 548;
 inline constexpr int EditSelectAll = 549;
+inline constexpr int HelpContents = 581;
+inline constexpr int HelpIndex = 582;
+inline constexpr int HelpSearch = 583;
+inline constexpr int HelpNotFound = 589;
+inline constexpr int HelpMore = 590;
+/// A blank and the numbers follow it.
+inline constexpr int Version = 592;
+inline constexpr int NoSystemInfo = 593;
 
 /// Every one of them: a text without a use, or a use without a text, shows up in the tests.
 inline constexpr std::array All{
@@ -84,6 +97,7 @@ inline constexpr std::array All{
     NoNameToSave,
     PictureTitle,
     NewLoan,
+    About,
     LoanTypeMortgage,
     NumberRefused,
     OffersRefused,
@@ -92,6 +106,8 @@ inline constexpr std::array All{
     SaveTitle,
     SaveQuestion,
     PictureFilter,
+    MailBody,
+    MailSubject,
     FrequencyTwiceAMonth,
     FrequencyEveryTwoWeeks,
     FrequencyMonthly,
@@ -125,6 +141,13 @@ inline constexpr std::array All{
     EditPaste,
     EditDelete,
     EditSelectAll,
+    HelpContents,
+    HelpIndex,
+    HelpSearch,
+    HelpNotFound,
+    HelpMore,
+    Version,
+    NoSystemInfo,
 };
 
 } // namespace TextNumber

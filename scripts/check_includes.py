@@ -21,9 +21,15 @@ _FLOORS: dict[str, tuple[str, ...]] = {
     "calc":             ("foundation", "language"),
     "worksheet/model":  ("foundation", "language", "calc"),
     "worksheet/window": ("foundation", "language", "calc", "worksheet/model"),
+    "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
+    "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
+                         "storage/registry"),
     "storage":          ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
                          "storage/registry"),
 }
+
+# Builds everything and wires it, so it may use all.
+_COMPOSITION_ROOT = Path("storage/Main.cpp")
 
 # Floors that know no window system.
 _WITHOUT_WIDGETS = ("foundation", "language", "storage/registry", "calc", "worksheet/model")
@@ -32,6 +38,8 @@ _INCLUDE = re.compile(r'\s*#\s*include\s+([<"])([^>"]+)[>"]')
 
 
 def _floor_of(file: Path) -> str | None:
+    if file == _COMPOSITION_ROOT:
+        return None
     folder = file.parent.as_posix()
     found = [floor for floor in _FLOORS if folder == floor or folder.startswith(floor + "/")]
     return max(found, key=len, default=None)

@@ -1,14 +1,20 @@
 // The composition root: makes everything, wires it, starts it.
 
+#include "AboutCommands.h"
 #include "CalendarDate.h"
+#include "DesktopMail.h"
 #include "FileCommands.h"
+#include "HelpCommands.h"
+#include "InstalledSystemInfo.h"
 #include "Language.h"
 #include "LanguageIdentifier.h"
 #include "Loan.h"
 #include "MessageBoxes.h"
 #include "OptionsCommands.h"
 #include "PictureDialog.h"
+#include "ProgramIcon.h"
 #include "SettingsStore.h"
+#include "ShareCommands.h"
 #include "StartUp.h"
 #include "StoreCheck.h"
 #include "TextNumbers.h"
@@ -69,6 +75,10 @@ int Run(const RegistryAPI& store, const StoreCondition& condition, MessageBoxes&
     FileCommands files(window, LoanStore(store));
     PictureDialog pictures;
     const OptionsCommands options(window, store, pictures);
+    const HelpCommands help(window);
+    DesktopMail mail;
+    const ShareCommands share(window, mail);
+    const AboutCommands about(window, store, InstalledSystemInfo());
     QSettings kept;
     window.OnUnload([&] {
         if (!files.MayDrop()) {
@@ -93,6 +103,7 @@ int main(int argc, char* argv[]) {
     using namespace VersionRecord;
     QCoreApplication::setApplicationVersion(
         QStringLiteral("%1.%2.%3").arg(Major).arg(Minor).arg(Revision));
+    QApplication::setWindowIcon(ProgramIcon());
     SetUpLanguage();
     MessageBoxes messages;
     const RegistryAPI store(RegistryAPI::UserStore());

@@ -145,6 +145,21 @@ RegistryValue RegistryAPI::GetValue(RegistryRoot keyRoot, const std::string& key
     return stored ? ValueOfBytes(type, ReadBytes(*stored)).value_or(defaultValue) : defaultValue;
 }
 
+std::int64_t RegistryAPI::GetValueType(RegistryRoot keyRoot, const std::string& keyName,
+                                       const std::string& valueName) const {
+    const auto path = PathElements(keyName);
+    const auto name = ValueNameOf(valueName);
+    std::int64_t type = 0;
+    if (path && name) {
+        Read(OnKey(keyRoot, *path, [&](KeyTree& keys, std::int64_t key) {
+            if (const std::optional<KeyTree::Value> stored = keys.Get(key, *name)) {
+                type = stored->type;
+            }
+        }));
+    }
+    return type;
+}
+
 void RegistryAPI::SetValue(RegistryRoot keyRoot, const std::string& keyName,
                            const std::string& valueName, std::int16_t type,
                            const RegistryValue& value) const {

@@ -70,6 +70,10 @@ public:
                            const std::string& valueName, std::int16_t type,
                            const RegistryValue& defaultValue) const;
 
+    /// The type code that the value was written with; 0 when it is missing or out of reach.
+    std::int64_t GetValueType(RegistryRoot keyRoot, const std::string& keyName,
+                              const std::string& valueName) const;
+
     /// Writes a value of an existing key; does nothing where there is no such key, and for an
     /// unknown type.
     void SetValue(RegistryRoot keyRoot, const std::string& keyName, const std::string& valueName,

@@ -11,15 +11,6 @@ namespace {
 
 int OwnTopicOf(const QObject& object) { return object.property("helpTopic").toInt(); }
 
-/// The entry at a place of a menu or menu bar; null where there is none.
-QAction* EntryAt(const QWidget& widget, QPoint at) {
-    if (const auto* menu = qobject_cast<const QMenu*>(&widget)) {
-        return menu->actionAt(at);
-    }
-    const auto* bar = qobject_cast<const QMenuBar*>(&widget);
-    return bar ? bar->actionAt(at) : nullptr;
-}
-
 } // namespace
 
 int TopicOf(const QObject* object) {
@@ -36,11 +27,19 @@ int TopicOf(const QObject* object) {
     return 0;
 }
 
+QAction* EntryAt(const QWidget& widget, QPoint at) {
+    if (const auto* menu = qobject_cast<const QMenu*>(&widget)) {
+        return menu->actionAt(at);
+    }
+    const auto* bar = qobject_cast<const QMenuBar*>(&widget);
+    return bar ? bar->actionAt(at) : nullptr;
+}
+
 int TopicAt(const QWidget& widget, QPoint at) {
     const QAction* entry = EntryAt(widget, at);
     if (entry && entry->menu()) {
         return TopicOf(entry->menu());
     }
     const int topic = entry ? OwnTopicOf(*entry) : 0;
-    return topic ? topic : TopicOf(&widget);
+    return topic != 0 ? topic : TopicOf(&widget);
 }

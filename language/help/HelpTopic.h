@@ -1,5 +1,6 @@
 #pragma once
 
+class QAction;
 class QObject;
 class QPoint;
 class QWidget;
@@ -9,6 +10,9 @@ class QWidget;
 /// The topic of a control, menu or entry; without one of its own, that of what it stands in. 0 for
 /// none at all.
 int TopicOf(const QObject* object);
+
+/// The entry at a place of a menu or menu bar; null where there is none.
+QAction* EntryAt(const QWidget& widget, QPoint at);
 
 /// The topic of what is at this place of a widget: in menus and menu bars that of the entry there.
 int TopicAt(const QWidget& widget, QPoint at);

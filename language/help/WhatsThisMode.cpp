@@ -15,11 +15,11 @@ namespace {
 
 /// What is there of this widget, itself where it is bare; null when it is elsewhere.
 QWidget* PartAt(QWidget* widget, const QPoint& at) {
-    if (!widget || !widget->rect().contains(widget->mapFromGlobal(at))) {
+    if (widget == nullptr || !widget->rect().contains(widget->mapFromGlobal(at))) {
         return nullptr;
     }
     QWidget* child = widget->childAt(widget->mapFromGlobal(at));
-    return child ? child : widget;
+    return child != nullptr ? child : widget;
 }
 
 QWidget* WidgetOf(const QObject* window) {
@@ -38,21 +38,16 @@ QWidget* WidgetAt(const QObject* window, const QPoint& at) {
         return part;
     }
     QWidget* part = PartAt(WidgetOf(window), at);
-    return part ? part : QApplication::widgetAt(at);
+    return part != nullptr ? part : QApplication::widgetAt(at);
 }
 
-/// The name of a menu that is still closed: a press there opens it.
-bool OpensMenu(const QWidget& widget, const QPoint& at) {
-    const auto* bar = qobject_cast<const QMenuBar*>(&widget);
-    const QAction* entry = bar ? bar->actionAt(bar->mapFromGlobal(at)) : nullptr;
-    return entry && entry->menu() && !entry->menu()->isVisible();
+/// An entry whose press opens a menu that is still closed.
+bool Opens(const QAction* entry) {
+    return entry != nullptr && entry->menu() != nullptr && !entry->menu()->isVisible();
 }
 
-/// An entry of a menu that opens another one.
-bool OpensSubmenu(const QWidget& widget, const QPoint& at) {
-    const auto* menu = qobject_cast<const QMenu*>(&widget);
-    const QAction* entry = menu ? menu->actionAt(menu->mapFromGlobal(at)) : nullptr;
-    return entry && entry->menu() && !entry->menu()->isVisible();
+bool IsButton(const QObject* object) {
+    return qobject_cast<const QAbstractButton*>(object) != nullptr;
 }
 
 void ClosePopups() {
@@ -75,7 +70,7 @@ QAction* EntryOfKey(const QMenu& menu, const QKeyEvent& event) {
             entry = QKeySequence::mnemonic(action->text()) == key ? action : entry;
         }
     }
-    return entry && !entry->menu() ? entry : nullptr;
+    return entry != nullptr && entry->menu() == nullptr ? entry : nullptr;
 }
 
 /// A widget whose window stays when menus close.
@@ -138,7 +133,7 @@ bool WhatsThisMode::OnPress(const QObject* told, const QMouseEvent& event) {
         End();
         return false;
     }
-    if (OpensMenu(*widget, at) || OpensSubmenu(*widget, at)) {
+    if (Opens(EntryAt(*widget, widget->mapFromGlobal(at)))) {
         return false;
     }
     m_pressed = true;
@@ -150,8 +145,8 @@ bool WhatsThisMode::OnRelease(const QObject* told, const QMouseEvent& event) {
     QWidget* widget = WidgetAt(told, at);
     // A menu may be opened and an entry chosen in one move, with the button held down.
     const auto* menu = qobject_cast<const QMenu*>(widget);
-    const bool draggedTo =
-        menu && menu->actionAt(menu->mapFromGlobal(at)) && !OpensSubmenu(*menu, at);
+    const QAction* entry = menu != nullptr ? EntryAt(*menu, menu->mapFromGlobal(at)) : nullptr;
+    const bool draggedTo = entry != nullptr && !Opens(entry);
     if (!m_pressed && !draggedTo) {
         return false;
     }
@@ -167,7 +162,7 @@ bool WhatsThisMode::OnKey(QObject* watched, const QKeyEvent& event) {
     const auto* menu = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
     if (event.key() == Qt::Key_Escape) {
         End();
-        return !menu;
+        return menu == nullptr;
     }
     if (menu) {
         QAction* entry = EntryOfKey(*menu, event);
@@ -176,7 +171,7 @@ bool WhatsThisMode::OnKey(QObject* watched, const QKeyEvent& event) {
         }
         return entry != nullptr;
     }
-    const bool presses = event.key() == Qt::Key_Space && qobject_cast<QAbstractButton*>(watched);
+    const bool presses = event.key() == Qt::Key_Space && IsButton(watched);
     if (presses) {
         AskAbout(*watched);
     }
@@ -186,7 +181,7 @@ bool WhatsThisMode::OnKey(QObject* watched, const QKeyEvent& event) {
 /// The access key of a button, or the keys of a menu entry, such as Ctrl+S.
 bool WhatsThisMode::OnShortcut(QObject* watched) {
     const auto* entry = qobject_cast<QAction*>(watched);
-    const bool acts = qobject_cast<QAbstractButton*>(watched) || (entry && !entry->menu());
+    const bool acts = IsButton(watched) || (entry != nullptr && entry->menu() == nullptr);
     if (acts) {
         AskAbout(*watched);
     }

@@ -19,6 +19,11 @@ class WhatsThisMode : public QObject {
     Q_OBJECT
 
 public:
+    WhatsThisMode() = default;
+    WhatsThisMode(const WhatsThisMode&) = delete;
+    WhatsThisMode& operator=(const WhatsThisMode&) = delete;
+    WhatsThisMode(WhatsThisMode&&) = delete;
+    WhatsThisMode& operator=(WhatsThisMode&&) = delete;
     ~WhatsThisMode() override;
 
     void Begin();

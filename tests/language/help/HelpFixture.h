@@ -26,7 +26,7 @@ protected:
         }
         return *control;
     }
-    bool HelpShows() { return Commands().Shown() && Commands().Shown()->isVisible(); }
+    bool HelpShows() { return Commands().Shown() != nullptr && Commands().Shown()->isVisible(); }
     /// A menu entry of the main window.
     QAction& Entry(const QString& name);
     /// The name of the page in view, such as "points.html#t1030".

@@ -76,12 +76,12 @@ TEST_P(Pages, TopicsAreWhereTheirNumberSays) {
     for (auto topic = m_help.topics.begin(); topic != m_help.topics.end(); ++topic) {
         EXPECT_EQ(topic->section(u'#', 1), u't' + topic.key());
     }
-    for (auto page = m_help.pages.begin(); page != m_help.pages.end(); ++page) {
-        for (const QString& number : AllOf(QStringLiteral("<a name=\"t(\\d+)\">"), *page)) {
+    for (const QString& page : m_help.pages) {
+        for (const QString& number : AllOf(QStringLiteral("<a name=\"t(\\d+)\">"), page)) {
             EXPECT_TRUE(m_help.topics.contains(number)) << number.toStdString();
             const QStringList text = AllOf(
                 QStringLiteral("<h2><a name=\"t%1\"></a>[^<]+</h2>\n<p>(.*?)</p>").arg(number),
-                *page);
+                page);
             ASSERT_EQ(1, text.size()) << number.toStdString();
             EXPECT_GE(text.front().size(), 15) << number.toStdString();
             EXPECT_LE(text.front().size(), 420)

@@ -119,10 +119,10 @@ TEST_P(HelpShown, SearchFindsWholeAndBegunWords) {
         const char* words = GetParam() == English ? tested.english : tested.spanish;
         SCOPED_TRACE(words);
         Search(QString::fromUtf8(words));
-        const bool none = tested.page && *tested.page == '\0';
+        const bool none = tested.page != nullptr && *tested.page == '\0';
         EXPECT_EQ(Found().isEmpty(), none);
         EXPECT_EQ(InHelp<QLabel>(QStringLiteral("lblNotFound")).isVisible(), none);
-        bool seen = !tested.page || none;
+        bool seen = tested.page == nullptr || none;
         auto& found = InHelp<QListWidget>(QStringLiteral("lstFound"));
         for (int row = 0; row < found.count() && !seen; ++row) {
             found.setCurrentRow(row);

@@ -2,9 +2,16 @@
 
 #include "Failure.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QtHelp/QHelpLink>
+#include <QtHelp/QHelpSearchEngine>
+
+#include <chrono>
+#include <utility>
 
 namespace {
 
@@ -23,9 +30,40 @@ HelpBook::HelpBook(const QString& file)
     : m_file(QFileInfo(file).absoluteFilePath()),
       m_engine(m_folder.filePath(QStringLiteral("collection.qhc"))) {
     Open();
+    const QHelpSearchEngine* search = m_engine.searchEngine();
+    QObject::connect(search, &QHelpSearchEngine::indexingFinished, search, [this] { OnIdle(); });
+    QObject::connect(search, &QHelpSearchEngine::searchingFinished, search, [this] { OnIdle(); });
 }
 
-HelpBook::~HelpBook() = default;
+/// The toolkit's engine must not go while its thread is about to begin.
+HelpBook::~HelpBook() {
+    m_next.clear();
+    const QDeadlineTimer patience(std::chrono::seconds(2));
+    while (m_busy && !patience.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
+    }
+}
+
+void HelpBook::PrepareToFind() {
+    m_busy = true;
+    m_engine.searchEngine()->reindexDocumentation();
+}
+
+void HelpBook::Find(const QString& query) {
+    if (m_busy) {
+        m_next = query;
+    } else {
+        m_busy = true;
+        m_engine.searchEngine()->search(query);
+    }
+}
+
+void HelpBook::OnIdle() {
+    m_busy = false;
+    if (const QString next = std::exchange(m_next, {}); !next.isEmpty()) {
+        Find(next);
+    }
+}
 
 void HelpBook::Open() {
     m_engine.setReadOnly(false);

@@ -36,11 +36,19 @@ public:
     /// A topic by itself, as HTML: its heading and what stands under it, up to the next heading.
     QString TopicText(int topic) const;
 
+    /// Reads the whole book for Find; Engine().searchEngine() tells when it is done.
+    void PrepareToFind();
+    /// Looks for pages; the last query asked for while the book is busy is the one that counts.
+    void Find(const QString& query);
+
 private:
     void Open();
+    void OnIdle();
 
     QString m_file;
     QTemporaryDir m_folder;
     QHelpEngine m_engine;
     QString m_space;
+    bool m_busy = false; ///< reading or looking for pages, in a thread of the toolkit's own
+    QString m_next;
 };

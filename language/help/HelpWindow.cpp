@@ -121,7 +121,7 @@ void HelpWindow::SetBook(std::shared_ptr<HelpBook> book) {
     connect(m_book->Engine().contentModel(), &QHelpContentModel::contentsCreated, this,
             &HelpWindow::UnfoldContents);
     UnfoldContents();
-    search->reindexDocumentation();
+    m_book->PrepareToFind();
 
     ShowTexts();
     QUrl same = m_book->Page(before.fileName());
@@ -165,7 +165,7 @@ void HelpWindow::ListKeywords(const QString& start) {
 void HelpWindow::Find() {
     const QString query = QueryOf(m_ui->txtWords->text());
     if (m_read && !query.isEmpty()) {
-        m_book->Engine().searchEngine()->search(query);
+        m_book->Find(query);
     }
 }
 

@@ -24,6 +24,8 @@ inline constexpr int LoanTypeMortgage = 83;
 inline constexpr int NumberRefused = 87;
 inline constexpr int OffersRefused = 88;
 inline constexpr int Ok = 90;
+/// The loan's name and "..." follow it.
+inline constexpr int Printing = 101;
 /// Ends a question about a loan behind its name.
 inline constexpr int NameEnd = 102;
 /// The title of the question about unsaved changes, and all of it for a loan without a name.
@@ -57,6 +59,8 @@ inline constexpr int PictureLookIn = 522;
 inline constexpr int PictureFileName = 523;
 inline constexpr int PictureFileType = 524;
 inline constexpr int PictureOpen = 525;
+inline constexpr int PrintButton = 560;
+inline constexpr int PrintSetUpTitle = 561;
 
 /// Every one of them: a text without a use, or a use without a text, shows up in the tests.
 inline constexpr std::array All{
@@ -77,6 +81,7 @@ inline constexpr std::array All{
     NumberRefused,
     OffersRefused,
     Ok,
+    Printing,
     NameEnd,
     SaveTitle,
     SaveQuestion,
@@ -104,6 +109,8 @@ inline constexpr std::array All{
     PictureFileName,
     PictureFileType,
     PictureOpen,
+    PrintButton,
+    PrintSetUpTitle,
 };
 
 } // namespace TextNumber

@@ -8,9 +8,11 @@
 #include "MessageBoxes.h"
 #include "OptionsCommands.h"
 #include "PictureDialog.h"
+#include "PrintCommands.h"
 #include "SettingsStore.h"
 #include "StartUp.h"
 #include "StoreCheck.h"
+#include "SystemPrinter.h"
 #include "TextNumbers.h"
 #include "VersionRecord.h"
 #include "WindowPlace.h"
@@ -69,6 +71,8 @@ int Run(const RegistryAPI& store, const StoreCondition& condition, MessageBoxes&
     FileCommands files(window, LoanStore(store));
     PictureDialog pictures;
     const OptionsCommands options(window, store, pictures);
+    SystemPrinter printer;
+    const PrintCommands printing(window, printer);
     QSettings kept;
     window.OnUnload([&] {
         if (!files.MayDrop()) {

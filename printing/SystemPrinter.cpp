@@ -1,0 +1,102 @@
+#include "SystemPrinter.h"
+
+#include "Language.h"
+#include "PagePainter.h"
+#include "TextNumbers.h"
+#include "UserPrinter.h"
+#include "VersionRecord.h"
+
+#include <QDialogButtonBox>
+#include <QLocale>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+#include <QPushButton>
+
+#include <array>
+
+namespace {
+
+/// What is not asked: there is no selection and no current page, a report is printed whole, and on
+/// paper.
+constexpr std::array NotAsked{
+    QAbstractPrintDialog::PrintSelection,
+    QAbstractPrintDialog::PrintPageRange,
+    QAbstractPrintDialog::PrintCurrentPage,
+    QAbstractPrintDialog::PrintToFile,
+};
+
+void Limit(QPrintDialog& dialog) {
+    for (const auto option : NotAsked) {
+        dialog.setOption(option, false);
+    }
+    dialog.setMinMax(1, 9999);
+}
+
+void Caption(const QPrintDialog& dialog, QDialogButtonBox::StandardButton which, int text) {
+    if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
+        if (auto* button = buttons->button(which)) {
+            button->setText(GetResourceText(text));
+        }
+    }
+}
+
+bool IsThere(const QPrinter& printer) {
+    return QPrinterInfo::availablePrinterNames().contains(printer.printerName());
+}
+
+} // namespace
+
+void PrepareDocument(QPrinter& printer) {
+    printer.setDocName(QStringLiteral("Test Job"));
+    printer.setCreator(QString::fromUtf8(VersionRecord::ProductName));
+    const QPageSize own = QPrinterInfo(printer).defaultPageSize();
+    const bool metric = QLocale().measurementSystem() == QLocale::MetricSystem;
+    printer.setPageSize(own.isValid() ? own
+                                      : QPageSize(metric ? QPageSize::A4 : QPageSize::Letter));
+}
+
+QSizeF PageSpaceOf(const QPrinter& printer) {
+    return printer.pageLayout().paintRect(QPageLayout::Point).size() * TwipsPerPoint;
+}
+
+/// A printer that has gone since it was chosen gives way to the default one.
+QPrinter& SystemPrinter::Chosen() {
+    if (!m_printer || !IsThere(*m_printer)) {
+        m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        PrepareDocument(*m_printer);
+    }
+    return *m_printer;
+}
+
+bool SystemPrinter::Ask(QPrintDialog& dialog) {
+    Limit(dialog);
+    if (dialog.exec() != QDialog::Accepted) {
+        return false;
+    }
+    ChooseUserPrinter(m_printer->printerName());
+    return true;
+}
+
+bool SystemPrinter::AskHowToPrint(QWidget& parent) {
+    QPrintDialog dialog(&Chosen(), &parent);
+    Caption(dialog, QDialogButtonBox::Ok, TextNumber::PrintButton);
+    Caption(dialog, QDialogButtonBox::Cancel, TextNumber::Cancel);
+    return Ask(dialog);
+}
+
+void SystemPrinter::AskSetUp(QWidget& parent) {
+    QPrintDialog dialog(&Chosen(), &parent);
+    dialog.setWindowTitle(GetResourceText(TextNumber::PrintSetUpTitle));
+    Caption(dialog, QDialogButtonBox::Ok, TextNumber::Ok);
+    Caption(dialog, QDialogButtonBox::Cancel, TextNumber::Cancel);
+    Ask(dialog);
+}
+
+QSizeF SystemPrinter::PageSpace() { return PageSpaceOf(m_printer ? *m_printer : Chosen()); }
+
+/// The toolkit would print on another printer instead of one that is gone.
+void SystemPrinter::Print(const PrintedPages& pages) {
+    if (m_printer && IsThere(*m_printer)) {
+        PaintPages(*m_printer, pages);
+    }
+}

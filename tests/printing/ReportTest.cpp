@@ -241,23 +241,23 @@ TEST_F(ReportTest, ALongLenderTextMakesItsRowHigher) {
     const PrintedPage& page = Draw(form, 1000).pages.front();
     const QStringList lines{QStringLiteral("First National"), QStringLiteral("Bank of the"),
                             QStringLiteral("Prairie, Mrs."), QStringLiteral("Miller")};
-    double y = FirstRow;
+    double y = FirstRow + 2; // two units free above, two below
     for (const QString& line : lines) {
         EXPECT_DOUBLE_EQ(TextNamed(page, line).place.y(), y * Unit) << line.toStdString();
         y += 10;
     }
     const auto boxes = ItemsOf<PrintedBox>(page);
-    EXPECT_EQ(boxes.at(19).place.height(), 40 * Unit);
-    EXPECT_EQ(boxes.at(19 + 11).place.top(), (FirstRow + 40) * Unit);
-    EXPECT_DOUBLE_EQ(TextNamed(page, QStringLiteral("0.1")).place.y(), (FirstRow + 15) * Unit);
+    EXPECT_EQ(boxes.at(19).place.height(), 44 * Unit);
+    EXPECT_EQ(boxes.at(19 + 11).place.top(), (FirstRow + 44) * Unit);
+    EXPECT_DOUBLE_EQ(TextNamed(page, QStringLiteral("0.1")).place.y(), (FirstRow + 17) * Unit);
 }
 
 TEST_F(ReportTest, ABreakInALenderTextStays) {
     PrintedForm form = SampleForm(1);
     form.rows.front().back() = QStringLiteral("Ann\r\nBob");
     const PrintedPage& page = Draw(form, 1000).pages.front();
-    EXPECT_DOUBLE_EQ(TextNamed(page, QStringLiteral("Ann")).place.y(), FirstRow * Unit);
-    EXPECT_DOUBLE_EQ(TextNamed(page, QStringLiteral("Bob")).place.y(), (FirstRow + 10) * Unit);
+    EXPECT_DOUBLE_EQ(TextNamed(page, QStringLiteral("Ann")).place.y(), (FirstRow + 2) * Unit);
+    EXPECT_DOUBLE_EQ(TextNamed(page, QStringLiteral("Bob")).place.y(), (FirstRow + 12) * Unit);
 }
 
 /// A row higher than a page: moved to a new one, and on over the next ones, with nothing lost.

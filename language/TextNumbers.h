@@ -61,6 +61,8 @@ inline constexpr int PictureFileType = 524;
 inline constexpr int PictureOpen = 525;
 inline constexpr int PrintButton = 560;
 inline constexpr int PrintSetUpTitle = 561;
+/// No text to be shown: the file of the toolkit's own texts in this language.
+inline constexpr int ToolkitTexts = 562;
 
 /// Every one of them: a text without a use, or a use without a text, shows up in the tests.
 inline constexpr std::array All{
@@ -111,6 +113,7 @@ inline constexpr std::array All{
     PictureOpen,
     PrintButton,
     PrintSetUpTitle,
+    ToolkitTexts,
 };
 
 } // namespace TextNumber

@@ -99,8 +99,8 @@ Side SideOf(const QWidget& control) {
     if (!alignment.isValid()) {
         return Side::Centre; // as buttons have it
     }
-    const Qt::Alignment side = QStyle::visualAlignment(control.layoutDirection(),
-                                                       alignment.value<Qt::Alignment>());
+    const Qt::Alignment side =
+        QStyle::visualAlignment(control.layoutDirection(), alignment.value<Qt::Alignment>());
     if (side.testFlag(Qt::AlignHCenter)) {
         return Side::Centre;
     }

@@ -16,7 +16,8 @@ QFont FontOf(const PrintFont& print) {
     font.setBold(print.bold);
     font.setItalic(print.italic);
     font.setHintingPreference(QFont::PreferNoHinting);
-    // Spaced by nothing that can be seen, letters are not joined: "Payoff" is found when looked for.
+    // Spaced by nothing that can be seen, letters are not joined: "Payoff" is found when looked
+    // for.
     font.setLetterSpacing(QFont::AbsoluteSpacing, 0.02);
     return font;
 }

@@ -171,8 +171,8 @@ void Report::PrintRow(const FormRow& row) {
 void Report::PrintHighRow(FormRow& texts) {
     QStringList lines = texts.back().split(LineBreak());
     while (lines.size() > 1 && m_rowTop + HeightOf(lines.size()) > RowLimit()) {
-        const auto fitting =
-            static_cast<qsizetype>(std::floor((RowLimit() - m_rowTop - LinesPadding) / LineHeight()));
+        const auto fitting = static_cast<qsizetype>(
+            std::floor((RowLimit() - m_rowTop - LinesPadding) / LineHeight()));
         const qsizetype taken = std::clamp<qsizetype>(fitting, 1, lines.size() - 1);
         texts.back() = lines.mid(0, taken).join(LineBreak());
         m_rowHeight = HeightOf(taken);

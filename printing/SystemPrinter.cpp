@@ -6,11 +6,14 @@
 #include "UserPrinter.h"
 #include "VersionRecord.h"
 
+#include <QCoreApplication>
 #include <QDialogButtonBox>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QTranslator>
 
 #include <array>
 
@@ -23,6 +26,20 @@ constexpr std::array NotAsked{
     QAbstractPrintDialog::PrintPageRange,
     QAbstractPrintDialog::PrintCurrentPage,
     QAbstractPrintDialog::PrintToFile,
+};
+
+/// The toolkit speaks the language in use for as long as this lives, where it has learned it.
+class ToolkitLanguage {
+public:
+    ToolkitLanguage() {
+        if (m_texts.load(GetResourceText(TextNumber::ToolkitTexts),
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+            QCoreApplication::installTranslator(&m_texts);
+        }
+    }
+
+private:
+    QTranslator m_texts; // which goes out of use when it goes
 };
 
 void Limit(QPrintDialog& dialog) {
@@ -40,6 +57,13 @@ void Caption(const QPrintDialog& dialog, QDialogButtonBox::StandardButton which,
     }
 }
 
+/// The page that the printer itself starts from; the toolkit starts from its own.
+QPageSize OwnPageSize(const QPrinter& printer) {
+    const QPageSize own = QPrinterInfo(printer).defaultPageSize();
+    const bool metric = QLocale().measurementSystem() == QLocale::MetricSystem;
+    return own.isValid() ? own : QPageSize(metric ? QPageSize::A4 : QPageSize::Letter);
+}
+
 bool IsThere(const QPrinter& printer) {
     return QPrinterInfo::availablePrinterNames().contains(printer.printerName());
 }
@@ -49,10 +73,7 @@ bool IsThere(const QPrinter& printer) {
 void PrepareDocument(QPrinter& printer) {
     printer.setDocName(QStringLiteral("Test Job"));
     printer.setCreator(QString::fromUtf8(VersionRecord::ProductName));
-    const QPageSize own = QPrinterInfo(printer).defaultPageSize();
-    const bool metric = QLocale().measurementSystem() == QLocale::MetricSystem;
-    printer.setPageSize(own.isValid() ? own
-                                      : QPageSize(metric ? QPageSize::A4 : QPageSize::Letter));
+    printer.setPageSize(OwnPageSize(printer));
 }
 
 QSizeF PageSpaceOf(const QPrinter& printer) {
@@ -70,14 +91,20 @@ QPrinter& SystemPrinter::Chosen() {
 
 bool SystemPrinter::Ask(QPrintDialog& dialog) {
     Limit(dialog);
+    const QString before = m_printer->printerName();
+    const QPageSize size = m_printer->pageLayout().pageSize();
     if (dialog.exec() != QDialog::Accepted) {
         return false;
+    }
+    if (m_printer->printerName() != before && m_printer->pageLayout().pageSize() == size) {
+        m_printer->setPageSize(OwnPageSize(*m_printer));
     }
     ChooseUserPrinter(m_printer->printerName());
     return true;
 }
 
 bool SystemPrinter::AskHowToPrint(QWidget& parent) {
+    const ToolkitLanguage language;
     QPrintDialog dialog(&Chosen(), &parent);
     Caption(dialog, QDialogButtonBox::Ok, TextNumber::PrintButton);
     Caption(dialog, QDialogButtonBox::Cancel, TextNumber::Cancel);
@@ -85,6 +112,7 @@ bool SystemPrinter::AskHowToPrint(QWidget& parent) {
 }
 
 void SystemPrinter::AskSetUp(QWidget& parent) {
+    const ToolkitLanguage language;
     QPrintDialog dialog(&Chosen(), &parent);
     dialog.setWindowTitle(GetResourceText(TextNumber::PrintSetUpTitle));
     Caption(dialog, QDialogButtonBox::Ok, TextNumber::Ok);

@@ -170,7 +170,7 @@ TEST_F(PrintCommandsTest, SpeakTheLanguageInUse) {
     Print();
     ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
     EXPECT_EQ(Job()->windowTitle(), GetResourceText(100));
-    EXPECT_EQ(Job()->windowTitle(), u"Imprimiendo");
+    EXPECT_EQ(Job()->windowTitle(), u"Imprimiendo...");
     EXPECT_EQ(Job()->findChild<QPushButton*>()->text(), u"Cancelar");
     EXPECT_EQ(Job()->findChild<QLabel*>(QStringLiteral("lblPrintingText"))->text(),
               GetResourceText(101) + QStringLiteral("Casa..."));

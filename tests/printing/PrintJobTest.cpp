@@ -55,7 +55,7 @@ private:
 TEST_F(PrintJobTest, NamesTheLoanInTheMiddleOfTheWindow) {
     Start(1h);
     EXPECT_TRUE(WaitForFinish());
-    EXPECT_EQ(Job().windowTitle(), u"Printing");
+    EXPECT_EQ(Job().windowTitle(), u"Printing...");
     EXPECT_EQ(Job().findChild<QLabel*>(QStringLiteral("lblPrintingText"))->text(),
               GetResourceText(101) + QStringLiteral("Home..."));
     EXPECT_EQ(Job().findChild<QPushButton*>(QStringLiteral("cmdCancel"))->text(), u"Cancel");

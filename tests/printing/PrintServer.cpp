@@ -111,4 +111,11 @@ int PageCount(const QString& document) {
     return PropertyOf(document, QStringLiteral("Pages")).toInt();
 }
 
+int PictureCount(const QString& document) {
+    constexpr int headings = 2;
+    const QString list =
+        PrintServer::Run(QStringLiteral("pdfimages"), {QStringLiteral("-list"), document});
+    return static_cast<int>(list.count(u'\n')) - headings;
+}
+
 QString Title(const QString& document) { return PropertyOf(document, QStringLiteral("Title")); }

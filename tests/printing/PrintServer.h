@@ -39,6 +39,7 @@ bool IsWhole(const QString& document);
 
 /// The texts of a page of a document, as a reader selects them; pages count from 1.
 QString PageText(const QString& document, int page);
-/// How many pages a document has, and its title.
+/// How many pages a document has, how many pictures are in it, and its title.
 int PageCount(const QString& document);
+int PictureCount(const QString& document);
 QString Title(const QString& document);

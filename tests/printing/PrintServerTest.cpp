@@ -150,6 +150,7 @@ TEST_F(PrintServerTest, AJobArrivesAsOneDocument) {
     const QString document = Printed().front();
     EXPECT_EQ(Title(document), u"Test Job");
     ASSERT_EQ(PageCount(document), 2);
+    EXPECT_EQ(PictureCount(document), 0);
     const QString first = PageText(document, 1);
     const QString second = PageText(document, 2);
     EXPECT_TRUE(first.contains(u"Our home"));
@@ -225,6 +226,22 @@ TEST_F(PrintServerTest, TheDialogAsksForPaperAndCopiesAlone) {
         EXPECT_EQ(dialog.printer()->pageLayout().pageSize().id(), QPageSize::Letter);
         EXPECT_EQ(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel)->text(),
                   u"Cancel");
+        dialog.reject();
+    });
+    EXPECT_EQ(asked, 1);
+}
+
+TEST_F(PrintServerTest, TheDialogSpeaksTheLanguageInUse) {
+    NEEDS_SERVER();
+    Begin();
+    SwitchLanguage(Spanish);
+    int asked = 0;
+    Print([&](QPrintDialog& dialog) {
+        ++asked;
+        const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+        EXPECT_EQ(buttons->button(QDialogButtonBox::Ok)->text(), u"Im&primir");
+        EXPECT_EQ(buttons->button(QDialogButtonBox::Cancel)->text(), u"Cancelar");
+        EXPECT_EQ(dialog.windowTitle(), u"Imprimir");
         dialog.reject();
     });
     EXPECT_EQ(asked, 1);

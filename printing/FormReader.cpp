@@ -2,6 +2,7 @@
 
 #include "Loan.h"
 #include "LoanForm.h"
+#include "PrintedPage.h"
 #include "VersionRecord.h"
 
 #include <QFontInfo>
@@ -71,7 +72,7 @@ constexpr std::array<ColumnOf, OfferColumnCount> Columns{{
 
 /// Every break of a line is "\r\n", and nothing else but letters and blanks is left.
 QString Cleaned(QString text) {
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    text.replace(LineBreak, QLatin1String("\n"));
     for (QChar& character : text) {
         if (character == u'\r' || character == QChar::LineSeparator ||
             character == QChar::ParagraphSeparator) {
@@ -80,7 +81,7 @@ QString Cleaned(QString text) {
             character = u' ';
         }
     }
-    return text.replace(u'\n', QStringLiteral("\r\n"));
+    return text.replace(u'\n', LineBreak);
 }
 
 QString TextOf(const QWidget& control) {

@@ -17,11 +17,6 @@ constexpr double LeastGap = 8;
 constexpr double LeastPoints = 5;
 constexpr double LeastPart = 0.6;
 
-const QString& LineBreak() {
-    static const QString text = QStringLiteral("\r\n");
-    return text;
-}
-
 } // namespace
 
 PageDrawing::PageDrawing(QSizeF space, const TextMetrics& metrics)
@@ -81,7 +76,7 @@ void PageDrawing::PrintTextInBox(double left, double top, double width, double h
     if (text.isEmpty()) {
         return;
     }
-    const QStringList lines = text.split(LineBreak());
+    const QStringList lines = text.split(LineBreak);
     const double scale = ScaleFactor();
     const double lineHeight = TextHeight();
     const double textHeight = lineHeight * static_cast<double>(lines.size());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLatin1String>
 #include <QLineF>
 #include <QPointF>
 #include <QRectF>
@@ -14,6 +15,9 @@
 inline constexpr double TwipsPerPoint = 20;
 inline constexpr double TwipsPerInch = 1440;
 inline constexpr double TwipsPerDot = TwipsPerInch / 300;
+
+/// Between the lines of a text on its way to the page; there, each line is a text of its own.
+inline constexpr QLatin1String LineBreak("\r\n");
 
 struct PrintFont {
     QString family;

@@ -20,11 +20,6 @@ constexpr double LinesPadding = 4;
 constexpr double LenderGap = 40;
 constexpr std::size_t LenderColumn = OfferColumnCount - 1;
 
-const QString& LineBreak() {
-    static const QString text = QStringLiteral("\r\n");
-    return text;
-}
-
 bool StandsRight(Side side) { return side == Side::Right; }
 
 } // namespace
@@ -135,7 +130,7 @@ QString Report::LenderTextOf(const FormRow& row) const {
     }
     const double room = m_page.RoomInBox(m_lenderColumnWidth) - LenderGap;
     const auto width = [this](const QString& line) { return m_page.TextWidth(line); };
-    const QStringList lines = text.split(LineBreak());
+    const QStringList lines = text.split(LineBreak);
     const bool fits =
         std::ranges::all_of(lines, [&](const auto& line) { return width(line) < room; });
     return fits ? text : WrapLenderText(text, room, width);
@@ -159,7 +154,7 @@ double Report::RowLimit() const {
 void Report::PrintRow(const FormRow& row) {
     FormRow texts = row;
     texts.back() = LenderTextOf(row);
-    m_rowHeight = HeightOf(texts.back().count(LineBreak()) + 1);
+    m_rowHeight = HeightOf(texts.back().count(LineBreak) + 1);
     if (m_rowTop + m_rowHeight > RowLimit()) {
         StartNewPage();
         PrintHighRow(texts);
@@ -169,19 +164,19 @@ void Report::PrintRow(const FormRow& row) {
 
 /// A row higher than a page goes on over the next ones: what is left of it fits when this is done.
 void Report::PrintHighRow(FormRow& texts) {
-    QStringList lines = texts.back().split(LineBreak());
+    QStringList lines = texts.back().split(LineBreak);
     while (lines.size() > 1 && m_rowTop + HeightOf(lines.size()) > RowLimit()) {
         const auto fitting = static_cast<qsizetype>(
             std::floor((RowLimit() - m_rowTop - LinesPadding) / LineHeight()));
         const qsizetype taken = std::clamp<qsizetype>(fitting, 1, lines.size() - 1);
-        texts.back() = lines.mid(0, taken).join(LineBreak());
+        texts.back() = lines.mid(0, taken).join(LineBreak);
         m_rowHeight = HeightOf(taken);
         PrintRowPart(texts);
         lines.remove(0, taken);
         texts.fill(QString());
         StartNewPage();
     }
-    texts.back() = lines.join(LineBreak());
+    texts.back() = lines.join(LineBreak);
     m_rowHeight = HeightOf(lines.size());
 }
 

@@ -35,6 +35,8 @@ public:
         if (m_texts.load(GetResourceText(TextNumber::ToolkitTexts),
                          QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
             QCoreApplication::installTranslator(&m_texts);
+            // Told later, the dialog's buttons would take the toolkit's captions again.
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
         }
     }
 

@@ -1,11 +1,11 @@
 #include "WrapLenderText.h"
 
+#include "PrintedPage.h"
+
 #include <QStringView>
 #include <QTextBoundaryFinder>
 
 namespace {
-
-constexpr QStringView LineBreak = u"\r\n";
 
 /// How one line ends: what it shows, and how much of the text it takes up.
 struct LineEnd {

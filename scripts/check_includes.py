@@ -26,6 +26,9 @@ _FLOORS: dict[str, tuple[str, ...]] = {
                          "storage/registry"),
 }
 
+# Wires all floors together and stands above them.
+_COMPOSITION_ROOT = Path("storage/Main.cpp")
+
 # Floors that know no window system.
 _WITHOUT_WIDGETS = ("foundation", "language", "storage/registry", "calc", "worksheet/model")
 
@@ -33,6 +36,8 @@ _INCLUDE = re.compile(r'\s*#\s*include\s+([<"])([^>"]+)[>"]')
 
 
 def _floor_of(file: Path) -> str | None:
+    if file == _COMPOSITION_ROOT:
+        return None
     folder = file.parent.as_posix()
     found = [floor for floor in _FLOORS if folder == floor or folder.startswith(floor + "/")]
     return max(found, key=len, default=None)

@@ -6,19 +6,17 @@
 
 #include <QPrinter>
 
-#include <utility>
-
 /// Prints into a file, where no print server can be had.
 class FilePrinter : public PrinterDoor {
 public:
-    FilePrinter(QString file, QPageSize size,
+    FilePrinter(const QString& file, const QPageSize& size,
                 QPageLayout::Orientation orientation = QPageLayout::Portrait) {
         m_printer.setOutputFormat(QPrinter::PdfFormat);
         PrepareDocument(m_printer);
         m_printer.setPageSize(size);
         m_printer.setPageOrientation(orientation);
         m_printer.setPageMargins(QMarginsF(18, 18, 18, 18), QPageLayout::Point);
-        m_printer.setOutputFileName(std::move(file));
+        m_printer.setOutputFileName(file);
     }
 
     bool AskHowToPrint(QWidget& /*parent*/) override { return true; }

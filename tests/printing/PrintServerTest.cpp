@@ -123,7 +123,7 @@ protected:
         Settle();
         EXPECT_TRUE(Printed().isEmpty());
         if (Server) {
-            EXPECT_TRUE(Server->Jobs().isEmpty());
+            EXPECT_TRUE(PrintServer::Jobs().isEmpty());
             EXPECT_TRUE(Server->Spooled().isEmpty()) << Server->Spooled().join(u' ').toStdString();
         }
         EXPECT_TRUE(SettledMessages().isEmpty());
@@ -135,11 +135,15 @@ private:
     std::unique_ptr<PrintCommands> m_commands;
 };
 
-#define NEEDS_SERVER()                                                                             \
-    if (!Server) {                                                                                 \
-        GTEST_SKIP() << "no print server is installed";                                            \
-    }                                                                                              \
-    static_assert(true)
+/// What only a print server can be asked.
+class ServerOnlyTest : public PrintServerTest {
+protected:
+    void SetUp() override {
+        if (!Server) {
+            GTEST_SKIP() << "no print server is installed";
+        }
+    }
+};
 
 TEST_F(PrintServerTest, AJobArrivesAsOneDocument) {
     Begin();
@@ -174,7 +178,7 @@ TEST_F(PrintServerTest, AJobArrivesAsOneDocument) {
     }
     EXPECT_TRUE(SettledMessages().isEmpty());
     if (Server) {
-        EXPECT_EQ(Server->Jobs(), QStringList{QStringLiteral("Lab-1")});
+        EXPECT_EQ(PrintServer::Jobs(), QStringList{QStringLiteral("Lab-1")});
     }
 }
 
@@ -201,16 +205,14 @@ TEST_P(CancelAt, LeavesNoTrace) {
     ExpectNoTrace();
 }
 
-TEST_F(PrintServerTest, ACancelledDialogLeavesNoTrace) {
-    NEEDS_SERVER();
+TEST_F(ServerOnlyTest, ACancelledDialogLeavesNoTrace) {
     Begin();
     Print([](QPrintDialog& dialog) { dialog.reject(); });
     EXPECT_EQ(Job(), nullptr);
     ExpectNoTrace();
 }
 
-TEST_F(PrintServerTest, TheDialogAsksForPaperAndCopiesAlone) {
-    NEEDS_SERVER();
+TEST_F(ServerOnlyTest, TheDialogAsksForPaperAndCopiesAlone) {
     Begin();
     int asked = 0;
     Print([&](QPrintDialog& dialog) {
@@ -231,8 +233,7 @@ TEST_F(PrintServerTest, TheDialogAsksForPaperAndCopiesAlone) {
     EXPECT_EQ(asked, 1);
 }
 
-TEST_F(PrintServerTest, TheDialogSpeaksTheLanguageInUse) {
-    NEEDS_SERVER();
+TEST_F(ServerOnlyTest, TheDialogSpeaksTheLanguageInUse) {
     Begin();
     SwitchLanguage(Spanish);
     int asked = 0;
@@ -247,12 +248,11 @@ TEST_F(PrintServerTest, TheDialogSpeaksTheLanguageInUse) {
     EXPECT_EQ(asked, 1);
 }
 
-TEST_F(PrintServerTest, SetUpChoosesThePrinterAndStartsNoJob) {
-    NEEDS_SERVER();
-    Server->Run(QStringLiteral("lpadmin"),
-                {QStringLiteral("-p"), QStringLiteral("Other"), QStringLiteral("-E"),
-                 QStringLiteral("-v"), QStringLiteral("file:///dev/null"), QStringLiteral("-m"),
-                 QStringLiteral("raw")});
+TEST_F(ServerOnlyTest, SetUpChoosesThePrinterAndStartsNoJob) {
+    PrintServer::Run(QStringLiteral("lpadmin"),
+                     {QStringLiteral("-p"), QStringLiteral("Other"), QStringLiteral("-E"),
+                      QStringLiteral("-v"), QStringLiteral("file:///dev/null"),
+                      QStringLiteral("-m"), QStringLiteral("raw")});
     Begin();
     {
         const DialogAnswer answer([](QPrintDialog& dialog) {
@@ -268,9 +268,9 @@ TEST_F(PrintServerTest, SetUpChoosesThePrinterAndStartsNoJob) {
         EXPECT_EQ(answer.Count(), 1);
     }
     EXPECT_EQ(Job(), nullptr);
-    EXPECT_TRUE(Server->Jobs().isEmpty());
+    EXPECT_TRUE(PrintServer::Jobs().isEmpty());
     EXPECT_EQ(QPrinterInfo::defaultPrinterName(), u"Other");
-    EXPECT_TRUE(Server->Run(QStringLiteral("lpstat"), {QStringLiteral("-d")})
+    EXPECT_TRUE(PrintServer::Run(QStringLiteral("lpstat"), {QStringLiteral("-d")})
                     .contains(QStringLiteral("Other")));
     Print([](QPrintDialog& dialog) {
         EXPECT_EQ(dialog.printer()->printerName(), u"Other");
@@ -278,9 +278,8 @@ TEST_F(PrintServerTest, SetUpChoosesThePrinterAndStartsNoJob) {
     });
 }
 
-TEST_F(PrintServerTest, NoPrinterAtAllIsNotTold) {
-    NEEDS_SERVER();
-    Server->Run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), QStringLiteral("Lab")});
+TEST_F(ServerOnlyTest, NoPrinterAtAllIsNotTold) {
+    PrintServer::Run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), QStringLiteral("Lab")});
     Begin();
     FillRows(1);
     Print([](QPrintDialog& dialog) { dialog.accept(); });
@@ -289,41 +288,38 @@ TEST_F(PrintServerTest, NoPrinterAtAllIsNotTold) {
     ExpectNoTrace();
 }
 
-TEST_F(PrintServerTest, APrinterThatIsGoneDoesNotPrintOnAnother) {
-    NEEDS_SERVER();
+TEST_F(ServerOnlyTest, APrinterThatIsGoneDoesNotPrintOnAnother) {
     Begin(1h);
     FillRows(1);
     Print();
     ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
-    Server->Run(QStringLiteral("lpadmin"),
-                {QStringLiteral("-p"), QStringLiteral("Other"), QStringLiteral("-E"),
-                 QStringLiteral("-v"), QStringLiteral("file:///dev/null"), QStringLiteral("-m"),
-                 QStringLiteral("raw")});
-    Server->Run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QStringLiteral("Other")});
-    Server->Run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), QStringLiteral("Lab")});
+    PrintServer::Run(QStringLiteral("lpadmin"),
+                     {QStringLiteral("-p"), QStringLiteral("Other"), QStringLiteral("-E"),
+                      QStringLiteral("-v"), QStringLiteral("file:///dev/null"),
+                      QStringLiteral("-m"), QStringLiteral("raw")});
+    PrintServer::Run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QStringLiteral("Other")});
+    PrintServer::Run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), QStringLiteral("Lab")});
     Job()->findChild<QTimer*>(QStringLiteral("tmrPrint"))->setInterval(0ms);
     EXPECT_TRUE(WaitForEnd());
     ExpectNoTrace();
 }
 
-TEST_F(PrintServerTest, AStoppedQueueKeepsTheJob) {
-    NEEDS_SERVER();
-    Server->Run(QStringLiteral("cupsdisable"), {QStringLiteral("Lab")});
+TEST_F(ServerOnlyTest, AStoppedQueueKeepsTheJob) {
+    PrintServer::Run(QStringLiteral("cupsdisable"), {QStringLiteral("Lab")});
     Begin();
     FillRows(1);
     Print();
     EXPECT_TRUE(WaitForEnd());
     EXPECT_TRUE(SettledMessages().isEmpty());
-    EXPECT_EQ(Server->Jobs(), QStringList{QStringLiteral("Lab-1")});
+    EXPECT_EQ(PrintServer::Jobs(), QStringList{QStringLiteral("Lab-1")});
     EXPECT_TRUE(Printed().isEmpty());
     EXPECT_EQ(Text(u"cboLoanName"), u"Our home");
-    Server->Run(QStringLiteral("cupsenable"), {QStringLiteral("Lab")});
+    PrintServer::Run(QStringLiteral("cupsenable"), {QStringLiteral("Lab")});
     EXPECT_TRUE(WaitForPaper(1));
 }
 
-TEST_F(PrintServerTest, AQueueThatRejectsIsNotTold) {
-    NEEDS_SERVER();
-    Server->Run(QStringLiteral("cupsreject"), {QStringLiteral("Lab")});
+TEST_F(ServerOnlyTest, AQueueThatRejectsIsNotTold) {
+    PrintServer::Run(QStringLiteral("cupsreject"), {QStringLiteral("Lab")});
     Begin();
     FillRows(1);
     Print();
@@ -331,8 +327,7 @@ TEST_F(PrintServerTest, AQueueThatRejectsIsNotTold) {
     ExpectNoTrace();
 }
 
-TEST_F(PrintServerTest, AServerThatIsGoneIsNotTold) {
-    NEEDS_SERVER();
+TEST_F(ServerOnlyTest, AServerThatIsGoneIsNotTold) {
     Begin(1h);
     FillRows(1);
     Print();

@@ -26,7 +26,7 @@ _FLOORS: dict[str, tuple[str, ...]] = {
                          "storage/registry"),
 }
 
-# Wires all floors together and stands above them.
+# Builds everything and wires it, so it may use all.
 _COMPOSITION_ROOT = Path("storage/Main.cpp")
 
 # Floors that know no window system.

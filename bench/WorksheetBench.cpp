@@ -15,6 +15,7 @@ public:
     void ShowDate(Field, Date) override {}
     void ShowMark(Field, Mark) override {}
     void ShowToolTip(Field, bool) override {}
+    void ShowSortOrder(SortOrder) override {}
     void PaymentRaised() override {}
     void PaymentRefused() override {}
 };
@@ -53,5 +54,21 @@ void EverythingTheWindowShows(benchmark::State& state) {
     }
 }
 BENCHMARK(EverythingTheWindowShows)->Unit(benchmark::kMicrosecond);
+
+/// The headings of the columns, one after the other: every row is shown anew each time.
+void BothSorts(benchmark::State& state) {
+    NoDisplay display;
+    const QLocale locale(QLocale::English, QLocale::UnitedStates);
+    Worksheet worksheet(display, FieldTexts(DisplayFormats(locale), false),
+                        [] { return Date::FromCalendar(2026, 11, 21); });
+    Fill(worksheet);
+    for (auto _ : state) {
+        worksheet.SortByPayoffDate();
+        worksheet.ShowOffers();
+        worksheet.SortByInterest();
+        worksheet.ShowOffers();
+    }
+}
+BENCHMARK(BothSorts)->Unit(benchmark::kMicrosecond);
 
 } // namespace

@@ -33,14 +33,17 @@ Money CLoan::PandI() {
     return PrincipalAndInterest(StartingPrinciple(), m_interestRate, m_term, m_frequencyCode);
 }
 
-Money CLoan::Payment() {
+Money CLoan::LeastPayment() {
     const Money principalAndInterest = PandI();
     if (principalAndInterest.IsZero()) {
         return {};
     }
-    const Money payment =
-        principalAndInterest + EscrowShare(m_frequencyCode, m_context->EscrowMonthly());
-    if (payment > m_actualPayment) {
+    return principalAndInterest + EscrowShare(m_frequencyCode, m_context->EscrowMonthly());
+}
+
+Money CLoan::Payment() {
+    const Money payment = LeastPayment();
+    if (payment > m_actualPayment && !PandI().IsZero()) {
         Change(m_actualPayment, payment);
         m_forced = true;
     }

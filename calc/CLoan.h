@@ -74,6 +74,8 @@ public:
     /// One payment with its share of the escrow. Raises a lower actual payment to itself, marks the
     /// worksheet dirty then and sets Forced. Zero, and nothing raised, while PandI is zero.
     Money Payment();
+    /// The same without raising or marking anything.
+    Money LeastPayment();
     /// True once after Payment has raised the actual payment; reading it clears it.
     bool Forced();
 

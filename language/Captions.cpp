@@ -29,6 +29,7 @@ constexpr std::array ShownTexts{
     ShownText{"toolTipText", "toolTip", "toolTipAway"},
     ShownText{AccessibleText, "accessibleName"},
     ShownText{AccessibleText, "accessibleDescription", nullptr, "QComboBox"},
+    ShownText{"activeText", "accessibleDescription", "activeTextAway"},
     ShownText{"hintText", "placeholderText"},
 };
 

@@ -13,7 +13,9 @@ enum class TermUnit { Months, Years };
 ///     toolTipText         the tooltip
 ///     accessibleText      the name for screen readers
 ///     hintText            the text in an empty field
-///     toolTipAway         true while the control shows no tooltip, whatever the language
+///     activeText          what screen readers hear of a control that is active, instead of the
+///     tooltip toolTipAway         true while the control shows no tooltip, whatever the language
+///     activeTextAway      true while the control is not active
 ///
 /// A list goes by its name for screen readers and, because the toolkit tells them its value instead
 /// as soon as it has one, by the same words as description.

@@ -19,6 +19,8 @@ inline constexpr int NoNameToDelete = 45;
 inline constexpr int NoNameToSave = 46;
 inline constexpr int PictureTitle = 49;
 inline constexpr int NewLoan = 52;
+/// A menu entry, and without its first character the title of the About box.
+inline constexpr int About = 64;
 inline constexpr int LoanTypeMortgage = 83;
 /// A picture such as " nnnn.nn" follows it.
 inline constexpr int NumberRefused = 87;
@@ -34,6 +36,9 @@ inline constexpr int SaveTitle = 103;
 inline constexpr int SaveQuestion = 104;
 /// %1: the patterns of the pictures that can be shown.
 inline constexpr int PictureFilter = 105;
+/// Holds "?ID" where the query of the web address goes.
+inline constexpr int MailBody = 107;
+inline constexpr int MailSubject = 108;
 inline constexpr int FrequencyTwiceAMonth = 111;
 inline constexpr int FrequencyEveryTwoWeeks = 112;
 inline constexpr int FrequencyMonthly = 114;
@@ -63,6 +68,25 @@ inline constexpr int PrintButton = 560;
 inline constexpr int PrintSetUpTitle = 561;
 /// No text to be shown: the file of the toolkit's own texts in this language.
 inline constexpr int ToolkitTexts = 562;
+inline constexpr int CopyValue = 540;
+inline constexpr int PasteValue = 541;
+/// %1: what was to be pasted. A picture such as " nnnn.nn" follows it.
+inline constexpr int ValueRefused = 542;
+inline constexpr int EditUndo = 543;
+inline constexpr int EditRedo = 544;
+inline constexpr int EditCut = 545;
+inline constexpr int EditCopy = 546;
+inline constexpr int EditPaste = 547;
+inline constexpr int EditDelete = 548;
+inline constexpr int EditSelectAll = 549;
+inline constexpr int HelpContents = 581;
+inline constexpr int HelpIndex = 582;
+inline constexpr int HelpSearch = 583;
+inline constexpr int HelpNotFound = 589;
+inline constexpr int HelpMore = 590;
+/// A blank and the numbers follow it.
+inline constexpr int Version = 592;
+inline constexpr int NoSystemInfo = 593;
 
 /// Every one of them: a text without a use, or a use without a text, shows up in the tests.
 inline constexpr std::array All{
@@ -79,6 +103,7 @@ inline constexpr std::array All{
     NoNameToSave,
     PictureTitle,
     NewLoan,
+    About,
     LoanTypeMortgage,
     NumberRefused,
     OffersRefused,
@@ -88,6 +113,8 @@ inline constexpr std::array All{
     SaveTitle,
     SaveQuestion,
     PictureFilter,
+    MailBody,
+    MailSubject,
     FrequencyTwiceAMonth,
     FrequencyEveryTwoWeeks,
     FrequencyMonthly,
@@ -114,6 +141,23 @@ inline constexpr std::array All{
     PrintButton,
     PrintSetUpTitle,
     ToolkitTexts,
+    CopyValue,
+    PasteValue,
+    ValueRefused,
+    EditUndo,
+    EditRedo,
+    EditCut,
+    EditCopy,
+    EditPaste,
+    EditDelete,
+    EditSelectAll,
+    HelpContents,
+    HelpIndex,
+    HelpSearch,
+    HelpNotFound,
+    HelpMore,
+    Version,
+    NoSystemInfo,
 };
 
 } // namespace TextNumber

@@ -22,6 +22,9 @@ _FLOORS: dict[str, tuple[str, ...]] = {
     "worksheet/model":  ("foundation", "language", "calc"),
     "worksheet/window": ("foundation", "language", "calc", "worksheet/model"),
     "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
+    "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
+    "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
+                         "storage/registry"),
     "storage":          ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
                          "storage/registry"),
 }

@@ -36,8 +36,8 @@ void Write(const RegistryAPI& store, const std::string& key, const Worksheet& wo
         store.SetValue(StoreRoot, key, value.name, value.type, value.write(worksheet, texts));
     }
     std::int32_t count = 0;
-    for (Row row{0}; row <= worksheet.HighestOfferRow(); ++row.value) {
-        if (const CLoan& offer = worksheet.OfferOfRow(row); LoanStore::IsWorthKeeping(offer)) {
+    for (const CLoan& offer : worksheet.OffersAsEntered()) {
+        if (LoanStore::IsWorthKeeping(offer)) {
             WriteOffer(store, key, offer, ++count, texts);
         }
     }

@@ -31,8 +31,9 @@ public:
     QStringList Names() const;
     bool Exists(const QString& name) const;
 
-    /// Keeps the worksheet under its name in one step, in place of what had that name; clears
-    /// Dirty. Throws Failure 1001 when it could not be kept: all is then as it was before.
+    /// Keeps the worksheet, its offers in the order of entry, under its name in one step, in place
+    /// of what had that name; clears Dirty. Throws Failure 1001 when it could not be kept: all is
+    /// then as it was before.
     void Save(Worksheet& worksheet) const;
 
     /// Replaces the worksheet by the one kept under this name and clears Dirty. `growTo` is called

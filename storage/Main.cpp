@@ -1,7 +1,11 @@
 // The composition root: makes everything, wires it, starts it.
 
+#include "AboutCommands.h"
 #include "CalendarDate.h"
+#include "DesktopMail.h"
 #include "FileCommands.h"
+#include "HelpCommands.h"
+#include "InstalledSystemInfo.h"
 #include "Language.h"
 #include "LanguageIdentifier.h"
 #include "Loan.h"
@@ -9,7 +13,9 @@
 #include "OptionsCommands.h"
 #include "PictureDialog.h"
 #include "PrintCommands.h"
+#include "ProgramIcon.h"
 #include "SettingsStore.h"
+#include "ShareCommands.h"
 #include "StartUp.h"
 #include "StoreCheck.h"
 #include "SystemPrinter.h"
@@ -73,6 +79,10 @@ int Run(const RegistryAPI& store, const StoreCondition& condition, MessageBoxes&
     const OptionsCommands options(window, store, pictures);
     SystemPrinter printer;
     const PrintCommands printing(window, printer);
+    const HelpCommands help(window);
+    DesktopMail mail;
+    const ShareCommands share(window, mail);
+    const AboutCommands about(window, store, InstalledSystemInfo());
     QSettings kept;
     window.OnUnload([&] {
         if (!files.MayDrop()) {
@@ -97,6 +107,7 @@ int main(int argc, char* argv[]) {
     using namespace VersionRecord;
     QCoreApplication::setApplicationVersion(
         QStringLiteral("%1.%2.%3").arg(Major).arg(Minor).arg(Revision));
+    QApplication::setWindowIcon(ProgramIcon());
     SetUpLanguage();
     MessageBoxes messages;
     const RegistryAPI store(RegistryAPI::UserStore());

@@ -95,6 +95,9 @@ class Node:
     def name(self) -> str:
         return str(self._property("Accessible", "Name"))
 
+    def description(self) -> str:
+        return str(self._property("Accessible", "Description"))
+
     def children(self) -> list[Node]:
         found = self._ask(_PREFIX + "Accessible", "GetChildren")
         return [Node(self._bus, owner, path) for owner, path in found]

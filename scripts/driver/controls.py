@@ -84,6 +84,9 @@ _ROW = {
     "txtWho":           (_ENTRY, 430),
 }
 
+# What a heading is described by while the offers are sorted by it.
+_ACTIVE = {"cmdPayoffDate": 346, "cmdInterest": 347}
+
 _MOST_ROWS = 16
 _ROW_CONTROL = re.compile(r"(\w+)\((\d+)\)")
 _TEXT_LINE = re.compile(r"(\d+)\s*=\s?(.*)")
@@ -99,6 +102,11 @@ def kind_of(control: str) -> tuple[Kind, int | None]:
         roles, text = _ROW[parts[1]]
         return Kind(roles, (text,)), int(parts[2])
     raise KeyError(control)
+
+
+def active_text_of(control: str) -> int:
+    """The number of the text that describes a heading that is active. Raises KeyError."""
+    return _ACTIVE[control]
 
 
 class Texts:

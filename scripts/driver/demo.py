@@ -128,6 +128,16 @@ def _print_lab(session: Session, ending: ExitStack) -> PrintLab | None:
         return None
 
 
+def _sort(window: Window, heading: str, file: Path) -> None:
+    """Sorts the offers by a column, prints them and takes a picture from the first row on."""
+    window.sort(heading)
+    window.focus("txtWho(0)")
+    print(f"\n{window.describe(heading)}:")
+    _print_offers(_offers(window))
+    window.screenshot(file)
+    print(f"picture: {file}")
+
+
 def _show(window: Window, pictures: Path, locale: str) -> None:
     window.menu(["mnuTools", "mnuToolsLanguage", "mnuToolsLanguageOpt(1)"])
     for reading in play(window, parse(_SAMPLE.read_text(encoding="utf-8").splitlines())):
@@ -136,6 +146,8 @@ def _show(window: Window, pictures: Path, locale: str) -> None:
     _print_current(_current(window))
     _open_again(window, locale)
     _speak(window, 1, pictures / "window-english.png")
+    _sort(window, "cmdPayoffDate", pictures / "sorted-by-payoff.png")
+    _sort(window, "cmdInterest", pictures / "sorted-by-interest.png")
     _speak(window, 2, pictures / "window-spanish.png")
 
 

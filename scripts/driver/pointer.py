@@ -32,6 +32,22 @@ class Hands:
         self._run(["mousemove", str(x), str(y),
                    "click", "--repeat", "2", "--delay", "40", "1"])
 
+    def windows(self) -> frozenset[str]:
+        """All that stands on the desktop, tooltips and the like among it."""
+        return frozenset(subprocess.run(
+            ["xdotool", "search", "--onlyvisible", "--maxdepth", "1", "--name", ".*"],
+            env=self._environment, check=False, timeout=60, stdin=subprocess.DEVNULL,
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True).stdout.split())
+
+    def move(self, x: int, y: int) -> None:
+        self._run(["mousemove", str(x), str(y)])
+
+    def hold(self, button: int) -> None:
+        self._run(["mousedown", str(button)])
+
+    def let_go(self, button: int) -> None:
+        self._run(["mouseup", str(button)])
+
     def rest(self) -> None:
         """Takes the mouse out of the way, so that no tooltip covers the window."""
         self._run(["mousemove", "1", "1"])

@@ -7,15 +7,26 @@
     choose <control> <text>|@<n>    picks an entry of a list, by text or by the text's number
     check <control>, clear <control>
     press <control>                 clicks on a button
+    sort <heading>                  clicks on the heading of a column and waits for the new order
+    lender <control> <text>         edits a lender in its dialog; a bar stands for a new line
     menu <entry> <entry> ...        opens the menus and clicks on the last entry
     key <control> <key> ...         presses keys by their X names, such as Down or shift+Tab
     keystrokes <control> <text>     types, and neither empties the field nor leaves it
+    meet <text>                     starts another program, "neighbour", that gives this text
+    drag <from> <to>                drags by the mouse from a field to another, or to the neighbour
+    dragescape <from> <to>          the same, and presses Escape before letting go
+    dragnothing <from> <to>         the same, where no drag may begin
+    dragright <from> <to>           the same with the right button
+    dragin <to>                     drags the neighbour's text to a field; prints what the neighbour
+                                    is told that would be done with it: copy, move or none
+    got                             prints what has been dropped on the neighbour
     dialog                          waits for a message box, prints its text and closes it
     answer <text>|@<n>              waits for a question, prints it and presses that button
     progress                        waits for a window that closes by itself, prints its text
     expect <control> <text>         waits until the control shows the text
     read <control> ...              prints what each control shows
     name <control> ...              prints what a screen reader calls each control
+    describe <control> ...          prints what a screen reader adds to that
     title                           prints the title of the window
     screenshot <file>               takes a picture of the window
     tree                            prints all controls there are
@@ -117,6 +128,8 @@ _HANDLERS: dict[str, Handler] = {
     "check": _deed(lambda window, control, _: window.check(control)),
     "clear": _deed(lambda window, control, _: window.check(control, wanted=False)),
     "press": _deed(lambda window, control, _: window.press(control)),
+    "sort": _deed(lambda window, control, _: window.sort(control)),
+    "lender": _deed(Window.lender),
     "menu": _deed(lambda window, first, rest: window.menu([first, *rest.split()])),
     "key": _deed(lambda window, control, keys: window.key(control, keys.split())),
     "keystrokes": _deed(Window.keystrokes),
@@ -127,9 +140,17 @@ _HANDLERS: dict[str, Handler] = {
     "ended": _deed(lambda window, *_: window.ended()),
     "kill": _deed(lambda window, *_: window.kill()),
     "start": _deed(lambda window, locale, _: window.start(locale)),
+    "meet": _deed(lambda window, *text: window.meet(" ".join(text).strip())),
+    "drag": _deed(Window.drag),
+    "dragescape": _deed(lambda window, *ends: window.drag(*ends, escape=True)),
+    "dragnothing": _deed(Window.drag_nothing),
+    "dragright": _deed(lambda window, *ends: window.drag_nothing(*ends, button=3)),
+    "dragin": lambda window, field: [Reading("drag", window.drag_in(field))],
+    "got": _note("got", Window.got),
     "answer": lambda window, rest: [Reading("answer", window.answer(rest))],
     "read": _look(Window.read),
     "name": _look(lambda window, control: window.find(control).name()),
+    "describe": _look(Window.describe),
     "dialog": _note("dialog", Window.dialog),
     "progress": _note("progress", Window.progress),
     "title": _note("title", Window.title),

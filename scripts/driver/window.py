@@ -14,7 +14,8 @@ from pathlib import Path
 
 from accessibility import (ACTIVE, CHECKED, EXPANDED, FOCUSED, SHOWING, Bus, BusError,
                            Node)
-from controls import Texts, kind_of
+from controls import Texts, active_text_of, kind_of
+from dragging import Drag, Neighbour
 from locales import decimal_sign, typed_date
 from pointer import Hands
 from session import Session
@@ -155,6 +156,73 @@ class Window:
         self._hands.keys("Return")
         self._wait(f"the list of {control} to close", lambda: not node.has(EXPANDED))
 
+    def meet(self, text: str) -> None:
+        """Starts another program beside the window, which gives this text to be dragged."""
+        self._neighbour = Neighbour(self._session, text, self._seconds)
+
+    def drag(self, start: str, end: str, escape: bool = False) -> None:
+        """Drags from one field to another or to the "neighbour"."""
+        drag = self._begin(start)
+        drag.must_begin()
+        if end == "neighbour":
+            self._neighbour.listen()
+        drag.over(self._place(end, "takes"))
+        if end == "neighbour":
+            self._neighbour.wait_for("over")
+            self._neighbour.catch_up()
+        if escape:
+            self._hands.keys("Escape")
+        drag.end()
+
+    def drag_nothing(self, start: str, end: str, button: int = 1) -> None:
+        """Does the same where nothing may begin. The right button brings a menu up, which is left."""
+        drag = self._begin(start, button)
+        drag.over(self._place(end, "takes"))
+        begun = button == 1 and drag.has_begun()
+        drag.end(button)
+        if button != 1:
+            self._hands.keys("Escape")
+        if begun:
+            raise Refused(f"{start} can be dragged")
+
+    def drag_in(self, end: str) -> str:
+        """Drags the neighbour's text to a field, and gives what the neighbour was told that would be
+        done with it."""
+        self._neighbour.listen()
+        drag = wait_for("the neighbour to drag", self._begin_at_neighbour, self._seconds)
+        # It is told of changes only, so it comes by a field that takes any text.
+        drag.over(self._place("txtWho(0)", "takes"))
+        self._neighbour.wait_for("action")
+        drag.over(self._place(end, "takes"))
+        self._neighbour.catch_up()
+        told = self._neighbour.wait_for("action")
+        drag.end()
+        self._neighbour.wait_for("end")
+        return told
+
+    def _begin_at_neighbour(self) -> Drag | None:
+        """A press that comes while the neighbour still puts its last drag away begins none."""
+        drag = self._begin("neighbour")
+        self._neighbour.catch_up()
+        if self._neighbour.last("begin") is None:
+            drag.end()
+            return None
+        return drag
+
+    def _begin(self, start: str, button: int = 1) -> Drag:
+        self._must_be_free()
+        drag = Drag(self._hands, self._frame.name, self._seconds)
+        drag.begin(self._place(start, "gives"), button)
+        return drag
+
+    def got(self) -> str:
+        """What has been dropped on the neighbour."""
+        return self._neighbour.wait_for("got")
+
+    def _place(self, control: str, what: str) -> tuple[int, int]:
+        return (self._neighbour.place(what) if control == "neighbour"
+                else self.find(control).box().middle())
+
     def check(self, control: str, wanted: bool = True) -> None:
         """Clicks on a check box unless it stands as wanted."""
         node = self.find(control)
@@ -169,6 +237,27 @@ class Window:
         """Clicks on a button."""
         self._must_be_free()
         self._hands.click(*self.find(control).box().middle())
+
+    def sort(self, control: str) -> None:
+        """Clicks on the heading of a column and waits until it says that the offers are sorted."""
+        self.press(control)
+        sorted_by = self._texts.shown(active_text_of(control))
+        self._wait(f"{control} to say {sorted_by}",
+                   lambda: self.find(control).description() in sorted_by)
+
+    def lender(self, control: str, text: str) -> None:
+        """Double-clicks on a lender, replaces what the dialog holds and presses its OK button. A
+        bar in the text stands for a new line, made by Shift and the return key."""
+        self._must_be_free()
+        self._hands.double_click(*self.find(control).box().middle())
+        box = self._wait("the dialog of the lender", self._dialog_now)
+        self._wait("the dialog of the lender to become active", lambda: box.has(ACTIVE))
+        self._hands.keys("ctrl+a", "Delete")
+        for number, line in enumerate(text.split("|")):
+            self._hands.keys(*["shift+Return"] * min(number, 1))
+            self._hands.text(line)
+        self._hands.keys("Return")
+        self._wait_gone(box)
 
     def menu(self, path: list[str]) -> None:
         """Opens one menu after another and clicks on the last entry."""
@@ -249,6 +338,10 @@ class Window:
             return field.text()
         name = node.name()
         return "" if name in self._texts.names(control) else name
+
+    def describe(self, control: str) -> str:
+        """What a screen reader adds to the control's name."""
+        return self.find(control).description()
 
     def expect(self, control: str, text: str) -> None:
         """Waits until the control shows the text."""

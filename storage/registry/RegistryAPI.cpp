@@ -2,12 +2,21 @@
 
 #include "Failure.h"
 #include "KeyPath.h"
+#include "StoreCheck.h"
 #include "StoreStep.h"
 #include "ValueBytes.h"
+
+#include <QDate>
 
 namespace {
 
 Failure NotMade() { return {1001, "", "Unable to create the registry key"}; }
+
+/// The same, for a reason that can be mended.
+class DamageMet : public Failure {
+public:
+    DamageMet() : Failure(NotMade()) {}
+};
 
 std::int64_t KeyOf(RegistryRoot root) { return KeyTree::RootKey(static_cast<std::uint32_t>(root)); }
 
@@ -33,7 +42,10 @@ std::shared_ptr<StoreStep> StartStep(const std::filesystem::path& store,
     try {
         return std::make_shared<StoreStep>(
             OpenStore::ToWrite(store, wait, OpenStore::Missing::IsMade), StoreStep::Kind::Writes);
-    } catch (const StoreError&) {
+    } catch (const StoreError& error) {
+        if (error.IsDamage()) {
+            throw DamageMet();
+        }
         throw NotMade();
     }
 }
@@ -133,6 +145,21 @@ RegistryValue RegistryAPI::GetValue(RegistryRoot keyRoot, const std::string& key
     return stored ? ValueOfBytes(type, ReadBytes(*stored)).value_or(defaultValue) : defaultValue;
 }
 
+std::int64_t RegistryAPI::GetValueType(RegistryRoot keyRoot, const std::string& keyName,
+                                       const std::string& valueName) const {
+    const auto path = PathElements(keyName);
+    const auto name = ValueNameOf(valueName);
+    std::int64_t type = 0;
+    if (path && name) {
+        Read(OnKey(keyRoot, *path, [&](KeyTree& keys, std::int64_t key) {
+            if (const std::optional<KeyTree::Value> stored = keys.Get(key, *name)) {
+                type = stored->type;
+            }
+        }));
+    }
+    return type;
+}
+
 void RegistryAPI::SetValue(RegistryRoot keyRoot, const std::string& keyName,
                            const std::string& valueName, std::int16_t type,
                            const RegistryValue& value) const {
@@ -175,6 +202,18 @@ std::vector<std::string> RegistryAPI::GetSubKeys(RegistryRoot keyRoot,
 }
 
 void RegistryAPI::InOneStep(const std::function<void(const RegistryAPI&)>& steps) const {
+    try {
+        return TryStep(steps);
+    } catch (const DamageMet&) {
+        const std::string today = QDate::currentDate().toString(Qt::ISODate).toStdString();
+        if (m_step || !RepairStore(m_store, today)) {
+            throw;
+        }
+    }
+    TryStep(steps);
+}
+
+void RegistryAPI::TryStep(const std::function<void(const RegistryAPI&)>& steps) const {
     const bool inner = m_step != nullptr;
     RegistryAPI bound(*this);
     if (!inner) {
@@ -188,6 +227,9 @@ void RegistryAPI::InOneStep(const std::function<void(const RegistryAPI&)>& steps
         }
     } catch (...) {
         step.Break(); // an inner step takes the outer one with it
+        if (step.MetDamage()) {
+            throw DamageMet();
+        }
         throw;
     }
 }

@@ -70,6 +70,10 @@ public:
                            const std::string& valueName, std::int16_t type,
                            const RegistryValue& defaultValue) const;
 
+    /// The type code that the value was written with; 0 when it is missing or out of reach.
+    std::int64_t GetValueType(RegistryRoot keyRoot, const std::string& keyName,
+                              const std::string& valueName) const;
+
     /// Writes a value of an existing key; does nothing where there is no such key, and for an
     /// unknown type.
     void SetValue(RegistryRoot keyRoot, const std::string& keyName, const std::string& valueName,
@@ -85,6 +89,7 @@ public:
 
     /// Runs `steps` on the store as one step: either all that it writes is kept or nothing, and all
     /// that it reads is of one moment. Waits a few seconds for another program that is writing.
+    /// When it meets damage the store is repaired, and `steps` run once more from the beginning.
     /// Throws what `steps` throws, with nothing kept; and Failure 1001 "Unable to create the
     /// registry key" when the step could not be made, because the store cannot be written to, the
     /// disk is full, or the wait was in vain. Where the platform's registry knows no such steps the
@@ -96,6 +101,7 @@ public:
     void ReadInOneStep(const std::function<void(const RegistryAPI&)>& steps) const;
 
 private:
+    void TryStep(const std::function<void(const RegistryAPI&)>& steps) const;
     bool Read(const std::function<void(KeyTree&)>& reading) const;
     bool Write(const std::function<void(KeyTree&)>& writing, bool makesStore = false) const;
 

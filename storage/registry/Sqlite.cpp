@@ -45,6 +45,8 @@ const char* FileSystem() {
 
 StoreError::StoreError(int code) : StoreError(code, sqlite3_errstr(code)) {}
 
+bool StoreError::IsDamage() const { return Code() == SQLITE_CORRUPT || Code() == SQLITE_NOTADB; }
+
 void Statement::Finalize::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
 Statement::Statement(sqlite3* connection, const char* command) {
@@ -122,13 +124,19 @@ Connection::Connection(const std::filesystem::path& file, std::chrono::milliseco
     sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
 }
 
-Connection Connection::OfBytes(const std::string& bytes) {
+Connection Connection::InMemory() {
     Connection made;
     sqlite3* connection = nullptr;
     const int code = sqlite3_open_v2(":memory:", &connection,
                                      SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     made.m_connection.reset(connection);
     Check(code, connection);
+    return made;
+}
+
+Connection Connection::OfBytes(const std::string& bytes) {
+    Connection made = InMemory();
+    sqlite3* const connection = made.Handle();
     auto* const copy = static_cast<unsigned char*>(sqlite3_malloc64(bytes.size()));
     if (copy == nullptr) {
         throw StoreError(SQLITE_NOMEM);

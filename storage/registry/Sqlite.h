@@ -19,6 +19,8 @@ public:
 
     /// SQLite's primary result code.
     int Code() const { return m_code & 0xFF; }
+    /// Whether what is in the file is the reason.
+    bool IsDamage() const;
 
 private:
     int m_code;
@@ -66,6 +68,8 @@ public:
     /// is read yet.
     Connection(const std::filesystem::path& file, std::chrono::milliseconds wait);
 
+    /// An empty store in memory.
+    static Connection InMemory();
     /// A store in memory, from the bytes of a file; for reading.
     static Connection OfBytes(const std::string& bytes);
 

@@ -176,6 +176,16 @@ StoreCondition PrepareStore(const fs::path& store, const std::string& today) {
     }
 }
 
+bool RepairStore(const fs::path& store, const std::string& today) {
+    try {
+        const StoreFile::FolderLock lock(store.parent_path(), Wait);
+        return KindOf(StoreImage(store)) != StoreKind::Newer &&
+               Repair(store, today).state == Condition::Repaired;
+    } catch (const StoreError&) {
+        return false;
+    }
+}
+
 void TidyStore(const fs::path& store) {
     if (SizeOf(store) > 0) {
         FoldLogIfLonger(store, LogWorthFolding);

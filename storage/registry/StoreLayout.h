@@ -2,6 +2,9 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
 
 class Connection;
 
@@ -34,7 +37,18 @@ enum class State {
 /// Throws StoreError when the file cannot be read.
 State StateOf(const Connection& connection);
 
-/// Brings an empty or older store to this version, within the caller's transaction.
-void Migrate(const Connection& connection);
+/// Brings an empty or older store to the version that the steps end at, within the caller's
+/// transaction: kept with it as a whole or, when a step fails with StoreError, not at all.
+void Migrate(const Connection& connection, std::span<const char* const> steps = Steps);
+
+/// A table or an index as SQLite notes it in a store of this version.
+struct Object {
+    std::string kind;
+    std::string name;
+    std::string table;
+    std::string command;
+};
+
+const std::vector<Object>& Objects();
 
 } // namespace StoreLayout

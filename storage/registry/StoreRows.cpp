@@ -40,5 +40,6 @@ std::optional<SchemaRow> AsSchemaRow(const std::vector<Field>& fields) {
     if (!Are(fields, {Kind::Text, Kind::Text, Kind::Text, Kind::Number, Kind::Text})) {
         return std::nullopt;
     }
-    return SchemaRow{fields[1].bytes, fields[3].number, fields[4].bytes};
+    return SchemaRow{fields[0].bytes, fields[1].bytes, fields[2].bytes, fields[3].number,
+                     fields[4].bytes};
 }

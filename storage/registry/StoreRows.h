@@ -26,9 +26,12 @@ struct ValueRow {
     std::string_view data;
 };
 
-/// An object of the store: a table or an index, the page of its root and the command that made it.
+/// An object of the store: a table or an index of one, the page of its root and the command that
+/// made it.
 struct SchemaRow {
+    std::string_view kind;
     std::string_view name;
+    std::string_view table;
     std::int64_t root;
     std::string_view command;
 };

@@ -37,6 +37,14 @@ std::size_t HashOf(const KeyRow& key) {
     return std::hash<std::string>()(numbers + std::string(key.folded));
 }
 
+/// To the letter, since SQLite opens no store in which any of it is otherwise.
+bool IsOfLayout(const SchemaRow& row) {
+    return std::ranges::any_of(StoreLayout::Objects(), [&row](const StoreLayout::Object& object) {
+        return row.kind == object.kind && row.name == object.name && row.table == object.table &&
+               row.command == object.command;
+    });
+}
+
 class Inspection {
 public:
     explicit Inspection(const StoreImage& image)
@@ -95,15 +103,13 @@ private:
     bool WalkSchema() {
         const auto note = [this](std::int64_t row, const std::vector<Field>& fields) {
             const auto object = AsSchemaRow(fields);
-            if (!object || object->command.empty() ||
-                std::string_view(StoreLayout::Steps.back()).find(object->command) ==
-                    std::string_view::npos) {
+            if (!object || !IsOfLayout(*object)) {
                 return std::optional<Order>();
             }
             m_roots[std::string(object->name)] = static_cast<std::uint32_t>(object->root);
             return std::optional<Order>({row, {}});
         };
-        return Walk(1, note) && m_roots.size() == 3;
+        return Walk(1, note) && m_roots.size() == StoreLayout::Objects().size();
     }
 
     bool WalkTrees() {

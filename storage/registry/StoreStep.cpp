@@ -7,7 +7,8 @@ bool StoreStep::Run(const std::function<void(KeyTree&)>& action) {
     try {
         action(m_store->Keys());
         return true;
-    } catch (const StoreError&) {
+    } catch (const StoreError& error) {
+        m_metDamage = error.IsDamage();
         Break();
         return false;
     }

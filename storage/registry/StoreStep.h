@@ -17,6 +17,8 @@ public:
 
     bool Writes() const { return m_kind == Kind::Writes; }
     bool IsWhole() const { return m_store != nullptr; }
+    /// Whether it is broken because the store is damaged.
+    bool MetDamage() const { return m_metDamage; }
 
     /// False when the action failed, now or before.
     bool Run(const std::function<void(KeyTree&)>& action);
@@ -28,4 +30,5 @@ public:
 private:
     std::unique_ptr<OpenStore> m_store;
     Kind m_kind;
+    bool m_metDamage = false;
 };

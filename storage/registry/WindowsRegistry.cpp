@@ -188,6 +188,17 @@ RegistryValue RegistryAPI::GetValue(RegistryRoot keyRoot, const std::string& key
     return bytes ? ValueOfBytes(type, *bytes).value_or(defaultValue) : defaultValue;
 }
 
+std::int64_t RegistryAPI::GetValueType(RegistryRoot keyRoot, const std::string& keyName,
+                                       const std::string& valueName) const {
+    const OpenKey key = Open(keyRoot, keyName, KEY_READ);
+    const auto name = ValueNameOf(valueName);
+    DWORD type = 0;
+    const bool found = key && name &&
+                       RegQueryValueExA(key.Handle(), name->c_str(), nullptr, &type, nullptr,
+                                        nullptr) == ERROR_SUCCESS;
+    return found ? static_cast<std::int64_t>(type) : 0;
+}
+
 void RegistryAPI::SetValue(RegistryRoot keyRoot, const std::string& keyName,
                            const std::string& valueName, std::int16_t type,
                            const RegistryValue& value) const {

@@ -4,4 +4,6 @@
 
 StoreCondition PrepareStore(const std::filesystem::path&, const std::string&) { return {}; }
 
+bool RepairStore(const std::filesystem::path&, const std::string&) { return false; }
+
 void TidyStore(const std::filesystem::path&) {}

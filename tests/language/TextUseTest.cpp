@@ -19,7 +19,8 @@ namespace {
 
 const std::set<QString> TextProperties{
     QStringLiteral("captionText"), QStringLiteral("captionTextInYears"),
-    QStringLiteral("toolTipText"), QStringLiteral("accessibleText"), QStringLiteral("hintText")};
+    QStringLiteral("toolTipText"), QStringLiteral("accessibleText"),
+    QStringLiteral("hintText"),    QStringLiteral("activeText")};
 
 /// A text's number, and where it is asked for.
 using Uses = std::multimap<int, std::string>;

@@ -49,6 +49,7 @@ public:
         record.toolTip = shown;
         ++record.toolTips;
     }
+    void ShowSortOrder(SortOrder order) override { m_sortOrders.push_back(order); }
     void PaymentRaised() override { ++m_paymentsRaised; }
     void PaymentRefused() override { ++m_paymentsRefused; }
 
@@ -61,6 +62,8 @@ public:
 
     /// The fields whose texts were shown, in the order of the calls; one entry a call.
     const std::vector<Field>& TextsInOrder() const { return m_texts; }
+    /// Every order that was shown, in the order of the calls.
+    const std::vector<SortOrder>& SortOrders() const { return m_sortOrders; }
     int PaymentsRaised() const { return m_paymentsRaised; }
     int PaymentsRefused() const { return m_paymentsRefused; }
 
@@ -70,6 +73,7 @@ public:
             record.texts = record.marks = record.ticks = record.toolTips = record.dates = 0;
         }
         m_texts.clear();
+        m_sortOrders.clear();
         m_paymentsRaised = 0;
         m_paymentsRefused = 0;
     }
@@ -77,6 +81,7 @@ public:
 private:
     std::map<Field, Record> m_records;
     std::vector<Field> m_texts;
+    std::vector<SortOrder> m_sortOrders;
     int m_paymentsRaised = 0;
     int m_paymentsRefused = 0;
 };

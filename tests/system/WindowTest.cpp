@@ -168,6 +168,44 @@ type txtActualPayment(0) 700
 read txtActualPayment(0)
 )";
 
+/// Two offers are sorted while one of them is being typed; what follows finds its own offer.
+const std::string Sorting = R"(
+type txtLoanAmount 100000
+type txtWho(0) Dear
+type txtInterestRate(0) 7
+type txtTerm(0) 10
+choose cboFrequency(0) @114
+dialog
+type txtWho(1) Cheap
+type txtInterestRate(1) 9
+type txtTerm(1) 30
+choose cboFrequency(1) @114
+keystrokes txtInterestRate(1) 1
+sort cmdInterest
+read txtWho(0) txtInterestRate(0) txtWho(1) txtInterestRate(1)
+describe cmdInterest cmdPayoffDate
+sort cmdPayoffDate
+read txtWho(0) txtWho(1)
+sort cmdInterest
+lender txtWho(0) Cheap Bank|555 0100
+type txtPoints(1) 2
+type cboLoanName Sorted
+menu mnuFile mnuFileSave
+choose cboLoanName Sorted
+expect txtWho(0) Dear
+read txtPoints(0) txtPoints(1) txtInterestRate(1)
+describe cmdInterest
+)";
+
+const std::string SortingShown =
+    RaisedInEnglish + Line("txtWho(0)", "Cheap") + Line("txtInterestRate(0)", "1.000%") +
+    Line("txtWho(1)", "Dear") + Line("txtInterestRate(1)", "7.000%") +
+    Line("cmdInterest", "The offers are sorted with least interest first") +
+    Line("cmdPayoffDate", "Click to sort with soonest Payoff Date first") +
+    Line("txtWho(0)", "Dear") + Line("txtWho(1)", "Cheap") + Line("txtPoints(0)", "2.000") +
+    Line("txtPoints(1)", "") + Line("txtInterestRate(1)", "1.000%") +
+    Line("cmdInterest", "Click to sort with least interest first");
+
 const std::vector<Story> Stories{
     {"FourOffersInEnglish", "en_US.UTF-8", FourOffers, FourOffersIn(English, Dollars)},
     {"FourOffersInSpanish", "es_MX.UTF-8", FourOffers, FourOffersIn(Spanish, Dollars)},
@@ -188,6 +226,7 @@ const std::vector<Story> Stories{
     {"IntendedPayment", "en_US.UTF-8", IntendedPayment,
      RaisedInEnglish + RaisedInEnglish + Line("txtActualPayment(0)", "$599.55") +
          Line("txtActualPayment(0)", "$700.00")},
+    {"Sorting", "en_US.UTF-8", Sorting, SortingShown},
     {"EndsWell", "en_US.UTF-8", "title\nquit\n", Line("title", "Quend Loan")},
 };
 

@@ -2,8 +2,42 @@
 
 #include "Field.h"
 
-/// Which offer a row shows. Rows stand in the order of entry.
+#include <algorithm>
+#include <cstdint>
+#include <vector>
+
+/// What the rows are ordered by.
+enum class SortOrder : std::int32_t {
+    Entry = 1,      ///< row n shows offer n
+    Interest = 2,   ///< the least interest first
+    PayoffDate = 3, ///< the soonest payoff date first
+};
+
+/// Which offer each row shows. The offers themselves never move. Knows nothing of them but their
+/// number: whoever sorts brings the keys.
 class OfferOrder {
 public:
-    OfferIndex OfferIndexOfRow(Row row) const { return {static_cast<std::size_t>(row.value)}; }
+    SortOrder Order() const { return m_order; }
+
+    /// Throws std::out_of_range for a row that is not there.
+    OfferIndex OfferIndexOfRow(Row row) const {
+        return m_offers.at(static_cast<std::size_t>(row.value));
+    }
+
+    /// One more row at the end, for one more offer, whatever the order.
+    void Append() { m_offers.push_back({m_offers.size()}); }
+
+    /// The least key first; offers with the same key keep their order of entry. There is one key
+    /// for each offer, in the order of entry.
+    template <class Key>
+    void SortBy(SortOrder order, const std::vector<Key>& keys) {
+        std::ranges::sort(m_offers); // back to the order of entry
+        std::ranges::stable_sort(m_offers, {},
+                                 [&](OfferIndex offer) { return keys.at(offer.value); });
+        m_order = order;
+    }
+
+private:
+    SortOrder m_order = SortOrder::Entry;
+    std::vector<OfferIndex> m_offers; // one for each row
 };

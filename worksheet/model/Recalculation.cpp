@@ -111,6 +111,7 @@ void Worksheet::ShowPayoff(CLoan& offer, Row row) {
 void Worksheet::MarkRaised(Row row) {
     const Field field{FieldId::ActualPayment, row};
     Show(field);
+    m_raised.insert(OfferIndexOfRow(row));
     m_display->ShowMark(field, Mark::Raised);
     m_display->PaymentRaised();
 }

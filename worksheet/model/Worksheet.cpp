@@ -86,6 +86,7 @@ void Worksheet::SetCurrentNextPayment(Date date) {
 void Worksheet::GrowOfferArrays(Row from, Row to) {
     for (int row = from.value + 1; row <= to.value; ++row) {
         m_offers.emplace_back(*this).SetStartingAmount(m_loan.amount);
+        m_order.Append();
     }
 }
 
@@ -97,10 +98,11 @@ void Worksheet::Clear() {
     m_order = {};
     m_offers.clear();
     GrowOfferArrays(Row{-1}, highest);
+    ClearRaisedMarks();
+    m_display->ShowSortOrder(Order());
     ShowLoan();
     for (Row row{0}; row <= highest; ++row.value) {
         ShowOffer(row);
-        m_display->ShowMark({FieldId::ActualPayment, row}, Mark::None);
     }
     Recalculate(Payment | Schedule);
     m_dirty = false;

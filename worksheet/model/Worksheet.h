@@ -6,6 +6,7 @@
 #include "WorksheetDisplay.h"
 
 #include <functional>
+#include <set>
 #include <vector>
 
 /// One worksheet: the loan wanted, the loan held today and the offers, one a row.
@@ -76,8 +77,24 @@ public:
     const CLoan& OfferOfRow(Row row) const { return m_offers.at(OfferIndexOfRow(row).value); }
     /// The calculator itself, for whoever brings a whole offer; ShowOffer then shows it.
     CLoan& OfferOfRow(Row row) { return m_offers.at(OfferIndexOfRow(row).value); }
+    /// All of them in the order of entry, whatever the order of the rows.
+    const std::vector<CLoan>& OffersAsEntered() const { return m_offers; }
+    const CLoan& Offer(OfferIndex offer) const { return m_offers.at(offer.value); }
+    CLoan& Offer(OfferIndex offer) { return m_offers.at(offer.value); }
     /// Shows the inputs of the offer in this row, then calculates it and shows the results.
     void ShowOffer(Row row);
+
+    // The order of the rows. It stays until the next sort or Clear, whatever is entered meanwhile.
+    SortOrder Order() const { return m_order.Order(); }
+    /// The offers in the order of their keys (SortKeys.h), by what they hold now: nothing is
+    /// entered, raised or marked dirty. ShowOffers then shows the rows.
+    void SortByPayoffDate();
+    void SortByInterest();
+    /// Shows every row as its offer stands. No intended payment is raised, and a result that cannot
+    /// be computed is empty; that has been told when it was entered.
+    void ShowOffers();
+    /// Takes the marks of raised payments away.
+    void ClearRaisedMarks();
 
     // The worksheet as a whole.
     /// Back to how it started: nothing entered, the next payment today, nothing to save. The rows
@@ -94,6 +111,9 @@ public:
     bool Accepts(Field field, const QString& text) const;
     /// Stores what a number field holds. Throws ConversionFailure or OverflowFailure.
     void StoreNumber(Field field, const QString& text);
+    /// The same for a number of an offer that has been read already: points, rate, term or intended
+    /// payment.
+    void StoreOfferNumber(Field field, const FieldNumber& number);
     void StoreChoice(Field field, const QString& text);
     void StoreFinancePoints(Row row, bool financed);
     void StoreWho(Row row, const QString& who);
@@ -166,12 +186,15 @@ private:
     void Recalculate(unsigned pending);
     void SetStartingAmounts();
     void StoreLoanNumber(FieldId field, const FieldNumber& number);
-    void StoreOfferNumber(Field field, const FieldNumber& number);
     void StoreActualPayment(Row row, Money payment);
     void ShowAmount(Field field, Money amount) const;
     void ShowDate(Field field, Date date) const;
     void ShowPayoff(CLoan& offer, Row row);
     void ShowPayment(CLoan& offer, Row row);
+    void ShowAsItStands(Row row);
+    void ShowResultAsItStands(CLoan& offer, Field field);
+    template <class Key, class KeyOf>
+    void SortBy(SortOrder order, KeyOf keyOf);
     void MarkRaised(Row row);
     void MarkMissing(FieldId field, bool missing);
     FieldNumber NumberOf(Field field) const;
@@ -185,6 +208,7 @@ private:
     CurrentLoan m_current;
     std::vector<CLoan> m_offers;
     OfferOrder m_order;
+    std::set<OfferIndex> m_raised; // offers whose intended payment is marked
     bool m_dirty = false;
     bool m_paymentNoticeShown = false;
     bool m_paymentRefused = false;

@@ -3,6 +3,7 @@
 #include "Date.h"
 #include "Field.h"
 #include "Mark.h"
+#include "OfferOrder.h"
 
 #include <QString>
 
@@ -19,6 +20,9 @@ public:
     virtual void ShowMark(Field field, Mark mark) = 0;
     /// Whether the field shows its tooltip or, for a moment, none.
     virtual void ShowToolTip(Field field, bool shown) = 0;
+
+    /// What the rows are ordered by from now on.
+    virtual void ShowSortOrder(SortOrder order) = 0;
 
     /// An intended payment has been raised and marked; the mark is to go after a while.
     virtual void PaymentRaised() = 0;

@@ -316,7 +316,10 @@ void FieldHandlers::cboFrequency_LostFocus(int index) { StoreChoice({Frequency, 
 
 void FieldHandlers::txtWho_GotFocus(int index) { EnterRow(index); }
 bool FieldHandlers::txtWho_KeyDown(int index, int key) { return Move({Who, Row{index}}, key); }
+/// What was only looked at stays as it is, also where the field cannot show all of it.
 void FieldHandlers::txtWho_LostFocus(int index) {
     const auto* edit = m_controls->ControlOf<QLineEdit>({Who, Row{index}});
-    m_worksheet->StoreWho(Row{index}, edit->text());
+    if (edit->isModified()) {
+        m_worksheet->StoreWho(Row{index}, edit->text());
+    }
 }

@@ -31,7 +31,7 @@ public:
     /// False when it is refused; the user has been told.
     bool Commit();
 
-    /// The field being edited, if any.
+    /// The field being edited, if any, also while the window is not active.
     std::optional<Field> Edited() const { return m_edited; }
 
     /// Puts the field being edited, if any, into entry form: its value may be another one.

@@ -3,6 +3,7 @@
 #include "Captions.h"
 #include "FieldWidth.h"
 #include "Language.h"
+#include "LenderEdit.h"
 #include "Lists.h"
 #include "TextNumbers.h"
 #include "ui_Loan.h"
@@ -39,14 +40,18 @@ Loan::Loan(const World& world, Settings settings)
     : m_settings(std::move(settings)), m_ui(FormOf(*this)), m_messages(*world.messages),
       m_report(m_messages), m_controls(ControlsOf(*this)),
       m_display(m_controls, {.raised = [this] { m_notice.Start(); },
-                             .refused = [this] { m_notice.TellRefused(); }}),
+                             .refused = [this] { m_notice.TellRefused(); },
+                             .sorted = [this](SortOrder order) { m_offers.ShowSortOrder(order); }}),
       m_worksheet(m_display, {DisplayFormats(world.locale), m_settings.termInMonths}, world.today),
       m_columns(*m_ui->picHeadings, m_controls),
       m_rows({m_ui->picScroll, m_ui->picCanvas, m_ui->vsbLoans}, m_worksheet, m_controls,
              m_columns),
-      m_notice(*this, m_worksheet, m_messages, [this] { ClearRaisedMarks(); }),
+      m_notice(*this, m_worksheet, m_messages, [this] { m_worksheet.ClearRaisedMarks(); }),
       m_discipline(m_worksheet, m_controls, m_rows, m_messages),
       m_handlers(m_worksheet, m_controls, m_discipline), m_focus(m_handlers, m_controls, m_report),
+      m_offers(*this), m_values(m_worksheet, m_controls, m_focus, m_discipline),
+      m_dragHandlers(m_values, m_controls), m_dragging(*this, m_dragHandlers, m_controls, m_report),
+      m_clipboard(m_values, m_controls, m_messages, m_report),
       m_languages(*m_ui->mnuToolsLanguage, {m_ui->mnuToolsLanguageOpt1, m_ui->mnuToolsLanguageOpt2},
                   {.commit = [this] { return m_focus.Commit(); },
                    .guard = [this](const auto& handler) { m_report.Guard(handler); },
@@ -98,7 +103,10 @@ void Loan::WireFields() {
 
 void Loan::WireRow(int row, const QWidget* controls) {
     m_focus.Watch(*controls);
+    m_dragging.Watch(Row{row});
+    m_clipboard.Watch(Row{row});
     WireChoice({FieldId::Frequency, Row{row}});
+    m_offers.Watch(*m_controls.ControlOf<LenderEdit>({FieldId::Who, Row{row}}), Row{row});
     const Field points{FieldId::FinancePoints, Row{row}};
     connect(m_controls.ControlOf<QCheckBox>(points), &QCheckBox::clicked, this,
             [this, points] { m_report.Guard([&] { m_handlers.Click(points); }); });
@@ -222,10 +230,4 @@ void Loan::paintEvent(QPaintEvent* event) {
     QMainWindow::paintEvent(event);
     QPainter painter(this);
     m_wallpaper.Paint(painter, size());
-}
-
-void Loan::ClearRaisedMarks() {
-    for (Row row{0}; row <= m_rows.HighestOfferRow(); ++row.value) {
-        m_display.ShowMark({FieldId::ActualPayment, row}, Mark::None);
-    }
 }

@@ -1,16 +1,22 @@
 #pragma once
 
 #include "ControlMap.h"
+#include "DragHandlers.h"
 #include "FailureReport.h"
+#include "FieldClipboard.h"
 #include "FieldDiscipline.h"
 #include "FieldHandlers.h"
 #include "FocusTranslator.h"
 #include "LanguageMenu.h"
 #include "Messages.h"
 #include "OfferColumns.h"
+#include "OfferCommands.h"
+#include "OfferDragging.h"
 #include "OfferRows.h"
 #include "PaymentNotice.h"
 #include "Settings.h"
+#include "ToolkitTexts.h"
+#include "ValueExchange.h"
 #include "Wallpaper.h"
 #include "WindowDisplay.h"
 #include "Worksheet.h"
@@ -90,7 +96,6 @@ private:
     void MeasureFields();
     void FitHeight();
     void LoadWallpaper();
-    void ClearRaisedMarks();
 
     // First, because making the form raises events that ask for it.
     bool m_loaded = false;
@@ -108,6 +113,12 @@ private:
     FieldDiscipline m_discipline;
     FieldHandlers m_handlers;
     FocusTranslator m_focus;
+    OfferCommands m_offers;
+    ValueExchange m_values;
+    DragHandlers m_dragHandlers;
+    OfferDragging m_dragging;
+    FieldClipboard m_clipboard;
+    ToolkitTexts m_toolkitTexts;
     LanguageMenu m_languages;
     Wallpaper m_wallpaper;
 };

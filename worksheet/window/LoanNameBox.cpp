@@ -7,6 +7,7 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
 #include <QScreen>
 #include <QScrollBar>
 
@@ -17,6 +18,10 @@ LoanNameBox::LoanNameBox(QWidget* parent) : QComboBox(parent) {
     setEditable(true);
     setInsertPolicy(NoInsert);
     setCompleter(nullptr); // a name like another one must be typed as meant
+    // One line each: thousands need not be measured before the list can show.
+    if (auto* const list = qobject_cast<QListView*>(view())) {
+        list->setUniformItemSizes(true);
+    }
     lineEdit()->installEventFilter(this);
     connect(this, &QComboBox::activated, this, &LoanNameBox::OnActivated);
 }
@@ -31,10 +36,27 @@ void LoanNameBox::showPopup() {
     QComboBox::showPopup();
 }
 
+/// The names with the most letters: of thousands, measuring each would take longer than showing
+/// them.
+int LoanNameBox::WidthOfLongNames() const {
+    qsizetype letters = 0;
+    for (int name = 0; name < count(); ++name) {
+        letters = std::max(letters, itemText(name).size());
+    }
+    int width = 0;
+    int measured = 0;
+    for (int name = 0; name < count() && measured < 100; ++name) {
+        if (itemText(name).size() >= letters * 3 / 4) {
+            width = std::max(width, view()->sizeHintForIndex(model()->index(name, 0)).width());
+            ++measured;
+        }
+    }
+    return width;
+}
+
 /// Names alike in their first words can be told apart only where they are seen whole.
 void LoanNameBox::FitListToNames() {
-    const int names =
-        view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width();
+    const int names = WidthOfLongNames() + view()->verticalScrollBar()->sizeHint().width();
     const int room = screen()->availableGeometry().width() * 3 / 4;
     view()->setTextElideMode(Qt::ElideMiddle);
     view()->setMinimumWidth(std::max(width(), std::min(names, room)));

@@ -29,6 +29,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    int WidthOfLongNames() const;
     void FitListToNames();
     void OnActivated(int index);
 

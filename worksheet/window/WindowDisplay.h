@@ -10,8 +10,9 @@ class ControlMap;
 class WindowDisplay : public WorksheetDisplay {
 public:
     struct Notices {
-        std::function<void()> raised;  ///< an intended payment has been raised
-        std::function<void()> refused; ///< an intended payment was refused
+        std::function<void()> raised;          ///< an intended payment has been raised
+        std::function<void()> refused;         ///< an intended payment was refused
+        std::function<void(SortOrder)> sorted; ///< the rows are in this order
     };
     WindowDisplay(const ControlMap& controls, Notices notices);
 
@@ -20,6 +21,7 @@ public:
     void ShowDate(Field field, Date date) override;
     void ShowMark(Field field, Mark mark) override;
     void ShowToolTip(Field field, bool shown) override;
+    void ShowSortOrder(SortOrder order) override { m_notices.sorted(order); }
     void PaymentRaised() override { m_notices.raised(); }
     void PaymentRefused() override { m_notices.refused(); }
 

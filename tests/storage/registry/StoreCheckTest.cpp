@@ -141,6 +141,34 @@ TEST_F(StoreCheckTest, NoiseOverAnyPageCostsThatPageOnly) {
     EXPECT_EQ(keysLost, 0); // their names stand on two pages
 }
 
+TEST_F(StoreCheckTest, DamageWhileTheProgramRunsIsRepairedByTheNextSave) {
+    const std::string whole = Build();
+    std::size_t repaired = 0;
+    for (std::size_t page = 0; page < whole.size() / PageSize; ++page) {
+        SCOPED_TRACE(page);
+        fs::remove_all(store.parent_path());
+        fs::create_directory(store.parent_path());
+        const std::string damaged = Over(page * PageSize, PageSize)(whole);
+        WriteBytes(store, damaged);
+        int runs = 0;
+        registry.InOneStep([&](const RegistryAPI& step) {
+            ++runs;
+            SaveWorksheet(step, "3", "new");
+            step.DeleteKey(User, Base + "\\No such key");
+        });
+        EXPECT_EQ(MarkOf(registry, "3"), "new");
+        if (runs == 2) {
+            ++repaired;
+            EXPECT_TRUE(IsSound(StoreImage(store)));
+            EXPECT_EQ(registry.GetSubKeys(User, Base).size(), std::size_t{Worksheets});
+            // The folder holds the store, its log and what goes with it, and the damaged file.
+            const auto isKept = [&](const auto& entry) { return BytesOf(entry.path()) == damaged; };
+            EXPECT_TRUE(std::any_of(fs::directory_iterator(store.parent_path()), {}, isKept));
+        }
+    }
+    EXPECT_GE(repaired, 4U); // the first page, and the roots of the three trees
+}
+
 TEST_F(StoreCheckTest, ALostPageOfKeysLeavesTheirNamesInUpperCase) {
     registry.CreateKey(User, Base + "\\Préstamo");
     registry.SetValue(User, Base + "\\Préstamo", "Rate", RegistryType::Text, "6.5");

@@ -115,6 +115,7 @@ const QStringList CurrentBand = {u"txtCurLoanAmount"_qs,    u"txtCurLoanTerm"_qs
                                  u"txtCurInterestRate"_qs,  u"cboCurPaymentFrequency"_qs,
                                  u"txtCurActualPayment"_qs, u"cboActPaymentFrequency"_qs,
                                  u"dtNextPayment"_qs,       u"txtCurrentBalance"_qs};
+const QStringList Headings = {u"cmdPayoffDate"_qs, u"cmdInterest"_qs};
 const QStringList RowBand = {u"chkPoints(%1)"_qs,       u"txtPoints(%1)"_qs,
                              u"txtInterestRate(%1)"_qs, u"txtTerm(%1)"_qs,
                              u"cboFrequency(%1)"_qs,    u"txtActualPayment(%1)"_qs,
@@ -125,7 +126,7 @@ protected:
     TabOrder() { Open(); }
 
     static QStringList ExpectedOrder(int rows) {
-        QStringList order = UpperBand + CurrentBand;
+        QStringList order = UpperBand + CurrentBand + Headings;
         for (int row = 0; row < rows; ++row) {
             for (const QString& field : RowBand) {
                 order.append(field.arg(row));

@@ -1,0 +1,217 @@
+// What the user waits for when worksheets are kept: a full one of sixteen offers saved and loaded,
+// ten thousand listed, and their list dropped down in the window. "flushes" are the system's calls
+// that wait for the disk, for each save, "flush_ms" is how long they wait, and "rest_ms" is what
+// remains for everything else. A figure that misses its aim ends in an error.
+
+#include "FileCommands.h"
+#include "FlushCount.h"
+#include "Frequency.h"
+#include "Language.h"
+#include "Loan.h"
+#include "LoanForm.h"
+#include "LoanNameBox.h"
+#include "LoanStore.h"
+#include "Sheet.h"
+#include "StoreCheck.h"
+#include "StoreFolder.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+
+#include <array>
+#include <chrono>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Milliseconds = std::chrono::duration<double, std::milli>;
+
+constexpr int Rows = 16;
+constexpr int ManyWorksheets = 10'000;
+
+/// Every value that a worksheet keeps, of sixteen offers.
+void FillSheet(Worksheet& worksheet) {
+    worksheet.SetLoanName(QStringLiteral("Our new home"));
+    worksheet.SetLoanType(QStringLiteral("M"));
+    worksheet.SetLoanAmount(Money::FromDouble(250'000.5));
+    worksheet.SetLoanTerm(360);
+    worksheet.SetEscrowTaxes(Money::FromDouble(3'600));
+    worksheet.SetEscrowInsurance(Money::FromDouble(1'200.25));
+    worksheet.SetCurrentLoanAmount(Money::FromDouble(230'000));
+    worksheet.SetCurrentTerm(342);
+    worksheet.SetCurrentInterestRate(0.07125);
+    worksheet.SetCurrentBalance(Money::FromDouble(198'450.75));
+    worksheet.SetCurrentActualFrequency(FrequencyCodeToText(QStringLiteral("M")));
+    worksheet.SetCurrentActualPayment(Money::FromDouble(2'050));
+    for (Row row{0}; row.value < Rows; ++row.value) {
+        CLoan& offer = worksheet.OfferOfRow(row);
+        offer.SetFinancePoints(true);
+        offer.SetPoints(1.125);
+        offer.SetTerm(360);
+        offer.SetInterestRate(0.055 + 0.00125 * row.value);
+        offer.SetFrequencyCode(QStringLiteral("M"));
+        offer.SetActualPayment(Money::FromDouble(5'000));
+        offer.SetWho(QStringLiteral("First Prairie Bank, office %1").arg(row.value));
+    }
+}
+
+/// The mean of the rounds counts against the aim.
+class Rounds {
+public:
+    explicit Rounds(benchmark::State& state) : m_state(&state) {}
+
+    void Add(Clock::time_point start) {
+        const Milliseconds time = Clock::now() - start;
+        m_state->SetIterationTime(time.count() / 1'000);
+        m_sum += time.count();
+        ++m_count;
+    }
+    void ExpectBelow(double aim) {
+        m_state->counters["aim_ms"] = aim;
+        if (m_sum / m_count >= aim) {
+            m_state->SkipWithError("misses its aim");
+        }
+    }
+
+private:
+    benchmark::State* m_state;
+    double m_sum = 0;
+    int m_count = 0;
+};
+
+LoanStore OpenStoreOf(const StoreFolder& folder, int worksheets) {
+    const RegistryAPI store = folder.Store();
+    Sheet sheet(QLocale::c(), Rows);
+    FillSheet(sheet.worksheet);
+    const LoanStore loans(store);
+    for (int i = 0; i < worksheets; ++i) {
+        sheet.worksheet.SetLoanName(QStringLiteral("Loan %1").arg(i));
+        loans.Save(sheet.worksheet);
+    }
+    TidyStore(folder.File());
+    return loans;
+}
+
+void SaveOfAFullWorksheet(benchmark::State& state) {
+    const StoreFolder folder;
+    const LoanStore loans = OpenStoreOf(folder, 100);
+    Sheet sheet(QLocale::c(), Rows);
+    FillSheet(sheet.worksheet);
+    loans.Save(sheet.worksheet);
+    const int flushes = FlushCount();
+    const auto flushTime = FlushTime();
+    const auto begin = Clock::now();
+    Rounds rounds(state);
+    for ([[maybe_unused]] auto round : state) {
+        const auto start = Clock::now();
+        loans.Save(sheet.worksheet);
+        rounds.Add(start);
+    }
+    constexpr auto perRound = benchmark::Counter::kAvgIterations;
+    const double waited = Milliseconds(FlushTime() - flushTime).count();
+    const double all = Milliseconds(Clock::now() - begin).count();
+    state.counters["flushes"] = benchmark::Counter(FlushCount() - flushes, perRound);
+    state.counters["flush_ms"] = benchmark::Counter(waited, perRound);
+    state.counters["rest_ms"] = benchmark::Counter(all - waited, perRound);
+    rounds.ExpectBelow(20);
+}
+BENCHMARK(SaveOfAFullWorksheet)->Unit(benchmark::kMillisecond)->Iterations(100)->UseManualTime();
+
+void LoadOfAFullWorksheet(benchmark::State& state) {
+    const StoreFolder folder;
+    const LoanStore loans = OpenStoreOf(folder, 100);
+    Sheet sheet(QLocale::c(), Rows);
+    Rounds rounds(state);
+    for ([[maybe_unused]] auto round : state) {
+        const auto start = Clock::now();
+        const auto failures =
+            loans.Load(sheet.worksheet, QStringLiteral("Loan 50"), [](Row /*last*/) {});
+        rounds.Add(start);
+        if (!failures.empty() || sheet.worksheet.OfferOfRow(Row{Rows - 1}).Who().isEmpty()) {
+            state.SkipWithError("not all of it");
+        }
+    }
+    rounds.ExpectBelow(10);
+}
+BENCHMARK(LoadOfAFullWorksheet)->Unit(benchmark::kMillisecond)->UseManualTime();
+
+/// Ten thousand worksheets; what else is in them makes no difference to their list.
+void MakeMany(const RegistryAPI& store) {
+    store.InOneStep([](const RegistryAPI& step) {
+        for (int i = 0; i < ManyWorksheets; ++i) {
+            const std::string key = StoreFolder::LoanKey("Our home, offer " + std::to_string(i));
+            step.CreateKey(StoreFolder::Root, key);
+            step.SetValue(StoreFolder::Root, key, "LoanName", RegistryType::Text, "Our home");
+        }
+    });
+}
+
+void ListOfTenThousandWorksheets(benchmark::State& state) {
+    const StoreFolder folder;
+    MakeMany(folder.Store());
+    const LoanStore loans(folder.Store());
+    Rounds rounds(state);
+    for ([[maybe_unused]] auto round : state) {
+        const auto start = Clock::now();
+        const QStringList names = loans.Names();
+        rounds.Add(start);
+        if (names.size() != ManyWorksheets) {
+            state.SkipWithError("not all of them");
+        }
+    }
+    rounds.ExpectBelow(50);
+}
+BENCHMARK(ListOfTenThousandWorksheets)->Unit(benchmark::kMillisecond)->UseManualTime();
+
+class NoMessages : public MessageDoor {
+public:
+    void Show(const QString& /*text*/) override {}
+    Answer Ask(const Question& /*question*/) override { return Answer::No; }
+};
+
+/// From the key that opens the list to the list standing there, painted.
+void DropDownOfTenThousandWorksheets(benchmark::State& state) {
+    const StoreFolder folder;
+    MakeMany(folder.Store());
+    NoMessages messages;
+    Language::Instance().SetCurrentLanguage(1);
+    Loan window({.messages = &messages,
+                 .locale = QLocale::c(),
+                 .today = [] { return Date::FromCalendar(2026, 11, 21); }},
+                Settings{});
+    const FileCommands files(window, LoanStore(folder.Store()));
+    window.show();
+    QCoreApplication::processEvents();
+    LoanNameBox& box = *window.Form().cboLoanName;
+    Rounds rounds(state);
+    for ([[maybe_unused]] auto round : state) {
+        const auto start = Clock::now();
+        box.showPopup();
+        QCoreApplication::processEvents();
+        rounds.Add(start);
+        if (box.count() != ManyWorksheets + 1 || !box.view()->isVisible()) {
+            state.SkipWithError("the list is not there");
+        }
+        box.hidePopup();
+        QCoreApplication::processEvents();
+    }
+    rounds.ExpectBelow(50);
+}
+BENCHMARK(DropDownOfTenThousandWorksheets)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(30)
+    ->UseManualTime();
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
+    Language::Instance().LoadLanguage(1);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,26 @@
+#include "AboutCommands.h"
+
+#include "Language.h"
+#include "Loan.h"
+#include "LoanForm.h"
+#include "TextNumbers.h"
+#include "frmAbout.h"
+
+#include <utility>
+
+AboutCommands::AboutCommands(Loan& window, RegistryAPI store, SystemInfoDoors doors)
+    : m_window(&window), m_store(std::move(store)), m_doors(std::move(doors)) {
+    QAction* entry = window.Form().mnuHelpAbout;
+    entry->setEnabled(true);
+    connect(entry, &QAction::triggered, this,
+            [this] { m_window->Report().Guard([this] { mnuHelpAbout_Click(); }); });
+}
+
+void AboutCommands::mnuHelpAbout_Click() {
+    frmAbout about(*m_window, [this] {
+        if (!StartSysInfo(m_store, m_doors)) {
+            m_window->GetMessages().Post(GetResourceText(TextNumber::NoSystemInfo));
+        }
+    });
+    about.exec();
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "RegistryAPI.h"
+#include "SystemInfo.h"
+
+#include <QObject>
+
+class Loan;
+
+/// The About entry of the Help menu.
+class AboutCommands : public QObject {
+    Q_OBJECT
+
+public:
+    /// The window outlives the commands. Enables the entry.
+    AboutCommands(Loan& window, RegistryAPI store, SystemInfoDoors doors);
+
+private:
+    void mnuHelpAbout_Click();
+
+    Loan* m_window;
+    RegistryAPI m_store;
+    SystemInfoDoors m_doors;
+};

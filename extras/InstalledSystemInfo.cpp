@@ -1,0 +1,29 @@
+#include "InstalledSystemInfo.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <array>
+
+namespace {
+
+/// In order of preference: those that only inform come before those that also change settings.
+constexpr std::array Tools{"kinfocenter", "hardinfo2", "hardinfo",
+                           "cpu-x",       "lshw-gtk",  "gnome-control-center"};
+
+std::optional<QString> FirstInstalled() {
+    for (const char* tool : Tools) {
+        const QString path = QStandardPaths::findExecutable(QString::fromLatin1(tool));
+        if (!path.isEmpty()) {
+            return path;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+SystemInfoDoors InstalledSystemInfo() {
+    return {.installed = FirstInstalled,
+            .start = [](const QString& path) { return QProcess::startDetached(path, {}); }};
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+/// What is put into a new message before its writer sees it.
+struct MailMessage {
+    QString subject;
+    QString body; ///< lines end in "\n"
+};
+
+/// The user's mail client. The one door for messages; nothing goes out through it that the user has
+/// not seen and sent.
+class MailDoor {
+public:
+    MailDoor() = default;
+    MailDoor(const MailDoor&) = delete;
+    MailDoor& operator=(const MailDoor&) = delete;
+    MailDoor(MailDoor&&) = delete;
+    MailDoor& operator=(MailDoor&&) = delete;
+    virtual ~MailDoor() = default;
+
+    /// The number of a session, 0 when there is none.
+    virtual int SignOn() = 0;
+    /// Shows the message to the user, who edits, sends or discards it.
+    virtual void Send(int session, const MailMessage& message) = 0;
+    virtual void SignOff(int session) = 0;
+};

@@ -1,0 +1,16 @@
+#include "ProgramIcon.h"
+
+#include <QDir>
+
+// The pictures stand in a library, which leaves out what nobody asks for. The macro does not work
+// inside a namespace.
+static void LoadPictures() { Q_INIT_RESOURCE(icon); }
+
+QIcon ProgramIcon() {
+    LoadPictures();
+    QIcon icon;
+    for (const int size : {32, 64, 128}) {
+        icon.addFile(QStringLiteral(":/icon/loan-%1.png").arg(size), QSize(size, size));
+    }
+    return icon;
+}

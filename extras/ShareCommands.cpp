@@ -1,0 +1,45 @@
+#include "ShareCommands.h"
+
+#include "Language.h"
+#include "Loan.h"
+#include "LoanForm.h"
+#include "MailDoor.h"
+#include "TextNumbers.h"
+
+#include <utility>
+
+namespace {
+
+const QLatin1String Marker("?ID");
+
+} // namespace
+
+QString ShareBody(const QString& text, const QString& referral) {
+    const bool known = referral.toDouble() != 0.0;
+    QString body = text;
+    const qsizetype at = body.indexOf(Marker);
+    return at < 0 ? body
+                  : body.replace(at, Marker.size(),
+                                 known ? QStringLiteral("?ref=") + referral : QString());
+}
+
+ShareCommands::ShareCommands(Loan& window, MailDoor& mail, QString referral)
+    : m_mail(&mail), m_referral(std::move(referral)) {
+    QPushButton* button = window.Form().cmdShare;
+    button->setEnabled(true);
+    connect(button, &QPushButton::clicked, this, &ShareCommands::cmdShare_Click);
+}
+
+/// No mail client, or one that fails, is no matter for a message box.
+void ShareCommands::cmdShare_Click() {
+    try {
+        const int session = m_mail->SignOn();
+        if (session == 0) {
+            return;
+        }
+        const QString body = ShareBody(GetResourceText(TextNumber::MailBody), m_referral);
+        m_mail->Send(session, {GetResourceText(TextNumber::MailSubject), body});
+        m_mail->SignOff(session);
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): silence is what is wanted
+    }
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QDialog>
+
+#include <functional>
+#include <memory>
+
+namespace Ui {
+class frmAbout;
+}
+
+/// The About box: what the version record says of the program. What its System Info button does is
+/// told it.
+class frmAbout : public QDialog {
+    Q_OBJECT
+
+public:
+    frmAbout(QWidget& parent, const std::function<void()>& startSysInfo);
+    frmAbout(const frmAbout&) = delete;
+    frmAbout& operator=(const frmAbout&) = delete;
+    frmAbout(frmAbout&&) = delete;
+    frmAbout& operator=(frmAbout&&) = delete;
+    ~frmAbout() override;
+
+private:
+    void Form_Load();
+
+    std::unique_ptr<Ui::frmAbout> m_ui;
+};

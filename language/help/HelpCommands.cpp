@@ -1,0 +1,157 @@
+#include "HelpCommands.h"
+
+#include "HelpBook.h"
+#include "HelpTopic.h"
+#include "HelpWindow.h"
+#include "Language.h"
+#include "Loan.h"
+#include "LoanForm.h"
+#include "TextNumbers.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QUrl>
+#include <QWhatsThis>
+
+namespace {
+
+/// What the user is at: the entry marked in an open menu, else the control with the keyboard.
+const QObject* AskedAbout() {
+    const QWidget* popup = QApplication::activePopupWidget();
+    if (const auto* menu = qobject_cast<const QMenu*>(popup)) {
+        const QAction* entry = menu->activeAction();
+        return entry ? static_cast<const QObject*>(entry) : menu;
+    }
+    const QWidget* focus = QApplication::focusWidget();
+    return popup ? popup : focus ? focus : QApplication::activeWindow();
+}
+
+/// The window that help is shown beside.
+QWidget& ActiveWindow(Loan& loan) {
+    QWidget* active = QApplication::activeWindow();
+    return active ? *active : loan;
+}
+
+} // namespace
+
+HelpCommands::HelpCommands(Loan& window) : m_loan(&window) {
+    const Ui::Loan& form = window.Form();
+    form.mnuHelpContents->setEnabled(true);
+    form.mnuHelpSearch->setEnabled(true);
+    form.cmdWhatsThis->setEnabled(true);
+    connect(form.mnuHelpContents, &QAction::triggered, this, &HelpCommands::mnuHelpContents_Click);
+    connect(form.mnuHelpSearch, &QAction::triggered, this, &HelpCommands::mnuHelpSearch_Click);
+    connect(form.cmdWhatsThis, &QPushButton::clicked, this, &HelpCommands::cmdWhatsThis_Click);
+    connect(&m_whatsThis, &WhatsThisMode::Asked, this, &HelpCommands::ShowWhatsThis);
+    // Queued: the entry is chosen before the language has changed.
+    connect(form.mnuToolsLanguage, &QMenu::triggered, this, &HelpCommands::FollowLanguage,
+            Qt::QueuedConnection);
+    qApp->installEventFilter(this);
+}
+
+HelpCommands::~HelpCommands() = default;
+
+void HelpCommands::mnuHelpContents_Click() {
+    Try([this] { Window().Open(HelpWindow::Side::Contents, *m_loan); });
+}
+
+void HelpCommands::mnuHelpSearch_Click() {
+    Try([this] { Window().Open(HelpWindow::Side::Search, *m_loan); });
+}
+
+void HelpCommands::cmdWhatsThis_Click() { m_whatsThis.Begin(); }
+
+bool HelpCommands::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::WhatsThisClicked) {
+        FollowLink(static_cast<QWhatsThisClickedEvent*>(event)->href());
+        return true;
+    }
+    if (event->type() != QEvent::KeyPress) {
+        return QObject::eventFilter(watched, event);
+    }
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (key.key() != Qt::Key_F1 || (key.modifiers() & ~Qt::ShiftModifier) != 0) {
+        return false;
+    }
+    if (!key.isAutoRepeat()) {
+        if ((key.modifiers() & Qt::ShiftModifier) != 0) {
+            m_whatsThis.Begin();
+        } else {
+            OnHelpKey();
+        }
+    }
+    return true;
+}
+
+void HelpCommands::OnHelpKey() {
+    m_whatsThis.End();
+    const QObject* asked = AskedAbout();
+    const int topic = asked ? TopicOf(asked) : 0;
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        if (!popup->close()) {
+            break;
+        }
+    }
+    ShowTopic(topic);
+}
+
+/// A control without a topic is explained by the beginning.
+void HelpCommands::ShowTopic(int topic) {
+    Try([this, topic] {
+        const QUrl page = Book().PageOfTopic(topic);
+        Window().Open(page.isEmpty() ? Book().FirstPage() : page, ActiveWindow(*m_loan));
+    });
+}
+
+void HelpCommands::ShowWhatsThis(int topic, const QPoint& at, QWidget* window) {
+    Try([&] {
+        const QString text = Book().TopicText(topic);
+        if (!text.isEmpty()) {
+            const QUrl page = Book().PageOfTopic(topic);
+            const QString link = page.fileName() + u'#' + page.fragment();
+            QWhatsThis::showText(at,
+                                 text + QStringLiteral("<p><a href=\"%1\">%2</a></p>")
+                                            .arg(link, GetResourceText(TextNumber::HelpMore)),
+                                 window);
+        }
+    });
+}
+
+void HelpCommands::FollowLink(const QString& link) {
+    QWhatsThis::hideText();
+    Try([this, &link] { Window().Open(Book().Page(link), ActiveWindow(*m_loan)); });
+}
+
+/// Help that is not in view follows when it is asked for next.
+void HelpCommands::FollowLanguage() {
+    if (m_help && m_help->isVisible()) {
+        Try([this] { Window(); });
+    }
+}
+
+void HelpCommands::Try(const std::function<void()>& help) {
+    try {
+        help();
+    } catch (const std::exception& failure) {
+        m_loan->GetMessages().Post(QString::fromUtf8(failure.what()));
+    }
+}
+
+HelpBook& HelpCommands::Book() {
+    const QString file = QFileInfo(Language::Instance().HelpFile()).absoluteFilePath();
+    if (!m_book || m_book->File() != file) {
+        m_book = std::make_shared<HelpBook>(file);
+    }
+    return *m_book;
+}
+
+HelpWindow& HelpCommands::Window() {
+    Book();
+    if (!m_help) {
+        m_help = std::make_unique<HelpWindow>(HelpPlace{});
+    }
+    m_help->SetBook(m_book);
+    return *m_help;
+}

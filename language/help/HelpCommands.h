@@ -1,0 +1,58 @@
+#pragma once
+
+#include "WhatsThisMode.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+class HelpBook;
+class HelpWindow;
+class Loan;
+class QPoint;
+class QUrl;
+class QWidget;
+
+/// The Help menu's Contents and Search, the F1 key, and what's-this help, all from the help file of
+/// the language in use. A file that is missing or damaged is told in its own words, and nothing
+/// else happens.
+class HelpCommands : public QObject {
+    Q_OBJECT
+
+public:
+    /// The window outlives the commands. Enables the entries and the button.
+    explicit HelpCommands(Loan& window);
+    HelpCommands(const HelpCommands&) = delete;
+    HelpCommands& operator=(const HelpCommands&) = delete;
+    HelpCommands(HelpCommands&&) = delete;
+    HelpCommands& operator=(HelpCommands&&) = delete;
+    ~HelpCommands() override;
+
+    /// Null until the help was shown for the first time.
+    HelpWindow* Shown() const { return m_help.get(); }
+    bool IsAsking() const { return m_whatsThis.IsOn(); }
+
+protected:
+    /// The keys of help, in every window of the program, and the links in what's-this help.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void mnuHelpContents_Click();
+    void mnuHelpSearch_Click();
+    void cmdWhatsThis_Click();
+    void OnHelpKey();
+    void ShowTopic(int topic);
+    void ShowWhatsThis(int topic, const QPoint& at, QWidget* window);
+    void FollowLink(const QString& link);
+    void FollowLanguage();
+
+    void Try(const std::function<void()>& help);
+    HelpBook& Book();
+    HelpWindow& Window();
+
+    Loan* m_loan;
+    WhatsThisMode m_whatsThis;
+    std::shared_ptr<HelpBook> m_book;
+    std::unique_ptr<HelpWindow> m_help;
+};

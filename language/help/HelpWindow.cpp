@@ -1,0 +1,241 @@
+#include "HelpWindow.h"
+
+#include "Captions.h"
+#include "HelpBook.h"
+#include "Language.h"
+#include "TextNumbers.h"
+#include "ui_HelpWindow.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QShortcut>
+#include <QWindow>
+#include <QtHelp/QHelpContentModel>
+#include <QtHelp/QHelpIndexModel>
+#include <QtHelp/QHelpSearchEngine>
+
+#include <utility>
+
+namespace {
+
+constexpr int MostFound = 100;
+
+/// Every word, begun or whole: what stands between them means something to the search.
+QString QueryOf(const QString& typed) {
+    const QRegularExpression gap(QStringLiteral("[^\\w]+"),
+                                 QRegularExpression::UseUnicodePropertiesOption);
+    QStringList words = typed.split(gap, Qt::SkipEmptyParts);
+    for (QString& word : words) {
+        word += u'*';
+    }
+    return words.join(u' ');
+}
+
+} // namespace
+
+HelpWindow::HelpWindow(const HelpPlace& place)
+    : m_ui(std::make_unique<Ui::HelpWindow>()), m_place(place) {
+    m_ui->setupUi(this);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    m_ui->splHelp->setStretchFactor(1, 1);
+    m_ui->lblNotFound->hide();
+    m_keywords.setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_keywords.setSortCaseSensitivity(Qt::CaseInsensitive);
+    m_keywords.setSortLocaleAware(true);
+    m_ui->lstIndex->setModel(&m_keywords);
+    ListKeywords({});
+    Wire();
+}
+
+/// Views and models of the book go before the book.
+HelpWindow::~HelpWindow() {
+    m_ui->treContents->setModel(nullptr);
+    m_keywords.setSourceModel(nullptr);
+    m_ui->txtPage->SetBook(nullptr);
+}
+
+void HelpWindow::Wire() {
+    connect(m_ui->cmdBack, &QPushButton::clicked, m_ui->txtPage, &QTextBrowser::backward);
+    connect(m_ui->cmdForward, &QPushButton::clicked, m_ui->txtPage, &QTextBrowser::forward);
+    connect(m_ui->txtPage, &QTextBrowser::backwardAvailable, m_ui->cmdBack, &QWidget::setEnabled);
+    connect(m_ui->txtPage, &QTextBrowser::forwardAvailable, m_ui->cmdForward, &QWidget::setEnabled);
+    m_ui->cmdBack->setEnabled(false);
+    m_ui->cmdForward->setEnabled(false);
+
+    connect(m_ui->treContents, &QTreeView::activated, this, &HelpWindow::ShowChapter);
+    connect(m_ui->treContents, &QTreeView::clicked, this, &HelpWindow::ShowChapter);
+    connect(m_ui->txtKeyword, &QLineEdit::textEdited, this, &HelpWindow::ListKeywords);
+    connect(m_ui->txtKeyword, &QLineEdit::returnPressed, this,
+            [this] { ShowKeyword(m_ui->lstIndex->currentIndex()); });
+    connect(m_ui->lstIndex, &QListView::activated, this, &HelpWindow::ShowKeyword);
+    connect(m_ui->lstIndex, &QListView::clicked, this, &HelpWindow::ShowKeyword);
+
+    connect(m_ui->txtWords, &QLineEdit::returnPressed, this, &HelpWindow::Find);
+    connect(m_ui->cmdFind, &QPushButton::clicked, this, &HelpWindow::Find);
+    connect(m_ui->lstFound, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* found) {
+        if (found) {
+            ShowPage(found->data(Qt::UserRole).toUrl());
+        }
+    });
+
+    const auto key = [this](const QKeySequence& keys, const auto& action) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, m_ui->txtPage, action);
+    };
+    key(QKeySequence::ZoomIn, [this] { m_ui->txtPage->zoomIn(); });
+    key(QKeySequence::ZoomOut, [this] { m_ui->txtPage->zoomOut(); });
+    key(QKeySequence::Back, [this] { m_ui->txtPage->backward(); });
+    key(QKeySequence::Forward, [this] { m_ui->txtPage->forward(); });
+}
+
+void HelpWindow::ShowTexts() {
+    ApplyTexts(*this, TermUnit::Years);
+    m_ui->tabHelp->setTabText(0, GetResourceText(TextNumber::HelpContents));
+    m_ui->tabHelp->setTabText(1, GetResourceText(TextNumber::HelpIndex));
+    m_ui->tabHelp->setTabText(2, GetResourceText(TextNumber::HelpSearch));
+    m_ui->lblNotFound->setText(GetResourceText(TextNumber::HelpNotFound));
+}
+
+void HelpWindow::SetBook(std::shared_ptr<HelpBook> book) {
+    if (book == m_book) {
+        return;
+    }
+    const QUrl before = PageInView();
+    m_ui->lstFound->clear();
+    m_ui->lblNotFound->hide();
+    m_ui->treContents->setModel(book->Engine().contentModel());
+    m_keywords.setSourceModel(book->Engine().indexModel());
+    m_keywords.sort(0);
+    m_ui->txtPage->SetBook(book.get());
+    m_book = std::move(book);
+
+    QHelpSearchEngine* search = m_book->Engine().searchEngine();
+    m_read = false;
+    m_wanted.clear();
+    connect(search, &QHelpSearchEngine::indexingFinished, this, [this] {
+        m_read = true;
+        Find();
+    });
+    connect(search, &QHelpSearchEngine::searchingFinished, this, &HelpWindow::ListFound);
+    connect(m_book->Engine().contentModel(), &QHelpContentModel::contentsCreated, this,
+            &HelpWindow::UnfoldContents);
+    UnfoldContents();
+    search->reindexDocumentation();
+
+    ShowTexts();
+    QUrl same = m_book->Page(before.fileName());
+    same.setFragment(before.fragment());
+    ShowPage(!before.isEmpty() && m_book->Has(same) ? same : m_book->FirstPage());
+}
+
+void HelpWindow::UnfoldContents() {
+    m_ui->treContents->expandAll();
+    m_ui->treContents->setCurrentIndex(m_ui->treContents->model()->index(0, 0));
+}
+
+QUrl HelpWindow::PageInView() const { return m_ui->txtPage->source(); }
+
+void HelpWindow::ShowPage(const QUrl& page) {
+    if (!page.isEmpty()) {
+        m_ui->txtPage->setSource(page);
+    }
+}
+
+void HelpWindow::ShowChapter(const QModelIndex& chapter) {
+    const auto* contents = qobject_cast<QHelpContentModel*>(m_ui->treContents->model());
+    const QHelpContentItem* item = contents ? contents->contentItemAt(chapter) : nullptr;
+    if (item) {
+        ShowPage(item->url());
+    }
+}
+
+void HelpWindow::ShowKeyword(const QModelIndex& keyword) {
+    ShowPage(m_book->PageOfKeyword(keyword.data().toString()));
+}
+
+/// Topics are in the index of the file, too, but have no words to show.
+void HelpWindow::ListKeywords(const QString& start) {
+    const QString any = start.isEmpty() ? QStringLiteral(".") : QRegularExpression::escape(start);
+    m_keywords.setFilterRegularExpression(
+        QRegularExpression(any, QRegularExpression::CaseInsensitiveOption));
+    m_ui->lstIndex->setCurrentIndex(m_keywords.index(0, 0));
+}
+
+void HelpWindow::Find() {
+    const QString query = QueryOf(m_ui->txtWords->text());
+    if (m_read && !query.isEmpty()) {
+        m_book->Engine().searchEngine()->search(query);
+    }
+}
+
+void HelpWindow::ListFound() {
+    const QHelpSearchEngine* search = m_book->Engine().searchEngine();
+    m_ui->lstFound->clear();
+    for (const QHelpSearchResult& found : search->searchResults(0, MostFound)) {
+        auto* item = new QListWidgetItem(found.title(), m_ui->lstFound);
+        item->setData(Qt::UserRole, found.url());
+    }
+    m_ui->lblNotFound->setVisible(m_ui->lstFound->count() == 0);
+    if (m_ui->lstFound->count() > 0) {
+        m_ui->lstFound->setCurrentRow(0);
+    }
+}
+
+void HelpWindow::Open(Side side, QWidget& beside) {
+    m_ui->tabHelp->setCurrentIndex(static_cast<int>(side));
+    Raise(beside);
+    if (side == Side::Search) {
+        m_ui->txtWords->setFocus();
+        m_ui->txtWords->selectAll();
+    } else {
+        m_ui->treContents->setFocus();
+    }
+}
+
+void HelpWindow::Open(const QUrl& page, QWidget& beside) {
+    ShowPage(page);
+    Raise(beside);
+    m_ui->txtPage->setFocus();
+}
+
+void HelpWindow::Raise(QWidget& beside) {
+    Place(beside);
+    BelongTo(QApplication::activeModalWidget());
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+/// A window is judged to be blocked by a dialog when it is shown.
+void HelpWindow::BelongTo(const QWidget* dialog) {
+    winId(); // makes the window
+    QWindow* owner = dialog ? dialog->windowHandle() : nullptr;
+    if (windowHandle()->transientParent() != owner) {
+        hide();
+        windowHandle()->setTransientParent(owner);
+    }
+}
+
+/// Once: where the user puts it afterwards, it stays.
+void HelpWindow::Place(const QWidget& beside) {
+    if (!std::exchange(m_placed, true)) {
+        const QRect place = m_place.On(beside.screen()->geometry());
+        // Both windows have the same frame.
+        const QWindow* framed = beside.window()->windowHandle();
+        const QRect within = framed ? place.marginsRemoved(framed->frameMargins()) : place;
+        resize(within.size());
+        move(place.topLeft());
+        const int side = place.width() / 3;
+        m_ui->splHelp->setSizes({side, place.width() - side});
+    }
+}
+
+void HelpWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}

@@ -1,0 +1,102 @@
+"""Another program on the same desktop, of another toolkit: it gives a text to be dragged, and shows
+what is dropped on it.
+
+Started with the text it gives. Each thing that happens is a line on its output:
+
+    at <what> <x> <y>       where "gives" and "takes" have their middle on the screen
+    action <none|copy|move> what the field under its drag would do with its text
+    over                    a drag has come over it
+    got <text>              what was dropped on it
+    begin, end              its drag has begun, is over
+    here                    the answer to the signal USR1, once all that came before it is done
+"""
+
+from __future__ import annotations
+
+import signal
+import sys
+
+import gi
+
+gi.require_version("Gtk", "3.0")
+from gi.repository import Gdk, GLib, Gtk  # noqa: E402
+
+_WIDTH = 200
+_HEIGHT = 60
+
+
+def _say(*words: object) -> None:
+    print(*words, flush=True)
+
+
+def _say_action(context: Gdk.DragContext, action: Gdk.DragAction) -> None:
+    names = {Gdk.DragAction.COPY: "copy", Gdk.DragAction.MOVE: "move"}
+    _say("action", names.get(context.get_selected_action() or action, "none"))
+
+
+def _begin(_giver: Gtk.Widget, context: Gdk.DragContext) -> None:
+    context.connect("action-changed", _say_action)
+    _say("begin")
+
+
+def _answer() -> bool:
+    _say("here")
+    return True
+
+
+def _giver(text: str) -> Gtk.Widget:
+    """A label to drag by."""
+    giver = Gtk.EventBox()
+    giver.add(Gtk.Label(label=text))
+    giver.drag_source_set(Gdk.ModifierType.BUTTON1_MASK, [], Gdk.DragAction.COPY)
+    giver.drag_source_add_text_targets()
+    giver.connect("drag-data-get", lambda _widget, _context, data, _info, _time: data.set_text(text, -1))
+    giver.connect("drag-begin", _begin)
+    giver.connect("drag-end", lambda *_: _say("end"))
+    return giver
+
+
+def _taker() -> Gtk.Widget:
+    """A field to drop on, with all that the toolkit does for one."""
+    taker = Gtk.Entry()
+    taker.connect("drag-motion", lambda *_: _say("over"))
+    taker.connect("changed", lambda entry: _say("got", entry.get_text()))
+    return taker
+
+
+def _corner(window: Gtk.Window) -> tuple[int, int]:
+    """Where the window is to stand: in the corner of the screen, out of the way."""
+    screen = window.get_screen()
+    return screen.get_width() - _WIDTH, screen.get_height() - _HEIGHT
+
+
+def _tell_places(window: Gtk.Window, giver: Gtk.Widget, taker: Gtk.Widget) -> bool:
+    _, left, top = window.get_window().get_origin()
+    if (left, top) != _corner(window):
+        return False  # on its way
+    for name, widget in (("gives", giver), ("takes", taker)):
+        place = widget.get_allocation()
+        _say("at", name, left + place.x + place.width // 2, top + place.y + place.height // 2)
+    return False
+
+
+def main() -> None:
+    # No focus: the program it stands beside stays the active one.
+    window = Gtk.Window(title="Neighbour", decorated=False, accept_focus=False,
+                        focus_on_map=False, default_width=_WIDTH, default_height=_HEIGHT)
+    window.set_keep_above(True)
+    giver, taker = _giver(sys.argv[1]), _taker()
+    box = Gtk.Box(orientation=Gtk.Orientation.VERTICAL, homogeneous=True)
+    box.add(giver)
+    box.add(taker)
+    window.add(box)
+    window.connect("destroy", Gtk.main_quit)
+    window.connect("configure-event", lambda *_: _tell_places(window, giver, taker))
+    window.show_all()
+    GLib.unix_signal_add(GLib.PRIORITY_LOW, signal.SIGUSR1, _answer)
+    window.move(*_corner(window))
+    Gtk.main()
+
+
+if __name__ == "__main__":
+    main()

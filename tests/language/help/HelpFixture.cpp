@@ -1,0 +1,47 @@
+#include "HelpFixture.h"
+
+#include "Language.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QUrl>
+
+void HelpTest::OpenWithHelp(const Start& start) {
+    m_commands.reset();
+    Open(start);
+    m_commands = std::make_unique<HelpCommands>(Window());
+}
+
+void HelpTest::OpenBesides(const QString& folder, const Start& start) {
+    for (const char* component : {"Loan000.Resources.so", "Loan40a.Resources.so"}) {
+        const QString name = QString::fromLatin1(component);
+        QFile::link(QStringLiteral(QUEND_PROGRAM_DIR "/") + name, folder + u'/' + name);
+    }
+    Language::Instance().SetUp(folder, QStringLiteral("Loan"));
+    OpenWithHelp(start);
+}
+
+HelpWindow& HelpTest::Help() {
+    if (!m_commands->Shown()) {
+        throw std::runtime_error("no help was shown");
+    }
+    return *m_commands->Shown();
+}
+
+QAction& HelpTest::Entry(const QString& name) {
+    auto* entry = Window().findChild<QAction*>(name);
+    if (!entry) {
+        throw std::runtime_error("no entry " + name.toStdString());
+    }
+    return *entry;
+}
+
+QString HelpTest::PageInView() {
+    const QUrl page = Help().PageInView();
+    return page.hasFragment() ? page.fileName() + u'#' + page.fragment() : page.fileName();
+}
+
+QWidget* WhatsThisPopup() {
+    QWidget* popup = QApplication::activePopupWidget();
+    return popup && popup->inherits("QWhatsThat") ? popup : nullptr;
+}

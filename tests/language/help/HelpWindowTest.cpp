@@ -1,0 +1,274 @@
+#include "HelpFixture.h"
+#include "HelpPlace.h"
+#include "HelpView.h"
+#include "Language.h"
+
+#include <QFile>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTreeView>
+#include <QWindow>
+
+namespace {
+
+class HelpShown : public HelpTest, public ::testing::WithParamInterface<int> {
+protected:
+    void SetUp() override { OpenWithHelp({.language = GetParam()}); }
+
+    void Press(const QWidget& window, Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
+        QTest::keyClick(window.windowHandle(), key, with);
+    }
+    /// Looks for words as a user does, and waits for the answer.
+    void Search(const QString& words) {
+        Entry(QStringLiteral("mnuHelpSearch")).trigger();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&Help()));
+        InHelp<QLineEdit>(QStringLiteral("txtWords")).setText(words);
+        InHelp<QListWidget>(QStringLiteral("lstFound")).clear();
+        InHelp<QLabel>(QStringLiteral("lblNotFound")).hide();
+        Press(Help(), Qt::Key_Return);
+        EXPECT_TRUE(WaitFor([this] {
+            return InHelp<QListWidget>(QStringLiteral("lstFound")).count() > 0 ||
+                   InHelp<QLabel>(QStringLiteral("lblNotFound")).isVisible();
+        })) << words.toStdString();
+    }
+    QStringList Found() {
+        QStringList titles;
+        const auto& found = InHelp<QListWidget>(QStringLiteral("lstFound"));
+        for (int row = 0; row < found.count(); ++row) {
+            titles.append(found.item(row)->text());
+        }
+        return titles;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Languages, HelpShown, ::testing::Values(English, Spanish),
+                         [](const auto& language) {
+                             return language.param == English ? "English" : "Spanish";
+                         });
+
+TEST_P(HelpShown, OpensOnContentsAtItsPlace) {
+    Entry(QStringLiteral("mnuHelpContents")).trigger();
+    ASSERT_TRUE(HelpShows());
+    EXPECT_EQ(Help().frameGeometry(), HelpPlace{}.On(Window().screen()->geometry()));
+    EXPECT_EQ(InHelp<QTabWidget>(QStringLiteral("tabHelp")).currentIndex(), 0);
+    EXPECT_EQ(PageInView(), u"welcome.html");
+    EXPECT_TRUE(Window().isVisible());
+    EXPECT_FALSE(Help().testAttribute(Qt::WA_QuitOnClose));
+    auto* contents = InHelp<QTreeView>(QStringLiteral("treContents")).model();
+    ASSERT_TRUE(WaitFor([&] { return contents->rowCount() == 1; }));
+    EXPECT_EQ(contents->rowCount(contents->index(0, 0)), 10);
+}
+
+TEST_P(HelpShown, StaysWhereTheUserPutsIt) {
+    Entry(QStringLiteral("mnuHelpContents")).trigger();
+    const QRect place(30, 40, 500, 400);
+    Help().setGeometry(place);
+    Help().close();
+    Entry(QStringLiteral("mnuHelpSearch")).trigger();
+    EXPECT_EQ(Help().geometry(), place);
+}
+
+TEST_P(HelpShown, ContentsLeadToTheirPages) {
+    Entry(QStringLiteral("mnuHelpContents")).trigger();
+    auto& contents = InHelp<QTreeView>(QStringLiteral("treContents"));
+    ASSERT_TRUE(WaitFor([&] { return contents.model()->rowCount() == 1; }));
+    contents.setCurrentIndex(contents.model()->index(0, 0, contents.model()->index(0, 0)));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Help()));
+    Press(Help(), Qt::Key_Return);
+    EXPECT_EQ(PageInView(), u"firststeps.html");
+    const QString text = InHelp<HelpView>(QStringLiteral("txtPage")).toPlainText();
+    EXPECT_TRUE(text.contains(QStringLiteral("$1,264.14")));
+    EXPECT_TRUE(InHelp<QPushButton>(QStringLiteral("cmdBack")).isEnabled());
+    InHelp<QPushButton>(QStringLiteral("cmdBack")).click();
+    EXPECT_EQ(PageInView(), u"welcome.html");
+}
+
+TEST_P(HelpShown, PicturesShow) {
+    Entry(QStringLiteral("mnuHelpContents")).trigger();
+    auto& view = InHelp<HelpView>(QStringLiteral("txtPage"));
+    Help().resize(800, 600);
+    Settle();
+    view.setSource(Help().PageInView().resolved(QUrl(QStringLiteral("firststeps.html"))));
+    const auto picture =
+        view.loadResource(QTextDocument::ImageResource, QUrl(QStringLiteral("pictures/loan.png")));
+    ASSERT_FALSE(picture.value<QImage>().isNull());
+    EXPECT_LE(picture.value<QImage>().deviceIndependentSize().width(), view.viewport()->width());
+}
+
+TEST_P(HelpShown, SearchFindsWholeAndBegunWords) {
+    struct Case {
+        const char* english;
+        const char* spanish;
+        const char* page; ///< null: no page has it
+    };
+    for (const Case& tested :
+         {Case{"refinancing", "refinanciar", "refinance.html"},
+          Case{"refinan", "refinan", "refinance.html"},
+          Case{"POINTS closing", "puntos liquidado", nullptr},
+          Case{"escrow", "garantia", "escrow.html"}, Case{"xylophone", "xilófono", ""},
+          Case{"escrow xylophone", "garantía xilófono", ""}}) {
+        const char* words = GetParam() == English ? tested.english : tested.spanish;
+        SCOPED_TRACE(words);
+        Search(QString::fromUtf8(words));
+        const bool none = tested.page && *tested.page == '\0';
+        EXPECT_EQ(Found().isEmpty(), none);
+        EXPECT_EQ(InHelp<QLabel>(QStringLiteral("lblNotFound")).isVisible(), none);
+        bool seen = !tested.page || none;
+        auto& found = InHelp<QListWidget>(QStringLiteral("lstFound"));
+        for (int row = 0; row < found.count() && !seen; ++row) {
+            found.setCurrentRow(row);
+            seen = PageInView() == QString::fromLatin1(tested.page);
+        }
+        EXPECT_TRUE(seen);
+    }
+}
+
+/// What the search engine reads as commands is nothing to a user.
+TEST_P(HelpShown, SearchBearsAnyCharacters) {
+    for (const char* words : {"\"points", "points AND (", "puntos* OR 'x", "a:b", "^$-+%_"}) {
+        Entry(QStringLiteral("mnuHelpSearch")).trigger();
+        InHelp<QLineEdit>(QStringLiteral("txtWords")).setText(QString::fromLatin1(words));
+        InHelp<QPushButton>(QStringLiteral("cmdFind")).click();
+        Settle();
+        EXPECT_EQ(SettledMessages(), QStringList()) << words;
+    }
+}
+
+TEST_P(HelpShown, SearchOpensReadyToType) {
+    Entry(QStringLiteral("mnuHelpSearch")).trigger();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Help()));
+    EXPECT_EQ(InHelp<QTabWidget>(QStringLiteral("tabHelp")).currentIndex(), 2);
+    EXPECT_EQ(FocusName(), u"txtWords");
+    EXPECT_EQ(InHelp<QLineEdit>(QStringLiteral("txtWords")).text(), QString());
+}
+
+TEST_P(HelpShown, IndexFindsByPartOfAKeyword) {
+    Entry(QStringLiteral("mnuHelpContents")).trigger();
+    auto* keywords = InHelp<QListView>(QStringLiteral("lstIndex")).model();
+    ASSERT_TRUE(WaitFor([&] { return keywords->rowCount() >= 50; }));
+    EXPECT_NE(keywords->index(0, 0).data().toString(), QString());
+    InHelp<QTabWidget>(QStringLiteral("tabHelp")).setCurrentIndex(1);
+    auto& keyword = InHelp<QLineEdit>(QStringLiteral("txtKeyword"));
+    keyword.setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Help()));
+    QTest::keyClicks(&keyword,
+                     GetParam() == English ? QStringLiteral("ESCR") : QStringLiteral("ESCR"));
+    ASSERT_EQ(keywords->rowCount(), 1);
+    Press(Help(), Qt::Key_Return);
+    EXPECT_EQ(PageInView(), u"escrow.html");
+}
+
+TEST_P(HelpShown, EscapeClosesIt) {
+    Entry(QStringLiteral("mnuHelpContents")).trigger();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Help()));
+    Press(Help(), Qt::Key_Escape);
+    EXPECT_FALSE(Help().isVisible());
+    EXPECT_TRUE(Window().isVisible());
+}
+
+TEST_P(HelpShown, NothingIsCutOffAndAccessKeysAreClear) {
+    Entry(QStringLiteral("mnuHelpSearch")).trigger();
+    Settle();
+    QStringList keys;
+    const auto& tabs = InHelp<QTabWidget>(QStringLiteral("tabHelp"));
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+        keys.append(QKeySequence::mnemonic(tabs.tabText(tab)).toString());
+        EXPECT_FALSE(tabs.tabText(tab).isEmpty());
+    }
+    for (const QWidget* control : Help().findChildren<QWidget*>()) {
+        const QString text = control->property("text").toString();
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        if (!key.isEmpty()) {
+            keys.append(key.toString());
+        }
+        if (control->isVisible() && qobject_cast<const QPushButton*>(control)) {
+            EXPECT_GE(control->width(), control->minimumSizeHint().width()) << text.toStdString();
+        }
+    }
+    EXPECT_EQ(keys.size(), 8);
+    keys.removeDuplicates();
+    EXPECT_EQ(keys.size(), 8) << keys.join(u' ').toStdString();
+}
+
+using HelpLanguage = HelpTest;
+
+TEST_F(HelpLanguage, FollowsASwitchOnTheSamePage) {
+    OpenWithHelp();
+    Entry(QStringLiteral("mnuHelpContents")).trigger();
+    InHelp<HelpView>(QStringLiteral("txtPage")).setSource(QUrl(QStringLiteral("escrow.html")));
+    EXPECT_EQ(Help().windowTitle(), u"Quend Loan Help");
+    SwitchLanguage(Spanish);
+    Settle();
+    EXPECT_EQ(Help().windowTitle(), u"Ayuda de Quend Loan");
+    EXPECT_EQ(PageInView(), u"escrow.html");
+    EXPECT_EQ(InHelp<QTabWidget>(QStringLiteral("tabHelp")).tabText(0), u"&Contenido");
+    const auto text = [this] { return InHelp<HelpView>(QStringLiteral("txtPage")).toPlainText(); };
+    EXPECT_TRUE(text().startsWith(u"La cuenta de garantía"));
+    SwitchLanguage(English);
+    Settle();
+    EXPECT_TRUE(text().startsWith(u"Escrow"));
+}
+
+TEST_F(HelpLanguage, SwitchOpensNoHelp) {
+    OpenWithHelp();
+    SwitchLanguage(Spanish);
+    Settle();
+    EXPECT_FALSE(HelpShows());
+    Entry(QStringLiteral("mnuHelpContents")).trigger();
+    Help().close();
+    SwitchLanguage(English);
+    Settle();
+    EXPECT_FALSE(HelpShows());
+    Entry(QStringLiteral("mnuHelpContents")).trigger();
+    EXPECT_EQ(Help().windowTitle(), u"Quend Loan Help");
+}
+
+using HelpMissing = HelpTest;
+
+TEST_F(HelpMissing, IsToldInItsOwnWordsAndChangesNothing) {
+    const QTemporaryDir folder;
+    OpenBesides(folder.path());
+    Fill(u"txtLoanAmount", u"1000");
+    for (const char* entry : {"mnuHelpContents", "mnuHelpSearch"}) {
+        Door().Clear();
+        Entry(QString::fromLatin1(entry)).trigger();
+        ASSERT_EQ(SettledMessages().size(), 1) << entry;
+        EXPECT_TRUE(Door().Texts().front().contains(folder.path()));
+        EXPECT_FALSE(Door().Texts().front().contains(u"errn="));
+        EXPECT_FALSE(HelpShows());
+    }
+    Door().Clear();
+    Press(Qt::Key_F1);
+    EXPECT_EQ(SettledMessages().size(), 1);
+    EXPECT_EQ(Text(u"txtLoanAmount"), u"$1,000.00");
+    EXPECT_EQ(FocusName(), u"txtLoanTerm");
+}
+
+/// The Spanish file is damaged: what is open stays, in the language it has.
+TEST_F(HelpMissing, InTheOtherLanguageLeavesWhatIsOpen) {
+    const QTemporaryDir folder;
+    QFile::link(QStringLiteral(QUEND_PROGRAM_DIR "/loan000.hlp"),
+                folder.filePath(QStringLiteral("loan000.hlp")));
+    QFile damaged(folder.filePath(QStringLiteral("loan40a.hlp")));
+    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+    damaged.write("no help");
+    damaged.close();
+    OpenBesides(folder.path());
+    Entry(QStringLiteral("mnuHelpContents")).trigger();
+    SwitchLanguage(Spanish);
+    EXPECT_EQ(SettledMessages().size(), 1);
+    EXPECT_TRUE(HelpShows());
+    EXPECT_EQ(Help().windowTitle(), u"Quend Loan Help");
+    EXPECT_EQ(Window().menuBar()->actions().front()->text(), u"&Archivo");
+}
+
+} // namespace

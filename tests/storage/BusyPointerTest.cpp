@@ -1,0 +1,60 @@
+// The hourglass stands while something takes its time, and is gone afterwards.
+
+#include "FileCommands.h"
+#include "LoanNameBox.h"
+#include "OptionsFixture.h"
+#include "StoreFolder.h"
+#include "WindowFixture.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QLineEdit>
+
+#include <optional>
+
+namespace {
+
+std::optional<Qt::CursorShape> Pointer() {
+    const QCursor* cursor = QGuiApplication::overrideCursor();
+    return cursor == nullptr ? std::nullopt : std::optional(cursor->shape());
+}
+
+class BusyPointerOfTheStore : public WindowTest {};
+
+TEST_F(BusyPointerOfTheStore, StandsWhileAWorksheetIsLoaded) {
+    const StoreFolder folder;
+    Open();
+    const FileCommands files(Window(), LoanStore(folder.Store()));
+    Window().Rows().GrowTo(Row{7});
+    for (Row row{0}; row <= Row{7}; ++row.value) {
+        SheetToWrite().StoreWho(row, u"Bank"_qs);
+    }
+    SheetToWrite().SetLoanName(u"Home"_qs);
+    LoanStore(folder.Store()).Save(SheetToWrite());
+
+    Open(); // six rows: two are made while the worksheet is loaded
+    const FileCommands again(Window(), LoanStore(folder.Store()));
+    std::optional<Qt::CursorShape> meanwhile;
+    QObject::connect(&Window().Rows(), &OfferRows::RowCreated, &Window(),
+                     [&] { meanwhile = Pointer(); });
+    Q_EMIT Get<LoanNameBox>(u"cboLoanName").Picked(u"Home"_qs);
+    EXPECT_EQ(RowCount(), 8);
+    EXPECT_EQ(meanwhile, Qt::WaitCursor);
+    EXPECT_EQ(Pointer(), std::nullopt);
+}
+
+using BusyPointerOfTheOptions = OptionsDialog;
+
+TEST_F(BusyPointerOfTheOptions, StandsWhileAChosenPictureIsShown) {
+    m_pictures.answer = Picture(u"house.bmp", {30, 20});
+    Open();
+    std::optional<Qt::CursorShape> meanwhile;
+    QObject::connect(&Get<QLineEdit>(u"txtWallpaper"), &QLineEdit::textChanged, &Dialog(),
+                     [&] { meanwhile = Pointer(); });
+    Click(u"cmdWallpaper");
+    EXPECT_EQ(Text(u"txtWallpaper"), m_pictures.answer);
+    EXPECT_EQ(meanwhile, Qt::WaitCursor);
+    EXPECT_EQ(Pointer(), std::nullopt);
+}
+
+} // namespace

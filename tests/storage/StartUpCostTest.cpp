@@ -1,0 +1,135 @@
+// Why the program starts as fast with many worksheets as with none: it asks the store the same few
+// things whatever is kept there, and reads the file once. Counted, not timed.
+
+#include "FileCommands.h"
+#include "Language.h"
+#include "LoanNameBox.h"
+#include "SettingsStore.h"
+#include "StartUp.h"
+#include "StoreCheck.h"
+#include "StoreFolder.h"
+#include "WindowFixture.h"
+
+#include <sqlite3.h>
+
+#include <fstream>
+
+namespace {
+
+struct Asked {
+    int commands = 0;
+    int rows = 0;
+
+    bool operator==(const Asked&) const = default;
+};
+
+Asked& Count() {
+    static Asked asked;
+    return asked;
+}
+
+int Note(unsigned what, void* /*context*/, void* /*statement*/, void* /*more*/) {
+    ++(what == SQLITE_TRACE_ROW ? Count().rows : Count().commands);
+    return 0;
+}
+
+int Watch(sqlite3* connection, const char** /*error*/, const sqlite3_api_routines* /*api*/) {
+    return sqlite3_trace_v2(connection, SQLITE_TRACE_STMT | SQLITE_TRACE_ROW, Note, nullptr);
+}
+
+/// Notes what every store that is opened while it lives is asked.
+class Watcher {
+public:
+    Watcher() {
+        Count() = {};
+        sqlite3_auto_extension(Entry());
+    }
+    Watcher(const Watcher&) = delete;
+    Watcher& operator=(const Watcher&) = delete;
+    ~Watcher() { sqlite3_cancel_auto_extension(Entry()); }
+
+private:
+    // The library's own way of naming a function whose arguments it knows better.
+    static void (*Entry())() { return reinterpret_cast<void (*)()>(Watch); } // NOLINT
+};
+
+/// What this process has read so far, in bytes, from files and elsewhere.
+std::uintmax_t BytesRead() {
+    std::ifstream counts("/proc/self/io");
+    std::string name;
+    std::uintmax_t bytes = 0;
+    counts >> name >> bytes;
+    return name == "rchar:" ? bytes : 0;
+}
+
+class StartUpCost : public WindowTest {
+protected:
+    static void Keep(const StoreFolder& folder, int worksheets) {
+        folder.Store().InOneStep([&](const RegistryAPI& step) {
+            for (int i = 0; i < worksheets; ++i) {
+                const std::string key = StoreFolder::LoanKey("Loan " + std::to_string(i));
+                step.CreateKey(StoreFolder::Root, key);
+                for (int value = 0; value < 130; ++value) {
+                    step.SetValue(StoreFolder::Root, key, "Value " + std::to_string(value),
+                                  RegistryType::Text, "123456.78");
+                }
+            }
+        });
+        TidyStore(folder.File());
+    }
+
+    /// The start as the program makes it, up to the window on the screen.
+    Asked AskedAtStart(const StoreFolder& folder) {
+        const Watcher watcher;
+        const RegistryAPI store = folder.Store();
+        EXPECT_EQ(PrepareStore(folder.File(), "today").state, StoreCondition::State::Sound);
+        PrepareKeyAndLanguage(store, 0x0409);
+        EXPECT_TRUE(LoadSettings(store).failures.empty());
+        Open();
+        const FileCommands files(Window(), LoanStore(store));
+        Settle();
+        EXPECT_EQ(Get<LoanNameBox>(u"cboLoanName").count(), 0); // listed when it drops down
+        return Count();
+    }
+};
+
+TEST_F(StartUpCost, AsksTheStoreTheSameHoweverManyWorksheets) {
+    const StoreFolder none;
+    const StoreFolder hundred;
+    Keep(none, 0);
+    Keep(hundred, 100);
+    AskedAtStart(none); // what is asked once in a process
+    const Asked asked = AskedAtStart(none);
+    EXPECT_GT(asked.commands, 5);
+    EXPECT_LT(asked.commands, 100);
+    const Asked withHundred = AskedAtStart(hundred);
+    EXPECT_EQ(withHundred.commands, asked.commands);
+    EXPECT_EQ(withHundred.rows, asked.rows);
+    {
+        const Watcher watcher;
+        EXPECT_EQ(LoanStore(hundred.Store()).Names().size(), 100);
+        EXPECT_GE(Count().rows, 100); // the listing would be seen
+    }
+}
+
+TEST_F(StartUpCost, LooksAtTheFileOnceAndAtNothingElse) {
+    const StoreFolder hundred;
+    Keep(hundred, 100);
+    const auto log = hundred.File().string() + "-wal";
+    const std::uintmax_t size =
+        std::filesystem::file_size(hundred.File()) +
+        (std::filesystem::exists(log) ? std::filesystem::file_size(log) : 0);
+    ASSERT_GT(size, 100'000U);
+    const Watcher watcher;
+    PrepareStore(hundred.File(), "today"); // what is asked once in a process
+    Count() = {};
+    const std::uintmax_t before = BytesRead();
+    ASSERT_GT(before, 0U);
+    EXPECT_EQ(PrepareStore(hundred.File(), "today").state, StoreCondition::State::Sound);
+    const std::uintmax_t read = BytesRead() - before;
+    EXPECT_GE(read, size);
+    EXPECT_LE(read, size + 8'192); // the count itself is read, too
+    EXPECT_EQ(Count(), Asked{});
+}
+
+} // namespace

@@ -1,0 +1,306 @@
+#include "SortKeys.h"
+#include "WorksheetTest.h"
+
+#include "Language.h"
+
+#include <stdexcept>
+
+namespace {
+
+constexpr Row Top{0};
+
+std::vector<int> Offers(std::initializer_list<int> offers) { return offers; }
+
+class SortingTest : public WorksheetTest {
+protected:
+    /// Which offer each row shows.
+    std::vector<int> Rows() const {
+        std::vector<int> offers;
+        for (Row row{0}; row <= m_worksheet.HighestOfferRow(); ++row.value) {
+            offers.push_back(static_cast<int>(m_worksheet.OfferIndexOfRow(row).value));
+        }
+        return offers;
+    }
+    /// Offers of 100,000.00 at these rates, in percent: the higher the rate, the more the interest.
+    void EnterRates(const std::vector<const char*>& rates) {
+        EnterOffers(static_cast<int>(rates.size()));
+        Row row{0};
+        for (const char* rate : rates) {
+            Store({FieldId::InterestRate, row}, QLatin1String(rate));
+            ++row.value;
+        }
+        StartCounting();
+    }
+    /// Repaid in full within so many months; the more, the later and the dearer.
+    void EnterTerms(std::initializer_list<int> months) {
+        EnterOffers(static_cast<int>(months.size()));
+        Row row{0};
+        for (const int term : months) {
+            Store({FieldId::ActualPayment, row}, {});
+            Store({FieldId::Term, row}, QString::number(term));
+            ++row.value;
+        }
+        StartCounting();
+    }
+    /// So many rows, all blank but for one entry in one of them.
+    void EnterAlone(int rows, Row row, FieldId field, const QString& text) {
+        m_worksheet.GrowOfferArrays(m_worksheet.HighestOfferRow(), Row{rows - 1});
+        switch (field) {
+        case FieldId::Who:
+            return m_worksheet.StoreWho(row, text);
+        case FieldId::Frequency:
+            return m_worksheet.StoreChoice({field, row}, text);
+        case FieldId::FinancePoints:
+            return m_worksheet.StoreFinancePoints(row, true);
+        default:
+            return Store({field, row}, text);
+        }
+    }
+};
+
+struct KeyCase {
+    const char* what;
+    FieldId field;
+    QString text;
+    bool isEntry;
+};
+
+// clang-format off
+const std::vector<KeyCase> LoneEntries{
+    //what        field                    text            counts as an entry
+    {"nothing",   FieldId::Points,         u""_qs,         false},
+    {"points",    FieldId::Points,         u"1.5"_qs,      true},
+    {"term",      FieldId::Term,           u"360"_qs,      true},
+    {"intended",  FieldId::ActualPayment,  u"500"_qs,      true},
+    {"below",     FieldId::ActualPayment,  u"-5"_qs,       true},
+    {"lender",    FieldId::Who,            u"Bank"_qs,     true},
+    {"blank",     FieldId::Who,            u" "_qs,        true},
+    {"rate",      FieldId::InterestRate,   u"6"_qs,        false},
+    {"frequency", FieldId::Frequency,      u"Monthly"_qs,  false},
+    {"tick",      FieldId::FinancePoints,  u""_qs,         false},
+};
+// clang-format on
+
+TEST_F(SortingTest, KeysOfOffersWithoutAResultAreFixed) {
+    for (const KeyCase& tested : LoneEntries) {
+        SCOPED_TRACE(tested.what);
+        m_worksheet.Clear();
+        EnterAlone(1, Top, tested.field, tested.text);
+        CLoan& offer = m_worksheet.OfferOfRow(Top);
+        EXPECT_EQ(PayoffDateKey(offer), Date::FromCalendar(9999, 12, tested.isEntry ? 30 : 31));
+        EXPECT_EQ(PayoffDateKey(offer).Days(), tested.isEntry ? 2958464 : 2958465);
+        EXPECT_EQ(InterestKey(offer), Units(tested.isEntry ? 999'999'998 : 999'999'999));
+    }
+}
+
+TEST_F(SortingTest, KeysOfOffersWithAResultAreTheResults) {
+    EnterOffers(1);
+    CLoan& offer = m_worksheet.OfferOfRow(Top);
+    EXPECT_EQ(PayoffDateKey(offer), Date::FromCalendar(2056, 3, 10));
+    EXPECT_EQ(InterestKey(offer), offer.Interest());
+    EXPECT_EQ(TextOf({FieldId::Interest, Top}), u"$115,838.53"_qs);
+}
+
+TEST_F(SortingTest, AScheduleWithoutAnEndCountsAsNoDate) {
+    EnterOffers(1);
+    CLoan& offer = m_worksheet.OfferOfRow(Top);
+    offer.SetActualPayment(Units(-5));
+    EXPECT_EQ(PayoffDateKey(offer), Date::FromCalendar(9999, 12, 30));
+    EXPECT_EQ(InterestKey(offer), Units(999'999'998));
+}
+
+TEST_F(SortingTest, LoneEntriesComeBeforeBlankRows) {
+    for (const KeyCase& tested : LoneEntries) {
+        SCOPED_TRACE(tested.what);
+        m_worksheet.Clear();
+        EnterAlone(3, Row{2}, tested.field, tested.text);
+        const std::vector<int> expected = tested.isEntry ? Offers({2, 0, 1}) : Offers({0, 1, 2});
+        m_worksheet.SortByPayoffDate();
+        EXPECT_EQ(Rows(), expected);
+        m_worksheet.SortByInterest();
+        EXPECT_EQ(Rows(), expected);
+    }
+}
+
+TEST_F(SortingTest, PayoffDatesThenPartlyFilledThenBlank) {
+    EnterTerms({51, 360, 23, 360});
+    m_worksheet.OfferOfRow(Row{1}) = CLoan(m_worksheet);
+    m_worksheet.OfferOfRow(Row{3}) = CLoan(m_worksheet);
+    Store({FieldId::InterestRate, Row{1}}, u"6"_qs);
+    EXPECT_EQ(TextOf({FieldId::PayoffDate, Top}), u"5/10/2030"_qs);
+    EXPECT_EQ(TextOf({FieldId::PayoffDate, Row{2}}), u"1/10/2028"_qs);
+    m_worksheet.SortByPayoffDate();
+    EXPECT_EQ(Rows(), Offers({2, 0, 1, 3}));
+    EXPECT_EQ(m_worksheet.Order(), SortOrder::PayoffDate);
+}
+
+struct OrderCase {
+    std::vector<const char*> rates;
+    std::vector<int> rows;
+};
+
+TEST_F(SortingTest, LeastInterestComesFirstAndEqualOnesKeepTheirOrder) {
+    // clang-format off
+    const std::vector<OrderCase> cases{
+        {{"6"},                     {0}},
+        {{"6", "5"},                {1, 0}},
+        {{"5", "6"},                {0, 1}},
+        {{"7", "6", "5", "4"},      {3, 2, 1, 0}},
+        {{"6", "5", "6", "5", "6"}, {1, 3, 0, 2, 4}},
+        {{"6", "6", "6"},           {0, 1, 2}},
+        {{"6", "", "5", ""},        {2, 0, 1, 3}},
+    };
+    // clang-format on
+    for (const OrderCase& tested : cases) {
+        SCOPED_TRACE(testing::PrintToString(tested.rows));
+        m_worksheet.Clear();
+        EnterRates(tested.rates);
+        const int times = 2; // a second click does not turn the order round
+        for (int time = 0; time < times; ++time) {
+            m_worksheet.SortByInterest();
+            auto rows = Rows();
+            rows.resize(tested.rows.size()); // blank rows of the case before stand behind
+            EXPECT_EQ(rows, tested.rows);
+        }
+    }
+}
+
+TEST_F(SortingTest, InterestBeyondTheFixedKeysComesLast) {
+    EnterOffers(2);
+    m_worksheet.GrowOfferArrays(Row{1}, Row{2});
+    m_worksheet.SetLoanAmount(Units(900'000'000));
+    m_worksheet.SortByInterest();
+    EXPECT_EQ(Rows(), Offers({2, 0, 1}));
+}
+
+TEST_F(SortingTest, ByInterestTakesTheLastScheduleAsItIs) {
+    EnterRates({"6", "5", "7"});
+    Store({FieldId::ActualPayment, Row{1}}, {}); // its results are gone until it is calculated
+    StartCounting();
+    m_worksheet.SortByInterest();
+    EXPECT_EQ(m_offerSchedules, 0);
+    EXPECT_EQ(Rows(), Offers({0, 2, 1}));
+}
+
+TEST_F(SortingTest, NothingIsChangedOrToldBySorting) {
+    EnterRates({"7", "6", "5"});
+    Store({FieldId::ActualPayment, Row{1}}, {});
+    StartCounting();
+    for (const auto sort : {&Worksheet::SortByPayoffDate, &Worksheet::SortByInterest}) {
+        (m_worksheet.*sort)();
+        m_worksheet.ShowOffers();
+        EXPECT_FALSE(m_worksheet.Dirty());
+        EXPECT_EQ(m_display.PaymentsRaised(), 0);
+        EXPECT_EQ(m_display.PaymentsRefused(), 0);
+        EXPECT_EQ(Rows(), Offers({2, 0, 1}));
+        EXPECT_TRUE(m_worksheet.OfferOfRow(Row{2}).ActualPayment().IsZero());
+        EXPECT_EQ(ResultTexts(Row{2}), (std::vector{u"$599.55"_qs, u"$599.55"_qs, u""_qs, u""_qs}));
+    }
+}
+
+TEST_F(SortingTest, EveryRowIsShownInTheOrderOfItsColumns) {
+    EnterRates({"7", "6"});
+    m_worksheet.SortByInterest();
+    m_worksheet.ShowOffers();
+    std::vector<Field> expected;
+    for (Row row{0}; row <= Row{1}; ++row.value) {
+        for (const FieldId field :
+             {FieldId::Points, FieldId::InterestRate, FieldId::Term, FieldId::Frequency,
+              FieldId::PandI, FieldId::Payment, FieldId::ActualPayment, FieldId::PayoffDate,
+              FieldId::Interest, FieldId::Who}) {
+            expected.push_back({field, row});
+        }
+    }
+    EXPECT_EQ(m_display.TextsInOrder(), expected);
+    EXPECT_EQ(m_display.Of({FieldId::FinancePoints, Top}).ticks, 1);
+}
+
+TEST_F(SortingTest, ResultsThatCannotBeComputedStayEmpty) {
+    EnterRates({"7", "6"});
+    EXPECT_THROW(Store({FieldId::ActualPayment, Top}, u"-5"_qs), std::exception);
+    StartCounting();
+    const std::vector before = ResultTexts(Top);
+    m_worksheet.SortByPayoffDate();
+    EXPECT_NO_THROW(m_worksheet.ShowOffers());
+    EXPECT_EQ(Rows(), Offers({1, 0}));
+    EXPECT_EQ(ResultTexts(Row{1}), before);
+    EXPECT_EQ(before.back(), u""_qs);
+    EXPECT_FALSE(m_display.Of({FieldId::PayoffDate, Row{1}}).toolTip);
+}
+
+TEST_F(SortingTest, WhatIsEnteredGoesToTheOfferInTheRow) {
+    EnterRates({"7", "6", "5"});
+    m_worksheet.SortByInterest();
+    Store({FieldId::Points, Top}, u"1.5"_qs);
+    m_worksheet.StoreWho(Row{1}, u"Middle"_qs);
+    m_worksheet.StoreFinancePoints(Row{2}, true);
+    m_worksheet.StoreChoice({FieldId::Frequency, Top}, u"Every two weeks"_qs);
+    EXPECT_EQ(m_worksheet.Offer({2}).Points(), 1.5);
+    EXPECT_EQ(m_worksheet.Offer({2}).FrequencyCode(), u"W"_qs);
+    EXPECT_EQ(m_worksheet.Offer({1}).Who(), u"Middle"_qs);
+    EXPECT_TRUE(m_worksheet.Offer({0}).FinancePoints());
+    Store({FieldId::InterestRate, Top}, u"9"_qs);
+    EXPECT_EQ(Rows(), Offers({2, 1, 0})) << "an edit does not sort again";
+}
+
+TEST_F(SortingTest, ARowAddedAfterASortShowsItsOwnOffer) {
+    EnterRates({"7", "6", "5"});
+    m_worksheet.SortByInterest();
+    m_worksheet.GrowOfferArrays(Row{2}, Row{4});
+    EXPECT_EQ(Rows(), Offers({2, 1, 0, 3, 4}));
+    m_worksheet.StoreWho(Row{3}, u"New"_qs);
+    EXPECT_EQ(m_worksheet.Offer({3}).Who(), u"New"_qs);
+    m_worksheet.SortByPayoffDate();
+    EXPECT_EQ(Rows(), Offers({2, 0, 1, 3, 4})) << "a month apart, by the cents of their payments";
+}
+
+TEST_F(SortingTest, ClearingBringsTheOrderOfEntryBack) {
+    EnterRates({"7", "6", "5"});
+    m_worksheet.SortByInterest();
+    EXPECT_EQ(m_display.SortOrders(), std::vector{SortOrder::Interest});
+    m_worksheet.Clear();
+    EXPECT_EQ(Rows(), Offers({0, 1, 2}));
+    EXPECT_EQ(m_worksheet.Order(), SortOrder::Entry);
+    EXPECT_EQ(m_display.SortOrders(), (std::vector{SortOrder::Interest, SortOrder::Entry}));
+}
+
+TEST_F(SortingTest, MarksOfRaisedPaymentsGoWithTheirOffers) {
+    EnterRates({"7", "6"});
+    m_worksheet.ClearRaisedMarks();
+    Store({FieldId::ActualPayment, Top}, u"1"_qs);
+    const auto markOf = [&](int row) {
+        return m_display.Of({FieldId::ActualPayment, Row{row}}).mark;
+    };
+    EXPECT_EQ(markOf(0), Mark::Raised);
+    m_worksheet.SortByInterest();
+    m_worksheet.ShowOffers();
+    EXPECT_EQ(markOf(0), Mark::None);
+    EXPECT_EQ(markOf(1), Mark::Raised);
+    m_worksheet.ClearRaisedMarks();
+    m_worksheet.ShowOffers();
+    EXPECT_EQ(markOf(1), Mark::None);
+}
+
+TEST_F(SortingTest, SixteenRowsAreSorted) {
+    EnterRates(
+        {"8", "7", "6", "5", "4", "3", "2", "1", "9", "10", "11", "12", "13", "14", "15", "16"});
+    m_worksheet.SortByInterest();
+    EXPECT_EQ(Rows(), Offers({7, 6, 5, 4, 3, 2, 1, 0, 8, 9, 10, 11, 12, 13, 14, 15}));
+}
+
+TEST_F(SortingTest, ARowThatIsNotThereIsAnInternalError) {
+    EnterRates({"7", "6"});
+    for (const Row row : {Row{-1}, Row{2}, Row{16}}) {
+        EXPECT_THROW(m_worksheet.OfferIndexOfRow(row), std::out_of_range) << row.value;
+    }
+    EXPECT_THROW(m_worksheet.Offer({2}), std::out_of_range);
+}
+
+TEST_F(SortingTest, OrdersHaveTheirNumbers) {
+    EXPECT_EQ(static_cast<int>(SortOrder::Entry), 1);
+    EXPECT_EQ(static_cast<int>(SortOrder::Interest), 2);
+    EXPECT_EQ(static_cast<int>(SortOrder::PayoffDate), 3);
+    EXPECT_EQ(m_worksheet.Order(), SortOrder::Entry);
+}
+
+} // namespace

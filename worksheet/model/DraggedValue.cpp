@@ -1,0 +1,95 @@
+#include "DraggedValue.h"
+
+#include "IsValidNumber.h"
+#include "Worksheet.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+const DisplayFormats& FormatsOf(const Worksheet& worksheet) { return worksheet.Texts().Formats(); }
+
+QString PointsText(const Worksheet& worksheet, Row row, const QString& /*shown*/) {
+    return FormatsOf(worksheet).GeneralNumber(worksheet.OfferOfRow(row).Points());
+}
+
+QString RateText(const Worksheet& worksheet, Row row, const QString& /*shown*/) {
+    return FormatsOf(worksheet).GeneralNumber(worksheet.OfferOfRow(row).InterestRate());
+}
+
+/// What is displayed, read back as a plain number.
+QString PaymentText(const Worksheet& worksheet, Row row, const QString& /*shown*/) {
+    const Money payment = worksheet.OfferOfRow(row).ActualPayment();
+    return payment.IsZero() ? QString()
+                            : FormatsOf(worksheet).GeneralNumber(payment.RoundedToCents());
+}
+
+QString WhoText(const Worksheet& /*worksheet*/, Row /*row*/, const QString& shown) { return shown; }
+
+DroppedValue ReadReal(const Worksheet& worksheet, const QString& text) {
+    return FormatsOf(worksheet).ReadReal(text);
+}
+
+DroppedValue ReadAmount(const Worksheet& worksheet, const QString& text) {
+    return FormatsOf(worksheet).ReadAmount(text);
+}
+
+/// Its lines end as the lender's dialog ends them, whatever the other program does.
+DroppedValue ReadWho(const Worksheet& /*worksheet*/, const QString& text) {
+    QString lines = text;
+    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    return lines.replace(u'\n', QStringLiteral("\r\n"));
+}
+
+struct DraggedValue {
+    FieldId field;
+    QString (*text)(const Worksheet&, Row, const QString&);
+    DroppedValue (*read)(const Worksheet&, const QString&);
+};
+
+// clang-format off
+// Whether a text has the right form is the rule of the field.
+constexpr std::array DraggedValues{
+    //           field                   travels as   is read as
+    DraggedValue{FieldId::Points,        PointsText,  ReadReal},
+    DraggedValue{FieldId::InterestRate,  RateText,    ReadReal}, // a fraction, both ways
+    DraggedValue{FieldId::ActualPayment, PaymentText, ReadAmount},
+    DraggedValue{FieldId::Who,           WhoText,     ReadWho},
+};
+// clang-format on
+
+const DraggedValue& ValueOf(FieldId field) {
+    return *std::ranges::find(DraggedValues, field, &DraggedValue::field);
+}
+
+} // namespace
+
+bool IsDraggable(FieldId field) {
+    return std::ranges::find(DraggedValues, field, &DraggedValue::field) != DraggedValues.end();
+}
+
+QString DraggedText(const Worksheet& worksheet, Field field, const QString& shown) {
+    return ValueOf(field.id).text(worksheet, field.row, shown);
+}
+
+bool MayDrop(const Worksheet& worksheet, FieldId field, const QString& text) {
+    const FieldRule& rule = RuleOf(field);
+    return !rule.IsNumber() ||
+           (!text.isEmpty() &&
+            IsValidNumber(text, rule.decimals, FormatsOf(worksheet).DecimalSeparator()));
+}
+
+DroppedValue ReadDropped(const Worksheet& worksheet, FieldId field, const QString& text) {
+    return ValueOf(field).read(worksheet, text);
+}
+
+void StoreDropped(Worksheet& worksheet, Field field, const DroppedValue& value) {
+    if (const auto* who = std::get_if<QString>(&value)) {
+        worksheet.StoreWho(field.row, *who);
+    } else if (const auto* amount = std::get_if<Money>(&value)) {
+        worksheet.StoreOfferNumber(field, *amount);
+    } else {
+        worksheet.StoreOfferNumber(field, std::get<double>(value));
+    }
+}

@@ -1,0 +1,47 @@
+#include "SortKeys.h"
+
+#include "CLoan.h"
+#include "Failure.h"
+
+namespace {
+
+/// The keys of offers without a result: partly filled ones stay ahead of the blank rows.
+template <class Key>
+struct KeysWithout {
+    Key partlyFilled;
+    Key blank;
+};
+
+constexpr KeysWithout<Date> NoDate{Date::FromDays(2'958'464), Date::FromDays(2'958'465)};
+constexpr KeysWithout<Money> NoInterest{Money::FromTenThousandths(999'999'998'0000),
+                                        Money::FromTenThousandths(999'999'999'0000)};
+
+/// A rate, a frequency or a tick alone say nothing about an offer yet.
+bool HasEntry(const CLoan& offer) {
+    return offer.Points() != 0 || !offer.Interest().IsZero() || offer.Term() != 0 ||
+           !offer.ActualPayment().IsZero() || !offer.Who().isEmpty();
+}
+
+template <class Key>
+Key KeyWithout(const CLoan& offer, const KeysWithout<Key>& keys) {
+    return HasEntry(offer) ? keys.partlyFilled : keys.blank;
+}
+
+Date PayoffDateOf(CLoan& offer) {
+    try {
+        return offer.PayoffDate();
+    } catch (const Failure&) { // told when it was entered
+        return {};
+    }
+}
+
+} // namespace
+
+Date PayoffDateKey(CLoan& offer) {
+    const Date payoff = PayoffDateOf(offer);
+    return payoff.IsNone() ? KeyWithout(offer, NoDate) : payoff;
+}
+
+Money InterestKey(const CLoan& offer) {
+    return offer.Interest().IsZero() ? KeyWithout(offer, NoInterest) : offer.Interest();
+}

@@ -1,0 +1,75 @@
+// The order of the rows, and what they show after it has changed.
+
+#include "Failure.h"
+#include "SortKeys.h"
+#include "Worksheet.h"
+
+#include <vector>
+
+template <class Key, class KeyOf>
+void Worksheet::SortBy(SortOrder order, KeyOf keyOf) {
+    std::vector<Key> keys;
+    keys.reserve(m_offers.size());
+    for (CLoan& offer : m_offers) {
+        keys.push_back(keyOf(offer));
+    }
+    m_order.SortBy(order, keys);
+    m_display->ShowSortOrder(order);
+}
+
+void Worksheet::SortByPayoffDate() { SortBy<Date>(SortOrder::PayoffDate, PayoffDateKey); }
+
+void Worksheet::SortByInterest() { SortBy<Money>(SortOrder::Interest, InterestKey); }
+
+void Worksheet::ShowOffers() {
+    for (Row row{0}; row <= HighestOfferRow(); ++row.value) {
+        ShowAsItStands(row);
+        const bool raised = m_raised.contains(OfferIndexOfRow(row));
+        m_display->ShowMark({FieldId::ActualPayment, row}, raised ? Mark::Raised : Mark::None);
+    }
+}
+
+/// In the order of the columns. Where one result cannot be computed, those behind it are empty too,
+/// as they have been since it was entered.
+void Worksheet::ShowAsItStands(Row row) {
+    CLoan& offer = OfferOfRow(row);
+    bool failed = false;
+    for (const FieldRule& rule : OfferFields()) {
+        const Field field{rule.id, row};
+        if (rule.access == Access::Input) {
+            Show(field);
+            continue;
+        }
+        try {
+            if (!failed) {
+                ShowResultAsItStands(offer, field);
+            }
+        } catch (const Failure&) {
+            failed = true;
+        }
+        if (failed) {
+            m_display->ShowText(field, {});
+            m_display->ShowToolTip(field, false);
+        }
+    }
+}
+
+void Worksheet::ShowResultAsItStands(CLoan& offer, Field field) {
+    switch (field.id) {
+    case FieldId::PandI:
+        return ShowAmount(field, offer.PandI());
+    case FieldId::Payment:
+        return ShowAmount(field, offer.LeastPayment());
+    case FieldId::PayoffDate:
+        return ShowPayoff(offer, field.row); // and the interest with it
+    default:
+        return;
+    }
+}
+
+void Worksheet::ClearRaisedMarks() {
+    m_raised.clear();
+    for (Row row{0}; row <= HighestOfferRow(); ++row.value) {
+        m_display->ShowMark({FieldId::ActualPayment, row}, Mark::None);
+    }
+}

@@ -1,0 +1,54 @@
+#include "SortButton.h"
+
+#include "Language.h"
+
+#include <QPainter>
+#include <QPolygonF>
+#include <QStyle>
+
+namespace {
+
+constexpr int ArrowGap = 4;
+
+} // namespace
+
+SortButton::SortButton(QWidget* parent) : QPushButton(parent) {
+    setProperty("activeTextAway", true);
+}
+
+void SortButton::SetActive(bool active) {
+    m_active = active;
+    setProperty("activeTextAway", !active);
+    setAccessibleDescription(active ? GetResourceText(property("activeText").toInt()) : QString());
+    update();
+}
+
+/// An equilateral triangle, in proportion to the letters.
+QSize SortButton::ArrowSize() const {
+    const int width = fontMetrics().height() / 2;
+    return {width, width * 7 / 8};
+}
+
+/// The caption stands in the middle, so the arrow's room is wanted on both sides.
+QSize SortButton::sizeHint() const {
+    return QPushButton::sizeHint() + QSize(2 * (ArrowSize().width() + ArrowGap), 0);
+}
+
+/// The arrow points from the last row to the first, where the least one stands.
+void SortButton::paintEvent(QPaintEvent* event) {
+    QPushButton::paintEvent(event);
+    if (!m_active) {
+        return;
+    }
+    const QSize size = ArrowSize();
+    const int caption = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+    const QPoint place(rect().center().x() + caption / 2 + ArrowGap,
+                       rect().center().y() - size.height() / 2);
+    const QRectF arrow = QStyle::visualRect(layoutDirection(), rect(), QRect(place, size));
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().buttonText());
+    painter.drawPolygon(QPolygonF(
+        {arrow.bottomLeft(), QPointF(arrow.center().x(), arrow.top()), arrow.bottomRight()}));
+}

@@ -1,0 +1,58 @@
+#include "ValueExchange.h"
+
+#include "ControlMap.h"
+#include "DraggedValue.h"
+#include "FieldDiscipline.h"
+#include "FocusTranslator.h"
+#include "Worksheet.h"
+
+#include <QLineEdit>
+#include <QScopeGuard>
+
+ValueExchange::ValueExchange(Worksheet& worksheet, const ControlMap& controls,
+                             FocusTranslator& focus, FieldDiscipline& discipline)
+    : m_worksheet(&worksheet), m_controls(&controls), m_focus(&focus), m_discipline(&discipline) {}
+
+QLineEdit& ValueExchange::EditOf(Field field) const {
+    return *m_controls->ControlOf<QLineEdit>(field);
+}
+
+bool ValueExchange::IsBeingTyped(Field field) const {
+    return RuleOf(field.id).IsNumber() && m_focus->Edited() == field &&
+           EditOf(field).text() != m_worksheet->EntryText(field);
+}
+
+QString ValueExchange::Give(Field field) {
+    if (IsBeingTyped(field) && !m_focus->Commit()) {
+        return {};
+    }
+    return DraggedText(*m_worksheet, field, EditOf(field).text());
+}
+
+bool ValueExchange::CanGive(Field field) const {
+    const QString shown = EditOf(field).text();
+    return !shown.isEmpty() || !DraggedText(*m_worksheet, field, shown).isEmpty();
+}
+
+bool ValueExchange::MayTake(Field field, const QString& text) const {
+    return MayDrop(*m_worksheet, field.id, text);
+}
+
+bool ValueExchange::Take(Field field, const QString& text) {
+    const auto edited = m_focus->Edited();
+    const bool sameRow = edited && edited->row == field.row;
+    if (sameRow && edited != field && !m_focus->Commit()) {
+        return false;
+    }
+    const auto value = ReadDropped(*m_worksheet, field.id, text);
+    const auto settle = qScopeGuard([&] {
+        // Bringing the row up to date may have shown another text in the field being edited.
+        if (sameRow) {
+            m_focus->Reenter();
+        } else {
+            m_discipline->EnterRow(field.row);
+        }
+    });
+    StoreDropped(*m_worksheet, field, value);
+    return true;
+}

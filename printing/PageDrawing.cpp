@@ -11,7 +11,7 @@ constexpr int BoxPen = 2;
 /// Between the edge of a box and the side of its text.
 constexpr double TextPadding = 72;
 /// What a text keeps free of the other edge of its box.
-constexpr double LeastGap = 8;
+constexpr double LeastGap = 20;
 
 /// Type is made smaller down to this size, or to this part of its own if that is less.
 constexpr double LeastPoints = 5;

@@ -17,7 +17,7 @@ constexpr double LegiblePoints = 6;
 /// Window units above and below a text of several lines, together.
 constexpr double LinesPadding = 4;
 /// What the lines about a lender keep free of the right edge, in twips.
-constexpr double LenderGap = 40;
+constexpr double LenderGap = 28;
 constexpr std::size_t LenderColumn = OfferColumnCount - 1;
 
 bool StandsRight(Side side) { return side == Side::Right; }

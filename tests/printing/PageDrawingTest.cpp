@@ -60,7 +60,7 @@ PrintedText At(double x, double y, const char* text, double points = 10) {
 }
 
 /// A box at (50, 100), 500 wide and 200 high: in twips (100, 200), 1,000 and 400. A character is
-/// 100 twips wide and 200 high, and 920 twips are there for text.
+/// 100 twips wide and 200 high, and 908 twips are there for text.
 class TextInBox : public PageDrawingTest, public testing::WithParamInterface<InBox> {};
 
 const std::vector<InBox> BoxCases{

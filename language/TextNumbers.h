@@ -26,6 +26,8 @@ inline constexpr int LoanTypeMortgage = 83;
 inline constexpr int NumberRefused = 87;
 inline constexpr int OffersRefused = 88;
 inline constexpr int Ok = 90;
+/// The loan's name and "..." follow it.
+inline constexpr int Printing = 101;
 /// Ends a question about a loan behind its name.
 inline constexpr int NameEnd = 102;
 /// The title of the question about unsaved changes, and all of it for a loan without a name.
@@ -62,6 +64,10 @@ inline constexpr int PictureLookIn = 522;
 inline constexpr int PictureFileName = 523;
 inline constexpr int PictureFileType = 524;
 inline constexpr int PictureOpen = 525;
+inline constexpr int PrintButton = 560;
+inline constexpr int PrintSetUpTitle = 561;
+/// No text to be shown: the file of the toolkit's own texts in this language.
+inline constexpr int ToolkitTexts = 562;
 inline constexpr int CopyValue = 540;
 inline constexpr int PasteValue = 541;
 /// %1: what was to be pasted. A picture such as " nnnn.nn" follows it.
@@ -102,6 +108,7 @@ inline constexpr std::array All{
     NumberRefused,
     OffersRefused,
     Ok,
+    Printing,
     NameEnd,
     SaveTitle,
     SaveQuestion,
@@ -131,6 +138,9 @@ inline constexpr std::array All{
     PictureFileName,
     PictureFileType,
     PictureOpen,
+    PrintButton,
+    PrintSetUpTitle,
+    ToolkitTexts,
     CopyValue,
     PasteValue,
     ValueRefused,

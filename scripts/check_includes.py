@@ -21,6 +21,7 @@ _FLOORS: dict[str, tuple[str, ...]] = {
     "calc":             ("foundation", "language"),
     "worksheet/model":  ("foundation", "language", "calc"),
     "worksheet/window": ("foundation", "language", "calc", "worksheet/model"),
+    "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
                          "storage/registry"),

@@ -12,11 +12,13 @@
 #include "MessageBoxes.h"
 #include "OptionsCommands.h"
 #include "PictureDialog.h"
+#include "PrintCommands.h"
 #include "ProgramIcon.h"
 #include "SettingsStore.h"
 #include "ShareCommands.h"
 #include "StartUp.h"
 #include "StoreCheck.h"
+#include "SystemPrinter.h"
 #include "TextNumbers.h"
 #include "VersionRecord.h"
 #include "WindowPlace.h"
@@ -75,6 +77,8 @@ int Run(const RegistryAPI& store, const StoreCondition& condition, MessageBoxes&
     FileCommands files(window, LoanStore(store));
     PictureDialog pictures;
     const OptionsCommands options(window, store, pictures);
+    SystemPrinter printer;
+    const PrintCommands printing(window, printer);
     const HelpCommands help(window);
     DesktopMail mail;
     const ShareCommands share(window, mail);

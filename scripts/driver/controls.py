@@ -57,6 +57,8 @@ _SINGLE = {
     "mnuFileNew":           (_MENU,   251),
     "mnuFileSave":          (_MENU,   252),
     "mnuFileDelete":        (_MENU,   253),
+    "mnuFilePrintSetup":    (_MENU,   254),
+    "mnuFilePrint":         (_MENU,   255),
     "mnuFileExit":          (_MENU,   256),
     "mnuTools":             (_MENU,   257),
     "mnuToolsOptions":      (_MENU,   258),

@@ -1,4 +1,5 @@
-"""Shows the program at work: fills its window with a sample, takes pictures, prints what it reads.
+"""Shows the program at work: fills its window with a sample, takes pictures, prints what it reads,
+and prints the worksheet on a printer that writes files.
 
 Nothing printed is computed here: every figure is what the window shows.
 """
@@ -6,11 +7,15 @@ Nothing printed is computed here: every figure is what the window shows.
 from __future__ import annotations
 
 import argparse
+import shutil
+import subprocess
 import sys
+from contextlib import ExitStack
 from pathlib import Path
 
 from accessibility import BusError
 from controls import Texts
+from printlab import PrintLab
 from scenario import parse, play
 from session import Session, run
 from waiting import Expired
@@ -105,6 +110,24 @@ def _open_again(window: Window, locale: str) -> None:
     print(f"Saved as {name!r} and opened again: the same figures.")
 
 
+def _print(window: Window, lab: PrintLab, file: Path) -> None:
+    """Prints the worksheet as a user does, and keeps what comes out of the printer."""
+    window.menu(["mnuFile", "mnuFilePrint"])
+    window.answer("@560")
+    window.progress()
+    shutil.copyfile(lab.document(), file)
+    print(f"report: {file}")
+
+
+def _print_lab(session: Session, ending: ExitStack) -> PrintLab | None:
+    """A printer for this run; None where none can be had."""
+    try:
+        return ending.enter_context(PrintLab(session))
+    except (OSError, subprocess.SubprocessError) as error:
+        print(f"demo: nothing is printed, for want of a print server: {error}", file=sys.stderr)
+        return None
+
+
 def _sort(window: Window, heading: str, file: Path) -> None:
     """Sorts the offers by a column, prints them and takes a picture from the first row on."""
     window.sort(heading)
@@ -130,10 +153,15 @@ def _show(window: Window, pictures: Path, locale: str) -> None:
 
 def main() -> int:
     given = _arguments()
-    with Session(given.locale) as session:
+    with Session(given.locale) as session, ExitStack() as ending:
         try:
+            lab = _print_lab(session, ending)
             window = Window(session, given.program, Texts(_ROOT / "language/components"), 10.0)
-            _show(window, given.pictures.resolve(), given.locale)
+            pictures = given.pictures.resolve()
+            _show(window, pictures, given.locale)
+            if lab:
+                window.menu(["mnuTools", "mnuToolsLanguage", "mnuToolsLanguageOpt(1)"])
+                _print(window, lab, pictures / "report.pdf")
         except (Refused, Expired, BusError, OSError) as error:
             print(f"demo: {error}", file=sys.stderr)
             return 1

@@ -22,6 +22,7 @@
     got                             prints what has been dropped on the neighbour
     dialog                          waits for a message box, prints its text and closes it
     answer <text>|@<n>              waits for a question, prints it and presses that button
+    progress                        waits for a window that closes by itself, prints its text
     expect <control> <text>         waits until the control shows the text
     read <control> ...              prints what each control shows
     name <control> ...              prints what a screen reader calls each control
@@ -151,6 +152,7 @@ _HANDLERS: dict[str, Handler] = {
     "name": _look(lambda window, control: window.find(control).name()),
     "describe": _look(Window.describe),
     "dialog": _note("dialog", Window.dialog),
+    "progress": _note("progress", Window.progress),
     "title": _note("title", Window.title),
     "tree": _note("tree", Window.tree),
 }

@@ -302,6 +302,13 @@ class Window:
         self._wait_gone(box)
         return words
 
+    def progress(self) -> str:
+        """Waits for a window that closes by itself, gives its text, and waits until it has."""
+        box = wait_for("a window to open", self._dialog_now, self._seconds)
+        words = _words(box)
+        self._wait_gone(box)
+        return words
+
     def _wait_gone(self, box: Node) -> None:
         """Waits until a dialog is gone, be it with the whole program."""
         wait_for("the dialog to close",

@@ -179,6 +179,12 @@ void Loan::FitHeight() {
     }
 }
 
+void Loan::ShowEdited() const {
+    if (const auto edited = m_focus.Edited()) {
+        m_worksheet.Show(*edited);
+    }
+}
+
 void Loan::MarkNameMissing() { m_display.ShowMark({FieldId::LoanName}, Mark::Missing); }
 
 void Loan::ClearNameMark() { m_display.ShowMark({FieldId::LoanName}, Mark::None); }

@@ -60,6 +60,8 @@ public:
     /// Stores the field being edited, which stays in entry form. False: it is refused, and the user
     /// has been told; the command stops.
     bool Commit() { return m_focus.Commit(); }
+    /// Shows the field being edited, if any, as it looks once left; Reenter undoes that.
+    void ShowEdited() const;
     /// After a change of the whole worksheet: the field being edited shows its new value to edit.
     void Reenter() { m_focus.Reenter(); }
     /// A worksheet without a name cannot be saved: marks the name's box.

@@ -1,0 +1,121 @@
+#include "PageDrawing.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr int BoxPen = 2;
+/// Between the edge of a box and the side of its text.
+constexpr double TextPadding = 72;
+/// What a text keeps free of the other edge of its box.
+constexpr double LeastGap = 20;
+
+/// Type is made smaller down to this size, or to this part of its own if that is less.
+constexpr double LeastPoints = 5;
+constexpr double LeastPart = 0.6;
+
+} // namespace
+
+PageDrawing::PageDrawing(QSizeF space, const TextMetrics& metrics)
+    : m_metrics(&metrics), m_pages{.space = space, .pages = {PrintedPage{}}} {}
+
+void PageDrawing::SetType(double points, bool bold) {
+    m_font.points = points;
+    m_font.bold = bold;
+}
+
+void PageDrawing::PrintBox(double left, double top, double width, double height) {
+    const double scale = ScaleFactor();
+    Draw(PrintedBox{QRectF((left + m_offsetX) * scale, top * scale, width * scale, height * scale),
+                    BoxPen});
+}
+
+void PageDrawing::PrintLine(double x1, double y1, double x2, double y2, int penWidth) {
+    const double scale = ScaleFactor();
+    Draw(PrintedLine{QLineF(x1 * scale, y1 * scale, x2 * scale, y2 * scale), penWidth});
+}
+
+double PageDrawing::RoomInBox(double width) const {
+    return width * ScaleFactor() - TextPadding - LeastGap;
+}
+
+QString PageDrawing::FitInto(const QString& text, double width) {
+    const double wanted = TextWidth(text);
+    if (wanted <= width) {
+        return text;
+    }
+    const double least = std::min(LeastPoints, m_font.points * LeastPart);
+    m_font.points = std::clamp(m_font.points * width / wanted, least, m_font.points);
+    const double step = 1 / TwipsPerPoint;
+    while (m_font.points > least && TextWidth(text) > width) {
+        m_font.points = std::max(least, m_font.points - step);
+    }
+    return TextWidth(text) <= width ? text : Shortened(text, width);
+}
+
+/// As much of the start as fits together with "…".
+QString PageDrawing::Shortened(const QString& text, double width) const {
+    const auto withEnd = [&](qsizetype length) { return text.left(length).trimmed() + u'…'; };
+    qsizetype fits = 0;
+    qsizetype tooLong = text.size();
+    while (fits + 1 < tooLong) {
+        const qsizetype middle = fits + (tooLong - fits) / 2;
+        (TextWidth(withEnd(middle)) <= width ? fits : tooLong) = middle;
+    }
+    if (fits > 0 && text.at(fits - 1).isHighSurrogate()) {
+        --fits;
+    }
+    return fits > 0 ? withEnd(fits) : QString();
+}
+
+void PageDrawing::PrintTextInBox(double left, double top, double width, double height,
+                                 const QString& text, bool rightAligned) {
+    if (text.isEmpty()) {
+        return;
+    }
+    const QStringList lines = text.split(LineBreak);
+    const double scale = ScaleFactor();
+    const double lineHeight = TextHeight();
+    const double textHeight = lineHeight * static_cast<double>(lines.size());
+    const double leftEdge = (left + m_offsetX) * scale;
+    double y = top * scale + (height * scale - textHeight) / 2;
+    for (const QString& line : lines) {
+        PrintLineInBox(leftEdge, leftEdge + width * scale, y, line, rightAligned);
+        y += lineHeight;
+    }
+}
+
+/// All of it in twips.
+void PageDrawing::PrintLineInBox(double left, double right, double y, const QString& text,
+                                 bool rightAligned) {
+    const PrintFont font = m_font;
+    const double lineHeight = TextHeight();
+    const QString fitting = FitInto(text, right - left - TextPadding - LeastGap);
+    const double x = rightAligned ? right - TextWidth(fitting) - TextPadding : left + TextPadding;
+    PrintAt({x, y + (lineHeight - TextHeight()) / 2}, fitting);
+    m_font = font;
+}
+
+void PageDrawing::PrintLabel(double x, double y, const QString& text, double height, bool centred,
+                             double width) {
+    const double scale = ScaleFactor();
+    QPointF place(x * scale, y * scale);
+    if (height >= 0) {
+        place.ry() += (height * scale - TextHeight()) / 2;
+    }
+    if (centred && width >= 0) {
+        place.rx() += (width * scale - TextWidth(text)) / 2;
+    }
+    PrintAt(place, text);
+}
+
+void PageDrawing::PrintAt(QPointF place, const QString& text) {
+    if (!text.isEmpty()) {
+        Draw(PrintedText{place, text, m_font});
+    }
+}
+
+void PageDrawing::NewPage() { m_pages.pages.emplace_back(); }

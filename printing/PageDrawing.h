@@ -1,0 +1,67 @@
+#pragma once
+
+#include "PrintedPage.h"
+#include "TextMetrics.h"
+
+#include <utility>
+
+/// Draws boxes, lines and texts on pages in memory. Positions and sizes come in window units and
+/// are multiplied by ScaleFactor() just before drawing. What it draws never reaches a printer by
+/// itself.
+class PageDrawing {
+public:
+    /// `space` is the printable part of a page in twips. The metrics outlive the drawing.
+    PageDrawing(QSizeF space, const TextMetrics& metrics);
+
+    double ScaleWidth() const { return m_pages.space.width(); }
+    double ScaleHeight() const { return m_pages.space.height(); }
+    /// Twips per window unit.
+    double ScaleFactor() const { return m_scaleFactor; }
+    void SetScaleFactor(double twipsPerUnit) { m_scaleFactor = twipsPerUnit; }
+    /// Added to the left edge of boxes and of the texts in them; window units.
+    void SetOffsetX(double units) { m_offsetX = units; }
+
+    const PrintFont& Font() const { return m_font; }
+    void SetFont(const PrintFont& font) { m_font = font; }
+    void SetFamily(const QString& family) { m_font.family = family; }
+    void SetType(double points, bool bold);
+    void SetItalic(bool italic) { m_font.italic = italic; }
+    /// In twips, in the font now set.
+    double TextWidth(const QString& text) const { return m_metrics->Width(m_font, text); }
+    double TextHeight() const { return m_metrics->Height(m_font); }
+
+    void PrintBox(double left, double top, double width, double height);
+    void PrintLine(double x1, double y1, double x2, double y2, int penWidth);
+    /// Centred vertically; breaks are "\r\n". A line that is too wide for the box is set in smaller
+    /// type, and one that would not be legible then ends in "…".
+    void PrintTextInBox(double left, double top, double width, double height, const QString& text,
+                        bool rightAligned);
+    /// A caption at (x, y), in a height centred vertically, in a width centred horizontally if
+    /// `centred` says so. A negative height or width is none.
+    void PrintLabel(double x, double y, const QString& text, double height = -1,
+                    bool centred = false, double width = -1);
+    /// The same at a place in twips, for what hangs on the page and not on the window.
+    void PrintAt(QPointF place, const QString& text);
+
+    /// The text as it fits into a width of so many twips: as it is, or else in smaller type, which
+    /// is then set, or else with its end left out.
+    QString FitInto(const QString& text, double width);
+    /// The room for text in a box, in twips.
+    double RoomInBox(double width) const;
+
+    void NewPage();
+    int PageNumber() const { return static_cast<int>(m_pages.pages.size()); }
+    const PrintedPages& Pages() const { return m_pages; }
+
+private:
+    void Draw(PrintedItem item) { m_pages.pages.back().items.push_back(std::move(item)); }
+    QString Shortened(const QString& text, double width) const;
+    void PrintLineInBox(double left, double right, double y, const QString& text,
+                        bool rightAligned);
+
+    const TextMetrics* m_metrics;
+    PrintedPages m_pages;
+    PrintFont m_font;
+    double m_scaleFactor = 1;
+    double m_offsetX = 0;
+};

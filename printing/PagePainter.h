@@ -1,0 +1,30 @@
+#pragma once
+
+#include "TextMetrics.h"
+
+#include <QFontMetricsF>
+
+#include <utility>
+#include <vector>
+
+class QPagedPaintDevice;
+class QPainter;
+
+/// Measures with the fonts that PaintPage draws with.
+class FontMetrics : public TextMetrics {
+public:
+    double Width(const PrintFont& font, const QString& text) const override;
+    double Height(const PrintFont& font) const override;
+
+private:
+    const QFontMetricsF& Of(const PrintFont& font) const;
+
+    mutable std::vector<std::pair<PrintFont, QFontMetricsF>> m_known;
+};
+
+/// Draws a page in black, as lines and text. The painter's unit is the twip, its origin the top
+/// left of the printable part. Fills nothing: the paper is white.
+void PaintPage(QPainter& painter, const PrintedPage& page);
+
+/// Draws all pages on a printer or into a document. False where that cannot be begun.
+bool PaintPages(QPagedPaintDevice& device, const PrintedPages& pages);

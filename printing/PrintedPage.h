@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QLatin1String>
+#include <QLineF>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+
+#include <variant>
+#include <vector>
+
+/// Positions and sizes on paper are twips, 1/1440 inch, from the top left of the printable part of
+/// a page; sizes of type are points, pen widths are dots of 1/300 inch.
+inline constexpr double TwipsPerPoint = 20;
+inline constexpr double TwipsPerInch = 1440;
+inline constexpr double TwipsPerDot = TwipsPerInch / 300;
+
+/// Between the lines of a text on its way to the page; there, each line is a text of its own.
+inline constexpr QLatin1String LineBreak("\r\n");
+
+struct PrintFont {
+    QString family;
+    double points = 0;
+    bool bold = false;
+    bool italic = false;
+
+    friend bool operator==(const PrintFont&, const PrintFont&) = default;
+};
+
+/// A frame; nothing fills it.
+struct PrintedBox {
+    QRectF place;
+    int penWidth = 0;
+};
+
+struct PrintedLine {
+    QLineF line;
+    int penWidth = 0;
+};
+
+/// One line of text; `place` is the top left of its line.
+struct PrintedText {
+    QPointF place;
+    QString text;
+    PrintFont font;
+};
+
+using PrintedItem = std::variant<PrintedBox, PrintedLine, PrintedText>;
+
+/// What stands on a page, in the order of drawing. Black on white.
+struct PrintedPage {
+    std::vector<PrintedItem> items;
+};
+
+/// A report in memory. Nothing of it is on its way to a printer.
+struct PrintedPages {
+    QSizeF space; ///< the printable part of each page
+    std::vector<PrintedPage> pages;
+};

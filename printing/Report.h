@@ -1,0 +1,64 @@
+#pragma once
+
+#include "PageDrawing.h"
+#include "PrintedForm.h"
+
+#include <array>
+
+/// Draws the report of a worksheet on pages in memory: the window on paper, black on white, its
+/// offers broken over as many pages as they need. Nothing is computed anew, nothing is read from
+/// the window while it draws. When to draw, when to stop and whether anything reaches the printer
+/// is for the job to decide (frmPrint).
+class Report {
+public:
+    /// `space`: the printable part of a page in twips. The metrics outlive the report.
+    Report(PrintedForm form, QSizeF space, const TextMetrics& metrics);
+
+    // The sections, to be drawn once each and in this order.
+    void PrintLoanHeader();
+    void PrintCurrentLoanFirstHalf();
+    void PrintCurrentLoanSecondHalf();
+    void PrintOffers();
+
+    using Section = void (Report::*)();
+    static constexpr std::array<Section, 4> Sections{
+        &Report::PrintLoanHeader, &Report::PrintCurrentLoanFirstHalf,
+        &Report::PrintCurrentLoanSecondHalf, &Report::PrintOffers};
+
+    /// The legal notice at the foot of the page; called for the last page once all is drawn.
+    void PrintPageFooter();
+
+    const PrintedPages& Pages() const { return m_page.Pages(); }
+
+    /// The widest window whose type is still legible on a page of this printable width (twips).
+    static double WidestWindow(double scaleWidth, double points, double pixelsPerPoint);
+
+private:
+    void Prepare();
+    void TakeScaleFactor();
+    double TypeScale() const;
+    void TakeLabelFont(const FormLabel& label);
+    void PrintCaption(const FormLabel& label, double top);
+    void PrintEntry(const FormEntry& entry);
+    void PrintEntries(const std::vector<FormEntry>& entries);
+    void PrintColumnHeaders();
+    void PrintRow(const FormRow& row);
+    void PrintRowPart(FormRow& texts);
+    void PrintHighRow(FormRow& texts);
+    void StartNewPage();
+    void PrintPageNumber();
+
+    const FormLabel& lblLoanName() const { return m_form.header.front().label; }
+    QString LenderTextOf(const FormRow& row) const;
+    double LineHeight() const;
+    double HeightOf(qsizetype lines) const;
+    double RowLimit() const;
+    double ColumnWidth(std::size_t column) const;
+
+    PrintedForm m_form;
+    PageDrawing m_page;
+    double m_footerReserve = 0; ///< twips
+    double m_rowTop = 0;        ///< window units, like all that follow
+    double m_rowHeight = 0;
+    double m_lenderColumnWidth = 0;
+};

@@ -1,0 +1,132 @@
+#include "SystemPrinter.h"
+
+#include "Language.h"
+#include "PagePainter.h"
+#include "TextNumbers.h"
+#include "UserPrinter.h"
+#include "VersionRecord.h"
+
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <QTranslator>
+
+#include <array>
+
+namespace {
+
+/// What is not asked: there is no selection and no current page, a report is printed whole, and on
+/// paper.
+constexpr std::array NotAsked{
+    QAbstractPrintDialog::PrintSelection,
+    QAbstractPrintDialog::PrintPageRange,
+    QAbstractPrintDialog::PrintCurrentPage,
+    QAbstractPrintDialog::PrintToFile,
+};
+
+/// The toolkit speaks the language in use for as long as this lives, where it has learned it.
+class ToolkitLanguage {
+public:
+    ToolkitLanguage() {
+        if (m_texts.load(GetResourceText(TextNumber::ToolkitTexts),
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+            QCoreApplication::installTranslator(&m_texts);
+            // Told later, the dialog's buttons would take the toolkit's captions again.
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+        }
+    }
+
+private:
+    QTranslator m_texts; // which goes out of use when it goes
+};
+
+void Limit(QPrintDialog& dialog) {
+    dialog.setMinMax(1, 9999); // which offers a range of pages
+    for (const auto option : NotAsked) {
+        dialog.setOption(option, false);
+    }
+}
+
+void Caption(const QPrintDialog& dialog, QDialogButtonBox::StandardButton which, int text) {
+    if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
+        if (auto* button = buttons->button(which)) {
+            button->setText(GetResourceText(text));
+        }
+    }
+}
+
+/// The page that the printer itself starts from; the toolkit starts from its own.
+QPageSize OwnPageSize(const QPrinter& printer) {
+    const QPageSize own = QPrinterInfo(printer).defaultPageSize();
+    const bool metric = QLocale().measurementSystem() == QLocale::MetricSystem;
+    return own.isValid() ? own : QPageSize(metric ? QPageSize::A4 : QPageSize::Letter);
+}
+
+bool IsThere(const QPrinter& printer) {
+    return QPrinterInfo::availablePrinterNames().contains(printer.printerName());
+}
+
+} // namespace
+
+void PrepareDocument(QPrinter& printer) {
+    printer.setDocName(QStringLiteral("Test Job"));
+    printer.setCreator(QString::fromUtf8(VersionRecord::ProductName));
+    printer.setPageSize(OwnPageSize(printer));
+}
+
+QSizeF PageSpaceOf(const QPrinter& printer) {
+    return printer.pageLayout().paintRect(QPageLayout::Point).size() * TwipsPerPoint;
+}
+
+/// A printer that has gone since it was chosen gives way to the default one.
+QPrinter& SystemPrinter::Chosen() {
+    if (!m_printer || !IsThere(*m_printer)) {
+        m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        PrepareDocument(*m_printer);
+    }
+    return *m_printer;
+}
+
+bool SystemPrinter::Ask(QPrintDialog& dialog) {
+    Limit(dialog);
+    const QString before = m_printer->printerName();
+    const QPageSize size = m_printer->pageLayout().pageSize();
+    if (dialog.exec() != QDialog::Accepted) {
+        return false;
+    }
+    if (m_printer->printerName() != before && m_printer->pageLayout().pageSize() == size) {
+        m_printer->setPageSize(OwnPageSize(*m_printer));
+    }
+    ChooseUserPrinter(m_printer->printerName());
+    return true;
+}
+
+bool SystemPrinter::AskHowToPrint(QWidget& parent) {
+    const ToolkitLanguage language;
+    QPrintDialog dialog(&Chosen(), &parent);
+    Caption(dialog, QDialogButtonBox::Ok, TextNumber::PrintButton);
+    Caption(dialog, QDialogButtonBox::Cancel, TextNumber::Cancel);
+    return Ask(dialog);
+}
+
+void SystemPrinter::AskSetUp(QWidget& parent) {
+    const ToolkitLanguage language;
+    QPrintDialog dialog(&Chosen(), &parent);
+    dialog.setWindowTitle(GetResourceText(TextNumber::PrintSetUpTitle));
+    Caption(dialog, QDialogButtonBox::Ok, TextNumber::Ok);
+    Caption(dialog, QDialogButtonBox::Cancel, TextNumber::Cancel);
+    Ask(dialog);
+}
+
+QSizeF SystemPrinter::PageSpace() { return PageSpaceOf(m_printer ? *m_printer : Chosen()); }
+
+/// The toolkit would print on another printer instead of one that is gone.
+void SystemPrinter::Print(const PrintedPages& pages) {
+    if (m_printer && IsThere(*m_printer)) {
+        PaintPages(*m_printer, pages);
+    }
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "PagePainter.h"
+#include "PrinterDoor.h"
+#include "SystemPrinter.h"
+
+#include <QPrinter>
+
+/// Prints into a file, where no print server can be had.
+class FilePrinter : public PrinterDoor {
+public:
+    FilePrinter(const QString& file, const QPageSize& size,
+                QPageLayout::Orientation orientation = QPageLayout::Portrait) {
+        m_printer.setOutputFormat(QPrinter::PdfFormat);
+        PrepareDocument(m_printer);
+        m_printer.setPageSize(size);
+        m_printer.setPageOrientation(orientation);
+        m_printer.setPageMargins(QMarginsF(18, 18, 18, 18), QPageLayout::Point);
+        m_printer.setOutputFileName(file);
+    }
+
+    bool AskHowToPrint(QWidget& /*parent*/) override { return true; }
+    void AskSetUp(QWidget& /*parent*/) override {}
+    QSizeF PageSpace() override { return PageSpaceOf(m_printer); }
+    void Print(const PrintedPages& pages) override { PaintPages(m_printer, pages); }
+
+private:
+    QPrinter m_printer{QPrinter::HighResolution};
+};

@@ -1,0 +1,225 @@
+// The life of a print job: how long its window stays, where Cancel works, and when pages leave.
+
+#include "DrawnItems.h"
+#include "FakePrinter.h"
+#include "Language.h"
+#include "RulerMetrics.h"
+#include "SampleForm.h"
+#include "WindowFixture.h"
+#include "frmPrint.h"
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A job with one offer, beside the window it belongs to.
+class PrintJobTest : public WindowTest {
+protected:
+    void SetUp() override { Open(); }
+
+    void Start(std::chrono::milliseconds shownAtLeast, std::function<void()> yield = {}) {
+        m_job = std::make_unique<frmPrint>(
+            Window(),
+            frmPrint::Job{.loanName = QStringLiteral("Home"),
+                          .report = Report(SampleForm(1), QSizeF(20000, 20000), m_metrics)},
+            m_printer, frmPrint::Pace{.shownAtLeast = shownAtLeast, .yield = std::move(yield)});
+        m_ended = std::make_unique<QSignalSpy>(m_job.get(), &frmPrint::Unloaded);
+        m_job->show();
+    }
+    frmPrint& Job() { return *m_job; }
+    FakePrinter& Printer() { return m_printer; }
+    QTimer& Timer() { return *m_job->findChild<QTimer*>(QStringLiteral("tmrPrint")); }
+    void Cancel() { m_job->findChild<QPushButton*>(QStringLiteral("cmdCancel"))->click(); }
+    bool Ended() const { return m_ended->count() == 1; }
+    bool WaitForEnd() {
+        return WaitFor([this] { return Ended(); });
+    }
+    bool WaitForFinish() {
+        return WaitFor([this] { return m_job->PrintFinished(); });
+    }
+
+private:
+    RulerMetrics m_metrics;
+    FakePrinter m_printer;
+    std::unique_ptr<frmPrint> m_job;
+    std::unique_ptr<QSignalSpy> m_ended;
+};
+
+TEST_F(PrintJobTest, NamesTheLoanInTheMiddleOfTheWindow) {
+    Start(1h);
+    EXPECT_TRUE(WaitForFinish());
+    EXPECT_EQ(Job().windowTitle(), u"Printing...");
+    EXPECT_EQ(Job().findChild<QLabel*>(QStringLiteral("lblPrintingText"))->text(),
+              GetResourceText(101) + QStringLiteral("Home..."));
+    EXPECT_EQ(Job().findChild<QPushButton*>(QStringLiteral("cmdCancel"))->text(), u"Cancel");
+    EXPECT_FALSE(Job().isModal());
+    EXPECT_EQ(Job().parentWidget(), &Window());
+    const QPoint apart = Job().geometry().center() - Window().geometry().center();
+    EXPECT_LE(apart.manhattanLength(), 4);
+}
+
+TEST_F(PrintJobTest, WaitsForItsTimer) {
+    Start(1h);
+    ASSERT_TRUE(WaitForFinish());
+    Settle();
+    EXPECT_TRUE(Job().isVisible());
+    EXPECT_TRUE(Timer().isActive());
+    EXPECT_EQ(Timer().intervalAsDuration(), 1h);
+    EXPECT_TRUE(Printer().printed.empty());
+
+    Timer().setInterval(0ms);
+    ASSERT_TRUE(WaitForEnd());
+    EXPECT_FALSE(Job().isVisible());
+    EXPECT_FALSE(Timer().isActive());
+    ASSERT_EQ(Printer().printed.size(), 1U);
+    const PrintedPage& page = Printer().printed.front().pages.front();
+    EXPECT_EQ(TextsOf(page).count(QStringLiteral("Legal")), 1); // the last page's footer
+    EXPECT_EQ(TextsOf(page).last(), u"Legal");
+}
+
+TEST_F(PrintJobTest, TakesThreeSecondsUnlessToldOtherwise) {
+    EXPECT_EQ(frmPrint::Pace().shownAtLeast, 3s);
+}
+
+/// Drawing that lasts longer than the timer closes the window as soon as it is done.
+TEST_F(PrintJobTest, ClosesAtOnceWhenTheTimerHasTicked) {
+    int yields = 0;
+    Start(0ms, [&] {
+        ++yields;
+        WaitFor([this] { return !Timer().isActive(); });
+        EXPECT_TRUE(Job().isVisible());
+        EXPECT_TRUE(Printer().printed.empty());
+        EXPECT_FALSE(Job().PrintFinished());
+    });
+    ASSERT_TRUE(WaitForEnd());
+    EXPECT_EQ(yields, 4);
+    EXPECT_TRUE(Job().PrintFinished());
+    EXPECT_EQ(Printer().printed.size(), 1U);
+}
+
+/// Which of the four yields Cancel is pressed in.
+class CancelledAt : public PrintJobTest, public testing::WithParamInterface<int> {};
+
+INSTANTIATE_TEST_SUITE_P(Yields, CancelledAt, testing::Values(1, 2, 3, 4));
+
+TEST_P(CancelledAt, DrawsNothingMoreAndPrintsNothing) {
+    int yields = 0;
+    Start(0ms, [&] {
+        if (++yields == GetParam()) {
+            Cancel();
+            EXPECT_FALSE(Job().isVisible());
+            EXPECT_FALSE(Ended()); // it is still being drawn
+        }
+    });
+    ASSERT_TRUE(WaitForEnd());
+    Settle();
+    EXPECT_EQ(yields, GetParam());
+    EXPECT_TRUE(Job().PrintCancelled());
+    EXPECT_FALSE(Job().PrintFinished());
+    EXPECT_TRUE(Printer().printed.empty());
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(PrintJobTest, ACancelWaitingInTheQueueIsHandledInAYield) {
+    Start(1h);
+    QTimer::singleShot(0, &Job(), [this] { Cancel(); });
+    ASSERT_TRUE(WaitForEnd());
+    EXPECT_FALSE(Job().PrintFinished());
+    EXPECT_TRUE(Printer().printed.empty());
+}
+
+struct WayOut {
+    const char* name;
+    void (*leave)(frmPrint& job);
+};
+
+class CancelledWhileWaiting : public PrintJobTest, public testing::WithParamInterface<WayOut> {};
+
+INSTANTIATE_TEST_SUITE_P(
+    Ways, CancelledWhileWaiting,
+    testing::Values(WayOut{"Button",
+                           [](frmPrint& job) {
+                               QTest::mouseClick(
+                                   job.findChild<QPushButton*>(QStringLiteral("cmdCancel")),
+                                   Qt::LeftButton);
+                           }},
+                    WayOut{"Escape", [](frmPrint& job) { QTest::keyClick(&job, Qt::Key_Escape); }},
+                    WayOut{"CloseBox", [](frmPrint& job) { job.close(); }},
+                    WayOut{"Return", [](frmPrint& job) { QTest::keyClick(&job, Qt::Key_Return); }}),
+    [](const auto& way) { return way.param.name; });
+
+TEST_P(CancelledWhileWaiting, PrintsNothingAlthoughAllIsDrawn) {
+    Start(1h);
+    ASSERT_TRUE(WaitForFinish());
+    GetParam().leave(Job());
+    EXPECT_TRUE(Ended());
+    EXPECT_TRUE(Job().PrintCancelled());
+    Settle();
+    EXPECT_FALSE(Job().isVisible());
+    EXPECT_FALSE(Timer().isActive());
+    EXPECT_TRUE(Printer().printed.empty());
+}
+
+TEST_F(PrintJobTest, CancelAfterTheEndChangesNothing) {
+    Start(0ms);
+    ASSERT_TRUE(WaitForEnd());
+    Cancel();
+    Job().close();
+    EXPECT_TRUE(Ended());
+    EXPECT_FALSE(Job().PrintCancelled());
+    EXPECT_EQ(Printer().printed.size(), 1U);
+}
+
+TEST_F(PrintJobTest, ShowsTheHourglassWhileDrawing) {
+    bool busy = true;
+    Start(1h, [&] {
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        busy = busy && cursor != nullptr && cursor->shape() == Qt::WaitCursor;
+    });
+    ASSERT_TRUE(WaitForFinish());
+    EXPECT_TRUE(busy);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(PrintJobTest, DrawsOnceHoweverOftenItsWindowIsActivated) {
+    int yields = 0;
+    Start(1h, [&] { ++yields; });
+    ASSERT_TRUE(WaitForFinish());
+    ActivateAgain();
+    Job().activateWindow();
+    Settle();
+    EXPECT_EQ(yields, 4);
+}
+
+TEST_F(PrintJobTest, CancelledBeforeItsFirstLineDrawsNone) {
+    int yields = 0;
+    Start(1h, [&] { ++yields; });
+    Cancel();
+    EXPECT_TRUE(Ended());
+    Settle();
+    EXPECT_EQ(yields, 0);
+    EXPECT_TRUE(Printer().printed.empty());
+}
+
+TEST_F(PrintJobTest, TheEndOfTheProgramPrintsWhatIsFinished) {
+    Start(1h);
+    ASSERT_TRUE(WaitForFinish());
+    Job().EndNow();
+    EXPECT_TRUE(Ended());
+    EXPECT_EQ(Printer().printed.size(), 1U);
+}
+
+TEST_F(PrintJobTest, TheEndOfTheProgramDropsWhatIsNot) {
+    Start(1h, [this] { Job().EndNow(); });
+    ASSERT_TRUE(WaitForEnd());
+    EXPECT_TRUE(Printer().printed.empty());
+}
+
+} // namespace

@@ -111,11 +111,12 @@ TEST_P(HelpShown, PicturesShow) {
 /// The contrast of two colours, from 1 to 21.
 double Contrast(const QColor& one, const QColor& other) {
     const auto light = [](const QColor& colour) {
-        const auto part = [](double value) {
+        const auto part = [](int level) {
+            const double value = level / 255.0;
             return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
         };
-        return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
-               0.0722 * part(colour.blueF()) + 0.05;
+        return 0.2126 * part(colour.red()) + 0.7152 * part(colour.green()) +
+               0.0722 * part(colour.blue()) + 0.05;
     };
     return std::max(light(one), light(other)) / std::min(light(one), light(other));
 }

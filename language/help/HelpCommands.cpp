@@ -4,6 +4,7 @@
 #include "HelpTopic.h"
 #include "HelpWindow.h"
 #include "Language.h"
+#include "LinkColour.h"
 #include "Loan.h"
 #include "LoanForm.h"
 #include "TextNumbers.h"
@@ -12,6 +13,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QToolTip>
 #include <QUrl>
 #include <QWhatsThis>
 
@@ -111,10 +113,13 @@ void HelpCommands::ShowWhatsThis(int topic, const QPoint& at, QWidget* window) {
         if (!text.isEmpty()) {
             const QUrl page = Book().PageOfTopic(topic);
             const QString link = page.fileName() + u'#' + page.fragment();
-            QWhatsThis::showText(at,
-                                 text + QStringLiteral("<p><a href=\"%1\">%2</a></p>")
-                                            .arg(link, GetResourceText(TextNumber::HelpMore)),
-                                 window);
+            const QColor colour = LinkColour(QToolTip::palette(), QPalette::ToolTipBase);
+            const QString more = QStringLiteral("<p><a href=\"%1\">%2</a></p>")
+                                     .arg(link, GetResourceText(TextNumber::HelpMore));
+            QWhatsThis::showText(
+                at,
+                QStringLiteral("<style>a { color: %1 }</style>").arg(colour.name()) + text + more,
+                window);
         }
     });
 }

@@ -17,6 +17,11 @@ public:
 
     QVariant loadResource(int type, const QUrl& name) override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void ColourLinks();
+
     const HelpBook* m_book = nullptr;
 };

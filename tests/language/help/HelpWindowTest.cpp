@@ -15,8 +15,12 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextCursor>
 #include <QTreeView>
 #include <QWindow>
+
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -102,6 +106,37 @@ TEST_P(HelpShown, PicturesShow) {
         view.loadResource(QTextDocument::ImageResource, QUrl(QStringLiteral("pictures/loan.png")));
     ASSERT_FALSE(picture.value<QImage>().isNull());
     EXPECT_LE(picture.value<QImage>().deviceIndependentSize().width(), view.viewport()->width());
+}
+
+/// The contrast of two colours, from 1 to 21.
+double Contrast(const QColor& one, const QColor& other) {
+    const auto light = [](const QColor& colour) {
+        const auto part = [](int level) {
+            const double value = level / 255.0;
+            return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(colour.red()) + 0.7152 * part(colour.green()) +
+               0.0722 * part(colour.blue()) + 0.05;
+    };
+    return std::max(light(one), light(other)) / std::min(light(one), light(other));
+}
+
+TEST_P(HelpShown, LinksCanBeReadInAnyPalette) {
+    Entry(QStringLiteral("mnuHelpContents")).trigger();
+    auto& view = InHelp<HelpView>(QStringLiteral("txtPage"));
+    for (const QColor& window : {QColor(239, 239, 239), QColor(38, 38, 42), QColor(0, 0, 0)}) {
+        QPalette palette(window);
+        palette.setColor(QPalette::Link, Qt::blue);
+        view.setPalette(palette);
+        Settle();
+        QTextCursor link(view.document());
+        while (!link.charFormat().isAnchor() && link.movePosition(QTextCursor::NextCharacter)) {
+        }
+        ASSERT_TRUE(link.charFormat().isAnchor());
+        EXPECT_GE(Contrast(link.charFormat().foreground().color(), palette.color(QPalette::Base)),
+                  4.5)
+            << window.name().toStdString();
+    }
 }
 
 TEST_P(HelpShown, SearchFindsWholeAndBegunWords) {

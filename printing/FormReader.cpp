@@ -148,6 +148,7 @@ public:
     template <class Table>
     std::vector<FormEntry> Entries(const Table& table) const {
         std::vector<FormEntry> entries;
+        entries.reserve(table.size());
         for (const EntryOf& entry : table) {
             entries.push_back(Entry(entry));
         }

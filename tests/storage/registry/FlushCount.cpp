@@ -1,7 +1,5 @@
 #include "FlushCount.h"
 
-#include "FlushCount.h"
-
 #include <sys/syscall.h>
 #include <unistd.h>
 

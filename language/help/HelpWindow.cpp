@@ -111,17 +111,12 @@ void HelpWindow::SetBook(std::shared_ptr<HelpBook> book) {
     m_book = std::move(book);
 
     QHelpSearchEngine* search = m_book->Engine().searchEngine();
-    m_read = false;
-    m_wanted.clear();
-    connect(search, &QHelpSearchEngine::indexingFinished, this, [this] {
-        m_read = true;
-        Find();
-    });
     connect(search, &QHelpSearchEngine::searchingFinished, this, &HelpWindow::ListFound);
     connect(m_book->Engine().contentModel(), &QHelpContentModel::contentsCreated, this,
             &HelpWindow::UnfoldContents);
     UnfoldContents();
     m_book->PrepareToFind();
+    Find(); // the words of before, in the new book
 
     ShowTexts();
     QUrl same = m_book->Page(before.fileName());
@@ -164,7 +159,7 @@ void HelpWindow::ListKeywords(const QString& start) {
 
 void HelpWindow::Find() {
     const QString query = QueryOf(m_ui->txtWords->text());
-    if (m_read && !query.isEmpty()) {
+    if (!query.isEmpty()) {
         m_book->Find(query);
     }
 }

@@ -68,6 +68,4 @@ private:
     bool m_placed = false;
     std::shared_ptr<HelpBook> m_book;
     QSortFilterProxyModel m_keywords;
-    QString m_wanted; ///< the words to look for once the book has been read
-    bool m_read = false;
 };

@@ -2,7 +2,6 @@
 set(doc "${data}/doc/quend-loan")
 pack("${log}" "${made}/changelog.gz")
 install(FILES debian/copyright "${made}/changelog.gz" DESTINATION "${doc}")
-install(FILES debian/lintian-overrides DESTINATION "${data}/lintian/overrides" RENAME quend-loan)
 
 # What the linker cannot know: scripts/packages names what is loaded by name. The linked libraries are
 # found in the program itself, and scripts/package compares them with that list.

@@ -5,6 +5,7 @@
 #include "DesktopMail.h"
 #include "FileCommands.h"
 #include "HelpCommands.h"
+#include "HelpPart.h"
 #include "InstalledSystemInfo.h"
 #include "Language.h"
 #include "LanguageIdentifier.h"
@@ -13,12 +14,12 @@
 #include "OptionsCommands.h"
 #include "PictureDialog.h"
 #include "PrintCommands.h"
+#include "PrinterOfPart.h"
 #include "ProgramIcon.h"
 #include "SettingsStore.h"
 #include "ShareCommands.h"
 #include "StartUp.h"
 #include "StoreCheck.h"
-#include "SystemPrinter.h"
 #include "TextNumbers.h"
 #include "VersionRecord.h"
 #include "WindowPlace.h"
@@ -77,9 +78,9 @@ int Run(const RegistryAPI& store, const StoreCondition& condition, MessageBoxes&
     FileCommands files(window, LoanStore(store));
     PictureDialog pictures;
     const OptionsCommands options(window, store, pictures);
-    SystemPrinter printer;
+    PrinterOfPart printer;
     const PrintCommands printing(window, printer);
-    const HelpCommands help(window);
+    const HelpCommands help(window, OpenByPart);
     DesktopMail mail;
     const ShareCommands share(window, mail);
     const AboutCommands about(window, store, InstalledSystemInfo());

@@ -29,6 +29,7 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <future>
 #include <optional>
 
 namespace {
@@ -99,9 +100,16 @@ int Run(const RegistryAPI& store, const StoreCondition& condition, MessageBoxes&
     return QApplication::exec();
 }
 
+/// Looks at the store while the toolkit gets ready.
+std::future<StoreCondition> BeginLook(const std::filesystem::path& store) {
+    const std::string today = QDate::currentDate().toString(Qt::ISODate).toStdString();
+    return std::async([store, today] { return PrepareStore(store, today); });
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
+    std::future<StoreCondition> look = BeginLook(RegistryAPI::UserStore());
     const QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Quend Halverworks"));
     QCoreApplication::setApplicationName(QStringLiteral("Loan"));
@@ -112,8 +120,7 @@ int main(int argc, char* argv[]) {
     SetUpLanguage();
     MessageBoxes messages;
     const RegistryAPI store(RegistryAPI::UserStore());
-    const StoreCondition condition = PrepareStore(
-        RegistryAPI::UserStore(), QDate::currentDate().toString(Qt::ISODate).toStdString());
+    const StoreCondition condition = look.get();
     if (const auto obstacle = Obstacle(store, condition)) {
         messages.Show(*obstacle);
         return 1;

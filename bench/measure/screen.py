@@ -14,8 +14,7 @@ from Xlib.ext import damage, xtest
 
 _SIZE = (1280, 1024)
 _SMALLEST = (150, 80)  # a main window, not one of those that a toolkit keeps for itself
-_SPLASH = ("_NET_WM_WINDOW_TYPE_SPLASH", "_NET_WM_WINDOW_TYPE_DIALOG",
-           "_NET_WM_WINDOW_TYPE_TOOLTIP")
+_OTHERS = ("_NET_WM_WINDOW_TYPE_SPLASH", "_NET_WM_WINDOW_TYPE_TOOLTIP")
 
 
 class Box(NamedTuple):
@@ -27,16 +26,6 @@ class Box(NamedTuple):
     height: int
 
 
-def _connect(name: str) -> display.Display:
-    """The server tells its name a moment before it listens."""
-    for _ in range(100):
-        try:
-            return display.Display(name)
-        except error.DisplayConnectionError:
-            time.sleep(0.05)
-    return display.Display(name)
-
-
 class Screen:
     """An X server in memory."""
 
@@ -46,9 +35,9 @@ class Screen:
             ["Xvfb", "-displayfd", str(writing), "-screen", "0", f"{_SIZE[0]}x{_SIZE[1]}x24",
              "-nolisten", "tcp"], pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
-        self.name = ":" + os.read(reading, 16).decode().strip()
-        os.close(reading)
-        self._display = _connect(self.name)
+        with os.fdopen(reading) as answer:
+            self.name = ":" + answer.readline().strip()
+        self._display = display.Display(self.name)
         self._display.set_error_handler(lambda *_: None)  # windows come and go
         self._display.damage_query_version()
         self._root = self._display.screen().root
@@ -93,7 +82,7 @@ class Screen:
             return False
         names = [self._display.get_atom_name(atom) for atom in kind.value] if kind else []
         return (size.width >= _SMALLEST[0] and size.height >= _SMALLEST[1]
-                and not any(name in _SPLASH for name in names[:1]))
+                and not any(name in _OTHERS for name in names[:1]))
 
     def is_window(self, event) -> bool:
         return event.type == X.MapNotify

@@ -28,7 +28,8 @@ class Start:
     processor: float  # time of all threads together
     peak: float
     resident: float
-    share: float  # resident, pages shared with other programs counted in part
+    share: float  # resident, what other programs use, too, counted in part
+    own: float  # resident and nobody else's
 
 
 @dataclass(frozen=True)
@@ -75,8 +76,16 @@ class Starter:
         self._run(program, program.keys,
                   lambda *_: self._keep(program, Answer(box, self._screen.pixels(box))))
 
+    def home(self, program: Program) -> pathlib.Path:
+        return self._folder / program.name
+
     def start(self, program: Program) -> Start:
         return self._run(program, program.keys, self._measure)
+
+    def start_unanswered(self, program: Program) -> Start:
+        """Its key is sent, but whether it answers is not looked at."""
+        return self._run(program, program.keys, lambda seen, process: self._measure(
+            {**seen, "usable": seen["finished"]}, process))
 
     def _keep(self, program: Program, answer: Answer) -> None:
         self._answers[program.name] = answer
@@ -89,10 +98,12 @@ class Starter:
         return Start(seen["window"], seen["main"], seen["usable"], seen["finished"],
                      _processor(folder), _megabytes(folder / "status", "VmHWM"),
                      _megabytes(folder / "status", "VmRSS"),
-                     _megabytes(folder / "smaps_rollup", "Pss"))
+                     _megabytes(folder / "smaps_rollup", "Pss"),
+                     _megabytes(folder / "smaps_rollup", "Private_Clean")
+                     + _megabytes(folder / "smaps_rollup", "Private_Dirty"))
 
     def _run(self, program: Program, keys: tuple[str, ...], see):
-        home = self._folder / program.name
+        home = self.home(program)
         program.prepare(home)
         self._screen.forget()
         begin = time.perf_counter()

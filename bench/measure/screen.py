@@ -13,8 +13,9 @@ from Xlib import X, XK, display, error
 from Xlib.ext import damage, xtest
 
 _SIZE = (1280, 1024)
-_SMALLEST = (150, 80)  # a main window, not one of those that a toolkit keeps for itself
-_OTHERS = ("_NET_WM_WINDOW_TYPE_SPLASH", "_NET_WM_WINDOW_TYPE_TOOLTIP")
+_SMALLEST = (150, 80)
+_OTHERS = ("_NET_WM_WINDOW_TYPE_SPLASH", "_NET_WM_WINDOW_TYPE_DIALOG",
+           "_NET_WM_WINDOW_TYPE_TOOLTIP")
 
 
 class Box(NamedTuple):
@@ -72,6 +73,7 @@ class Screen:
                 yield moment, happened
 
     def is_main_window(self, event) -> bool:
+        """Not a splash, a dialog or one of those small ones that a toolkit keeps for itself."""
         if event.type != X.MapNotify or event.override:
             return False
         try:

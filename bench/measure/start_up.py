@@ -14,6 +14,7 @@ from .screen import Box, Screen, difference
 # A caret blinks every half second: a window that is painted no more for so long is finished.
 _QUIET = 0.3
 _PATIENCE = 20.0
+_ATTEMPTS = 3  # for a start that the rest of the machine got in the way of
 DROP_CACHES = pathlib.Path("/proc/sys/vm/drop_caches")
 
 
@@ -64,23 +65,26 @@ class Starter:
         """Finds out what the answer to the program's key looks like: what is otherwise after a start
         with the key than after one without."""
         self._run(program, (), lambda *_: None)  # its first start in this home
-        without, answered, again = (
-            self._run(program, keys, lambda *_: self._screen.pixels())
-            for keys in ((), program.keys, program.keys))
-        box = difference(without, answered)
-        if box is None:
-            raise RuntimeError(f"{program.name} does not answer its key")
-        moves = difference(answered, again)
-        if moves and moves.width * moves.height >= box.width * box.height:
-            raise RuntimeError(f"{program.name} looks otherwise each time")
-        self._run(program, program.keys,
-                  lambda *_: self._keep(program, Answer(box, self._screen.pixels(box))))
+        for _ in range(_ATTEMPTS):
+            without, answered, again = (
+                self._run(program, keys, lambda *_: self._screen.pixels())
+                for keys in ((), program.keys, program.keys))
+            box = difference(without, answered)
+            if box and difference(answered, again) is None:
+                self._run(program, program.keys,
+                          lambda *_: self._keep(program, Answer(box, self._screen.pixels(box))))
+                return
+        raise RuntimeError(f"{program.name} does not answer its key, or not always alike")
 
     def home(self, program: Program) -> pathlib.Path:
         return self._folder / program.name
 
     def start(self, program: Program) -> Start:
-        return self._run(program, program.keys, self._measure)
+        for _ in range(_ATTEMPTS):
+            start = self._run(program, program.keys, self._measure)
+            if start:
+                return start
+        raise RuntimeError(f"{program.name} did not answer its key")
 
     def start_unanswered(self, program: Program) -> Start:
         """Its key is sent, but whether it answers is not looked at."""
@@ -91,10 +95,10 @@ class Starter:
         self._answers[program.name] = answer
 
     @staticmethod
-    def _measure(seen: dict[str, float], process: int) -> Start:
+    def _measure(seen: dict[str, float], process: int) -> Start | None:
         folder = pathlib.Path("/proc") / str(process)
         if "usable" not in seen:
-            raise RuntimeError(f"no answer seen within {seen.get('finished')} ms")
+            return None
         return Start(seen["window"], seen["main"], seen["usable"], seen["finished"],
                      _processor(folder), _megabytes(folder / "status", "VmHWM"),
                      _megabytes(folder / "status", "VmRSS"),

@@ -26,7 +26,7 @@ class Sitting:
         screen.forget()
         self._process = subprocess.Popen(program.command, env=environment(home, screen.name),
                                          stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        self._window = self._next_window()
+        self._window = self._next_window(screen.is_main_window)
         self._fill()
 
     def close(self) -> None:
@@ -37,10 +37,10 @@ class Sitting:
         for character in text:
             self._screen.press(_NAMES.get(character, character))
 
-    def _next_window(self):
+    def _next_window(self, fits):
         shown = []
         for _, happened in self._screen.events(0.3, lambda: bool(shown)):
-            shown += [event.window for event in happened if self._screen.is_main_window(event)]
+            shown += [event.window for event in happened if fits(event)]
         self._screen.give_keyboard(shown[0])
         return shown[0]
 
@@ -63,7 +63,7 @@ class Sitting:
 
     def _close_notice(self) -> None:
         """The first payment that is filled in is told."""
-        self._next_window()
+        self._next_window(self._screen.is_window)
         self._screen.press("Return")
         self._screen.last_paint(0.3)
         self._screen.give_keyboard(self._window)

@@ -1,5 +1,5 @@
-// A whole loan paid off period by period: the schedule beside the same arithmetic as a bare loop, and
-// beside a bond of the same terms of a library for quantitative finance. By months of the loan.
+// A whole loan paid off period by period: the schedule beside the same arithmetic as a bare loop,
+// and beside a bond of the same terms of a library for quantitative finance. By months of the loan.
 
 #include "BareLoop.h"
 #include "Payment.h"
@@ -58,9 +58,9 @@ double InterestOfBond(int months) {
     using namespace QuantLib;
     const QuantLib::Date start(21, July, 2026);
     const Period term(months, Months);
-    const AmortizingFixedRateBond bond(
-        0, sinkingNotionals(term, Monthly, Rate, Amount),
-        sinkingSchedule(start, term, Monthly, NullCalendar()), {Rate}, SimpleDayCounter());
+    const AmortizingFixedRateBond bond(0, sinkingNotionals(term, Monthly, Rate, Amount),
+                                       sinkingSchedule(start, term, Monthly, NullCalendar()),
+                                       {Rate}, SimpleDayCounter());
     double interest = 0;
     for (const auto& flow : bond.cashflows()) {
         if (ext::dynamic_pointer_cast<Coupon>(flow)) {

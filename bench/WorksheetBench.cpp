@@ -53,7 +53,10 @@ void EverythingTheWindowShows(benchmark::State& state) {
         worksheet.SetEscrowTaxes(Money::FromDouble(more ? 3'600 : 3'000));
     }
 }
-BENCHMARK(EverythingTheWindowShows)->RangeMultiplier(2)->Range(1, 16)->Unit(benchmark::kMicrosecond);
+BENCHMARK(EverythingTheWindowShows)
+    ->RangeMultiplier(2)
+    ->Range(1, 16)
+    ->Unit(benchmark::kMicrosecond);
 
 /// The headings of the columns, one after the other: every row is shown anew each time.
 void BothSorts(benchmark::State& state) {

@@ -31,8 +31,7 @@ constexpr std::array NotAsked{
 class ToolkitLanguage {
 public:
     explicit ToolkitLanguage(const QString& catalogue) {
-        if (m_texts.load(catalogue,
-                         QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        if (m_texts.load(catalogue, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
             QCoreApplication::installTranslator(&m_texts);
             // Told later, the dialog's buttons would take the toolkit's captions again.
             QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);

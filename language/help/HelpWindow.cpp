@@ -112,8 +112,8 @@ void HelpWindow::SetBook(std::shared_ptr<HelpBook> book) {
         m_book->TellReader({});
     }
     m_book = std::move(book);
-    m_book->TellReader({.contentsListed = [this] { UnfoldContents(); },
-                        .searched = [this] { ListFound(); }});
+    m_book->TellReader(
+        {.contentsListed = [this] { UnfoldContents(); }, .searched = [this] { ListFound(); }});
     UnfoldContents();
     m_book->PrepareToFind();
     Find(); // the words of before, in the new book

@@ -1,14 +1,16 @@
 """Measures the program beside its peers, and writes what it finds into docs/performance.md (or another
-such file, given as argument). scripts/bench runs it."""
+such file). scripts/bench runs it."""
 
 from __future__ import annotations
 
+import argparse
 import os
 import pathlib
 import subprocess
 import sys
 import tempfile
 import time
+import traceback
 from dataclasses import replace
 
 from . import benches, report, start_up, tables, window, worksheets
@@ -74,7 +76,7 @@ def _starts_on_new_screens(folder: pathlib.Path, programs: list[Program]) -> str
     return report.memory(programs, measured)
 
 
-def _window(folder: pathlib.Path) -> str:
+def _window(folder: pathlib.Path) -> dict[str, str]:
     _say("keys in the window")
     screen = Screen()
     sitting = window.Sitting(screen, own(_BUILD / "bin"), folder)
@@ -85,12 +87,13 @@ def _window(folder: pathlib.Path) -> str:
     finally:
         sitting.close()
         screen.close()
-    return tables.table(["ms, from the key to the end of the paint", "median", "least", "most"],
-                        [[name, *map(tables.number, window.median_and_range(values))]
-                         for name, values in rows.items()])
+    return {"window": tables.table(
+        ["ms, from the key to the end of the paint", "median", "least", "most"],
+        [[name, *map(tables.number, window.median_and_range(values))]
+         for name, values in rows.items()])}
 
 
-def _arithmetic() -> dict[str, str]:
+def _arithmetic(_: pathlib.Path) -> dict[str, str]:
     _say("arithmetic")
     found = benches.run(_BENCH / "loan_bench_library", clock="cpu_time")
     schedule, bare, bond = (report.by_size(found, name)
@@ -105,7 +108,7 @@ def _arithmetic() -> dict[str, str]:
     return {"arithmetic": rows + "\n\n" + ratios}
 
 
-def _offers() -> dict[str, str]:
+def _offers(_: pathlib.Path) -> dict[str, str]:
     _say("offers")
     calc = benches.run(_BENCH / "loan_bench_calc", "RecalculateOffers/Monthly", clock="cpu_time")
     sheet = benches.run(_BENCH / "loan_bench_worksheet", "Everything", clock="cpu_time")
@@ -113,7 +116,7 @@ def _offers() -> dict[str, str]:
     kept = benches.run(_BENCH / "loan_bench_worksheets", "Worksheet/", 5)
     printed = benches.run(_BENCH / "loan_bench_print", "PrintedReport/.*/2$", 5)
     rows = {
-        "five results each": report.by_size(calc, "RecalculateOffers/Monthly", clock="cpu_time"),
+        "five results each": report.by_size(calc, "RecalculateOffers/Monthly"),
         "one edit: results and texts": report.by_size(sheet, "EverythingTheWindowShows"),
         "key to painted result, offscreen": report.by_size(shown, "KeyToPaintedResult"),
         "save": report.by_size(kept, "SaveOfAWorksheet"),
@@ -123,7 +126,7 @@ def _offers() -> dict[str, str]:
     return {"offers": report.growth(_OFFERS, "ms by offers", rows)}
 
 
-def _worksheets() -> dict[str, str]:
+def _worksheets(_: pathlib.Path) -> dict[str, str]:
     _say("worksheets")
     found = benches.run(_BENCH / "loan_bench_worksheets", "TenThousand", 3)
     return {"worksheets": tables.table(["", "ms", "spread"],
@@ -131,7 +134,7 @@ def _worksheets() -> dict[str, str]:
                                         for name, figure in found.items()])}
 
 
-def _printing() -> dict[str, str]:
+def _printing(_: pathlib.Path) -> dict[str, str]:
     _say("printing")
     drawn = benches.run(_BENCH / "loan_bench_print", "PrintedReport/16/", 5)
     rows = [[f"drawn, {figure.counters['pages']:.0f} pages", tables.number(figure.median),
@@ -149,18 +152,37 @@ def _printing() -> dict[str, str]:
     return {"printing": tables.table(["a report of sixteen offers", "ms", "spread"], rows)}
 
 
-def main() -> None:
-    file = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else ROOT / "docs/performance.md"
-    parts = {"machine": report.machine()}
-    with tempfile.TemporaryDirectory(prefix="loan-bench-") as name:
-        folder = pathlib.Path(name)
-        parts |= _starts(folder)
-        parts["window"] = _window(folder)
-    for measure in (_arithmetic, _offers, _worksheets, _printing):
-        parts |= measure()
-    tables.write(file, parts)
-    _say(f"written to {file}")
+_SECTIONS = {"starts": _starts, "window": _window, "arithmetic": _arithmetic, "offers": _offers,
+             "worksheets": _worksheets, "printing": _printing}
+
+
+def _arguments() -> argparse.Namespace:
+    parser = argparse.ArgumentParser(prog="scripts/bench")
+    parser.add_argument("sections", nargs="*", metavar="section", default=[],
+                        help=f"of {', '.join(_SECTIONS)}; without any, all of them")
+    parser.add_argument("--file", type=pathlib.Path, default=ROOT / "docs/performance.md",
+                        help="whose tables are written")
+    arguments = parser.parse_args()
+    if unknown := set(arguments.sections) - set(_SECTIONS):
+        parser.error(f"there is no section {', '.join(sorted(unknown))}")
+    return arguments
+
+
+def main() -> int:
+    """A section that fails leaves its old tables, and the others are measured all the same."""
+    arguments = _arguments()
+    failed = []
+    tables.write(arguments.file, {"machine": report.machine()})
+    with tempfile.TemporaryDirectory(prefix="loan-bench-") as folder:
+        for name in arguments.sections or _SECTIONS:
+            try:
+                tables.write(arguments.file, _SECTIONS[name](pathlib.Path(folder)))
+            except Exception:  # whatever it is, it is told
+                traceback.print_exc()
+                failed.append(name)
+    _say(f"failed: {', '.join(failed)}" if failed else f"written to {arguments.file}")
+    return 1 if failed else 0
 
 
 if __name__ == "__main__":
-    main()
+    sys.exit(main())

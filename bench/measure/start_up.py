@@ -13,7 +13,8 @@ from .screen import Box, Screen, difference
 
 # A caret blinks every half second: a window that is painted no more for so long is finished.
 _QUIET = 0.3
-_PATIENCE = 20.0
+_QUIET_TO_LEARN = 0.45
+_PATIENCE = 10.0
 _ATTEMPTS = 3  # for a start that the rest of the machine got in the way of
 DROP_CACHES = pathlib.Path("/proc/sys/vm/drop_caches")
 
@@ -64,6 +65,7 @@ class Starter:
     def learn(self, program: Program) -> None:
         """Finds out what the answer to the program's key looks like: what is otherwise after a start
         with the key than after one without."""
+        self._answers.pop(program.name, None)
         self._run(program, (), lambda *_: None)  # its first start in this home
         for _ in range(_ATTEMPTS):
             without, answered, again = (
@@ -84,6 +86,7 @@ class Starter:
             start = self._run(program, program.keys, self._measure)
             if start:
                 return start
+            self.learn(program)
         raise RuntimeError(f"{program.name} did not answer its key")
 
     def start_unanswered(self, program: Program) -> Start:
@@ -128,8 +131,10 @@ class Starter:
         """The moments of a start, in milliseconds since then. The keys are sent when the main window
         shows: they wait for the program as those of an impatient user would."""
         seen: dict[str, float] = {}
-        answer = self._answers.get(program.name)
-        for moment, happened in self._screen.events(_QUIET, lambda: "finished" in seen, _PATIENCE):
+        answer = self._answers.get(program.name) if keys else None
+        quiet = _QUIET if answer else _QUIET_TO_LEARN
+        wanted = "usable" if answer else "finished"
+        for moment, happened in self._screen.events(quiet, lambda: wanted in seen, _PATIENCE):
             since = 1000 * (moment - begin)
             for event in happened:
                 if self._screen.is_window(event):

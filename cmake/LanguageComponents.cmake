@@ -29,7 +29,7 @@ endfunction()
 # add_language_components(<target> FOLDER <folder> PROGRAM <name> DESTINATION <folder>)
 # Builds each <FOLDER>/<identifier>/texts.txt into a loadable library of its own,
 # <DESTINATION>/<PROGRAM><identifier>.Resources.so. A new folder is a new language: nothing else needs
-# to be changed. The target builds them all.
+# to be changed. The target builds them all, and its property QUEND_COMPONENTS names them.
 function(add_language_components target)
   cmake_parse_arguments(LANGUAGES "" "FOLDER;PROGRAM;DESTINATION" "" ${ARGN})
   add_custom_target(${target} ALL)
@@ -48,5 +48,6 @@ function(add_language_components target)
       LIBRARY_OUTPUT_DIRECTORY "${LANGUAGES_DESTINATION}")
     target_link_libraries(${component} PRIVATE texttable strictness)
     add_dependencies(${target} ${component})
+    set_property(TARGET ${target} APPEND PROPERTY QUEND_COMPONENTS ${component})
   endforeach()
 endfunction()

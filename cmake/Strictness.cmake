@@ -15,7 +15,7 @@ target_compile_options(strictness INTERFACE
   -fno-math-errno)
 
 if(QUEND_SANITIZE)
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
 set(CMAKE_CXX_EXTENSIONS OFF)

@@ -9,7 +9,7 @@ static void LoadPictures() { Q_INIT_RESOURCE(icon); }
 QIcon ProgramIcon() {
     LoadPictures();
     QIcon icon;
-    for (const int size : {32, 64, 128}) {
+    for (const int size : {16, 32, 48, 64, 128, 256}) {
         icon.addFile(QStringLiteral(":/icon/loan-%1.png").arg(size), QSize(size, size));
     }
     return icon;

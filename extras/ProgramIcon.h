@@ -2,5 +2,5 @@
 
 #include <QIcon>
 
-/// The program's icon in its sizes; icon/loan.svg is what they are drawn from.
+/// The program's icon in its sizes; the build draws them from icon/loan.svg.
 QIcon ProgramIcon();

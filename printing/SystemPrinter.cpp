@@ -42,11 +42,22 @@ private:
     QTranslator m_texts; // which goes out of use when it goes
 };
 
+/// The toolkit offers some of the pages whatever the options say, and shows again what is hidden;
+/// so the choice goes where nothing shows.
+void HidePageRange(QPrintDialog& dialog) {
+    if (auto* range = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange"))) {
+        auto* nowhere = new QWidget(&dialog);
+        nowhere->hide();
+        range->setParent(nowhere);
+    }
+}
+
 void Limit(QPrintDialog& dialog) {
     dialog.setMinMax(1, 9999); // which offers a range of pages
     for (const auto option : NotAsked) {
         dialog.setOption(option, false);
     }
+    HidePageRange(dialog);
 }
 
 void Caption(const QPrintDialog& dialog, QDialogButtonBox::StandardButton which,

@@ -116,6 +116,7 @@ int main(int argc, char* argv[]) {
     using namespace VersionRecord;
     QCoreApplication::setApplicationVersion(
         QStringLiteral("%1.%2.%3").arg(Major).arg(Minor).arg(Revision));
+    QGuiApplication::setDesktopFileName(QString::fromUtf8(ApplicationId));
     QApplication::setWindowIcon(ProgramIcon());
     SetUpLanguage();
     MessageBoxes messages;

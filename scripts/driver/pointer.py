@@ -25,6 +25,15 @@ class Hands:
                               timeout=60, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                               stderr=subprocess.DEVNULL).returncode == 0
 
+    def class_in_hand(self) -> str:
+        """The class that the window with the keyboard gives itself."""
+        window = self._answer("xdotool", "getactivewindow")
+        return self._answer("xprop", "-id", window.strip(), "WM_CLASS").split('"')[-2]
+
+    def _answer(self, *words: str) -> str:
+        return subprocess.run(words, env=self._environment, check=True, timeout=60, text=True,
+                              stdin=subprocess.DEVNULL, stdout=subprocess.PIPE).stdout
+
     def click(self, x: int, y: int) -> None:
         self._run(["mousemove", str(x), str(y), "click", "1"])
 

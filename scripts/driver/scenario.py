@@ -27,6 +27,10 @@
     read <control> ...              prints what each control shows
     name <control> ...              prints what a screen reader calls each control
     describe <control> ...          prints what a screen reader adds to that
+    helped                          waits for the help window, prints its title and closes it
+    components                      prints the language components in use: those that stand beside the
+                                    program by their names, others by their paths
+    class                           prints the class by which desktops tell which program's it is
     title                           prints the title of the window
     screenshot <file>               takes a picture of the window
     tree                            prints all controls there are
@@ -153,6 +157,9 @@ _HANDLERS: dict[str, Handler] = {
     "describe": _look(Window.describe),
     "dialog": _note("dialog", Window.dialog),
     "progress": _note("progress", Window.progress),
+    "helped": _note("help", Window.helped),
+    "components": lambda window, _: [Reading("component", name) for name in window.components()],
+    "class": _note("class", Window.desktop_class),
     "title": _note("title", Window.title),
     "tree": _note("tree", Window.tree),
 }

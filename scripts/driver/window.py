@@ -22,6 +22,7 @@ from session import Session
 from waiting import Expired, Found, wait_for
 
 _DIALOG_ROLES = frozenset({"alert", "alert message", "dialog"})
+_HELP_ROLES = frozenset({"filler"})  # that of a window which is neither main nor dialog
 _WINDOW_ROLES = frozenset({"frame", "window"})
 
 
@@ -360,6 +361,10 @@ class Window:
     def title(self) -> str:
         return self._frame.name()
 
+    def desktop_class(self) -> str:
+        """By what desktops tell which program's window it is."""
+        return self._hands.class_in_hand()
+
     def tree(self) -> str:
         """Every control with its role, name and place: for whoever looks for one in vain."""
         lines = []
@@ -376,6 +381,24 @@ class Window:
         self._hands.rest()
         subprocess.run(["scrot", "--overwrite", "--focused", "--border", str(file)], check=True, timeout=60,
                        env=self._session.environment, stdin=subprocess.DEVNULL)
+
+    def helped(self) -> str:
+        """Waits for the help window, closes it and gives its title."""
+        def opened() -> Node | None:
+            return self._top(_HELP_ROLES, ACTIVE)
+
+        title = self._wait("the help window to open", opened).name()
+        self.close()
+        self._wait("the help window to close", lambda: self._frame.has(ACTIVE))
+        return title
+
+    def components(self) -> list[str]:
+        """The language components in use: by name where they stand beside the program."""
+        process = Path("/proc", str(self._process.pid))
+        folder = (process / "exe").resolve().parent
+        used = {line.split(maxsplit=5)[-1] for line in (process / "maps").read_text().splitlines()}
+        return sorted(Path(file).name if Path(file).parent == folder else file
+                      for file in used if file.endswith(".Resources.so"))
 
     def said(self) -> str:
         """What the program wrote to its terminal so far."""

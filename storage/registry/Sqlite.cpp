@@ -3,7 +3,6 @@
 #include <sqlite3.h>
 
 #include <algorithm>
-#include <unistd.h>
 
 namespace {
 
@@ -16,12 +15,17 @@ void Check(int code, sqlite3* connection) {
     }
 }
 
+bool IsThere(const char* file) {
+    std::error_code error;
+    return std::filesystem::exists(file, error);
+}
+
 /// SQLite flushes the folder when it makes a log file. It thinks that it makes one whenever it may,
 /// so it may only where there is none: that halves the flushes of a save.
 int OpenFile(sqlite3_vfs* system, sqlite3_filename name, sqlite3_file* file, int flags,
              int* outFlags) {
     auto* const base = static_cast<sqlite3_vfs*>(system->pAppData);
-    if ((flags & SQLITE_OPEN_WAL) != 0 && name != nullptr && access(name, F_OK) == 0) {
+    if ((flags & SQLITE_OPEN_WAL) != 0 && name != nullptr && IsThere(name)) {
         flags &= ~SQLITE_OPEN_CREATE;
     }
     return base->xOpen(base, name, file, flags, outFlags);

@@ -9,7 +9,6 @@
 #include <sqlite3.h>
 
 #include <chrono>
-#include <unistd.h>
 
 namespace {
 
@@ -29,8 +28,6 @@ std::uintmax_t SizeOf(const fs::path& file) {
     const std::uintmax_t size = fs::file_size(file, error);
     return error ? 0 : size;
 }
-
-bool CanRead(const fs::path& file) { return access(file.c_str(), R_OK) == 0; }
 
 void FoldLogIfLonger(const fs::path& store, std::uintmax_t size) {
     if (SizeOf(StoreFile::LogOf(store)) <= size) {
@@ -160,7 +157,7 @@ StoreCondition PrepareStore(const fs::path& store, const std::string& today) {
     if (status.type() == fs::file_type::not_found) {
         return {Condition::Missing, {}, 0, 0};
     }
-    if (!fs::is_regular_file(status) || !CanRead(store)) {
+    if (!fs::is_regular_file(status) || !StoreFile::CanRead(store)) {
         return {Condition::Unusable, {}, 0, 0};
     }
     if (SizeOf(store) > LargestChecked) {

@@ -55,6 +55,8 @@ bool IsThere(const std::filesystem::path& store) {
 std::filesystem::path LogOf(const std::filesystem::path& store) { return Beside(store, "-wal"); }
 std::filesystem::path SharedOf(const std::filesystem::path& store) { return Beside(store, "-shm"); }
 
+bool CanRead(const std::filesystem::path& file) { return access(file.c_str(), R_OK) == 0; }
+
 void SetUpForWriting(const Connection& connection) {
     connection.Execute("PRAGMA synchronous=FULL");
     sqlite3_wal_autocheckpoint(connection.Handle(), PagesOfLongLog);

@@ -14,6 +14,9 @@ namespace StoreFile {
 std::filesystem::path LogOf(const std::filesystem::path& store);
 std::filesystem::path SharedOf(const std::filesystem::path& store);
 
+/// Whether this user may read the file; false where there is none.
+bool CanRead(const std::filesystem::path& file);
+
 /// Makes a store, or fills an empty file; the folder must be there. A file that has something in it
 /// is left as it is. Throws StoreError.
 void Make(const std::filesystem::path& store, std::chrono::milliseconds wait);

@@ -144,7 +144,7 @@ TEST_P(About, EveryPartHasAHelpTopic) {
 }
 
 TEST(ProgramIcon, IsThereInEverySize) {
-    for (const int size : {32, 64, 128}) {
+    for (const int size : {16, 32, 48, 64, 128, 256}) {
         EXPECT_EQ(ProgramIcon().pixmap(size).size(), QSize(size, size));
     }
 }

@@ -48,6 +48,12 @@ TEST_F(PrintCommandsTest, EnableTheirEntries) {
     EXPECT_TRUE(Window().Form().mnuFilePrintSetup->isEnabled());
 }
 
+TEST_F(PrintCommandsTest, PrintFromTheKeyboard) {
+    Begin();
+    Press(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(WaitFor([this] { return Printer().printed.size() == 1; }));
+}
+
 TEST_F(PrintCommandsTest, PrintTheWorksheet) {
     Begin();
     Fill(u"cboLoanName", u"Our home");

@@ -17,6 +17,7 @@
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -70,6 +71,14 @@ private:
 
 void Accept(QPrintDialog& dialog) {
     dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+}
+
+void ShowAllOptions(const QPrintDialog& dialog) {
+    for (auto* button : dialog.findChildren<QPushButton*>()) {
+        if (button->text().endsWith(u">>")) {
+            button->click();
+        }
+    }
 }
 
 class PrintServerTest : public WindowTest {
@@ -223,6 +232,13 @@ TEST_F(ServerOnlyTest, TheDialogAsksForPaperAndCopiesAlone) {
               QAbstractPrintDialog::PrintCurrentPage, QAbstractPrintDialog::PrintToFile}) {
             EXPECT_FALSE(dialog.testOption(option)) << option;
         }
+        ShowAllOptions(dialog);
+        for (const char* choice : {"printRange", "pagesRadioButton", "pageSetCombo"}) {
+            const auto* widget = dialog.findChild<QWidget*>(QLatin1String(choice));
+            ASSERT_NE(widget, nullptr) << choice;
+            EXPECT_FALSE(widget->isVisible()) << choice;
+        }
+        EXPECT_TRUE(dialog.findChild<QSpinBox*>(QStringLiteral("copies"))->isVisible());
         EXPECT_EQ(dialog.minPage(), 1);
         EXPECT_EQ(dialog.maxPage(), 9999);
         EXPECT_EQ(dialog.printer()->printerName(), u"Lab");

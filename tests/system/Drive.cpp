@@ -15,12 +15,12 @@ const QString& Interpreter() {
 
 } // namespace
 
-DriveResult Drive(const std::string& locale, const std::string& scenario) {
+DriveResult Drive(const std::string& locale, const std::string& scenario,
+                  const std::string& program) {
     QProcess driver;
-    driver.start(Interpreter(),
-                 {QStringLiteral(QUEND_SOURCE_DIR "/scripts/driver"), QStringLiteral("--program"),
-                  QStringLiteral(QUEND_PROGRAM_DIR "/Loan"), QStringLiteral("--locale"),
-                  QString::fromStdString(locale)});
+    driver.start(Interpreter(), {QStringLiteral(QUEND_SOURCE_DIR "/scripts/driver"),
+                                 QStringLiteral("--program"), QString::fromStdString(program),
+                                 QStringLiteral("--locale"), QString::fromStdString(locale)});
     driver.write(QByteArray::fromStdString(scenario));
     driver.closeWriteChannel();
     const bool ended = driver.waitForFinished(PatienceMs);

@@ -11,6 +11,8 @@ struct DriveResult {
     std::string complaints;
 };
 
-/// Starts the program under the locale on a desktop of its own, plays the scenario in its window
-/// and ends it. The steps are those that scripts/driver knows. Does not judge what is read.
-DriveResult Drive(const std::string& locale, const std::string& scenario);
+/// Starts the program, by default the one that was built, under the locale on a desktop of its own,
+/// plays the scenario in its window and ends it. The steps are those that scripts/driver knows.
+/// Does not judge what is read.
+DriveResult Drive(const std::string& locale, const std::string& scenario,
+                  const std::string& program = QUEND_PROGRAM_DIR "/Loan");

@@ -1,0 +1,52 @@
+# What a desktop on the free systems wants besides: command, menu entry, icon, description, manual page.
+set(made "${CMAKE_CURRENT_BINARY_DIR}")
+set(data "${CMAKE_INSTALL_DATADIR}")
+
+file(RELATIVE_PATH from_command "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_PREFIX}/${program_folder}/Loan")
+file(CREATE_LINK "${from_command}" "${made}/quend-loan" SYMBOLIC)
+install(FILES "${made}/quend-loan" DESTINATION "${CMAKE_INSTALL_BINDIR}")
+
+# Its last entry is this version's, or the number was changed in one place only.
+set(log "${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${log}")
+file(STRINGS "${log}" newest LIMIT_COUNT 1)
+if(NOT newest MATCHES "^quend-loan \\(${PROJECT_VERSION}\\) ")
+  message(FATAL_ERROR "${log} begins with '${newest}', but the version is ${PROJECT_VERSION}")
+endif()
+file(STRINGS "${log}" signatures REGEX "^ -- ")
+list(GET signatures 0 signature)
+string(REGEX MATCH "([0-9][0-9]) ([A-Z][a-z][a-z]) ([0-9][0-9][0-9][0-9])" day "${signature}")
+set(months 01=Jan 02=Feb 03=Mar 04=Apr 05=May 06=Jun 07=Jul 08=Aug 09=Sep 10=Oct 11=Nov 12=Dec)
+list(FILTER months INCLUDE REGEX "=${CMAKE_MATCH_2}$")
+string(SUBSTRING "${months}" 0 2 month)
+string(REGEX REPLACE "(..) ... (....)" "\\2-${month}-\\1" QUEND_RELEASED "${day}")
+
+configure_file(desktop.in "${made}/${QUEND_APPLICATION_ID}.desktop" @ONLY)
+install(FILES "${made}/${QUEND_APPLICATION_ID}.desktop" DESTINATION "${data}/applications")
+configure_file(metainfo.xml.in "${made}/${QUEND_APPLICATION_ID}.metainfo.xml" @ONLY)
+install(FILES "${made}/${QUEND_APPLICATION_ID}.metainfo.xml" DESTINATION "${data}/metainfo")
+
+get_target_property(drawing icon_pictures QUEND_DRAWING)
+get_target_property(pictures icon_pictures QUEND_PICTURES)
+set(icons "${data}/icons/hicolor")
+install(FILES "${drawing}" DESTINATION "${icons}/scalable/apps" RENAME "${QUEND_APPLICATION_ID}.svg")
+foreach(picture IN LISTS pictures)
+  string(REGEX REPLACE ".*-([0-9]+)[.]png$" "\\1" size "${picture}")
+  install(FILES "${picture}" DESTINATION "${icons}/${size}x${size}/apps" RENAME "${QUEND_APPLICATION_ID}.png")
+endforeach()
+
+# pack(<file> <packed>): compressed the way packages want it, the same on each day.
+find_program(GZIP gzip REQUIRED)
+function(pack file packed)
+  add_custom_command(OUTPUT "${packed}" COMMAND "${GZIP}" -9nc "${file}" > "${packed}" DEPENDS "${file}" VERBATIM)
+  set_property(TARGET desktop_files APPEND PROPERTY SOURCES "${packed}")
+endfunction()
+add_custom_target(desktop_files ALL)
+add_dependencies(desktop_files icon_pictures)
+
+foreach(language en es)
+  configure_file(man/${language}.1.in "${made}/${language}.1" @ONLY)
+  pack("${made}/${language}.1" "${made}/${language}.1.gz")
+endforeach()
+install(FILES "${made}/en.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" RENAME quend-loan.1.gz)
+install(FILES "${made}/es.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/es/man1" RENAME quend-loan.1.gz)

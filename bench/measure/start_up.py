@@ -14,7 +14,7 @@ from .screen import Box, Screen, difference
 # A caret blinks every half second: a window that is painted no more for so long is finished.
 _QUIET = 0.3
 _QUIET_TO_LEARN = 0.45
-_PATIENCE = 10.0
+_PATIENCE = 20.0
 _ATTEMPTS = 3  # for a start that the rest of the machine got in the way of
 DROP_CACHES = pathlib.Path("/proc/sys/vm/drop_caches")
 
@@ -91,8 +91,12 @@ class Starter:
 
     def start_unanswered(self, program: Program) -> Start:
         """Its key is sent, but whether it answers is not looked at."""
-        return self._run(program, program.keys, lambda seen, process: self._measure(
-            {**seen, "usable": seen["finished"]}, process))
+        for _ in range(_ATTEMPTS):
+            start = self._run(program, program.keys, lambda seen, process: self._measure(
+                {"usable": seen.get("finished"), **seen} if "finished" in seen else {}, process))
+            if start:
+                return start
+        raise RuntimeError(f"{program.name} did not show its window")
 
     def _keep(self, program: Program, answer: Answer) -> None:
         self._answers[program.name] = answer

@@ -31,8 +31,8 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 constexpr int Rows = 16;
 constexpr int ManyWorksheets = 10'000;
 
-/// Every value that a worksheet keeps, of sixteen offers.
-void FillSheet(Worksheet& worksheet) {
+/// Every value that a worksheet keeps, of so many offers.
+void FillSheet(Worksheet& worksheet, int offers = Rows) {
     worksheet.SetLoanName(QStringLiteral("Our new home"));
     worksheet.SetLoanType(QStringLiteral("M"));
     worksheet.SetLoanAmount(Money::FromDouble(250'000.5));
@@ -45,7 +45,7 @@ void FillSheet(Worksheet& worksheet) {
     worksheet.SetCurrentBalance(Money::FromDouble(198'450.75));
     worksheet.SetCurrentActualFrequency(FrequencyCodeToText(QStringLiteral("M")));
     worksheet.SetCurrentActualPayment(Money::FromDouble(2'050));
-    for (Row row{0}; row.value < Rows; ++row.value) {
+    for (Row row{0}; row.value < offers; ++row.value) {
         CLoan& offer = worksheet.OfferOfRow(row);
         offer.SetFinancePoints(true);
         offer.SetPoints(1.125);
@@ -81,10 +81,10 @@ private:
     int m_count = 0;
 };
 
-LoanStore OpenStoreOf(const StoreFolder& folder, int worksheets) {
+LoanStore OpenStoreOf(const StoreFolder& folder, int worksheets, int offers) {
     const RegistryAPI store = folder.Store();
-    Sheet sheet(QLocale::c(), Rows);
-    FillSheet(sheet.worksheet);
+    Sheet sheet(QLocale::c(), offers);
+    FillSheet(sheet.worksheet, offers);
     const LoanStore loans(store);
     for (int i = 0; i < worksheets; ++i) {
         sheet.worksheet.SetLoanName(QStringLiteral("Loan %1").arg(i));
@@ -94,11 +94,12 @@ LoanStore OpenStoreOf(const StoreFolder& folder, int worksheets) {
     return loans;
 }
 
-void SaveOfAFullWorksheet(benchmark::State& state) {
+void SaveOfAWorksheet(benchmark::State& state) {
+    const auto offers = static_cast<int>(state.range(0));
     const StoreFolder folder;
-    const LoanStore loans = OpenStoreOf(folder, 100);
-    Sheet sheet(QLocale::c(), Rows);
-    FillSheet(sheet.worksheet);
+    const LoanStore loans = OpenStoreOf(folder, 100, offers);
+    Sheet sheet(QLocale::c(), offers);
+    FillSheet(sheet.worksheet, offers);
     loans.Save(sheet.worksheet);
     const int flushes = FlushCount();
     const auto flushTime = FlushTime();
@@ -117,25 +118,35 @@ void SaveOfAFullWorksheet(benchmark::State& state) {
     state.counters["rest_ms"] = benchmark::Counter(all - waited, perRound);
     rounds.ExpectBelow(20);
 }
-BENCHMARK(SaveOfAFullWorksheet)->Unit(benchmark::kMillisecond)->Iterations(100)->UseManualTime();
+BENCHMARK(SaveOfAWorksheet)
+    ->RangeMultiplier(2)
+    ->Range(1, Rows)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(50)
+    ->UseManualTime();
 
-void LoadOfAFullWorksheet(benchmark::State& state) {
+void LoadOfAWorksheet(benchmark::State& state) {
+    const auto offers = static_cast<int>(state.range(0));
     const StoreFolder folder;
-    const LoanStore loans = OpenStoreOf(folder, 100);
-    Sheet sheet(QLocale::c(), Rows);
+    const LoanStore loans = OpenStoreOf(folder, 100, offers);
+    Sheet sheet(QLocale::c(), offers);
     Rounds rounds(state);
     for ([[maybe_unused]] auto round : state) {
         const auto start = Clock::now();
         const auto failures =
             loans.Load(sheet.worksheet, QStringLiteral("Loan 50"), [](Row /*last*/) {});
         rounds.Add(start);
-        if (!failures.empty() || sheet.worksheet.OfferOfRow(Row{Rows - 1}).Who().isEmpty()) {
+        if (!failures.empty() || sheet.worksheet.OfferOfRow(Row{offers - 1}).Who().isEmpty()) {
             state.SkipWithError("not all of it");
         }
     }
     rounds.ExpectBelow(10);
 }
-BENCHMARK(LoadOfAFullWorksheet)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(LoadOfAWorksheet)
+    ->RangeMultiplier(2)
+    ->Range(1, Rows)
+    ->Unit(benchmark::kMillisecond)
+    ->UseManualTime();
 
 /// Ten thousand worksheets; what else is in them makes no difference to their list.
 void MakeMany(const RegistryAPI& store) {

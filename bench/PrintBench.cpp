@@ -6,10 +6,13 @@
 #include "Loan.h"
 #include "PagePainter.h"
 #include "Report.h"
+#include "SystemPrinter.h"
 
 #include <QApplication>
 #include <QBuffer>
+#include <QPainter>
 #include <QPdfWriter>
+#include <QPrinter>
 
 #include <benchmark/benchmark.h>
 
@@ -17,9 +20,9 @@ namespace {
 
 const QSizeF Letter(8 * TwipsPerInch, 10.5 * TwipsPerInch);
 
-/// Sixteen offers, each with a lender's text of so many words.
-void Fill(Loan& window, int words) {
-    window.Rows().GrowTo(Row{15});
+/// So many offers, each with a lender's text of so many words.
+void Fill(Loan& window, int offers, int words) {
+    window.Rows().GrowTo(Row{offers - 1});
     Worksheet& sheet = window.GetWorksheet();
     sheet.SetLoanName(QStringLiteral("Our new home"));
     sheet.SetLoanAmount(Money::FromDouble(250'000));
@@ -27,7 +30,7 @@ void Fill(Loan& window, int words) {
     for (int word = 0; word < words; ++word) {
         lender << QStringLiteral("lender%1").arg(word);
     }
-    for (Row row{0}; row <= Row{15}; ++row.value) {
+    for (Row row{0}; row < Row{offers}; ++row.value) {
         CLoan& offer = sheet.OfferOfRow(row);
         offer.SetTerm(360);
         offer.SetInterestRate(0.055 + 0.00125 * row.value);
@@ -37,38 +40,79 @@ void Fill(Loan& window, int words) {
     }
 }
 
-std::size_t PrintOnce(Loan& window) {
-    const FontMetrics metrics;
+PrintedPages Lay(Loan& window, const TextMetrics& metrics) {
     Report report(ReadForm(window, Letter.width()), Letter, metrics);
     for (const Report::Section section : Report::Sections) {
         (report.*section)();
     }
     report.PrintPageFooter();
+    return report.Pages();
+}
+
+std::size_t PrintOnce(Loan& window) {
+    const FontMetrics metrics;
+    const PrintedPages pages = Lay(window, metrics);
     QBuffer document;
     document.open(QIODevice::WriteOnly);
     QPdfWriter writer(&document);
-    PaintPages(writer, report.Pages());
+    PaintPages(writer, pages);
     benchmark::DoNotOptimize(document.size());
-    return report.Pages().pages.size();
+    return pages.pages.size();
 }
 
+/// The window whose worksheet is printed.
+class Office {
+public:
+    Office(int offers, int words) {
+        Fill(m_window, offers, words);
+        m_window.show();
+        QCoreApplication::processEvents();
+    }
+    Loan& Window() { return m_window; }
+
+private:
+    FakeMessages m_messages;
+    Loan m_window{{.messages = &m_messages,
+                   .locale = QLocale(QLocale::English, QLocale::UnitedStates),
+                   .today = [] { return Date::FromCalendar(2026, 11, 21); }},
+                  {}};
+};
+
 void PrintedReport(benchmark::State& state) {
-    FakeMessages messages;
-    Loan window({.messages = &messages,
-                 .locale = QLocale(QLocale::English, QLocale::UnitedStates),
-                 .today = [] { return Date::FromCalendar(2026, 11, 21); }},
-                {});
-    Fill(window, static_cast<int>(state.range(0)));
-    window.show();
-    QCoreApplication::processEvents();
+    Office office(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
     std::size_t pages = 0;
-    for (auto _ : state) {
-        pages = PrintOnce(window);
+    for ([[maybe_unused]] auto turn : state) {
+        pages = PrintOnce(office.Window());
     }
     state.counters["pages"] = static_cast<double>(pages);
 }
 // Two words a lender, and lenders that fill twenty pages and more.
-BENCHMARK(PrintedReport)->Arg(2)->Arg(180)->Unit(benchmark::kMillisecond);
+BENCHMARK(PrintedReport)
+    ->ArgsProduct({{1, 2, 4, 8, 16}, {2}})
+    ->Args({16, 180})
+    ->Unit(benchmark::kMillisecond);
+
+/// What the print server of CUPS_SERVER is given: only the last step waits for it.
+void HandOver(benchmark::State& state) {
+    if (qEnvironmentVariableIsEmpty("CUPS_SERVER")) {
+        state.SkipWithError("there is no print server");
+        return;
+    }
+    Office office(16, 2);
+    const PrintedPages pages = Lay(office.Window(), FontMetrics());
+    for ([[maybe_unused]] auto turn : state) {
+        state.PauseTiming();
+        QPrinter printer(QPrinter::HighResolution);
+        PrepareDocument(printer);
+        QPainter painter(&printer);
+        PaintPage(painter, pages.pages.front());
+        state.ResumeTiming();
+        if (!painter.end()) {
+            state.SkipWithError("the print server did not take it");
+        }
+    }
+}
+BENCHMARK(HandOver)->Iterations(10)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace
 

@@ -10,6 +10,18 @@ function(add_floor name)
   target_link_libraries(${name} PUBLIC ${FLOOR_USES} PRIVATE strictness)
 endfunction()
 
+# add_program_part(<name> NAME <file> SOURCES … USES …)
+# A library beside the program, loaded when it is first needed (ProgramPart.h). Its floors must know
+# neither the language nor a window: it would get copies of its own.
+function(add_program_part name)
+  cmake_parse_arguments(PART "" "NAME" "SOURCES;USES" ${ARGN})
+  add_library(${name} MODULE ${PART_SOURCES})
+  target_link_libraries(${name} PRIVATE ${PART_USES} strictness)
+  set_target_properties(${name} PROPERTIES AUTOMOC ON PREFIX "" OUTPUT_NAME "${PART_NAME}"
+    LIBRARY_OUTPUT_DIRECTORY "${QUEND_PROGRAM_DIR}")
+  set_property(GLOBAL APPEND PROPERTY QUEND_PROGRAM_PARTS ${name})
+endfunction()
+
 # compile_alone(<source>…)
 # Sources whose own names would clash with their neighbours' in a build that joins sources.
 function(compile_alone)

@@ -3,6 +3,7 @@
 #include "Language.h"
 
 #include <QByteArray>
+#include <QList>
 #include <QMetaObject>
 #include <QObject>
 #include <QString>
@@ -33,10 +34,15 @@ constexpr std::array ShownTexts{
     ShownText{"hintText", "placeholderText"},
 };
 
-bool IsShownBy(const ShownText& shown, const QObject& object) {
-    return object.property(shown.number).isValid() && object.inherits(shown.kind) &&
+/// The dynamic properties of an object. Most objects of a form have none, and to ask an object for
+/// one that it does not have takes long: it compares the names of all that its class has.
+using Given = QList<QByteArray>;
+
+bool IsShownBy(const ShownText& shown, const QObject& object, const Given& given) {
+    return given.contains(shown.number) && object.inherits(shown.kind) &&
            object.metaObject()->indexOfProperty(shown.property) >= 0 &&
-           !(shown.unless != nullptr && object.property(shown.unless).toBool());
+           !(shown.unless != nullptr && given.contains(shown.unless) &&
+             object.property(shown.unless).toBool());
 }
 
 /// In order of preference: what a group box or label shows comes before the title of a window,
@@ -93,30 +99,42 @@ void ShowInYears(QObject& object, const char* property, int number) {
     object.setProperty(property, text.isNull() ? designText : text);
 }
 
-void ApplyCaption(QObject& object, TermUnit unit) {
+void ApplyCaption(QObject& object, TermUnit unit, const Given& given) {
+    const bool inYears = unit == TermUnit::Years && given.contains(CaptionNumberInYears);
+    if (!inYears && !given.contains(CaptionNumber)) {
+        return;
+    }
     const char* property = CaptionPropertyOf(object);
-    const QVariant number = object.property(CaptionNumber);
-    const QVariant inYears = object.property(CaptionNumberInYears);
     if (property == nullptr) {
         return;
     }
-    if (unit == TermUnit::Years && inYears.isValid()) {
-        ShowInYears(object, property, inYears.toInt());
-    } else if (number.isValid()) {
-        Show(object, property, number.toInt(), 0);
+    if (inYears) {
+        ShowInYears(object, property, object.property(CaptionNumberInYears).toInt());
+    } else {
+        Show(object, property, object.property(CaptionNumber).toInt(), 0);
     }
 }
 
-void ApplyToTree(QObject& object, TermUnit unit, int ordinalAround) {
-    const QVariant ownOrdinal = object.property(Ordinal);
-    const int ordinal = ownOrdinal.isValid() ? ownOrdinal.toInt() : ordinalAround;
-    ApplyCaption(object, unit);
+int OrdinalOf(const QObject& object, const Given& given, int ordinalAround) {
+    return given.contains(Ordinal) ? object.property(Ordinal).toInt() : ordinalAround;
+}
+
+void ApplyToObject(QObject& object, TermUnit unit, const Given& given, int ordinal) {
+    ApplyCaption(object, unit, given);
     for (const ShownText& shown : ShownTexts) {
-        if (IsShownBy(shown, object)) {
+        if (IsShownBy(shown, object, given)) {
             const bool isName = qstrcmp(shown.number, AccessibleText) == 0;
             Show(object, shown.property, object.property(shown.number).toInt(),
                  isName ? ordinal : 0);
         }
+    }
+}
+
+void ApplyToTree(QObject& object, TermUnit unit, int ordinalAround) {
+    const Given given = object.dynamicPropertyNames();
+    const int ordinal = OrdinalOf(object, given, ordinalAround);
+    if (!given.isEmpty()) {
+        ApplyToObject(object, unit, given, ordinal);
     }
     for (QObject* child : object.children()) {
         ApplyToTree(*child, unit, ordinal);

@@ -1,6 +1,5 @@
 #include "SystemPrinter.h"
 
-#include "Language.h"
 #include "PagePainter.h"
 #include "TextNumbers.h"
 #include "UserPrinter.h"
@@ -31,9 +30,8 @@ constexpr std::array NotAsked{
 /// The toolkit speaks the language in use for as long as this lives, where it has learned it.
 class ToolkitLanguage {
 public:
-    ToolkitLanguage() {
-        if (m_texts.load(GetResourceText(TextNumber::ToolkitTexts),
-                         QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    explicit ToolkitLanguage(const QString& catalogue) {
+        if (m_texts.load(catalogue, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
             QCoreApplication::installTranslator(&m_texts);
             // Told later, the dialog's buttons would take the toolkit's captions again.
             QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
@@ -62,10 +60,11 @@ void Limit(QPrintDialog& dialog) {
     HidePageRange(dialog);
 }
 
-void Caption(const QPrintDialog& dialog, QDialogButtonBox::StandardButton which, int text) {
+void Caption(const QPrintDialog& dialog, QDialogButtonBox::StandardButton which,
+             const QString& text) {
     if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
         if (auto* button = buttons->button(which)) {
-            button->setText(GetResourceText(text));
+            button->setText(text);
         }
     }
 }
@@ -117,19 +116,19 @@ bool SystemPrinter::Ask(QPrintDialog& dialog) {
 }
 
 bool SystemPrinter::AskHowToPrint(QWidget& parent) {
-    const ToolkitLanguage language;
+    const ToolkitLanguage language(m_words(TextNumber::ToolkitTexts));
     QPrintDialog dialog(&Chosen(), &parent);
-    Caption(dialog, QDialogButtonBox::Ok, TextNumber::PrintButton);
-    Caption(dialog, QDialogButtonBox::Cancel, TextNumber::Cancel);
+    Caption(dialog, QDialogButtonBox::Ok, m_words(TextNumber::PrintButton));
+    Caption(dialog, QDialogButtonBox::Cancel, m_words(TextNumber::Cancel));
     return Ask(dialog);
 }
 
 void SystemPrinter::AskSetUp(QWidget& parent) {
-    const ToolkitLanguage language;
+    const ToolkitLanguage language(m_words(TextNumber::ToolkitTexts));
     QPrintDialog dialog(&Chosen(), &parent);
-    dialog.setWindowTitle(GetResourceText(TextNumber::PrintSetUpTitle));
-    Caption(dialog, QDialogButtonBox::Ok, TextNumber::Ok);
-    Caption(dialog, QDialogButtonBox::Cancel, TextNumber::Cancel);
+    dialog.setWindowTitle(m_words(TextNumber::PrintSetUpTitle));
+    Caption(dialog, QDialogButtonBox::Ok, m_words(TextNumber::Ok));
+    Caption(dialog, QDialogButtonBox::Cancel, m_words(TextNumber::Cancel));
     Ask(dialog);
 }
 

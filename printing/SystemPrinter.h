@@ -4,7 +4,9 @@
 
 #include <QPrinter>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 class QPrintDialog;
 
@@ -12,6 +14,11 @@ class QPrintDialog;
 /// kept for as long as the program runs. Files are not offered for printing into.
 class SystemPrinter : public PrinterDoor {
 public:
+    /// The words of the language in use, by number. They come in, because this class stands in a
+    /// library of its own, where no language is in use.
+    using Words = std::function<QString(int number)>;
+    explicit SystemPrinter(Words words) : m_words(std::move(words)) {}
+
     bool AskHowToPrint(QWidget& parent) override;
     void AskSetUp(QWidget& parent) override;
     QSizeF PageSpace() override;
@@ -21,6 +28,7 @@ private:
     QPrinter& Chosen();
     bool Ask(QPrintDialog& dialog);
 
+    Words m_words;
     // Made when first asked for: looking for printers takes its time.
     std::unique_ptr<QPrinter> m_printer;
 };

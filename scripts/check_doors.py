@@ -21,6 +21,7 @@ _DOORS = frozenset({
     "storage/registry/StoreFile.cpp",
     "storage/registry/UserStore.cpp",
     "storage/registry/WindowsRegistry.cpp",
+    "worksheet/window/ProgramPart.cpp",
 })
 
 _GUIDE = Path("docs/porting.md")

@@ -5,6 +5,7 @@
 #include "DesktopMail.h"
 #include "FileCommands.h"
 #include "HelpCommands.h"
+#include "HelpPart.h"
 #include "InstalledSystemInfo.h"
 #include "Language.h"
 #include "LanguageIdentifier.h"
@@ -13,12 +14,12 @@
 #include "OptionsCommands.h"
 #include "PictureDialog.h"
 #include "PrintCommands.h"
+#include "PrinterOfPart.h"
 #include "ProgramIcon.h"
 #include "SettingsStore.h"
 #include "ShareCommands.h"
 #include "StartUp.h"
 #include "StoreCheck.h"
-#include "SystemPrinter.h"
 #include "TextNumbers.h"
 #include "VersionRecord.h"
 #include "WindowPlace.h"
@@ -28,6 +29,7 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <future>
 #include <optional>
 
 namespace {
@@ -77,9 +79,9 @@ int Run(const RegistryAPI& store, const StoreCondition& condition, MessageBoxes&
     FileCommands files(window, LoanStore(store));
     PictureDialog pictures;
     const OptionsCommands options(window, store, pictures);
-    SystemPrinter printer;
+    PrinterOfPart printer;
     const PrintCommands printing(window, printer);
-    const HelpCommands help(window);
+    const HelpCommands help(window, OpenByPart);
     DesktopMail mail;
     const ShareCommands share(window, mail);
     const AboutCommands about(window, store, InstalledSystemInfo());
@@ -98,9 +100,16 @@ int Run(const RegistryAPI& store, const StoreCondition& condition, MessageBoxes&
     return QApplication::exec();
 }
 
+/// Looks at the store while the toolkit gets ready.
+std::future<StoreCondition> BeginLook(const std::filesystem::path& store) {
+    const std::string today = QDate::currentDate().toString(Qt::ISODate).toStdString();
+    return std::async([store, today] { return PrepareStore(store, today); });
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
+    std::future<StoreCondition> look = BeginLook(RegistryAPI::UserStore());
     const QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Quend Halverworks"));
     QCoreApplication::setApplicationName(QStringLiteral("Loan"));
@@ -112,8 +121,7 @@ int main(int argc, char* argv[]) {
     SetUpLanguage();
     MessageBoxes messages;
     const RegistryAPI store(RegistryAPI::UserStore());
-    const StoreCondition condition = PrepareStore(
-        RegistryAPI::UserStore(), QDate::currentDate().toString(Qt::ISODate).toStdString());
+    const StoreCondition condition = look.get();
     if (const auto obstacle = Obstacle(store, condition)) {
         messages.Show(*obstacle);
         return 1;

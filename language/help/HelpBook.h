@@ -1,54 +1,68 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
+#include <QModelIndex>
 #include <QString>
-#include <QTemporaryDir>
 #include <QUrl>
-#include <QtHelp/QHelpEngine>
 
-/// One help file, opened: its pages, their topics and the toolkit's models of its contents and
-/// index. Shows nothing itself. What the toolkit has to write, it writes to a folder that goes with
-/// the book.
+#include <functional>
+#include <memory>
+
+class QAbstractItemModel;
+
+/// One help file, opened: its pages, their topics, and models of its contents and index. Shows
+/// nothing itself, and does not know what reads the file: CompiledBook does.
 class HelpBook {
 public:
-    /// Throws Failure with the toolkit's description when the file is missing or damaged.
-    explicit HelpBook(const QString& file);
+    struct FoundPage {
+        QString title;
+        QUrl page;
+    };
+    /// Who is told what is done behind the scenes. Either may be empty.
+    struct Reader {
+        std::function<void()> contentsListed;
+        std::function<void()> searched;
+    };
+
+    HelpBook() = default;
     HelpBook(const HelpBook&) = delete;
     HelpBook& operator=(const HelpBook&) = delete;
     HelpBook(HelpBook&&) = delete;
     HelpBook& operator=(HelpBook&&) = delete;
-    ~HelpBook();
+    virtual ~HelpBook() = default;
 
-    const QString& File() const { return m_file; }
-    QHelpEngine& Engine() { return m_engine; }
+    virtual const QString& File() const = 0;
+    /// There is one reader at a time; an empty one is told nothing.
+    virtual void TellReader(Reader reader) = 0;
+
+    /// Both stay the book's own.
+    virtual QAbstractItemModel* Contents() = 0;
+    virtual QAbstractItemModel* Keywords() = 0;
+    /// The page of an entry of the contents.
+    virtual QUrl PageOfChapter(const QModelIndex& chapter) const = 0;
 
     /// Where a page is, named as in a link, such as "points.html#t1030".
-    QUrl Page(const QString& name) const;
-    QUrl FirstPage() const;
+    virtual QUrl Page(const QString& name) const = 0;
     /// The place of a topic; empty for a number that has none.
-    QUrl PageOfTopic(int topic) const;
+    virtual QUrl PageOfTopic(int topic) const = 0;
     /// The page that a keyword of the index leads to.
-    QUrl PageOfKeyword(const QString& keyword) const;
-    bool Has(const QUrl& page) const;
+    virtual QUrl PageOfKeyword(const QString& keyword) const = 0;
     /// Empty for what is not in the book.
-    QByteArray Data(const QUrl& page) const;
+    virtual QByteArray Data(const QUrl& page) const = 0;
 
+    QUrl FirstPage() const;
+    bool Has(const QUrl& page) const;
     /// A topic by itself, as HTML: its heading and what stands under it, up to the next heading.
     QString TopicText(int topic) const;
 
-    /// Reads the whole book for Find; Engine().searchEngine() tells when it is done.
-    void PrepareToFind();
+    /// Reads the whole book for Find.
+    virtual void PrepareToFind() = 0;
     /// Looks for pages; the last query asked for while the book is busy is the one that counts.
-    void Find(const QString& query);
-
-private:
-    void Open();
-    void OnIdle();
-
-    QString m_file;
-    QTemporaryDir m_folder;
-    QHelpEngine m_engine;
-    QString m_space;
-    bool m_busy = false; ///< reading or looking for pages, in a thread of the toolkit's own
-    QString m_next;
+    virtual void Find(const QString& query) = 0;
+    /// Of the last search, the best first.
+    virtual QList<FoundPage> Found(int most) = 0;
 };
+
+/// Opens a help file. Throws Failure in words of its own when it is missing or damaged.
+using BookOpener = std::function<std::shared_ptr<HelpBook>(const QString& file)>;

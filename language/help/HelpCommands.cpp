@@ -1,6 +1,5 @@
 #include "HelpCommands.h"
 
-#include "HelpBook.h"
 #include "HelpTopic.h"
 #include "HelpWindow.h"
 #include "Language.h"
@@ -16,6 +15,8 @@
 #include <QToolTip>
 #include <QUrl>
 #include <QWhatsThis>
+
+#include <utility>
 
 namespace {
 
@@ -38,7 +39,8 @@ QWidget& ActiveWindow(Loan& loan) {
 
 } // namespace
 
-HelpCommands::HelpCommands(Loan& window) : m_loan(&window) {
+HelpCommands::HelpCommands(Loan& window, BookOpener open)
+    : m_loan(&window), m_open(std::move(open)) {
     const Ui::Loan& form = window.Form();
     form.mnuHelpContents->setEnabled(true);
     form.mnuHelpSearch->setEnabled(true);
@@ -147,7 +149,7 @@ void HelpCommands::Try(const std::function<void()>& help) {
 HelpBook& HelpCommands::Book() {
     const QString file = QFileInfo(Language::Instance().HelpFile()).absoluteFilePath();
     if (!m_book || m_book->File() != file) {
-        m_book = std::make_shared<HelpBook>(file);
+        m_book = m_open(file);
     }
     return *m_book;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "HelpBook.h"
 #include "WhatsThisMode.h"
 
 #include <QObject>
@@ -7,7 +8,6 @@
 #include <functional>
 #include <memory>
 
-class HelpBook;
 class HelpWindow;
 class Loan;
 class QPoint;
@@ -21,8 +21,9 @@ class HelpCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// The window outlives the commands. Enables the entries and the button.
-    explicit HelpCommands(Loan& window);
+    /// The window outlives the commands. Enables the entries and the button. A book is opened when
+    /// it is first asked for.
+    HelpCommands(Loan& window, BookOpener open);
     HelpCommands(const HelpCommands&) = delete;
     HelpCommands& operator=(const HelpCommands&) = delete;
     HelpCommands(HelpCommands&&) = delete;
@@ -52,6 +53,7 @@ private:
     HelpWindow& Window();
 
     Loan* m_loan;
+    BookOpener m_open;
     WhatsThisMode m_whatsThis;
     std::shared_ptr<HelpBook> m_book;
     std::unique_ptr<HelpWindow> m_help;

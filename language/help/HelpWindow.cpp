@@ -12,9 +12,6 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QWindow>
-#include <QtHelp/QHelpContentModel>
-#include <QtHelp/QHelpIndexModel>
-#include <QtHelp/QHelpSearchEngine>
 
 #include <utility>
 
@@ -51,6 +48,9 @@ HelpWindow::HelpWindow(const HelpPlace& place)
 
 /// Views and models of the book go before the book.
 HelpWindow::~HelpWindow() {
+    if (m_book) {
+        m_book->TellReader({});
+    }
     m_ui->treContents->setModel(nullptr);
     m_keywords.setSourceModel(nullptr);
     m_ui->txtPage->SetBook(nullptr);
@@ -104,16 +104,16 @@ void HelpWindow::SetBook(std::shared_ptr<HelpBook> book) {
     const QUrl before = PageInView();
     m_ui->lstFound->clear();
     m_ui->lblNotFound->hide();
-    m_ui->treContents->setModel(book->Engine().contentModel());
-    m_keywords.setSourceModel(book->Engine().indexModel());
+    m_ui->treContents->setModel(book->Contents());
+    m_keywords.setSourceModel(book->Keywords());
     m_keywords.sort(0);
     m_ui->txtPage->SetBook(book.get());
+    if (m_book) {
+        m_book->TellReader({});
+    }
     m_book = std::move(book);
-
-    QHelpSearchEngine* search = m_book->Engine().searchEngine();
-    connect(search, &QHelpSearchEngine::searchingFinished, this, &HelpWindow::ListFound);
-    connect(m_book->Engine().contentModel(), &QHelpContentModel::contentsCreated, this,
-            &HelpWindow::UnfoldContents);
+    m_book->TellReader(
+        {.contentsListed = [this] { UnfoldContents(); }, .searched = [this] { ListFound(); }});
     UnfoldContents();
     m_book->PrepareToFind();
     Find(); // the words of before, in the new book
@@ -138,11 +138,7 @@ void HelpWindow::ShowPage(const QUrl& page) {
 }
 
 void HelpWindow::ShowChapter(const QModelIndex& chapter) {
-    const auto* contents = qobject_cast<QHelpContentModel*>(m_ui->treContents->model());
-    const QHelpContentItem* item = contents ? contents->contentItemAt(chapter) : nullptr;
-    if (item) {
-        ShowPage(item->url());
-    }
+    ShowPage(m_book->PageOfChapter(chapter));
 }
 
 void HelpWindow::ShowKeyword(const QModelIndex& keyword) {
@@ -165,11 +161,10 @@ void HelpWindow::Find() {
 }
 
 void HelpWindow::ListFound() {
-    const QHelpSearchEngine* search = m_book->Engine().searchEngine();
     m_ui->lstFound->clear();
-    for (const QHelpSearchResult& found : search->searchResults(0, MostFound)) {
-        auto* item = new QListWidgetItem(found.title(), m_ui->lstFound);
-        item->setData(Qt::UserRole, found.url());
+    for (const HelpBook::FoundPage& found : m_book->Found(MostFound)) {
+        auto* item = new QListWidgetItem(found.title, m_ui->lstFound);
+        item->setData(Qt::UserRole, found.page);
     }
     m_ui->lblNotFound->setVisible(m_ui->lstFound->count() == 0);
     if (m_ui->lstFound->count() > 0) {

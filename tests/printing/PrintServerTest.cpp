@@ -3,6 +3,7 @@
 
 #include "PrintServer.h"
 #include "FilePrinter.h"
+#include "Language.h"
 #include "LoanForm.h"
 #include "PrintCommands.h"
 #include "SystemPrinter.h"
@@ -85,7 +86,7 @@ protected:
     void Begin(std::chrono::milliseconds shownAtLeast = 0ms, std::function<void()> yield = {}) {
         Open();
         if (Server) {
-            m_printer = std::make_unique<SystemPrinter>();
+            m_printer = std::make_unique<SystemPrinter>(GetResourceText);
         } else {
             m_printer = std::make_unique<FilePrinter>(m_folder.filePath(QStringLiteral("job.pdf")),
                                                       QPageSize(QPageSize::Letter));

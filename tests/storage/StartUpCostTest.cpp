@@ -10,6 +10,8 @@
 #include "StoreFolder.h"
 #include "WindowFixture.h"
 
+#include <QProcess>
+
 #include <sqlite3.h>
 
 #include <fstream>
@@ -130,6 +132,28 @@ TEST_F(StartUpCost, LooksAtTheFileOnceAndAtNothingElse) {
     EXPECT_GE(read, size);
     EXPECT_LE(read, size + 8'192); // the count itself is read, too
     EXPECT_EQ(Count(), Asked{});
+}
+
+/// What the system loads with the program before its first line runs, by the system's own answer.
+QStringList LibrariesOfProgram() {
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LD_TRACE_LOADED_OBJECTS"), QStringLiteral("1"));
+    program.setProcessEnvironment(environment);
+    program.start(QStringLiteral(QUEND_PROGRAM_DIR "/Loan"), {});
+    program.waitForFinished();
+    return QString::fromLocal8Bit(program.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+}
+
+TEST(StartUpLibraries, AreThoseOfTheFirstWindowOnly) {
+    const QStringList libraries = LibrariesOfProgram();
+    ASSERT_FALSE(libraries.filter(QStringLiteral("libQt6Widgets")).isEmpty());
+    // The help's reader, what it brings along, and the printing system.
+    for (const char* late : {"Qt6Help", "Qt6Sql", "Qt6Network", "Qt6PrintSupport", "libcups",
+                             "gnutls", "Qt6Svg", "Qt6Test"}) {
+        EXPECT_TRUE(libraries.filter(QLatin1String(late)).isEmpty()) << late;
+    }
+    EXPECT_LT(libraries.size(), 60) << libraries.join(u'\n').toStdString();
 }
 
 } // namespace

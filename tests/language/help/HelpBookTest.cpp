@@ -1,4 +1,4 @@
-#include "HelpBook.h"
+#include "CompiledBook.h"
 #include "Failure.h"
 #include "HelpPlace.h"
 
@@ -20,8 +20,8 @@ QByteArray BytesOf(const QString& path) {
 }
 
 TEST(HelpBook, HoldsPagesTopicsAndKeywords) {
-    HelpBook english(Built("loan000.hlp"));
-    HelpBook spanish(Built("loan40a.hlp"));
+    CompiledBook english(Built("loan000.hlp"));
+    CompiledBook spanish(Built("loan40a.hlp"));
     EXPECT_EQ(english.FirstPage().fileName(), u"welcome.html");
     EXPECT_TRUE(english.Data(english.FirstPage()).contains("Welcome to Quend Loan"));
     EXPECT_TRUE(spanish.Data(spanish.FirstPage()).contains("Bienvenido a Quend Loan"));
@@ -33,7 +33,7 @@ TEST(HelpBook, HoldsPagesTopicsAndKeywords) {
 }
 
 TEST(HelpBook, KnowsNothingOfWhatItDoesNotHold) {
-    HelpBook book(Built("loan000.hlp"));
+    CompiledBook book(Built("loan000.hlp"));
     EXPECT_TRUE(book.PageOfTopic(0).isEmpty());
     EXPECT_TRUE(book.PageOfTopic(99'999).isEmpty());
     EXPECT_TRUE(book.TopicText(99'999).isEmpty());
@@ -43,7 +43,7 @@ TEST(HelpBook, KnowsNothingOfWhatItDoesNotHold) {
 }
 
 TEST(HelpBook, CutsATopicOutOfItsPage) {
-    HelpBook book(Built("loan000.hlp"));
+    CompiledBook book(Built("loan000.hlp"));
     const QString text = book.TopicText(1006);
     EXPECT_TRUE(text.startsWith(QStringLiteral("<p><b>Annual Insurance</b></p>")));
     EXPECT_TRUE(text.contains(QStringLiteral("insurance premiums")));
@@ -74,7 +74,7 @@ TEST(HelpBook, MissingOrDamagedFileIsAFailureInItsOwnWords) {
             file.write(tested.bytes);
         }
         try {
-            const HelpBook book(path);
+            const CompiledBook book(path);
             ADD_FAILURE() << "opens";
         } catch (const Failure& failure) {
             EXPECT_NE(failure.Description(), "");

@@ -1,5 +1,6 @@
 #include "HelpFixture.h"
 
+#include "CompiledBook.h"
 #include "Language.h"
 
 #include <QApplication>
@@ -9,7 +10,8 @@
 void HelpTest::OpenWithHelp(const Start& start) {
     m_commands.reset();
     Open(start);
-    m_commands = std::make_unique<HelpCommands>(Window());
+    m_commands = std::make_unique<HelpCommands>(
+        Window(), [](const QString& file) { return std::make_shared<CompiledBook>(file); });
 }
 
 void HelpTest::OpenBesides(const QString& folder, const Start& start) {

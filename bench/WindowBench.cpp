@@ -1,0 +1,96 @@
+// What the user sees: from a key sent to the window to the end of the paint that shows what came of
+// it, with so many offers in the worksheet. Offscreen, or on the display that QT_QPA_PLATFORM=xcb
+// leads to; bench/measure times the same from outside.
+
+#include "ControlMap.h"
+#include "FakeMessages.h"
+#include "Frequency.h"
+#include "Language.h"
+#include "Loan.h"
+#include "LoanForm.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+
+namespace {
+
+/// Counts what is painted below a window.
+class Paints : public QObject {
+public:
+    explicit Paints(QObject& window) { window.installEventFilter(this); }
+    bool eventFilter(QObject* /*window*/, QEvent* event) override {
+        m_count += event->type() == QEvent::UpdateRequest ? 1 : 0;
+        return false;
+    }
+    int Count() const { return m_count; }
+
+private:
+    int m_count = 0;
+};
+
+void Fill(Loan& window, int offers) {
+    window.Rows().GrowTo(Row{offers - 1});
+    Worksheet& sheet = window.GetWorksheet();
+    sheet.SetLoanAmount(Money::FromDouble(250'000));
+    for (Row row{0}; row < Row{offers}; ++row.value) {
+        CLoan& offer = sheet.OfferOfRow(row);
+        offer.SetTerm(360);
+        offer.SetInterestRate(0.055 + 0.00125 * row.value);
+        offer.SetFrequencyCode(QStringLiteral("M"));
+        sheet.ShowOffer(row);
+    }
+}
+
+/// The key that stores the loan amount; every offer is calculated and shown anew.
+void KeyToPaintedResult(benchmark::State& state) {
+    FakeMessages messages;
+    Settings settings;
+    settings.loansDisplayed = 15;
+    Loan window({.messages = &messages,
+                 .locale = QLocale(QLocale::English, QLocale::UnitedStates),
+                 .today = [] { return Date::FromCalendar(2026, 11, 21); }},
+                settings);
+    Fill(window, static_cast<int>(state.range(0)));
+    window.show();
+    window.activateWindow();
+    QCoreApplication::processEvents();
+    QLineEdit& amount = *window.Form().txtLoanAmount;
+    amount.setFocus();
+    QCoreApplication::processEvents();
+    const Paints paints(window);
+    int turn = 0;
+    for ([[maybe_unused]] auto round : state) {
+        state.PauseTiming();
+        amount.selectAll();
+        QTest::keyClicks(&amount, QString::number(200'000 + ++turn));
+        QCoreApplication::processEvents();
+        const int before = paints.Count();
+        state.ResumeTiming();
+        QTest::keyClick(&amount, Qt::Key_Return);
+        while (paints.Count() == before) {
+            QCoreApplication::processEvents();
+        }
+    }
+}
+BENCHMARK(KeyToPaintedResult)
+    ->RangeMultiplier(2)
+    ->Range(1, 16)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    const QApplication application(argc, argv);
+    Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
+    Language::Instance().LoadLanguage(1);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,128 @@
+#include "CompiledBook.h"
+
+#include "Failure.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QtHelp/QHelpContentModel>
+#include <QtHelp/QHelpIndexModel>
+#include <QtHelp/QHelpLink>
+#include <QtHelp/QHelpSearchEngine>
+
+#include <chrono>
+#include <utility>
+
+namespace {
+
+constexpr int HelpFailure = 5;
+
+Failure Damaged(const QString& description) {
+    return {HelpFailure, "Help", description.toStdString()};
+}
+
+QUrl FirstOf(const QList<QHelpLink>& links) { return links.isEmpty() ? QUrl() : links[0].url; }
+
+void Tell(const std::function<void()>& reader) {
+    if (reader) {
+        reader();
+    }
+}
+
+} // namespace
+
+CompiledBook::CompiledBook(const QString& file)
+    : m_file(QFileInfo(file).absoluteFilePath()),
+      m_engine(m_folder.filePath(QStringLiteral("collection.qhc"))) {
+    Open();
+    Listen();
+}
+
+void CompiledBook::Listen() {
+    const QHelpContentModel* contents = m_engine.contentModel();
+    QObject::connect(contents, &QHelpContentModel::contentsCreated, contents,
+                     [this] { Tell(m_reader.contentsListed); });
+    const QHelpSearchEngine* search = m_engine.searchEngine();
+    QObject::connect(search, &QHelpSearchEngine::indexingFinished, search, [this] { OnIdle(); });
+    QObject::connect(search, &QHelpSearchEngine::searchingFinished, search, [this] {
+        OnIdle();
+        Tell(m_reader.searched);
+    });
+}
+
+/// The toolkit's engine must not go while its thread is about to begin.
+CompiledBook::~CompiledBook() {
+    m_reader = {};
+    m_next.clear();
+    const QDeadlineTimer patience(std::chrono::seconds(2));
+    while (m_busy && !patience.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
+    }
+}
+
+QAbstractItemModel* CompiledBook::Contents() { return m_engine.contentModel(); }
+
+QAbstractItemModel* CompiledBook::Keywords() { return m_engine.indexModel(); }
+
+QUrl CompiledBook::PageOfChapter(const QModelIndex& chapter) const {
+    const QHelpContentItem* item = m_engine.contentModel()->contentItemAt(chapter);
+    return item ? item->url() : QUrl();
+}
+
+void CompiledBook::PrepareToFind() {
+    m_busy = true;
+    m_engine.searchEngine()->reindexDocumentation();
+}
+
+void CompiledBook::Find(const QString& query) {
+    if (m_busy) {
+        m_next = query;
+    } else {
+        m_busy = true;
+        m_engine.searchEngine()->search(query);
+    }
+}
+
+QList<HelpBook::FoundPage> CompiledBook::Found(int most) {
+    QList<FoundPage> pages;
+    for (const QHelpSearchResult& found : m_engine.searchEngine()->searchResults(0, most)) {
+        pages.append({found.title(), found.url()});
+    }
+    return pages;
+}
+
+void CompiledBook::OnIdle() {
+    m_busy = false;
+    if (const QString next = std::exchange(m_next, {}); !next.isEmpty()) {
+        Find(next);
+    }
+}
+
+void CompiledBook::Open() {
+    m_engine.setReadOnly(false);
+    if (!m_engine.setupData() || !m_engine.registerDocumentation(m_file)) {
+        throw Damaged(m_engine.error());
+    }
+    m_space = QHelpEngineCore::namespaceName(m_file);
+    if (Data(FirstPage()).isEmpty()) {
+        throw Damaged(QStringLiteral("The help file %1 has no pages").arg(m_file));
+    }
+}
+
+QUrl CompiledBook::Page(const QString& name) const {
+    const QUrl folder(QStringLiteral("qthelp://%1/help/").arg(m_space));
+    return folder.resolved(QUrl(name));
+}
+
+QUrl CompiledBook::PageOfTopic(int topic) const {
+    return FirstOf(m_engine.documentsForIdentifier(QString::number(topic)));
+}
+
+QUrl CompiledBook::PageOfKeyword(const QString& keyword) const {
+    return FirstOf(m_engine.documentsForKeyword(keyword));
+}
+
+QByteArray CompiledBook::Data(const QUrl& page) const {
+    return m_engine.fileData(page.adjusted(QUrl::RemoveFragment));
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "PrinterDoor.h"
+
+#include <QtPlugin>
+
+#include <functional>
+#include <memory>
+
+class QString;
+
+/// The part of the program that knows the printers of this system, a library of its own.
+class PrinterPart {
+public:
+    /// The words of the language in use, by number.
+    using Words = std::function<QString(int number)>;
+
+    PrinterPart() = default;
+    PrinterPart(const PrinterPart&) = delete;
+    PrinterPart& operator=(const PrinterPart&) = delete;
+    PrinterPart(PrinterPart&&) = delete;
+    PrinterPart& operator=(PrinterPart&&) = delete;
+    virtual ~PrinterPart() = default;
+
+    virtual std::unique_ptr<PrinterDoor> Printers(Words words) const = 0;
+};
+
+// A macro, because the meta-object compiler reads it.
+#define PrinterPart_iid "quend.loan.PrinterPart/1"
+Q_DECLARE_INTERFACE(PrinterPart, PrinterPart_iid)

@@ -94,7 +94,6 @@ std::vector<Step> Work() {
 }
 
 void Look() {
-    MainWindow()->activateWindow();
     Say("shown", MainWindow()->windowTitle());
     auto& names = Named<QComboBox>("cboLoanName");
     names.showPopup();
@@ -128,6 +127,9 @@ private:
             Next();
             dialog->reject();
         } else if (MainWindow() == nullptr || m_next == m_steps.size()) {
+            Next();
+        } else if (m_next == 1 && !MainWindow()->isActiveWindow()) { // the list has just closed
+            MainWindow()->activateWindow();
             Next();
         } else {
             Next();

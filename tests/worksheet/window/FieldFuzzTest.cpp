@@ -6,12 +6,16 @@
 #include "Fuzzing.h"
 #include "HostileTexts.h"
 #include "IsValidNumber.h"
+#include "MessageBoxes.h"
 #include "NumberFields.h"
 #include "QuietToolkit.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
 
 namespace {
 
@@ -131,6 +135,27 @@ TEST_F(FieldFuzz, AnyTextIsStoredOrRefused) {
                                    : Patched(random, HostilePieces);
         },
         2);
+}
+
+/// Names and paths are of any length; the buttons under them can be reached all the same.
+TEST_F(FieldFuzz, NoMessageIsHigherThanTheScreen) {
+    MessageBoxes boxes;
+    const QObject boxesOwner;
+    for (const QString& text :
+         {QString(30'000, u'x'), QStringLiteral("two words ").repeated(3'000),
+          QStringLiteral("line\n").repeated(20), QString::fromUtf8("\U0001F3E0").repeated(9'000)}) {
+        int shown = 0;
+        QTimer::singleShot(0, &boxesOwner, [&] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                ++shown;
+                EXPECT_LE(box->height(), box->screen()->availableGeometry().height());
+                EXPECT_LE(box->width(), box->screen()->availableGeometry().width());
+                box->reject();
+            }
+        });
+        boxes.Show(text);
+        EXPECT_EQ(shown, 1);
+    }
 }
 
 } // namespace

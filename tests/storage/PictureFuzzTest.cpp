@@ -52,6 +52,10 @@ protected:
         EXPECT_EQ(mkfifo(QFile::encodeName(PathOf(u"pipe.png")).constData(), 0600), 0);
         return PathOf(u"pipe.png");
     }
+    static QString Closed(const QString& path) {
+        EXPECT_TRUE(QFile::setPermissions(path, {}));
+        return path;
+    }
     QString Link(QStringView name, const QString& target) {
         QFile::link(target, PathOf(name));
         return PathOf(name);
@@ -111,6 +115,7 @@ TEST_F(PictureFuzz, OnlyAFileWithAPictureInItIsRead) {
         {"no ending", File(u"house", bytes), true},
         {"blanks, quotes and accents", File(u" Mañana \"'$(id)` %n%1.bmp", bytes), true},
         {"a line break", File(u"one\ntwo.bmp", bytes), true},
+        {"what may not be read", Closed(File(u"closed.bmp", bytes)), geteuid() == 0},
         {"a drawing", File(u"drawing.svg", drawing), false},
         {"a drawing that says it is none", File(u"drawing.bmp", drawing), false},
     };

@@ -18,6 +18,10 @@ void RestorePlace(QWidget& window, const QSettings& kept) {
     if (!screens.intersects(window.geometry())) {
         window.setGeometry({screens.topLeft(), window.sizeHint()});
     }
+    const QSize fitting = window.size().boundedTo(screens.size());
+    if (fitting != window.size()) {
+        window.resize(fitting);
+    }
 }
 
 void KeepPlace(const QWidget& window, QSettings& kept) {

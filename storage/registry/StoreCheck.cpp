@@ -77,7 +77,8 @@ fs::path FreeNameFor(const fs::path& store, const std::string& today) {
     fs::path free = name;
     for (int number = 2; fs::exists(fs::symlink_status(free)); ++number) {
         free = name;
-        free += "-" + std::to_string(number);
+        free += '-';
+        free += std::to_string(number);
     }
     return free;
 }

@@ -97,20 +97,20 @@ public:
     }
 
 private:
-    static constexpr unsigned Patience = 20; ///< seconds; far more than any input takes
-
     void TryOne(const std::string& input) const {
         if (const char* const keep = std::getenv("QUEND_FUZZ_KEEP")) {
             std::ofstream(std::filesystem::path(keep) / (m_name + ".last"), std::ios::binary)
                 << input;
         }
         SCOPED_TRACE(testing::Message() << m_name << ": " << testing::PrintToString(input));
-        alarm(Patience);
+        alarm(m_patience);
         m_try(input);
     }
 
     std::string m_name;
     Try m_try;
+    /// Seconds, far more than any input takes; 0 for all the time there is.
+    unsigned m_patience = static_cast<unsigned>(FromEnvironment("QUEND_FUZZ_PATIENCE", 60));
     std::vector<std::string> m_corpus;
 };
 

@@ -99,7 +99,7 @@ TEST(ComponentFuzz, ADamagedFileIsOfferedByItsLabelOrNotAtAll) {
     const ProgramFolder folder;
     const std::string sound = BytesOf(BuiltSpanishComponent()).toStdString();
     // The label stands apart from the rest; most of the damage is to hit it or the way to it.
-    const std::size_t label = sound.find("QTMETADATA");
+    const std::size_t label = sound.find("quend.loan.LanguageComponent/");
     ASSERT_NE(label, std::string::npos);
     const FuzzDoor door("component", [&](const std::string& input) { TryFile(folder, input); });
     door.TryAtRandom([&](FuzzRandom& random) {
@@ -107,7 +107,8 @@ TEST(ComponentFuzz, ADamagedFileIsOfferedByItsLabelOrNotAtAll) {
             return Damaged(random, sound);
         }
         std::string bytes = sound;
-        return bytes.replace(label, 300, Damaged(random, sound.substr(label, 300)));
+        const std::size_t first = label - 40;
+        return bytes.replace(first, 200, Damaged(random, sound.substr(first, 200)));
     });
     Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
 }

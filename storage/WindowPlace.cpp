@@ -12,15 +12,12 @@ QString PlaceName() { return QStringLiteral("window/geometry"); }
 
 void RestorePlace(QWidget& window, const QSettings& kept) {
     // The toolkit sees to it that the window lies on a screen that is still there, but for a place
-    // that no window can have had.
+    // and a size that no window can have had.
     window.restoreGeometry(kept.value(PlaceName()).toByteArray());
     const QRect screens = window.screen()->virtualGeometry();
-    if (!screens.intersects(window.geometry())) {
+    const QSize most = screens.size() * 4;
+    if (!screens.intersects(window.geometry()) || window.size().boundedTo(most) != window.size()) {
         window.setGeometry({screens.topLeft(), window.sizeHint()});
-    }
-    const QSize fitting = window.size().boundedTo(screens.size());
-    if (fitting != window.size()) {
-        window.resize(fitting);
     }
 }
 

@@ -146,7 +146,7 @@ class VisitorPlugin final : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "Visitor.json")
 
 public:
-    QObject* create(const QString& /*name*/, const QString& /*specification*/) override {
+    QObject* create(const QString& /*name*/, const QString& /*settings*/) override {
         return new Visitor;
     }
 };

@@ -5,6 +5,8 @@
 #include <QStringView>
 #include <QTextBoundaryFinder>
 
+#include <optional>
+
 namespace {
 
 /// How one line ends: what it shows, and how much of the text it takes up.
@@ -13,20 +15,25 @@ struct LineEnd {
     qsizetype taken;
 };
 
-LineEnd EndOfLine(const QString& rest, double columnWidth,
-                  const std::function<double(const QString&)>& width) {
-    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, rest);
+/// Nothing where the text ends before its line does. A text that goes on beyond what is given may
+/// do so with a part of its last character.
+std::optional<LineEnd> EndOfLine(QStringView text, bool goesOn, double columnWidth,
+                                 const std::function<double(const QString&)>& width) {
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text);
     LineEnd lastBreak{0, 0};
     qsizetype before = 0;
     for (qsizetype end = characters.toNextBoundary(); end > 0; end = characters.toNextBoundary()) {
-        if (QStringView(rest).sliced(before).startsWith(LineBreak)) {
-            return {before, before + LineBreak.size()};
+        if (goesOn && end == text.size()) {
+            return std::nullopt;
         }
-        const QChar character = rest.at(before);
+        if (text.sliced(before).startsWith(LineBreak)) {
+            return LineEnd{before, before + LineBreak.size()};
+        }
+        const QChar character = text.at(before);
         if (character == u' ') {
             lastBreak = {before, end};
         }
-        if (width(rest.left(end)) >= columnWidth) {
+        if (width(text.first(end).toString()) >= columnWidth) {
             if (lastBreak.shown > 0) {
                 return lastBreak;
             }
@@ -37,7 +44,18 @@ LineEnd EndOfLine(const QString& rest, double columnWidth,
         }
         before = end;
     }
-    return {rest.size(), rest.size()};
+    return std::nullopt;
+}
+
+/// Looks no further into a text than a line needs: the longest are many thousand lines.
+LineEnd FirstLine(QStringView rest, double columnWidth,
+                  const std::function<double(const QString&)>& width) {
+    for (qsizetype looked = 256; looked < rest.size(); looked *= 2) {
+        if (const auto line = EndOfLine(rest.first(looked), true, columnWidth, width)) {
+            return *line;
+        }
+    }
+    return EndOfLine(rest, false, columnWidth, width).value_or(LineEnd{rest.size(), rest.size()});
 }
 
 qsizetype LeadingBlanks(QStringView text) {
@@ -53,15 +71,15 @@ qsizetype LeadingBlanks(QStringView text) {
 QString WrapLenderText(const QString& text, double columnWidth,
                        const std::function<double(const QString&)>& width) {
     QString wrapped;
-    QString rest = text;
+    QStringView rest = text;
     while (!rest.isEmpty()) {
-        const LineEnd line = EndOfLine(rest, columnWidth, width);
-        wrapped += QStringView(rest).left(line.shown);
+        const LineEnd line = FirstLine(rest, columnWidth, width);
+        wrapped += rest.first(line.shown);
         const bool last = line.taken == rest.size() && line.shown == line.taken;
-        rest.remove(0, line.taken);
+        rest = rest.sliced(line.taken);
         if (!last) {
             wrapped += LineBreak;
-            rest.remove(0, LeadingBlanks(rest));
+            rest = rest.sliced(LeadingBlanks(rest));
         }
     }
     return wrapped;

@@ -1,11 +1,11 @@
 #include "PictureDialog.h"
 
 #include "Language.h"
+#include "PictureFile.h"
 #include "TextNumbers.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QStandardPaths>
 
 #include <array>
@@ -40,7 +40,7 @@ QString ExistingFolder(const QString& folder) {
 
 QStringList PictureDialog::Filters() {
     QStringList patterns;
-    for (const QByteArray& ending : QImageReader::supportedImageFormats()) {
+    for (const QByteArray& ending : PictureFile::Formats()) {
         patterns.append(QStringLiteral("*.") + QString::fromLatin1(ending));
     }
     return GetResourceText(TextNumber::PictureFilter)

@@ -1,10 +1,10 @@
 #include "PicturePreview.h"
 
 #include "Language.h"
+#include "PictureFile.h"
 #include "TextNumbers.h"
 
 #include <QEvent>
-#include <QFileInfo>
 #include <QImageReader>
 #include <QPixmap>
 
@@ -28,10 +28,10 @@ struct Sample {
 };
 
 Sample ReadSample(const QString& path) {
-    if (!QFileInfo(path).isFile()) {
-        return {}; // a folder, a device or a pipe might never end
-    }
     QImageReader reader(path);
+    if (!PictureFile::IsSafe(reader)) {
+        return {};
+    }
     reader.setAutoTransform(true);
     const QSize size = reader.size();
     if (qint64{size.width()} * size.height() > MostPixels) {

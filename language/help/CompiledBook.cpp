@@ -102,7 +102,9 @@ void CompiledBook::OnIdle() {
 void CompiledBook::Open() {
     m_engine.setReadOnly(false);
     if (!m_engine.setupData() || !m_engine.registerDocumentation(m_file)) {
-        throw Damaged(m_engine.error());
+        const QString why = m_engine.error(); // none for some kinds of damage
+        throw Damaged(why.isEmpty() ? QStringLiteral("The help file %1 is damaged").arg(m_file)
+                                    : why);
     }
     m_space = QHelpEngineCore::namespaceName(m_file);
     if (Data(FirstPage()).isEmpty()) {

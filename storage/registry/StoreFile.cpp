@@ -25,7 +25,8 @@ std::filesystem::path Beside(const std::filesystem::path& store, const char* end
 }
 
 void MakeFolder(const std::filesystem::path& folder) {
-    if (folder.empty() || std::filesystem::exists(folder)) {
+    std::error_code unknown; // what cannot even be looked for is not made
+    if (folder.empty() || std::filesystem::exists(folder, unknown) || unknown) {
         return;
     }
     MakeFolder(folder.parent_path());

@@ -6,8 +6,11 @@
 
 namespace {
 
+// A relative folder is to be ignored: it would be another one wherever the program is started.
+
 std::filesystem::path HomeFolder() {
-    if (const char* const home = std::getenv("HOME"); home != nullptr && *home != '\0') {
+    const char* const home = std::getenv("HOME");
+    if (home != nullptr && std::filesystem::path(home).is_absolute()) {
         return home;
     }
     const passwd* const user = getpwuid(getuid());
@@ -16,7 +19,6 @@ std::filesystem::path HomeFolder() {
 
 std::filesystem::path DataFolder() {
     const char* const data = std::getenv("XDG_DATA_HOME");
-    // A relative folder is to be ignored: it would be another one wherever the program is started.
     return data != nullptr && std::filesystem::path(data).is_absolute()
                ? std::filesystem::path(data)
                : HomeFolder() / ".local" / "share";

@@ -38,7 +38,11 @@ bool TakesWholeValue(const QLineEdit& edit, Field field) {
 
 QString Shortened(const QString& text) {
     constexpr int longest = 40;
-    return text.size() > longest ? text.left(longest) + u'…' : text;
+    if (text.size() <= longest) {
+        return text;
+    }
+    const bool inTwoHalves = text.at(longest - 1).isHighSurrogate();
+    return text.left(inTwoHalves ? longest - 1 : longest) + u'…';
 }
 
 } // namespace

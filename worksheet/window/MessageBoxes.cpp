@@ -23,10 +23,16 @@ constexpr std::array ButtonTexts{
     ButtonText{QMessageBox::Cancel, TextNumber::Cancel},
 };
 
+/// A name or a path may be of any length, and no box scrolls: what is too long loses its middle.
+QString FitForABox(const QString& text) {
+    constexpr qsizetype most = 1'600;
+    return text.size() <= most ? text : text.first(most / 2) + u'…' + text.last(most / 2);
+}
+
 /// The button pressed, by its role.
 int Run(QMessageBox::Icon icon, const QString& title, const QString& text,
         QMessageBox::StandardButtons buttons) {
-    QMessageBox box(icon, title, text, buttons, QApplication::activeWindow());
+    QMessageBox box(icon, title, FitForABox(text), buttons, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     for (const ButtonText& shown : ButtonTexts) {
         if (QAbstractButton* button = box.button(shown.button)) {

@@ -1,12 +1,15 @@
 #include "Wallpaper.h"
 
+#include "PictureFile.h"
+
+#include <QImageReader>
 #include <QPainter>
 #include <QPoint>
 #include <QRect>
 #include <QSize>
 
 bool Wallpaper::Load(const QString& path) {
-    m_picture = path.isEmpty() ? QPixmap() : QPixmap(path);
+    m_picture = PictureFile::IsSafe(QImageReader(path)) ? QPixmap(path) : QPixmap();
     return path.isEmpty() || IsSet();
 }
 

@@ -1,7 +1,7 @@
 // Damage at random, as much as fits into the time: nothing may crash, hang or trust what it reads.
-// QUEND_FUZZ_SECONDS says how long (30), QUEND_FUZZ_SEED where the seeds begin (1).
 #include "StoreCheck.h"
 
+#include "Fuzzing.h"
 #include "Sqlite.h"
 #include "StoreFile.h"
 #include "StoreFixture.h"
@@ -9,7 +9,6 @@
 #include "StoreSoundness.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <random>
 #include <unistd.h>
 
@@ -17,11 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using State = StoreCondition::State;
-
-int Setting(const char* name, int usual) {
-    const char* const text = std::getenv(name);
-    return text != nullptr ? std::atoi(text) : usual;
-}
 
 /// A store's file and its log.
 struct Input {
@@ -182,9 +176,9 @@ TEST_F(FuzzStore, SurvivesDamageAtRandom) {
     const Input valid = ValidInput(store);
     Lay(valid);
     ASSERT_TRUE(IsSound(StoreImage(fuzzed)));
-    const auto end =
-        std::chrono::steady_clock::now() + std::chrono::seconds(Setting("QUEND_FUZZ_SECONDS", 30));
-    auto seed = static_cast<unsigned>(Setting("QUEND_FUZZ_SEED", 1));
+    const auto end = std::chrono::steady_clock::now() +
+                     std::chrono::seconds(FuzzDoor::FromEnvironment("QUEND_FUZZ_SECONDS", 5));
+    auto seed = static_cast<unsigned>(FuzzDoor::FromEnvironment("QUEND_FUZZ_SEED", 1));
     for (; std::chrono::steady_clock::now() < end && !HasFailure(); ++seed) {
         SCOPED_TRACE(testing::Message() << "QUEND_FUZZ_SEED=" << seed);
         alarm(20); // a store that makes the program hang ends it here

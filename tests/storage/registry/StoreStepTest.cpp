@@ -217,8 +217,10 @@ TEST(UserStore, StandsInTheUsersDataFolder) {
                   std::filesystem::path(row.folder) / "Quend Halverworks" / "Loan.store");
     }
     const Environment data("XDG_DATA_HOME", nullptr);
-    const Environment home("HOME", nullptr);
-    EXPECT_TRUE(RegistryAPI::UserStore().is_absolute());
+    for (const char* const none : {static_cast<const char*>(nullptr), "", "jose", "./jose"}) {
+        const Environment home("HOME", none);
+        EXPECT_TRUE(RegistryAPI::UserStore().is_absolute());
+    }
 }
 
 } // namespace

@@ -1,0 +1,162 @@
+// Tables of texts and files of languages with anything in them: a table tells its faults by their
+// lines and keeps the rest, a file that is no component is none.
+
+#include "ComponentFile.h"
+#include "Fuzzing.h"
+#include "HostileTexts.h"
+#include "Language.h"
+#include "LanguageComponent.h"
+#include "LanguageIdentifier.h"
+#include "ProgramFolder.h"
+#include "TextTable.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <set>
+
+#include <sys/wait.h>
+
+namespace {
+
+QString LineOf(int id, QString text) {
+    text.replace(u'\\', QStringLiteral("\\\\")).replace(u'\n', QStringLiteral("\\n"));
+    return QStringLiteral("%1 = %2\n").arg(id).arg(text);
+}
+
+/// What a table that says these texts would look like.
+QString Written(const TextTable& table) {
+    QString lines = QStringLiteral("language = x\ntag = y\n");
+    for (const auto& [id, text] : table.Texts()) {
+        lines += LineOf(id, text);
+    }
+    return lines;
+}
+
+void TryTable(const QString& source) {
+    const TextTable table = TextTable::Parse(source);
+    const auto lines = static_cast<int>(source.count(u'\n')) + 1;
+    std::set<int> faulty;
+    for (const TextTableFault& fault : table.Faults()) {
+        EXPECT_GE(fault.line, 0);
+        EXPECT_LE(fault.line, lines);
+        EXPECT_FALSE(fault.description.isEmpty());
+        faulty.insert(fault.line);
+    }
+    // Each line is a note, empty, in the head, a text or a fault.
+    int others = 0;
+    for (const QString& line : source.split(u'\n')) {
+        const QString content = line.trimmed();
+        others += content.isEmpty() || content.startsWith(u'#') ? 1 : 0;
+    }
+    others += table.LanguageName().isEmpty() ? 0 : 1;
+    others += table.Tag().isEmpty() ? 0 : 1;
+    EXPECT_EQ(others + static_cast<int>(table.Texts().size() + faulty.size() - faulty.count(0)),
+              lines);
+    for (const auto& [id, text] : table.Texts()) {
+        EXPECT_GT(id, 0);
+        EXPECT_FALSE(text.isEmpty());
+        EXPECT_EQ(table.Text(id), text);
+    }
+    const TextTable again = TextTable::Parse(Written(table));
+    EXPECT_TRUE(again.Faults().empty());
+    EXPECT_EQ(again.Texts(), table.Texts());
+}
+
+const FuzzDoor& TableDoor() {
+    static const FuzzDoor door("table", [](const std::string& input) { TryTable(TextOf(input)); });
+    return door;
+}
+
+TEST(TextTableFuzz, TheCorpusIsReadOrToldByItsLines) { TableDoor().TryCorpus(); }
+
+TEST(TextTableFuzz, AnyTableIsReadOrToldByItsLines) {
+    constexpr std::array pieces{"language",   "tag", " = ", "=",   "\n",   "\n",          "\n7 = ",
+                                "\n8 =",      "# ",  "\\",  "\\n", "\\\\", "\r\n",        "\t",
+                                "2147483648", "0",   "x",   "&",   "\xFF", "\xEF\xBB\xBF"};
+    TableDoor().TryAtRandom([&](FuzzRandom& random) {
+        return random.OneIn(3) ? Damaged(random, random.AnyOf(TableDoor().Corpus()))
+                               : Patched(random, pieces) + Patched(random, pieces) +
+                                     Patched(random, HostilePieces);
+    });
+}
+
+/// What the program does with the files that it finds beside itself, but for running what is in
+/// them: whoever may write a sound component there may run anything.
+void TryFile(const ProgramFolder& folder, const std::string& bytes) {
+    const QString name = QStringLiteral("Loan409.Resources.so");
+    QFile::remove(folder.PathOf(name)); // what is mapped stays as it was
+    folder.PutBytes(name, QByteArray::fromStdString(bytes));
+    const auto label = ComponentFile::Label(folder.PathOf(name));
+    Language& language = Language::Instance();
+    language.SetUp(folder.Path(), QStringLiteral("Loan"));
+    EXPECT_EQ(language.Entries().size(), label ? 3U : 2U);
+    EXPECT_EQ(language.Entries().front().name, QStringLiteral("English"));
+    EXPECT_FALSE(GetResourceText(15).isEmpty()); // never fails for want of a component
+}
+
+TEST(ComponentFuzz, ADamagedFileIsOfferedByItsLabelOrNotAtAll) {
+    const ProgramFolder folder;
+    const std::string sound = BytesOf(BuiltSpanishComponent()).toStdString();
+    // The label stands apart from the rest; most of the damage is to hit it or the way to it.
+    const std::size_t label = sound.find("quend.loan.LanguageComponent/");
+    ASSERT_NE(label, std::string::npos);
+    const FuzzDoor door("component", [&](const std::string& input) { TryFile(folder, input); });
+    door.TryAtRandom([&](FuzzRandom& random) {
+        if (random.OneIn(3)) {
+            return Damaged(random, sound);
+        }
+        std::string bytes = sound;
+        const std::size_t first = label - 40;
+        return bytes.replace(first, 200, Damaged(random, sound.substr(first, 200)));
+    });
+    Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
+}
+
+/// Loading runs what is in the file, so that each is loaded in a process of its own.
+TEST(ComponentFuzz, AFileCutOffDoesNoHarm) {
+    const ProgramFolder folder;
+    const QByteArray sound = BytesOf(BuiltSpanishComponent());
+    constexpr int parts = 16;
+    for (int part = 0; part < parts; ++part) {
+        SCOPED_TRACE(part);
+        const QString name = QStringLiteral("Loan40a.Resources.so");
+        QFile::remove(folder.PathOf(name));
+        folder.PutBytes(name, sound.left(sound.size() * part / parts));
+        const pid_t child = fork();
+        if (child == 0) {
+            ComponentFile::Load(folder.PathOf(name));
+            _exit(0);
+        }
+        int status = -1;
+        waitpid(child, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+}
+
+TEST(LocaleNameFuzz, AnyNameHasALanguageOrNone) {
+    constexpr std::array pieces{"en",         "es",       "_",
+                                "-",          "US",       "MX",
+                                ".UTF-8",     "@euro",    "@collation=traditional",
+                                "C",          "POSIX",    "zh_Hant_TW",
+                                "sr_Latn_RS", "xx",       "root",
+                                "i-klingon",  "x-private"};
+    const FuzzDoor door("locale", [](const std::string& input) {
+        LanguageIdentifierOf(TextOf(input));
+        for (const char* const variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+            qunsetenv(variable);
+        }
+        qputenv("LANG", QByteArray::fromStdString(input));
+        Language::Instance().DetectLanguage(UserDefaultLanguageIdentifier());
+        EXPECT_LT(Language::Instance().CurrentLanguage(), 0);
+        EXPECT_FALSE(GetResourceText(15).isEmpty());
+    });
+    const QByteArray before = qgetenv("LC_ALL");
+    door.TryAtRandom([&](FuzzRandom& random) {
+        return random.OneIn(3) ? Patched(random, HostilePieces) : Patched(random, pieces);
+    });
+    qunsetenv("LANG");
+    qputenv("LC_ALL", before);
+}
+
+} // namespace

@@ -1,0 +1,82 @@
+// Help files with anything in them: a book that opens has pages, one that does not is a failure in
+// words; whatever is asked of it is answered.
+
+#include "CompiledBook.h"
+#include "Failure.h"
+#include "Fuzzing.h"
+#include "QuietToolkit.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string Whole(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll().toStdString();
+}
+
+class HelpFuzz : public testing::Test {
+protected:
+    void Try(const std::string& bytes) {
+        const QuietToolkit quiet;
+        const QString path = m_folder.filePath(QStringLiteral("loan000.hlp"));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+        file.close();
+        try {
+            Use(path);
+        } catch (const Failure& failure) {
+            EXPECT_NE(failure.Description(), "");
+        }
+    }
+
+private:
+    static void Use(const QString& path) {
+        const CompiledBook book(path);
+        EXPECT_FALSE(book.Data(book.FirstPage()).isEmpty());
+        for (const int topic : {0, 1003, 1052, 99'999}) {
+            book.TopicText(topic);
+            const QUrl page = book.PageOfTopic(topic);
+            EXPECT_TRUE(page.isEmpty() || page.scheme() == QLatin1String("qthelp"));
+        }
+        book.Has(book.PageOfKeyword(QStringLiteral("points")));
+        book.Has(book.Page(QStringLiteral("../../../etc/passwd")));
+    }
+
+    QTemporaryDir m_folder;
+};
+
+TEST_F(HelpFuzz, ADamagedBookOpensWithItsPagesOrTellsWhy) {
+    const std::string sound = Whole(QStringLiteral(QUEND_PROGRAM_DIR "/loan000.hlp"));
+    const FuzzDoor door("help", [this](const std::string& input) { Try(input); });
+    door.TryAtRandom([&](FuzzRandom& random) {
+        std::string bytes = sound;
+        // Damage where pages of the file begin, which says what stands on them.
+        for (std::size_t count = 1 + random.Below(8); count > 0; --count) {
+            const std::size_t page = random.Below(bytes.size()) / 1'024 * 1'024;
+            bytes.replace(page, 64, Damaged(random, bytes.substr(page, 64)).substr(0, 64));
+        }
+        return random.OneIn(10) ? bytes.substr(0, random.Below(bytes.size())) : bytes;
+    });
+}
+
+TEST_F(HelpFuzz, OtherFilesAreNoBooks) {
+    for (const QString& path :
+         {QStringLiteral(QUEND_PROGRAM_DIR "/Loan"), QStringLiteral("/dev/null"),
+          QStringLiteral("/dev/zero"), QStringLiteral("/"), QStringLiteral("/proc/self/mem"),
+          QStringLiteral(QUEND_TEST_DATA "/store-corpus/whole.store"), QString(5'000, u'x'),
+          QString()}) {
+        SCOPED_TRACE(path.left(80).toStdString());
+        const QuietToolkit quiet;
+        alarm(20);
+        EXPECT_THROW(HelpBook{path}, Failure);
+    }
+    alarm(0);
+}
+
+} // namespace

@@ -1,0 +1,58 @@
+// Any text as the name of a worksheet or about a lender: what the store says it can hold comes back
+// the same, to the letter.
+
+#include "Fuzzing.h"
+#include "HostileTexts.h"
+#include "Language.h"
+#include "LoanStore.h"
+#include "Sheet.h"
+#include "StoreFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class LoanNameFuzz : public testing::Test {
+protected:
+    LoanNameFuzz() {
+        Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
+    }
+
+    void Try(const std::string& input) const {
+        // Half of a character becomes the mark for one that is unknown, as anywhere.
+        const QString text = QString::fromUtf8(TextOf(input).toUtf8());
+        const LoanStore store(m_folder.Store());
+        Sheet sheet;
+        const bool nameFits = LoanStore::CanHold(text) && !LoanStore::IsEmptyName(text);
+        const QString name = nameFits ? text : QStringLiteral("any");
+        const QString who = LoanStore::CanHoldLender(text) ? text : QString();
+        sheet.worksheet.SetLoanName(name);
+        sheet.worksheet.StoreOfferNumber({FieldId::Points, Row{0}}, 1.0);
+        sheet.worksheet.StoreWho(Row{0}, who);
+        store.Save(sheet.worksheet);
+        EXPECT_TRUE(store.Exists(name));
+        EXPECT_EQ(store.Names(), QStringList(name));
+        Sheet again;
+        EXPECT_TRUE(store.Load(again.worksheet, name, [](Row) {}).empty());
+        EXPECT_EQ(again.worksheet.LoanName(), name);
+        EXPECT_EQ(std::as_const(again.worksheet).OfferOfRow(Row{0}).Who(), who);
+        EXPECT_TRUE(store.Delete(name));
+        EXPECT_FALSE(store.Exists(name));
+    }
+
+    const FuzzDoor m_door{"text", [this](const std::string& input) { Try(input); }};
+
+private:
+    StoreFolder m_folder;
+};
+
+TEST_F(LoanNameFuzz, TheCorpusComesBackOrIsRefused) { m_door.TryCorpus(); }
+
+TEST_F(LoanNameFuzz, AnyTextComesBackOrIsRefused) {
+    m_door.TryAtRandom([](FuzzRandom& random) {
+        return Patched(random, HostilePieces) +
+               (random.OneIn(2) ? Patched(random, HostilePieces) : "");
+    });
+}
+
+} // namespace

@@ -1,0 +1,263 @@
+// The real program in surroundings that nobody should have: whatever its environment and its
+// command line say, it starts and closes again with the store where it belongs, or says in words
+// why it cannot.
+
+#include "Fuzzing.h"
+#include "HostileTexts.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdlib>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr const char* StoreFile = "Quend Halverworks/Loan.store";
+
+struct Variable {
+    const char* name;
+    QByteArray value;
+};
+
+/// The environment with these variables, as it was before once this goes. A null value takes a
+/// variable away. As bytes: the toolkit's own environment of a process is made of texts.
+class Environment {
+public:
+    explicit Environment(const std::vector<Variable>& variables) {
+        for (const Variable& variable : variables) {
+            m_before.push_back({variable.name, qgetenv(variable.name)});
+            Set(variable);
+        }
+    }
+    Environment(const Environment&) = delete;
+    Environment& operator=(const Environment&) = delete;
+    Environment(Environment&&) = delete;
+    Environment& operator=(Environment&&) = delete;
+    ~Environment() { std::for_each(m_before.rbegin(), m_before.rend(), Set); }
+
+private:
+    static void Set(const Variable& variable) {
+        variable.value.isNull() ? unsetenv(variable.name)
+                                : setenv(variable.name, variable.value.constData(), 1);
+    }
+
+    std::vector<Variable> m_before;
+};
+
+/// What came of one run.
+struct Outcome {
+    int exitCode = -1;
+    QStringList report;
+
+    QStringList Of(const char* what) const {
+        QStringList found;
+        for (const QString& line : report) {
+            if (line.startsWith(QLatin1String(what) + u' ')) {
+                found.append(line.sliced(static_cast<qsizetype>(qstrlen(what)) + 1));
+            }
+        }
+        return found;
+    }
+};
+
+/// A user's home of the test's own, and the program started from it.
+class Surroundings : public testing::Test {
+protected:
+    QString PathOf(const QString& name) const { return m_home.filePath(name); }
+    QByteArray BytesOfPath(const QString& name) const { return QFile::encodeName(PathOf(name)); }
+
+    /// Variables with a null value are taken away.
+    Outcome Start(const std::vector<Variable>& variables, const QStringList& arguments = {}) const {
+        std::vector<Variable> all = {{"HOME", QFile::encodeName(m_home.path())},
+                                     {"QT_QPA_PLATFORM", "offscreen"},
+                                     {"QT_QPA_GENERIC_PLUGINS", "visitor"},
+                                     {"QT_PLUGIN_PATH", QUEND_VISITOR_PLUGINS}};
+        for (const char* const name :
+             {"LC_ALL", "LANG", "LANGUAGE", "XDG_DATA_HOME", "XDG_CONFIG_HOME"}) {
+            all.push_back({name, {}});
+        }
+        all.insert(all.end(), variables.begin(), variables.end());
+        QProcess program;
+        program.setWorkingDirectory(m_home.path());
+        const Environment environment(all);
+        program.start(QStringLiteral(QUEND_PROGRAM_DIR "/Loan"), arguments);
+        Outcome outcome;
+        if (!program.waitForFinished(60'000)) {
+            ADD_FAILURE() << "it hangs";
+            program.kill();
+            program.waitForFinished();
+        }
+        const QString complaint = QString::fromUtf8(program.readAllStandardError()).left(2'000);
+        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit) << complaint.toStdString();
+        outcome.exitCode = program.exitCode();
+        outcome.report =
+            QString::fromUtf8(program.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+        return outcome;
+    }
+    void ExpectStarts(const Outcome& outcome) const {
+        EXPECT_EQ(outcome.exitCode, 0);
+        EXPECT_EQ(outcome.Of("shown"), QStringList(u"Quend Loan"_qs));
+        EXPECT_EQ(outcome.Of("message"), QStringList());
+    }
+    bool IsStoreIn(const QString& folder) const {
+        return QFile::exists(QDir(PathOf(folder)).filePath(QLatin1String(StoreFile)));
+    }
+
+private:
+    QTemporaryDir m_home;
+};
+
+TEST_F(Surroundings, LetTheProgramDoAllItsWork) {
+    const Outcome outcome = Start({{"QUEND_VISIT", "work"}, {"LC_ALL", "en_US.UTF-8"}});
+    ExpectStarts(outcome);
+    EXPECT_EQ(outcome.Of("payment"), QStringList(u"$599.55"_qs));
+    EXPECT_GE(outcome.Of("dialog").size(), 2) << outcome.report.join(u'\n').toStdString();
+    EXPECT_EQ(outcome.Of("missing"), QStringList());
+    EXPECT_EQ(Start({}).Of("names"), QStringList(u"2"_qs)) << "the entry of a new loan and Sample";
+}
+
+TEST_F(Surroundings, OfAnyLocaleAreTaken) {
+    for (const std::vector<Variable>& variables : std::vector<std::vector<Variable>>{
+             {{"LC_ALL", "xx_XX.UTF-8"}},
+             {{"LC_ALL", "en_US.\xFF\xFE"}, {"LANGUAGE", "::x:\xFF"}},
+             {{"LC_ALL", "%n%n%s\n@"}, {"LANG", "."}},
+             {{"LC_ALL", ""}, {"LANG", "../../etc/passwd"}, {"LANGUAGE", "../../etc/passwd"}},
+             {{"LC_NUMERIC", "ar_EG.UTF-8"}, {"LC_MONETARY", "_"}, {"LC_TIME", "fa_IR"}},
+             {{"LC_ALL", QByteArray(100'000, 'x')}, {"LANG", QByteArray(100'000, '_')}}}) {
+        SCOPED_TRACE(testing::PrintToString(variables.front().value.left(80).toStdString()));
+        ExpectStarts(Start(variables));
+    }
+}
+
+TEST_F(Surroundings, OfAnyFoldersKeepTheStoreWhereItBelongs) {
+    QDir(PathOf({})).mkpath(u"Año \"de\" $(id) 'x'\n%n"_qs);
+    QFile file(PathOf(u"file"_qs));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    const QString usual = u".local/share"_qs;
+    struct Case {
+        const char* what;
+        std::vector<Variable> variables;
+        QString store; ///< where it stands; null where there can be none, and the user is told
+    };
+    const QByteArray longPath = BytesOfPath(u"long/"_qs) + QByteArray("folder/").repeated(1'000);
+    const std::vector<Case> cases = {
+        {"nothing set", {}, usual},
+        {"a data folder", {{"XDG_DATA_HOME", BytesOfPath(u"data"_qs)}}, u"data"_qs},
+        {"a data folder by a relative path", {{"XDG_DATA_HOME", "data2"}}, usual},
+        {"an empty data folder", {{"XDG_DATA_HOME", ""}}, usual},
+        {"accents, quotes and line breaks",
+         {{"XDG_DATA_HOME", BytesOfPath(u"Año \"de\" $(id) 'x'\n%n"_qs)}},
+         u"Año \"de\" $(id) 'x'\n%n"_qs},
+        {"a home with accents", {{"HOME", BytesOfPath(u"José"_qs)}}, u"José/.local/share"_qs},
+        {"no folder to be made", {{"XDG_DATA_HOME", "/proc/none"}}, {}},
+        {"a file in the way", {{"XDG_DATA_HOME", BytesOfPath(u"file"_qs)}}, {}},
+        {"a path too long", {{"XDG_DATA_HOME", longPath}}, {}},
+        {"a home too long", {{"HOME", longPath}}, {}},
+        {"configuration in the way", {{"XDG_CONFIG_HOME", BytesOfPath(u"file"_qs)}}, usual},
+        {"configuration nowhere", {{"XDG_CONFIG_HOME", "/proc/none"}}, usual},
+        {"configuration too long", {{"XDG_CONFIG_HOME", longPath}}, usual},
+        {"no folder for a while",
+         {{"TMPDIR", "/proc/none"},
+          {"XDG_RUNTIME_DIR", "/proc/none"},
+          {"XDG_CACHE_HOME", "/proc/none"}},
+         usual},
+        {"no path to programs", {{"PATH", {}}}, usual},
+    };
+    for (const Case& tested : cases) {
+        SCOPED_TRACE(tested.what);
+        const Outcome outcome = Start(tested.variables);
+        if (tested.store.isNull()) {
+            EXPECT_EQ(outcome.exitCode, 1);
+            EXPECT_EQ(outcome.Of("message").size(), 1);
+            EXPECT_EQ(outcome.Of("shown"), QStringList());
+        } else {
+            ExpectStarts(outcome);
+            EXPECT_TRUE(IsStoreIn(tested.store));
+        }
+        QDir(PathOf(usual)).removeRecursively();
+    }
+}
+
+TEST_F(Surroundings, OfAnyToolkitSettingsAreTaken) {
+    const std::vector<Variable> variables = {{"QT_STYLE_OVERRIDE", "nonsense"},
+                                             {"QT_SCALE_FACTOR", "x"},
+                                             {"QT_SCREEN_SCALE_FACTORS", ";;=%n"},
+                                             {"QT_FONT_DPI", "-1"},
+                                             {"QT_AUTO_SCREEN_SCALE_FACTOR", "99"},
+                                             {"QT_ENABLE_HIGHDPI_SCALING", "?"},
+                                             {"QT_LOGGING_RULES", "*=\n%n"},
+                                             {"QT_MESSAGE_PATTERN", "%{if-debug}%{"},
+                                             {"QT_IM_MODULE", "nonsense"},
+                                             {"QT_QPA_PLATFORMTHEME", "nonsense"},
+                                             {"DISPLAY", ":nonsense"},
+                                             {"WAYLAND_DISPLAY", "\xFF"},
+                                             {"QT_ACCESSIBILITY", "x"},
+                                             {"DBUS_SESSION_BUS_ADDRESS", "unix:path=/none;;"},
+                                             {"TZ", "../../etc/passwd"},
+                                             {"CUPS_SERVER", "/none:99999"},
+                                             {"XDG_CURRENT_DESKTOP", "::%n"},
+                                             {"XDG_DATA_DIRS", ":::relative:/proc"}};
+    ExpectStarts(Start(variables));
+}
+
+TEST_F(Surroundings, OfAnyArgumentsAreTaken) {
+    for (const QStringList& arguments : std::vector<QStringList>{
+             {u"--help"_qs, u"-x"_qs, u""_qs, u"%n"_qs, u"a\nb"_qs, u"/dev/zero"_qs,
+              u"-reverse"_qs},
+             {u"-qwindowgeometry"_qs, u"9999999999x-1+%n"_qs, u"-session"_qs, u"../x"_qs},
+             {u"-stylesheet"_qs, PathOf(u"none"_qs), u"-style"_qs, u"nonsense"_qs, u"-style"_qs},
+             {u"ñ\xD83C"_qs, QString(100'000, u'-')}}) {
+        SCOPED_TRACE(arguments.join(u'|').left(80).toStdString());
+        ExpectStarts(Start({}, arguments));
+    }
+}
+
+TEST_F(Surroundings, AtRandomAreTaken) {
+    constexpr std::array Names{"LC_ALL",
+                               "LC_NUMERIC",
+                               "LC_MONETARY",
+                               "LC_TIME",
+                               "LC_MESSAGES",
+                               "LANG",
+                               "LANGUAGE",
+                               "TZ",
+                               "XDG_CURRENT_DESKTOP",
+                               "QT_STYLE_OVERRIDE",
+                               "QT_FONT_DPI",
+                               "QT_LOGGING_RULES"};
+    constexpr std::array Pieces{"en", "_US",        "es",       "MX", ".UTF-8", "@euro", "de_DE",
+                                "C",  "zh_Hant_TW", "sr@latin", ":",  "/",      ";"};
+    const FuzzDoor door("surroundings", [&](const std::string& input) {
+        std::vector<Variable> variables;
+        for (const QByteArray& line : QByteArray::fromStdString(input).split('\n')) {
+            const qsizetype sign = line.indexOf('=');
+            const auto known = std::find_if(Names.begin(), Names.end(), [&](const char* name) {
+                return line.left(std::max<qsizetype>(sign, 0)) == name;
+            });
+            if (known != Names.end()) {
+                variables.push_back({*known, line.mid(sign + 1)});
+            }
+        }
+        ExpectStarts(Start(variables));
+    });
+    door.TryAtRandom([&](FuzzRandom& random) {
+        std::string lines;
+        for (std::size_t count = 1 + random.Below(4); count > 0; --count) {
+            lines += std::string(random.AnyOf(Names)) + '=' +
+                     (random.OneIn(2) ? Patched(random, Pieces) : Patched(random, HostilePieces)) +
+                     '\n';
+        }
+        return lines;
+    });
+}
+
+} // namespace

@@ -1,0 +1,169 @@
+// Any text in any field, typed, pasted or dropped, wherever the user lives: a number that shows and
+// reads back the same, or a refusal; nothing else.
+
+#include "DraggedValue.h"
+#include "Failure.h"
+#include "Fuzzing.h"
+#include "HostileTexts.h"
+#include "IsValidNumber.h"
+#include "Sheet.h"
+
+#include <QRegularExpression>
+
+#include <cmath>
+#include <map>
+#include <utility>
+
+namespace {
+
+const std::vector<QLocale>& EveryLocale() {
+    static const std::vector<QLocale> locales = [] {
+        const QList<QLocale> all =
+            QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
+        return std::vector<QLocale>(all.begin(), all.end());
+    }();
+    return locales;
+}
+
+/// One locale for each way to write numbers.
+std::vector<QLocale> EveryHabit() {
+    std::map<QStringList, QLocale> habits;
+    for (const QLocale& locale : EveryLocale()) {
+        habits.insert({{locale.decimalPoint(), locale.groupSeparator(), locale.negativeSign(),
+                        locale.zeroDigit()},
+                       locale});
+    }
+    std::vector<QLocale> locales;
+    for (const auto& [habit, locale] : habits) {
+        locales.push_back(locale);
+    }
+    return locales;
+}
+
+/// The form of a number, said in another way than the program says it.
+bool HasForm(const QString& text, int decimals, QChar separator) {
+    const QString fraction = decimals == 0
+                                 ? QString()
+                                 : QStringLiteral("(%1[0-9]{0,%2})?")
+                                       .arg(QRegularExpression::escape(QString(separator)))
+                                       .arg(decimals);
+    const QRegularExpression form(
+        QRegularExpression::anchoredPattern(QStringLiteral("[+-]?[0-9]*") + fraction));
+    return form.match(text).hasMatch();
+}
+
+bool HasDigit(const QString& text) {
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+}
+
+bool IsFinite(const FieldNumber& number) {
+    const auto* real = std::get_if<double>(&number);
+    return real == nullptr || std::isfinite(*real);
+}
+
+/// What reading and showing promise of one number.
+void ExpectShowsAndReadsTheSame(const FieldTexts& texts, ValueKind kind,
+                                const FieldNumber& number) {
+    ASSERT_TRUE(IsFinite(number));
+    const QString entry = texts.EntryText(kind, number);
+    EXPECT_EQ(entry.isEmpty(), IsZero(number));
+    EXPECT_EQ(texts.DisplayText(kind, number).isEmpty(), IsZero(number));
+    EXPECT_TRUE(IsValidNumber(entry, 400, texts.Formats().DecimalSeparator()))
+        << entry.toStdString();
+    if (kind != ValueKind::WholeTerm || texts.TermInMonths()) { // of years, whole ones are read
+        EXPECT_EQ(texts.EntryText(kind, texts.Read(kind, entry)), entry);
+    }
+}
+
+void EnterInto(Sheet& sheet, Field field, const QString& text) {
+    const FieldRule& rule = RuleOf(field.id);
+    const FieldTexts& texts = sheet.worksheet.Texts();
+    const bool form = HasForm(text, rule.decimals, texts.Formats().DecimalSeparator());
+    EXPECT_EQ(IsValidNumber(text, rule.decimals, texts.Formats().DecimalSeparator()), form);
+    const QString before = sheet.worksheet.EntryText(field);
+    try {
+        const bool accepted = sheet.worksheet.Accepts(field, text);
+        EXPECT_EQ(accepted, form && (text.isEmpty() || HasDigit(text)));
+        if (!accepted) {
+            return;
+        }
+        ExpectShowsAndReadsTheSame(texts, rule.kind, texts.Read(rule.kind, text));
+    } catch (const OverflowFailure&) {
+        EXPECT_TRUE(form && HasDigit(text));
+        EXPECT_EQ(sheet.worksheet.EntryText(field), before);
+        return;
+    }
+    try {
+        sheet.worksheet.StoreNumber(field, text);
+    } catch (const OverflowFailure&) { // a result out of range; the number itself stays
+    }
+}
+
+void DropInto(Sheet& sheet, Field field, const QString& text) {
+    const FieldRule& rule = RuleOf(field.id);
+    const bool may = MayDrop(sheet.worksheet, field.id, text);
+    const QChar separator = sheet.worksheet.Texts().Formats().DecimalSeparator();
+    EXPECT_EQ(may,
+              !rule.IsNumber() || (!text.isEmpty() && HasForm(text, rule.decimals, separator)));
+    if (!may) {
+        return;
+    }
+    try {
+        StoreDropped(sheet.worksheet, field, ReadDropped(sheet.worksheet, field.id, text));
+    } catch (const ConversionFailure&) {
+        EXPECT_FALSE(HasDigit(text));
+        return;
+    } catch (const OverflowFailure&) {
+        return;
+    }
+    if (!rule.IsNumber()) {
+        QString who = std::as_const(sheet.worksheet).OfferOfRow(field.row).Who();
+        EXPECT_FALSE(who.remove(QStringLiteral("\r\n")).contains(u'\n'));
+        return;
+    }
+    const QString given = DraggedText(sheet.worksheet, field, QString());
+    EXPECT_TRUE(IsValidNumber(given, 400, separator)) << given.toStdString();
+}
+
+void TryIn(const QLocale& locale, const QString& text) {
+    SCOPED_TRACE(locale.name().toStdString());
+    Sheet sheet(locale, 2);
+    sheet.worksheet.SetTermInMonths(text.size() % 2 == 0);
+    for (const FieldRule& rule : LoanFields()) {
+        if (rule.IsNumber() && rule.access == Access::Input) {
+            EnterInto(sheet, {rule.id}, text);
+        }
+    }
+    for (const FieldRule& rule : OfferFields()) {
+        if (rule.IsNumber() && rule.access == Access::Input) {
+            EnterInto(sheet, {rule.id, Row{0}}, text);
+        }
+        if (IsDraggable(rule.id)) {
+            DropInto(sheet, {rule.id, Row{1}}, text);
+        }
+    }
+}
+
+TEST(TextFuzz, TheCorpusKeepsThePromisesHoweverNumbersAreWritten) {
+    ASSERT_GT(EveryLocale().size(), 500U);
+    const std::vector<QLocale> locales = EveryHabit();
+    EXPECT_GT(locales.size(), 10U);
+    FuzzDoor("text", [&](const std::string& input) {
+        for (const QLocale& locale : locales) {
+            TryIn(locale, TextOf(input));
+        }
+    }).TryCorpus();
+}
+
+TEST(TextFuzz, AnyTextKeepsThePromises) {
+    const FuzzDoor door("text", [](const std::string& input) {
+        TryIn(EveryLocale().at(std::hash<std::string>()(input) % EveryLocale().size()),
+              TextOf(input));
+    });
+    door.TryAtRandom([&](FuzzRandom& random) {
+        return random.OneIn(4) ? Damaged(random, random.AnyOf(door.Corpus()))
+                               : Patched(random, HostilePieces);
+    });
+}
+
+} // namespace

@@ -104,8 +104,10 @@ void RandomUser::PickEntry(QComboBox& list, int entry) {
 void RandomUser::InDialog(const std::function<void()>& open,
                           const std::function<void(QDialog&)>& act) {
     bool opened = false;
-    QTimer::singleShot(0, &Window(), [&] {
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
         if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            watch.stop();
             opened = true;
             act(*dialog);
             Settle();
@@ -114,6 +116,7 @@ void RandomUser::InDialog(const std::function<void()>& open,
             }
         }
     });
+    watch.start(0ms);
     open();
     Settle();
     if (!opened) {

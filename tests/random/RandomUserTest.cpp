@@ -57,6 +57,9 @@ Failing Walk(std::uint64_t seed, NextStep next) {
                 break;
             }
             walked.trail.push_back(*step);
+            if (qEnvironmentVariableIsSet("QUEND_RANDOM_TELL")) {
+                std::cout << Written({*step}).toStdString() << ";" << std::endl;
+            }
             user.Take(*step);
             walked.complaints = checks.Complaints(user) + Warnings();
         }

@@ -260,14 +260,11 @@ void RandomUser::TypeDay(unsigned a, unsigned b) {
     if (!Click(*Control(field)) || (m_edited != field && !Follow(before))) {
         return;
     }
-    ObserveDay(); // the click may have hit one of its buttons
     static constexpr std::array keys{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
                                      Qt::Key_Home, Qt::Key_End, Qt::Key_Left, Qt::Key_Right};
     if (a % 4 != 0) {
-        Press(keys.at(b % keys.size()));
-        return ObserveDay();
+        return Press(keys.at(b % keys.size()));
     }
     TypeText(b % 2 == 0 ? QString::number(b % 10'000) : u"12/30/2031"_qs);
     Press(Qt::Key_Return);
-    ObserveDay();
 }

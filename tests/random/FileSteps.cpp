@@ -199,8 +199,8 @@ void RandomUser::Delete(unsigned a, unsigned /*b*/) {
         }
     }
     m_book.Clear();
-    Refocus({FieldId::LoanName});
     Reenter();
+    Refocus({FieldId::LoanName});
 }
 
 /// Closing the window, and starting the program again on the same store, perhaps elsewhere.
@@ -229,5 +229,6 @@ void RandomUser::CloseAndStart(unsigned a, unsigned b) {
     m_edited.reset();
     m_program.Start(m_book.forms.Locale());
     Settle();
+    WatchDay();
     EnterInBook(FocusField());
 }

@@ -20,6 +20,7 @@
 #include <QWindow>
 
 #include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -29,6 +30,7 @@ RandomUser::RandomUser(std::size_t country) : m_book(country) {
     m_program.Start(m_book.forms.Locale());
     m_book.GrowTo(m_displayed);
     Settle();
+    WatchDay();
     EnterInBook(FocusField());
 }
 
@@ -49,7 +51,7 @@ void RandomUser::Take(const Step& step) {
     }
     Settle();
     m_program.Activate();
-    ObserveText();
+    ObserveDay();
     // The notice comes when the user lets the time pass, and never by the clock.
     if (auto* timer = Window().findChild<QTimer*>(u"Timer1"_qs); timer && timer->isActive()) {
         timer->start(1h);
@@ -217,6 +219,7 @@ bool RandomUser::IsRefused(const View& before) const {
 }
 
 bool RandomUser::Follow(const View& before) {
+    ObserveDay();
     const std::optional<Field> now = FocusField();
     if (IsRefused(before)) {
         m_book.expected.append(m_book.FailureOf(*m_edited, before.text));
@@ -233,6 +236,7 @@ bool RandomUser::Follow(const View& before) {
 }
 
 bool RandomUser::Commit(const View& before) {
+    ObserveDay();
     if (!m_edited) {
         return true;
     }
@@ -299,16 +303,15 @@ void RandomUser::Refocus(Field field) {
     EnterInBook(field);
 }
 
-/// What is typed freely is taken as it is found.
-void RandomUser::ObserveText() {
-    if (m_edited == Field{FieldId::NextPayment}) {
-        ObserveDay();
-    }
+/// What is typed into the date becomes a day with every key, and the day is an input at once.
+void RandomUser::WatchDay() {
+    m_days.clear();
+    QObject::connect(qobject_cast<QDateEdit*>(Control({FieldId::NextPayment})),
+                     &QDateEdit::dateChanged, &Window(), [this](QDate day) { m_days.append(day); });
 }
 
 void RandomUser::ObserveDay() {
-    const QDate day = qobject_cast<QDateEdit*>(Control({FieldId::NextPayment}))->date();
-    if (day != m_book.current.next) {
+    for (const QDate day : std::exchange(m_days, {})) {
         m_book.StoreDay(day);
     }
 }

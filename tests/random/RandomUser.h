@@ -121,7 +121,7 @@ private:
     void Reenter() { EnterInBook(m_edited); }
     /// The focus is put there by the program once the fields show what the book says.
     void Refocus(Field field);
-    void ObserveText();
+    void WatchDay();
     void ObserveDay();
     void TakeValue(Field field, const QString& text);
     QString WithName(int question) const;
@@ -136,6 +136,7 @@ private:
     std::optional<Field> m_edited;
     QString m_text;
     QStringList m_questions;
+    QList<QDate> m_days; ///< that the date has become since it was last looked at
     std::size_t m_displayed = 6;
     mutable std::map<Field, QPointer<QWidget>> m_controls;
     mutable std::map<QString, QPointer<QWidget>> m_named;

@@ -28,6 +28,8 @@ struct BookOffer {
     Plain::Count actual = 0;
     QString who;
     Plain::Count interest = 0; ///< of the schedule that ran last, for sorting
+
+    friend bool operator==(const BookOffer&, const BookOffer&) = default;
 };
 
 /// What follows from an offer. Zero, or no day, is an empty field.

@@ -111,22 +111,14 @@ void Checks::BandsShow(RandomUser& user) {
 const std::vector<QString>& Checks::TextsOf(const Book& book, int row) {
     const BookOffer& offer = book.OfferIn(row);
     Row& known = m_rows.at(static_cast<std::size_t>(row));
-    const QString inputs =
-        u"%1 %2 %3 %4 %5 %6 %7 %8 "_qs.arg(offer.financed)
-            .arg(offer.points, 0, 'g', 17)
-            .arg(offer.rate, 0, 'g', 17)
-            .arg(offer.term)
-            .arg(QString(offer.frequency))
-            .arg(offer.actual)
-            .arg(book.loan.amount)
-            .arg(book.loan.escrow) +
-        QString::number(int{book.inMonths} * 2 + int{book.spanish}) +
-        book.forms.Locale().name() + offer.who;
-    if (known.inputs == inputs && !known.texts.empty()) {
+    const int manner = static_cast<int>(book.forms.Country()) * 4 + (book.spanish ? 2 : 0) +
+                       (book.inMonths ? 1 : 0);
+    if (known.manner == manner && known.offer == offer && known.amount == book.loan.amount &&
+        known.escrow == book.loan.escrow) {
         return known.texts;
     }
     const BookResults results = book.ResultsOf(offer);
-    known = {inputs, {}};
+    known = {offer, book.loan.amount, book.loan.escrow, manner, {}};
     for (const FieldRule& rule : OfferFields()) {
         switch (rule.id) {
         case FieldId::FinancePoints:

@@ -39,7 +39,10 @@ private:
     /// What the fields of an offer must show, in the order of the columns; kept while nothing that
     /// it depends on has changed.
     struct Row {
-        QString inputs;
+        BookOffer offer;
+        Plain::Count amount = 0;
+        Plain::Count escrow = 0;
+        int manner = -1; ///< country, language and unit of term
         std::vector<QString> texts;
     };
     const std::vector<QString>& TextsOf(const Book& book, int row);

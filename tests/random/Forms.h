@@ -13,6 +13,7 @@ public:
     explicit Forms(std::size_t country);
     static constexpr std::size_t Countries = 3;
 
+    std::size_t Country() const { return m_country; }
     QLocale Locale() const;
     QChar Point() const { return m_point; }
 

@@ -51,6 +51,8 @@ void RandomUser::Take(const Step& step) {
     }
     Settle();
     m_program.Activate();
+    // Painting takes most of the time: enough that the window is painted now and then.
+    Window().setUpdatesEnabled(++m_taken % 64 == 0);
     ObserveDay();
     // The notice comes when the user lets the time pass, and never by the clock.
     if (auto* timer = Window().findChild<QTimer*>(u"Timer1"_qs); timer && timer->isActive()) {
@@ -127,7 +129,7 @@ void RandomUser::InDialog(const std::function<void()>& open,
 }
 
 void RandomUser::Settle() {
-    constexpr int rounds = 4;
+    constexpr int rounds = 3;
     for (int round = 0; round < rounds; ++round) {
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();

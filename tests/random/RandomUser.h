@@ -138,6 +138,7 @@ private:
     QStringList m_questions;
     QList<QDate> m_days; ///< that the date has become since it was last looked at
     std::size_t m_displayed = 6;
+    int m_taken = 0;
     mutable std::map<Field, QPointer<QWidget>> m_controls;
     mutable std::map<QString, QPointer<QWidget>> m_named;
 };

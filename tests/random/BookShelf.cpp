@@ -61,8 +61,8 @@ void Book::Save() {
     dirty = false;
 }
 
-/// The intended payment comes first, so that it is not yet held against anything, and the rate after
-/// the term: an offer without a term gets the default one.
+/// The intended payment comes first, so that it is not yet held against anything, and the rate
+/// after the term: an offer without a term gets the default one.
 bool Book::LoadOffer(int row, const BookOffer& kept) {
     BookOffer& offer = OfferIn(row);
     offer = kept;

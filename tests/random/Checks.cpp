@@ -18,12 +18,12 @@ using namespace Qt::StringLiterals;
 
 std::span<const Checks::Check> Checks::All() {
     static constexpr std::array checks{
-        Check{"messages", &Checks::Messages},    Check{"questions", &Checks::Questions},
-        Check{"rows", &Checks::RowsAreThere},    Check{"bands", &Checks::BandsShow},
-        Check{"offers", &Checks::OffersShow},    Check{"marks", &Checks::Marks},
-        Check{"dirty", &Checks::Dirty},          Check{"focus", &Checks::Focus},
-        Check{"order", &Checks::Order},          Check{"scrolling", &Checks::Scrolling},
-        Check{"captions", &Checks::Captions},    Check{"names", &Checks::NamesKept},
+        Check{"messages", &Checks::Messages}, Check{"questions", &Checks::Questions},
+        Check{"rows", &Checks::RowsAreThere}, Check{"bands", &Checks::BandsShow},
+        Check{"offers", &Checks::OffersShow}, Check{"marks", &Checks::Marks},
+        Check{"dirty", &Checks::Dirty},       Check{"focus", &Checks::Focus},
+        Check{"order", &Checks::Order},       Check{"scrolling", &Checks::Scrolling},
+        Check{"captions", &Checks::Captions}, Check{"names", &Checks::NamesKept},
     };
     return checks;
 }
@@ -258,7 +258,8 @@ void Checks::NamesKept(RandomUser& user) {
     user.keptChanged = false;
     QStringList kept;
     for (const std::string& name : user.TheProgram().Kept()) {
-        if (name.size() != RegistryAPI::NoSubkeysLength || !QString::fromStdString(name).trimmed().isEmpty()) {
+        if (name.size() != RegistryAPI::NoSubkeysLength ||
+            !QString::fromStdString(name).trimmed().isEmpty()) {
             kept.append(QString::fromStdString(name));
         }
     }

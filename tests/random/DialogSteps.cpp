@@ -65,8 +65,8 @@ void RandomUser::OpenOptions(unsigned a, unsigned b) {
                      }
                  };
                  edit("txtWallpaper", path);
-                 auto* option = dialog.findChild<QRadioButton*>(
-                     inMonths ? u"optTerm(0)"_qs : u"optTerm(1)"_qs);
+                 auto* option = dialog.findChild<QRadioButton*>(inMonths ? u"optTerm(0)"_qs
+                                                                         : u"optTerm(1)"_qs);
                  option->click();
                  edit("txtLoans", number);
                  if (a % 7 == 0) {

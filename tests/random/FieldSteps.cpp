@@ -31,8 +31,7 @@ QString Allowed(FieldId field, const QString& text, QChar point) {
     if (!rule.IsNumber()) {
         return text;
     }
-    const bool isTerm =
-        rule.kind == ValueKind::WholeTerm || rule.kind == ValueKind::FractionalTerm;
+    const bool isTerm = rule.kind == ValueKind::WholeTerm || rule.kind == ValueKind::FractionalTerm;
     QString allowed;
     for (const QChar c : text) {
         if ((c >= u'0' && c <= u'9') || (c == point && !isTerm)) {
@@ -68,7 +67,8 @@ void RandomUser::Type(unsigned /*a*/, unsigned b) {
     const QString text = Printable(TextFor(m_edited->id, b, m_book.forms.Point())).left(40);
     const QLineEdit* edit = EditOf(*m_edited);
     if (edit != nullptr && RuleOf(m_edited->id).IsNumber()) {
-        const auto start = edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
+        const auto start =
+            edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
         const QString allowed = Allowed(m_edited->id, text, m_book.forms.Point());
         const qsizetype end = allowed.isEmpty() ? start : start + edit->selectedText().size();
         m_text = allowed.isEmpty() ? edit->text()
@@ -81,8 +81,9 @@ void RandomUser::Paste(unsigned a, unsigned b) {
     if (!m_edited || (!EditOf(*m_edited) && m_edited->id != FieldId::LoanName)) {
         return;
     }
-    QGuiApplication::clipboard()->setText(a % 4 == 0 ? AnyText(b, m_book.forms.Point())
-                                                     : TextFor(m_edited->id, b, m_book.forms.Point()));
+    QGuiApplication::clipboard()->setText(a % 4 == 0
+                                              ? AnyText(b, m_book.forms.Point())
+                                              : TextFor(m_edited->id, b, m_book.forms.Point()));
     if (a % 2 == 0) {
         Press(Qt::Key_A, Qt::ControlModifier);
     }
@@ -144,9 +145,9 @@ void RandomUser::UseClipboard(unsigned a, unsigned /*b*/) {
     if (a % 2 == 0) {
         const QString copied = isValue ? CopiedText(field, edit->text()) : QString();
         Press(Qt::Key_C, Qt::ControlModifier);
-        if (!part && !copied.isEmpty() &&
-            QGuiApplication::clipboard()->text() != copied) {
-            Complain(u"copied %1 instead of %2"_qs.arg(QGuiApplication::clipboard()->text(), copied));
+        if (!part && !copied.isEmpty() && QGuiApplication::clipboard()->text() != copied) {
+            Complain(
+                u"copied %1 instead of %2"_qs.arg(QGuiApplication::clipboard()->text(), copied));
         }
         return;
     }
@@ -260,8 +261,8 @@ void RandomUser::TypeDay(unsigned a, unsigned b) {
     if (!Click(*Control(field)) || (m_edited != field && !Follow(before))) {
         return;
     }
-    static constexpr std::array keys{Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
-                                     Qt::Key_Home, Qt::Key_End, Qt::Key_Left, Qt::Key_Right};
+    static constexpr std::array keys{Qt::Key_Up,   Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,
+                                     Qt::Key_Home, Qt::Key_End,  Qt::Key_Left,   Qt::Key_Right};
     if (a % 4 != 0) {
         return Press(keys.at(b % keys.size()));
     }

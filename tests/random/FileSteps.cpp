@@ -53,8 +53,7 @@ bool RandomUser::SaveInBook() {
     }
     for (int row = 0; row < static_cast<int>(m_book.offers.size()); ++row) {
         if (Letters(m_book.OfferIn(row).who) > 1'023) {
-            m_book.expected.append(
-                GetResourceText(TextNumber::LenderTooLong).arg(row + 1));
+            m_book.expected.append(GetResourceText(TextNumber::LenderTooLong).arg(row + 1));
             return false;
         }
     }

@@ -34,6 +34,9 @@ const std::array<Habits, Forms::Countries> AllHabits{{
 QString Said(const char16_t* text) { return QString::fromUtf16(text); }
 
 QString WrittenOut(double number, int decimals) {
+    if (std::abs(number) >= 1e15) { // more digits than such a number has are anybody's guess
+        return QString::number(number, 'f', decimals);
+    }
     std::array<char, 400> text{};
     const int length = std::snprintf(text.data(), text.size(), "%.*f", decimals, number);
     return QString::fromLatin1(text.data(), length);
@@ -156,8 +159,7 @@ bool Forms::IsForm(QStringView text, int decimals) const {
 }
 
 QString Forms::Bare(const QString& text) const {
-    const bool hasDigit =
-        std::ranges::any_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
+    const bool hasDigit = std::ranges::any_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
     if (!hasDigit) {
         throw NoNumber{};
     }

@@ -151,12 +151,15 @@ QWidget* RandomUser::Control(Field field) const {
     if (!found) {
         const QString name = RuleOf(field.id).control;
         found = Window().findChild<QWidget*>(
-            field.row == Field::NoRow ? name : name + u'(' + QString::number(field.row.value) + u')');
+            field.row == Field::NoRow ? name
+                                      : name + u'(' + QString::number(field.row.value) + u')');
     }
     return found;
 }
 
-QLineEdit* RandomUser::EditOf(Field field) const { return qobject_cast<QLineEdit*>(Control(field)); }
+QLineEdit* RandomUser::EditOf(Field field) const {
+    return qobject_cast<QLineEdit*>(Control(field));
+}
 
 /// The middle of it, past the frame that the rows scroll in.
 bool RandomUser::IsVisible(const QWidget& control) const {
@@ -169,8 +172,7 @@ std::optional<Field> RandomUser::FieldOf(const QWidget* control) const {
     for (; control != nullptr && control != &Window(); control = control->parentWidget()) {
         const QString name = control->objectName();
         const qsizetype bracket = name.indexOf(u'(');
-        const Row row =
-            bracket < 0 ? Field::NoRow : Row{name.mid(bracket + 1).chopped(1).toInt()};
+        const Row row = bracket < 0 ? Field::NoRow : Row{name.mid(bracket + 1).chopped(1).toInt()};
         for (const FieldRule& rule : bracket < 0 ? LoanFields() : OfferFields()) {
             if (name.left(bracket) == rule.control && rule.access == Access::Input) {
                 return Field{rule.id, row};
@@ -203,8 +205,7 @@ Field RandomUser::AnyInput(unsigned number) const {
     std::vector<FieldId> inputs;
     const bool inRow = number % 3 != 0;
     number /= 3;
-    const auto row =
-        inRow ? Row{static_cast<int>(number % m_book.offers.size())} : Field::NoRow;
+    const auto row = inRow ? Row{static_cast<int>(number % m_book.offers.size())} : Field::NoRow;
     number = inRow ? number / static_cast<unsigned>(m_book.offers.size()) : number;
     for (const FieldRule& rule : inRow ? OfferFields() : LoanFields()) {
         if (rule.access == Access::Input) {
@@ -299,7 +300,8 @@ void RandomUser::Refocus(Field field) {
     View shown;
     if (m_edited) {
         shown.text = RuleOf(m_edited->id).IsNumber() ? m_text : m_book.Shown(*m_edited);
-        shown.ticked = m_edited->id == FieldId::FinancePoints && m_book.IsTicked(m_edited->row.value);
+        shown.ticked =
+            m_edited->id == FieldId::FinancePoints && m_book.IsTicked(m_edited->row.value);
         LeaveInBook(shown);
     }
     EnterInBook(field);

@@ -24,8 +24,7 @@
 using namespace Qt::StringLiterals;
 
 void RandomUser::Tick(unsigned a, unsigned /*b*/) {
-    const Field field{FieldId::FinancePoints,
-                      Row{static_cast<int>(a % m_book.offers.size())}};
+    const Field field{FieldId::FinancePoints, Row{static_cast<int>(a % m_book.offers.size())}};
     const View before = Look();
     if (!Click(*Control(field)) || (m_edited != field && !Follow(before))) {
         return;
@@ -44,9 +43,8 @@ void RandomUser::Drop(unsigned a, unsigned b) {
         return;
     }
     const Field source{target.id, Row{static_cast<int>(b / 2 % rows)}};
-    const QString text = b % 2 == 0
-                             ? AnyText(b / 2, m_book.forms.Point())
-                             : CopiedText(source, m_book.OfferIn(source.row.value).who);
+    const QString text = b % 2 == 0 ? AnyText(b / 2, m_book.forms.Point())
+                                    : CopiedText(source, m_book.OfferIn(source.row.value).who);
     const View before = Look();
     QMimeData data;
     data.setText(text);

@@ -7,8 +7,8 @@ Trail Shorten(Trail trail, const std::function<bool(const Trail&)>& fails, int t
         for (std::size_t at = 0; at < trail.size() && tries > 0;) {
             Trail rest = trail;
             const auto begin = rest.begin() + static_cast<std::ptrdiff_t>(at);
-            const auto end = rest.begin() + static_cast<std::ptrdiff_t>(
-                                                std::min(at + part, trail.size()));
+            const auto end =
+                rest.begin() + static_cast<std::ptrdiff_t>(std::min(at + part, trail.size()));
             rest.erase(begin, end);
             --tries;
             if (fails(rest)) {

@@ -192,6 +192,7 @@ private:
     QString FrequencyText(QChar code) const;
     QChar FrequencyCode(const QString& text) const;
 
+    double AsKept(double number) const;
     BookPage Page() const;
     bool LoadOffer(int row, const BookOffer& kept);
     bool Try(const std::function<void()>& action);

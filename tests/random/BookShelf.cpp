@@ -32,10 +32,6 @@ QStringList Book::Names() const {
 
 namespace {
 
-/// A rate is put away in percent, to fifteen digits, like any real number.
-double AsKept(double number) { return QString::number(number, 'g', 15).toDouble(); }
-double RateAsKept(double fraction) { return AsKept(fraction * 100) / 100; }
-
 bool IsWorthKeeping(const BookOffer& offer) {
     return !offer.who.isEmpty() || offer.actual != 0 || offer.financed || offer.rate != 0 ||
            offer.points != 0;
@@ -43,12 +39,15 @@ bool IsWorthKeeping(const BookOffer& offer) {
 
 } // namespace
 
+/// What comes back of a number that is put away as its text.
+double Book::AsKept(double number) const { return forms.ReadReal(forms.Number(number)); }
+
 BookPage Book::Page() const {
     BookPage page{loan.name, loan, current, {}};
-    page.current.rate = RateAsKept(page.current.rate);
+    page.current.rate = AsKept(page.current.rate * 100) / 100; // in percent
     for (BookOffer offer : offers) {
         if (IsWorthKeeping(offer)) {
-            offer.rate = RateAsKept(offer.rate);
+            offer.rate = AsKept(offer.rate * 100) / 100;
             offer.points = AsKept(offer.points);
             page.offers.push_back(offer);
         }

@@ -97,8 +97,9 @@ public:
     void StoreTick(int row, bool ticked);
     void StoreDay(QDate day);
     void StoreWho(int row, const QString& who);
-    /// What was dropped on an offer's field, or pasted there as a value.
-    void Drop(Field field, const QString& text);
+    /// What was dropped on an offer's field, or pasted there as a value. False where it stands for
+    /// no number that can be held: then nothing has happened.
+    bool Drop(Field field, const QString& text);
     void EnterRow(int row);
     void GrowTo(std::size_t rows);
     void SortByPayoff();

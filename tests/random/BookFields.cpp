@@ -272,20 +272,22 @@ void Book::StoreDay(QDate day) {
 
 void Book::StoreWho(int row, const QString& who) { Put(OfferIn(row).who, who); }
 
-void Book::Drop(Field field, const QString& text) {
+bool Book::Drop(Field field, const QString& text) {
+    if (field.id == Who) {
+        QString lines = text;
+        lines.replace(u"\r\n"_qs, u"\n"_qs).replace(u'\r', u'\n');
+        StoreWho(field.row.value, lines.replace(u'\n', u"\r\n"_qs));
+        return true;
+    }
+    bool isRead = false;
     Guard([&] {
-        switch (field.id) {
-        case Who: {
-            QString lines = text;
-            lines.replace(u"\r\n"_qs, u"\n"_qs).replace(u'\r', u'\n');
-            return StoreWho(field.row.value, lines.replace(u'\n', u"\r\n"_qs));
-        }
-        case ActualPayment:
-            return StoreOfferNumber(field, forms.ReadAmount(text));
-        default:
-            return StoreOfferNumber(field, forms.ReadReal(text)); // a rate as its fraction, too
-        }
+        const Number number = field.id == ActualPayment
+                                  ? Number(forms.ReadAmount(text))
+                                  : Number(forms.ReadReal(text)); // a rate as its fraction, too
+        isRead = true;
+        StoreOfferNumber(field, number);
     });
+    return isRead;
 }
 
 Book::Number Book::NumberOf(Field field) const {

@@ -166,7 +166,9 @@ void RandomUser::UseClipboard(unsigned a, unsigned /*b*/) {
 
 /// As if it had been dropped there.
 void RandomUser::TakeValue(Field field, const QString& text) {
-    m_book.Drop(field, text);
+    if (!m_book.Drop(field, text)) {
+        return;
+    }
     if (m_edited && m_edited->row == field.row) {
         Reenter();
     } else {

@@ -7,8 +7,6 @@ namespace Plain {
 
 namespace {
 
-using Wide = __int128;
-
 Count Fitting(Wide count) {
     using Limits = std::numeric_limits<Count>;
     if (count < Limits::min() || count > Limits::max()) {

@@ -12,6 +12,9 @@ namespace Plain {
 /// A number that its kind cannot hold.
 struct TooLarge {};
 
+/// Room for any sum of two amounts, and for their product with a number of periods.
+__extension__ typedef __int128 Wide; // NOLINT(modernize-use-using): only so is it no warning
+
 /// Money: whole ten-thousandths.
 using Count = std::int64_t;
 

@@ -48,8 +48,9 @@ QString Printable(QString text) {
 
 } // namespace
 
-void RandomUser::EnterField(unsigned a, unsigned /*b*/) {
-    const Field field = AnyInput(a);
+void RandomUser::EnterField(unsigned a, unsigned /*b*/) { Enter(AnyInput(a)); }
+
+void RandomUser::Enter(Field field) {
     const View before = Look();
     if (field.id == FieldId::FinancePoints || RuleOf(field.id).kind == ValueKind::Choice) {
         return; // a click is a choice there
@@ -227,8 +228,9 @@ void RandomUser::Arrow(unsigned a, unsigned /*b*/) {
 }
 
 /// Opens the list and picks an entry, or gives up.
-void RandomUser::Choose(unsigned a, unsigned b) {
-    const Field field = AnyInput(a);
+void RandomUser::Choose(unsigned a, unsigned b) { ChooseFrom(AnyInput(a), b); }
+
+void RandomUser::ChooseFrom(Field field, unsigned b) {
     auto* list = qobject_cast<QComboBox*>(Control(field));
     const View before = Look();
     if (list == nullptr || field.id == FieldId::LoanName || !Click(*list)) {
@@ -270,4 +272,37 @@ void RandomUser::TypeDay(unsigned a, unsigned b) {
     }
     TypeText(b % 2 == 0 ? QString::number(b % 10'000) : u"12/30/2031"_qs);
     Press(Qt::Key_Return);
+}
+
+/// Good numbers into these fields, one after the other.
+void RandomUser::FillAll(std::initializer_list<Field> fields, unsigned b) {
+    constexpr unsigned good = 16; // see TextFor
+    for (const Field field : fields) {
+        Enter(field);
+        if (m_edited == field) {
+            Type(0, b * good);
+            Tab(0, 0);
+        }
+        b = b * 31 + 7;
+    }
+}
+
+/// An offer that can be computed.
+void RandomUser::FillOffer(unsigned a, unsigned b) {
+    const Row row{static_cast<int>(a % m_book.offers.size())};
+    if (m_book.loan.amount == 0) {
+        FillAll({{FieldId::LoanAmount}, {FieldId::AnnualTaxes}}, b);
+    }
+    FillAll({{FieldId::InterestRate, row}, {FieldId::Term, row}}, b);
+    ChooseFrom({FieldId::Frequency, row}, a * 5 + 1 + b % 4);
+}
+
+void RandomUser::FillCurrent(unsigned a, unsigned b) {
+    FillAll({{FieldId::CurLoanAmount},
+             {FieldId::CurLoanTerm},
+             {FieldId::CurInterestRate},
+             {FieldId::CurrentBalance},
+             {FieldId::CurActualPayment}},
+            b);
+    ChooseFrom({FieldId::ActPaymentFrequency}, a * 5 + 1 + b % 4);
 }

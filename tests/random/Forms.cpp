@@ -56,7 +56,7 @@ struct Digits {
 };
 
 Digits DigitsOf(Plain::Count amount) {
-    const __int128 all = amount < 0 ? -static_cast<__int128>(amount) : amount;
+    const Plain::Wide all = amount < 0 ? -static_cast<Plain::Wide>(amount) : amount;
     return {QString::number(static_cast<qulonglong>(all / 10'000)),
             QString::number(static_cast<int>(all % 10'000) + 10'000).mid(1)};
 }
@@ -188,11 +188,11 @@ Plain::Count Forms::ReadAmount(const QString& text) const {
     const bool isNegative = bare.startsWith(u'-');
     const qsizetype point = bare.indexOf(u'.');
     const qsizetype decimals = point < 0 ? 0 : bare.size() - point - 1;
-    __int128 count = 0;
+    Plain::Wide count = 0;
     QString digits = bare + QString(4 - decimals, u'0');
     for (const QChar c : digits.remove(u'.').remove(u'-')) {
         count = count * 10 + (c.unicode() - u'0');
-        if (count > static_cast<__int128>(1) << 64) {
+        if (count > static_cast<Plain::Wide>(1) << 64) {
             throw Plain::TooLarge{};
         }
     }

@@ -54,6 +54,8 @@ public:
     void Arrow(unsigned a, unsigned b);
     void Choose(unsigned a, unsigned b);
     void TypeDay(unsigned a, unsigned b);
+    void FillOffer(unsigned a, unsigned b);
+    void FillCurrent(unsigned a, unsigned b);
     void Tick(unsigned a, unsigned b);
     void Drop(unsigned a, unsigned b);
     void Sort(unsigned a, unsigned b);
@@ -86,6 +88,9 @@ private:
     };
 
     // Hands
+    void Enter(Field field);
+    void ChooseFrom(Field field, unsigned b);
+    void FillAll(std::initializer_list<Field> fields, unsigned b);
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void TypeText(const QString& text);
     bool Click(const QWidget& control);

@@ -66,8 +66,8 @@ QString OneOf(const Texts& texts, unsigned number) {
 
 QString VeryLong(unsigned number) {
     constexpr std::array lengths{200, 1'000, 1'023, 1'024, 1'500, 5'000};
-    return QString(OneOf(std::array{u"9"_qs, u"x"_qs, u"ü"_qs, u" "_qs}, number))
-        .repeated(lengths.at(number / 4 % lengths.size()));
+    const QString letter = OneOf(std::array{u"9"_qs, u"x"_qs, u"ü"_qs, u" "_qs}, number);
+    return letter.repeated(lengths.at(number / 4 % lengths.size()));
 }
 
 QString Fraction(unsigned number, unsigned whole, int decimals, QChar point) {

@@ -26,6 +26,8 @@ constexpr std::array KindTable{
     StepKind{"Arrow", 50, &U::Arrow},
     StepKind{"Choose", 40, &U::Choose},
     StepKind{"Day", 15, &U::TypeDay},
+    StepKind{"Offer", 40, &U::FillOffer},
+    StepKind{"Current", 8, &U::FillCurrent},
     // Rows
     StepKind{"Tick", 20, &U::Tick},
     StepKind{"Drop", 40, &U::Drop},

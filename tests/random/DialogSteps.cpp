@@ -19,8 +19,9 @@ using namespace Qt::StringLiterals;
 void RandomUser::SwitchLanguage(unsigned a, unsigned /*b*/) {
     const View before = Look();
     const bool spanish = a % 2 == 1;
+    const bool switches = Commit(before); // what that tells is told in the language of before
     Trigger(spanish ? "mnuToolsLanguageOpt(2)" : "mnuToolsLanguageOpt(1)");
-    if (Commit(before)) {
+    if (switches) {
         m_book.spanish = spanish;
     }
 }

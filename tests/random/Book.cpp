@@ -1,0 +1,260 @@
+// How what is computed follows from what is entered.
+
+#include "Book.h"
+
+#include "Language.h"
+#include "TextNumbers.h"
+
+#include <algorithm>
+#include <numeric>
+
+using Plain::Count;
+using Plain::TooLarge;
+
+void Book::Expect(int text, const QString& rest) { expected.append(GetResourceText(text) + rest); }
+
+void Book::ExpectFailure(int number) {
+    expected.append(QStringLiteral("errn=%1  src=").arg(number));
+}
+
+void Book::Guard(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const TooLarge&) {
+        ExpectFailure(6);
+    } catch (const Forms::NoNumber&) {
+        ExpectFailure(13);
+    }
+}
+
+bool Book::Try(const std::function<void()>& action) {
+    try {
+        action();
+        return true;
+    } catch (const TooLarge&) {
+        return false;
+    }
+}
+
+/// All of them, also after one has failed.
+void Book::Recalculate(unsigned parts) {
+    bool sound = true;
+    if ((parts & Escrow) != 0) {
+        sound &= Try([&] { RecalculateEscrow(); });
+        parts |= Offers | Payment | Schedule;
+    }
+    if ((parts & Offers) != 0) {
+        for (const std::size_t index : order) {
+            sound &= Try([&] { RecalculateOffer(index); });
+        }
+    }
+    if ((parts & Payment) != 0) {
+        sound &= Try([&] { RecalculatePayment(); });
+    }
+    if ((parts & Schedule) != 0) {
+        sound &= Try([&] { RecalculateSchedule(); });
+    }
+    if (!sound) {
+        throw TooLarge{};
+    }
+}
+
+void Book::RecalculateEscrow() {
+    loan.escrow = 0;
+    loan.escrow = Plain::MonthlyEscrow(loan.taxes, loan.insurance);
+}
+
+Count Book::Principal(const BookOffer& offer) const {
+    const Count points =
+        offer.financed ? Plain::Whole(Plain::Units(loan.amount) * offer.points / 100) : 0;
+    return Plain::Sum(loan.amount, points);
+}
+
+Count Book::LeastPayment(const BookOffer& offer) const {
+    const Count pAndI =
+        Plain::PrincipalAndInterest(Principal(offer), offer.rate, offer.term, offer.frequency);
+    return pAndI == 0 ? 0 : Plain::Sum(pAndI, Plain::EscrowOf(offer.frequency, loan.escrow));
+}
+
+/// An intended payment that is too low becomes the computed one.
+bool Book::Raise(BookOffer& offer) {
+    const Count least = LeastPayment(offer);
+    const Count pAndI =
+        Plain::PrincipalAndInterest(Principal(offer), offer.rate, offer.term, offer.frequency);
+    if (pAndI == 0 || least <= offer.actual) {
+        return false;
+    }
+    Put(offer.actual, least);
+    return true;
+}
+
+void Book::MarkRaised(std::size_t index) {
+    raised.insert(index);
+    noticeComes = true;
+}
+
+Plain::Repaid Book::Payoff(const BookOffer& offer) const {
+    const Count principal = Principal(offer);
+    if (principal == 0 || offer.rate == 0 || offer.frequency.isNull() || offer.actual == 0) {
+        return {};
+    }
+    return Plain::Repay({principal, offer.rate, offer.actual,
+                         Plain::EscrowOf(offer.frequency, loan.escrow), offer.frequency, Today},
+                        false);
+}
+
+Plain::Repaid Book::RunPayoff(BookOffer& offer) {
+    offer.interest = 0;
+    const Plain::Repaid repaid = Payoff(offer);
+    offer.interest = repaid.interest;
+    return repaid;
+}
+
+/// As anybody could see it who has only the inputs.
+BookResults Book::ResultsOf(const BookOffer& offer) const {
+    BookResults results;
+    try {
+        results.pAndI =
+            Plain::PrincipalAndInterest(Principal(offer), offer.rate, offer.term, offer.frequency);
+        results.payment = LeastPayment(offer);
+        const Plain::Repaid repaid = Payoff(offer);
+        results.payoff = repaid.date;
+        results.interest = repaid.interest;
+    } catch (const TooLarge&) {
+        results.failed = true;
+    }
+    return results;
+}
+
+void Book::RecalculateOffer(std::size_t index) {
+    BookOffer& offer = offers.at(index);
+    if (Raise(offer)) {
+        MarkRaised(index);
+    }
+    RunPayoff(offer);
+}
+
+void Book::RecalculatePayment() {
+    missing.clear();
+    const bool none = current.amount == 0 && current.term == 0 && current.rate == 0;
+    if (current.amount == 0 && !none) {
+        missing.insert(FieldId::CurLoanAmount);
+    }
+    if (current.term == 0 && !none) {
+        missing.insert(FieldId::CurLoanTerm);
+    }
+    if (current.rate == 0 && !none) {
+        missing.insert(FieldId::CurInterestRate);
+    }
+    if (!none && current.frequency.isNull()) {
+        Put(current.frequency, QChar(u'M'));
+    }
+    if (none || !missing.empty()) {
+        return Put(current.payment, Count{0});
+    }
+    try {
+        const Count pAndI = Plain::PrincipalAndInterest(current.amount, current.rate, current.term,
+                                                        current.frequency);
+        Put(current.payment, Plain::Sum(pAndI, loan.escrow));
+    } catch (const TooLarge&) {
+        current.payment = 0;
+        throw;
+    }
+}
+
+void Book::RecalculateSchedule() {
+    current.payoff = {};
+    current.left = current.interestLeft = 0;
+    if (current.balance == 0 || current.actual == 0) {
+        return;
+    }
+    const Plain::Repaid repaid =
+        Plain::Repay({current.balance, current.rate, current.actual,
+                      Plain::EscrowOf(current.actualFrequency, loan.escrow),
+                      current.actualFrequency, current.next},
+                     true);
+    current.payoff = repaid.date;
+    current.left = repaid.paid;
+    current.interestLeft = repaid.interest;
+}
+
+void Book::NoticeIsDue() {
+    if (!noticeComes) {
+        return;
+    }
+    noticeComes = false;
+    if (!noticeShown) {
+        noticeShown = true;
+        Expect(TextNumber::PaymentRaised);
+    }
+    raised.clear();
+}
+
+void Book::GrowTo(std::size_t rows) {
+    while (offers.size() < std::min(rows, MostRows)) {
+        order.push_back(offers.size());
+        offers.emplace_back();
+    }
+}
+
+void Book::EnterRow(int row) {
+    if (Place(row) + 1 == offers.size()) {
+        GrowTo(offers.size() + 1);
+    }
+}
+
+namespace {
+
+bool HasEntry(const BookOffer& offer) {
+    return offer.points != 0 || offer.interest != 0 || offer.term != 0 || offer.actual != 0 ||
+           !offer.who.isEmpty();
+}
+
+} // namespace
+
+/// One pass after the other, until none has changed anything.
+template <class KeyOf>
+void Book::SortBy(char by, KeyOf keyOf) {
+    std::vector<decltype(keyOf(offers.front()))> keys;
+    for (BookOffer& offer : offers) {
+        keys.push_back(keyOf(offer));
+    }
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    for (bool changed = true; changed;) {
+        changed = false;
+        for (std::size_t i = 0; i + 1 < order.size(); ++i) {
+            if (keys.at(order[i]) > keys.at(order[i + 1])) {
+                std::swap(order[i], order[i + 1]);
+                changed = true;
+            }
+        }
+    }
+    sorted = by;
+    ShowOffers();
+}
+
+void Book::SortByPayoff() {
+    SortBy('P', [this](BookOffer& offer) {
+        Plain::Repaid repaid;
+        Try([&] { repaid = RunPayoff(offer); });
+        const QDate without = HasEntry(offer) ? QDate(9999, 12, 30) : QDate(9999, 12, 31);
+        return repaid.date.isNull() ? without : repaid.date;
+    });
+}
+
+void Book::SortByInterest() {
+    SortBy('I', [](const BookOffer& offer) -> Count {
+        const Count without = (HasEntry(offer) ? 999'999'998LL : 999'999'999LL) * 10'000;
+        return offer.interest == 0 ? without : offer.interest;
+    });
+}
+
+/// As they stand: nothing is raised.
+void Book::ShowOffers() {
+    for (BookOffer& offer : offers) {
+        Try([&] {
+            static_cast<void>(LeastPayment(offer));
+            RunPayoff(offer);
+        });
+    }
+}

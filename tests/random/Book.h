@@ -1,0 +1,200 @@
+#pragma once
+
+#include "Arithmetic.h"
+#include "Field.h"
+#include "Forms.h"
+
+#include <QChar>
+#include <QDate>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <map>
+#include <set>
+#include <variant>
+#include <vector>
+
+inline constexpr std::size_t MostRows = 16;
+inline const QDate Today(2026, 11, 21);
+
+/// One offer as the user gave it.
+struct BookOffer {
+    bool financed = false;
+    double points = 0;
+    double rate = 0;
+    int term = 0;
+    QChar frequency;
+    Plain::Count actual = 0;
+    QString who;
+    Plain::Count interest = 0; ///< of the schedule that ran last, for sorting
+
+    friend bool operator==(const BookOffer&, const BookOffer&) = default;
+};
+
+/// What follows from an offer. Zero, or no day, is an empty field.
+struct BookResults {
+    Plain::Count pAndI = 0;
+    Plain::Count payment = 0;
+    QDate payoff;
+    Plain::Count interest = 0;
+    bool failed = false;
+};
+
+struct BookLoan {
+    QString name;
+    QString type; ///< a letter, or none
+    Plain::Count amount = 0;
+    int term = 0;
+    Plain::Count taxes = 0;
+    Plain::Count insurance = 0;
+    Plain::Count escrow = 0;
+};
+
+struct BookCurrent {
+    Plain::Count amount = 0;
+    int term = 0;
+    double rate = 0;
+    QChar frequency;
+    Plain::Count payment = 0;
+    Plain::Count balance = 0;
+    Plain::Count actual = 0;
+    QChar actualFrequency;
+    QDate next = Today;
+    Plain::Count left = 0;
+    Plain::Count interestLeft = 0;
+    QDate payoff;
+};
+
+/// A worksheet as it was put away.
+struct BookPage {
+    QString name;
+    BookLoan loan;
+    BookCurrent current;
+    std::vector<BookOffer> offers;
+};
+
+/// Names that differ only in their capitals are one; each letter counts by itself.
+inline QString FoldedName(QString name) {
+    for (QChar& letter : name) {
+        letter = letter.toUpper();
+    }
+    return name;
+}
+
+/// The account of a worksheet that is kept beside the window, by the rules of the worksheet and
+/// nothing of its code: what is entered goes in, what every control must show and every message
+/// that must come goes out. It knows nothing of controls, focus and keys.
+class Book {
+public:
+    explicit Book(std::size_t country) : forms(country) {}
+
+    using Number = std::variant<Plain::Count, double, int>;
+
+    // What happens. Failures become messages that are expected.
+    void Leave(Field field, const QString& text);
+    void StoreChoice(Field field, const QString& text);
+    void StoreTick(int row, bool ticked);
+    void StoreDay(QDate day);
+    void StoreWho(int row, const QString& who);
+    /// What was dropped on an offer's field, or pasted there as a value. False where it stands for
+    /// no number that can be held: then nothing has happened.
+    bool Drop(Field field, const QString& text);
+    void EnterRow(int row);
+    void GrowTo(std::size_t rows);
+    void SortByPayoff();
+    void SortByInterest();
+    /// The time of the notice is up.
+    void NoticeIsDue();
+
+    // The shelf of worksheets.
+    void Clear();
+    void Save();
+    void Load(const QString& name);
+    void Throw(const QString& name) { shelf.erase(FoldedName(name)); }
+    bool Holds(const QString& name) const { return shelf.contains(FoldedName(name)); }
+    QStringList Names() const;
+
+    // What must be seen.
+    bool Accepts(Field field, const QString& text) const;
+    /// The failure that a text of the right form brings about when it is read; empty for none.
+    QString FailureOf(Field field, const QString& text) const;
+    bool MayDrop(FieldId field, const QString& text) const;
+    QString EntryText(Field field) const;
+    QString Shown(Field field) const;
+    bool IsTicked(int row) const { return OfferIn(row).financed; }
+    bool IsMissing(FieldId field) const { return missing.contains(field); }
+    bool IsRaised(int row) const { return raised.contains(order.at(Place(row))); }
+    BookResults ResultsOf(const BookOffer& offer) const;
+
+    BookOffer& OfferIn(int row) { return offers.at(order.at(Place(row))); }
+    const BookOffer& OfferIn(int row) const { return offers.at(order.at(Place(row))); }
+
+    Forms forms;
+    bool spanish = false;
+    bool inMonths = false;
+    BookLoan loan;
+    BookCurrent current;
+    std::vector<BookOffer> offers;
+    std::vector<std::size_t> order;
+    char sorted = 0; ///< by payoff date 'P', by interest 'I', or not at all
+    std::set<std::size_t> raised;
+    std::set<FieldId> missing;
+    bool nameMissing = false;
+    bool dirty = false;
+    bool noticeShown = false;
+    bool noticeComes = false;
+    std::map<QString, BookPage> shelf; ///< by its folded name
+    /// How the messages must begin that have not come yet.
+    QStringList expected;
+
+    void Expect(int text, const QString& rest = {});
+    void ExpectFailure(int number);
+    /// Runs it; what fails must be told.
+    void Guard(const std::function<void()>& action);
+
+private:
+    static std::size_t Place(int row) { return static_cast<std::size_t>(row); }
+    enum Part : unsigned { Escrow = 1, Offers = 2, Payment = 4, Schedule = 8 };
+
+    template <class Value>
+    void Put(Value& stored, const Value& value) {
+        if (stored != value) {
+            stored = value;
+            dirty = true;
+        }
+    }
+    Number Read(FieldId field, const QString& text) const;
+    int ReadTerm(FieldId field, const QString& text) const;
+    void StoreNumber(Field field, const Number& number);
+    void StoreOfferNumber(Field field, const Number& number);
+    void StoreActual(int row, Plain::Count payment);
+    void SetRate(BookOffer& offer, double rate);
+
+    void Recalculate(unsigned parts);
+    void RecalculateEscrow();
+    void RecalculateOffer(std::size_t index);
+    void RecalculatePayment();
+    void RecalculateSchedule();
+
+    Plain::Count Principal(const BookOffer& offer) const;
+    Plain::Count LeastPayment(const BookOffer& offer) const;
+    bool Raise(BookOffer& offer);
+    void MarkRaised(std::size_t index);
+    Plain::Repaid Payoff(const BookOffer& offer) const;
+    Plain::Repaid RunPayoff(BookOffer& offer);
+    template <class KeyOf>
+    void SortBy(char by, KeyOf keyOf);
+    void ShowOffers();
+
+    Number NumberOf(Field field) const;
+    QString ShownResult(Field field) const;
+    QString TypeText(const QString& code) const;
+    QString FrequencyText(QChar code) const;
+    QChar FrequencyCode(const QString& text) const;
+
+    double AsKept(double number) const;
+    BookPage Page() const;
+    bool LoadOffer(int row, const BookOffer& kept);
+    bool Try(const std::function<void()>& action);
+};

@@ -1,0 +1,94 @@
+// Worksheets that are put away and taken out again.
+
+#include "Book.h"
+#include "Language.h"
+#include "TextNumbers.h"
+
+using Plain::Count;
+
+void Book::Clear() {
+    const std::size_t rows = offers.size();
+    loan = {};
+    current = {};
+    offers.assign(rows, {});
+    order.clear();
+    for (std::size_t i = 0; i < rows; ++i) {
+        order.push_back(i);
+    }
+    sorted = 0;
+    raised.clear();
+    missing.clear();
+    nameMissing = false;
+    dirty = false;
+}
+
+QStringList Book::Names() const {
+    QStringList names;
+    for (const auto& [folded, page] : shelf) {
+        names.append(page.name);
+    }
+    return names;
+}
+
+namespace {
+
+bool IsWorthKeeping(const BookOffer& offer) {
+    return !offer.who.isEmpty() || offer.actual != 0 || offer.financed || offer.rate != 0 ||
+           offer.points != 0;
+}
+
+} // namespace
+
+/// What comes back of a number that is put away as its text.
+double Book::AsKept(double number) const { return forms.ReadReal(forms.Number(number)); }
+
+BookPage Book::Page() const {
+    BookPage page{loan.name, loan, current, {}};
+    page.current.rate = AsKept(page.current.rate * 100) / 100; // in percent
+    for (BookOffer offer : offers) {
+        if (IsWorthKeeping(offer)) {
+            offer.rate = AsKept(offer.rate * 100) / 100;
+            offer.points = AsKept(offer.points);
+            page.offers.push_back(offer);
+        }
+    }
+    return page;
+}
+
+void Book::Save() {
+    shelf.insert_or_assign(FoldedName(loan.name), Page());
+    dirty = false;
+}
+
+/// The intended payment comes first, so that it is not yet held against anything, and the rate
+/// after the term: an offer without a term gets the default one.
+bool Book::LoadOffer(int row, const BookOffer& kept) {
+    BookOffer& offer = OfferIn(row);
+    offer = kept;
+    offer.interest = 0;
+    offer.rate = 0;
+    SetRate(offer, kept.rate);
+    return Try([&] { RecalculateOffer(order.at(Place(row))); });
+}
+
+void Book::Load(const QString& name) {
+    const BookPage page = shelf.at(FoldedName(name));
+    Clear();
+    loan = page.loan;
+    loan.name = name;
+    loan.escrow = 0;
+    current = page.current;
+    current.payoff = {};
+    current.left = current.interestLeft = 0;
+    bool sound = Try([&] { RecalculateEscrow(); });
+    sound &= Try([&] { RecalculateSchedule(); });
+    GrowTo(page.offers.size());
+    for (std::size_t i = 0; i < page.offers.size(); ++i) {
+        sound &= LoadOffer(static_cast<int>(i), page.offers[i]);
+    }
+    sound &= Try([&] { RecalculatePayment(); });
+    if (!sound) {
+        Expect(TextNumber::ValuesNotLoaded);
+    }
+    dirty = false;
+}

@@ -1,0 +1,273 @@
+#include "Checks.h"
+
+#include "Colours.h"
+#include "RandomUser.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <set>
+
+using namespace Qt::StringLiterals;
+
+std::span<const Checks::Check> Checks::All() {
+    static constexpr std::array checks{
+        Check{"messages", &Checks::Messages}, Check{"questions", &Checks::Questions},
+        Check{"rows", &Checks::RowsAreThere}, Check{"bands", &Checks::BandsShow},
+        Check{"offers", &Checks::OffersShow}, Check{"marks", &Checks::Marks},
+        Check{"dirty", &Checks::Dirty},       Check{"focus", &Checks::Focus},
+        Check{"order", &Checks::Order},       Check{"scrolling", &Checks::Scrolling},
+        Check{"captions", &Checks::Captions}, Check{"names", &Checks::NamesKept},
+    };
+    return checks;
+}
+
+QStringList Checks::Complaints(RandomUser& user) {
+    m_complaints = user.complaints;
+    ++m_looks;
+    for (const Check& check : All()) {
+        const qsizetype before = m_complaints.size();
+        (this->*check.look)(user);
+        for (qsizetype i = before; i < m_complaints.size(); ++i) {
+            m_complaints[i].prepend(QLatin1String(check.name) + u": "_qs);
+        }
+        if (check.look == &Checks::RowsAreThere && before != m_complaints.size()) {
+            break; // the others would look for what is not there
+        }
+    }
+    return m_complaints;
+}
+
+/// Every message that comes is called for, and every one that is called for comes.
+void Checks::Messages(RandomUser& user) {
+    QStringList waiting = user.TheBook().expected;
+    waiting.removeDuplicates();
+    const QStringList shown = user.TheProgram().messages.Texts();
+    for (const QString& text : shown) {
+        const auto begins = [&](const QString& start) { return text.startsWith(start); };
+        if (!std::ranges::any_of(user.TheBook().expected, begins)) {
+            Say(u"not called for: “%1”"_qs.arg(text));
+        }
+        waiting.removeIf(begins);
+    }
+    if (!waiting.isEmpty()) {
+        Say(u"did not come: “%1”"_qs.arg(waiting.join(u"”, “")));
+    }
+}
+
+void Checks::Questions(RandomUser& user) {
+    QStringList asked;
+    for (const Question& question : user.TheProgram().messages.Questions()) {
+        asked.append(question.text);
+    }
+    if (asked != user.ExpectedQuestions()) {
+        Say(u"asked “%1” instead of “%2”"_qs.arg(asked.join(u'|'),
+                                                 user.ExpectedQuestions().join(u'|')));
+    }
+}
+
+void Checks::RowsAreThere(RandomUser& user) {
+    const int rows = static_cast<int>(user.TheBook().offers.size());
+    const QWidget* last = user.Control({FieldId::Who, ::Row{rows - 1}});
+    const int highest = user.TheProgram().Window().GetWorksheet().HighestOfferRow().value;
+    if (last == nullptr || highest != rows - 1) {
+        Say(u"there are %1 rows instead of %2"_qs.arg(highest + 1).arg(rows));
+    }
+}
+
+void Checks::Compare(RandomUser& user, Field field, const QString& expected) {
+    const QWidget* control = user.Control(field);
+    QString shown;
+    if (const auto* edit = qobject_cast<const QLineEdit*>(control)) {
+        shown = edit->text();
+    } else if (const auto* list = qobject_cast<const QComboBox*>(control)) {
+        shown = list->currentText();
+    } else if (const auto* picker = qobject_cast<const QDateEdit*>(control)) {
+        shown = user.TheBook().forms.Day(picker->date());
+    } else if (const auto* box = qobject_cast<const QCheckBox*>(control)) {
+        shown = box->isChecked() ? u"ticked"_qs : QString();
+    }
+    if (shown != expected) {
+        Say(u"%1(%2) shows “%3” instead of “%4”"_qs.arg(QString(RuleOf(field.id).control))
+                .arg(field.row.value)
+                .arg(shown, expected));
+    }
+}
+
+void Checks::BandsShow(RandomUser& user) {
+    for (const FieldRule& rule : LoanFields()) {
+        const Field field{rule.id};
+        if (user.Edited() != field) {
+            Compare(user, field, user.TheBook().Shown(field));
+        } else if (rule.IsNumber()) {
+            Compare(user, field, user.EditedText());
+        }
+    }
+}
+
+const std::vector<QString>& Checks::TextsOf(const Book& book, int row) {
+    const BookOffer& offer = book.OfferIn(row);
+    Row& known = m_rows.at(static_cast<std::size_t>(row));
+    const int manner = static_cast<int>(book.forms.Country()) * 4 + (book.spanish ? 2 : 0) +
+                       (book.inMonths ? 1 : 0);
+    if (known.manner == manner && known.offer == offer && known.amount == book.loan.amount &&
+        known.escrow == book.loan.escrow) {
+        return known.texts;
+    }
+    const BookResults results = book.ResultsOf(offer);
+    known = {offer, book.loan.amount, book.loan.escrow, manner, {}};
+    for (const FieldRule& rule : OfferFields()) {
+        switch (rule.id) {
+        case FieldId::FinancePoints:
+            known.texts.push_back(offer.financed ? u"ticked"_qs : QString());
+            break;
+        case FieldId::PandI:
+            known.texts.push_back(book.forms.Currency(results.pAndI));
+            break;
+        case FieldId::Payment:
+            known.texts.push_back(book.forms.Currency(results.payment));
+            break;
+        case FieldId::PayoffDate:
+            known.texts.push_back(book.forms.Day(results.payoff));
+            break;
+        case FieldId::Interest:
+            known.texts.push_back(book.forms.Currency(results.interest));
+            break;
+        default:
+            known.texts.push_back(book.Shown({rule.id, ::Row{row}}));
+        }
+    }
+    return known.texts;
+}
+
+void Checks::OffersShow(RandomUser& user) {
+    const Book& book = user.TheBook();
+    for (int row = 0; row < static_cast<int>(book.offers.size()); ++row) {
+        std::size_t column = 0;
+        const std::vector<QString>& texts = TextsOf(book, row);
+        for (const FieldRule& rule : OfferFields()) {
+            const Field field{rule.id, ::Row{row}};
+            if (user.Edited() != field) {
+                Compare(user, field, texts.at(column));
+            } else if (rule.IsNumber()) {
+                Compare(user, field, user.EditedText());
+            }
+            ++column;
+        }
+    }
+}
+
+void Checks::Marks(RandomUser& user) {
+    const Book& book = user.TheBook();
+    const auto compare = [&](Field field, QColor expected, const QColor& colour) {
+        const bool shown = user.Control(field)->palette().color(QPalette::Base) == colour;
+        if (shown != expected.isValid()) {
+            Say(u"%1(%2) is %3"_qs.arg(QString(RuleOf(field.id).control))
+                    .arg(field.row.value)
+                    .arg(shown ? u"marked"_qs : u"not marked"_qs));
+        }
+    };
+    for (const FieldId id :
+         {FieldId::CurLoanAmount, FieldId::CurLoanTerm, FieldId::CurInterestRate}) {
+        compare({id}, book.IsMissing(id) ? Colours::Missing : QColor(), Colours::Missing);
+    }
+    for (int row = 0; row < static_cast<int>(book.offers.size()); ++row) {
+        compare({FieldId::ActualPayment, ::Row{row}},
+                book.IsRaised(row) ? Colours::Raised : QColor(), Colours::Raised);
+    }
+    const auto* box = qobject_cast<QComboBox*>(user.Control({FieldId::LoanName}));
+    const bool marked = box->lineEdit()->palette().color(QPalette::Base) == Colours::Missing;
+    if (marked != book.nameMissing) {
+        Say(u"the name is %1"_qs.arg(marked ? u"marked"_qs : u"not marked"_qs));
+    }
+}
+
+void Checks::Dirty(RandomUser& user) {
+    if (user.TheProgram().Window().GetWorksheet().Dirty() != user.TheBook().dirty) {
+        Say(user.TheBook().dirty ? u"there is something to save"_qs
+                                 : u"there is nothing to save"_qs);
+    }
+}
+
+void Checks::Focus(RandomUser& user) {
+    const QWidget* focus = QApplication::focusWidget();
+    const Loan& window = user.TheProgram().Window();
+    if (focus == nullptr) {
+        Say(u"nothing has the focus"_qs);
+    } else if (!window.isAncestorOf(focus) || !focus->isVisible()) {
+        Say(u"the focus is at %1, out of sight"_qs.arg(focus->objectName()));
+    } else if (user.Edited() && user.Control(*user.Edited()) != focus) {
+        Say(u"the focus is at %1"_qs.arg(focus->objectName()));
+    }
+}
+
+/// Every offer stands in one row.
+void Checks::Order(RandomUser& user) {
+    const Worksheet& sheet = user.TheProgram().Window().GetWorksheet();
+    std::set<std::size_t> seen;
+    for (::Row row{0}; row <= sheet.HighestOfferRow(); ++row.value) {
+        seen.insert(sheet.OfferIndexOfRow(row).value);
+    }
+    if (seen.size() != user.TheBook().offers.size()) {
+        Say(u"%1 offers are in the rows"_qs.arg(seen.size()));
+    }
+}
+
+void Checks::Scrolling(RandomUser& user) {
+    const Loan& window = user.TheProgram().Window();
+    const auto* bar = window.findChild<QScrollBar*>(u"vsbLoans"_qs);
+    const auto* canvas = window.findChild<QWidget*>(u"picCanvas"_qs);
+    const int height = bar->singleStep();
+    if (bar->value() % height != 0 || bar->maximum() % height != 0) {
+        Say(u"stands at %1 of %2 between rows of %3"_qs.arg(bar->value())
+                .arg(bar->maximum())
+                .arg(height));
+    }
+    if (canvas->y() != -bar->value() || bar->isEnabled() != (bar->maximum() > 0)) {
+        Say(u"the rows do not follow the bar"_qs);
+    }
+}
+
+void Checks::Captions(RandomUser& user) {
+    struct Caption {
+        const char* label;
+        const char16_t* english;
+        const char16_t* spanish;
+    };
+    static constexpr std::array captions{
+        Caption{"lblLoanName", u"Loan &Name:", u"&Nombre:"},
+    };
+    for (const Caption& caption : captions) {
+        const auto* label =
+            user.TheProgram().Window().findChild<QLabel*>(QString::fromLatin1(caption.label));
+        const bool isSpanish = label->text() != QString::fromUtf16(caption.english);
+        if (isSpanish != user.TheBook().spanish) {
+            Say(u"the captions are in another language: %1"_qs.arg(label->text()));
+        }
+    }
+}
+
+/// The store holds the worksheets of the shelf, and no others.
+void Checks::NamesKept(RandomUser& user) {
+    if (!user.keptChanged && m_looks % 50 != 0) {
+        return;
+    }
+    user.keptChanged = false;
+    QStringList kept;
+    for (const std::string& name : user.TheProgram().Kept()) {
+        if (name.size() != RegistryAPI::NoSubkeysLength ||
+            !QString::fromStdString(name).trimmed().isEmpty()) {
+            kept.append(QString::fromStdString(name));
+        }
+    }
+    if (kept != user.TheBook().Names()) {
+        Say(u"the store holds %1 instead of %2"_qs.arg(kept.join(u'|'),
+                                                       user.TheBook().Names().join(u'|')));
+    }
+}

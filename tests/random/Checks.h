@@ -1,0 +1,55 @@
+#pragma once
+
+#include "Book.h"
+
+#include <QStringList>
+
+#include <array>
+#include <span>
+#include <vector>
+
+class RandomUser;
+
+/// Holds the window against the book, after every step. Each check is one thing that must always be
+/// true; what is not is said in words.
+class Checks {
+public:
+    QStringList Complaints(RandomUser& user);
+
+private:
+    struct Check {
+        const char* name;
+        void (Checks::*look)(RandomUser& user);
+    };
+    static std::span<const Check> All();
+
+    void Messages(RandomUser& user);
+    void Questions(RandomUser& user);
+    void RowsAreThere(RandomUser& user);
+    void BandsShow(RandomUser& user);
+    void OffersShow(RandomUser& user);
+    void Marks(RandomUser& user);
+    void Dirty(RandomUser& user);
+    void Focus(RandomUser& user);
+    void Order(RandomUser& user);
+    void Scrolling(RandomUser& user);
+    void Captions(RandomUser& user);
+    void NamesKept(RandomUser& user);
+
+    /// What the fields of an offer must show, in the order of the columns; kept while nothing that
+    /// it depends on has changed.
+    struct Row {
+        BookOffer offer;
+        Plain::Count amount = 0;
+        Plain::Count escrow = 0;
+        int manner = -1; ///< country, language and unit of term
+        std::vector<QString> texts;
+    };
+    const std::vector<QString>& TextsOf(const Book& book, int row);
+    void Say(const QString& complaint) { m_complaints.append(complaint); }
+    void Compare(RandomUser& user, Field field, const QString& expected);
+
+    std::array<Row, MostRows> m_rows;
+    QStringList m_complaints;
+    int m_looks = 0;
+};

@@ -1,0 +1,214 @@
+// The rest of the program: its language, its options, printing, help and the like.
+
+#include "Language.h"
+#include "RandomUser.h"
+#include "StepTexts.h"
+#include "TextNumbers.h"
+#include "frmPrint.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <QWindow>
+
+using namespace Qt::StringLiterals;
+
+void RandomUser::SwitchLanguage(unsigned a, unsigned /*b*/) {
+    const View before = Look();
+    const bool spanish = a % 2 == 1;
+    const bool switches = Commit(before); // what that tells is told in the language of before
+    Trigger(spanish ? "mnuToolsLanguageOpt(2)" : "mnuToolsLanguageOpt(1)");
+    if (switches) {
+        m_book.spanish = spanish;
+    }
+}
+
+namespace {
+
+QString PathFor(unsigned number, const QString& picture) {
+    switch (number % 5) {
+    case 0:
+        return u"/no/such/picture.bmp"_qs;
+    case 1:
+    case 2:
+        return picture;
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+void RandomUser::OpenOptions(unsigned a, unsigned b) {
+    const View before = Look();
+    if (IsRefused(before)) {
+        Trigger("mnuToolsOptions");
+        Commit(before);
+        return;
+    }
+    const QString path = PathFor(a, m_program.Picture());
+    const QString number = b % 9 == 0 ? QString::number(b % 100) : QString::number(b % 15 + 1);
+    const bool inRange = number.toInt() >= 1 && number.toInt() <= 15;
+    const bool inMonths = b % 2 == 0;
+    bool taken = false;
+    InDialog([&] { Trigger("mnuToolsOptions"); },
+             [&](QDialog& dialog) {
+                 const auto edit = [&](const char* name, const QString& text) {
+                     auto* field = dialog.findChild<QLineEdit*>(QString::fromLatin1(name));
+                     field->setFocus();
+                     QTest::keyClick(dialog.windowHandle(), Qt::Key_A, Qt::ControlModifier);
+                     QTest::keyClick(dialog.windowHandle(), Qt::Key_Delete);
+                     for (const QChar c : text) {
+                         QTest::keyClick(dialog.windowHandle(), c.toLatin1());
+                     }
+                 };
+                 edit("txtWallpaper", path);
+                 auto* option = dialog.findChild<QRadioButton*>(inMonths ? u"optTerm(0)"_qs
+                                                                         : u"optTerm(1)"_qs);
+                 option->click();
+                 edit("txtLoans", number);
+                 if (a % 7 == 0) {
+                     QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+                     return;
+                 }
+                 QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
+                 if (inRange) {
+                     taken = true;
+                 } else {
+                     m_book.Expect(TextNumber::OffersRefused);
+                 }
+             });
+    Commit(before);
+    if (!taken) {
+        return;
+    }
+    if (path.startsWith(u"/no") && Window().GetSettings().wallpaper.isEmpty()) {
+        m_book.Expect(TextNumber::PictureNotLoaded, u' ' + path);
+    }
+    m_book.inMonths = inMonths;
+    m_displayed = number.toUInt();
+    m_book.GrowTo(m_displayed);
+    Reenter();
+}
+
+/// To the end, or cancelled at one of the moments where that is possible, or not at all.
+void RandomUser::Print(unsigned a, unsigned /*b*/) {
+    const View before = Look();
+    const unsigned cancelAt = a % 8; // 1 to 4: in between
+    unsigned yields = 0;
+    m_program.printer.answer = cancelAt != 0;
+    m_program.printer.printed.clear();
+    m_program.whilePrinting = [&] {
+        if (++yields == cancelAt) {
+            m_program.Job()->reject();
+        }
+    };
+    Trigger("mnuFilePrint");
+    const bool starts = Commit(before) && cancelAt != 0;
+    if ((m_program.Job() != nullptr) != starts) {
+        Complain(u"a job is %1"_qs.arg(starts ? u"missing"_qs : u"there"_qs));
+    }
+    if (!QTest::qWaitFor([this] { return m_program.Job() == nullptr; })) {
+        Complain(u"the job does not end"_qs);
+    }
+    m_program.whilePrinting = [] {};
+    const std::size_t printed = starts && cancelAt > 4 ? 1 : 0;
+    if (m_program.printer.printed.size() != printed) {
+        Complain(u"%1 documents were printed"_qs.arg(m_program.printer.printed.size()));
+    }
+    m_program.printer.printed.clear();
+}
+
+void RandomUser::OpenAbout(unsigned a, unsigned /*b*/) {
+    InDialog([this] { Trigger("mnuHelpAbout"); },
+             [&](QDialog& dialog) {
+                 if (a % 3 == 0) {
+                     dialog.findChild<QPushButton*>(u"cmdSysInfo"_qs)->click();
+                     m_book.Expect(TextNumber::NoSystemInfo);
+                 }
+                 QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+             });
+}
+
+void RandomUser::OpenHelp(unsigned a, unsigned /*b*/) {
+    switch (a % 3) {
+    case 0:
+        Trigger("mnuHelpContents");
+        break;
+    case 1:
+        Trigger("mnuHelpSearch");
+        break;
+    default:
+        Press(Qt::Key_F1);
+    }
+    Settle();
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window != &Window() && window->isVisible()) {
+            window->close();
+        }
+    }
+    m_program.Activate();
+}
+
+/// What is clicked next is explained and not used.
+void RandomUser::AskWhatsThis(unsigned a, unsigned /*b*/) {
+    const Field field = AnyInput(a);
+    Press(Qt::Key_F1, Qt::ShiftModifier);
+    if (!m_program.Help().IsAsking()) {
+        Complain(u"What's This does not begin"_qs);
+    }
+    if (!Click(*Control(field))) {
+        Press(Qt::Key_Escape);
+    }
+    Settle();
+    if (m_program.Help().IsAsking()) {
+        Complain(u"What's This does not end"_qs);
+    }
+    Press(Qt::Key_Escape);
+    if (FocusField() != m_edited) {
+        Complain(u"What's This has moved the focus"_qs);
+    }
+}
+
+void RandomUser::Share(unsigned a, unsigned /*b*/) {
+    const View before = Look();
+    const int sent = m_program.mail.sent;
+    m_program.mail.signsOn = a % 2 == 0;
+    if (!Click(*Named(u"cmdShare"_qs))) {
+        return;
+    }
+    const bool shared = Follow(before) && m_program.mail.signsOn;
+    if (m_program.mail.sent != sent + (shared ? 1 : 0)) {
+        Complain(u"a recommendation is %1"_qs.arg(shared ? u"missing"_qs : u"sent"_qs));
+    }
+}
+
+void RandomUser::Resize(unsigned a, unsigned b) {
+    const QSize least = Window().minimumSizeHint();
+    Window().resize(least.width() + static_cast<int>(a % 600),
+                    least.height() + static_cast<int>(b % 400));
+}
+
+/// On what does nothing by itself: captions, results, the frame.
+void RandomUser::ClickAnywhere(unsigned a, unsigned b) {
+    const QPoint place(static_cast<int>(a % static_cast<unsigned>(Window().width())),
+                       static_cast<int>(b % static_cast<unsigned>(Window().height())));
+    const QWidget* there = Window().childAt(place);
+    if (there == nullptr || !there->isEnabled() || FieldOf(there)) {
+        return;
+    }
+    const bool takesFocus = (there->focusPolicy() & Qt::ClickFocus) != 0;
+    const bool isResult = qobject_cast<const QLineEdit*>(there) != nullptr;
+    if (takesFocus != isResult || there->inherits("QMenuBar") || there->inherits("QScrollBar") ||
+        there->inherits("QAbstractButton")) {
+        return;
+    }
+    const View before = Look();
+    ClickAt(place);
+    if (isResult) {
+        Follow(before);
+    }
+}

@@ -1,0 +1,233 @@
+// Worksheets: named, saved, picked, deleted, started anew; the program closed and started again.
+
+#include "Language.h"
+#include "RandomUser.h"
+#include "StepTexts.h"
+#include "TextNumbers.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTextBoundaryFinder>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool IsEmptyName(const QString& name) { return name.isEmpty() || name == u" "; }
+
+bool CanBeKept(const QString& name) {
+    return name.size() <= 255 && !name.contains(u'\\') && !name.contains(QChar::Null) &&
+           name != u"(new loan)" && name != u"(préstamo nuevo)";
+}
+
+int Letters(const QString& text) {
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    int letters = 0;
+    while (finder.toNextBoundary() != -1) {
+        ++letters;
+    }
+    return letters;
+}
+
+} // namespace
+
+Answer RandomUser::PrepareAnswer(unsigned number, bool mayCancel) {
+    const unsigned which = number % 8;
+    const Answer answer = which < 3                 ? Answer::Yes
+                          : which < 7 || !mayCancel ? Answer::No
+                                                    : Answer::Cancel;
+    m_program.messages.WillAnswer({answer});
+    return answer;
+}
+
+bool RandomUser::SaveInBook() {
+    if (IsEmptyName(m_book.loan.name)) {
+        m_book.Expect(TextNumber::NoNameToSave);
+        return false;
+    }
+    if (!CanBeKept(m_book.loan.name)) {
+        m_book.Expect(TextNumber::NameNotPossible);
+        return false;
+    }
+    for (int row = 0; row < static_cast<int>(m_book.offers.size()); ++row) {
+        if (Letters(m_book.OfferIn(row).who) > 1'023) {
+            m_book.expected.append(GetResourceText(TextNumber::LenderTooLong).arg(row + 1));
+            return false;
+        }
+    }
+    m_book.Save();
+    keptChanged = true;
+    return true;
+}
+
+/// Whether what is unsaved may go, after it has been asked for.
+bool RandomUser::MayDrop(Answer answer) {
+    if (!m_book.dirty) {
+        return true;
+    }
+    m_questions.append(m_book.loan.name.isEmpty() ? GetResourceText(TextNumber::SaveTitle)
+                                                  : WithName(TextNumber::SaveQuestion));
+    if (answer != Answer::Yes) {
+        return answer == Answer::No;
+    }
+    if (!IsEmptyName(m_book.loan.name)) {
+        return SaveInBook();
+    }
+    m_book.nameMissing = true;
+    Refocus({FieldId::LoanName});
+    return false;
+}
+
+void RandomUser::PickInBook(const QString& name, Answer answer) {
+    if (MayDrop(answer)) {
+        if (name == GetResourceText(TextNumber::NewLoan)) {
+            m_book.Clear();
+        } else if (m_book.Holds(name)) {
+            m_book.Load(name);
+            m_book.nameMissing = false;
+        } else {
+            m_book.loan.name = name;
+        }
+    }
+    Reenter();
+}
+
+void RandomUser::TypeName(unsigned a, unsigned b) {
+    const Field field{FieldId::LoanName};
+    const View before = Look();
+    if (!Click(*Control(field)) || (m_edited != field && !Follow(before))) {
+        return;
+    }
+    QGuiApplication::clipboard()->setText(NameText(b));
+    Press(Qt::Key_A, Qt::ControlModifier);
+    if (a % 10 == 0) {
+        Press(Qt::Key_Delete);
+    } else {
+        Press(Qt::Key_V, Qt::ControlModifier);
+    }
+    if (a % 2 == 0) {
+        const View typed = Look();
+        Press(Qt::Key_Tab);
+        Follow(typed);
+    }
+}
+
+void RandomUser::Save(unsigned a, unsigned /*b*/) {
+    const View before = Look();
+    if (a % 2 == 0) {
+        Press(Qt::Key_S, Qt::ControlModifier);
+    } else {
+        Trigger("mnuFileSave");
+    }
+    if (!Commit(before)) {
+        return;
+    }
+    if (m_book.loan.name.isEmpty()) {
+        m_book.nameMissing = true;
+    } else {
+        SaveInBook();
+    }
+}
+
+void RandomUser::PickName(unsigned a, unsigned b) {
+    const Field field{FieldId::LoanName};
+    const View before = Look();
+    if (!Click(*Control(field)) || (m_edited != field && !Follow(before))) {
+        return;
+    }
+    auto& box = *qobject_cast<QComboBox*>(Control(field));
+    const QString typed = box.currentText();
+    Press(Qt::Key_Down);
+    Settle();
+    const QStringList entries = QStringList(GetResourceText(TextNumber::NewLoan)) + m_book.Names();
+    QStringList shown;
+    for (int i = 0; i < box.count(); ++i) {
+        shown.append(box.itemText(i));
+    }
+    if (shown != entries || box.currentText() != typed) {
+        Complain(u"the list shows %1 instead of %2"_qs.arg(shown.join(u'|'), entries.join(u'|')));
+    }
+    if (a % 6 == 0) {
+        return Press(Qt::Key_Escape);
+    }
+    const Answer answer = PrepareAnswer(a / 6, true);
+    const int entry = static_cast<int>(b % static_cast<unsigned>(entries.size()));
+    Press(Qt::Key_Home);
+    for (int i = 0; i < entry; ++i) {
+        Press(Qt::Key_Down);
+    }
+    Press(Qt::Key_Return);
+    PickInBook(entries.at(entry), answer);
+    Settle();
+    if (box.currentText() != m_book.loan.name) {
+        Complain(u"the box shows %1 instead of %2"_qs.arg(box.currentText(), m_book.loan.name));
+    }
+}
+
+void RandomUser::New(unsigned a, unsigned /*b*/) {
+    const View before = Look();
+    const Answer answer = PrepareAnswer(a, true);
+    Trigger("mnuFileNew");
+    if (!Commit(before)) {
+        return;
+    }
+    PickInBook(GetResourceText(TextNumber::NewLoan), answer);
+    Refocus({FieldId::LoanName});
+}
+
+void RandomUser::Delete(unsigned a, unsigned /*b*/) {
+    const View before = Look();
+    const Answer answer = PrepareAnswer(a, false);
+    Trigger("mnuFileDelete");
+    if (!Commit(before)) {
+        return;
+    }
+    const bool unnamed = IsEmptyName(m_book.loan.name);
+    if (!unnamed || !m_book.dirty) {
+        m_questions.append(WithName(TextNumber::DeleteQuestion));
+        if (answer != Answer::Yes) {
+            return;
+        }
+        if (unnamed) {
+            m_book.Expect(TextNumber::NoNameToDelete);
+        } else {
+            m_book.Throw(m_book.loan.name);
+            keptChanged = true;
+        }
+    }
+    m_book.Clear();
+    Reenter();
+    Refocus({FieldId::LoanName});
+}
+
+/// Closing the window, and starting the program again on the same store, perhaps elsewhere.
+void RandomUser::CloseAndStart(unsigned a, unsigned b) {
+    const View before = Look();
+    const Answer answer = PrepareAnswer(a, true);
+    const bool closed = Window().close();
+    const bool mayClose = Commit(before) && MayDrop(answer);
+    if (closed != mayClose) {
+        Complain(closed ? u"closed, although it must not"_qs : u"does not close"_qs);
+    }
+    Settle();
+    if (!closed) {
+        return;
+    }
+    m_program.Shut();
+    Settle();
+    const Book left = m_book;
+    m_book = Book(b);
+    m_book.shelf = left.shelf;
+    m_book.spanish = left.spanish;
+    m_book.inMonths = left.inMonths;
+    m_book.expected = left.expected;
+    m_book.GrowTo(m_displayed);
+    keptChanged = true;
+    m_edited.reset();
+    m_program.Start(m_book.forms.Locale());
+    Settle();
+    WatchDay();
+    EnterInBook(FocusField());
+}

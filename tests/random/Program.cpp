@@ -1,0 +1,92 @@
+#include "Program.h"
+
+#include "Language.h"
+#include "SettingsStore.h"
+#include "StartUp.h"
+
+#include <QImage>
+#include <QTest>
+
+#include <stdexcept>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr std::uint16_t AmericanEnglish = 0x0409;
+
+Date FixedDay() { return Date::FromCalendar(2026, 11, 21); }
+
+/// No system information is ever started from here.
+SystemInfoDoors NoSystemInfo() {
+    return {.installed = [] { return std::optional<QString>(); },
+            .start = [](const QString&) { return false; }};
+}
+
+} // namespace
+
+struct Program::Parts {
+    Parts(Program& program, const RegistryAPI& store, const QLocale& locale)
+        : window({.messages = &program.messages, .locale = locale, .today = FixedDay},
+                 LoadSettings(store).settings),
+          files(window, LoanStore(store)), options(window, store, program.pictures),
+          printing(window, program.printer,
+                   frmPrint::Pace{.shownAtLeast = 0ms,
+                                  .yield = [&program] { program.whilePrinting(); }}),
+          help(window), share(window, program.mail), about(window, store, NoSystemInfo()) {
+        window.OnUnload([this, store] {
+            if (!files.MayDrop()) {
+                return false;
+            }
+            SaveSettings(store, window.GetSettings());
+            return true;
+        });
+    }
+
+    Loan window;
+    FileCommands files;
+    OptionsCommands options;
+    PrintCommands printing;
+    HelpCommands help;
+    ShareCommands share;
+    AboutCommands about;
+};
+
+Program::Program() : whilePrinting([] {}) {
+    Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
+    QImage picture(16, 16, QImage::Format_RGB32);
+    picture.fill(qRgb(200, 220, 240));
+    picture.save(Picture());
+}
+
+Program::~Program() = default;
+
+void Program::Start(const QLocale& locale) {
+    QLocale::setDefault(locale);
+    const RegistryAPI store = m_store.Store();
+    PrepareKeyAndLanguage(store, AmericanEnglish);
+    m_parts = std::make_unique<Parts>(*this, store, locale);
+    m_parts->window.show();
+    Activate();
+}
+
+void Program::Shut() { m_parts.reset(); }
+Loan& Program::Window() const { return m_parts->window; }
+frmPrint* Program::Job() const { return m_parts->printing.Job(); }
+HelpCommands& Program::Help() const { return m_parts->help; }
+
+void Program::Activate() const {
+    if (m_parts->window.isActiveWindow()) {
+        return;
+    }
+    m_parts->window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&m_parts->window)) {
+        throw std::runtime_error("the window does not become active");
+    }
+}
+
+QString Program::Picture() const { return m_folder.filePath(QStringLiteral("picture.bmp")); }
+
+std::vector<std::string> Program::Kept() const {
+    return m_store.Store().GetSubKeys(StoreFolder::Root, BaseKey);
+}

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "AboutCommands.h"
+#include "FakeMessages.h"
+#include "FakePrinter.h"
+#include "FileCommands.h"
+#include "HelpCommands.h"
+#include "Loan.h"
+#include "MailDoor.h"
+#include "OptionsCommands.h"
+#include "PictureChooser.h"
+#include "PrintCommands.h"
+#include "ShareCommands.h"
+#include "StoreFolder.h"
+
+#include <functional>
+#include <memory>
+
+/// Stands in for the user looking for a picture.
+class FoundPicture : public PictureChooser {
+public:
+    QString Choose(QWidget& /*parent*/, const PictureRequest& /*request*/) override {
+        return answer;
+    }
+    QString answer;
+};
+
+/// A mail client that counts what it is given.
+class CountingMail : public MailDoor {
+public:
+    int SignOn() override { return signsOn ? 1 : 0; }
+    void Send(int /*session*/, const MailMessage& /*message*/) override { ++sent; }
+    void SignOff(int /*session*/) override {}
+
+    bool signsOn = true;
+    int sent = 0;
+};
+
+/// The whole program as it is put together for users, but for its doors: nobody else's store, no
+/// boxes, no printer, no mail. It can be closed and started again on the same store.
+class Program {
+public:
+    Program();
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+    Program(Program&&) = delete;
+    Program& operator=(Program&&) = delete;
+
+    /// Throws std::runtime_error when the window does not become active.
+    void Start(const QLocale& locale);
+    void Shut();
+    bool IsOpen() const { return m_parts != nullptr; }
+    Loan& Window() const;
+    frmPrint* Job() const;
+    HelpCommands& Help() const;
+    void Activate() const;
+    /// A picture that is there.
+    QString Picture() const;
+    std::vector<std::string> Kept() const;
+
+    FakeMessages messages;
+    FakePrinter printer;
+    CountingMail mail;
+    FoundPicture pictures;
+    std::function<void()> whilePrinting;
+
+private:
+    struct Parts;
+    StoreFolder m_store;
+    QTemporaryDir m_folder;
+    std::unique_ptr<Parts> m_parts;
+};

@@ -1,0 +1,325 @@
+// Hands, eyes and the book-keeping that all steps share.
+
+#include "RandomUser.h"
+
+#include "Language.h"
+#include "TextNumbers.h"
+#include "Trail.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QDialog>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+#include <QTimerEvent>
+#include <QWindow>
+
+#include <chrono>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+RandomUser::RandomUser(std::size_t country) : m_book(country) {
+    QGuiApplication::clipboard()->clear();
+    m_program.Start(m_book.forms.Locale());
+    m_book.GrowTo(m_displayed);
+    Settle();
+    WatchDay();
+    EnterInBook(FocusField());
+}
+
+RandomUser::~RandomUser() {
+    m_program.messages.WhileOpen({});
+    m_program.Shut();
+    Settle();
+}
+
+void RandomUser::Take(const Step& step) {
+    m_program.messages.Clear();
+    m_book.expected.clear();
+    m_questions.clear();
+    complaints.clear();
+    (this->*Kinds()[step.kind].act)(step.a, step.b);
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        popup->close();
+    }
+    Settle();
+    m_program.Activate();
+    // Painting takes most of the time: enough that the window is painted now and then.
+    Window().setUpdatesEnabled(++m_taken % 64 == 0);
+    ObserveDay();
+    // The notice comes when the user lets the time pass, and never by the clock.
+    if (auto* timer = Window().findChild<QTimer*>(u"Timer1"_qs); timer && timer->isActive()) {
+        timer->start(1h);
+    }
+}
+
+// Hands
+
+void RandomUser::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(Window().windowHandle(), key, modifiers);
+}
+
+/// As far as keys give these characters.
+void RandomUser::TypeText(const QString& text) {
+    for (const QChar character : text) {
+        if (character.isPrint()) {
+            QTest::sendKeyEvent(QTest::Click, Window().windowHandle(),
+                                static_cast<Qt::Key>(character.toUpper().unicode()),
+                                QString(character), Qt::NoModifier);
+        }
+    }
+}
+
+/// False where the control is out of sight.
+bool RandomUser::Click(const QWidget& control) {
+    if (!IsVisible(control)) {
+        return false;
+    }
+    return ClickAt(control.mapTo(&Window(), control.rect().center()));
+}
+
+bool RandomUser::ClickAt(QPoint place) {
+    QTest::mouseClick(Window().windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+    return true;
+}
+
+void RandomUser::Trigger(const char* entry) {
+    Window().findChild<QAction*>(QString::fromLatin1(entry))->trigger();
+}
+
+void RandomUser::PickEntry(QComboBox& list, int entry) {
+    list.showPopup();
+    Settle();
+    Press(Qt::Key_Home);
+    for (int i = 0; i < entry; ++i) {
+        Press(Qt::Key_Down);
+    }
+    Press(Qt::Key_Return);
+    Settle();
+}
+
+void RandomUser::InDialog(const std::function<void()>& open,
+                          const std::function<void(QDialog&)>& act) {
+    bool opened = false;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            watch.stop();
+            opened = true;
+            act(*dialog);
+            Settle();
+            if (dialog->isVisible()) {
+                dialog->reject();
+            }
+        }
+    });
+    watch.start(0ms);
+    open();
+    Settle();
+    if (!opened) {
+        Complain(u"no dialog opens"_qs);
+    }
+}
+
+void RandomUser::Settle() {
+    constexpr int rounds = 3;
+    for (int round = 0; round < rounds; ++round) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+}
+
+// Eyes
+
+QWidget* RandomUser::Named(const QString& name) const {
+    QPointer<QWidget>& found = m_named[name];
+    if (!found) {
+        found = Window().findChild<QWidget*>(name);
+    }
+    return found;
+}
+
+QWidget* RandomUser::Control(Field field) const {
+    QPointer<QWidget>& found = m_controls[field];
+    if (!found) {
+        const QString name = RuleOf(field.id).control;
+        found = Window().findChild<QWidget*>(
+            field.row == Field::NoRow ? name
+                                      : name + u'(' + QString::number(field.row.value) + u')');
+    }
+    return found;
+}
+
+QLineEdit* RandomUser::EditOf(Field field) const {
+    return qobject_cast<QLineEdit*>(Control(field));
+}
+
+/// The middle of it, past the frame that the rows scroll in.
+bool RandomUser::IsVisible(const QWidget& control) const {
+    const QPoint middle = control.mapTo(&Window(), control.rect().center());
+    const QWidget* there = Window().childAt(middle);
+    return there != nullptr && (there == &control || control.isAncestorOf(there));
+}
+
+std::optional<Field> RandomUser::FieldOf(const QWidget* control) const {
+    for (; control != nullptr && control != &Window(); control = control->parentWidget()) {
+        const QString name = control->objectName();
+        const qsizetype bracket = name.indexOf(u'(');
+        const Row row = bracket < 0 ? Field::NoRow : Row{name.mid(bracket + 1).chopped(1).toInt()};
+        for (const FieldRule& rule : bracket < 0 ? LoanFields() : OfferFields()) {
+            if (name.left(bracket) == rule.control && rule.access == Access::Input) {
+                return Field{rule.id, row};
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<Field> RandomUser::FocusField() const { return FieldOf(Window().focusWidget()); }
+
+RandomUser::View RandomUser::LookAt(Field field) const {
+    const QWidget* control = Control(field);
+    View view;
+    if (const auto* list = qobject_cast<const QComboBox*>(control)) {
+        view.text = list->currentText();
+    } else if (const auto* box = qobject_cast<const QCheckBox*>(control)) {
+        view.ticked = box->isChecked();
+    } else if (const auto* edit = qobject_cast<const QLineEdit*>(control)) {
+        view.text = edit->text();
+        view.modified = edit->isModified();
+    }
+    return view;
+}
+
+RandomUser::View RandomUser::Look() const { return m_edited ? LookAt(*m_edited) : View(); }
+
+/// Those of the bands and those of the rows, in equal shares.
+Field RandomUser::AnyInput(unsigned number) const {
+    std::vector<FieldId> inputs;
+    const bool inRow = number % 3 != 0;
+    number /= 3;
+    const auto row = inRow ? Row{static_cast<int>(number % m_book.offers.size())} : Field::NoRow;
+    number = inRow ? number / static_cast<unsigned>(m_book.offers.size()) : number;
+    for (const FieldRule& rule : inRow ? OfferFields() : LoanFields()) {
+        if (rule.access == Access::Input) {
+            inputs.push_back(rule.id);
+        }
+    }
+    return {inputs.at(number % inputs.size()), row};
+}
+
+// The book
+
+bool RandomUser::IsRefused(const View& before) const {
+    return m_edited && RuleOf(m_edited->id).IsNumber() && !m_book.Accepts(*m_edited, before.text);
+}
+
+bool RandomUser::Follow(const View& before) {
+    ObserveDay();
+    const std::optional<Field> now = FocusField();
+    if (IsRefused(before)) {
+        m_book.expected.append(m_book.FailureOf(*m_edited, before.text));
+        if (now != m_edited) {
+            Complain(u"left a field whose text cannot be taken"_qs);
+        }
+        return false;
+    }
+    if (now != m_edited) {
+        LeaveInBook(before);
+        EnterInBook(now);
+    }
+    return true;
+}
+
+bool RandomUser::Commit(const View& before) {
+    ObserveDay();
+    if (!m_edited) {
+        return true;
+    }
+    if (IsRefused(before)) {
+        m_book.expected.append(m_book.FailureOf(*m_edited, before.text));
+        return false;
+    }
+    LeaveInBook(before);
+    Reenter();
+    return true;
+}
+
+void RandomUser::LeaveInBook(const View& before) {
+    if (!m_edited) {
+        return;
+    }
+    const Field field = *m_edited;
+    switch (field.id) {
+    case FieldId::LoanName:
+        m_book.loan.name = before.text;
+        m_book.nameMissing = m_book.nameMissing && before.text.isEmpty();
+        break;
+    case FieldId::FinancePoints:
+        if (before.ticked || m_book.OfferIn(field.row.value).financed) {
+            m_book.StoreTick(field.row.value, before.ticked);
+        }
+        break;
+    case FieldId::NextPayment:
+        break;
+    case FieldId::Who:
+        if (before.modified) {
+            m_book.StoreWho(field.row.value, before.text);
+        }
+        break;
+    default:
+        if (RuleOf(field.id).kind == ValueKind::Choice) {
+            m_book.StoreChoice(field, before.text);
+        } else {
+            m_book.Leave(field, before.text);
+        }
+    }
+}
+
+void RandomUser::EnterInBook(std::optional<Field> field) {
+    m_edited = field;
+    if (field && field->row != Field::NoRow) {
+        m_book.EnterRow(field->row.value);
+    }
+    if (field && RuleOf(field->id).IsNumber()) {
+        m_text = m_book.EntryText(*field);
+    }
+}
+
+void RandomUser::Refocus(Field field) {
+    if (m_edited == field) {
+        return;
+    }
+    View shown;
+    if (m_edited) {
+        shown.text = RuleOf(m_edited->id).IsNumber() ? m_text : m_book.Shown(*m_edited);
+        shown.ticked =
+            m_edited->id == FieldId::FinancePoints && m_book.IsTicked(m_edited->row.value);
+        LeaveInBook(shown);
+    }
+    EnterInBook(field);
+}
+
+/// What is typed into the date becomes a day with every key, and the day is an input at once.
+void RandomUser::WatchDay() {
+    m_days.clear();
+    QObject::connect(qobject_cast<QDateEdit*>(Control({FieldId::NextPayment})),
+                     &QDateEdit::dateChanged, &Window(), [this](QDate day) { m_days.append(day); });
+}
+
+void RandomUser::ObserveDay() {
+    for (const QDate day : std::exchange(m_days, {})) {
+        m_book.StoreDay(day);
+    }
+}
+
+QString RandomUser::WithName(int question) const {
+    return GetResourceText(question) + m_book.loan.name + GetResourceText(TextNumber::NameEnd);
+}

@@ -1,0 +1,149 @@
+#pragma once
+
+#include "Book.h"
+#include "Program.h"
+
+#include <QPointer>
+#include <QStringList>
+
+#include <map>
+#include <optional>
+
+class QAction;
+class QComboBox;
+class QDialog;
+class QLineEdit;
+struct Step;
+
+/// Works the program by keys, mouse and menus, and keeps the book of what must come of it. A step
+/// looks at the window before, does what a user would do, and enters into the book what the rules
+/// make of it; Checks.h holds the two against each other afterwards.
+class RandomUser {
+public:
+    /// Starts the program on a store of its own, in the forms of one of the countries.
+    explicit RandomUser(std::size_t country);
+    ~RandomUser();
+    RandomUser(const RandomUser&) = delete;
+    RandomUser& operator=(const RandomUser&) = delete;
+    RandomUser(RandomUser&&) = delete;
+    RandomUser& operator=(RandomUser&&) = delete;
+
+    /// Takes a step and lets everything happen that follows from it.
+    void Take(const Step& step);
+
+    // What the checks look at.
+    const Book& TheBook() const { return m_book; }
+    Program& TheProgram() { return m_program; }
+    QWidget* Control(Field field) const;
+    std::optional<Field> Edited() const { return m_edited; }
+    /// What must stand in the number field being edited.
+    const QString& EditedText() const { return m_text; }
+    const QStringList& ExpectedQuestions() const { return m_questions; }
+    /// What went wrong in the step itself.
+    QStringList complaints;
+    bool keptChanged = true; ///< the shelf may have changed since it was last looked at
+
+    // The steps; what the two numbers mean is each one's own.
+    void EnterField(unsigned a, unsigned b);
+    void Type(unsigned a, unsigned b);
+    void Paste(unsigned a, unsigned b);
+    void EditText(unsigned a, unsigned b);
+    void UseClipboard(unsigned a, unsigned b);
+    void Tab(unsigned a, unsigned b);
+    void Return(unsigned a, unsigned b);
+    void Arrow(unsigned a, unsigned b);
+    void Choose(unsigned a, unsigned b);
+    void TypeDay(unsigned a, unsigned b);
+    void FillOffer(unsigned a, unsigned b);
+    void FillCurrent(unsigned a, unsigned b);
+    void Tick(unsigned a, unsigned b);
+    void Drop(unsigned a, unsigned b);
+    void Sort(unsigned a, unsigned b);
+    void Wheel(unsigned a, unsigned b);
+    void ClickBar(unsigned a, unsigned b);
+    void OpenLender(unsigned a, unsigned b);
+    void LetSecondPass(unsigned a, unsigned b);
+    void TypeName(unsigned a, unsigned b);
+    void Save(unsigned a, unsigned b);
+    void PickName(unsigned a, unsigned b);
+    void New(unsigned a, unsigned b);
+    void Delete(unsigned a, unsigned b);
+    void CloseAndStart(unsigned a, unsigned b);
+    void SwitchLanguage(unsigned a, unsigned b);
+    void OpenOptions(unsigned a, unsigned b);
+    void Print(unsigned a, unsigned b);
+    void OpenAbout(unsigned a, unsigned b);
+    void OpenHelp(unsigned a, unsigned b);
+    void AskWhatsThis(unsigned a, unsigned b);
+    void Share(unsigned a, unsigned b);
+    void Resize(unsigned a, unsigned b);
+    void ClickAnywhere(unsigned a, unsigned b);
+
+private:
+    /// What stood in the field being edited before a step.
+    struct View {
+        QString text;
+        bool modified = false;
+        bool ticked = false;
+    };
+
+    // Hands
+    void Enter(Field field);
+    void ChooseFrom(Field field, unsigned b);
+    void FillAll(std::initializer_list<Field> fields, unsigned b);
+    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void TypeText(const QString& text);
+    bool Click(const QWidget& control);
+    bool ClickAt(QPoint place);
+    void Trigger(const char* entry);
+    void PickEntry(QComboBox& list, int entry);
+    /// Runs what opens a dialog, and does this in it. Ends with no dialog open.
+    void InDialog(const std::function<void()>& open, const std::function<void(QDialog&)>& act);
+    static void Settle();
+
+    // Eyes
+    Loan& Window() const { return m_program.Window(); }
+    template <class Kind>
+    Kind* Find(const QString& name) const;
+    QWidget* Named(const QString& name) const;
+    bool IsVisible(const QWidget& control) const;
+    std::optional<Field> FieldOf(const QWidget* control) const;
+    std::optional<Field> FocusField() const;
+    View Look() const;
+    View LookAt(Field field) const;
+    QLineEdit* EditOf(Field field) const;
+    Field AnyInput(unsigned number) const;
+    QString CopiedText(Field field, const QString& shown) const;
+
+    // The book
+    bool IsRefused(const View& before) const;
+    /// Whether the focus may have moved: where the field is refused nothing else may have happened.
+    bool Follow(const View& before);
+    /// What a menu entry does first. False where the field is refused.
+    bool Commit(const View& before);
+    void LeaveInBook(const View& before);
+    void EnterInBook(std::optional<Field> field);
+    void Reenter() { EnterInBook(m_edited); }
+    /// The focus is put there by the program once the fields show what the book says.
+    void Refocus(Field field);
+    void WatchDay();
+    void ObserveDay();
+    void TakeValue(Field field, const QString& text);
+    QString WithName(int question) const;
+    Answer PrepareAnswer(unsigned number, bool mayCancel);
+    bool MayDrop(Answer answer);
+    bool SaveInBook();
+    void PickInBook(const QString& name, Answer answer);
+    void Complain(const QString& complaint) { complaints.append(complaint); }
+
+    Program m_program;
+    Book m_book;
+    std::optional<Field> m_edited;
+    QString m_text;
+    QStringList m_questions;
+    QList<QDate> m_days; ///< that the date has become since it was last looked at
+    std::size_t m_displayed = 6;
+    int m_taken = 0;
+    mutable std::map<Field, QPointer<QWidget>> m_controls;
+    mutable std::map<QString, QPointer<QWidget>> m_named;
+};

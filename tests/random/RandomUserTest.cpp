@@ -1,0 +1,138 @@
+// A random user finds nothing.
+//
+// QUEND_RANDOM_SEED and QUEND_RANDOM_STEPS make other and longer walks; QUEND_RANDOM_TRAIL walks
+// one that was printed by a failure.
+
+#include "RandomUser.h"
+#include "Checks.h"
+#include "Shorten.h"
+#include "Trail.h"
+
+#include <QElapsedTimer>
+#include <QStandardPaths>
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <exception>
+#include <iostream>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The steps between two fresh stores: a trail that fails is no longer than that.
+constexpr int StepsADay = 2'000;
+
+/// What the toolkit warns of, while a walk lasts.
+QStringList& Warnings() {
+    static QStringList warnings;
+    return warnings;
+}
+
+void KeepWarning(QtMsgType type, const QMessageLogContext& /*where*/, const QString& text) {
+    if (type >= QtWarningMsg && !text.startsWith(QLatin1String("This plugin does not support"))) {
+        Warnings().append(text);
+    }
+}
+
+/// Where a walk failed, and what was wrong there. No steps where nothing was.
+struct Failing {
+    Trail trail;
+    QStringList complaints;
+};
+
+/// Walks until something is wrong. The country is the seed's.
+template <class NextStep>
+Failing Walk(std::uint64_t seed, NextStep next) {
+    Failing walked;
+    Warnings().clear();
+    const QtMessageHandler before = qInstallMessageHandler(KeepWarning);
+    try {
+        RandomUser user(seed % Forms::Countries);
+        Checks checks;
+        while (walked.complaints.isEmpty()) {
+            const std::optional<Step> step = next();
+            if (!step) {
+                break;
+            }
+            walked.trail.push_back(*step);
+            if (qEnvironmentVariableIsSet("QUEND_RANDOM_TELL")) {
+                std::cout << Written({*step}).toStdString() << ";" << std::endl;
+            }
+            user.Take(*step);
+            walked.complaints = checks.Complaints(user) + Warnings();
+        }
+    } catch (const std::exception& failure) {
+        walked.complaints = QStringList(QString::fromUtf8(failure.what()));
+    }
+    qInstallMessageHandler(before);
+    return walked;
+}
+
+Failing WalkAgain(std::uint64_t seed, const Trail& trail) {
+    std::size_t taken = 0;
+    return Walk(seed, [&]() -> std::optional<Step> {
+        return taken < trail.size() ? std::optional(trail[taken++]) : std::nullopt;
+    });
+}
+
+void Report(std::uint64_t seed, const Failing& failed) {
+    std::cout << "seed " << seed << ", after " << failed.trail.size() << " steps:\n"
+              << failed.complaints.join(u'\n').toStdString() << std::endl; // the rest takes a while
+    const Trail shortest = Shorten(
+        failed.trail,
+        [&](const Trail& trail) { return !WalkAgain(seed, trail).complaints.isEmpty(); }, 250);
+    const Failing again = WalkAgain(seed, shortest);
+    const Failing& told = again.complaints.isEmpty() ? failed : again;
+    ADD_FAILURE() << "shortened to " << told.trail.size() << " steps:\n"
+                  << told.complaints.join(u'\n').toStdString() << "\nQUEND_RANDOM_SEED=" << seed
+                  << " QUEND_RANDOM_TRAIL='" << Written(told.trail).toStdString() << "'\n";
+}
+
+bool WalkADay(std::uint64_t seed, int steps) {
+    StepMaker maker(seed);
+    int taken = 0;
+    const Failing walked = Walk(seed, [&]() -> std::optional<Step> {
+        return taken++ < steps ? std::optional(maker.Next()) : std::nullopt;
+    });
+    if (!walked.complaints.isEmpty()) {
+        Report(seed, walked);
+    }
+    return walked.complaints.isEmpty();
+}
+
+std::uint64_t Number(const char* variable, std::uint64_t otherwise) {
+    bool isNumber = false;
+    const std::uint64_t number = qEnvironmentVariable(variable).toULongLong(&isNumber);
+    return isNumber ? number : otherwise;
+}
+
+class RandomUserTest : public testing::Test {
+protected:
+    /// Whatever is looked for in the user's own folders is not there.
+    RandomUserTest() { QStandardPaths::setTestModeEnabled(true); }
+};
+
+TEST_F(RandomUserTest, FindsNothing) {
+    const QString trail = qEnvironmentVariable("QUEND_RANDOM_TRAIL");
+    std::uint64_t seed = Number("QUEND_RANDOM_SEED", 1);
+    if (!trail.isEmpty()) {
+        const Failing walked = WalkAgain(seed, ReadTrail(trail));
+        EXPECT_TRUE(walked.complaints.isEmpty()) << walked.complaints.join(u'\n').toStdString();
+        return;
+    }
+    auto left = static_cast<long long>(Number("QUEND_RANDOM_STEPS", 1'500));
+    const int aDay = left < 6'000 ? 500 : StepsADay; // a short walk sees several seeds, too
+    QElapsedTimer timer;
+    timer.start();
+    for (; left > 0; left -= aDay, ++seed) {
+        std::cout << "seed " << seed << ", " << left << " steps to go, " << timer.elapsed() / 1'000
+                  << " s" << std::endl;
+        if (!WalkADay(seed, static_cast<int>(std::min<long long>(left, aDay)))) {
+            return;
+        }
+    }
+}
+
+} // namespace

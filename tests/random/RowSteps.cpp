@@ -1,0 +1,183 @@
+// What can be done to the rows of offers besides typing.
+
+#include "RandomUser.h"
+#include "StepTexts.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QDialog>
+#include <QDragEnterEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+#include <QTimer>
+#include <QTimerEvent>
+#include <QWheelEvent>
+#include <QWindow>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+void RandomUser::Tick(unsigned a, unsigned /*b*/) {
+    const Field field{FieldId::FinancePoints, Row{static_cast<int>(a % m_book.offers.size())}};
+    const View before = Look();
+    if (!Click(*Control(field)) || (m_edited != field && !Follow(before))) {
+        return;
+    }
+    m_book.StoreTick(field.row.value, !m_book.IsTicked(field.row.value));
+}
+
+/// A value of another row, or any text from another program.
+void RandomUser::Drop(unsigned a, unsigned b) {
+    static constexpr std::array dragged{FieldId::Points, FieldId::InterestRate,
+                                        FieldId::ActualPayment, FieldId::Who};
+    const auto rows = static_cast<unsigned>(m_book.offers.size());
+    const Field target{dragged.at(a % dragged.size()),
+                       Row{static_cast<int>(a / dragged.size() % rows)}};
+    if (!IsVisible(*Control(target))) {
+        return;
+    }
+    const Field source{target.id, Row{static_cast<int>(b / 2 % rows)}};
+    const QString text = b % 2 == 0 ? AnyText(b / 2, m_book.forms.Point())
+                                    : CopiedText(source, m_book.OfferIn(source.row.value).who);
+    const View before = Look();
+    QMimeData data;
+    data.setText(text);
+    const QWidget& control = *Control(target);
+    const QPoint place = control.mapTo(&Window(), control.rect().center());
+    const auto send = [&](QEvent& event) {
+        QApplication::sendEvent(Window().windowHandle(), &event);
+    };
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    send(enter);
+    QDragMoveEvent move(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    send(move);
+    const bool may = data.hasText() && m_book.MayDrop(target.id, text);
+    if (move.isAccepted() != may) {
+        Complain(u"a drop of “%1” is %2"_qs.arg(text, may ? u"refused"_qs : u"taken"_qs));
+    }
+    if (!move.isAccepted()) {
+        QDragLeaveEvent leave;
+        return send(leave);
+    }
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    send(drop);
+    const bool besides = m_edited && m_edited->row == target.row && m_edited != target;
+    if (!besides || Commit(before)) {
+        TakeValue(target, text);
+    }
+}
+
+void RandomUser::Sort(unsigned a, unsigned /*b*/) {
+    const bool byPayoff = a % 2 == 0;
+    const View before = Look();
+    if (!Click(*Named(byPayoff ? u"cmdPayoffDate"_qs : u"cmdInterest"_qs)) || !Follow(before)) {
+        return;
+    }
+    if (byPayoff) {
+        m_book.SortByPayoff();
+    } else {
+        m_book.SortByInterest();
+    }
+}
+
+/// Over the rows, which scroll, or over the field being edited.
+void RandomUser::Wheel(unsigned a, unsigned b) {
+    const bool overField = m_edited && a % 3 == 0;
+    const QWidget& control = overField ? *Control(*m_edited) : *Named(u"picScroll"_qs);
+    if (!IsVisible(control)) {
+        return;
+    }
+    const View before = Look();
+    const QPoint at = control.mapTo(&Window(), control.rect().center());
+    const int notches = static_cast<int>(b % 7) - 3;
+    QWheelEvent event(at, Window().mapToGlobal(at), QPoint(), QPoint(0, notches * 120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(Window().windowHandle(), &event);
+    // In the bands a list that has the focus is turned by the wheel.
+    if (overField && m_edited->row == Field::NoRow &&
+        RuleOf(m_edited->id).kind == ValueKind::Choice && Look().text != before.text) {
+        m_book.StoreChoice(*m_edited, Look().text);
+    }
+}
+
+void RandomUser::ClickBar(unsigned a, unsigned b) {
+    const auto& bar = *qobject_cast<QScrollBar*>(Named(u"vsbLoans"_qs));
+    if (!bar.isVisible() || !bar.isEnabled()) {
+        return;
+    }
+    const int at = static_cast<int>(b % static_cast<unsigned>(bar.height()));
+    const QPoint place = bar.mapTo(&Window(), QPoint(bar.width() / 2, at));
+    if (a % 3 != 0) {
+        ClickAt(place);
+        return;
+    }
+    // The thumb, pulled.
+    QWindow* window = Window().windowHandle();
+    const int to = static_cast<int>(a % static_cast<unsigned>(bar.height()));
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, place);
+    QTest::mouseMove(window, bar.mapTo(&Window(), QPoint(bar.width() / 2, to)));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier,
+                        bar.mapTo(&Window(), QPoint(bar.width() / 2, to)));
+}
+
+/// The dialog of a lender: by its key or a double click; another text is pasted, or not, and taken
+/// or not.
+void RandomUser::OpenLender(unsigned a, unsigned b) {
+    const Field field{FieldId::Who, Row{static_cast<int>(a % m_book.offers.size())}};
+    View before = Look();
+    if (!Click(*Control(field)) || (m_edited != field && !Follow(before))) {
+        return;
+    }
+    before = Look();
+    InDialog(
+        [&] {
+            if (b % 2 == 0) {
+                Press(Qt::Key_F2);
+            } else {
+                const QPoint place =
+                    Control(field)->mapTo(&Window(), Control(field)->rect().center());
+                QTest::mouseDClick(Window().windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
+            }
+            Commit(before);
+            Settle();
+        },
+        [&](QDialog& dialog) {
+            auto* lines = dialog.findChild<QPlainTextEdit*>();
+            const QString loaded = lines->document()->toRawText();
+            if (b % 3 != 0) {
+                QGuiApplication::clipboard()->setText(AnyText(b / 3, m_book.forms.Point()));
+                QTest::keyClick(dialog.windowHandle(), Qt::Key_A, Qt::ControlModifier);
+                QTest::keyClick(dialog.windowHandle(), Qt::Key_V, Qt::ControlModifier);
+            }
+            QString entered = lines->document()->toRawText();
+            if (b % 5 == 0) {
+                QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+                return;
+            }
+            QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
+            if (entered != loaded) {
+                entered.replace(QChar::ParagraphSeparator, u"\r\n"_qs);
+                m_book.StoreWho(field.row.value, entered);
+            }
+        });
+}
+
+/// The notice of raised payments has its time by a timer, which only this step lets run out.
+void RandomUser::LetSecondPass(unsigned /*a*/, unsigned /*b*/) {
+    auto* timer = Window().findChild<QTimer*>(u"Timer1"_qs);
+    if (timer->isActive() != m_book.noticeComes) {
+        Complain(u"the notice of a raised payment is %1"_qs.arg(
+            timer->isActive() ? u"on its way for nothing"_qs : u"not on its way"_qs));
+    }
+    if (timer->isActive()) {
+        QTimerEvent event(timer->timerId());
+        QCoreApplication::sendEvent(timer, &event);
+    }
+    m_book.NoticeIsDue();
+}

@@ -1,0 +1,119 @@
+#include "Trail.h"
+
+#include "RandomUser.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <stdexcept>
+
+namespace {
+
+using U = RandomUser;
+
+constexpr std::array KindTable{
+    // Fields
+    StepKind{"Enter", 60, &U::EnterField},
+    StepKind{"Fill", 200, &U::EnterField}, // followed by typing and the tab key
+    StepKind{"Type", 60, &U::Type},
+    StepKind{"Paste", 40, &U::Paste},
+    StepKind{"Edit", 60, &U::EditText},
+    StepKind{"Clipboard", 30, &U::UseClipboard},
+    StepKind{"Tab", 80, &U::Tab},
+    StepKind{"Return", 20, &U::Return},
+    StepKind{"Arrow", 50, &U::Arrow},
+    StepKind{"Choose", 40, &U::Choose},
+    StepKind{"Day", 15, &U::TypeDay},
+    StepKind{"Offer", 40, &U::FillOffer},
+    StepKind{"Current", 8, &U::FillCurrent},
+    // Rows
+    StepKind{"Tick", 20, &U::Tick},
+    StepKind{"Drop", 40, &U::Drop},
+    StepKind{"Sort", 20, &U::Sort},
+    StepKind{"Wheel", 20, &U::Wheel},
+    StepKind{"Bar", 15, &U::ClickBar},
+    StepKind{"Lender", 4, &U::OpenLender},
+    StepKind{"Second", 20, &U::LetSecondPass},
+    // Files
+    StepKind{"Name", 15, &U::TypeName},
+    StepKind{"Save", 15, &U::Save},
+    StepKind{"Pick", 12, &U::PickName},
+    StepKind{"New", 4, &U::New},
+    StepKind{"Delete", 4, &U::Delete},
+    StepKind{"Close", 2, &U::CloseAndStart},
+    // The rest of the program
+    StepKind{"Language", 3, &U::SwitchLanguage},
+    StepKind{"Options", 3, &U::OpenOptions},
+    StepKind{"Print", 2, &U::Print},
+    StepKind{"About", 1, &U::OpenAbout},
+    StepKind{"Help", 1, &U::OpenHelp},
+    StepKind{"WhatsThis", 2, &U::AskWhatsThis},
+    StepKind{"Share", 2, &U::Share},
+    StepKind{"Resize", 3, &U::Resize},
+    StepKind{"Click", 20, &U::ClickAnywhere},
+};
+
+} // namespace
+
+std::span<const StepKind> Kinds() { return KindTable; }
+
+StepMaker::StepMaker(std::uint64_t seed) : m_random(seed) {
+    for (const StepKind& kind : KindTable) {
+        m_all += kind.weight;
+    }
+}
+
+Step StepMaker::Of(const char* name) {
+    const auto* const found = std::ranges::find_if(
+        KindTable, [name](const StepKind& kind) { return std::strcmp(kind.name, name) == 0; });
+    return {static_cast<std::size_t>(found - KindTable.begin()),
+            static_cast<unsigned>(m_random() % 10'000), static_cast<unsigned>(m_random() % 10'000)};
+}
+
+Step StepMaker::Next() {
+    if (!m_planned.empty()) {
+        const Step step = m_planned.back();
+        m_planned.pop_back();
+        return step;
+    }
+    int left = static_cast<int>(m_random() % static_cast<unsigned>(m_all));
+    const auto* kind = KindTable.begin();
+    for (; left >= kind->weight; ++kind) {
+        left -= kind->weight;
+    }
+    const Step step = Of(kind->name);
+    if (kind->name == std::string_view("Fill")) {
+        m_planned = {Of("Tab"), Of("Type")};
+        m_planned.front().a = 0; // forwards
+    }
+    return step;
+}
+
+QString Written(const Trail& trail) {
+    QStringList steps;
+    for (const Step& step : trail) {
+        steps.append(QStringLiteral("%1 %2 %3")
+                         .arg(QLatin1String(KindTable.at(step.kind).name))
+                         .arg(step.a)
+                         .arg(step.b));
+    }
+    return steps.join(QStringLiteral("; "));
+}
+
+Trail ReadTrail(const QString& text) {
+    Trail trail;
+    for (const QString& written : text.split(u';', Qt::SkipEmptyParts)) {
+        const QStringList words = written.simplified().split(u' ');
+        const auto* const kind = std::ranges::find_if(KindTable, [&](const StepKind& row) {
+            return words.front() == QLatin1String(row.name);
+        });
+        if (kind == KindTable.end() || words.size() != 3) {
+            throw std::invalid_argument("no step: " + written.toStdString());
+        }
+        trail.push_back({static_cast<std::size_t>(kind - KindTable.begin()), words[1].toUInt(),
+                         words[2].toUInt()});
+    }
+    return trail;
+}

@@ -70,6 +70,7 @@ void Loan::Form_Load() {
         m_report.Guard([&] { language.LoadLanguage(language.CurrentLanguage()); });
         language.SettleDetectedLanguage(); // a number that no language has is not kept
     }
+    m_toolkitTexts.Renew();
     m_languages.MarkCurrent();
     m_rows.CreateRows(Row{m_settings.loansDisplayed});
     ApplyCaptions();
@@ -148,6 +149,7 @@ void Loan::RefillLists() {
 }
 
 void Loan::RenewLanguage() {
+    m_toolkitTexts.Renew();
     ApplyCaptions();
     RefillLists();
     MeasureFields();

@@ -11,6 +11,7 @@
 #include "LoanForm.h"
 #include "LoanNameBox.h"
 #include "LoanStore.h"
+#include "SampleSheet.h"
 #include "Sheet.h"
 #include "StoreCheck.h"
 #include "StoreFolder.h"
@@ -33,24 +34,14 @@ constexpr int ManyWorksheets = 10'000;
 
 /// Every value that a worksheet keeps, of so many offers.
 void FillSheet(Worksheet& worksheet, int offers = Rows) {
-    worksheet.SetLoanName(QStringLiteral("Our new home"));
-    worksheet.SetLoanType(QStringLiteral("M"));
-    worksheet.SetLoanAmount(Money::FromDouble(250'000.5));
-    worksheet.SetLoanTerm(360);
-    worksheet.SetEscrowTaxes(Money::FromDouble(3'600));
-    worksheet.SetEscrowInsurance(Money::FromDouble(1'200.25));
-    worksheet.SetCurrentLoanAmount(Money::FromDouble(230'000));
-    worksheet.SetCurrentTerm(342);
-    worksheet.SetCurrentInterestRate(0.07125);
-    worksheet.SetCurrentBalance(Money::FromDouble(198'450.75));
+    FillSampleLoans(worksheet);
     worksheet.SetCurrentActualFrequency(FrequencyCodeToText(QStringLiteral("M")));
-    worksheet.SetCurrentActualPayment(Money::FromDouble(2'050));
     for (Row row{0}; row.value < offers; ++row.value) {
         CLoan& offer = worksheet.OfferOfRow(row);
         offer.SetFinancePoints(true);
         offer.SetPoints(1.125);
         offer.SetTerm(360);
-        offer.SetInterestRate(0.055 + 0.00125 * row.value);
+        offer.SetInterestRate(SampleRate(row));
         offer.SetFrequencyCode(QStringLiteral("M"));
         offer.SetActualPayment(Money::FromDouble(5'000));
         offer.SetWho(QStringLiteral("First Prairie Bank, office %1").arg(row.value));

@@ -40,8 +40,9 @@ void frmAbout::Form_Load() {
     m_ui->lblTitle->setText(QString::fromUtf8(ProductName));
     m_ui->lblVersion->setText(GetResourceText(TextNumber::Version) +
                               QStringLiteral(" %1.%2.%3").arg(Major).arg(Minor).arg(Revision));
-    ShowLines(*m_ui->lblDescription, Comments);
-    ShowLines(*m_ui->lblDisclaimer, LegalNotice);
+    const Words& words = WordsIn(Language::Instance().LanguageTag().toStdString());
+    ShowLines(*m_ui->lblDescription, words.comments);
+    ShowLines(*m_ui->lblDisclaimer, words.legalNotice);
     constexpr int size = 64;
     m_ui->picIcon->setPixmap(ProgramIcon().pixmap(QSize(size, size), devicePixelRatio()));
     m_ui->cmdOK->setFocus();

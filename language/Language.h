@@ -37,6 +37,9 @@ public:
     /// `programName` is the executable's name without ending, such as "Loan".
     void SetUp(const QString& programFolder, const QString& programName);
 
+    /// As given to SetUp; empty before.
+    const QString& ProgramFolder() const { return m_programFolder; }
+
     /// English (1) and Spanish (2), listed even where their components are missing, then every
     /// other component found, numbered from 3 in order of identifier.
     const std::vector<LanguageEntry>& Entries() const { return m_entries; }

@@ -60,25 +60,29 @@ inline constexpr int StoreUnusable = 135; ///< %1: the file
 inline constexpr int WindowTitle = 200;
 inline constexpr int NoPicture = 520;
 inline constexpr int PictureNotShown = 521;
-inline constexpr int PictureLookIn = 522;
-inline constexpr int PictureFileName = 523;
-inline constexpr int PictureFileType = 524;
-inline constexpr int PictureOpen = 525;
-inline constexpr int PrintButton = 560;
 inline constexpr int PrintSetUpTitle = 561;
-/// No text to be shown: the file of the toolkit's own texts in this language.
+/// No text to be shown: the file of the toolkit's own texts in this language. ToolkitTexts puts the
+/// following ones in their place.
 inline constexpr int ToolkitTexts = 562;
+inline constexpr int FileName = 563;
+inline constexpr int FileType = 564;
+inline constexpr int FolderAbove = 565;
+inline constexpr int FileList = 566;
+inline constexpr int HiddenFiles = 567;
+inline constexpr int FileNotFound = 568; ///< %1: the file
+inline constexpr int Collate = 569;
+inline constexpr int PaperInInches = 570; ///< %1, %2: width and height
+inline constexpr int PaperStatement = 571;
+inline constexpr int KeyCtrl = 572;
+inline constexpr int KeyShift = 573;
+inline constexpr int DoubleSided = 574;
+inline constexpr int DoubleSidedOff = 575;
+inline constexpr int LongSide = 576;
+inline constexpr int ShortSide = 577;
 inline constexpr int CopyValue = 540;
 inline constexpr int PasteValue = 541;
 /// %1: what was to be pasted. A picture such as " nnnn.nn" follows it.
 inline constexpr int ValueRefused = 542;
-inline constexpr int EditUndo = 543;
-inline constexpr int EditRedo = 544;
-inline constexpr int EditCut = 545;
-inline constexpr int EditCopy = 546;
-inline constexpr int EditPaste = 547;
-inline constexpr int EditDelete = 548;
-inline constexpr int EditSelectAll = 549;
 inline constexpr int HelpContents = 581;
 inline constexpr int HelpIndex = 582;
 inline constexpr int HelpSearch = 583;
@@ -134,23 +138,26 @@ inline constexpr std::array All{
     WindowTitle,
     NoPicture,
     PictureNotShown,
-    PictureLookIn,
-    PictureFileName,
-    PictureFileType,
-    PictureOpen,
-    PrintButton,
     PrintSetUpTitle,
     ToolkitTexts,
+    FileName,
+    FileType,
+    FolderAbove,
+    FileList,
+    HiddenFiles,
+    FileNotFound,
+    Collate,
+    PaperInInches,
+    PaperStatement,
+    KeyCtrl,
+    KeyShift,
+    DoubleSided,
+    DoubleSidedOff,
+    LongSide,
+    ShortSide,
     CopyValue,
     PasteValue,
     ValueRefused,
-    EditUndo,
-    EditRedo,
-    EditCut,
-    EditCopy,
-    EditPaste,
-    EditDelete,
-    EditSelectAll,
     HelpContents,
     HelpIndex,
     HelpSearch,

@@ -4,6 +4,7 @@
 #include "TextNumbers.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 
 #include <algorithm>
 #include <array>
@@ -12,32 +13,60 @@
 namespace {
 
 /// A text as the toolkit's sources have it, and the number of ours.
-struct ToolkitText {
+struct OwnText {
+    std::string_view context;
     std::string_view source;
     int number;
 };
 
-constexpr std::array ToolkitTextTable{
-    ToolkitText{"&Undo", TextNumber::EditUndo},
-    ToolkitText{"&Redo", TextNumber::EditRedo},
-    ToolkitText{"Cu&t", TextNumber::EditCut},
-    ToolkitText{"&Copy", TextNumber::EditCopy},
-    ToolkitText{"&Paste", TextNumber::EditPaste},
-    ToolkitText{"Delete", TextNumber::EditDelete},
-    ToolkitText{"Select All", TextNumber::EditSelectAll},
-    ToolkitText{"&Select All", TextNumber::EditSelectAll},
+constexpr std::array OwnTexts{
+    OwnText{"QFileDialog", "File &name:", TextNumber::FileName},
+    OwnText{"QFileDialog", "Files of type:", TextNumber::FileType},
+    OwnText{"QFileDialog", "Go to the parent directory", TextNumber::FolderAbove},
+    OwnText{"QFileDialog", "Change to list view mode", TextNumber::FileList},
+    OwnText{"QFileDialog", "Show &hidden files", TextNumber::HiddenFiles},
+    OwnText{"QFileDialog", "%1\nFile not found.\nPlease verify the correct file name was given.",
+            TextNumber::FileNotFound},
+    OwnText{"QPrintSettingsOutput", "Collate", TextNumber::Collate},
+    OwnText{"QPrintSettingsOutput", "Double Sided Printing", TextNumber::DoubleSided},
+    OwnText{"QPrintSettingsOutput", "Off", TextNumber::DoubleSidedOff},
+    OwnText{"QPrintSettingsOutput", "Long side binding", TextNumber::LongSide},
+    OwnText{"QPrintSettingsOutput", "Short side binding", TextNumber::ShortSide},
+    OwnText{"QPageSize", "Custom (%1in x %2in)", TextNumber::PaperInInches},
+    OwnText{"QPageSize", "Statement", TextNumber::PaperStatement},
+    OwnText{"QShortcut", "Ctrl", TextNumber::KeyCtrl},
+    OwnText{"QShortcut", "Shift", TextNumber::KeyShift},
 };
+
+bool Load(QTranslator& texts, const QString& catalogue) {
+    // An empty path would be the working folder.
+    const QString beside = Language::Instance().ProgramFolder();
+    return (!beside.isEmpty() && texts.load(catalogue, beside)) ||
+           texts.load(catalogue, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+}
 
 } // namespace
 
-ToolkitTexts::ToolkitTexts() { QCoreApplication::installTranslator(this); }
-
-QString ToolkitTexts::translate(const char* context, const char* source, const char* /*comment*/,
-                                int /*count*/) const {
-    const std::string_view user(context);
-    if (user != "QLineEdit" && user != "QAbstractSpinBox") {
-        return {};
+void ToolkitTexts::Renew() {
+    QCoreApplication::removeTranslator(this);
+    const QString catalogue = GetResourceText(TextNumber::ToolkitTexts);
+    if (catalogue != Language::Instance().DefaultText(TextNumber::ToolkitTexts)) {
+        static_cast<void>(Load(*this, catalogue)); // the texts of ours serve without it, too
+        QCoreApplication::installTranslator(this);
     }
-    const auto* found = std::ranges::find(ToolkitTextTable, source, &ToolkitText::source);
-    return found == ToolkitTextTable.end() ? QString() : GetResourceText(found->number);
+    // Told later, the buttons of a dialog opened meanwhile would take the toolkit's captions again.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+}
+
+QString ToolkitTexts::translate(const char* context, const char* source, const char* comment,
+                                int count) const {
+    const auto* found = std::ranges::find_if(OwnTexts, [&](const OwnText& own) {
+        return own.source == source && own.context == context;
+    });
+    if (found != OwnTexts.end()) {
+        return GetResourceText(found->number);
+    }
+    // The catalogue keeps the kinds of files where the toolkit had them before.
+    const bool moved = std::string_view(context) == "QAbstractFileIconProvider";
+    return QTranslator::translate(moved ? "QFileDialog" : context, source, comment, count);
 }

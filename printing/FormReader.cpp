@@ -1,5 +1,6 @@
 #include "FormReader.h"
 
+#include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
 #include "PrintedPage.h"
@@ -213,7 +214,8 @@ PrintedForm Read(const Loan& window, int highestRow) {
         form.headings.push_back(reader.Label(heading));
     }
     ReadOffers(reader, highestRow, form);
-    form.legalNotice = QString::fromUtf8(VersionRecord::LegalNotice);
+    form.legalNotice = QString::fromUtf8(
+        VersionRecord::WordsIn(Language::Instance().LanguageTag().toStdString()).legalNotice);
     return form;
 }
 

@@ -5,14 +5,11 @@
 #include "UserPrinter.h"
 #include "VersionRecord.h"
 
-#include <QCoreApplication>
 #include <QDialogButtonBox>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QPushButton>
-#include <QTranslator>
 
 #include <array>
 
@@ -25,21 +22,6 @@ constexpr std::array NotAsked{
     QAbstractPrintDialog::PrintPageRange,
     QAbstractPrintDialog::PrintCurrentPage,
     QAbstractPrintDialog::PrintToFile,
-};
-
-/// The toolkit speaks the language in use for as long as this lives, where it has learned it.
-class ToolkitLanguage {
-public:
-    explicit ToolkitLanguage(const QString& catalogue) {
-        if (m_texts.load(catalogue, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-            QCoreApplication::installTranslator(&m_texts);
-            // Told later, the dialog's buttons would take the toolkit's captions again.
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
-        }
-    }
-
-private:
-    QTranslator m_texts; // which goes out of use when it goes
 };
 
 /// The toolkit offers some of the pages whatever the options say, and shows again what is hidden;
@@ -60,10 +42,10 @@ void Limit(QPrintDialog& dialog) {
     HidePageRange(dialog);
 }
 
-void Caption(const QPrintDialog& dialog, QDialogButtonBox::StandardButton which,
-             const QString& text) {
-    if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
-        if (auto* button = buttons->button(which)) {
+/// The toolkit calls its button "Print" here, too, where nothing is printed.
+void NameOk(const QPrintDialog& dialog, const QString& text) {
+    if (const auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
+        if (auto* button = buttons->button(QDialogButtonBox::Ok)) {
             button->setText(text);
         }
     }
@@ -116,19 +98,14 @@ bool SystemPrinter::Ask(QPrintDialog& dialog) {
 }
 
 bool SystemPrinter::AskHowToPrint(QWidget& parent) {
-    const ToolkitLanguage language(m_words(TextNumber::ToolkitTexts));
     QPrintDialog dialog(&Chosen(), &parent);
-    Caption(dialog, QDialogButtonBox::Ok, m_words(TextNumber::PrintButton));
-    Caption(dialog, QDialogButtonBox::Cancel, m_words(TextNumber::Cancel));
     return Ask(dialog);
 }
 
 void SystemPrinter::AskSetUp(QWidget& parent) {
-    const ToolkitLanguage language(m_words(TextNumber::ToolkitTexts));
     QPrintDialog dialog(&Chosen(), &parent);
     dialog.setWindowTitle(m_words(TextNumber::PrintSetUpTitle));
-    Caption(dialog, QDialogButtonBox::Ok, m_words(TextNumber::Ok));
-    Caption(dialog, QDialogButtonBox::Cancel, m_words(TextNumber::Cancel));
+    NameOk(dialog, m_words(TextNumber::Ok));
     Ask(dialog);
 }
 

@@ -20,6 +20,7 @@
 #include "ShareCommands.h"
 #include "StartUp.h"
 #include "StoreCheck.h"
+#include "StoreNotice.h"
 #include "TextNumbers.h"
 #include "VersionRecord.h"
 #include "WindowPlace.h"
@@ -35,6 +36,9 @@
 namespace {
 
 Date Today() { return FromCalendar(QDate::currentDate()); }
+
+/// As it stands in the name of a damaged file.
+std::string TodayInWords() { return QDate::currentDate().toString(Qt::ISODate).toStdString(); }
 
 void SetUpLanguage() {
     const QFileInfo program(QCoreApplication::applicationFilePath());
@@ -63,9 +67,7 @@ std::optional<QString> Obstacle(const RegistryAPI& store, const StoreCondition& 
 void TellAboutStore(Messages& messages, const RegistryAPI& store, const StoreCondition& condition,
                     const std::vector<Failure>& refused) {
     if (condition.state == StoreCondition::State::Repaired) {
-        messages.Post(GetResourceText(TextNumber::StoreRepaired)
-                          .arg(QString::fromStdString(condition.keptAs.string()))
-                          .arg(LoanStore(store).Names().size()));
+        messages.Post(RepairNotice(store, condition.keptAs));
     }
     if (!refused.empty()) {
         messages.Post(GetResourceText(TextNumber::SettingsNotRead) + QStringLiteral("\n\n") +
@@ -73,9 +75,11 @@ void TellAboutStore(Messages& messages, const RegistryAPI& store, const StoreCon
     }
 }
 
-int Run(const RegistryAPI& store, const StoreCondition& condition, MessageBoxes& messages) {
-    const auto [settings, refused] = LoadSettings(store);
+int Run(const StoreCondition& condition, MessageBoxes& messages) {
+    const auto [settings, refused] = LoadSettings(RegistryAPI(RegistryAPI::UserStore()));
     Loan window({.messages = &messages, .locale = QLocale::system(), .today = Today}, settings);
+    const RegistryAPI store =
+        StoreThatTells(RegistryAPI::UserStore(), window.GetMessages(), TodayInWords);
     FileCommands files(window, LoanStore(store));
     PictureDialog pictures;
     const OptionsCommands options(window, store, pictures);
@@ -92,6 +96,7 @@ int Run(const RegistryAPI& store, const StoreCondition& condition, MessageBoxes&
         }
         SaveSettings(store, window.GetSettings());
         KeepPlace(window, kept);
+        window.GetMessages().ShowRest(); // with the window gone, nobody would wait for an answer
         return true;
     });
     RestorePlace(window, kept);
@@ -102,8 +107,7 @@ int Run(const RegistryAPI& store, const StoreCondition& condition, MessageBoxes&
 
 /// Looks at the store while the toolkit gets ready.
 std::future<StoreCondition> BeginLook(const std::filesystem::path& store) {
-    const std::string today = QDate::currentDate().toString(Qt::ISODate).toStdString();
-    return std::async([store, today] { return PrepareStore(store, today); });
+    return std::async([store, today = TodayInWords()] { return PrepareStore(store, today); });
 }
 
 } // namespace
@@ -126,7 +130,7 @@ int main(int argc, char* argv[]) {
         messages.Show(*obstacle);
         return 1;
     }
-    const int result = Run(store, condition, messages);
+    const int result = Run(condition, messages);
     TidyStore(RegistryAPI::UserStore());
     return result;
 }

@@ -8,22 +8,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include <array>
-
 namespace {
-
-struct LabelText {
-    QFileDialog::DialogLabel label;
-    int text;
-};
-
-constexpr std::array LabelTexts{
-    LabelText{QFileDialog::LookIn, TextNumber::PictureLookIn},
-    LabelText{QFileDialog::FileName, TextNumber::PictureFileName},
-    LabelText{QFileDialog::FileType, TextNumber::PictureFileType},
-    LabelText{QFileDialog::Accept, TextNumber::PictureOpen},
-    LabelText{QFileDialog::Reject, TextNumber::Cancel},
-};
 
 /// The folder asked for; where that is not there, the user's pictures or home.
 QString ExistingFolder(const QString& folder) {
@@ -53,9 +38,6 @@ QString PictureDialog::Choose(QWidget& parent, const PictureRequest& request) {
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters(Filters());
     dialog.setDefaultSuffix(QStringLiteral("bmp"));
-    for (const LabelText& shown : LabelTexts) {
-        dialog.setLabelText(shown.label, GetResourceText(shown.text));
-    }
     dialog.setDirectory(ExistingFolder(request.folder));
     if (QFileInfo(request.file).isFile()) {
         dialog.selectFile(QFileInfo(request.file).absoluteFilePath());

@@ -7,12 +7,14 @@
 #include "ui_HelpWindow.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QShortcut>
 #include <QWindow>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -37,6 +39,9 @@ HelpWindow::HelpWindow(const HelpPlace& place)
     m_ui->setupUi(this);
     setAttribute(Qt::WA_QuitOnClose, false);
     m_ui->splHelp->setStretchFactor(1, 1);
+    // Titles wider than their side are scrolled to, not cut.
+    m_ui->treContents->header()->setStretchLastSection(false);
+    m_ui->treContents->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_ui->lblNotFound->hide();
     m_keywords.setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_keywords.setSortCaseSensitivity(Qt::CaseInsensitive);
@@ -57,6 +62,8 @@ HelpWindow::~HelpWindow() {
 }
 
 void HelpWindow::Wire() {
+    m_ui->splHelp->installEventFilter(this);
+    connect(m_ui->splHelp, &QSplitter::splitterMoved, this, [this] { m_sideSet = true; });
     connect(m_ui->cmdBack, &QPushButton::clicked, m_ui->txtPage, &QTextBrowser::backward);
     connect(m_ui->cmdForward, &QPushButton::clicked, m_ui->txtPage, &QTextBrowser::forward);
     connect(m_ui->txtPage, &QTextBrowser::backwardAvailable, m_ui->cmdBack, &QWidget::setEnabled);
@@ -124,8 +131,29 @@ void HelpWindow::SetBook(std::shared_ptr<HelpBook> book) {
     ShowPage(!before.isEmpty() && m_book->Has(same) ? same : m_book->FirstPage());
 }
 
+/// A third of the window, and where the titles of the contents need it up to half of it.
+void HelpWindow::FitSide() {
+    if (m_sideSet) {
+        return;
+    }
+    const QTreeView& contents = *m_ui->treContents;
+    const int around = m_ui->tabHelp->width() - contents.viewport()->width();
+    const int needed = contents.header()->sectionSize(0) + around;
+    const int all = m_ui->splHelp->width();
+    const int side = std::clamp(needed, all / 3, all / 2);
+    m_ui->splHelp->setSizes({side, all - side});
+}
+
+bool HelpWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_ui->splHelp && event->type() == QEvent::Resize) {
+        FitSide();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void HelpWindow::UnfoldContents() {
     m_ui->treContents->expandAll();
+    FitSide();
     m_ui->treContents->setCurrentIndex(m_ui->treContents->model()->index(0, 0));
 }
 
@@ -217,8 +245,6 @@ void HelpWindow::Place(const QWidget& beside) {
         const QRect within = framed ? place.marginsRemoved(framed->frameMargins()) : place;
         resize(within.size());
         move(place.topLeft());
-        const int side = place.width() / 3;
-        m_ui->splHelp->setSizes({side, place.width() - side});
     }
 }
 

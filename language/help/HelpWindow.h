@@ -47,6 +47,7 @@ public:
     QUrl PageInView() const;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -55,6 +56,7 @@ private:
     void Raise(QWidget& beside);
     void BelongTo(const QWidget* dialog);
     void Place(const QWidget& beside);
+    void FitSide();
     void UnfoldContents();
     void ShowPage(const QUrl& page);
     void ShowChapter(const QModelIndex& chapter);
@@ -66,6 +68,7 @@ private:
     std::unique_ptr<Ui::HelpWindow> m_ui;
     HelpPlace m_place;
     bool m_placed = false;
+    bool m_sideSet = false; ///< by the user
     std::shared_ptr<HelpBook> m_book;
     QSortFilterProxyModel m_keywords;
 };

@@ -7,12 +7,15 @@ well, 1 when the window did not do as it should, 2 when the scenario is at fault
 from __future__ import annotations
 
 import argparse
+import subprocess
 import sys
+from contextlib import ExitStack
 from pathlib import Path
 
 from accessibility import BusError
 from controls import Texts
-from scenario import Malformed, Reading, parse, play
+from printlab import PrintLab
+from scenario import Malformed, Reading, parse, play, prints
 from session import Session, run
 from waiting import Expired
 from window import Refused, Window
@@ -50,13 +53,13 @@ def main() -> int:
     except (OSError, Malformed) as error:
         print(f"driver: {error}", file=sys.stderr)
         return 2
-    with Session(given.locale, noisy=given.noisy) as session:
-        window = None
+    with Session(given.locale, noisy=given.noisy) as session, ExitStack() as ending:
         try:
-            window = Window(session, given.program, texts, given.deadline)
+            lab = ending.enter_context(PrintLab(session)) if prints(steps) else None
+            window = Window(session, given.program, texts, given.deadline, lab)
             for reading in play(window, steps):
                 _show(reading)
-        except (Refused, Expired, BusError, OSError) as error:
+        except (Refused, Expired, BusError, OSError, subprocess.SubprocessError) as error:
             print(f"driver: {error}", file=sys.stderr)
             return 1
         finally:

@@ -41,6 +41,9 @@ class Box:
     def middle(self) -> tuple[int, int]:
         return self.x + self.width // 2, self.y + self.height // 2
 
+    def has(self, x: int, y: int) -> bool:
+        return self.x <= x < self.x + self.width and self.y <= y < self.y + self.height
+
 
 class Bus:
     """A connection to the accessibility bus of one session."""

@@ -17,6 +17,7 @@ _LIST = frozenset({"combo box"})
 _CHECK = frozenset({"check box"})
 _BUTTON = frozenset({"push button", "button"})
 _DATE = frozenset({"spin box", "spin button", "text"})
+_BAR = frozenset({"scroll bar"})
 _MENU = frozenset({"menu item", "menu", "check menu item", "radio menu item"})
 
 
@@ -51,6 +52,7 @@ _SINGLE = {
     "txtCurAmountLeft":     (_ENTRY,  409),
     "txtCurInterestLeft":   (_ENTRY,  410),
     "txtCurPayoffDate":     (_ENTRY,  411),
+    "vsbLoans":             (_BAR,    345),
     "cmdPayoffDate":        (_BUTTON, 237),
     "cmdInterest":          (_BUTTON, 238),
     "mnuFile":              (_MENU,   250),
@@ -66,6 +68,8 @@ _SINGLE = {
     "mnuToolsLanguageOpt(1)": (_MENU, 260),
     "mnuToolsLanguageOpt(2)": (_MENU, 261),
     "mnuHelp":              (_MENU,   262),
+    "mnuHelpContents":      (_MENU,   263),
+    "mnuHelpSearch":        (_MENU,   264),
     "mnuHelpAbout":         (_MENU,   64),
 }
 

@@ -113,7 +113,7 @@ def _open_again(window: Window, locale: str) -> None:
 def _print(window: Window, lab: PrintLab, file: Path) -> None:
     """Prints the worksheet as a user does, and keeps what comes out of the printer."""
     window.menu(["mnuFile", "mnuFilePrint"])
-    window.answer("@560")
+    window.answer("Print")
     window.progress()
     shutil.copyfile(lab.document(), file)
     print(f"report: {file}")

@@ -7,6 +7,7 @@ from collections.abc import Mapping, Sequence
 
 # Some programs lose key events that follow one another without any pause.
 _KEY_PAUSE_MS = "8"
+_POPUP_MARGIN = 24  # pixels from the edge of a pop-up, shadow and all, into its text
 
 
 class Hands:
@@ -47,6 +48,15 @@ class Hands:
             ["xdotool", "search", "--onlyvisible", "--maxdepth", "1", "--name", ".*"],
             env=self._environment, check=False, timeout=60, stdin=subprocess.DEVNULL,
             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True).stdout.split())
+
+    def last_line(self, window: str) -> tuple[int, int]:
+        """Where the last line of a pop-up begins."""
+        said = subprocess.run(["xdotool", "getwindowgeometry", "--shell", window],
+                              env=self._environment, check=True, timeout=60,
+                              stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True).stdout
+        place = dict(line.split("=") for line in said.split())
+        return (int(place["X"]) + _POPUP_MARGIN,
+                int(place["Y"]) + int(place["HEIGHT"]) - _POPUP_MARGIN)
 
     def move(self, x: int, y: int) -> None:
         self._run(["mousemove", str(x), str(y)])

@@ -2,13 +2,14 @@
 
 from __future__ import annotations
 
+import re
 import subprocess
 import tempfile
 from pathlib import Path
 from types import TracebackType
 
 from session import Session
-from waiting import wait_for
+from waiting import Expired, wait_for
 
 _SCRIPT = Path(__file__).resolve().parents[1] / "printlab"
 _START_SECONDS = 60
@@ -39,6 +40,29 @@ class PrintLab:
                  trace: TracebackType | None) -> None:
         self._end()
 
+    def printed(self) -> str:
+        """What has been printed: copies, and the document's pages, their orientation and words.
+
+        The printer gets its pages upright; the server's copy of the document lies as it was sent.
+        """
+        document = self.document()
+        jobs, sent = self._jobs(), self._jobs("d")
+        if len(jobs) != 1 or len(sent) != 1:
+            raise Expired(f"{len(jobs)} jobs of {len(sent)} documents instead of one of each")
+        pages, width, height = _pages(sent[0])
+        side = "landscape" if width > height else "portrait"
+        return f"{_copies(jobs[0])} copies, {pages} page, {side}: {_first_words(document)}"
+
+    def must_be_empty(self) -> None:
+        """Raises Expired when a job has come to the server, or a document to the printer."""
+        found = [file.name for file in [*self._jobs(), *(self._folder / "jobs").iterdir()]]
+        if found:
+            raise Expired(f"there are {found}")
+
+    def _jobs(self, kind: str = "c") -> list[Path]:
+        """What the server remembers of its jobs, one file each; "d" for their documents."""
+        return sorted((self._folder / "spool").glob(f"{kind}[0-9]*"))
+
     def document(self) -> Path:
         """The one document that has been printed; waits until the printer is done with it."""
         return wait_for("the printed document", self._whole_document, _PRINT_SECONDS)
@@ -60,3 +84,27 @@ class PrintLab:
             self._run("stop")
         finally:
             self._temporary.cleanup()
+
+
+def _copies(job: Path) -> int:
+    """From the attributes of a job as the protocol writes them: a tag, the name, a number."""
+    found = re.search(rb"\x21\x00\x06copies\x00\x04(.{4})", job.read_bytes(), re.DOTALL)
+    return int.from_bytes(found[1], "big") if found else 1
+
+
+def _ask(*words: str) -> str:
+    return subprocess.run(words, check=True, capture_output=True, text=True, timeout=30).stdout
+
+
+def _pages(document: Path) -> tuple[int, float, float]:
+    """How many, and the first one's width and height as it is read."""
+    said = _ask("pdfinfo", str(document))
+    size = re.search(r"Page size:\s+([\d.]+) x ([\d.]+)", said)
+    pages = re.search(r"Pages:\s+(\d+)", said)
+    if not size or not pages:
+        raise Expired(f"no sizes in {said!r}")
+    return int(pages[1]), float(size[1]), float(size[2])
+
+
+def _first_words(document: Path) -> str:
+    return " ".join(_ask("pdftotext", "-layout", str(document), "-").split()[:6])

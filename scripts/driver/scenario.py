@@ -15,6 +15,8 @@
     meet <text>                     starts another program, "neighbour", that gives this text
     drag <from> <to>                drags by the mouse from a field to another, or to the neighbour
     dragescape <from> <to>          the same, and presses Escape before letting go
+    dragon <from> <edge> <to>       drags to an edge of the rows, holds there until the last row has
+                                    scrolled there, and drops on it
     dragnothing <from> <to>         the same, where no drag may begin
     dragright <from> <to>           the same with the right button
     dragin <to>                     drags the neighbour's text to a field; prints what the neighbour
@@ -23,6 +25,18 @@
     dialog                          waits for a message box, prints its text and closes it
     answer <text>|@<n>              waits for a question, prints it and presses that button
     progress                        waits for a window that closes by itself, prints its text
+    look                            prints the text of the dialog that stands open
+    push <text>|@<n>                clicks on a button, choice or tab of the dialog in front
+    end <text>|@<n>                 clicks on a button that closes that dialog, and waits until it has
+    count <number> <text>|@<n>      types a number into the field of that name in the dialog
+    page                            waits for the help, prints the first line of its page
+    leave                           closes the window in front by Escape
+    ask <control>                   asks What's this? of a control, follows the link in the answer
+                                    and prints the first line of that page
+    tool <name>                     installs a tool that notes that it was started
+    started                         waits until it was started
+    printed                         waits for a document from the printer, prints what it is like
+    unprinted                       makes sure that the printer has got nothing
     expect <control> <text>         waits until the control shows the text
     read <control> ...              prints what each control shows
     name <control> ...              prints what a screen reader calls each control
@@ -34,6 +48,7 @@
     title                           prints the title of the window
     screenshot <file>               takes a picture of the window
     tree                            prints all controls there are
+    damage                          damages the store under the running program
     quit                            closes the window and waits for a good end
     close                           closes the window; a question may follow
     ended                           waits for a good end
@@ -89,6 +104,11 @@ def parse(lines: Iterable[str]) -> list[Step]:
     return steps
 
 
+def prints(steps: Iterable[Step]) -> bool:
+    """Whether a printer is needed."""
+    return any(step.command in ("printed", "unprinted") for step in steps)
+
+
 def play(window: Window, steps: Iterable[Step]) -> Iterator[Reading]:
     """Carries the steps out, giving each reading as it is made. Raises Refused."""
     for step in steps:
@@ -139,6 +159,7 @@ _HANDLERS: dict[str, Handler] = {
     "keystrokes": _deed(Window.keystrokes),
     "expect": _deed(Window.expect),
     "screenshot": _deed(lambda window, file, _: window.screenshot(Path(file))),
+    "damage": _deed(lambda window, *_: window.damage()),
     "quit": _deed(lambda window, *_: window.quit()),
     "close": _deed(lambda window, *_: window.close()),
     "ended": _deed(lambda window, *_: window.ended()),
@@ -147,17 +168,29 @@ _HANDLERS: dict[str, Handler] = {
     "meet": _deed(lambda window, *text: window.meet(" ".join(text).strip())),
     "drag": _deed(Window.drag),
     "dragescape": _deed(lambda window, *ends: window.drag(*ends, escape=True)),
+    "dragon": _deed(lambda window, start, ends: window.drag_on(start, *ends.split())),
     "dragnothing": _deed(Window.drag_nothing),
     "dragright": _deed(lambda window, *ends: window.drag_nothing(*ends, button=3)),
     "dragin": lambda window, field: [Reading("drag", window.drag_in(field))],
     "got": _note("got", Window.got),
     "answer": lambda window, rest: [Reading("answer", window.answer(rest))],
+    "look": _note("look", lambda window: window.dialogs.look()),
+    "push": _deed(lambda window, *text: window.dialogs.push(" ".join(text).strip())),
+    "end": _deed(lambda window, *text: window.dialogs.end(" ".join(text).strip())),
+    "count": _deed(lambda window, number, name: window.dialogs.count(name, number)),
+    "page": _note("page", lambda window: window.dialogs.page()),
+    "leave": _deed(lambda window, *_: window.dialogs.leave()),
+    "ask": lambda window, control: [Reading("ask", window.ask(control))],
+    "tool": _deed(lambda window, name, _: window.session.install(name)),
+    "started": _note("started", Window.started),
+    "printed": _note("printed", lambda window: window.lab.printed()),
+    "unprinted": _deed(lambda window, *_: window.lab.must_be_empty()),
     "read": _look(Window.read),
     "name": _look(lambda window, control: window.find(control).name()),
     "describe": _look(Window.describe),
     "dialog": _note("dialog", Window.dialog),
     "progress": _note("progress", Window.progress),
-    "helped": _note("help", Window.helped),
+    "helped": _note("help", lambda window: window.dialogs.helped()),
     "components": lambda window, _: [Reading("component", name) for name in window.components()],
     "class": _note("class", Window.desktop_class),
     "title": _note("title", Window.title),

@@ -10,12 +10,13 @@ import ctypes
 import os
 import secrets
 import signal
+import sqlite3
 import subprocess
 import sys
 import tempfile
 import time
 from collections.abc import Callable, Mapping, Sequence
-from contextlib import ExitStack
+from contextlib import ExitStack, closing
 from pathlib import Path
 from types import FrameType, TracebackType
 from typing import NoReturn
@@ -95,6 +96,7 @@ class Session:
         self._cleanup = ExitStack()
         self.environment: dict[str, str] = {}
         self.folder = Path()
+        self.tools = Path()  # programs of the session's own, before all others
 
     def __enter__(self) -> Session:
         _LIBC.prctl(_PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0)
@@ -123,6 +125,34 @@ class Session:
             stderr=self._output if output is None else output,
             pass_fds=pass_fds, preexec_fn=_die_with_parent)
 
+    def install(self, tool: str) -> None:
+        """Puts a program of that name where programs are looked for first; it notes its start."""
+        file = self.tools / tool
+        file.write_text(f"#!/bin/sh\necho '{tool}' >>'{self.folder}/started'\n", encoding="utf-8")
+        file.chmod(0o755)
+
+    def started(self) -> str:
+        """Which tools were started; empty when none was."""
+        file = self.folder / "started"
+        return file.read_text(encoding="utf-8").strip() if file.exists() else ""
+
+    def damage(self) -> None:
+        """Writes over the first page of the store that the program keeps."""
+        store = next(Path(self.environment["XDG_DATA_HOME"]).rglob("Loan.store"))
+        with closing(sqlite3.connect(store)) as connection:
+            connection.execute("PRAGMA wal_checkpoint(TRUNCATE)")
+        with store.open("r+b") as file:
+            file.write(b"?" * 4_096)
+
+    @staticmethod
+    def components(process: int) -> list[str]:
+        """The language components that a process uses: by name where they stand beside its program."""
+        place = Path("/proc", str(process))
+        folder = (place / "exe").resolve().parent
+        used = {line.split(maxsplit=5)[-1] for line in (place / "maps").read_text().splitlines()}
+        return sorted(Path(file).name if Path(file).parent == folder else file
+                      for file in used if file.endswith(".Resources.so"))
+
     def _fresh_environment(self) -> dict[str, str]:
         """The caller's environment with this locale and folders that nobody has used before."""
         left_out = ("LC_", "LANG", "XDG_", "DBUS_", "WAYLAND_", "QT_", "AT_SPI")
@@ -134,7 +164,10 @@ class Session:
             environment["XDG_" + name] = str(folder)
         home = self.folder / "home"
         home.mkdir()
+        self.tools = self.folder / "tools"
+        self.tools.mkdir()
         environment.update(HOME=str(home), LC_ALL=self._locale,
+                           PATH=f"{self.tools}:{environment['PATH']}",
                            XAUTHORITY=str(self.folder / "xauthority"))
         return environment
 

@@ -15,14 +15,16 @@ from pathlib import Path
 from accessibility import (ACTIVE, CHECKED, EXPANDED, FOCUSED, SHOWING, Bus, BusError,
                            Node)
 from controls import Texts, active_text_of, kind_of
+from dialogs import Dialogs, words_of
 from dragging import Drag, Neighbour
 from locales import decimal_sign, typed_date
 from pointer import Hands
+from printlab import PrintLab
 from session import Session
 from waiting import Expired, Found, wait_for
 
+_EDGE = 5  # pixels below the middle of a row's field: nearer to the edge, and still in the field
 _DIALOG_ROLES = frozenset({"alert", "alert message", "dialog"})
-_HELP_ROLES = frozenset({"filler"})  # that of a window which is neither main nor dialog
 _WINDOW_ROLES = frozenset({"frame", "window"})
 
 
@@ -33,12 +35,15 @@ class Refused(Exception):
 class Window:
     """The main window of one run of the program; it does not start or stop anything but that."""
 
-    def __init__(self, session: Session, program: Path, texts: Texts, seconds: float) -> None:
-        self._session = session
+    def __init__(self, session: Session, program: Path, texts: Texts, seconds: float,
+                 lab: PrintLab | None = None) -> None:
+        self.session = session
+        self.lab = lab
         self._program = program
         self._texts = texts
         self._seconds = seconds
         self._hands = Hands(session.environment)
+        self.dialogs = Dialogs(self._hands, texts, self._active, seconds)
         self._log = session.folder / "program.log"
         self._bus = Bus(session.environment["DBUS_SESSION_BUS_ADDRESS"])
         self.start(session.environment["LC_ALL"])
@@ -48,7 +53,7 @@ class Window:
         self._locale = locale
         self._known: dict[str, Node] = {}
         with self._log.open("ab") as log:
-            self._process = self._session.start(
+            self._process = self.session.start(
                 [str(self._program)],
                 {"LC_ALL": locale, "QT_QPA_PLATFORM": "xcb",
                  "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"},
@@ -65,22 +70,28 @@ class Window:
         if code is not None:
             raise Refused(f"the program ended by itself (exit code {code})")
 
-    def _top(self, roles: frozenset[str], state: int) -> Node | None:
-        """The window of those roles that is in that state, if there is one."""
+    def _top(self, roles: frozenset[str] | None, state: int) -> Node | None:
+        """The window of those roles, or of any, that is in that state, if there is one."""
         self._alive()
         try:
             tops = [top for program in self._bus.programs() for top in program.children()]
-            return next((top for top in tops if top.role() in roles and top.has(state)), None)
+            return next((top for top in tops
+                         if (roles is None or top.role() in roles) and top.has(state)), None)
         except BusError:
             return None
 
+    def _active(self) -> Node | None:
+        return self._top(None, ACTIVE)
+
     def _dialog_now(self) -> Node | None:
-        return self._top(_DIALOG_ROLES, SHOWING)
+        """Of several dialogs the one in front."""
+        dialog = self._top(_DIALOG_ROLES, SHOWING)
+        return dialog and (self._top(_DIALOG_ROLES, ACTIVE) or dialog)
 
     def _must_be_free(self) -> None:
         dialog = self._dialog_now()
         if dialog:
-            raise Refused(f"a message box stands in the way: {_words(dialog)!r}")
+            raise Refused(f"a message box stands in the way: {words_of(dialog)!r}")
 
     def _look_around(self) -> list[str]:
         """Notes each control that goes by a known name, and gives all the names there are.
@@ -159,7 +170,7 @@ class Window:
 
     def meet(self, text: str) -> None:
         """Starts another program beside the window, which gives this text to be dragged."""
-        self._neighbour = Neighbour(self._session, text, self._seconds)
+        self._neighbour = Neighbour(self.session, text, self._seconds)
 
     def drag(self, start: str, end: str, escape: bool = False) -> None:
         """Drags from one field to another or to the "neighbour"."""
@@ -173,6 +184,16 @@ class Window:
             self._neighbour.catch_up()
         if escape:
             self._hands.keys("Escape")
+        drag.end()
+
+    def drag_on(self, start: str, edge: str, end: str) -> None:
+        """Drags to a field at an edge of the rows, holds there until they have scrolled another field,
+        the last one there is, under the mouse, and drops on that."""
+        drag = self._begin(start)
+        drag.must_begin()
+        x, y = self._place(edge, "takes")
+        drag.over((x, y + _EDGE))
+        self._wait(f"{end} to come under the mouse", lambda: self.find(end).box().has(x, y + _EDGE))
         drag.end()
 
     def drag_nothing(self, start: str, end: str, button: int = 1) -> None:
@@ -239,6 +260,16 @@ class Window:
         self._must_be_free()
         self._hands.click(*self.find(control).box().middle())
 
+    def ask(self, control: str) -> str:
+        """Asks what a control is by the What's-this button, follows the link in the answer and gives
+        the first line of the page that it leads to."""
+        self.press("cmdWhatsThis")
+        before = self._hands.windows()
+        self._hands.click(*self.find(control).box().middle())
+        answer = self._wait("the answer", lambda: self._hands.windows() - before)
+        self._hands.click(*self._hands.last_line(next(iter(answer))))
+        return self.dialogs.page()
+
     def sort(self, control: str) -> None:
         """Clicks on the heading of a column and waits until it says that the offers are sorted."""
         self.press(control)
@@ -281,19 +312,20 @@ class Window:
         self._wait(f"{control} to be left", lambda: not _has_focus(node))
 
     def dialog(self, seconds: float | None = None) -> str:
-        """Waits for a message box, closes it by its button's key and gives its text."""
+        """Waits for a message box, closes it by its button's key and gives its text, in which places
+        are named from the session's folder on."""
         box = wait_for("a message box", self._dialog_now, seconds or self._seconds)
         wait_for("the message box to become active", lambda: box.has(ACTIVE), self._seconds)
-        words = _words(box)
+        words = words_of(box)
         self._hands.keys("Return")
-        self._wait("the message box to close", lambda: self._dialog_now() != box)
-        return words
+        self._wait_gone(box)
+        return words.replace(f"{self.session.folder}/", "")
 
     def answer(self, wanted: str) -> str:
         """Waits for a question, clicks on the button of that text, and gives the question's."""
         box = wait_for("a question", self._dialog_now, self._seconds)
         wait_for("the question to become active", lambda: box.has(ACTIVE), self._seconds)
-        words = _words(box)
+        words = words_of(box)
         names = self._texts.shown(int(wanted[1:])) if wanted.startswith("@") else {wanted}
         buttons = [part for part in box.walk() if part.role() in ("push button", "button")]
         button = next((part for part in buttons if part.name() in names), None)
@@ -303,10 +335,14 @@ class Window:
         self._wait_gone(box)
         return words
 
+    def started(self) -> str:
+        """Which tool was started; waits until one was."""
+        return self._wait("a tool to be started", self.session.started)
+
     def progress(self) -> str:
         """Waits for a window that closes by itself, gives its text, and waits until it has."""
         box = wait_for("a window to open", self._dialog_now, self._seconds)
-        words = _words(box)
+        words = words_of(box)
         self._wait_gone(box)
         return words
 
@@ -315,10 +351,6 @@ class Window:
         wait_for("the dialog to close",
                  lambda: self._process.poll() is not None or self._dialog_now() != box,
                  self._seconds)
-
-    def dialog_if_any(self) -> str:
-        """Closes a message box that stands open, and gives its text; empty where there is none."""
-        return self.dialog() if self._dialog_now() else ""
 
     # What the user reads
 
@@ -380,29 +412,7 @@ class Window:
         file.parent.mkdir(parents=True, exist_ok=True)
         self._hands.rest()
         subprocess.run(["scrot", "--overwrite", "--focused", "--border", str(file)], check=True, timeout=60,
-                       env=self._session.environment, stdin=subprocess.DEVNULL)
-
-    def helped(self) -> str:
-        """Waits for the help window, closes it and gives its title."""
-        def opened() -> Node | None:
-            return self._top(_HELP_ROLES, ACTIVE)
-
-        title = self._wait("the help window to open", opened).name()
-        self.close()
-        self._wait("the help window to close", lambda: self._frame.has(ACTIVE))
-        return title
-
-    def components(self) -> list[str]:
-        """The language components in use: by name where they stand beside the program."""
-        process = Path("/proc", str(self._process.pid))
-        folder = (process / "exe").resolve().parent
-        used = {line.split(maxsplit=5)[-1] for line in (process / "maps").read_text().splitlines()}
-        return sorted(Path(file).name if Path(file).parent == folder else file
-                      for file in used if file.endswith(".Resources.so"))
-
-    def said(self) -> str:
-        """What the program wrote to its terminal so far."""
-        return self._log.read_text(encoding="utf-8", errors="replace").strip()
+                       env=self.session.environment, stdin=subprocess.DEVNULL)
 
     def close(self) -> None:
         """Closes the window as its frame's cross does. A question may follow."""
@@ -418,6 +428,15 @@ class Window:
         """Closes the window where nothing is to be asked, and waits for the program to end well."""
         self.close()
         self.ended()
+
+    def damage(self) -> None:
+        """Damages the store once the program has done all that it was told."""
+        self.title()
+        self.session.damage()
+
+    def components(self) -> list[str]:
+        """The language components in use, as the session tells them."""
+        return self.session.components(self._process.pid)
 
     def kill(self) -> None:
         """Ends the program as a failure of power does."""
@@ -476,9 +495,3 @@ def _open_items(node: Node) -> list[Node]:
     if not node.has(EXPANDED):
         return []
     return [item for part in node.children() if part.role() == "list" for item in part.children()]
-
-
-def _words(dialog: Node) -> str:
-    """The text of a message box."""
-    return "\n".join(part.name() for part in dialog.walk()
-                     if part.role() == "label" and part.name())

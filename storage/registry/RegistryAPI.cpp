@@ -6,8 +6,6 @@
 #include "StoreStep.h"
 #include "ValueBytes.h"
 
-#include <QDate>
-
 namespace {
 
 Failure NotMade() { return {1001, "", "Unable to create the registry key"}; }
@@ -64,8 +62,9 @@ std::shared_ptr<StoreStep> StartReading(const std::filesystem::path& store,
 
 } // namespace
 
-RegistryAPI::RegistryAPI(std::filesystem::path store, std::chrono::milliseconds wait)
-    : m_store(std::move(store)), m_wait(wait) {}
+RegistryAPI::RegistryAPI(std::filesystem::path store, std::chrono::milliseconds wait,
+                         RepairDoor door)
+    : m_store(std::move(store)), m_wait(wait), m_door(std::move(door)) {}
 
 bool RegistryAPI::Read(const std::function<void(KeyTree&)>& reading) const {
     if (m_step) {
@@ -205,12 +204,23 @@ void RegistryAPI::InOneStep(const std::function<void(const RegistryAPI&)>& steps
     try {
         return TryStep(steps);
     } catch (const DamageMet&) {
-        const std::string today = QDate::currentDate().toString(Qt::ISODate).toStdString();
-        if (m_step || !RepairStore(m_store, today)) {
+        if (m_step || !Repair()) {
             throw;
         }
     }
     TryStep(steps);
+}
+
+bool RegistryAPI::Repair() const {
+    if (!m_door.today) {
+        return false;
+    }
+    const StoreCondition condition = RepairStore(m_store, m_door.today());
+    const bool repaired = condition.state == StoreCondition::State::Repaired;
+    if (repaired && m_door.repaired) {
+        m_door.repaired(condition.keptAs);
+    }
+    return repaired;
 }
 
 void RegistryAPI::TryStep(const std::function<void(const RegistryAPI&)>& steps) const {

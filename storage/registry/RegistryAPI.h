@@ -28,6 +28,14 @@ using RegistryValue = std::variant<std::string, std::vector<std::byte>, std::int
 
 constexpr std::int32_t RegistryFlag(bool set) { return set ? -1 : 0; }
 
+/// What a repair of the store in the middle of a step asks of the world outside, and tells it.
+struct RepairDoor {
+    /// Stands in the name of the damaged file, as in 2026-11-21. Without it nothing is repaired.
+    std::function<std::string()> today;
+    /// Called once for each repair, before the step is made again; may be empty.
+    std::function<void(const std::filesystem::path& keptAs)> repaired;
+};
+
 class KeyTree;
 class StoreStep;
 
@@ -36,9 +44,9 @@ class StoreStep;
 /// case. An empty value name addresses the key's default value.
 ///
 /// Stateless: every procedure opens what it needs and closes it again. It remembers the place of
-/// the store and nothing else, so copies are equal. Reads of what is missing or out of reach give
-/// the caller's default, writes that cannot be made do nothing; the two failures raised are named
-/// below.
+/// the store and the door of its repair and nothing else, so copies are equal. Reads of what is
+/// missing or out of reach give the caller's default, writes that cannot be made do nothing; the
+/// two failures raised are named below.
 class RegistryAPI {
 public:
     /// The length of the one blank name that stands for no subkeys.
@@ -48,7 +56,8 @@ public:
 
     /// `store` is the full path of the file that holds the store where the platform has no registry
     /// of its own; it and its folders need not exist, CreateKey and InOneStep make them.
-    explicit RegistryAPI(std::filesystem::path store, std::chrono::milliseconds wait = UsualWait);
+    explicit RegistryAPI(std::filesystem::path store, std::chrono::milliseconds wait = UsualWait,
+                         RepairDoor door = {});
 
     /// Where the store of this user lives by the rules of the platform.
     static std::filesystem::path UserStore();
@@ -89,7 +98,8 @@ public:
 
     /// Runs `steps` on the store as one step: either all that it writes is kept or nothing, and all
     /// that it reads is of one moment. Waits a few seconds for another program that is writing.
-    /// When it meets damage the store is repaired, and `steps` run once more from the beginning.
+    /// When it meets damage the store is repaired, if it was given a door for that, and `steps` run
+    /// once more from the beginning.
     /// Throws what `steps` throws, with nothing kept; and Failure 1001 "Unable to create the
     /// registry key" when the step could not be made, because the store cannot be written to, the
     /// disk is full, or the wait was in vain. Where the platform's registry knows no such steps the
@@ -101,11 +111,13 @@ public:
     void ReadInOneStep(const std::function<void(const RegistryAPI&)>& steps) const;
 
 private:
+    bool Repair() const;
     void TryStep(const std::function<void(const RegistryAPI&)>& steps) const;
     bool Read(const std::function<void(KeyTree&)>& reading) const;
     bool Write(const std::function<void(KeyTree&)>& writing, bool makesStore = false) const;
 
     std::filesystem::path m_store;
     std::chrono::milliseconds m_wait;
+    RepairDoor m_door;
     std::shared_ptr<StoreStep> m_step; ///< the step that this one belongs to, if any
 };

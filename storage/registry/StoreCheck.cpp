@@ -174,13 +174,14 @@ StoreCondition PrepareStore(const fs::path& store, const std::string& today) {
     }
 }
 
-bool RepairStore(const fs::path& store, const std::string& today) {
+StoreCondition RepairStore(const fs::path& store, const std::string& today) {
     try {
         const StoreFile::FolderLock lock(store.parent_path(), Wait);
-        return KindOf(StoreImage(store)) != StoreKind::Newer &&
-               Repair(store, today).state == Condition::Repaired;
+        return KindOf(StoreImage(store)) == StoreKind::Newer
+                   ? StoreCondition{Condition::Newer, {}, 0, 0}
+                   : Repair(store, today);
     } catch (const StoreError&) {
-        return false;
+        return {Condition::Unusable, {}, 0, 0};
     }
 }
 

@@ -28,8 +28,8 @@ struct StoreCondition {
 StoreCondition PrepareStore(const std::filesystem::path& store, const std::string& today);
 
 /// Repairs a store in which a step met damage, whatever the look at it says; as PrepareStore does.
-/// False when it cannot be done, and for a store of a later version. Throws nothing.
-bool RepairStore(const std::filesystem::path& store, const std::string& today);
+/// Any state but Repaired: it was not done, as for a store of a later version. Throws nothing.
+StoreCondition RepairStore(const std::filesystem::path& store, const std::string& today);
 
 /// Leaves the store as one file without a long log beside it. For the program's end; does nothing
 /// when it cannot be done, or need not.

@@ -129,8 +129,9 @@ std::vector<std::string> NamesBelow(HKEY key) {
 
 } // namespace
 
-RegistryAPI::RegistryAPI(std::filesystem::path store, std::chrono::milliseconds wait)
-    : m_store(std::move(store)), m_wait(wait) {}
+RegistryAPI::RegistryAPI(std::filesystem::path store, std::chrono::milliseconds wait,
+                         RepairDoor door)
+    : m_store(std::move(store)), m_wait(wait), m_door(std::move(door)) {}
 
 std::filesystem::path RegistryAPI::UserStore() { return {}; }
 

@@ -4,6 +4,6 @@
 
 StoreCondition PrepareStore(const std::filesystem::path&, const std::string&) { return {}; }
 
-bool RepairStore(const std::filesystem::path&, const std::string&) { return false; }
+StoreCondition RepairStore(const std::filesystem::path&, const std::string&) { return {}; }
 
 void TidyStore(const std::filesystem::path&) {}

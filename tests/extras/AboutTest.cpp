@@ -75,10 +75,21 @@ TEST_P(About, TellsTheVersionRecord) {
                                                     .arg(VersionRecord::Major)
                                                     .arg(VersionRecord::Minor)
                                                     .arg(VersionRecord::Revision));
-        EXPECT_EQ(TextOf(dialog, "lblDescription"), QLatin1String(VersionRecord::Comments));
-        EXPECT_EQ(TextOf(dialog, "lblDisclaimer"), QLatin1String(VersionRecord::LegalNotice));
+        EXPECT_EQ(TextOf(dialog, "lblDescription"),
+                  english ? u"A loan calculator for people shopping for a loan"
+                          : u"Una calculadora de préstamos para quien busca un préstamo");
+        EXPECT_EQ(TextOf(dialog, "lblDisclaimer"),
+                  english ? u"Copyright 2026 Quend Halverworks. Figures are estimates and no offer "
+                            u"of credit."
+                          : u"Copyright 2026 Quend Halverworks. Las cifras son estimaciones y no "
+                            u"una oferta de crédito.");
         EXPECT_FALSE(dialog.findChild<QLabel*>(QStringLiteral("picIcon"))->pixmap().isNull());
     });
+}
+
+TEST(VersionRecord, SpeaksEnglishWhereItDoesNotKnowTheLanguage) {
+    EXPECT_STREQ(VersionRecord::WordsIn("deut").comments, VersionRecord::Comments);
+    EXPECT_STREQ(VersionRecord::WordsIn("").legalNotice, VersionRecord::LegalNotice);
 }
 
 TEST_P(About, KeyboardAloneSuffices) {

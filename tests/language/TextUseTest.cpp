@@ -1,11 +1,10 @@
+#include "Forms.h"
 #include "Language.h"
 #include "ProgramFolder.h"
 #include "TextNumbers.h"
 #include "TextTable.h"
 
-#include <QDirIterator>
 #include <QRegularExpression>
-#include <QXmlStreamReader>
 
 #include <gtest/gtest.h>
 
@@ -25,43 +24,17 @@ const std::set<QString> TextProperties{
 /// A text's number, and where it is asked for.
 using Uses = std::multimap<int, std::string>;
 
-/// The numbers that a form names by its dynamic properties.
-Uses UsesOfForm(const std::string& name, const QByteArray& form) {
+Uses UsesOf(const std::vector<FormNumber>& numbers) {
     Uses uses;
-    QXmlStreamReader reader(form);
-    QString property;
-    while (!reader.atEnd()) {
-        if (reader.readNext() != QXmlStreamReader::StartElement) {
-            continue;
-        }
-        if (reader.name() == u"property") {
-            property = reader.attributes().value(QLatin1String("name")).toString();
-        } else if (reader.name() == u"number" && TextProperties.contains(property)) {
-            uses.emplace(reader.readElementText().toInt(), name + ", " + property.toStdString());
-        }
+    for (const FormNumber& named : numbers) {
+        uses.emplace(named.number,
+                     (named.form + QStringLiteral(", ") + named.property).toStdString());
     }
-    EXPECT_FALSE(reader.hasError()) << name << ": " << reader.errorString().toStdString();
     return uses;
 }
 
-std::vector<QString> Forms() {
-    std::vector<QString> forms;
-    // The program's own folders: a build folder inside the tree may hold copies.
-    for (const char* folder : {"worksheet", "storage", "printing", "extras", "language"}) {
-        QDirIterator files(QStringLiteral(QUEND_SOURCE_DIR "/") + QString::fromUtf8(folder),
-                           {QStringLiteral("*.ui")}, QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            forms.push_back(files.next());
-        }
-    }
-    return forms;
-}
-
 Uses AllUses() {
-    Uses uses;
-    for (const QString& form : Forms()) {
-        uses.merge(UsesOfForm(form.toStdString(), BytesOf(form)));
-    }
+    Uses uses = UsesOf(NumbersOfForms(TextProperties));
     for (const int number : TextNumber::All) {
         uses.emplace(number, "TextNumbers.h");
     }
@@ -81,7 +54,7 @@ TEST(TextUse, EveryNumberUsedHasAText) {
 }
 
 TEST(TextUse, EveryTextIsUsed) {
-    ASSERT_FALSE(Forms().empty());
+    ASSERT_FALSE(NumbersOfForms(TextProperties).empty());
     const Uses uses = AllUses();
     const TextTable table = EnglishTable();
     for (const auto& [number, text] : table.Texts()) {
@@ -113,7 +86,7 @@ TEST(TextUse, BuiltInTextsAreThoseOfTheEnglishTable) {
 }
 
 TEST(TextUse, FormsAreReadByTheirTextProperties) {
-    const Uses uses = UsesOfForm("form", R"(<ui><widget>
+    const auto form = NumbersOfForm(QStringLiteral("form"), R"(<ui><widget>
         <property name="text"><string>5</string></property>
         <property name="maxLength"><number>6</number></property>
         <property name="helpTopic" stdset="0"><number>7</number></property>
@@ -122,10 +95,11 @@ TEST(TextUse, FormsAreReadByTheirTextProperties) {
         <property name="toolTipText" stdset="0"><number>300</number></property>
         <property name="accessibleText" stdset="0"><number>400</number></property>
         <property name="hintText" stdset="0"><number>450</number></property>
-        </widget></ui>)");
+        </widget></ui>)",
+                                    TextProperties);
     std::vector<int> numbers;
-    for (const auto& [number, where] : uses) {
-        numbers.push_back(number);
+    for (const FormNumber& named : form) {
+        numbers.push_back(named.number);
     }
     EXPECT_EQ((std::vector{201, 205, 300, 400, 450}), numbers);
 }

@@ -23,6 +23,7 @@
 #include <QTimer>
 
 #include <iostream>
+#include <span>
 
 namespace {
 
@@ -250,19 +251,39 @@ TEST_F(ServerOnlyTest, TheDialogAsksForPaperAndCopiesAlone) {
     EXPECT_EQ(asked, 1);
 }
 
-TEST_F(ServerOnlyTest, TheDialogSpeaksTheLanguageInUse) {
+TEST_F(ServerOnlyTest, TheDialogsSpeakTheLanguageInUse) {
+    struct {
+        int language;
+        QStringList print;
+        QStringList setUp;
+        QStringView landscape;
+    } const table[]{
+        {English,
+         {u"Print"_qs, u"&Print"_qs, u"Cancel"_qs},
+         {u"Print Setup"_qs, u"OK"_qs, u"Cancel"_qs},
+         u"Landscape"},
+        {Spanish,
+         {u"Imprimir"_qs, u"Im&primir"_qs, u"Cancelar"_qs},
+         {u"Configurar impresión"_qs, u"Aceptar"_qs, u"Cancelar"_qs},
+         u"Apaisado"},
+    };
     Begin();
-    SwitchLanguage(Spanish);
-    int asked = 0;
-    Print([&](QPrintDialog& dialog) {
-        ++asked;
-        const auto* buttons = dialog.findChild<QDialogButtonBox*>();
-        EXPECT_EQ(buttons->button(QDialogButtonBox::Ok)->text(), u"Im&primir");
-        EXPECT_EQ(buttons->button(QDialogButtonBox::Cancel)->text(), u"Cancelar");
-        EXPECT_EQ(dialog.windowTitle(), u"Imprimir");
-        dialog.reject();
-    });
-    EXPECT_EQ(asked, 1);
+    for (const std::size_t which : {0U, 1U, 0U}) {
+        const auto& row = std::span(table)[which];
+        SwitchLanguage(row.language);
+        QStringList shown;
+        const auto look = [&](QPrintDialog& dialog) {
+            const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+            shown += {dialog.windowTitle(), buttons->button(QDialogButtonBox::Ok)->text(),
+                      buttons->button(QDialogButtonBox::Cancel)->text().remove(u'&')};
+            dialog.reject();
+        };
+        Print(look);
+        const DialogAnswer setUp(look);
+        Window().Form().mnuFilePrintSetup->trigger();
+        EXPECT_EQ(shown, row.print + row.setUp);
+        EXPECT_EQ(QCoreApplication::translate("QPageSetupWidget", "Landscape"), row.landscape);
+    }
 }
 
 TEST_F(ServerOnlyTest, SetUpChoosesThePrinterAndStartsNoJob) {

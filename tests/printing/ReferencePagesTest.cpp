@@ -4,6 +4,7 @@
 #include "FormReader.h"
 #include "PagePainter.h"
 #include "Report.h"
+#include "SampleSheet.h"
 #include "WindowFixture.h"
 
 #include <QImage>
@@ -30,18 +31,7 @@ void PrintTo(const ReferencePage& page, std::ostream* out) { *out << page.name; 
 class ReferencePages : public WindowTest, public testing::WithParamInterface<ReferencePage> {
 protected:
     void Fill() {
-        Worksheet& sheet = SheetToWrite();
-        sheet.SetLoanName(QStringLiteral("Our new home"));
-        sheet.SetLoanType(QStringLiteral("M"));
-        sheet.SetLoanAmount(Money::FromDouble(250'000));
-        sheet.SetLoanTerm(360);
-        sheet.SetEscrowTaxes(Money::FromDouble(3'600));
-        sheet.SetEscrowInsurance(Money::FromDouble(1'200));
-        sheet.SetCurrentLoanAmount(Money::FromDouble(230'000));
-        sheet.SetCurrentTerm(360);
-        sheet.SetCurrentInterestRate(0.0725);
-        sheet.SetCurrentBalance(Money::FromDouble(198'450.75));
-        sheet.SetCurrentActualPayment(Money::FromDouble(2'050));
+        FillSampleLoans(SheetToWrite());
         Window().Rows().GrowTo(Row{GetParam().rows - 1});
         for (int row = 0; row < GetParam().rows; ++row) {
             FillRow(Row{row});
@@ -54,7 +44,7 @@ protected:
         CLoan& offer = sheet.OfferOfRow(row);
         offer.SetPoints(row.value % 3 * 0.5);
         offer.SetFinancePoints(row.value % 3 == 1);
-        offer.SetInterestRate(0.055 + 0.00125 * row.value);
+        offer.SetInterestRate(SampleRate(row));
         offer.SetTerm(360);
         offer.SetFrequencyCode(
             QLatin1String(codes.at(static_cast<std::size_t>(row.value) % codes.size())));

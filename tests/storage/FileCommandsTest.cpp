@@ -5,6 +5,7 @@
 #include "Colours.h"
 #include "LoanNameBox.h"
 #include "StoreFolder.h"
+#include "StoreNotice.h"
 #include "WindowFixture.h"
 
 #include <QAbstractItemView>
@@ -12,6 +13,10 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QTest>
+
+#include <sqlite3.h>
+
+#include <fstream>
 
 namespace {
 
@@ -23,8 +28,23 @@ protected:
     void Begin(const Start& start, const RegistryAPI& store) {
         m_files.reset();
         Open(start);
+        Take(store);
+    }
+    /// Goes on with this store.
+    void Take(const RegistryAPI& store) {
+        m_files.reset();
         m_files = std::make_unique<FileCommands>(Window(), LoanStore(store));
         Window().OnUnload([this] { return m_files->MayDrop(); });
+    }
+
+    /// Writes over the first page of a store.
+    static void Damage(const std::filesystem::path& file) {
+        sqlite3* connection = nullptr;
+        ASSERT_EQ(sqlite3_open(file.c_str(), &connection), SQLITE_OK);
+        sqlite3_exec(connection, "PRAGMA wal_checkpoint(TRUNCATE)", nullptr, nullptr, nullptr);
+        sqlite3_close(connection);
+        std::fstream store(file, std::ios::in | std::ios::out | std::ios::binary);
+        store << std::string(4'096, '?');
     }
 
     void Trigger(QStringView entry) {
@@ -403,6 +423,39 @@ TEST_F(FileCommandsTest, BadValuesAreToldInOneMessage) {
         << told.front().toStdString();
     EXPECT_TRUE(told.front().endsWith(u"… (11)"));
     EXPECT_EQ(Text(u"txtLoanAmount"), u"$70,000.00");
+}
+
+/// The store is damaged while the program runs; the next save repairs it and is made.
+TEST_F(FileCommandsTest, ARepairInTheMiddleOfASaveIsToldOnce) {
+    struct {
+        int language;
+        QStringView told;
+    } const table[]{
+        {English,
+         u"The file with your saved worksheets was damaged. What could be read is in a new file: "
+         u"%2 worksheets. The damaged file has been kept as %1"},
+        {Spanish, u"El archivo con sus hojas de trabajo guardadas estaba dañado. Lo que se pudo "
+                  u"leer está en un archivo nuevo: %2 hojas de trabajo. El archivo dañado se "
+                  u"conservó como %1"},
+    };
+    for (const auto& row : table) {
+        const StoreFolder folder;
+        Begin({.language = row.language}, folder.Store());
+        Take(StoreThatTells(folder.File(), Window().GetMessages(),
+                            [] { return std::string("2026-11-21"); }));
+        KeepLoan(u"Alpha", u"1000");
+        Damage(folder.File());
+        KeepLoan(u"Beta", u"2000");
+        const QString kept =
+            QString::fromStdString(folder.File().string()) + QStringLiteral(".damaged-2026-11-21");
+        EXPECT_EQ(SettledMessages(), QStringList(row.told.toString().arg(kept).arg(1)));
+        EXPECT_TRUE(QFile::exists(kept));
+        KeepLoan(u"Gamma", u"3000");
+        EXPECT_EQ(SettledMessages().size(), 1);
+        EXPECT_EQ(LoanStore(folder.Store()).Names(),
+                  (QStringList{u"Alpha"_qs, u"Beta"_qs, u"Gamma"_qs}));
+        Door().Clear();
+    }
 }
 
 TEST_F(FileCommandsTest, EverythingIsAskedInSpanish) {

@@ -3,6 +3,7 @@
 #include "FakeMessages.h"
 #include "Messages.h"
 #include "PictureChooser.h"
+#include "UserHands.h"
 #include "WindowFixture.h"
 #include "frmOptions.h"
 
@@ -26,33 +27,14 @@ public:
     std::vector<PictureRequest> requests;
 };
 
-/// The dialog as a user meets it: on the screen, active, in a fixed language. Keys and clicks go
-/// through the window system.
-class OptionsDialog : public ::testing::Test {
+/// The dialog as a user meets it: on the screen, active, in a fixed language.
+class OptionsDialog : public ::testing::Test, protected UserHands {
 protected:
     OptionsDialog();
 
     void Open(const Settings& settings = {}, int language = English);
     frmOptions& Dialog() { return *m_dialog; }
 
-    /// The control of this name. Throws when there is none.
-    QWidget& Control(QStringView name) const;
-    template <class Kind>
-    Kind& Get(QStringView name) const {
-        if (auto* control = qobject_cast<Kind*>(&Control(name))) {
-            return *control;
-        }
-        throw std::runtime_error("of another kind: " + name.toString().toStdString());
-    }
-    /// What a field or label shows.
-    QString Text(QStringView name) const;
-    static QString FocusName();
-
-    void Click(QStringView name);
-    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    void Tab() { Press(Qt::Key_Tab); }
-    void Type(QStringView text);
-    void Paste(QStringView text);
     /// Into the field, whose text is replaced.
     void TypeInto(QStringView name, QStringView text);
     /// The messages there are once everything has happened.
@@ -69,6 +51,8 @@ protected:
     FakePictures m_pictures;
 
 private:
+    QWidget& UsersWindow() const override { return *m_dialog; }
+
     QTemporaryDir m_folder;
     std::unique_ptr<frmOptions> m_dialog;
 };

@@ -81,22 +81,12 @@ TEST_F(LookingForAPicture, SpeaksTheLanguageOfTheUser) {
         QString bitmaps;
         QString pictures;
         QString all;
-        QStringList labels;
     };
     const std::vector<Case> cases = {
-        {English,
-         u"Choose a background picture"_qs,
-         u"Bitmaps (*.bmp)"_qs,
-         u"Pictures ("_qs,
-         u"All files (*)"_qs,
-         {u"Look in:"_qs, u"File name:"_qs, u"Files of type:"_qs, u"Open"_qs, u"Cancel"_qs}},
-        {Spanish,
-         u"Elegir una imagen de fondo"_qs,
-         u"Mapas de bits (*.bmp)"_qs,
-         u"Imágenes ("_qs,
-         u"Todos los archivos (*)"_qs,
-         {u"Buscar en:"_qs, u"Nombre de archivo:"_qs, u"Tipo de archivo:"_qs, u"Abrir"_qs,
-          u"Cancelar"_qs}},
+        {English, u"Choose a background picture"_qs, u"Bitmaps (*.bmp)"_qs, u"Pictures ("_qs,
+         u"All files (*)"_qs},
+        {Spanish, u"Elegir una imagen de fondo"_qs, u"Mapas de bits (*.bmp)"_qs, u"Imágenes ("_qs,
+         u"Todos los archivos (*)"_qs},
     };
     for (const Case& tested : cases) {
         Open({}, tested.language);
@@ -111,13 +101,6 @@ TEST_F(LookingForAPicture, SpeaksTheLanguageOfTheUser) {
                 EXPECT_TRUE(filters[1].contains(ending)) << filters[1].toStdString();
             }
             EXPECT_EQ(filters[2], tested.all);
-            QStringList labels;
-            for (const auto label :
-                 {QFileDialog::LookIn, QFileDialog::FileName, QFileDialog::FileType,
-                  QFileDialog::Accept, QFileDialog::Reject}) {
-                labels.append(dialog.labelText(label).remove(u'&'));
-            }
-            EXPECT_EQ(labels, tested.labels);
         });
     }
 }

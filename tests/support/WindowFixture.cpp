@@ -2,14 +2,10 @@
 
 #include "Language.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QContextMenuEvent>
-#include <QDateEdit>
-#include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -46,67 +42,12 @@ void WindowTest::Open(const Start& start) {
     ActivateAgain();
 }
 
-void WindowTest::ActivateAgain() {
-    m_window->activateWindow();
-    if (!QTest::qWaitForWindowActive(m_window.get())) {
-        throw std::runtime_error("the window does not become active");
-    }
-}
-
-QWidget& WindowTest::Control(QStringView name) const {
-    if (auto* control = m_window->findChild<QWidget*>(name.toString())) {
-        return *control;
-    }
-    QStringList names;
-    for (const QWidget* control : m_window->findChildren<QWidget*>()) {
-        if (!control->objectName().isEmpty()) {
-            names.append(control->objectName());
-        }
-    }
-    names.sort();
-    throw std::runtime_error("no control " + name.toString().toStdString() + "; there are " +
-                             names.join(u' ').toStdString());
-}
-
 QLineEdit& WindowTest::Edit(QStringView name) const { return Get<QLineEdit>(name); }
 QComboBox& WindowTest::List(QStringView name) const { return Get<QComboBox>(name); }
 QScrollBar& WindowTest::Bar() const { return Get<QScrollBar>(u"vsbLoans"); }
 
-QString WindowTest::Text(QStringView name) const {
-    const QWidget& control = Control(name);
-    const char* property = qobject_cast<const QComboBox*>(&control) ? "currentText" : "text";
-    return control.property(property).toString();
-}
-
-QString WindowTest::FocusName() {
-    const QWidget* focus = QApplication::focusWidget();
-    return focus ? focus->objectName() : QString();
-}
-
 QPoint WindowTest::PlaceInWindow(const QWidget& control, QPoint at) const {
     return control.mapTo(m_window.get(), at);
-}
-
-void WindowTest::Click(const QWidget& control, QPoint at) {
-    QTest::mouseClick(control.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
-                      control.mapTo(control.window(), at));
-}
-
-void WindowTest::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-    QTest::keyClick(m_window->windowHandle(), key, modifiers);
-}
-
-void WindowTest::Type(QStringView text) {
-    for (const QChar character : text) {
-        QTest::sendKeyEvent(QTest::Click, m_window->windowHandle(),
-                            static_cast<Qt::Key>(character.toUpper().unicode()), QString(character),
-                            Qt::NoModifier);
-    }
-}
-
-void WindowTest::Paste(QStringView text) {
-    QGuiApplication::clipboard()->setText(text.toString());
-    Press(Qt::Key_V, Qt::ControlModifier);
 }
 
 void WindowTest::Enter(QStringView name) {
@@ -163,14 +104,6 @@ void WindowTest::FillFirstOffer() {
 
 bool WindowTest::WaitFor(const std::function<bool()>& condition) {
     return QTest::qWaitFor(condition, 5000);
-}
-
-void WindowTest::Settle() {
-    constexpr int rounds = 6; // an event, the message it posts, what follows it, and back
-    for (int round = 0; round < rounds; ++round) {
-        QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents();
-    }
 }
 
 QStringList WindowTest::SettledMessages() {

@@ -2,6 +2,7 @@
 
 #include "FakeMessages.h"
 #include "Loan.h"
+#include "UserHands.h"
 
 #include <QLocale>
 #include <QPoint>
@@ -13,7 +14,6 @@
 #include <functional>
 #include <iosfwd>
 #include <memory>
-#include <stdexcept>
 
 class QComboBox;
 class QLineEdit;
@@ -41,8 +41,8 @@ struct Start {
 };
 
 /// The main window as a user meets it: on the screen and active, on 21 November 2026, in a fixed
-/// locale and language. Keys and clicks go through the window system; controls are found by name.
-class WindowTest : public ::testing::Test {
+/// locale and language.
+class WindowTest : public ::testing::Test, protected UserHands {
 protected:
     WindowTest();
     ~WindowTest() override;
@@ -53,7 +53,7 @@ protected:
 
     void Open(const Start& start = {});
     /// What a window manager does once another window has been closed.
-    void ActivateAgain();
+    void ActivateAgain() { Activate(); }
     /// The window closed and gone.
     void Shut() { m_window.reset(); }
     Loan& Window() { return *m_window; }
@@ -62,35 +62,10 @@ protected:
     Worksheet& SheetToWrite() { return m_window->GetWorksheet(); }
     FakeMessages& Door() { return m_messages; }
 
-    /// The control of this name. Throws, naming those there are, when there is none.
-    QWidget& Control(QStringView name) const;
-    template <class Kind>
-    Kind& Get(QStringView name) const {
-        if (auto* control = qobject_cast<Kind*>(&Control(name))) {
-            return *control;
-        }
-        throw std::runtime_error("of another kind: " + name.toString().toStdString());
-    }
     QLineEdit& Edit(QStringView name) const;
     QComboBox& List(QStringView name) const;
     QScrollBar& Bar() const;
-    /// What a field, list, label or button shows.
-    QString Text(QStringView name) const;
-    /// The name of the control that has the keyboard.
-    static QString FocusName();
-
-    /// A click into the middle of a control, or at a place of it.
-    void Click(QStringView name) { Click(Control(name)); }
-    void Click(const QWidget& control) { Click(control, control.rect().center()); }
-    void Click(const QWidget& control, QPoint at);
     QPoint PlaceInWindow(const QWidget& control, QPoint at) const;
-    void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    void Tab() { Press(Qt::Key_Tab); }
-    void BackTab() { Press(Qt::Key_Backtab, Qt::ShiftModifier); }
-    /// Key by key, as far as keys give these characters.
-    void Type(QStringView text);
-    /// Over what is selected.
-    void Paste(QStringView text);
     /// Puts the keyboard into a field by a click, unless it is there.
     void Enter(QStringView name);
     /// Enters a field, types and goes on with the tab key.
@@ -107,8 +82,6 @@ protected:
 
     /// Whether this comes true before long.
     static bool WaitFor(const std::function<bool()>& condition);
-    /// Lets everything happen that is on its way.
-    static void Settle();
     /// Opens the context menu of a control and closes it again.
     void OpenContextMenu(QStringView name);
     /// The messages there are once everything has happened.
@@ -120,6 +93,8 @@ protected:
     int RowCount() const;
 
 private:
+    QWidget& UsersWindow() const override { return *m_window; }
+
     FakeMessages m_messages;
     std::unique_ptr<Loan> m_window;
 };

@@ -153,6 +153,16 @@ expect txtPoints(6) 2.500
 read txtPoints(5) txtPoints(7)
 )";
 
+/// Held at the lower edge the rows scroll to the last one, which takes the drop.
+const std::string HeldAtTheEdge = R"(
+key txtPoints(0) Down Down Down Down Down Down Down
+expect txtPoints(7) 
+key txtPoints(7) Up Up Up Up Up Up Up
+dragon txtPoints(0) txtPoints(5) txtPoints(8)
+expect txtPoints(8) 2.500
+read txtPoints(5) txtPoints(6) txtPoints(7)
+)";
+
 const std::string ByKeys = R"(
 key txtInterestRate(0) ctrl+c
 key txtInterestRate(2) ctrl+v Tab
@@ -179,6 +189,8 @@ const std::vector<Story> Stories{
     {"WhileTyping", "en_US.UTF-8", Offers + WhileTyping, Notice + WhileTypingShown},
     {"InAScrolledWindow", "en_US.UTF-8", "number txtPoints(2) 2.5\n" + Scrolled,
      "txtPoints(5)\t\ntxtPoints(7)\t\n"},
+    {"HeldAtTheEdge", "en_US.UTF-8", "number txtPoints(0) 2.5\n" + HeldAtTheEdge,
+     "txtPoints(5)\t\ntxtPoints(6)\t\ntxtPoints(7)\t\n"},
     {"ByKeys", "en_US.UTF-8", Offers + ByKeys, Notice + ByKeysShown},
 };
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <ctime>
 #include <string>
 
 namespace {
@@ -42,6 +44,39 @@ const std::string ShownInGermany = "cboLoanName\tOur home\ncboLoanType\tMortgage
                                    "txtPandI(0)\t607,61\u00A0€\n"
                                    "txtWho(0)\tFirst Prairie Bank\ndtNextPayment\t01.03.2027\n";
 
+/// What is told of a repair, in either language. `number` is that of the damaged file on its day.
+std::string Repaired(const std::string& words, const std::string& number) {
+    const std::time_t now = std::time(nullptr);
+    std::array<char, 16> today{};
+    std::strftime(today.data(), today.size(), "%Y-%m-%d", std::localtime(&now));
+    return "dialog\t" + words + "data_home/Quend Halverworks/Loan.store.damaged-" + today.data() +
+           number + "\n";
+}
+
+const std::string RepairedInEnglish =
+    "The file with your saved worksheets was damaged. What could be read is in a new file: 1 "
+    "worksheets. The damaged file has been kept as ";
+const std::string RepairedInSpanish =
+    "El archivo con sus hojas de trabajo guardadas estaba dañado. Lo que se pudo leer está en un "
+    "archivo nuevo: 1 hojas de trabajo. El archivo dañado se conservó como ";
+
+/// Damaged before a save, and again before the settings are saved on the way out.
+const std::string Damaged = R"(
+type cboLoanName Our home
+menu mnuFile mnuFileSave
+damage
+type txtLoanAmount 100000
+menu mnuFile mnuFileSave
+dialog
+damage
+close
+dialog
+ended
+start en_US.UTF-8
+choose cboLoanName Our home
+read txtLoanAmount
+)";
+
 INSTANTIATE_TEST_SUITE_P(
     Store, StoreStory,
     testing::Values(
@@ -77,6 +112,12 @@ INSTANTIATE_TEST_SUITE_P(
                       "quit\nstart en_US.UTF-8\nread cboLoanName txtLoanAmount",
               Raised + "answer\tDo you want to delete the worksheet “Our home”?\n"
                        "cboLoanName\t\ntxtLoanAmount\t\n"},
+        Story{"RepairedAndTold", "en_US.UTF-8", Damaged,
+              Repaired(RepairedInEnglish, "") + Repaired(RepairedInEnglish, "-2") +
+                  "txtLoanAmount\t$100,000.00\n"},
+        Story{"RepairedAndToldInSpanish", "es_MX.UTF-8", Damaged,
+              Repaired(RepairedInSpanish, "") + Repaired(RepairedInSpanish, "-2") +
+                  "txtLoanAmount\t$100,000.00\n"},
         Story{"LanguageIsKept", "en_US.UTF-8",
               "menu mnuTools mnuToolsLanguage mnuToolsLanguageOpt(2)\nquit\nstart en_US.UTF-8\n"
               "name mnuFile",

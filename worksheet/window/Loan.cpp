@@ -50,7 +50,8 @@ Loan::Loan(const World& world, Settings settings)
       m_discipline(m_worksheet, m_controls, m_rows, m_messages),
       m_handlers(m_worksheet, m_controls, m_discipline), m_focus(m_handlers, m_controls, m_report),
       m_offers(*this), m_values(m_worksheet, m_controls, m_focus, m_discipline),
-      m_dragHandlers(m_values, m_controls), m_dragging(*this, m_dragHandlers, m_controls, m_report),
+      m_dragHandlers(m_values, m_controls), m_dragScroll(m_rows, *m_ui->picScroll),
+      m_dragging({this, m_ui->picScroll}, m_dragHandlers, m_controls, m_dragScroll, m_report),
       m_clipboard(m_values, m_controls, m_messages, m_report),
       m_languages(*m_ui->mnuToolsLanguage, {m_ui->mnuToolsLanguageOpt1, m_ui->mnuToolsLanguageOpt2},
                   {.commit = [this] { return m_focus.Commit(); },
@@ -70,6 +71,7 @@ void Loan::Form_Load() {
         m_report.Guard([&] { language.LoadLanguage(language.CurrentLanguage()); });
         language.SettleDetectedLanguage(); // a number that no language has is not kept
     }
+    m_toolkitTexts.Renew();
     m_languages.MarkCurrent();
     m_rows.CreateRows(Row{m_settings.loansDisplayed});
     ApplyCaptions();
@@ -148,6 +150,7 @@ void Loan::RefillLists() {
 }
 
 void Loan::RenewLanguage() {
+    m_toolkitTexts.Renew();
     ApplyCaptions();
     RefillLists();
     MeasureFields();

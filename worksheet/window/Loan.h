@@ -2,6 +2,7 @@
 
 #include "ControlMap.h"
 #include "DragHandlers.h"
+#include "DragScroll.h"
 #include "FailureReport.h"
 #include "FieldClipboard.h"
 #include "FieldDiscipline.h"
@@ -116,6 +117,7 @@ private:
     OfferCommands m_offers;
     ValueExchange m_values;
     DragHandlers m_dragHandlers;
+    DragScroll m_dragScroll;
     OfferDragging m_dragging;
     FieldClipboard m_clipboard;
     ToolkitTexts m_toolkitTexts;

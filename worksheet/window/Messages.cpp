@@ -27,6 +27,13 @@ void Messages::Post(const QString& text, const std::function<void()>& afterwards
     }
 }
 
+void Messages::ShowRest() {
+    m_later.stop(); // or it would show them again while the first one stands open
+    if (!m_showing) {
+        ShowNext();
+    }
+}
+
 void Messages::ShowNext() {
     if (QGuiApplication::mouseButtons() != Qt::NoButton) {
         m_later.start(MouseReleaseCheck);

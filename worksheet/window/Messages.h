@@ -39,6 +39,8 @@ public:
     /// `afterwards` runs once the user has closed the message.
     void Post(const QString& text, const std::function<void()>& afterwards = {});
     bool Waiting() const { return !m_waiting.empty(); }
+    /// Shows at once what still waits: on the way out, before the window closes.
+    void ShowRest();
 
     /// Asks at once: what is to happen next depends on the answer.
     Answer Ask(const Question& question) { return m_door->Ask(question); }

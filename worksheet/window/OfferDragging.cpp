@@ -2,6 +2,7 @@
 
 #include "ControlMap.h"
 #include "DragHandlers.h"
+#include "DragScroll.h"
 #include "DraggedValue.h"
 #include "FailureReport.h"
 
@@ -46,12 +47,15 @@ QPixmap SlipOf(const QString& text, const QLineEdit& edit) {
 
 } // namespace
 
-OfferDragging::OfferDragging(const QWidget& window, DragHandlers& handlers,
-                             const ControlMap& controls, const FailureReport& report)
-    : m_handlers(&handlers), m_controls(&controls), m_report(&report) {
-    for (QLineEdit* edit : window.findChildren<QLineEdit*>()) {
+OfferDragging::OfferDragging(Place place, DragHandlers& handlers, const ControlMap& controls,
+                             DragScroll& scroll, const FailureReport& report)
+    : m_handlers(&handlers), m_controls(&controls), m_scroll(&scroll), m_frame(place.frame),
+      m_report(&report) {
+    for (QLineEdit* edit : place.window->findChildren<QLineEdit*>()) {
         edit->setAcceptDrops(false);
     }
+    place.frame->setAcceptDrops(true); // to be told of what is held over it; it takes nothing
+    place.frame->installEventFilter(this);
 }
 
 QLineEdit& OfferDragging::EditOf(Field field) const {
@@ -71,33 +75,63 @@ void OfferDragging::Watch(Row row) {
 
 bool OfferDragging::eventFilter(QObject* watched, QEvent* event) {
     const auto field = m_controls->FieldOf(watched);
-    if (!field) {
+    if (field || watched == m_frame) {
+        Scroll(*static_cast<QWidget*>(watched), *event);
+    }
+    return field ? OnFieldEvent(*field, *event) : watched == m_frame && OnFrameEvent(*event);
+}
+
+/// The frame is told of moves only where it has let the drag come in. It takes nothing.
+bool OfferDragging::OnFrameEvent(QEvent& event) {
+    const bool enters = event.type() == QEvent::DragEnter;
+    if (!enters && event.type() != QEvent::DragMove && event.type() != QEvent::Drop) {
         return false;
     }
-    switch (event->type()) {
+    event.setAccepted(enters);
+    return true;
+}
+
+void OfferDragging::Scroll(const QWidget& control, const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+        m_scroll->Over(control, static_cast<const QDropEvent&>(event).position().toPoint());
+        break;
+    case QEvent::DragLeave:
+    case QEvent::Drop:
+        m_scroll->Stop();
+        break;
+    default:
+        break;
+    }
+}
+
+bool OfferDragging::OnFieldEvent(Field field, QEvent& event) {
+    switch (event.type()) {
     case QEvent::FocusIn:
-        m_enteredByMouse = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason
-                               ? field
-                               : std::nullopt;
+        m_enteredByMouse.reset();
+        if (static_cast<QFocusEvent&>(event).reason() == Qt::MouseFocusReason) {
+            m_enteredByMouse = field;
+        }
         return false;
     case QEvent::FocusOut:
         m_enteredByMouse.reset();
         return false;
     case QEvent::MouseButtonPress:
-        OnPress(*field, *static_cast<QMouseEvent*>(event));
+        OnPress(field, static_cast<QMouseEvent&>(event));
         return false;
     case QEvent::MouseMove:
-        return OnMove(*field, *static_cast<QMouseEvent*>(event));
+        return OnMove(field, static_cast<QMouseEvent&>(event));
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
         m_press.reset();
         return false;
     case QEvent::DragEnter:
     case QEvent::DragMove:
-        OnDragOver(*field, *static_cast<QDropEvent*>(event), event->type() == QEvent::DragEnter);
+        OnDragOver(field, static_cast<QDropEvent&>(event), event.type() == QEvent::DragEnter);
         return true;
     case QEvent::Drop:
-        OnDrop(*field, *static_cast<QDropEvent*>(event));
+        OnDrop(field, static_cast<QDropEvent&>(event));
         return true;
     default:
         return false;
@@ -150,13 +184,7 @@ bool OfferDragging::Drag(Field field) {
 /// give it. A value is not dropped on itself.
 void OfferDragging::OnDragOver(Field field, QDropEvent& event, bool entering) {
     if (entering) {
-        m_effect = Qt::IgnoreAction;
-        if (event.source() != &EditOf(field)) {
-            m_report->Guard([&] {
-                m_effect =
-                    m_handlers->OLEDragOver(field, *event.mimeData(), event.possibleActions());
-            });
-        }
+        FindEffect(field, event);
     }
     const Qt::DropActions effect = m_effect & event.possibleActions();
     if (effect.testFlag(Qt::CopyAction)) {
@@ -170,10 +198,39 @@ void OfferDragging::OnDragOver(Field field, QDropEvent& event, bool entering) {
     }
 }
 
+void OfferDragging::FindEffect(Field field, const QDropEvent& event) {
+    m_effect = Qt::IgnoreAction;
+    if (event.source() != &EditOf(field)) {
+        m_report->Guard([&] {
+            m_effect = m_handlers->OLEDragOver(field, *event.mimeData(), event.possibleActions());
+        });
+    }
+}
+
+/// The rows may have scrolled under a mouse that stood still: the toolkit then still names the
+/// field that was there. False when nothing can be dropped on what is there now.
+bool OfferDragging::TakeUnderMouse(Field& field, const QDropEvent& event) {
+    const QLineEdit& named = EditOf(field);
+    const QPoint at = named.mapTo(named.window(), event.position().toPoint());
+    const auto found = m_controls->FieldOf(named.window()->childAt(at));
+    if (found == field) {
+        return true;
+    }
+    if (!found || found->row == Field::NoRow || !IsDraggable(found->id)) {
+        return false;
+    }
+    field = *found;
+    FindEffect(field, event);
+    return m_effect != Qt::IgnoreAction;
+}
+
 void OfferDragging::OnDrop(Field field, QDropEvent& event) {
     Qt::DropAction done = Qt::IgnoreAction;
-    m_report->Guard(
-        [&] { done = m_handlers->OLEDragDrop(field, *event.mimeData(), event.possibleActions()); });
+    if (TakeUnderMouse(field, event)) {
+        m_report->Guard([&] {
+            done = m_handlers->OLEDragDrop(field, *event.mimeData(), event.possibleActions());
+        });
+    }
     event.setDropAction(done);
     event.setAccepted(done != Qt::IgnoreAction);
 }

@@ -149,7 +149,11 @@ void OfferRows::ScrollByWheel(int eighthsOfDegree) {
     m_wheel += eighthsOfDegree;
     const int rows = m_wheel / notch;
     m_wheel -= rows * notch;
-    m_place.vsbLoans->setValue(m_place.vsbLoans->value() - rows * m_rowHeight);
+    ScrollBy(-rows);
+}
+
+void OfferRows::ScrollBy(int rows) const {
+    m_place.vsbLoans->setValue(m_place.vsbLoans->value() + rows * m_rowHeight);
 }
 
 /// The wheel scrolls the rows by one a notch wherever it turns over them or their scroll bar: a

@@ -46,6 +46,8 @@ public:
     Row OfferRowCap() const { return m_offerRowCap; }
     /// Brings a row into the frame.
     void ShowOfferRow(Row row) const;
+    /// Moves the frame over the rows; down is positive. Stops at the first and the last row.
+    void ScrollBy(int rows) const;
     /// Places everything anew, after the columns have been measured.
     void Layout();
 

@@ -2,8 +2,8 @@
 // language has less than another.
 
 #include "HelpPages.h"
+#include "Forms.h"
 
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
@@ -90,35 +90,12 @@ TEST_P(Pages, TopicsAreWhereTheirNumberSays) {
     }
 }
 
-/// The topics that forms name, and the form of one of them.
-QMap<QString, QString> TopicsOfForms() {
-    QMap<QString, QString> topics;
-    QDirIterator forms(QStringLiteral(QUEND_SOURCE_DIR), {QStringLiteral("*.ui")}, QDir::Files,
-                       QDirIterator::Subdirectories);
-    while (forms.hasNext()) {
-        const QString form = forms.next();
-        QXmlStreamReader reader(TextOfFile(form));
-        QString property;
-        while (!reader.atEnd()) {
-            if (reader.readNext() != QXmlStreamReader::StartElement) {
-                continue;
-            }
-            if (reader.name() == u"property") {
-                property = reader.attributes().value(QLatin1String("name")).toString();
-            } else if (reader.name() == u"number" && property == u"helpTopic") {
-                topics.insert(reader.readElementText(), form);
-            }
-        }
-    }
-    return topics;
-}
-
 TEST_P(Pages, EveryControlHasItsTopic) {
-    const QMap<QString, QString> topics = TopicsOfForms();
-    EXPECT_GT(topics.size(), 50);
-    for (auto topic = topics.begin(); topic != topics.end(); ++topic) {
-        EXPECT_TRUE(m_help.topics.contains(topic.key()))
-            << topic.key().toStdString() << " of " << topic->toStdString();
+    const auto topics = NumbersOfForms({QStringLiteral("helpTopic")});
+    EXPECT_GT(topics.size(), 50U);
+    for (const FormNumber& topic : topics) {
+        EXPECT_TRUE(m_help.topics.contains(QString::number(topic.number)))
+            << topic.number << " of " << topic.form.toStdString();
     }
 }
 

@@ -12,6 +12,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
@@ -70,6 +71,28 @@ TEST_P(HelpShown, OpensOnContentsAtItsPlace) {
     auto* contents = InHelp<QTreeView>(QStringLiteral("treContents")).model();
     ASSERT_TRUE(WaitFor([&] { return contents->rowCount() == 1; }));
     EXPECT_EQ(contents->rowCount(contents->index(0, 0)), 10);
+}
+
+/// Where even half of the window is too narrow for a title, its end can be scrolled to.
+TEST_P(HelpShown, TitlesOfTheContentsAreNotCut) {
+    Entry(QStringLiteral("mnuHelpContents")).trigger();
+    auto& contents = InHelp<QTreeView>(QStringLiteral("treContents"));
+    ASSERT_TRUE(WaitFor([&] { return contents.model()->rowCount() == 1; }));
+    Settle();
+    int needed = 0;
+    for (auto index = contents.model()->index(0, 0); index.isValid();
+         index = contents.indexBelow(index)) {
+        needed = std::max(needed,
+                          contents.visualRect(index).x() + contents.horizontalScrollBar()->value() +
+                              contents.fontMetrics().horizontalAdvance(index.data().toString()));
+    }
+    for (const int width : {300, 500, 900, 2'000}) {
+        Help().resize(width, 500);
+        Settle();
+        const int shown = contents.viewport()->width() + contents.horizontalScrollBar()->maximum();
+        EXPECT_GE(shown, needed) << width;
+    }
+    EXPECT_EQ(contents.horizontalScrollBar()->maximum(), 0) << "in a wide window all is in view";
 }
 
 TEST_P(HelpShown, StaysWhereTheUserPutsIt) {

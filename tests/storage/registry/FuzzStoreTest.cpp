@@ -46,6 +46,7 @@ protected:
 
     /// Everything that a program may do with the store that it finds.
     void Try(const Input& input) const;
+    RegistryAPI Registry() const;
     void UseUnprepared() const;
 };
 
@@ -60,8 +61,13 @@ std::string SqliteFinding(const fs::path& store) {
     }
 }
 
+RegistryAPI FuzzStore::Registry() const {
+    return RegistryAPI(fuzzed, std::chrono::milliseconds(0),
+                       {.today = [] { return std::string("today"); }, .repaired = {}});
+}
+
 void FuzzStore::UseUnprepared() const {
-    const RegistryAPI registry(fuzzed, std::chrono::milliseconds(0));
+    const RegistryAPI registry = Registry();
     for (const std::string& name : registry.GetSubKeys(User, Base)) {
         MarkOf(registry, name);
     }
@@ -84,7 +90,7 @@ void FuzzStore::Try(const Input& input) const {
         return;
     }
     ASSERT_NE(condition.state, State::Unusable);
-    const RegistryAPI registry(fuzzed, std::chrono::milliseconds(0));
+    const RegistryAPI registry = Registry();
     EXPECT_EQ(FailureOf([&] { SaveWorksheet(registry, "Fuzz", "fuzz"); }), "");
     EXPECT_EQ(MarkOf(registry, "Fuzz"), "fuzz");
     EXPECT_EQ(SqliteFinding(fuzzed), "ok");

@@ -225,12 +225,12 @@ TEST_F(FieldClipboard, TheMenuStoresWhatIsBeingTypedBeforeItIsCopied) {
 TEST_F(FieldClipboard, TheMenuSpeaksTheUsersLanguage) {
     InMenu(u"txtPoints(0)", [](const QMenu& menu) {
         EXPECT_EQ(Entries(menu), (QStringList{u"&Undo"_qs, u"&Redo"_qs, u"Cu&t"_qs, u"&Copy"_qs,
-                                              u"&Paste"_qs, u"&Delete"_qs, u"Select &All"_qs,
+                                              u"&Paste"_qs, u"Delete"_qs, u"Select All"_qs,
                                               u"Copy &Value"_qs, u"Paste Va&lue"_qs}));
     });
     SwitchLanguage(Spanish);
-    const QStringList text{u"&Deshacer"_qs, u"&Rehacer"_qs,  u"Cor&tar"_qs,          u"&Copiar"_qs,
-                           u"&Pegar"_qs,    u"&Eliminar"_qs, u"Seleccionar t&odo"_qs};
+    const QStringList text{u"&Deshacer"_qs, u"&Rehacer"_qs, u"Cor&tar"_qs,         u"&Copiar"_qs,
+                           u"&Pegar"_qs,    u"Borrar"_qs,   u"Seleccionar todo"_qs};
     InMenu(u"txtPoints(0)", [&](const QMenu& menu) {
         EXPECT_EQ(Entries(menu), text + QStringList({u"Copiar &valor"_qs, u"Pegar va&lor"_qs}));
     });

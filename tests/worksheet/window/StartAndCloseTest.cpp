@@ -89,6 +89,17 @@ TEST_F(Closing, ByTheKeysOfTheMenu) {
     EXPECT_TRUE(WaitFor([&] { return !Window().isVisible(); }));
 }
 
+TEST_F(Closing, WhatStillWaitsIsShownOnce) {
+    Open();
+    Door().WhileOpen([] { Settle(); }); // a box lets other events happen
+    Window().GetMessages().Post(u"one"_qs);
+    Window().GetMessages().Post(u"two"_qs);
+    Window().GetMessages().ShowRest();
+    EXPECT_EQ(Door().Texts(), (QStringList{u"one"_qs, u"two"_qs}));
+    EXPECT_EQ(SettledMessages().size(), 2);
+    EXPECT_FALSE(Window().GetMessages().Waiting());
+}
+
 // The date of the loan held today is an input like any other.
 TEST_F(Closing, AnotherDateIsAChange) {
     Open();

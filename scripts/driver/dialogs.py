@@ -1,0 +1,102 @@
+"""What a user does in the dialogs and other windows that stand before the main one.
+
+Their controls are the toolkit's as often as the program's, so they go by what they show: a text, or
+@ and the number of a text of the program, whatever the language.
+"""
+
+from __future__ import annotations
+
+from collections.abc import Callable
+
+from accessibility import SHOWING, Node
+from controls import Texts
+from pointer import Hands
+from waiting import wait_for
+
+_PRESSED = frozenset({"push button", "button", "radio button", "page tab", "check box"})
+_COUNTS = frozenset({"spin button", "spin box"})
+_MAIN = "frame"  # the role of the main window
+_HELP_PAGE = 597  # the text that a page of the help is named by
+
+
+class Dialogs:
+    """Works whatever dialog or window is active; `active` gives it, or None."""
+
+    def __init__(self, hands: Hands, texts: Texts, active: Callable[[], Node | None],
+                 seconds: float) -> None:
+        self._hands = hands
+        self._texts = texts
+        self._active = active
+        self._seconds = seconds
+
+    def push(self, wanted: str) -> None:
+        """Clicks on a button, a choice or a tab, and waits for nothing."""
+        self._hands.click(*self._find(wanted, _PRESSED).box().middle())
+
+    def end(self, wanted: str) -> None:
+        """Clicks on a button and waits until the dialog that had it is not in front any more."""
+        button = self._find(wanted, _PRESSED)
+        dialog = self._active()
+        self._hands.click(*button.box().middle())
+        wait_for("the dialog to close", lambda: self._active() not in (None, dialog), self._seconds)
+
+    def leave(self) -> None:
+        """Closes the window in front, which is not the main one, by Escape."""
+        window = self._active()
+        self._hands.keys("Escape")
+        wait_for("the window in front to close", lambda: self._active() not in (None, window),
+                 self._seconds)
+
+    def look(self) -> str:
+        """The text of the dialog in front."""
+        def dialog() -> Node | None:
+            front = self._active()
+            return front if front and front.role() != _MAIN else None
+
+        return words_of(wait_for("a dialog", dialog, self._seconds))
+
+    def helped(self) -> str:
+        """Waits for the help window, closes it and gives its title."""
+        self.page()
+        window = self._active()
+        title = window.name() if window else ""
+        self.leave()
+        return title
+
+    def count(self, wanted: str, number: str) -> None:
+        """Puts a number in place of the one that a field of the dialog holds."""
+        field = self._find(wanted, _COUNTS)
+        self._hands.click(*field.box().middle())
+        self._hands.keys("ctrl+a")
+        self._hands.text(number)
+        wait_for(f"{wanted!r} to show {number}", lambda: field.text() == number, self._seconds)
+
+    def page(self) -> str:
+        """Waits until the help is in front, and gives the first line of its page."""
+        def first_line() -> str:
+            window = self._active()
+            names = self._texts.shown(_HELP_PAGE)
+            pages = [part for part in window.walk() if part.name() in names] if window else []
+            return pages[0].text().strip().partition("\n")[0] if pages else ""
+
+        return wait_for("a page of the help", first_line, self._seconds)
+
+    def _names(self, wanted: str) -> frozenset[str]:
+        return self._texts.shown(int(wanted[1:])) if wanted.startswith("@") else frozenset({wanted})
+
+    def _find(self, wanted: str, roles: frozenset[str]) -> Node:
+        names = self._names(wanted)
+
+        def found() -> Node | None:
+            dialog = self._active()
+            parts = dialog.walk() if dialog else iter(())
+            return next((part for part in parts if part.role() in roles and part.has(SHOWING)
+                         and part.name().replace("&", "") in names), None)
+
+        return wait_for(f"{wanted!r} in the dialog", found, self._seconds)
+
+
+def words_of(dialog: Node) -> str:
+    """The text of a message box."""
+    return "\n".join(part.name() for part in dialog.walk()
+                     if part.role() == "label" and part.name())

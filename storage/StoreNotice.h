@@ -1,0 +1,19 @@
+#pragma once
+
+#include "RegistryAPI.h"
+
+#include <QString>
+
+#include <functional>
+#include <string>
+
+class Messages;
+
+/// What the user is told of a repair: where the damaged file is, and how many worksheets there are
+/// in the new one, in the language in use.
+QString RepairNotice(const RegistryAPI& store, const std::filesystem::path& keptAs);
+
+/// The store at this place. A repair that a save makes is told once that save is over; `messages`
+/// outlives the store and its copies. `today` is as in RepairDoor.
+RegistryAPI StoreThatTells(const std::filesystem::path& place, Messages& messages,
+                           std::function<std::string()> today);

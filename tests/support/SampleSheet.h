@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Worksheet.h"
+
+/// The loan wanted and the loan held today, every value of them; offers are the caller's.
+inline void FillSampleLoans(Worksheet& sheet) {
+    sheet.SetLoanName(QStringLiteral("Our new home"));
+    sheet.SetLoanType(QStringLiteral("M"));
+    sheet.SetLoanAmount(Money::FromDouble(250'000));
+    sheet.SetLoanTerm(360);
+    sheet.SetEscrowTaxes(Money::FromDouble(3'600));
+    sheet.SetEscrowInsurance(Money::FromDouble(1'200));
+    sheet.SetCurrentLoanAmount(Money::FromDouble(230'000));
+    sheet.SetCurrentTerm(360);
+    sheet.SetCurrentInterestRate(0.0725);
+    sheet.SetCurrentBalance(Money::FromDouble(198'450.75));
+    sheet.SetCurrentActualPayment(Money::FromDouble(2'050));
+}
+
+/// Rates a little higher from row to row.
+inline double SampleRate(Row row) { return 0.055 + 0.00125 * row.value; }

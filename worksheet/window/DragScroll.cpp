@@ -1,0 +1,35 @@
+#include "DragScroll.h"
+
+#include "OfferRows.h"
+
+#include <QWidget>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Slow enough to let go of the button at the row that is meant.
+constexpr auto Tick = 250ms;
+
+} // namespace
+
+DragScroll::DragScroll(const OfferRows& rows, QWidget& frame)
+    : m_rows(&rows), m_frame(&frame), m_timer(new QTimer(&frame)) {
+    m_timer->setObjectName(QStringLiteral("tmrDragScroll"));
+    m_timer->setInterval(Tick);
+    QObject::connect(m_timer, &QTimer::timeout, m_timer, [this] { m_rows->ScrollBy(m_direction); });
+}
+
+/// The edges are half a row high.
+void DragScroll::Over(const QWidget& control, QPoint at) {
+    const int y = control.mapTo(m_frame, at).y();
+    const int edge = m_rows->OfferRowHeight() / 2;
+    m_direction = y < edge ? -1 : y >= m_frame->height() - edge ? 1 : 0;
+    if (m_direction == 0) {
+        Stop();
+    } else if (!m_timer->isActive()) {
+        m_timer->start();
+    }
+}

@@ -74,7 +74,7 @@ TEST_F(HelpFuzz, OtherFilesAreNoBooks) {
         SCOPED_TRACE(path.left(80).toStdString());
         const QuietToolkit quiet;
         alarm(20);
-        EXPECT_THROW(HelpBook{path}, Failure);
+        EXPECT_THROW(CompiledBook{path}, Failure);
     }
     alarm(0);
 }

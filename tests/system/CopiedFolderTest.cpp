@@ -57,7 +57,7 @@ quit
 )";
 
 TEST_F(CopiedFolder, FindsItsLanguagesAndItsHelpBesideItself) {
-    Copy({"Loan", ".Resources.so", ".hlp"});
+    Copy({"Loan", ".so", ".hlp"});
     const DriveResult result = Drive("en_US.UTF-8", HelpInBothLanguages, Command().string());
     EXPECT_EQ(result.readings, "class\tLoan\n" // as packaging/desktop.in has it
                                "help\tQuend Loan Help\n"
@@ -69,7 +69,7 @@ TEST_F(CopiedFolder, FindsItsLanguagesAndItsHelpBesideItself) {
 
 /// In Spain: the language is not fetched from elsewhere, nor is the help.
 TEST_F(CopiedFolder, LooksNowhereElse) {
-    Copy({"Loan"});
+    Copy({"Loan", ".Help.so"});
     const DriveResult result = Drive("es_ES.UTF-8", R"(
 key txtLoanAmount F1
 dialog

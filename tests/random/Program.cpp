@@ -1,5 +1,6 @@
 #include "Program.h"
 
+#include "CompiledBook.h"
 #include "Language.h"
 #include "SettingsStore.h"
 #include "StartUp.h"
@@ -23,6 +24,10 @@ SystemInfoDoors NoSystemInfo() {
             .start = [](const QString&) { return false; }};
 }
 
+std::shared_ptr<HelpBook> OpenDirectly(const QString& file) {
+    return std::make_shared<CompiledBook>(file);
+}
+
 } // namespace
 
 struct Program::Parts {
@@ -33,7 +38,8 @@ struct Program::Parts {
           printing(window, program.printer,
                    frmPrint::Pace{.shownAtLeast = 0ms,
                                   .yield = [&program] { program.whilePrinting(); }}),
-          help(window), share(window, program.mail), about(window, store, NoSystemInfo()) {
+          help(window, OpenDirectly), share(window, program.mail),
+          about(window, store, NoSystemInfo()) {
         window.OnUnload([this, store] {
             if (!files.MayDrop()) {
                 return false;

@@ -144,10 +144,10 @@ void RandomUser::OpenLender(unsigned a, unsigned b) {
                     Control(field)->mapTo(&Window(), Control(field)->rect().center());
                 QTest::mouseDClick(Window().windowHandle(), Qt::LeftButton, Qt::NoModifier, place);
             }
-            Commit(before);
             Settle();
         },
         [&](QDialog& dialog) {
+            Commit(before); // the dialog opens with what was typed before it
             auto* lines = dialog.findChild<QPlainTextEdit*>();
             const QString loaded = lines->document()->toRawText();
             if (b % 3 != 0) {

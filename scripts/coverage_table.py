@@ -5,6 +5,7 @@ counts none for an exception that a called function might throw."""
 
 import collections
 import json
+import os
 import pathlib
 import sys
 
@@ -20,24 +21,23 @@ def folder_of(path):
     return next((folder for folder in FOLDERS if path.is_relative_to(ROOT / folder)), None)
 
 
-def lines_of(segments):
+def add_lines(lines, segments):
     """The lines of a file that hold code, each with whether it was run."""
-    lines = {}
     for (line, _, count, counted, _, gap), following in zip(segments, segments[1:]):
         if counted and not gap:
             for number in range(line, following[0] + 1):
                 lines[number] = lines.get(number, False) or count > 0
-    return lines
 
 
-def branches_of(branches):
-    """Each side of each condition, with whether it was taken. Instances of a template count as one."""
-    sides = {}
-    for line, column, _, _, taken, not_taken, *_ in branches:
+def add_branches(sides, branches, source):
+    """Each side of each condition, with whether it was taken. Instances of a template count as one,
+    and what is always true is no condition."""
+    for line, column, _, end, taken, not_taken, *_ in branches:
+        if source[line - 1][column - 1:end - 1] == "true":
+            continue
         for side, count in (("true", taken), ("false", not_taken)):
             place = (line, column, side)
             sides[place] = sides.get(place, False) or count > 0
-    return sides
 
 
 def percent(reached, all_of_them):
@@ -45,14 +45,19 @@ def percent(reached, all_of_them):
 
 
 def main(report, missed_file, *arguments):
+    reached = {}
+    for file in json.loads(pathlib.Path(report).read_text())["data"][0]["files"]:
+        # A header goes by as many names as there are folders that include it.
+        path = pathlib.Path(os.path.normpath(file["filename"]))
+        if folder_of(path) is None:
+            continue
+        lines, branches = reached.setdefault(path, ({}, {}))
+        add_lines(lines, file["segments"])
+        add_branches(branches, file["branches"], path.read_text().splitlines())
     counts = {folder: collections.Counter() for folder in FOLDERS}
     missed = []
-    for file in json.loads(pathlib.Path(report).read_text())["data"][0]["files"]:
-        path = pathlib.Path(file["filename"])
+    for path, (lines, branches) in sorted(reached.items()):
         folder = folder_of(path)
-        if folder is None:
-            continue
-        lines, branches = lines_of(file["segments"]), branches_of(file["branches"])
         counts[folder].update(lines=len(lines), run=sum(lines.values()),
                               branches=len(branches), taken=sum(branches.values()))
         name = path.relative_to(ROOT)

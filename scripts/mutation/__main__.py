@@ -24,9 +24,8 @@ SOURCES = {
 JOBS = 2
 
 
-def all_changes(files):
-    found = [change for file in files
-             for change in changes.changes_of(file, (tested.ROOT / file).read_text())]
+def all_changes(files, tree):
+    found = [change for file in files for change in changes.changes_of(file, tree.source(file))]
     # Those of one body follow one another, so that a run finds its own by two comparisons.
     for number, change in enumerate(found, 1):
         change.number = number
@@ -89,8 +88,9 @@ def main(arguments):
     unknown = set(files) - set(SOURCES)
     if unknown:
         raise SystemExit(f"no rules in {', '.join(unknown)}, but in {', '.join(SOURCES)}")
-    found = all_changes(files)
-    result = verdicts(found, tested.Tree())
+    tree = tested.Tree()
+    found = all_changes(files, tree)
+    result = verdicts(found, tree)
     faults = judge(found, result)
     lines = table(found, result)
     print("\n".join(lines))

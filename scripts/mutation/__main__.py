@@ -25,7 +25,9 @@ JOBS = 2
 
 
 def all_changes(files, tree):
-    found = [change for file in files for change in changes.changes_of(file, tree.source(file))]
+    constants = set().union(*(changes.constants_of(tree.source(file)) for file in SOURCES))
+    found = [change for file in files
+             for change in changes.changes_of(file, tree.source(file), constants)]
     # Those of one body follow one another, so that a run finds its own by two comparisons.
     for number, change in enumerate(found, 1):
         change.number = number
@@ -42,10 +44,11 @@ def verdicts(found, tree):
     left = [change for change in joined if change.number not in result]
     with concurrent.futures.ThreadPoolExecutor(JOBS) as pool:
         runs = {pool.submit(tree.run, SOURCES[change.file], change.number): change for change in left}
-        for done, run in enumerate(concurrent.futures.as_completed(runs), 1):
-            result[runs[run].number] = run.result()
-            print(f"\r{done} of {len(left)}", end="", file=sys.stderr, flush=True)
-    print(file=sys.stderr)
+        for run in concurrent.futures.as_completed(runs):
+            change = runs[run]
+            result[change.number] = run.result()
+            if result[change.number] != "killed":
+                print(f"{result[change.number]}: {change.file}: {change.line}: {change.what}", flush=True)
     for change in found:
         if change.fixed:
             result[change.number] = tree.run_alone(change, SOURCES[change.file])
@@ -56,14 +59,15 @@ def judge(found, result):
     """Survivors that make no difference are named as such; what is wrong with their table."""
     faults = []
     for row in equivalent.CHANGES:
-        file, line, what, reason = row
+        file, line, what, _ = row[:4]
+        times = row[4] if len(row) > 4 else 1
         matching = [change for change in found
                     if (change.file, change.line, change.what) == (file, line, what)]
         if not matching and file in {change.file for change in found}:
             faults.append(f"no such change: {file}: {line}: {what}")
         survived = [change for change in matching if result[change.number] == "survived"]
-        if matching and not survived:
-            faults.append(f"noticed by a test after all: {file}: {line}: {what}")
+        if matching and len(survived) != times:
+            faults.append(f"{len(survived)} unnoticed, not {times}: {file}: {line}: {what}")
         for change in survived:
             result[change.number] = "equivalent"
     return faults

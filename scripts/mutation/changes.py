@@ -37,11 +37,12 @@ ENUMERATORS = {
     "TextNumber": ("FrequencyMonthly", "FrequencyTwiceAMonth", "FrequencyEveryTwoWeeks",
                    "FrequencyEveryFourWeeks"),
 }
-CONDITION = re.compile(r"(?<=if \()(?P<all>[^\n]+)(?=\) \{$)|(?P<pick>(?<=[(= ])\b[a-z]\w*)(?= \? )",
+CONDITION = re.compile(r"(?<=if \()(?P<all>[^\n]+)(?=\) \{$)"
+                       r"|(?P<pick>(?:(?<=\()|(?<= = )|(?<=return ))[a-z]\w*)(?= \? )",
                        re.MULTILINE)
 # A whole step on a line: a call, an assignment to what is there already, a count, a throw.
 STEP = re.compile(r"^ +(?P<step>(?:(?:\w+(?:\.|->|::))*\w+\([^\n]*\)|\*?[\w.>-]+ [-+|]?= [^\n]+"
-                  r"|(?:\+\+|--)[\w.]+|throw [^\n]+);)$", re.MULTILINE)
+                  r"|(?:\+\+|--)[\w.]+|throw [^\n]+);)(?: *//[^\n]*)?$", re.MULTILINE)
 
 
 @dataclasses.dataclass
@@ -128,7 +129,9 @@ def replacements(text, all_tokens):
             others = (token[:-2] + chr(ord(token[-2]) + 1) + "'",)
         elif kind == "name" and at > 1 and all_tokens[at - 1][1] == "::" \
                 and all_tokens[at - 2][1] in ENUMERATORS:
-            others = [name for name in ENUMERATORS[all_tokens[at - 2][1]] if name != token]
+            start = all_tokens[at - 2][2]
+            others = [f"{all_tokens[at - 2][1]}::{name}"
+                      for name in ENUMERATORS[all_tokens[at - 2][1]] if name != token]
         elif kind == "name" and text[start - 2:start] != "::" or token in ("llrint", "stable_sort") \
                 or token.startswith("FromDouble"):
             others = () if text.startswith("(double ", end) else NAMES.get(token, ())
@@ -142,11 +145,18 @@ def replacements(text, all_tokens):
             yield start, end, other
 
 
-def changes_of(file, text):
+def constants_of(text):
+    """The constants of classes: their users are changed, one after the other, instead of them."""
+    return set(re.findall(r"^ +static constexpr [\w:]+ (\w+) = ", text, re.MULTILINE))
+
+
+def changes_of(file, text, constants=()):
     """Every change of a source, those of one function body together."""
     all_tokens = tokens(text)
     bodies, fixed = regions(text, all_tokens)
     found = [(start, end, new) for start, end, new in replacements(text, all_tokens)]
+    found += [(start, start + len(token), f"({token} + 1)") for _, token, start in all_tokens
+              if token in constants]
     code = {start: before for (_, _, start), (_, before, _) in
             zip(all_tokens, [(None, ";", None)] + all_tokens)}
     for match in CONDITION.finditer(text):
@@ -164,8 +174,9 @@ def changes_of(file, text):
         if body is None and text[start:end] == "0" and "virtual" in text[text.rfind("\n", 0, start):start]:
             continue  # a function without a body
         line = text[text.rfind("\n", 0, start) + 1:text.find("\n", start)].strip()
-        must_stay = any(span[0] <= start < span[1] for span in fixed) or text[end] == ">" \
-            or not text[start].isalnum()
+        must_stay = any(span[0] <= start < span[1] for span in fixed)
+        if body is None and (not text[start].isalnum() or text[end] == ">" or "static constexpr" in line):
+            continue  # an operator between constants, a number of types, a constant of a class
         change = Change(file, start, end, text[start:end], "" if new == ";" else new, line, body,
                         body is None and must_stay)
         changes.append(change)

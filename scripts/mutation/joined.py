@@ -61,23 +61,30 @@ class Joined:
         self._write("}\n")
 
     def _write_value(self, value, owners):
-        self._undo_constexpr()
+        # The compiler would make a value of its own for what lives as long as the program.
+        choice = "ChosenMutant()" if self._undo_constexpr() else "Mutant()"
         text = value
         for change in owners:
-            text = f"(Mutant() == {change.number} ? {change.new or ''} : {text})"
+            text = f"({choice} == {change.number} ? {change.new} : {text})"
         self._write("\n")
         self._write(text + "\n", owners[0])
 
     def _undo_constexpr(self):
-        """The declaration just being written gets its value at run time."""
+        """The declaration just being written gets its value at run time. False for one that does so
+        anyway."""
+        undone = "const /* at run time */ "
         for at in range(len(self._text) - 1, -1, -1):
-            place = self._text[at].rfind("constexpr ")
-            end = max(self._text[at].rfind(";"), self._text[at].rfind(" {\n"))
-            if place > end:
-                part = self._text[at]
-                self._text[at] = part[:place] + "const " + part[place + len("constexpr "):]
-            if place > end or end >= 0:
-                return
+            part = self._text[at]
+            place = part.rfind("constexpr ")
+            end = max(part.rfind(";"), part.rfind(" {\n"))
+            if place > max(end, part.rfind(undone)):
+                self._text[at] = part[:place] + undone + part[place + len("constexpr "):]
+                return True
+            if part.rfind(undone) > end:
+                return True
+            if end >= 0:
+                return False
+        return False
 
 
 def _nothing(change):

@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr int Usual = 500;
-
 /// An offer of a random loan in a worksheet of its own.
 struct RandomOffer {
     explicit RandomOffer(Random& random) : loan(RandomLoan::Make(random)) {
@@ -36,7 +34,7 @@ struct RandomOffer {
 /// Points come in eighths, so that amount * eighths is a whole number and the rounded points are
 /// found by counting: of 800 parts so many, the nearest ten-thousandth of it.
 TEST(OfferProperties, FinancedPointsAreBorrowedAndOthersAreNot) {
-    ForRandomCases(Usual * 4, [](Random& random) {
+    ForRandomCases(2'000, [](Random& random) {
         RandomOffer tried(random);
         const RandomLoan& loan = tried.loan;
         SCOPED_TRACE(loan);
@@ -55,7 +53,7 @@ TEST(OfferProperties, FinancedPointsAreBorrowedAndOthersAreNot) {
 
 TEST(OfferProperties, ResultsAreThoseOfItsPrincipalPaymentAndSchedule) {
     int repaid = 0;
-    ForRandomCases(Usual, [&repaid](Random& random) {
+    ForRandomCases(500, [&repaid](Random& random) {
         RandomOffer tried(random);
         RandomLoan loan = tried.loan;
         SCOPED_TRACE(loan);
@@ -86,7 +84,7 @@ TEST(OfferProperties, ResultsAreThoseOfItsPrincipalPaymentAndSchedule) {
 
 /// Whatever is entered: nothing positive below the payment is kept, and what is kept is told right.
 TEST(OfferProperties, AnIntendedPaymentBelowTheComputedOneIsRefused) {
-    ForRandomCases(Usual * 4, [](Random& random) {
+    ForRandomCases(2'000, [](Random& random) {
         RandomOffer tried(random);
         SCOPED_TRACE(tried.loan);
         const Money least = tried.offer.LeastPayment();

@@ -9,14 +9,12 @@
 
 namespace {
 
-constexpr int Usual = 4'000;
-
 /// To the cent, unless the true payment lies so close to half a cent that double precision cannot
 /// tell the side; then it is one of the two neighbours. Not one payment in a hundred is so close.
 TEST(PaymentProperties, AgreesToTheCentWithThePrecisePayment) {
     int cases = 0;
     int undecided = 0;
-    ForRandomCases(Usual, [&](Random& random) {
+    ForRandomCases(4'000, [&](Random& random) {
         const RandomLoan loan = RandomLoan::Make(random);
         SCOPED_TRACE(loan);
         const Money payment = PrincipalAndInterest(loan.amount, loan.rate, loan.term, loan.code);
@@ -37,7 +35,7 @@ TEST(PaymentProperties, AgreesToTheCentWithThePrecisePayment) {
 
 /// A multiple of the loan has the same multiple as payment, within half a cent of each.
 TEST(PaymentProperties, GrowsAsTheLoanGrows) {
-    ForRandomCases(Usual, [](Random& random) {
+    ForRandomCases(4'000, [](Random& random) {
         RandomLoan loan = RandomLoan::Make(random);
         SCOPED_TRACE(loan);
         const auto payment = [&loan] {
@@ -54,7 +52,7 @@ TEST(PaymentProperties, GrowsAsTheLoanGrows) {
 
 /// More borrowed, a higher rate or a shorter term never lowers the payment.
 TEST(PaymentProperties, NeverFallsWithPrincipalOrRateNorRisesWithTheTerm) {
-    ForRandomCases(Usual, [](Random& random) {
+    ForRandomCases(4'000, [](Random& random) {
         const RandomLoan loan = RandomLoan::Make(random);
         SCOPED_TRACE(loan);
         const auto payment = [&loan](Money amount, double rate, int term) {

@@ -26,7 +26,7 @@ Precise Root(Precise value, int degree) {
 } // namespace
 
 std::optional<std::int64_t> PreciseAmount::Nearest() const {
-    const Precise half = 0.5;
+    const auto half = static_cast<Precise>(0.5);
     const std::int64_t lowest = Floor(units - strays + half);
     const std::int64_t highest = Floor(units + strays + half);
     return lowest == highest ? std::optional(lowest) : std::nullopt;

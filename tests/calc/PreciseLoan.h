@@ -18,7 +18,7 @@ using Precise = long double; // as long, where there is no other
 
 /// Half the distance from 1 to the next double: no single operation in double precision is
 /// further off than by this part of its result.
-constexpr Precise OneRounding = 0x1p-53;
+constexpr auto OneRounding = static_cast<Precise>(0x1p-53);
 
 /// A result as it should be, and how far double precision may stray from it.
 struct PreciseAmount {

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr int Usual = 1'000;
-
 std::vector<std::size_t> RowsOf(const OfferOrder& order, std::size_t count) {
     std::vector<std::size_t> rows;
     for (std::size_t row = 0; row < count; ++row) {
@@ -49,7 +47,7 @@ std::vector<Money> RandomKeys(Random& random, std::size_t count) {
 }
 
 TEST(SortingProperties, IsTheStableOrderOfTheKeysWhateverCameBefore) {
-    ForRandomCases(Usual, [](Random& random) {
+    ForRandomCases(1'000, [](Random& random) {
         OfferOrder order;
         std::size_t count = 0;
         for (int sorts = random.Int(1, 4); sorts > 0; --sorts) {
@@ -69,7 +67,7 @@ TEST(SortingProperties, IsTheStableOrderOfTheKeysWhateverCameBefore) {
 }
 
 TEST(SortingProperties, ShowsEveryOfferInOneRow) {
-    ForRandomCases(Usual, [](Random& random) {
+    ForRandomCases(1'000, [](Random& random) {
         OfferOrder order;
         const auto count = static_cast<std::size_t>(random.Int(1, 100));
         for (std::size_t offer = 0; offer < count; ++offer) {
@@ -87,7 +85,7 @@ TEST(SortingProperties, ShowsEveryOfferInOneRow) {
 /// Offers of equal and of different rates, of lenders alone and blank ones.
 class OffersSortingProperties : public WorksheetTest {
 protected:
-    static constexpr int Offers = 12;
+    static constexpr int OfferCount = 12;
 
     void EnterAny(Row row, Random& random) {
         CLoan& offer = m_worksheet.OfferOfRow(row);
@@ -108,7 +106,7 @@ protected:
     }
     std::vector<std::size_t> Rows() const {
         std::vector<std::size_t> rows;
-        for (Row row{0}; row < Row{Offers}; ++row.value) {
+        for (Row row{0}; row < Row{OfferCount}; ++row.value) {
             rows.push_back(m_worksheet.OfferIndexOfRow(row).value);
         }
         return rows;
@@ -116,7 +114,7 @@ protected:
     template <class KeyOf>
     auto Keys(KeyOf keyOf) {
         std::vector<decltype(keyOf(m_worksheet.Offer({0})))> keys;
-        for (std::size_t offer = 0; offer < Offers; ++offer) {
+        for (std::size_t offer = 0; offer < OfferCount; ++offer) {
             keys.push_back(keyOf(m_worksheet.Offer({offer})));
         }
         return keys;
@@ -124,9 +122,9 @@ protected:
 };
 
 TEST_F(OffersSortingProperties, SortByTheirResultsAndElseAsEntered) {
-    m_worksheet.GrowOfferArrays(m_worksheet.HighestOfferRow(), Row{Offers - 1});
-    ForRandomCases(Usual / 4, [this](Random& random) {
-        for (Row row{0}; row < Row{Offers}; ++row.value) {
+    m_worksheet.GrowOfferArrays(m_worksheet.HighestOfferRow(), Row{OfferCount - 1});
+    ForRandomCases(250, [this](Random& random) {
+        for (Row row{0}; row < Row{OfferCount}; ++row.value) {
             EnterAny(row, random);
         }
         m_worksheet.SortByInterest();

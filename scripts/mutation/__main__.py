@@ -36,12 +36,11 @@ def all_changes(files, tree):
 
 def verdicts(found, tree):
     """What became of each change: killed, timeout, rejected (by the compiler) or survived."""
-    joined = [change for change in found if not change.fixed]
-    rejected = tree.build_joined(joined)
+    rejected = tree.build_joined(found)
     for target in {SOURCES[change.file] for change in found}:
         tree.measure(target)
     result = {change.number: "rejected" for change in rejected}
-    left = [change for change in joined if change.number not in result]
+    left = [change for change in found if change.number not in result]
     with concurrent.futures.ThreadPoolExecutor(JOBS) as pool:
         runs = {pool.submit(tree.run, SOURCES[change.file], change.number): change for change in left}
         for run in concurrent.futures.as_completed(runs):
@@ -49,9 +48,6 @@ def verdicts(found, tree):
             result[change.number] = run.result()
             if result[change.number] != "killed":
                 print(f"{result[change.number]}: {change.file}: {change.line}: {change.what}", flush=True)
-    for change in found:
-        if change.fixed:
-            result[change.number] = tree.run_alone(change, SOURCES[change.file])
     return result
 
 

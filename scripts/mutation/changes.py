@@ -55,7 +55,6 @@ class Change:
     new: str
     line: str
     body: tuple = None
-    fixed: bool = False  # the compiler needs the value: it can only be changed in the source itself
     number: int = 0
 
     @property
@@ -80,8 +79,8 @@ def other_numbers(text):
 
 
 def regions(text, all_tokens):
-    """The bodies of functions, and the spans in which the compiler needs every value."""
-    bodies, fixed = [], []
+    """The bodies of functions, and the enumerations, whose numbers are but names."""
+    bodies, enumerations = [], []
     stack, statement, parentheses = [], [], 0
     for kind, token, start in all_tokens:
         inside = "body" in stack
@@ -96,7 +95,7 @@ def regions(text, all_tokens):
                 bodies.append([start, None])
             elif "enum" in statement:
                 stack.append("enum")
-                fixed.append([start, None])
+                enumerations.append([start, None])
             elif "=" in statement or not {"namespace", "class", "struct"} & set(statement):
                 stack.append("values")
             else:
@@ -106,16 +105,12 @@ def regions(text, all_tokens):
             if closed == "body":
                 bodies[-1][1] = start + 1
             elif closed == "enum":
-                fixed[-1][1] = start
-        if "values" not in stack and not parentheses and token in ("{", "}", ";") \
-                or token == ":" and statement in (["public"], ["private"], ["protected"]):
-            if statement[:2] == ["static", "constexpr"] and token == ";":
-                fixed.append([begin, start])
+                enumerations[-1][1] = start
+        if "values" not in stack and not parentheses and token in ("{", "}", ";"):
             statement = []
         else:
-            begin = begin if statement else start
             statement.append(token)
-    return [tuple(body) for body in bodies], [tuple(span) for span in fixed]
+    return [tuple(body) for body in bodies], [tuple(span) for span in enumerations]
 
 
 def replacements(text, all_tokens):
@@ -153,7 +148,7 @@ def constants_of(text):
 def changes_of(file, text, constants=()):
     """Every change of a source, those of one function body together."""
     all_tokens = tokens(text)
-    bodies, fixed = regions(text, all_tokens)
+    bodies, enumerations = regions(text, all_tokens)
     found = [(start, end, new) for start, end, new in replacements(text, all_tokens)]
     found += [(start, start + len(token), f"({token} + 1)") for _, token, start in all_tokens
               if token in constants]
@@ -174,13 +169,9 @@ def changes_of(file, text, constants=()):
         if body is None and text[start:end] == "0" and "virtual" in text[text.rfind("\n", 0, start):start]:
             continue  # a function without a body
         line = text[text.rfind("\n", 0, start) + 1:text.find("\n", start)].strip()
-        must_stay = any(span[0] <= start < span[1] for span in fixed)
-        if body is None and (not text[start].isalnum() or text[end] == ">" or "static constexpr" in line):
-            continue  # an operator between constants, a number of types, a constant of a class
-        change = Change(file, start, end, text[start:end], "" if new == ";" else new, line, body,
-                        body is None and must_stay)
-        changes.append(change)
-    # Where the source itself must change, which takes long, one other number is enough.
-    seen = set()
-    return [change for change in changes
-            if not change.fixed or (change.start not in seen and not seen.add(change.start))]
+        # Outside of functions: an operator between constants, a number of types, a class's constant.
+        by_the_compiler = not text[start].isalnum() or text[end] == ">" or "static constexpr" in line
+        if body is None and by_the_compiler or any(span[0] <= start < span[1] for span in enumerations):
+            continue
+        changes.append(Change(file, start, end, text[start:end], "" if new == ";" else new, line, body))
+    return changes

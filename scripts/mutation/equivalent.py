@@ -26,6 +26,10 @@ CHANGES = [
     ("calc/Date.cpp", "RaiseOverflow();", "RaiseOverflow(); -> nothing",
      "In PlusDays: a sum that wraps lies outside the dates, which FromDays refuses."),
     ("calc/DueDates.h", "m_day = m_day < length ? m_day : length;", "< -> <=", "Both are the same then."),
+    ("calc/Frequency.h",
+     "{  u'M', TextNumber::FrequencyMonthly,        12,     1,        12.0,  1,  DateStep::Month,     false },",
+     "1 -> 0", "Of the whole periods: months / 12 * 12 are the months again, because 12 is 8 + 4: a"
+     " quotient by the sum of two powers of two comes back in double precision."),
     ("calc/Frequency.cpp", "int periods = 0;", "0 -> 1", OVERWRITTEN),
     ("calc/Schedule.h",
      "return principal <= Money() && balance > Money() && (principal.IsZero() || !(rate < 0.0));",

@@ -83,6 +83,7 @@ TEST_F(StoreDamageTest, AWrongNumberInTheHeaderIsNoticed) {
         { "a change that was not counted",   24,          4,     1 },
         { "a page more than there are",      28,          4,     1 },
         { "a page less than there are",      28,          4,     -1 },
+        { "the first page as a free one",  32, 4, 1 - static_cast<std::int64_t>(BigEndian(whole, 32, 4)) },
         { "no first free page",              32,          4,     1'000 },
         { "a free page more",                36,          4,     1 },
         { "another format of the layout",    44,          4,     1 },
@@ -194,6 +195,46 @@ TEST_F(StoreDamageTest, AWrongByteInARowIsNoticed) {
         ASSERT_NE(damaged, whole);
         ExpectNoticed(damaged, AllKeys - KeysOfPage);
     }
+}
+
+/// What stands on the first page is compared to the letter; a row there is its length, in two
+/// bytes, its number, the length of its head and the codes of its columns, of which the first is a
+/// text.
+TEST_F(StoreDamageTest, AWrongByteInTheLayoutIsNoticed) {
+    const std::string whole = Build();
+    const std::size_t row = BigEndian(whole, 108, 2);
+    std::string blob = whole;
+    ASSERT_EQ(blob[row + 4], 23); // a text of five letters
+    blob[row + 4] = 22;           // five bytes
+    ExpectNoticed(blob, AllKeys);
+    std::string letter = whole;
+    letter.replace(letter.find("CREATE"), 6, "CREATF");
+    ExpectNoticed(letter, AllKeys);
+}
+
+/// A row of the same length whose columns are of other kinds.
+TEST_F(StoreDamageTest, ATextWhereBytesBelongIsNoticed) {
+    const std::string whole = Build();
+    std::size_t pages = 0;
+    for (std::size_t page = PageSize; page < whole.size(); page += PageSize) {
+        const std::size_t row = page + BigEndian(whole, page + 8, 2);
+        if (whole[page] != LeafIndex || BigEndian(whole, page + 3, 2) < 2 ||
+            row + 4 > page + PageSize) {
+            continue;
+        }
+        SCOPED_TRACE(page / PageSize);
+        std::string damaged = whole;
+        damaged[row + 3] = static_cast<char>(damaged[row + 3] ^ 1);
+        ExpectNoticed(damaged, AllKeys - KeysOfPage);
+        ++pages;
+    }
+    EXPECT_GT(pages, 2U);
+}
+
+TEST_F(StoreDamageTest, APageThatNothingLeadsToIsNoticed) {
+    std::string damaged = Build() + std::string(PageSize, '\0');
+    Add(damaged, 28, 4, 1);
+    ExpectNoticed(damaged, AllKeys);
 }
 
 TEST_F(StoreDamageTest, AStoreOfHundredsOfWorksheetsIsReadAndSound) {

@@ -17,7 +17,7 @@ QString CLoan::Frequency() const { return FrequencyCodeToText(m_frequencyCode); 
 
 void CLoan::SetFrequency(const QString& text) { SetFrequencyCode(FrequencyTextToCode(text)); }
 
-Money CLoan::StartingPrinciple() {
+Money CLoan::StartingPrinciple() const {
     Money principal = m_startingAmount;
     if (m_financePoints) {
         principal += Money::FromDouble(m_startingAmount.ToDouble() * m_points / 100.0);
@@ -25,15 +25,14 @@ Money CLoan::StartingPrinciple() {
     if (m_financeClosingCosts) {
         principal += m_closingCosts;
     }
-    m_startingPrinciple = principal;
-    return m_startingPrinciple;
+    return principal;
 }
 
-Money CLoan::PandI() {
+Money CLoan::PandI() const {
     return PrincipalAndInterest(StartingPrinciple(), m_interestRate, m_term, m_frequencyCode);
 }
 
-Money CLoan::LeastPayment() {
+Money CLoan::LeastPayment() const {
     const Money principalAndInterest = PandI();
     if (principalAndInterest.IsZero()) {
         return {};

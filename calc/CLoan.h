@@ -15,7 +15,6 @@ public:
     LoanContext& operator=(LoanContext&&) = delete;
     virtual ~LoanContext() = default;
 
-    virtual Money LoanAmount() const = 0;
     /// The default term in months.
     virtual int LoanTerm() const = 0;
     virtual Money EscrowMonthly() const = 0;
@@ -37,8 +36,7 @@ public:
 /// leaves the range of money, or of a date, raises OverflowFailure from the reading function.
 class CLoan {
 public:
-    explicit CLoan(LoanContext& context)
-        : m_context(&context), m_startingPrinciple(context.LoanAmount()) {}
+    explicit CLoan(LoanContext& context) : m_context(&context) {}
 
     // Every setter marks the worksheet dirty when its value differs from the stored one, except for
     // the starting amount, which is the worksheet's own.
@@ -68,14 +66,14 @@ public:
 
     /// What the payments repay: the starting amount with financed points (to the nearest
     /// ten-thousandth) and financed closing costs.
-    Money StartingPrinciple();
+    Money StartingPrinciple() const;
     /// Principal and interest of one payment, in whole cents.
-    Money PandI();
+    Money PandI() const;
     /// One payment with its share of the escrow. Raises a lower actual payment to itself, marks the
     /// worksheet dirty then and sets Forced. Zero, and nothing raised, while PandI is zero.
     Money Payment();
     /// The same without raising or marking anything.
-    Money LeastPayment();
+    Money LeastPayment() const;
     /// True once after Payment has raised the actual payment; reading it clears it.
     bool Forced();
 
@@ -105,7 +103,6 @@ private:
     bool m_financeClosingCosts = false;
     Money m_closingCosts;
     Money m_startingAmount;
-    Money m_startingPrinciple;
     int m_term = 0;
     double m_interestRate = 0.0;
     QString m_frequencyCode;

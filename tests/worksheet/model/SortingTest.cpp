@@ -281,6 +281,18 @@ TEST_F(SortingTest, MarksOfRaisedPaymentsGoWithTheirOffers) {
     EXPECT_EQ(markOf(1), Mark::None);
 }
 
+TEST_F(SortingTest, MarksAreTakenFromEveryRow) {
+    EnterRates({"7", "6", "5"});
+    for (Row row{0}; row <= Row{2}; ++row.value) {
+        Store({FieldId::ActualPayment, row}, u"1"_qs);
+        EXPECT_EQ(m_display.Of({FieldId::ActualPayment, row}).mark, Mark::Raised);
+    }
+    m_worksheet.ClearRaisedMarks();
+    for (Row row{0}; row <= Row{2}; ++row.value) {
+        EXPECT_EQ(m_display.Of({FieldId::ActualPayment, row}).mark, Mark::None) << row.value;
+    }
+}
+
 TEST_F(SortingTest, SixteenRowsAreSorted) {
     EnterRates(
         {"8", "7", "6", "5", "4", "3", "2", "1", "9", "10", "11", "12", "13", "14", "15", "16"});

@@ -1,0 +1,128 @@
+"""A copy of the tree with changed sources in it, and the runs of its tests."""
+
+import os
+import pathlib
+import re
+import resource
+import shutil
+import subprocess
+import sys
+
+from joined import CHOICE, Joined
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+WORK = ROOT / "build/mutation"
+COPY, BUILD = WORK / "tree", WORK / "build"
+CHOICE_FILE = WORK / "Mutant.h"
+
+# The quick tests first: they notice most.
+ORDER = ("-HostileLoans.*:*Properties.*", "HostileLoans.*:*Properties.*")
+MEMORY = 4 << 30
+
+
+class Tree:
+    def __init__(self):
+        shutil.rmtree(COPY, ignore_errors=True)
+        files = subprocess.run(["git", "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
+                               cwd=ROOT, check=True, capture_output=True, text=True).stdout
+        for name in files.split("\0"):
+            source = ROOT / name
+            if name and source.is_file() and not name.startswith("docs/"):
+                (COPY / name).parent.mkdir(parents=True, exist_ok=True)
+                shutil.copy2(source, COPY / name)
+        CHOICE_FILE.write_text(CHOICE)
+        self._sources = {}  # as they are before any change, whatever happens to the tree meanwhile
+        self._seconds = {}
+        self._joined = {}
+        environment = dict(os.environ)
+        environment.pop("CMAKE_CXX_COMPILER_LAUNCHER", None)  # nothing here is compiled twice
+        # Warnings say nothing of a changed source.
+        subprocess.run(
+            ["cmake", "-S", COPY, "-B", BUILD, "-G", "Ninja", "-DCMAKE_CXX_COMPILER=clang++",
+             f"-DCMAKE_CXX_FLAGS=-O1 -w -ferror-limit=0 -include {CHOICE_FILE}",
+             "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld", "-DCMAKE_UNITY_BUILD=ON",
+             "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST"],
+            check=True, stdout=subprocess.DEVNULL, env=environment)
+
+    def source(self, file):
+        if file not in self._sources:
+            self._sources[file] = (COPY / file).read_text()
+        return self._sources[file]
+
+    def build_joined(self, changes):
+        """Builds the tests with all changes in them. Gives back those that do not compile."""
+        floors = ["calc"] if all(change.file.startswith("calc/") for change in changes) \
+            else ["calc", "worksheet_model"]
+        # The floors first: they find nearly all of those, and are compiled sooner.
+        stages = [[floor] for floor in floors] + [[f"{floor}_tests" for floor in floors]]
+        rejected = []
+        for _ in range(12):
+            self._write(change for change in changes if change not in rejected)
+            output = self._build(*stages[0])
+            if output is None:
+                stages.pop(0)
+                if not stages:
+                    return rejected
+                continue
+            found = [change for change in self._owners(output) if change not in rejected]
+            if not found:
+                raise SystemExit(output[-8000:] + "\nThe changed sources cannot be built.")
+            rejected += found
+        raise SystemExit("The changed sources still cannot be built.")
+
+    def measure(self, target):
+        """The tests without a change: they must pass, and show how long a run may take."""
+        before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
+        if self._run(target, 0, 1200) != "survived":
+            raise SystemExit(f"{target} fails without any change.")
+        self._seconds[target] = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before
+        print(f"{target} takes {self._seconds[target]:.1f} s", file=sys.stderr)
+
+    def run(self, target, number):
+        return self._run(target, number, int(self._seconds[target] * 5) + 5)
+
+    def _write(self, changes):
+        by_file = {}
+        for change in changes:
+            by_file.setdefault(change.file, []).append(change)
+        for file, own in by_file.items():
+            joined = Joined(self.source(file), own)
+            self._joined[str(COPY / file)] = joined
+            if (COPY / file).read_text() != joined.text:
+                (COPY / file).write_text(joined.text)
+
+    def _owners(self, output):
+        for place in re.finditer(r"^(/[^:\n]+):(\d+):\d+: (?:fatal )?(?:error|note)", output, re.MULTILINE):
+            joined = self._joined.get(place.group(1))
+            owner = joined.owner(int(place.group(2))) if joined else None
+            if owner:
+                yield owner
+
+    @staticmethod
+    def _build(*targets):
+        """None, or what the compiler said."""
+        built = subprocess.run(["ninja", "-C", BUILD, "-j2", "-k0", *targets], capture_output=True,
+                               text=True, check=False)
+        return None if built.returncode == 0 else built.stdout + built.stderr
+
+    @staticmethod
+    def _run(target, number, seconds):
+        """Runs to the first failure. The time counts what the processor spends, so that a busy
+        machine makes no difference."""
+        def limit():
+            resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds))
+            resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))
+            resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+
+        program = next(BUILD.glob(f"tests/**/{target}"))
+        environment = dict(os.environ, QUEND_MUTANT=str(number), QT_QPA_PLATFORM="offscreen",
+                           LC_ALL="C.UTF-8", GTEST_FAIL_FAST="1", GTEST_BRIEF="1")
+        for tests in ORDER:
+            code = subprocess.run([program], env=dict(environment, GTEST_FILTER=tests), check=False,
+                                  preexec_fn=limit, stdout=subprocess.DEVNULL,
+                                  stderr=subprocess.DEVNULL).returncode
+            if code in (-24, -9):  # SIGXCPU, SIGKILL
+                return "timeout"
+            if code != 0:
+                return "killed"
+        return "survived"

@@ -1,0 +1,101 @@
+// An offer over random loans: what it answers follows from the rules below it.
+
+#include "CLoan.h"
+
+#include "Failure.h"
+#include "Payment.h"
+#include "RandomLoan.h"
+#include "RecordingLoanContext.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace {
+
+/// An offer of a random loan in a worksheet of its own.
+struct RandomOffer {
+    explicit RandomOffer(Random& random) : loan(RandomLoan::Make(random)) {
+        context.escrowMonthly = loan.escrowMonthly;
+        context.today = loan.start;
+        offer.SetStartingAmount(loan.amount);
+        offer.SetPoints(loan.points);
+        offer.SetFinancePoints(loan.financePoints);
+        offer.SetTerm(loan.term);
+        offer.SetInterestRate(loan.rate);
+        offer.SetFrequencyCode(loan.code);
+    }
+
+    RandomLoan loan;
+    RecordingLoanContext context;
+    CLoan offer{context};
+};
+
+/// Points come in eighths, so that amount * eighths is a whole number and the rounded points are
+/// found by counting: of 800 parts so many, the nearest ten-thousandth of it.
+TEST(OfferProperties, FinancedPointsAreBorrowedAndOthersAreNot) {
+    ForRandomCases(2'000, [](Random& random) {
+        RandomOffer tried(random);
+        const RandomLoan& loan = tried.loan;
+        SCOPED_TRACE(loan);
+        const std::int64_t amount = loan.amount.TenThousandths();
+        const std::int64_t borrowed = tried.offer.StartingPrinciple().TenThousandths() - amount;
+        if (!loan.financePoints) {
+            EXPECT_EQ(borrowed, 0);
+            return;
+        }
+        const std::int64_t parts = amount * static_cast<std::int64_t>(loan.points * 8.0);
+        // Half a ten-thousandth is 400 parts. An amount of up to 10^13 ten-thousandths times points
+        // strays by less than one part in 10^13 * 80 parts: four roundings of 2^-53 are 0.36.
+        EXPECT_LE(std::abs(borrowed * 800 - parts), 401);
+    });
+}
+
+TEST(OfferProperties, ResultsAreThoseOfItsPrincipalPaymentAndSchedule) {
+    int repaid = 0;
+    ForRandomCases(500, [&repaid](Random& random) {
+        RandomOffer tried(random);
+        RandomLoan loan = tried.loan;
+        SCOPED_TRACE(loan);
+        loan.amount = tried.offer.StartingPrinciple();
+        EXPECT_EQ(tried.offer.PandI(),
+                  PrincipalAndInterest(loan.amount, loan.rate, loan.term, loan.code));
+        const Money least = tried.offer.PandI().IsZero() ? Money() : loan.LeastPayment();
+        EXPECT_EQ(tried.offer.LeastPayment(), least);
+        EXPECT_EQ(tried.offer.Payment(), least);
+        EXPECT_EQ(tried.offer.ActualPayment(), least);
+        EXPECT_EQ(tried.offer.Forced(), !least.IsZero());
+        const Money intended = least + Money::FromTenThousandths(random.Whole(1, 10'000'000));
+        tried.offer.SetActualPayment(intended);
+        ASSERT_EQ(tried.offer.ActualPayment(), intended);
+        std::optional<Payoff> payoff;
+        try {
+            payoff = RunToPayoff(loan.Terms(intended));
+        } catch (const OverflowFailure&) {
+            EXPECT_THROW(tried.offer.PayoffDate(), OverflowFailure);
+            return;
+        }
+        ++repaid;
+        EXPECT_EQ(tried.offer.PayoffDate(), payoff->date);
+        EXPECT_EQ(tried.offer.Interest(), payoff->interest);
+    });
+    EXPECT_GT(repaid, 0);
+}
+
+/// Whatever is entered: nothing positive below the payment is kept, and what is kept is told right.
+TEST(OfferProperties, AnIntendedPaymentBelowTheComputedOneIsRefused) {
+    ForRandomCases(2'000, [](Random& random) {
+        RandomOffer tried(random);
+        SCOPED_TRACE(tried.loan);
+        const Money least = tried.offer.LeastPayment();
+        const Money entered = Money::FromTenThousandths(
+            random.OneIn(3) ? least.TenThousandths() + random.Whole(-1, 1)
+                            : random.Whole(-10'000, least.TenThousandths() * 2));
+        tried.offer.SetActualPayment(entered);
+        const bool refused = entered > Money() && entered < least;
+        EXPECT_EQ(tried.context.refused, refused ? 1 : 0);
+        EXPECT_EQ(tried.offer.ActualPayment(), refused ? least : entered);
+    });
+}
+
+} // namespace

@@ -1,0 +1,106 @@
+// Names and files at the limits of what the store's own file can hold.
+#include "StoreCheck.h"
+
+#include "Sqlite.h"
+#include "StoreFile.h"
+#include "StoreFixture.h"
+#include "StoreImage.h"
+#include "StoreSoundness.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using State = StoreCondition::State;
+
+class StoreLimitsTest : public StoreFixture {
+protected:
+    const RegistryAPI registry{store};
+};
+
+/// Bytes that are no text: too long a form, too large a character, half a pair, a lone rest.
+const std::vector<std::string> NoTexts{"\xC0\x80",     "\xE0\x80\xAF", "\xF4\x90\x80\x80",
+                                       "\xED\xA0\x80", "\x80",         "A\xFF"};
+
+TEST_F(StoreLimitsTest, NamesThatCannotBeHoldNothing) {
+    registry.CreateKey(User, Base);
+    std::vector<std::string> names = NoTexts;
+    names.emplace_back(16'384, 'n');
+    for (const std::string& name : names) {
+        SCOPED_TRACE(name.substr(0, 10));
+        registry.SetValue(User, Base, name, RegistryType::Text, "kept");
+        EXPECT_EQ(registry.GetValue(User, Base, name, RegistryType::Text, "none"),
+                  RegistryValue("none"));
+        EXPECT_EQ(registry.GetValueType(User, Base, name), 0);
+        registry.DeleteValue(User, Base, name);
+        if (name.size() < 255) {
+            EXPECT_EQ(FailureOf([&] { registry.CreateKey(User, Base + '\\' + name); }), NotMade);
+        }
+    }
+    // An element of blanks: there are none.
+    EXPECT_EQ(registry.GetSubKeys(User, Base), std::vector<std::string>{std::string(260, ' ')});
+}
+
+TEST_F(StoreLimitsTest, KeysThatCannotBeHoldNothing) {
+    for (const std::string& key : {std::string("\\Base"), Base + '\\' + std::string(256, 'k')}) {
+        SCOPED_TRACE(key.substr(0, 10));
+        registry.SetValue(User, key, "Value", RegistryType::Text, "kept");
+        EXPECT_EQ(registry.GetValue(User, key, "Value", RegistryType::Text, "none"),
+                  RegistryValue("none"));
+        EXPECT_EQ(registry.GetValueType(User, key, "Value"), 0);
+        registry.DeleteValue(User, key, "Value");
+        EXPECT_FALSE(registry.KeyExists(User, key));
+    }
+}
+
+TEST_F(StoreLimitsTest, AValueTellsItsType) {
+    registry.CreateKey(User, Base);
+    registry.SetValue(User, Base, "Text", RegistryType::Text, "1");
+    registry.SetValue(User, Base, "Number", RegistryType::Number, 1);
+    EXPECT_EQ(registry.GetValueType(User, Base, "text"), RegistryType::Text);
+    EXPECT_EQ(registry.GetValueType(User, Base, "Number"), RegistryType::Number);
+    EXPECT_EQ(registry.GetValueType(User, Base, "Absent"), 0);
+    EXPECT_EQ(RegistryFlag(true), -1);
+    EXPECT_EQ(RegistryFlag(false), 0);
+}
+
+/// A log says how large its pages are, before anything in it is added up.
+TEST_F(StoreLimitsTest, ALogOfImpossiblePagesIsNone) {
+    SaveWorksheet(registry, "0", "0");
+    MakeOneFile(store);
+    SaveWorksheet(registry, "0", "last"); // in the log
+    const std::string log = BytesOf(StoreFile::LogOf(store));
+    const std::string file = BytesOf(store);
+    ASSERT_NE(StoreImage(store).Bytes(), file);
+    for (const std::string& size : {std::string("\0\0\1\0", 4), std::string("\0\2\0\0", 4),
+                                    std::string("\0\0\x10\1", 4), std::string(4, '\0')}) {
+        std::string damaged = log;
+        WriteBytes(StoreFile::LogOf(store), damaged.replace(8, 4, size));
+        EXPECT_EQ(StoreImage(store).Bytes(), file);
+    }
+}
+
+TEST_F(StoreLimitsTest, AFileWithoutALogIsSoundToo) {
+    SaveWorksheet(registry, "0", "0");
+    MakeOneFile(store);
+    WriteBytes(store, StoreImage(store).AsPlainFile());
+    ASSERT_EQ(BytesOf(store).substr(18, 2), "\1\1");
+    EXPECT_TRUE(IsSound(StoreImage(store)));
+    EXPECT_EQ(MarkOf(registry, "0"), "0");
+}
+
+TEST_F(StoreLimitsTest, AFolderInItsPlaceCannotBeUsed) {
+    fs::create_directories(store);
+    EXPECT_EQ(PrepareStore(store, "2026-11-21").state, State::Unusable);
+    EXPECT_FALSE(RepairStore(store, "2026-11-21"));
+    TidyStore(store);
+    EXPECT_TRUE(fs::is_directory(store));
+}
+
+TEST_F(StoreLimitsTest, AnEmptyFolderHasNothingToTidy) {
+    fs::create_directories(store.parent_path());
+    EXPECT_EQ(PrepareStore(store, "2026-11-21").state, State::Missing);
+    TidyStore(store);
+    EXPECT_FALSE(fs::exists(store));
+}
+
+} // namespace

@@ -1,0 +1,139 @@
+// Sorting over random keys and random offers: complete, in order, and equal keys as entered.
+
+#include "OfferOrder.h"
+#include "RandomCases.h"
+#include "SortKeys.h"
+#include "WorksheetTest.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+std::vector<std::size_t> RowsOf(const OfferOrder& order, std::size_t count) {
+    std::vector<std::size_t> rows;
+    for (std::size_t row = 0; row < count; ++row) {
+        rows.push_back(order.OfferIndexOfRow({static_cast<int>(row)}).value);
+    }
+    return rows;
+}
+
+/// Neighbours change places while the first is greater, until none is: what a stable sort means,
+/// written down without one.
+template <class Key>
+std::vector<std::size_t> Exchanged(const std::vector<Key>& keys) {
+    std::vector<std::size_t> offers;
+    for (std::size_t offer = 0; offer < keys.size(); ++offer) {
+        offers.push_back(offer);
+    }
+    for (std::size_t passes = 0; passes < offers.size(); ++passes) {
+        for (std::size_t row = 1; row < offers.size(); ++row) {
+            if (keys[offers[row - 1]] > keys[offers[row]]) {
+                std::swap(offers[row - 1], offers[row]);
+            }
+        }
+    }
+    return offers;
+}
+
+/// Keys of few values, so that many are equal.
+std::vector<Money> RandomKeys(Random& random, std::size_t count) {
+    const int values = random.Int(1, 12);
+    std::vector<Money> keys;
+    for (std::size_t offer = 0; offer < count; ++offer) {
+        keys.push_back(Money::FromTenThousandths(random.Whole(-values, values)));
+    }
+    return keys;
+}
+
+TEST(SortingProperties, IsTheStableOrderOfTheKeysWhateverCameBefore) {
+    ForRandomCases(1'000, [](Random& random) {
+        OfferOrder order;
+        std::size_t count = 0;
+        for (int sorts = random.Int(1, 4); sorts > 0; --sorts) {
+            for (int more = random.Int(0, 40); more > 0; --more) {
+                order.Append();
+                ++count;
+            }
+            const std::vector<Money> keys = RandomKeys(random, count);
+            const SortOrder by = random.OneIn(2) ? SortOrder::Interest : SortOrder::PayoffDate;
+            order.SortBy(by, keys);
+            EXPECT_EQ(RowsOf(order, count), Exchanged(keys));
+            EXPECT_EQ(order.Order(), by);
+            order.SortBy(by, keys); // once more changes nothing
+            EXPECT_EQ(RowsOf(order, count), Exchanged(keys));
+        }
+    });
+}
+
+TEST(SortingProperties, ShowsEveryOfferInOneRow) {
+    ForRandomCases(1'000, [](Random& random) {
+        OfferOrder order;
+        const auto count = static_cast<std::size_t>(random.Int(1, 100));
+        for (std::size_t offer = 0; offer < count; ++offer) {
+            order.Append();
+        }
+        order.SortBy(SortOrder::Interest, RandomKeys(random, count));
+        std::vector<std::size_t> rows = RowsOf(order, count);
+        std::ranges::sort(rows);
+        for (std::size_t offer = 0; offer < count; ++offer) {
+            ASSERT_EQ(rows[offer], offer);
+        }
+    });
+}
+
+/// Offers of equal and of different rates, of lenders alone and blank ones.
+class OffersSortingProperties : public WorksheetTest {
+protected:
+    static constexpr int OfferCount = 12;
+
+    void EnterAny(Row row, Random& random) {
+        CLoan& offer = m_worksheet.OfferOfRow(row);
+        offer = CLoan(m_worksheet);
+        switch (random.Int(0, 3)) {
+        case 0:
+            return;
+        case 1:
+            return offer.SetWho(u"Bank"_qs);
+        default:
+            offer.SetStartingAmount(Units(10'000));
+            offer.SetTerm(12 * random.Int(1, 3));
+            offer.SetInterestRate(random.Int(4, 6) / 100.0);
+            offer.SetFrequencyCode(random.OneIn(2) ? u"M"_qs : u"B"_qs);
+            offer.Payment();
+            offer.PayoffDate();
+        }
+    }
+    std::vector<std::size_t> Rows() const {
+        std::vector<std::size_t> rows;
+        for (Row row{0}; row < Row{OfferCount}; ++row.value) {
+            rows.push_back(m_worksheet.OfferIndexOfRow(row).value);
+        }
+        return rows;
+    }
+    template <class KeyOf>
+    auto Keys(KeyOf keyOf) {
+        std::vector<decltype(keyOf(m_worksheet.Offer({0})))> keys;
+        for (std::size_t offer = 0; offer < OfferCount; ++offer) {
+            keys.push_back(keyOf(m_worksheet.Offer({offer})));
+        }
+        return keys;
+    }
+};
+
+TEST_F(OffersSortingProperties, SortByTheirResultsAndElseAsEntered) {
+    m_worksheet.GrowOfferArrays(m_worksheet.HighestOfferRow(), Row{OfferCount - 1});
+    ForRandomCases(250, [this](Random& random) {
+        for (Row row{0}; row < Row{OfferCount}; ++row.value) {
+            EnterAny(row, random);
+        }
+        m_worksheet.SortByInterest();
+        EXPECT_EQ(Rows(), Exchanged(Keys(InterestKey)));
+        m_worksheet.SortByPayoffDate();
+        EXPECT_EQ(Rows(), Exchanged(Keys(PayoffDateKey)));
+        m_worksheet.SortByInterest();
+        EXPECT_EQ(Rows(), Exchanged(Keys(InterestKey)));
+    });
+}
+
+} // namespace

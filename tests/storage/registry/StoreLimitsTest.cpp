@@ -91,7 +91,7 @@ TEST_F(StoreLimitsTest, AFileWithoutALogIsSoundToo) {
 TEST_F(StoreLimitsTest, AFolderInItsPlaceCannotBeUsed) {
     fs::create_directories(store);
     EXPECT_EQ(PrepareStore(store, "2026-11-21").state, State::Unusable);
-    EXPECT_FALSE(RepairStore(store, "2026-11-21"));
+    EXPECT_NE(RepairStore(store, "2026-11-21").state, State::Repaired);
     TidyStore(store);
     EXPECT_TRUE(fs::is_directory(store));
 }

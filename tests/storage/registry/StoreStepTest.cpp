@@ -218,7 +218,10 @@ TEST(UserStore, StandsInTheUsersDataFolder) {
     }
     const Environment data("XDG_DATA_HOME", nullptr);
     const Environment home("HOME", nullptr);
-    EXPECT_TRUE(RegistryAPI::UserStore().is_absolute());
+    const std::filesystem::path ofTheSystem = RegistryAPI::UserStore();
+    EXPECT_TRUE(ofTheSystem.is_absolute());
+    const Environment emptyHome("HOME", "");
+    EXPECT_EQ(RegistryAPI::UserStore(), ofTheSystem);
 }
 
 } // namespace

@@ -288,6 +288,7 @@ TEST_F(LoanStoreTest, NamesThatCanAndCannotBeKeys) {
              Case{u"(new loan)"_qs, false, false},
              Case{u"(préstamo nuevo)"_qs, false, false},
              Case{u"a/b*c?"_qs, false, true},
+             Case{u"a"_qs + QChar(QChar::Null), false, false},
          }) {
         EXPECT_EQ(row.empty, LoanStore::IsEmptyName(row.name)) << row.name.toStdString();
         EXPECT_EQ(row.canHold, LoanStore::CanHold(row.name)) << row.name.toStdString();
@@ -363,6 +364,7 @@ TEST_F(LoanStoreTest, ABadValueIsReportedAndTheRestIsLoaded) {
              BadValue{"CurrentActualPayment", "$5", 13},
              BadValue{"Loan 1 Points", "nan", 13},
              BadValue{"Loan 1 Points", "1,5", 0},
+             BadValue{"Loan 1 Points", "1\u066B5", 0}, // as an Arabic locale writes it
              BadValue{"Loan 1 Term", "thirty", 13},
              BadValue{"Loan 1 InterestRate", "inf", 13},
              BadValue{"Loan 1 Frequency", "m", 13},

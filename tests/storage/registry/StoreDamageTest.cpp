@@ -7,6 +7,7 @@
 #include "StorePages.h"
 #include "StoreSoundness.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -229,6 +230,32 @@ TEST_F(StoreDamageTest, ATextWhereBytesBelongIsNoticed) {
         ++pages;
     }
     EXPECT_GT(pages, 2U);
+}
+
+void Rename(std::string& bytes, const std::string& from, const std::string& to) {
+    std::size_t found = 0;
+    for (std::size_t at = bytes.find(from); at != std::string::npos; at = bytes.find(from, at)) {
+        bytes.replace(at, from.size(), to);
+        ++found;
+    }
+    EXPECT_GE(found, 1U) << from;
+}
+
+/// A key's name stands in the store as it was typed and as it is sorted. One that cannot have been
+/// typed is replaced by the sorted one.
+TEST_F(StoreDamageTest, AKeyWhoseNameIsNoneGetsTheSortedOne) {
+    std::string damaged = Build();
+    Add(damaged, 36, 4, 1); // so that it is repaired
+    Rename(damaged, "Worksheet number 150", "Worksheet\\number 150");
+    Rename(damaged, "Worksheet number 151", "Worksheet numbex 151");
+    Rename(damaged, "Worksheet number 152", "Worksheet \xFFumber 152");
+    ExpectNoticed(damaged, AllKeys);
+    const std::vector<std::string> names = registry.GetSubKeys(User, Base);
+    EXPECT_EQ(names.size(), Worksheets);
+    for (const char* const number : {"150", "151", "152"}) {
+        EXPECT_TRUE(std::ranges::count(names, std::string("WORKSHEET NUMBER ") + number)) << number;
+    }
+    EXPECT_TRUE(std::ranges::count(names, "Worksheet number 154"));
 }
 
 TEST_F(StoreDamageTest, APageThatNothingLeadsToIsNoticed) {

@@ -52,6 +52,32 @@ TEST_F(StoreLimitsTest, KeysThatCannotBeHoldNothing) {
     }
 }
 
+/// The key found last is remembered within a step, for its own root alone.
+TEST_F(StoreLimitsTest, EachRootHasKeysOfItsOwn) {
+    registry.InOneStep([](const RegistryAPI& step) {
+        step.SetValue(User, Base, "None", RegistryType::Text, "lost"); // there is no such key yet
+        step.CreateKey(User, Base);
+        step.SetValue(User, Base, "Root", RegistryType::Text, "user");
+        EXPECT_FALSE(step.KeyExists(RegistryRoot::LocalMachine, Base));
+        step.CreateKey(RegistryRoot::LocalMachine, Base);
+        step.SetValue(RegistryRoot::LocalMachine, Base, "Root", RegistryType::Text, "machine");
+        EXPECT_EQ(step.GetValue(User, Base, "Root", RegistryType::Text, ""), RegistryValue("user"));
+    });
+    EXPECT_EQ(registry.GetValue(RegistryRoot::LocalMachine, Base, "Root", RegistryType::Text, ""),
+              RegistryValue("machine"));
+}
+
+TEST_F(StoreLimitsTest, ARootIsNeverDeleted) {
+    registry.DeleteKey(User, "");
+    registry.CreateKey(User, Base);
+    registry.SetValue(User, "", "Root", RegistryType::Text, "user");
+    registry.DeleteKey(User, Base);
+    registry.DeleteKey(User, "Software\\Quend Halverworks");
+    registry.DeleteKey(User, "Software");
+    registry.DeleteKey(User, ""); // with nothing below it any more
+    EXPECT_EQ(registry.GetValue(User, "", "Root", RegistryType::Text, ""), RegistryValue("user"));
+}
+
 TEST_F(StoreLimitsTest, AValueTellsItsType) {
     registry.CreateKey(User, Base);
     registry.SetValue(User, Base, "Text", RegistryType::Text, "1");

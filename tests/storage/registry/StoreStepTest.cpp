@@ -217,9 +217,12 @@ TEST(UserStore, StandsInTheUsersDataFolder) {
                   std::filesystem::path(row.folder) / "Quend Halverworks" / "Loan.store");
     }
     const Environment data("XDG_DATA_HOME", nullptr);
-    for (const char* const none : {static_cast<const char*>(nullptr), "", "jose", "./jose"}) {
+    const Environment noHome("HOME", nullptr);
+    const std::filesystem::path ofTheSystem = RegistryAPI::UserStore();
+    EXPECT_TRUE(ofTheSystem.is_absolute());
+    for (const char* const none : {"", "jose", "./jose"}) {
         const Environment home("HOME", none);
-        EXPECT_TRUE(RegistryAPI::UserStore().is_absolute());
+        EXPECT_EQ(RegistryAPI::UserStore(), ofTheSystem) << none;
     }
 }
 

@@ -89,6 +89,7 @@ int Run(const StoreCondition& condition, MessageBoxes& messages) {
     DesktopMail mail;
     const ShareCommands share(window, mail);
     const AboutCommands about(window, store, InstalledSystemInfo());
+    DropForeignPlace(QSettings().fileName());
     QSettings kept;
     window.OnUnload([&] {
         if (!files.MayDrop()) {

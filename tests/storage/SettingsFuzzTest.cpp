@@ -30,6 +30,7 @@ protected:
         file.close();
         QWidget window;
         window.setMinimumSize(300, 200);
+        DropForeignPlace(path);
         QSettings kept(path, QSettings::IniFormat);
         RestorePlace(window, kept);
         window.show();

@@ -10,6 +10,7 @@
 #include "WindowFixture.h"
 #include "WindowPlace.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QSettings>
 
@@ -103,6 +104,30 @@ TEST_F(PlaceOfTheWindow, UnreadablePlacesAreIgnored) {
         RestorePlace(Window(), kept);
         EXPECT_EQ(Window().size(), size);
     }
+}
+
+TEST_F(PlaceOfTheWindow, AFileWithAnythingElseIsDropped) {
+    struct Row {
+        const char* file;
+        bool stays;
+    };
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"place.conf"_qs);
+    DropForeignPlace(path); // there is none yet
+    for (const Row& row : {Row{"sound.conf", true}, Row{"maximized.conf", true},
+                           Row{"endless-variant.conf", false}, Row{"another-kind.conf", false}}) {
+        ASSERT_TRUE(QFile::copy(
+            QStringLiteral(QUEND_TEST_DATA "/place-corpus/") + QLatin1String(row.file), path));
+        DropForeignPlace(path);
+        EXPECT_EQ(QFile::exists(path), row.stays) << row.file;
+        QFile::remove(path);
+    }
+    QSettings kept(path, QSettings::IniFormat);
+    Open();
+    KeepPlace(Window(), kept);
+    kept.sync();
+    DropForeignPlace(path);
+    EXPECT_TRUE(QFile::exists(path)); // what we write is ours
 }
 
 // The pointer

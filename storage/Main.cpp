@@ -30,6 +30,7 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <filesystem>
 #include <future>
 #include <optional>
 
@@ -75,11 +76,11 @@ void TellAboutStore(Messages& messages, const RegistryAPI& store, const StoreCon
     }
 }
 
-int Run(const StoreCondition& condition, MessageBoxes& messages) {
-    const auto [settings, refused] = LoadSettings(RegistryAPI(RegistryAPI::UserStore()));
+int Run(const std::filesystem::path& place, const StoreCondition& condition,
+        MessageBoxes& messages) {
+    const auto [settings, refused] = LoadSettings(RegistryAPI(place));
     Loan window({.messages = &messages, .locale = QLocale::system(), .today = Today}, settings);
-    const RegistryAPI store =
-        StoreThatTells(RegistryAPI::UserStore(), window.GetMessages(), TodayInWords);
+    const RegistryAPI store = StoreThatTells(place, window.GetMessages(), TodayInWords);
     FileCommands files(window, LoanStore(store));
     PictureDialog pictures;
     const OptionsCommands options(window, store, pictures);
@@ -107,14 +108,15 @@ int Run(const StoreCondition& condition, MessageBoxes& messages) {
 }
 
 /// Looks at the store while the toolkit gets ready.
-std::future<StoreCondition> BeginLook(const std::filesystem::path& store) {
-    return std::async([store, today = TodayInWords()] { return PrepareStore(store, today); });
+std::future<StoreCondition> BeginLook(const std::filesystem::path& place) {
+    return std::async([place, today = TodayInWords()] { return PrepareStore(place, today); });
 }
 
 } // namespace
 
 int main(int argc, char* argv[]) {
-    std::future<StoreCondition> look = BeginLook(RegistryAPI::UserStore());
+    const std::filesystem::path place = RegistryAPI::UserStore();
+    std::future<StoreCondition> look = BeginLook(place);
     const QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Quend Halverworks"));
     QCoreApplication::setApplicationName(QStringLiteral("Loan"));
@@ -125,13 +127,12 @@ int main(int argc, char* argv[]) {
     QApplication::setWindowIcon(ProgramIcon());
     SetUpLanguage();
     MessageBoxes messages;
-    const RegistryAPI store(RegistryAPI::UserStore());
     const StoreCondition condition = look.get();
-    if (const auto obstacle = Obstacle(store, condition)) {
+    if (const auto obstacle = Obstacle(RegistryAPI(place), condition)) {
         messages.Show(*obstacle);
         return 1;
     }
-    const int result = Run(condition, messages);
-    TidyStore(RegistryAPI::UserStore());
+    const int result = Run(place, condition, messages);
+    TidyStore(place);
     return result;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Schedule.h"
+
 #include <cstdint>
 
 /// The arithmetic of the schedule and nothing else, as the yardstick of its cost: one hand-written
@@ -14,6 +16,18 @@ struct BareLoan {
     int day;
     int days; ///< the same day counted since 30 December 1899
 };
+
+/// A schedule without escrow that begins on 21 July 2026, as the benchmarks have it.
+inline BareLoan BareLoanOf(const ScheduleTerms& terms) {
+    return {terms.balance.TenThousandths(),
+            terms.payment.TenThousandths(),
+            0,
+            terms.rate,
+            2026,
+            7,
+            21,
+            terms.start.Days()};
+}
 
 struct BarePayoff {
     std::int64_t interest;

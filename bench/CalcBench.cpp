@@ -60,14 +60,7 @@ ScheduleTerms TermsFor(const Frequency& frequency) {
 /// The schedule beside the bare loop of the same arithmetic, in turns, each at its best.
 void SchedulePeriod(benchmark::State& state, std::size_t row) {
     const ScheduleTerms terms = TermsFor(Frequencies.at(row));
-    const BareLoan bare{terms.balance.TenThousandths(),
-                        terms.payment.TenThousandths(),
-                        0,
-                        terms.rate,
-                        2026,
-                        7,
-                        21,
-                        terms.start.Days()};
+    const BareLoan bare = BareLoanOf(terms);
     double best = std::numeric_limits<double>::max();
     double bestBare = best;
     for ([[maybe_unused]] auto turn : state) {

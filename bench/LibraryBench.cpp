@@ -40,14 +40,7 @@ void Schedule_(benchmark::State& state) {
 
 void BareLoop(benchmark::State& state) {
     const ScheduleTerms terms = TermsOf(static_cast<int>(state.range(0)));
-    const BareLoan bare{terms.balance.TenThousandths(),
-                        terms.payment.TenThousandths(),
-                        0,
-                        terms.rate,
-                        2026,
-                        7,
-                        21,
-                        terms.start.Days()};
+    const BareLoan bare = BareLoanOf(terms);
     for ([[maybe_unused]] auto turn : state) {
         benchmark::DoNotOptimize(BareMonthly(bare));
     }

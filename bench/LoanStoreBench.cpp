@@ -15,11 +15,11 @@
 #include "Sheet.h"
 #include "StoreCheck.h"
 #include "StoreFolder.h"
+#include "WindowMain.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QAbstractItemView>
-#include <QApplication>
 
 #include <array>
 #include <chrono>
@@ -208,12 +208,4 @@ BENCHMARK(DropDownOfTenThousandWorksheets)
 
 } // namespace
 
-int main(int argc, char* argv[]) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
-    Language::Instance().LoadLanguage(1);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char* argv[]) { return RunWindowBenchmarks(argc, argv); }

@@ -5,13 +5,12 @@
 #include "ControlMap.h"
 #include "FakeMessages.h"
 #include "Frequency.h"
-#include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
+#include "WindowMain.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QTest>
 
@@ -83,14 +82,4 @@ BENCHMARK(KeyToPaintedResult)
 
 } // namespace
 
-int main(int argc, char* argv[]) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    const QApplication application(argc, argv);
-    Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
-    Language::Instance().LoadLanguage(1);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
+int main(int argc, char* argv[]) { return RunWindowBenchmarks(argc, argv); }

@@ -46,12 +46,11 @@ class PrintLab:
         The printer gets its pages upright; the server's copy of the document lies as it was sent.
         """
         document = self.document()
-        jobs, sent = self._jobs(), self._jobs("d")
-        if len(jobs) != 1 or len(sent) != 1:
-            raise Expired(f"{len(jobs)} jobs of {len(sent)} documents instead of one of each")
-        pages, width, height = _pages(sent[0])
+        job = wait_for("the server's note of the job", lambda: _only(self._jobs()), _PRINT_SECONDS)
+        sent = wait_for("the document sent", lambda: _only(self._jobs("d")), _PRINT_SECONDS)
+        pages, width, height = _pages(sent)
         side = "landscape" if width > height else "portrait"
-        return f"{_copies(jobs[0])} copies, {pages} page, {side}: {_first_words(document)}"
+        return f"{_copies(job)} copies, {pages} page, {side}: {_first_words(document)}"
 
     def must_be_empty(self) -> None:
         """Raises Expired when a job has come to the server, or a document to the printer."""
@@ -60,8 +59,11 @@ class PrintLab:
             raise Expired(f"there are {found}")
 
     def _jobs(self, kind: str = "c") -> list[Path]:
-        """What the server remembers of its jobs, one file each; "d" for their documents."""
-        return sorted((self._folder / "spool").glob(f"{kind}[0-9]*"))
+        """What the server remembers of its jobs, one file each; "d" for their documents.
+
+        The server writes a job's file anew beside the old one (c00001.N), and then renames it.
+        """
+        return sorted((self._folder / "spool").glob(f"{kind}[0-9]*[0-9]"))
 
     def document(self) -> Path:
         """The one document that has been printed; waits until the printer is done with it."""
@@ -84,6 +86,10 @@ class PrintLab:
             self._run("stop")
         finally:
             self._temporary.cleanup()
+
+
+def _only(files: list[Path]) -> Path | None:
+    return files[0] if len(files) == 1 else None
 
 
 def _copies(job: Path) -> int:

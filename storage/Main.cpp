@@ -28,7 +28,6 @@
 #include <QApplication>
 #include <QDate>
 #include <QFileInfo>
-#include <QSettings>
 
 #include <filesystem>
 #include <future>
@@ -90,18 +89,16 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
     DesktopMail mail;
     const ShareCommands share(window, mail);
     const AboutCommands about(window, store, InstalledSystemInfo());
-    DropForeignPlace(QSettings().fileName());
-    QSettings kept;
     window.OnUnload([&] {
         if (!files.MayDrop()) {
             return false;
         }
         SaveSettings(store, window.GetSettings());
-        KeepPlace(window, kept);
+        KeepPlace(window, UserPlace());
         window.GetMessages().ShowRest(); // with the window gone, nobody would wait for an answer
         return true;
     });
-    RestorePlace(window, kept);
+    RestorePlace(window, UserPlace());
     TellAboutStore(window.GetMessages(), store, condition, refused);
     window.show();
     return QApplication::exec();

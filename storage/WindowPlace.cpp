@@ -1,45 +1,34 @@
 #include "WindowPlace.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QScreen>
-#include <QSettings>
+#include <QStandardPaths>
 #include <QWidget>
-
-#include <algorithm>
 
 namespace {
 
-QString PlaceName() { return QStringLiteral("window/geometry"); }
+constexpr qint64 LongestPlace = 1'000; // bytes; the toolkit writes 66
 
-constexpr qint64 LongestPlace = 10'000; // bytes of the file
-
-/// One line of what KeepPlace writes.
-bool IsOurs(const QByteArray& line) {
-    const QByteArray text = line.trimmed();
-    return text.isEmpty() || text == "[window]" || text.startsWith("geometry=@ByteArray(") ||
-           text.startsWith("geometry=\"@ByteArray(");
+QByteArray KeptPlace(const QString& name) {
+    QFile file(name);
+    const bool opened = QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly);
+    return opened ? file.read(LongestPlace) : QByteArray();
 }
 
 } // namespace
 
-void DropForeignPlace(const QString& file) {
-    QFile kept(file);
-    if (!QFileInfo(file).isFile() || !kept.open(QIODevice::ReadOnly)) {
-        return;
-    }
-    const QList<QByteArray> lines = kept.read(LongestPlace + 1).split('\n');
-    const bool ours = kept.size() <= LongestPlace && std::ranges::all_of(lines, IsOurs);
-    kept.close();
-    if (!ours) {
-        kept.remove();
-    }
+QString UserPlace() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+           QStringLiteral("/window.place");
 }
 
-void RestorePlace(QWidget& window, const QSettings& kept) {
+void RestorePlace(QWidget& window, const QString& file) {
     // The toolkit sees to it that the window lies on a screen that is still there, but for a place
     // and a size that no window can have had.
-    window.restoreGeometry(kept.value(PlaceName()).toByteArray());
+    window.restoreGeometry(KeptPlace(file));
     const QRect screens = window.screen()->virtualGeometry();
     const QSize most = screens.size() * 4;
     if (!screens.intersects(window.geometry()) || window.size().boundedTo(most) != window.size()) {
@@ -47,6 +36,11 @@ void RestorePlace(QWidget& window, const QSettings& kept) {
     }
 }
 
-void KeepPlace(const QWidget& window, QSettings& kept) {
-    kept.setValue(PlaceName(), window.saveGeometry());
+void KeepPlace(const QWidget& window, const QString& file) {
+    QDir().mkpath(QFileInfo(file).path());
+    QSaveFile kept(file);
+    if (kept.open(QIODevice::WriteOnly)) {
+        kept.write(window.saveGeometry());
+        kept.commit();
+    }
 }

@@ -1,15 +1,13 @@
 #pragma once
 
-class QSettings;
 class QString;
 class QWidget;
 
-/// Removes a file that holds anything but a place as KeepPlace writes it; to be called before the
-/// toolkit opens it. From any other file the toolkit would build values of the kinds and sizes that
-/// it names, of a hundred gigabytes if it says so.
-void DropForeignPlace(const QString& file);
+/// The user's file for the place of the window, apart from the settings of the program.
+QString UserPlace();
 
-/// Where the window stood and how large it was, kept by the toolkit's own means, apart from the
-/// settings of the program.
-void RestorePlace(QWidget& window, const QSettings& kept);
-void KeepPlace(const QWidget& window, QSettings& kept);
+/// Where the window stood and how large it was, as the toolkit's own bytes. A place that was not
+/// kept, cannot be read or that no window can have had leaves the window where it is, or puts it
+/// on a screen. A place that cannot be kept is not worth a message.
+void RestorePlace(QWidget& window, const QString& file);
+void KeepPlace(const QWidget& window, const QString& file);

@@ -11,7 +11,6 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <QWidget>
 
@@ -23,22 +22,19 @@ class SettingsFuzz : public testing::Test {
 protected:
     void TryPlace(const std::string& bytes) {
         const QuietToolkit quiet;
-        const QString path = m_folder.filePath(QStringLiteral("Loan.conf"));
+        const QString path = m_folder.filePath(QStringLiteral("window.place"));
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(bytes.data(), static_cast<qint64>(bytes.size()));
         file.close();
         QWidget window;
         window.setMinimumSize(300, 200);
-        DropForeignPlace(path);
-        QSettings kept(path, QSettings::IniFormat);
-        RestorePlace(window, kept);
+        RestorePlace(window, path);
         window.show();
         EXPECT_GE(window.width(), 300);
         EXPECT_LE(window.width(), 20'000);
         EXPECT_TRUE(window.frameGeometry().intersects(window.screen()->virtualGeometry()));
-        KeepPlace(window, kept);
-        kept.sync();
+        KeepPlace(window, path);
     }
     void TryValues(const std::string& input) {
         const RegistryAPI store = m_store.Store();

@@ -10,9 +10,11 @@
 #include "WindowFixture.h"
 #include "WindowPlace.h"
 
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
-#include <QSettings>
+
+#include <sys/stat.h>
 
 #include <array>
 #include <stdexcept>
@@ -81,53 +83,55 @@ TEST_F(LanguageOutOfRange, IsToldAndNotKept) {
 
 class PlaceOfTheWindow : public WindowTest {};
 
-TEST_F(PlaceOfTheWindow, IsKeptApartFromTheSettings) {
+TEST_F(PlaceOfTheWindow, IsKeptInAFolderMadeForIt) {
     const QTemporaryDir folder;
-    QSettings kept(folder.filePath(u"place.conf"_qs), QSettings::IniFormat);
+    const QString file = folder.filePath(u"made/for it/window.place"_qs);
     Open();
     Window().resize(Window().width() + 60, Window().height() + 40);
     const QSize size = Window().size();
-    KeepPlace(Window(), kept);
+    KeepPlace(Window(), file);
     Open();
     EXPECT_NE(Window().size(), size);
-    RestorePlace(Window(), kept);
+    RestorePlace(Window(), file);
     EXPECT_EQ(Window().size(), size);
 }
 
 TEST_F(PlaceOfTheWindow, UnreadablePlacesAreIgnored) {
     const QTemporaryDir folder;
-    QSettings kept(folder.filePath(u"place.conf"_qs), QSettings::IniFormat);
+    const QString name = folder.filePath(u"window.place"_qs);
     Open();
     const QSize size = Window().size();
+    RestorePlace(Window(), name); // there is none yet
+    EXPECT_EQ(Window().size(), size);
     for (const QByteArray& bytes : {QByteArray(), QByteArray("garbage"), QByteArray(500, '\xFF')}) {
-        kept.setValue(u"window/geometry"_qs, bytes);
-        RestorePlace(Window(), kept);
+        QFile file(name);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        file.close();
+        RestorePlace(Window(), name);
         EXPECT_EQ(Window().size(), size);
     }
 }
 
-TEST_F(PlaceOfTheWindow, AFileWithAnythingElseIsDropped) {
-    struct Row {
-        const char* file;
-        bool stays;
-    };
+TEST_F(PlaceOfTheWindow, AFileThatNobodyWritesToIsNotWaitedFor) {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(u"place.conf"_qs);
-    DropForeignPlace(path); // there is none yet
-    for (const Row& row : {Row{"sound.conf", true}, Row{"maximized.conf", true},
-                           Row{"endless-variant.conf", false}, Row{"another-kind.conf", false}}) {
-        ASSERT_TRUE(QFile::copy(
-            QStringLiteral(QUEND_TEST_DATA "/place-corpus/") + QLatin1String(row.file), path));
-        DropForeignPlace(path);
-        EXPECT_EQ(QFile::exists(path), row.stays) << row.file;
-        QFile::remove(path);
-    }
-    QSettings kept(path, QSettings::IniFormat);
+    const QString pipe = folder.filePath(u"window.place"_qs);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     Open();
-    KeepPlace(Window(), kept);
-    kept.sync();
-    DropForeignPlace(path);
-    EXPECT_TRUE(QFile::exists(path)); // what we write is ours
+    const QSize size = Window().size();
+    RestorePlace(Window(), pipe);
+    EXPECT_EQ(Window().size(), size);
+}
+
+TEST_F(PlaceOfTheWindow, WhereItCannotBeKeptTheProgramGoesOn) {
+    const QTemporaryDir folder;
+    const QString blocked = folder.filePath(u"blocked"_qs);
+    ASSERT_TRUE(QFile(blocked).open(QIODevice::WriteOnly));
+    Open();
+    KeepPlace(Window(), blocked + u"/window.place"_qs);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList(u"blocked"_qs));
+    EXPECT_EQ(SettledMessages(), QStringList());
 }
 
 // The pointer

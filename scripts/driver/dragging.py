@@ -32,7 +32,9 @@ class Neighbour:
         self.place("gives")
 
     def lines(self) -> list[str]:
-        return self._said.read_text(encoding="utf-8", errors="replace").splitlines()
+        """What has been said so far, but for a line that is still being written."""
+        said = self._said.read_text(encoding="utf-8", errors="replace")
+        return said[:said.rfind("\n") + 1].splitlines()
 
     def listen(self) -> None:
         """What has been said so far does not count any more."""

@@ -33,13 +33,32 @@ const std::array<Habits, Forms::Countries> AllHabits{{
 
 QString Said(const char16_t* text) { return QString::fromUtf16(text); }
 
+/// One more in the last place, whatever its sign.
+QString Upwards(QString digits) {
+    for (qsizetype at = digits.size() - 1; at >= 0; --at) {
+        if (digits.at(at).isDigit()) {
+            const bool carries = digits.at(at) == u'9';
+            digits[at] = carries ? QChar(u'0') : QChar(digits.at(at).unicode() + 1);
+            if (!carries) {
+                return digits;
+            }
+        }
+    }
+    return digits.insert(digits.startsWith(u'-') ? 1 : 0, u'1');
+}
+
+/// Halves away from zero.
 QString WrittenOut(double number, int decimals) {
     if (std::abs(number) >= 1e15) { // more digits than such a number has are anybody's guess
         return QString::number(number, 'f', decimals);
     }
-    std::array<char, 400> text{};
-    const int length = std::snprintf(text.data(), text.size(), "%.*f", decimals, number);
-    return QString::fromLatin1(text.data(), length);
+    constexpr int all = 1'074; // decimals that the smallest of numbers has
+    std::array<char, all + 20> text{};
+    const int length = std::snprintf(text.data(), text.size(), "%.*f", all, number);
+    const QString exact = QString::fromLatin1(text.data(), length);
+    const qsizetype point = exact.indexOf(u'.');
+    const QString kept = exact.left(decimals == 0 ? point : point + 1 + decimals);
+    return exact.at(point + 1 + decimals) < u'5' ? kept : Upwards(kept);
 }
 
 int PowerOfTen(double number) {

@@ -85,10 +85,7 @@ LoanStore OpenStoreOf(const StoreFolder& folder, int worksheets, int offers) {
     return loans;
 }
 
-void SaveOfAWorksheet(benchmark::State& state) {
-    const auto offers = static_cast<int>(state.range(0));
-    const StoreFolder folder;
-    const LoanStore loans = OpenStoreOf(folder, 100, offers);
+void MeasureSaves(benchmark::State& state, const LoanStore& loans, int offers) {
     Sheet sheet(QLocale::c(), offers);
     FillSheet(sheet.worksheet, offers);
     loans.Save(sheet.worksheet);
@@ -109,6 +106,12 @@ void SaveOfAWorksheet(benchmark::State& state) {
     state.counters["rest_ms"] = benchmark::Counter(all - waited, perRound);
     rounds.ExpectBelow(20);
 }
+
+void SaveOfAWorksheet(benchmark::State& state) {
+    const auto offers = static_cast<int>(state.range(0));
+    const StoreFolder folder;
+    MeasureSaves(state, OpenStoreOf(folder, 100, offers), offers);
+}
 BENCHMARK(SaveOfAWorksheet)
     ->RangeMultiplier(2)
     ->Range(1, Rows)
@@ -116,16 +119,13 @@ BENCHMARK(SaveOfAWorksheet)
     ->Iterations(50)
     ->UseManualTime();
 
-void LoadOfAWorksheet(benchmark::State& state) {
-    const auto offers = static_cast<int>(state.range(0));
-    const StoreFolder folder;
-    const LoanStore loans = OpenStoreOf(folder, 100, offers);
+void MeasureLoads(benchmark::State& state, const LoanStore& loans, const QString& name,
+                  int offers) {
     Sheet sheet(QLocale::c(), offers);
     Rounds rounds(state);
     for ([[maybe_unused]] auto round : state) {
         const auto start = Clock::now();
-        const auto failures =
-            loans.Load(sheet.worksheet, QStringLiteral("Loan 50"), [](Row /*last*/) {});
+        const auto failures = loans.Load(sheet.worksheet, name, [](Row /*last*/) {});
         rounds.Add(start);
         if (!failures.empty() || sheet.worksheet.OfferOfRow(Row{offers - 1}).Who().isEmpty()) {
             state.SkipWithError("not all of it");
@@ -133,13 +133,20 @@ void LoadOfAWorksheet(benchmark::State& state) {
     }
     rounds.ExpectBelow(10);
 }
+
+void LoadOfAWorksheet(benchmark::State& state) {
+    const auto offers = static_cast<int>(state.range(0));
+    const StoreFolder folder;
+    MeasureLoads(state, OpenStoreOf(folder, 100, offers), QStringLiteral("Loan 50"), offers);
+}
 BENCHMARK(LoadOfAWorksheet)
     ->RangeMultiplier(2)
     ->Range(1, Rows)
     ->Unit(benchmark::kMillisecond)
     ->UseManualTime();
 
-/// Ten thousand worksheets; what else is in them makes no difference to their list.
+/// Ten thousand worksheets that hold a name: what else is in them makes no difference to their
+/// list, nor to another one that is saved or loaded.
 void MakeMany(const RegistryAPI& store) {
     store.InOneStep([](const RegistryAPI& step) {
         for (int i = 0; i < ManyWorksheets; ++i) {
@@ -149,6 +156,23 @@ void MakeMany(const RegistryAPI& store) {
         }
     });
 }
+
+void SaveAmongTenThousandWorksheets(benchmark::State& state) {
+    const StoreFolder folder;
+    MakeMany(folder.Store());
+    MeasureSaves(state, LoanStore(folder.Store()), Rows);
+}
+BENCHMARK(SaveAmongTenThousandWorksheets)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(50)
+    ->UseManualTime();
+
+void LoadAmongTenThousandWorksheets(benchmark::State& state) {
+    const StoreFolder folder;
+    MakeMany(folder.Store());
+    MeasureLoads(state, OpenStoreOf(folder, 1, Rows), QStringLiteral("Loan 0"), Rows);
+}
+BENCHMARK(LoadAmongTenThousandWorksheets)->Unit(benchmark::kMillisecond)->UseManualTime();
 
 void ListOfTenThousandWorksheets(benchmark::State& state) {
     const StoreFolder folder;

@@ -112,6 +112,18 @@ TEST_F(StoreFaultTest, AProcessKilledWhileSavingLeavesTheOldWorksheetOrTheNewOne
     EXPECT_EQ(PrepareStore(store, "today").state, State::Sound);
 }
 
+/// On a slow machine the other program may have its turn again and again until this one gives up,
+/// and the user tries once more.
+bool Insist(const std::function<void()>& action) {
+    constexpr int tries = 20;
+    for (int i = 0; i < tries; ++i) {
+        if (FailureOf(action).empty()) {
+            return true;
+        }
+    }
+    return false;
+}
+
 TEST_F(StoreFaultTest, TwoProgramsSavingAtOnceBothLandWhole) {
     registry.CreateKey(User, Base);
     constexpr int Saves = 40;
@@ -123,13 +135,12 @@ TEST_F(StoreFaultTest, TwoProgramsSavingAtOnceBothLandWhole) {
         }
         start.Drop();
         start.Wait();
-        const std::string failure = FailureOf([&] {
-            for (int i = 0; i <= Saves; ++i) {
-                SaveWorksheet(registry, name, std::to_string(i));
-                SaveWorksheet(registry, "Both", name);
-            }
-        });
-        _exit(failure.empty() ? 0 : 1);
+        bool saved = true;
+        for (int i = 0; saved && i <= Saves; ++i) {
+            saved = Insist([&] { SaveWorksheet(registry, name, std::to_string(i)); }) &&
+                    Insist([&] { SaveWorksheet(registry, "Both", name); });
+        }
+        _exit(saved ? 0 : 1);
     };
     const pid_t children[]{save("A"), save("B")};
     start.Drop();
@@ -215,8 +226,7 @@ void FillDisk(const fs::path& store) {
 
 TEST_F(StoreFaultTest, AFullDiskMakesTheSaveFailAndNothingElse) {
     const bool holds = HoldsInChild([&] {
-        if (unshare(CLONE_NEWNS) != 0 ||
-            mount("", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+        if (unshare(CLONE_NEWNS) != 0 || mount("", "/", "", MS_REC | MS_PRIVATE, "") != 0 ||
             mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=1m") != 0) {
             _exit(77);
         }

@@ -56,6 +56,9 @@ public:
     void TypeDay(unsigned a, unsigned b);
     void FillOffer(unsigned a, unsigned b);
     void FillCurrent(unsigned a, unsigned b);
+    void Intend(unsigned a, unsigned b);
+    void ClearIntended(unsigned a, unsigned b);
+    void EnterAgain(unsigned a, unsigned b);
     void Tick(unsigned a, unsigned b);
     void Drop(unsigned a, unsigned b);
     void Sort(unsigned a, unsigned b);
@@ -90,6 +93,8 @@ private:
     // Hands
     void Enter(Field field);
     void ChooseFrom(Field field, unsigned b);
+    void Retype(Field field, const QString& text);
+    void PickAgain(Field field);
     void FillAll(std::initializer_list<Field> fields, unsigned b);
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void TypeText(const QString& text);
@@ -113,6 +118,7 @@ private:
     View LookAt(Field field) const;
     QLineEdit* EditOf(Field field) const;
     Field AnyInput(unsigned number) const;
+    std::optional<Row> ComputedRow(unsigned number) const;
     QString CopiedText(Field field, const QString& shown) const;
 
     // The book

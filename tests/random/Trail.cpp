@@ -28,6 +28,9 @@ constexpr std::array KindTable{
     StepKind{"Day", 15, &U::TypeDay},
     StepKind{"Offer", 40, &U::FillOffer},
     StepKind{"Current", 8, &U::FillCurrent},
+    StepKind{"Intend", 10, &U::Intend},
+    StepKind{"Clear", 8, &U::ClearIntended}, // followed by a save and what is there entered again
+    StepKind{"Again", 10, &U::EnterAgain},
     // Rows
     StepKind{"Tick", 20, &U::Tick},
     StepKind{"Drop", 40, &U::Drop},
@@ -87,6 +90,10 @@ Step StepMaker::Next() {
     if (kind->name == std::string_view("Fill")) {
         m_planned = {Of("Tab"), Of("Type")};
         m_planned.front().a = 0; // forwards
+    } else if (kind->name == std::string_view("Clear")) {
+        m_planned = {Of("Again"), Of("Save"), Of("Name")};
+        m_planned.front().a = step.a;                              // in the same row
+        m_planned.back() = {m_planned.back().kind, 2, step.b % 3}; // a name that can be kept
     }
     return step;
 }

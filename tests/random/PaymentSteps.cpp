@@ -61,6 +61,9 @@ void RandomUser::ClearIntended(unsigned a, unsigned b) {
     if (!row) {
         return FillOffer(a, b);
     }
+    if (b % 3 == 0 && !m_book.IsTicked(row->value)) {
+        Tick(static_cast<unsigned>(row->value), 0);
+    }
     Retype({FieldId::ActualPayment, *row}, {});
 }
 
@@ -70,14 +73,29 @@ void RandomUser::EnterAgain(unsigned a, unsigned b) {
         return;
     }
     const auto again = [this](Field field) { Retype(field, u'0' + m_book.EntryText(field)); };
-    switch (b % 4) {
+    switch (b % 5) {
     case 0:
         return PickAgain({FieldId::Frequency, *row});
     case 1:
         return again({FieldId::InterestRate, *row});
     case 2:
         return again({FieldId::LoanAmount});
-    default:
+    case 3:
         return Retype({FieldId::ActualPayment, *row}, u"1"_qs);
+    default: // over the tick box, and back
+        Enter({FieldId::Points, *row});
+        Tab(3, 0);
+        Tab(0, 0);
     }
+}
+
+/// Something that must come back, or be put right, when the worksheet is taken again: a tick alone,
+/// an offer that has lost its term.
+void RandomUser::LeaveOut(unsigned a, unsigned b) {
+    const std::optional<Row> row = ComputedRow(a);
+    if (a % 2 == 0 || !row) {
+        return Tick(b, 0);
+    }
+    Retype({FieldId::LoanTerm}, QString::number(1 + b % 30));
+    Retype({FieldId::Term, *row}, {});
 }

@@ -53,12 +53,14 @@ public:
     void Return(unsigned a, unsigned b);
     void Arrow(unsigned a, unsigned b);
     void Choose(unsigned a, unsigned b);
+    void ChooseType(unsigned a, unsigned b);
     void TypeDay(unsigned a, unsigned b);
     void FillOffer(unsigned a, unsigned b);
     void FillCurrent(unsigned a, unsigned b);
     void Intend(unsigned a, unsigned b);
     void ClearIntended(unsigned a, unsigned b);
     void EnterAgain(unsigned a, unsigned b);
+    void LeaveOut(unsigned a, unsigned b);
     void Tick(unsigned a, unsigned b);
     void Drop(unsigned a, unsigned b);
     void Sort(unsigned a, unsigned b);
@@ -69,9 +71,11 @@ public:
     void TypeName(unsigned a, unsigned b);
     void Save(unsigned a, unsigned b);
     void PickName(unsigned a, unsigned b);
+    void Reload(unsigned a, unsigned b);
     void New(unsigned a, unsigned b);
     void Delete(unsigned a, unsigned b);
     void CloseAndStart(unsigned a, unsigned b);
+    void CloseUnnamed(unsigned a, unsigned b);
     void SwitchLanguage(unsigned a, unsigned b);
     void OpenOptions(unsigned a, unsigned b);
     void Print(unsigned a, unsigned b);

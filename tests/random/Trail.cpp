@@ -43,6 +43,11 @@ constexpr std::array KindTable{
     StepKind{"Name", 15, &U::TypeName},
     StepKind{"Save", 15, &U::Save},
     StepKind{"Pick", 12, &U::PickName},
+    StepKind{"Keep", 6,
+             &U::LeaveOut}, // followed by a save, from which the worksheet is taken again
+    StepKind{"Elsewhere", 3, &U::ChooseType}, // and taken again in another language and country
+    StepKind{"Reload", 2, &U::Reload},
+    StepKind{"Unnamed", 4, &U::CloseUnnamed},
     StepKind{"New", 4, &U::New},
     StepKind{"Delete", 4, &U::Delete},
     StepKind{"Close", 2, &U::CloseAndStart},
@@ -87,15 +92,27 @@ Step StepMaker::Next() {
         left -= kind->weight;
     }
     const Step step = Of(kind->name);
-    if (kind->name == std::string_view("Fill")) {
+    Plan(kind->name, step);
+    return step;
+}
+
+/// What a user does who has begun with this.
+void StepMaker::Plan(std::string_view begun, const Step& step) {
+    constexpr unsigned leaving = 2;                                               // by the tab key
+    const auto name = [&] { return Step{Of("Name").kind, leaving, step.b % 3}; }; // can be kept
+    if (begun == "Fill") {
         m_planned = {Of("Tab"), Of("Type")};
         m_planned.front().a = 0; // forwards
-    } else if (kind->name == std::string_view("Clear")) {
-        m_planned = {Of("Again"), Of("Save"), Of("Name")};
-        m_planned.front().a = step.a;                              // in the same row
-        m_planned.back() = {m_planned.back().kind, 2, step.b % 3}; // a name that can be kept
+    } else if (begun == "Clear") {
+        m_planned = {Of("Again"), Of("Save"), name()};
+        m_planned.front().a = step.a; // in the same row
+    } else if (begun == "Keep") {
+        m_planned = {Of("Reload"), Of("Save"), name()};
+    } else if (begun == "Elsewhere") {
+        m_planned = {Of("Reload"), Of("Close"), Of("Language"), Of("Save"), name()};
+    } else if (begun == "Options" && step.b % 4 < 2) {
+        m_planned = {Of("Close")};
     }
-    return step;
 }
 
 QString Written(const Trail& trail) {

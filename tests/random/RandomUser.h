@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <array>
 #include <map>
 #include <optional>
 
@@ -87,6 +88,8 @@ public:
     void ClickAnywhere(unsigned a, unsigned b);
 
 private:
+    static constexpr std::size_t FieldIds = static_cast<std::size_t>(FieldId::Who) + 1;
+
     /// What stood in the field being edited before a step.
     struct View {
         QString text;
@@ -154,6 +157,6 @@ private:
     QList<QDate> m_days; ///< that the date has become since it was last looked at
     std::size_t m_displayed = 6;
     int m_taken = 0;
-    mutable std::map<Field, QPointer<QWidget>> m_controls;
+    mutable std::array<std::array<QPointer<QWidget>, FieldIds>, MostRows + 1> m_controls;
     mutable std::map<QString, QPointer<QWidget>> m_named;
 };

@@ -28,9 +28,9 @@ constexpr std::array KindTable{
     StepKind{"Day", 15, &U::TypeDay},
     StepKind{"Offer", 40, &U::FillOffer},
     StepKind{"Current", 8, &U::FillCurrent},
-    StepKind{"Intend", 10, &U::Intend},
-    StepKind{"Clear", 8, &U::ClearIntended}, // followed by a save and what is there entered again
-    StepKind{"Again", 10, &U::EnterAgain},
+    StepKind{"Intend", 8, &U::Intend},
+    StepKind{"Clear", 6, &U::ClearIntended}, // followed by a save and what is there entered again
+    StepKind{"Again", 6, &U::EnterAgain},
     // Rows
     StepKind{"Tick", 20, &U::Tick},
     StepKind{"Drop", 40, &U::Drop},
@@ -41,11 +41,11 @@ constexpr std::array KindTable{
     StepKind{"Second", 20, &U::LetSecondPass},
     // Files
     StepKind{"Name", 15, &U::TypeName},
-    StepKind{"Save", 15, &U::Save},
-    StepKind{"Pick", 12, &U::PickName},
-    StepKind{"Keep", 6,
+    StepKind{"Save", 10, &U::Save},
+    StepKind{"Pick", 10, &U::PickName},
+    StepKind{"Keep", 5,
              &U::LeaveOut}, // followed by a save, from which the worksheet is taken again
-    StepKind{"Elsewhere", 3, &U::ChooseType}, // and taken again in another language and country
+    StepKind{"Elsewhere", 2, &U::ChooseType}, // and taken again in another language and country
     StepKind{"Reload", 2, &U::Reload},
     StepKind{"Unnamed", 4, &U::CloseUnnamed},
     StepKind{"New", 4, &U::New},
@@ -110,7 +110,7 @@ void StepMaker::Plan(std::string_view begun, const Step& step) {
         m_planned = {Of("Reload"), Of("Save"), name()};
     } else if (begun == "Elsewhere") {
         m_planned = {Of("Reload"), Of("Close"), Of("Language"), Of("Save"), name()};
-    } else if (begun == "Options" && step.b % 4 < 2) {
+    } else if (begun == "Options" && step.b % 8 < 2) {
         m_planned = {Of("Close")};
     }
 }

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QMenu>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -16,13 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr const char* Caption = "text";
-constexpr const char* Title = "title";
-constexpr const char* WindowTitle = "windowTitle";
-constexpr const char* Tip = "toolTip";
-constexpr const char* Name = "accessibleName";
-constexpr const char* Description = "accessibleDescription";
 
 /// The numbers of the texts of one control; 0 where it has none.
 struct Texts {
@@ -132,17 +126,37 @@ QHash<int, QString> ReadTable(const char* identifier) {
     return texts;
 }
 
-const QObject& Named(const QWidget& window, const QString& name) {
-    const auto* object = window.findChild<QObject*>(name);
-    if (object == nullptr) {
-        throw std::runtime_error("there is no " + name.toStdString());
-    }
-    return *object;
-}
-
 bool HasLetters(const QString& text) {
     return std::ranges::any_of(text, [](QChar c) { return c.isLetter(); });
 }
+
+template <class Kind>
+QString TextOf(const QObject& object) {
+    return static_cast<const Kind&>(object).text();
+}
+QString TitleOf(const QObject& object) { return static_cast<const QMenu&>(object).title(); }
+QString None(const QObject& /*object*/) { return {}; }
+
+/// What tells the text that is written on it.
+auto CaptionReader(const QObject& object) {
+    if (qobject_cast<const QLabel*>(&object) != nullptr) {
+        return &TextOf<QLabel>;
+    }
+    if (qobject_cast<const QAbstractButton*>(&object) != nullptr) {
+        return &TextOf<QAbstractButton>;
+    }
+    if (qobject_cast<const QMenu*>(&object) != nullptr) {
+        return &TitleOf;
+    }
+    const auto* action = qobject_cast<const QAction*>(&object);
+    return action != nullptr && action->menu() == nullptr ? &TextOf<QAction> : &None;
+}
+
+const QWidget& AsWidget(const QObject& object) { return static_cast<const QWidget&>(object); }
+QString Title(const QObject& object) { return AsWidget(object).windowTitle(); }
+QString Tip(const QObject& object) { return AsWidget(object).toolTip(); }
+QString Name(const QObject& object) { return AsWidget(object).accessibleName(); }
+QString Description(const QObject& object) { return AsWidget(object).accessibleDescription(); }
 
 /// The date and the interest of a payoff have a tip only at times.
 bool MayBeAway(const QString& name) {
@@ -155,19 +169,16 @@ WindowTexts::WindowTexts() : m_tables{ReadTable("000"), ReadTable("40a")} {}
 
 QStringList WindowTexts::Complaints(const QWidget& window, const Book& book, bool thorough) {
     const bool same = m_window == &window && m_spanish == book.spanish &&
-                      m_inMonths == book.inMonths && m_rows == book.offers.size() &&
-                      m_sorted == book.sorted;
+                      m_inMonths == book.inMonths && m_rows == book.offers.size();
     if (!same) {
         ListAll(window, book);
     }
-    QStringList complaints = m_unaccounted;
+    QStringList complaints = m_unaccounted + ComplaintsOfSorting(book.sorted);
     const auto compare = [&](const Seen& seen) {
-        const QString shown = seen.object->property(seen.property).toString();
-        const bool isAway =
-            shown.isEmpty() && seen.property == Tip && MayBeAway(seen.object->objectName());
-        if (shown != seen.text && !isAway) {
+        const QString shown = seen.read(*seen.object);
+        if (shown != seen.text && !(shown.isEmpty() && seen.mayBeAway)) {
             complaints.append(u"%1 of %2 is “%3” instead of “%4”"_qs.arg(
-                QLatin1String(seen.property), seen.object->objectName(), shown, seen.text));
+                QLatin1String(seen.what), seen.object->objectName(), shown, seen.text));
         }
     };
     std::ranges::for_each(m_written, compare);
@@ -178,80 +189,101 @@ QStringList WindowTexts::Complaints(const QWidget& window, const Book& book, boo
     return complaints;
 }
 
+const QObject& WindowTexts::Named(const QString& name) const {
+    const QObject* object = m_objects.value(name);
+    if (object == nullptr) {
+        throw std::runtime_error("there is no " + name.toStdString());
+    }
+    return *object;
+}
+
 void WindowTexts::ListAll(const QWidget& window, const Book& book) {
     m_window = &window;
     m_spanish = book.spanish;
     m_inMonths = book.inMonths;
     m_rows = book.offers.size();
-    m_sorted = book.sorted;
+    m_objects.clear();
     m_written.clear();
     m_told.clear();
     m_unaccounted.clear();
-    ListLoan(window);
-    for (std::size_t row = 0; row < m_rows; ++row) {
-        ListRow(window, static_cast<int>(row));
+    for (const QObject* object : window.findChildren<QObject*>()) {
+        m_objects.insert(object->objectName(), object);
     }
+    ListLoan(window);
     ListUnaccounted(window);
+    for (std::size_t row = 0; row < m_rows; ++row) {
+        ListRow(static_cast<int>(row));
+    }
 }
 
 void WindowTexts::ListLoan(const QWidget& window) {
-    m_written.push_back({&window, WindowTitle, Text(200)});
+    m_written.push_back({&window, "title", Title, Text(200)});
     for (const Texts& texts : OfTheLoan) {
-        const QObject& object = Named(window, QString::fromLatin1(texts.control));
+        const QObject& object = Named(QString::fromLatin1(texts.control));
         const bool inYears = texts.writtenInYears != 0 && !m_inMonths;
         ListWritten(object, inYears ? texts.writtenInYears : texts.written);
         ListTold(object, texts.tip, texts.name, 0);
     }
 }
 
-void WindowTexts::ListRow(const QWidget& window, int row) {
+void WindowTexts::ListRow(int row) {
     for (const Texts& texts : OfAnOffer) {
         const QString name = QString::fromLatin1(texts.control) + u"(%1)"_qs.arg(row);
-        ListTold(Named(window, name), texts.tip, texts.name, row + 1);
+        ListTold(Named(name), texts.tip, texts.name, row + 1);
     }
 }
 
 void WindowTexts::ListWritten(const QObject& object, int number) {
     if (number != 0) {
-        const bool isMenu = qobject_cast<const QMenu*>(&object) != nullptr;
-        m_written.push_back({&object, isMenu ? Title : Caption, Text(number)});
+        m_written.push_back({&object, "caption", CaptionReader(object), Text(number)});
     }
 }
 
 void WindowTexts::ListTold(const QObject& object, int tip, int name, int ordinal) {
     if (tip != 0) {
-        m_told.push_back({&object, Tip, Text(tip)});
+        m_told.push_back({&object, "tip", Tip, Text(tip), MayBeAway(object.objectName())});
     }
     if (name != 0) {
         const QString told = Text(name).replace(u"%1"_qs, QString::number(ordinal));
-        m_told.push_back({&object, Name, told});
+        m_told.push_back({&object, "name", Name, told});
         if (object.inherits("QComboBox")) {
-            m_told.push_back({&object, Description, told});
+            m_told.push_back({&object, "description", Description, told});
         }
-    }
-    // The heading that the offers are sorted by tells so.
-    if (object.objectName() == u"cmdPayoffDate"_qs) {
-        m_told.push_back({&object, Description, m_sorted == 'P' ? Text(346) : QString()});
-    } else if (object.objectName() == u"cmdInterest"_qs) {
-        m_told.push_back({&object, Description, m_sorted == 'I' ? Text(347) : QString()});
     }
 }
 
 /// Whatever else bears a text has come to the window unnoticed by this account.
 void WindowTexts::ListUnaccounted(const QWidget& window) {
+    QSet<const QObject*> known;
+    for (const Seen& seen : m_written) {
+        known.insert(seen.object);
+    }
     for (const QObject* object : window.findChildren<QObject*>()) {
-        const auto* action = qobject_cast<const QAction*>(object);
-        const bool isOfMenu = action != nullptr && action->menu() != nullptr;
-        const bool bears = qobject_cast<const QLabel*>(object) != nullptr || action != nullptr ||
-                           qobject_cast<const QAbstractButton*>(object) != nullptr;
-        const QString text = object->property(Caption).toString();
-        const bool isKnown =
-            std::ranges::any_of(m_written, [&](const Seen& seen) { return seen.object == object; });
-        if (bears && !isOfMenu && !isKnown && HasLetters(text)) {
+        const QString text = CaptionReader(*object)(*object);
+        if (HasLetters(text) && !known.contains(object)) {
             m_unaccounted.append(
                 u"nobody accounts for “%1” of “%2”"_qs.arg(text, object->objectName()));
         }
     }
+}
+
+/// The heading that the offers are sorted by tells so.
+QStringList WindowTexts::ComplaintsOfSorting(char sorted) const {
+    struct Heading {
+        QString name;
+        char by;
+        int text;
+    };
+    static const std::array headings{Heading{u"cmdPayoffDate"_qs, 'P', 346},
+                                     Heading{u"cmdInterest"_qs, 'I', 347}};
+    QStringList complaints;
+    for (const Heading& heading : headings) {
+        const QString told = Description(Named(heading.name));
+        if (told != (sorted == heading.by ? Text(heading.text) : QString())) {
+            complaints.append(u"%1 tells “%2”"_qs.arg(heading.name, told));
+        }
+    }
+    return complaints;
 }
 
 /// What can be chosen.

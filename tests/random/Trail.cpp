@@ -104,12 +104,15 @@ void StepMaker::Plan(std::string_view begun, const Step& step) {
         m_planned = {Of("Tab"), Of("Type")};
         m_planned.front().a = 0; // forwards
     } else if (begun == "Clear") {
-        m_planned = {Of("Again"), Of("Save"), name()};
-        m_planned.front().a = step.a; // in the same row
+        Step again = Of("Again");
+        again.a = step.a;                        // in the same row,
+        again.b = step.b % 3 == 0 ? 4 : again.b; // over the box that was ticked
+        m_planned = {Of("Second"), again, Of("Save"), name()};
     } else if (begun == "Keep") {
         m_planned = {Of("Reload"), Of("Save"), name()};
     } else if (begun == "Elsewhere") {
-        m_planned = {Of("Reload"), Of("Close"), Of("Language"), Of("Save"), name()};
+        m_planned = {Of("Reload"), Of("Close"), Of("Reload"), Of("Language"), Of("Save"), name()};
+        m_planned.at(3).a = 2; // another one
     } else if (begun == "Options" && step.b % 8 < 2) {
         m_planned = {Of("Close")};
     }

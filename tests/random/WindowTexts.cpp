@@ -1,6 +1,7 @@
 #include "WindowTexts.h"
 
 #include "TextTable.h"
+#include "TextsOfControls.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -17,96 +18,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The numbers of the texts of one control; 0 where it has none.
-struct Texts {
-    const char* control;
-    int written;
-    int tip;
-    int name = 0;
-    int writtenInYears = 0;
-};
-
-constexpr std::array OfTheLoan{
-    Texts{"lblLoanName", 201, 300},
-    Texts{"cboLoanName", 0, 300},
-    Texts{"lblLoanType", 202, 301},
-    Texts{"cboLoanType", 0, 301},
-    Texts{"lblLoanAmount", 203, 302},
-    Texts{"txtLoanAmount", 0, 302},
-    Texts{"lblLoanTerm", 204, 303, 0, 205},
-    Texts{"txtLoanTerm", 0, 303},
-    Texts{"lblAnnualTaxes", 206, 304},
-    Texts{"txtAnnualTaxes", 0, 304},
-    Texts{"lblAnnualInsurance", 207, 305},
-    Texts{"txtAnnualInsurance", 0, 305},
-    Texts{"lblMonthlyEscrow", 208, 306},
-    Texts{"txtMonthlyEscrow", 0, 306},
-    Texts{"lblCurrent", 209, 307},
-    Texts{"lblCurLoanAmount", 210, 310},
-    Texts{"txtCurLoanAmount", 0, 310, 400},
-    Texts{"lblCurLoanTerm", 211, 311, 0, 212},
-    Texts{"txtCurLoanTerm", 0, 311, 401},
-    Texts{"lblCurInterestRate", 213, 312},
-    Texts{"txtCurInterestRate", 0, 312, 402},
-    Texts{"lblCurPaymentFrequency", 214, 313},
-    Texts{"cboCurPaymentFrequency", 0, 313, 403},
-    Texts{"lblCurPayment", 215, 314},
-    Texts{"txtCurPayment", 0, 314, 404},
-    Texts{"lblCurrentBalance", 216, 315},
-    Texts{"txtCurrentBalance", 0, 315, 405},
-    Texts{"lblCurActualPayment", 217, 316},
-    Texts{"txtCurActualPayment", 0, 316, 406},
-    Texts{"lblActPaymentFrequency", 218, 317},
-    Texts{"cboActPaymentFrequency", 0, 317, 407},
-    Texts{"lblNextPayment", 219, 318},
-    Texts{"dtNextPayment", 0, 318, 408},
-    Texts{"lblCurAmountLeft", 220, 319},
-    Texts{"txtCurAmountLeft", 0, 319, 409},
-    Texts{"lblCurInterestLeft", 221, 320},
-    Texts{"txtCurInterestLeft", 0, 320, 410},
-    Texts{"lblCurPayoffDate", 222, 321},
-    Texts{"txtCurPayoffDate", 0, 321, 411},
-    Texts{"cmdShare", 240, 343},
-    Texts{"cmdWhatsThis", 0, 344, 344},
-    Texts{"lblPoints", 230, 330},
-    Texts{"lblInterestRate", 231, 332},
-    Texts{"lblTerm", 232, 333},
-    Texts{"lblPandI", 233, 334},
-    Texts{"lblPayment", 234, 335},
-    Texts{"lblFrequency", 235, 336},
-    Texts{"lblActualPayment", 236, 337},
-    Texts{"cmdPayoffDate", 237, 338},
-    Texts{"cmdInterest", 238, 340},
-    Texts{"lblWho", 239, 342},
-    Texts{"vsbLoans", 0, 345, 345},
-    Texts{"lblHint", 450, 0},
-    Texts{"mnuFile", 250, 0},
-    Texts{"mnuFileNew", 251, 0},
-    Texts{"mnuFileSave", 252, 0},
-    Texts{"mnuFileDelete", 253, 0},
-    Texts{"mnuFilePrintSetup", 254, 0},
-    Texts{"mnuFilePrint", 255, 0},
-    Texts{"mnuFileExit", 256, 0},
-    Texts{"mnuTools", 257, 0},
-    Texts{"mnuToolsOptions", 258, 0},
-    Texts{"mnuToolsLanguage", 259, 0},
-    Texts{"mnuToolsLanguageOpt(1)", 260, 0},
-    Texts{"mnuToolsLanguageOpt(2)", 261, 0},
-    Texts{"mnuHelp", 262, 0},
-    Texts{"mnuHelpContents", 263, 0},
-    Texts{"mnuHelpSearch", 264, 0},
-    Texts{"mnuHelpAbout", 64, 0},
-};
-
-constexpr std::array OfAnOffer{
-    Texts{"chkPoints", 0, 331, 420},       Texts{"txtPoints", 0, 330, 421},
-    Texts{"txtInterestRate", 0, 332, 422}, Texts{"txtTerm", 0, 333, 423},
-    Texts{"cboFrequency", 0, 336, 424},    Texts{"txtPandI", 0, 334, 425},
-    Texts{"txtPayment", 0, 335, 426},      Texts{"txtActualPayment", 0, 337, 427},
-    Texts{"txtPayoffDate", 0, 339, 428},   Texts{"txtInterest", 0, 341, 429},
-    Texts{"txtWho", 0, 342, 430},
-};
 
 /// In the order of the lists.
 const std::vector Types{83, 10, 11, 19, 39, 29};
@@ -218,7 +129,7 @@ void WindowTexts::ListAll(const QWidget& window, const Book& book) {
 
 void WindowTexts::ListLoan(const QWidget& window) {
     m_written.push_back({&window, "title", Title, Text(200)});
-    for (const Texts& texts : OfTheLoan) {
+    for (const TextsOfControl& texts : TextsOfTheLoan) {
         const QObject& object = Named(QString::fromLatin1(texts.control));
         const bool inYears = texts.writtenInYears != 0 && !m_inMonths;
         ListWritten(object, inYears ? texts.writtenInYears : texts.written);
@@ -227,7 +138,7 @@ void WindowTexts::ListLoan(const QWidget& window) {
 }
 
 void WindowTexts::ListRow(int row) {
-    for (const Texts& texts : OfAnOffer) {
+    for (const TextsOfControl& texts : TextsOfAnOffer) {
         const QString name = QString::fromLatin1(texts.control) + u"(%1)"_qs.arg(row);
         ListTold(Named(name), texts.tip, texts.name, row + 1);
     }

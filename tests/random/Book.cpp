@@ -76,6 +76,14 @@ Count Book::LeastPayment(const BookOffer& offer) const {
     return pAndI == 0 ? 0 : Plain::Sum(pAndI, Plain::EscrowOf(offer.frequency, loan.escrow));
 }
 
+Count Book::PaymentOf(int row) const {
+    try {
+        return LeastPayment(OfferIn(row));
+    } catch (const TooLarge&) {
+        return 0;
+    }
+}
+
 /// An intended payment that is too low becomes the computed one.
 bool Book::Raise(BookOffer& offer) {
     const Count least = LeastPayment(offer);

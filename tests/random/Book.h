@@ -126,6 +126,8 @@ public:
     bool IsMissing(FieldId field) const { return missing.contains(field); }
     bool IsRaised(int row) const { return raised.contains(order.at(Place(row))); }
     BookResults ResultsOf(const BookOffer& offer) const;
+    /// The payment computed for an offer; zero where there is none, or it cannot be held.
+    Plain::Count PaymentOf(int row) const;
 
     BookOffer& OfferIn(int row) { return offers.at(order.at(Place(row))); }
     const BookOffer& OfferIn(int row) const { return offers.at(order.at(Place(row))); }

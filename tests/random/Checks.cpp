@@ -7,7 +7,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
-#include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 
@@ -235,21 +234,10 @@ void Checks::Scrolling(RandomUser& user) {
 }
 
 void Checks::Captions(RandomUser& user) {
-    struct Caption {
-        const char* label;
-        const char16_t* english;
-        const char16_t* spanish;
-    };
-    static constexpr std::array captions{
-        Caption{"lblLoanName", u"Loan &Name:", u"&Nombre:"},
-    };
-    for (const Caption& caption : captions) {
-        const auto* label =
-            user.TheProgram().Window().findChild<QLabel*>(QString::fromLatin1(caption.label));
-        const bool isSpanish = label->text() != QString::fromUtf16(caption.english);
-        if (isSpanish != user.TheBook().spanish) {
-            Say(u"the captions are in another language: %1"_qs.arg(label->text()));
-        }
+    const bool thorough = m_looks % 50 == 0;
+    for (const QString& complaint :
+         m_texts.Complaints(user.TheProgram().Window(), user.TheBook(), thorough)) {
+        Say(complaint);
     }
 }
 

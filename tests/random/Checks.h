@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Book.h"
+#include "WindowTexts.h"
 
 #include <QStringList>
 
@@ -50,6 +51,7 @@ private:
     void Compare(RandomUser& user, Field field, const QString& expected);
 
     std::array<Row, MostRows> m_rows;
+    WindowTexts m_texts;
     QStringList m_complaints;
     int m_looks = 0;
 };

@@ -16,9 +16,10 @@
 
 using namespace Qt::StringLiterals;
 
+/// To a certain one, or to the other one.
 void RandomUser::SwitchLanguage(unsigned a, unsigned /*b*/) {
     const View before = Look();
-    const bool spanish = a % 2 == 1;
+    const bool spanish = a % 4 < 2 ? a % 2 == 1 : !m_book.spanish;
     const bool switches = Commit(before); // what that tells is told in the language of before
     Trigger(spanish ? "mnuToolsLanguageOpt(2)" : "mnuToolsLanguageOpt(1)");
     if (switches) {

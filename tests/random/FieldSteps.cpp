@@ -230,6 +230,8 @@ void RandomUser::Arrow(unsigned a, unsigned /*b*/) {
 /// Opens the list and picks an entry, or gives up.
 void RandomUser::Choose(unsigned a, unsigned b) { ChooseFrom(AnyInput(a), b); }
 
+void RandomUser::ChooseType(unsigned /*a*/, unsigned b) { ChooseFrom({FieldId::LoanType}, b); }
+
 void RandomUser::ChooseFrom(Field field, unsigned b) {
     auto* list = qobject_cast<QComboBox*>(Control(field));
     const View before = Look();

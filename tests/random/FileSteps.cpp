@@ -166,6 +166,18 @@ void RandomUser::PickName(unsigned a, unsigned b) {
     }
 }
 
+/// The worksheet as it is kept, in place of the one on the screen; or any other.
+void RandomUser::Reload(unsigned a, unsigned b) {
+    const QStringList names = m_book.Names();
+    if (names.isEmpty()) {
+        return;
+    }
+    const auto count = static_cast<unsigned>(names.size());
+    const auto kept = static_cast<int>(names.indexOf(m_book.loan.name));
+    const unsigned entry = kept >= 0 ? static_cast<unsigned>(kept) : b % count;
+    PickName(a - a % 6 + 1, entry + 1); // after the new loan
+}
+
 void RandomUser::New(unsigned a, unsigned /*b*/) {
     const View before = Look();
     const Answer answer = PrepareAnswer(a, true);
@@ -230,4 +242,13 @@ void RandomUser::CloseAndStart(unsigned a, unsigned b) {
     Settle();
     WatchDay();
     EnterInBook(FocusField());
+}
+
+/// Closing with a worksheet to be saved that has no name: the window stays, and asks for it.
+void RandomUser::CloseUnnamed(unsigned /*a*/, unsigned b) {
+    if (!m_book.loan.name.isEmpty()) {
+        TypeName(0, 0); // takes it away
+    } else if (m_book.dirty) {
+        CloseAndStart(0, b);
+    }
 }

@@ -147,7 +147,8 @@ QWidget* RandomUser::Named(const QString& name) const {
 }
 
 QWidget* RandomUser::Control(Field field) const {
-    QPointer<QWidget>& found = m_controls[field];
+    const auto row = static_cast<std::size_t>(field.row.value + 1); // the bands before the rows
+    QPointer<QWidget>& found = m_controls.at(row).at(static_cast<std::size_t>(field.id));
     if (!found) {
         const QString name = RuleOf(field.id).control;
         found = Window().findChild<QWidget*>(

@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <array>
 #include <map>
 #include <optional>
 
@@ -53,9 +54,14 @@ public:
     void Return(unsigned a, unsigned b);
     void Arrow(unsigned a, unsigned b);
     void Choose(unsigned a, unsigned b);
+    void ChooseType(unsigned a, unsigned b);
     void TypeDay(unsigned a, unsigned b);
     void FillOffer(unsigned a, unsigned b);
     void FillCurrent(unsigned a, unsigned b);
+    void Intend(unsigned a, unsigned b);
+    void ClearIntended(unsigned a, unsigned b);
+    void EnterAgain(unsigned a, unsigned b);
+    void LeaveOut(unsigned a, unsigned b);
     void Tick(unsigned a, unsigned b);
     void Drop(unsigned a, unsigned b);
     void Sort(unsigned a, unsigned b);
@@ -66,9 +72,11 @@ public:
     void TypeName(unsigned a, unsigned b);
     void Save(unsigned a, unsigned b);
     void PickName(unsigned a, unsigned b);
+    void Reload(unsigned a, unsigned b);
     void New(unsigned a, unsigned b);
     void Delete(unsigned a, unsigned b);
     void CloseAndStart(unsigned a, unsigned b);
+    void CloseUnnamed(unsigned a, unsigned b);
     void SwitchLanguage(unsigned a, unsigned b);
     void OpenOptions(unsigned a, unsigned b);
     void Print(unsigned a, unsigned b);
@@ -80,6 +88,8 @@ public:
     void ClickAnywhere(unsigned a, unsigned b);
 
 private:
+    static constexpr std::size_t FieldIds = static_cast<std::size_t>(FieldId::Who) + 1;
+
     /// What stood in the field being edited before a step.
     struct View {
         QString text;
@@ -90,6 +100,8 @@ private:
     // Hands
     void Enter(Field field);
     void ChooseFrom(Field field, unsigned b);
+    void Retype(Field field, const QString& text);
+    void PickAgain(Field field);
     void FillAll(std::initializer_list<Field> fields, unsigned b);
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void TypeText(const QString& text);
@@ -113,6 +125,7 @@ private:
     View LookAt(Field field) const;
     QLineEdit* EditOf(Field field) const;
     Field AnyInput(unsigned number) const;
+    std::optional<Row> ComputedRow(unsigned number) const;
     QString CopiedText(Field field, const QString& shown) const;
 
     // The book
@@ -144,6 +157,6 @@ private:
     QList<QDate> m_days; ///< that the date has become since it was last looked at
     std::size_t m_displayed = 6;
     int m_taken = 0;
-    mutable std::map<Field, QPointer<QWidget>> m_controls;
+    mutable std::array<std::array<QPointer<QWidget>, FieldIds>, MostRows + 1> m_controls;
     mutable std::map<QString, QPointer<QWidget>> m_named;
 };

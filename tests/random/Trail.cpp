@@ -28,6 +28,9 @@ constexpr std::array KindTable{
     StepKind{"Day", 15, &U::TypeDay},
     StepKind{"Offer", 40, &U::FillOffer},
     StepKind{"Current", 8, &U::FillCurrent},
+    StepKind{"Intend", 8, &U::Intend},
+    StepKind{"Clear", 6, &U::ClearIntended}, // followed by a save and what is there entered again
+    StepKind{"Again", 6, &U::EnterAgain},
     // Rows
     StepKind{"Tick", 20, &U::Tick},
     StepKind{"Drop", 40, &U::Drop},
@@ -38,8 +41,13 @@ constexpr std::array KindTable{
     StepKind{"Second", 20, &U::LetSecondPass},
     // Files
     StepKind{"Name", 15, &U::TypeName},
-    StepKind{"Save", 15, &U::Save},
-    StepKind{"Pick", 12, &U::PickName},
+    StepKind{"Save", 10, &U::Save},
+    StepKind{"Pick", 10, &U::PickName},
+    StepKind{"Keep", 5,
+             &U::LeaveOut}, // followed by a save, from which the worksheet is taken again
+    StepKind{"Elsewhere", 2, &U::ChooseType}, // and taken again in another language and country
+    StepKind{"Reload", 2, &U::Reload},
+    StepKind{"Unnamed", 4, &U::CloseUnnamed},
     StepKind{"New", 4, &U::New},
     StepKind{"Delete", 4, &U::Delete},
     StepKind{"Close", 2, &U::CloseAndStart},
@@ -84,11 +92,30 @@ Step StepMaker::Next() {
         left -= kind->weight;
     }
     const Step step = Of(kind->name);
-    if (kind->name == std::string_view("Fill")) {
+    Plan(kind->name, step);
+    return step;
+}
+
+/// What a user does who has begun with this.
+void StepMaker::Plan(std::string_view begun, const Step& step) {
+    constexpr unsigned leaving = 2;                                               // by the tab key
+    const auto name = [&] { return Step{Of("Name").kind, leaving, step.b % 3}; }; // can be kept
+    if (begun == "Fill") {
         m_planned = {Of("Tab"), Of("Type")};
         m_planned.front().a = 0; // forwards
+    } else if (begun == "Clear") {
+        Step again = Of("Again");
+        again.a = step.a;                        // in the same row,
+        again.b = step.b % 3 == 0 ? 4 : again.b; // over the box that was ticked
+        m_planned = {Of("Second"), again, Of("Save"), name()};
+    } else if (begun == "Keep") {
+        m_planned = {Of("Reload"), Of("Save"), name()};
+    } else if (begun == "Elsewhere") {
+        m_planned = {Of("Reload"), Of("Close"), Of("Reload"), Of("Language"), Of("Save"), name()};
+        m_planned.at(3).a = 2; // another one
+    } else if (begun == "Options" && step.b % 8 < 2) {
+        m_planned = {Of("Close")};
     }
-    return step;
 }
 
 QString Written(const Trail& trail) {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <random>
 #include <span>
+#include <string_view>
 #include <vector>
 
 class RandomUser;
@@ -34,6 +35,7 @@ public:
 
 private:
     Step Of(const char* name);
+    void Plan(std::string_view begun, const Step& step);
 
     std::mt19937_64 m_random;
     int m_all = 0;

@@ -49,7 +49,9 @@ void Worksheet::ShowAsItStands(Row row) {
         }
         if (failed) {
             m_display->ShowText(field, {});
-            m_display->ShowToolTip(field, false);
+        }
+        if (failed && field.id == FieldId::PayoffDate) {
+            m_display->ShowToolTip(field, false); // the others keep theirs: it would not come back
         }
     }
 }

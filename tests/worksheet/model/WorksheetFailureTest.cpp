@@ -170,6 +170,19 @@ TEST_F(WorksheetFailureTest, AnOfferThatFailsHasNoToolTipAtItsPayoffDate) {
     EXPECT_FALSE(m_display.Of({FieldId::PayoffDate, last}).toolTip);
 }
 
+/// A tooltip taken away there would never come back.
+TEST_F(WorksheetFailureTest, AnOfferThatFailsKeepsItsOtherToolTipsWhenSorted) {
+    Store({FieldId::Term, Row1}, u"1073741824"_qs);
+    EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_qs),
+                 OverflowFailure);
+    m_worksheet.SortByPayoffDate();
+    m_worksheet.ShowOffers();
+    for (Row row{0}; row <= m_worksheet.HighestOfferRow(); ++row.value) {
+        EXPECT_EQ(m_display.Of({FieldId::PandI, row}).toolTips, 0) << row.value;
+        EXPECT_EQ(m_display.Of({FieldId::Payment, row}).toolTips, 0) << row.value;
+    }
+}
+
 struct EndlessCase {
     FieldId field;
     QString typed;

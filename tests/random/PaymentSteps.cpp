@@ -1,0 +1,101 @@
+// Intended payments of offers that can be computed, and what is there already entered once more:
+// an intended payment may be raised then where nothing else changes.
+
+#include "RandomUser.h"
+
+#include <QComboBox>
+
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+/// A row in sight whose offer has a payment.
+std::optional<Row> RandomUser::ComputedRow(unsigned number) const {
+    std::vector<Row> rows;
+    for (Row row{0}; row.value < static_cast<int>(m_book.offers.size()); ++row.value) {
+        if (m_book.PaymentOf(row.value) > 0 && IsVisible(*Control({FieldId::ActualPayment, row}))) {
+            rows.push_back(row);
+        }
+    }
+    return rows.empty() ? std::nullopt : std::optional(rows.at(number % rows.size()));
+}
+
+/// In place of all that stands there.
+void RandomUser::Retype(Field field, const QString& text) {
+    Enter(field);
+    if (m_edited != field) {
+        return;
+    }
+    Press(Qt::Key_A, Qt::ControlModifier);
+    Press(Qt::Key_Delete);
+    TypeText(text);
+    m_text = Look().text;
+    Tab(0, 0);
+}
+
+void RandomUser::PickAgain(Field field) {
+    const auto& list = *qobject_cast<QComboBox*>(Control(field));
+    const auto count = static_cast<unsigned>(list.count());
+    auto entry = static_cast<unsigned>(list.currentIndex());
+    while (entry % 5 == 0) { // which would give up
+        entry += count;
+    }
+    ChooseFrom(field, entry);
+}
+
+/// Too low, exactly enough, a cent less, a cent more.
+void RandomUser::Intend(unsigned a, unsigned b) {
+    const std::optional<Row> row = ComputedRow(a);
+    if (!row) {
+        return FillOffer(a, b);
+    }
+    constexpr Plain::Count cent = 100;
+    const Plain::Count cents = Plain::ToCents(m_book.PaymentOf(row->value));
+    const std::array texts{u"0"_qs, u"1"_qs, m_book.forms.Number(cents),
+                           m_book.forms.Number(cents - cent), m_book.forms.Number(cents + cent)};
+    Retype({FieldId::ActualPayment, *row}, texts.at(b % texts.size()));
+}
+
+void RandomUser::ClearIntended(unsigned a, unsigned b) {
+    const std::optional<Row> row = ComputedRow(a);
+    if (!row) {
+        return FillOffer(a, b);
+    }
+    if (b % 3 == 0 && !m_book.IsTicked(row->value)) {
+        Tick(static_cast<unsigned>(row->value), 0);
+    }
+    Retype({FieldId::ActualPayment, *row}, {});
+}
+
+void RandomUser::EnterAgain(unsigned a, unsigned b) {
+    const std::optional<Row> row = ComputedRow(a);
+    if (!row) {
+        return;
+    }
+    const auto again = [this](Field field) { Retype(field, u'0' + m_book.EntryText(field)); };
+    switch (b % 5) {
+    case 0:
+        return PickAgain({FieldId::Frequency, *row});
+    case 1:
+        return again({FieldId::InterestRate, *row});
+    case 2:
+        return again({FieldId::LoanAmount});
+    case 3:
+        return Retype({FieldId::ActualPayment, *row}, u"1"_qs);
+    default: // over the tick box, and back
+        Enter({FieldId::Points, *row});
+        Tab(3, 0);
+        Tab(0, 0);
+    }
+}
+
+/// Something that must come back, or be put right, when the worksheet is taken again: a tick alone,
+/// an offer that has lost its term.
+void RandomUser::LeaveOut(unsigned a, unsigned b) {
+    const std::optional<Row> row = ComputedRow(a);
+    if (a % 2 == 0 || !row) {
+        return Tick(b, 0);
+    }
+    Retype({FieldId::LoanTerm}, QString::number(1 + b % 30));
+    Retype({FieldId::Term, *row}, {});
+}

@@ -1,0 +1,221 @@
+#include "WindowTexts.h"
+
+#include "TextTable.h"
+#include "TextsOfControls.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QMenu>
+#include <QSet>
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// In the order of the lists.
+const std::vector Types{83, 10, 11, 19, 39, 29};
+const std::vector Frequencies{114, 111, 112, 115};
+
+QHash<int, QString> ReadTable(const char* identifier) {
+    QFile file(QStringLiteral(QUEND_SOURCE_DIR "/language/components/%1/texts.txt")
+                   .arg(QLatin1String(identifier)));
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw std::runtime_error("no texts to compare with");
+    }
+    QHash<int, QString> texts;
+    const TextTable table = TextTable::Parse(QString::fromUtf8(file.readAll()));
+    for (const auto& [number, text] : table.Texts()) {
+        texts.insert(number, text);
+    }
+    return texts;
+}
+
+bool HasLetters(const QString& text) {
+    return std::ranges::any_of(text, [](QChar c) { return c.isLetter(); });
+}
+
+template <class Kind>
+QString TextOf(const QObject& object) {
+    return static_cast<const Kind&>(object).text();
+}
+QString TitleOf(const QObject& object) { return static_cast<const QMenu&>(object).title(); }
+QString None(const QObject& /*object*/) { return {}; }
+
+/// What tells the text that is written on it.
+auto CaptionReader(const QObject& object) {
+    if (qobject_cast<const QLabel*>(&object) != nullptr) {
+        return &TextOf<QLabel>;
+    }
+    if (qobject_cast<const QAbstractButton*>(&object) != nullptr) {
+        return &TextOf<QAbstractButton>;
+    }
+    if (qobject_cast<const QMenu*>(&object) != nullptr) {
+        return &TitleOf;
+    }
+    const auto* action = qobject_cast<const QAction*>(&object);
+    return action != nullptr && action->menu() == nullptr ? &TextOf<QAction> : &None;
+}
+
+const QWidget& AsWidget(const QObject& object) { return static_cast<const QWidget&>(object); }
+QString Title(const QObject& object) { return AsWidget(object).windowTitle(); }
+QString Tip(const QObject& object) { return AsWidget(object).toolTip(); }
+QString Name(const QObject& object) { return AsWidget(object).accessibleName(); }
+QString Description(const QObject& object) { return AsWidget(object).accessibleDescription(); }
+
+/// The date and the interest of a payoff have a tip only at times.
+bool MayBeAway(const QString& name) {
+    return name.contains(u"PayoffDate"_qs) || name.startsWith(u"txtInterest("_qs);
+}
+
+} // namespace
+
+WindowTexts::WindowTexts() : m_tables{ReadTable("000"), ReadTable("40a")} {}
+
+QStringList WindowTexts::Complaints(const QWidget& window, const Book& book, bool thorough) {
+    const bool same = m_window == &window && m_spanish == book.spanish &&
+                      m_inMonths == book.inMonths && m_rows == book.offers.size();
+    if (!same) {
+        ListAll(window, book);
+    }
+    QStringList complaints = m_unaccounted + ComplaintsOfSorting(book.sorted);
+    const auto compare = [&](const Seen& seen) {
+        const QString shown = seen.read(*seen.object);
+        if (shown != seen.text && !(shown.isEmpty() && seen.mayBeAway)) {
+            complaints.append(u"%1 of %2 is “%3” instead of “%4”"_qs.arg(
+                QLatin1String(seen.what), seen.object->objectName(), shown, seen.text));
+        }
+    };
+    std::ranges::for_each(m_written, compare);
+    if (thorough || !same) {
+        std::ranges::for_each(m_told, compare);
+        complaints += ComplaintsOfLists(window);
+    }
+    return complaints;
+}
+
+const QObject& WindowTexts::Named(const QString& name) const {
+    const QObject* object = m_objects.value(name);
+    if (object == nullptr) {
+        throw std::runtime_error("there is no " + name.toStdString());
+    }
+    return *object;
+}
+
+void WindowTexts::ListAll(const QWidget& window, const Book& book) {
+    m_window = &window;
+    m_spanish = book.spanish;
+    m_inMonths = book.inMonths;
+    m_rows = book.offers.size();
+    m_objects.clear();
+    m_written.clear();
+    m_told.clear();
+    m_unaccounted.clear();
+    for (const QObject* object : window.findChildren<QObject*>()) {
+        m_objects.insert(object->objectName(), object);
+    }
+    ListLoan(window);
+    ListUnaccounted(window);
+    for (std::size_t row = 0; row < m_rows; ++row) {
+        ListRow(static_cast<int>(row));
+    }
+}
+
+void WindowTexts::ListLoan(const QWidget& window) {
+    m_written.push_back({&window, "title", Title, Text(200)});
+    for (const TextsOfControl& texts : TextsOfTheLoan) {
+        const QObject& object = Named(QString::fromLatin1(texts.control));
+        const bool inYears = texts.writtenInYears != 0 && !m_inMonths;
+        ListWritten(object, inYears ? texts.writtenInYears : texts.written);
+        ListTold(object, texts.tip, texts.name, 0);
+    }
+}
+
+void WindowTexts::ListRow(int row) {
+    for (const TextsOfControl& texts : TextsOfAnOffer) {
+        const QString name = QString::fromLatin1(texts.control) + u"(%1)"_qs.arg(row);
+        ListTold(Named(name), texts.tip, texts.name, row + 1);
+    }
+}
+
+void WindowTexts::ListWritten(const QObject& object, int number) {
+    if (number != 0) {
+        m_written.push_back({&object, "caption", CaptionReader(object), Text(number)});
+    }
+}
+
+void WindowTexts::ListTold(const QObject& object, int tip, int name, int ordinal) {
+    if (tip != 0) {
+        m_told.push_back({&object, "tip", Tip, Text(tip), MayBeAway(object.objectName())});
+    }
+    if (name != 0) {
+        const QString told = Text(name).replace(u"%1"_qs, QString::number(ordinal));
+        m_told.push_back({&object, "name", Name, told});
+        if (object.inherits("QComboBox")) {
+            m_told.push_back({&object, "description", Description, told});
+        }
+    }
+}
+
+/// Whatever else bears a text has come to the window unnoticed by this account.
+void WindowTexts::ListUnaccounted(const QWidget& window) {
+    QSet<const QObject*> known;
+    for (const Seen& seen : m_written) {
+        known.insert(seen.object);
+    }
+    for (const QObject* object : window.findChildren<QObject*>()) {
+        const QString text = CaptionReader(*object)(*object);
+        if (HasLetters(text) && !known.contains(object)) {
+            m_unaccounted.append(
+                u"nobody accounts for “%1” of “%2”"_qs.arg(text, object->objectName()));
+        }
+    }
+}
+
+/// The heading that the offers are sorted by tells so.
+QStringList WindowTexts::ComplaintsOfSorting(char sorted) const {
+    struct Heading {
+        QString name;
+        char by;
+        int text;
+    };
+    static const std::array headings{Heading{u"cmdPayoffDate"_qs, 'P', 346},
+                                     Heading{u"cmdInterest"_qs, 'I', 347}};
+    QStringList complaints;
+    for (const Heading& heading : headings) {
+        const QString told = Description(Named(heading.name));
+        if (told != (sorted == heading.by ? Text(heading.text) : QString())) {
+            complaints.append(u"%1 tells “%2”"_qs.arg(heading.name, told));
+        }
+    }
+    return complaints;
+}
+
+/// What can be chosen.
+QStringList WindowTexts::ComplaintsOfLists(const QWidget& window) const {
+    QStringList complaints;
+    for (const auto* list : window.findChildren<QComboBox*>()) {
+        if (list->objectName() == u"cboLoanName"_qs) {
+            continue;
+        }
+        QStringList expected;
+        for (const int number : list->objectName() == u"cboLoanType"_qs ? Types : Frequencies) {
+            expected.append(Text(number));
+        }
+        QStringList shown;
+        for (int entry = 0; entry < list->count(); ++entry) {
+            shown.append(list->itemText(entry));
+        }
+        if (shown != expected) {
+            complaints.append(u"%1 offers %2 instead of %3"_qs.arg(
+                list->objectName(), shown.join(u'|'), expected.join(u'|')));
+        }
+    }
+    return complaints;
+}

@@ -10,12 +10,15 @@
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 #include <QWindow>
 
+#include <chrono>
 #include <ostream>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
 void PrintTo(QStringView text, std::ostream* out) { PrintTo(text.toString(), out); }
@@ -38,6 +41,9 @@ void WindowTest::Open(const Start& start) {
                     .locale = start.locale,
                     .today = [] { return Date::FromCalendar(2026, 11, 21); }},
         settings);
+    if (start.noticeWaits) {
+        Timer1().setInterval(1h);
+    }
     m_window->show();
     ActivateAgain();
 }
@@ -101,6 +107,16 @@ void WindowTest::FillFirstOffer() {
     Fill(u"txtTerm(0)", u"30");
     Choose(u"cboFrequency(0)", 0);
 }
+
+QTimer& WindowTest::Timer1() const {
+    auto* const timer = m_window->findChild<QTimer*>(QStringLiteral("Timer1"));
+    if (timer == nullptr) {
+        throw std::runtime_error("no Timer1");
+    }
+    return *timer;
+}
+
+void WindowTest::HurryTimer() const { Timer1().setInterval(1); }
 
 bool WindowTest::WaitFor(const std::function<bool()>& condition) {
     return QTest::qWaitFor(condition, 5000);

@@ -123,12 +123,7 @@ void Loan::WireChoice(Field field) {
     }
 }
 
-void Loan::ApplyCaptions() {
-    ApplyTexts(*this, UnitOf(m_settings));
-    for (Row row{0}; row <= m_rows.HighestOfferRow(); ++row.value) {
-        ApplyRowCaptions(row);
-    }
-}
+void Loan::ApplyCaptions() { ApplyTexts(*this, UnitOf(m_settings)); }
 
 void Loan::ApplyRowCaptions(Row row) {
     QWidget* controls = m_controls.ControlOf({FieldId::Who, row})->parentWidget();

@@ -30,7 +30,7 @@ std::optional<LineEnd> EndOfLine(QStringView text, bool goesOn, double columnWid
             return LineEnd{before, before + LineBreak.size()};
         }
         const QChar character = text.at(before);
-        if (character == u' ') {
+        if (character == u' ' && end == before + 1) { // one with an accent on it is no gap
             lastBreak = {before, end};
         }
         if (width(text.first(end).toString()) >= columnWidth) {
@@ -63,7 +63,8 @@ qsizetype LeadingBlanks(QStringView text) {
     while (count < text.size() && text.at(count) == u' ') {
         ++count;
     }
-    return count;
+    const bool hasAccent = count > 0 && count < text.size() && text.at(count).isMark();
+    return hasAccent ? count - 1 : count;
 }
 
 } // namespace

@@ -18,6 +18,17 @@ QByteArray KeptPlace(const QString& name) {
     return opened ? file.read(LongestPlace) : QByteArray();
 }
 
+/// A place that a window can have had. In wider numbers than the toolkit's, which a damaged file
+/// takes beyond their end.
+bool CanBe(const QRect& place, const QRect& screens) {
+    const auto isLength = [](qint64 first, qint64 last, qint64 screen) {
+        const qint64 length = last - first + 1;
+        return length >= 1 && length <= 4 * screen;
+    };
+    return screens.intersects(place) && isLength(place.left(), place.right(), screens.width()) &&
+           isLength(place.top(), place.bottom(), screens.height());
+}
+
 } // namespace
 
 QString UserPlace() {
@@ -30,8 +41,7 @@ void RestorePlace(QWidget& window, const QString& file) {
     // and a size that no window can have had.
     window.restoreGeometry(KeptPlace(file));
     const QRect screens = window.screen()->virtualGeometry();
-    const QSize most = screens.size() * 4;
-    if (!screens.intersects(window.geometry()) || window.size().boundedTo(most) != window.size()) {
+    if (!CanBe(window.geometry(), screens)) {
         window.setGeometry({screens.topLeft(), window.sizeHint()});
     }
 }

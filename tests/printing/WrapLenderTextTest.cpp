@@ -45,6 +45,8 @@ const std::vector<WrapCase> Cases{
     {"no room at all",                           0, "ab",                  "a\r\nb"},
     {"letters of two bytes",                     4, "\xC3\xB1\xC3\xB1\xC3\xB1\xC3\xB1", "\xC3\xB1\xC3\xB1\xC3\xB1\r\n\xC3\xB1"},
     {"a character of two units is whole",        2, "a\xF0\x9F\x8F\xA0" "b", "a\r\n\xF0\x9F\x8F\xA0\r\nb"},
+    {"a blank with an accent is no blank",       5, "abc \xCC\x81" "d",     "abc\r\n \xCC\x81" "d"},
+    {"nor is one after a blank",                 4, "ab  \xCC\x81" "c",     "ab\r\n \xCC\x81" "c"},
     {"a hyphen at the end of the text",          6, "abc-",                "abc-"},
     {"blanks only",                              3, "     ",               "  \r\n"},
 };

@@ -98,6 +98,7 @@ TEST(TextUse, FormsAreReadByTheirTextProperties) {
         </widget></ui>)",
                                     TextProperties);
     std::vector<int> numbers;
+    numbers.reserve(form.size());
     for (const FormNumber& named : form) {
         numbers.push_back(named.number);
     }

@@ -136,8 +136,8 @@ bool Book::Accepts(Field field, const QString& text) const {
 QString Book::FailureOf(Field field, const QString& text) const {
     static constexpr std::array pictures{u" nnn", u" nnnn.n", u" nnnn.nn", u" nnnn.nnn"};
     const int decimals = Of(field.id).decimals;
-    const QString refused = GetResourceText(TextNumber::NumberRefused) +
-                            QString::fromUtf16(pictures.at(static_cast<std::size_t>(decimals)));
+    QString refused = GetResourceText(TextNumber::NumberRefused) +
+                      QString::fromUtf16(pictures.at(static_cast<std::size_t>(decimals)));
     if (!forms.IsForm(text, decimals)) {
         return refused;
     }

@@ -240,9 +240,10 @@ TEST_F(Surroundings, AtRandomAreTaken) {
         std::vector<Variable> variables;
         for (const QByteArray& line : QByteArray::fromStdString(input).split('\n')) {
             const qsizetype sign = line.indexOf('=');
-            const auto known = std::find_if(Names.begin(), Names.end(), [&](const char* name) {
-                return line.left(std::max<qsizetype>(sign, 0)) == name;
-            });
+            const auto* const known =
+                std::find_if(Names.begin(), Names.end(), [&](const char* name) {
+                    return line.left(std::max<qsizetype>(sign, 0)) == name;
+                });
             if (known != Names.end()) {
                 variables.push_back({*known, line.mid(sign + 1)});
             }

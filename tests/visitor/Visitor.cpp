@@ -119,7 +119,7 @@ public:
 
 private:
     /// A step that opens a dialog ends only once the dialog has been closed, by a later one.
-    void Next() { QTimer::singleShot(20, this, &Visitor::Visit); }
+    void Next() const { QTimer::singleShot(20, this, &Visitor::Visit); }
     void Visit() {
         if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
             const auto* const box = qobject_cast<QMessageBox*>(dialog);

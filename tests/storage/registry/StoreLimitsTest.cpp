@@ -33,7 +33,8 @@ TEST_F(StoreLimitsTest, NamesThatCannotBeHoldNothing) {
         EXPECT_EQ(registry.GetValueType(User, Base, name), 0);
         registry.DeleteValue(User, Base, name);
         if (name.size() < 255) {
-            EXPECT_EQ(FailureOf([&] { registry.CreateKey(User, Base + '\\' + name); }), NotMade);
+            const std::string key = std::string(Base).append("\\").append(name);
+            EXPECT_EQ(FailureOf([&] { registry.CreateKey(User, key); }), NotMade);
         }
     }
     // An element of blanks: there are none.

@@ -34,6 +34,7 @@ std::vector<QLocale> EveryHabit() {
                        locale});
     }
     std::vector<QLocale> locales;
+    locales.reserve(habits.size());
     for (const auto& [habit, locale] : habits) {
         locales.push_back(locale);
     }

@@ -28,10 +28,11 @@ function(compile_alone)
   set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 endfunction()
 
-# add_loan_test(<name> LABEL <folder> SOURCES … USES … [MAIN <library with main>])
-# A GoogleTest program whose tests carry their folder's name as label.
+# add_loan_test(<name> LABEL <folder> SOURCES … USES … [MAIN <library with main>] [EACH_ALONE])
+# A GoogleTest program whose tests carry their folder's name as label. A program starts slowly under the
+# sanitizers, so there it runs all its tests at one go, but for those that need a run of their own each.
 function(add_loan_test name)
-  cmake_parse_arguments(TEST "" "LABEL;MAIN" "SOURCES;USES" ${ARGN})
+  cmake_parse_arguments(TEST "EACH_ALONE" "LABEL;MAIN" "SOURCES;USES" ${ARGN})
   if(NOT TEST_MAIN)
     set(TEST_MAIN GTest::gtest_main)
   endif()
@@ -40,15 +41,21 @@ function(add_loan_test name)
   target_compile_definitions(${name} PRIVATE
     QUEND_SOURCE_DIR="${CMAKE_SOURCE_DIR}" QUEND_PROGRAM_DIR="${QUEND_PROGRAM_DIR}"
     QUEND_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
+  set(environment QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 ASAN_OPTIONS=detect_leaks=1
+    "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0")
+  if(QUEND_SANITIZE AND NOT TEST_EACH_ALONE)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES LABELS ${TEST_LABEL} TIMEOUT 600 ENVIRONMENT "${environment}")
+    return()
+  endif()
   include(GoogleTest)
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${TEST_LABEL} TIMEOUT 120)
   # In a file of its own: of a list among the properties above, the first entry alone arrives.
-  set(environment "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
-  file(CONFIGURE OUTPUT "${environment}" @ONLY CONTENT [[
+  set(file "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
+  file(CONFIGURE OUTPUT "${file}" @ONLY CONTENT [[
 if(@name@_TESTS)
-  set_tests_properties(${@name@_TESTS} PROPERTIES ENVIRONMENT
-    "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=@CMAKE_SOURCE_DIR@/tests/support/leaks.supp:print_suppressions=0")
+  set_tests_properties(${@name@_TESTS} PROPERTIES ENVIRONMENT "@environment@")
 endif()
 ]])
-  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${environment}")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${file}")
 endfunction()

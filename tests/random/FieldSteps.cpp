@@ -264,7 +264,7 @@ void RandomUser::ChooseFrom(Field field, unsigned b) {
 void RandomUser::TypeDay(unsigned a, unsigned b) {
     const Field field{FieldId::NextPayment};
     const View before = Look();
-    if (!Click(*Control(field)) || (m_edited != field && !Follow(before))) {
+    if (!ClickInto(field, before)) {
         return;
     }
     static constexpr std::array keys{Qt::Key_Up,   Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown,

@@ -97,7 +97,7 @@ void RandomUser::PickInBook(const QString& name, Answer answer) {
 void RandomUser::TypeName(unsigned a, unsigned b) {
     const Field field{FieldId::LoanName};
     const View before = Look();
-    if (!Click(*Control(field)) || (m_edited != field && !Follow(before))) {
+    if (!ClickInto(field, before)) {
         return;
     }
     QGuiApplication::clipboard()->setText(NameText(b));
@@ -134,7 +134,7 @@ void RandomUser::Save(unsigned a, unsigned /*b*/) {
 void RandomUser::PickName(unsigned a, unsigned b) {
     const Field field{FieldId::LoanName};
     const View before = Look();
-    if (!Click(*Control(field)) || (m_edited != field && !Follow(before))) {
+    if (!ClickInto(field, before)) {
         return;
     }
     auto& box = *qobject_cast<QComboBox*>(Control(field));

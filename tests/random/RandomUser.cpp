@@ -222,6 +222,10 @@ bool RandomUser::IsRefused(const View& before) const {
     return m_edited && RuleOf(m_edited->id).IsNumber() && !m_book.Accepts(*m_edited, before.text);
 }
 
+bool RandomUser::ClickInto(Field field, const View& before) {
+    return Click(*Control(field)) && (m_edited == field || Follow(before));
+}
+
 bool RandomUser::Follow(const View& before) {
     ObserveDay();
     const std::optional<Field> now = FocusField();

@@ -132,6 +132,8 @@ private:
     bool IsRefused(const View& before) const;
     /// Whether the focus may have moved: where the field is refused nothing else may have happened.
     bool Follow(const View& before);
+    /// Clicks on a field. False where it cannot be reached, or the one before keeps the keyboard.
+    bool ClickInto(Field field, const View& before);
     /// What a menu entry does first. False where the field is refused.
     bool Commit(const View& before);
     void LeaveInBook(const View& before);

@@ -26,7 +26,7 @@ using namespace Qt::StringLiterals;
 void RandomUser::Tick(unsigned a, unsigned /*b*/) {
     const Field field{FieldId::FinancePoints, Row{static_cast<int>(a % m_book.offers.size())}};
     const View before = Look();
-    if (!Click(*Control(field)) || (m_edited != field && !Follow(before))) {
+    if (!ClickInto(field, before)) {
         return;
     }
     m_book.StoreTick(field.row.value, !m_book.IsTicked(field.row.value));
@@ -131,7 +131,7 @@ void RandomUser::ClickBar(unsigned a, unsigned b) {
 void RandomUser::OpenLender(unsigned a, unsigned b) {
     const Field field{FieldId::Who, Row{static_cast<int>(a % m_book.offers.size())}};
     View before = Look();
-    if (!Click(*Control(field)) || (m_edited != field && !Follow(before))) {
+    if (!ClickInto(field, before)) {
         return;
     }
     before = Look();

@@ -21,13 +21,14 @@ namespace {
 
 constexpr int MostFound = 100;
 
-/// Every word, begun or whole: what stands between them means something to the search.
+/// Every word, begun or whole. In quotes, because AND, OR, NOT and NEAR are commands of the search
+/// engine, as are the characters between words.
 QString QueryOf(const QString& typed) {
-    const QRegularExpression gap(QStringLiteral("[^\\w]+"),
+    const QRegularExpression gap(QStringLiteral("[\\W_]+"),
                                  QRegularExpression::UseUnicodePropertiesOption);
     QStringList words = typed.split(gap, Qt::SkipEmptyParts);
     for (QString& word : words) {
-        word += u'*';
+        word = u'"' + word + QStringLiteral("\"*");
     }
     return words.join(u' ');
 }
@@ -109,8 +110,7 @@ void HelpWindow::SetBook(std::shared_ptr<HelpBook> book) {
         return;
     }
     const QUrl before = PageInView();
-    m_ui->lstFound->clear();
-    m_ui->lblNotFound->hide();
+    ClearFound();
     m_ui->treContents->setModel(book->Contents());
     m_keywords.setSourceModel(book->Keywords());
     m_keywords.sort(0);
@@ -181,6 +181,11 @@ void HelpWindow::ListKeywords(const QString& start) {
     m_ui->lstIndex->setCurrentIndex(m_keywords.index(0, 0));
 }
 
+void HelpWindow::ClearFound() {
+    m_ui->lstFound->clear();
+    m_ui->lblNotFound->hide();
+}
+
 void HelpWindow::Find() {
     const QString query = QueryOf(m_ui->txtWords->text());
     if (!query.isEmpty()) {
@@ -188,8 +193,12 @@ void HelpWindow::Find() {
     }
 }
 
+/// The answer to a search that the user has left since is dropped.
 void HelpWindow::ListFound() {
-    m_ui->lstFound->clear();
+    ClearFound();
+    if (QueryOf(m_ui->txtWords->text()).isEmpty()) {
+        return;
+    }
     for (const HelpBook::FoundPage& found : m_book->Found(MostFound)) {
         auto* item = new QListWidgetItem(found.title, m_ui->lstFound);
         item->setData(Qt::UserRole, found.page);
@@ -204,8 +213,9 @@ void HelpWindow::Open(Side side, QWidget& beside) {
     m_ui->tabHelp->setCurrentIndex(static_cast<int>(side));
     Raise(beside);
     if (side == Side::Search) {
+        m_ui->txtWords->clear();
+        ClearFound();
         m_ui->txtWords->setFocus();
-        m_ui->txtWords->selectAll();
     } else {
         m_ui->treContents->setFocus();
     }

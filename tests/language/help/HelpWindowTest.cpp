@@ -294,6 +294,9 @@ TEST_F(HelpLanguage, FollowsASwitchOnTheSamePage) {
     EXPECT_EQ(InHelp<QTabWidget>(QStringLiteral("tabHelp")).tabText(0), u"&Contenido");
     const auto text = [this] { return InHelp<HelpView>(QStringLiteral("txtPage")).toPlainText(); };
     EXPECT_TRUE(text().startsWith(u"La cuenta de garantía"));
+    const auto& contents = InHelp<QTreeView>(QStringLiteral("treContents"));
+    EXPECT_TRUE(WaitFor(
+        [&] { return text().startsWith(contents.currentIndex().data().toString() + u'\n'); }));
     SwitchLanguage(English);
     Settle();
     EXPECT_TRUE(text().startsWith(u"Escrow"));

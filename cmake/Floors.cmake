@@ -10,6 +10,15 @@ function(add_floor name)
   target_link_libraries(${name} PUBLIC ${FLOOR_USES} PRIVATE strictness)
 endfunction()
 
+# seal(<library>)
+# Appends a seal whenever the library has been linked. It is stripped while it is linked, because stripping
+# it later, in a package, would take the seal away.
+function(seal library)
+  target_link_options(${library} PRIVATE $<$<CONFIG:Release>:-s>)
+  add_custom_command(TARGET ${library} POST_BUILD VERBATIM
+    COMMAND ${CMAKE_COMMAND} -D "LIBRARY=$<TARGET_FILE:${library}>" -P "${CMAKE_SOURCE_DIR}/cmake/Seal.cmake")
+endfunction()
+
 # add_program_part(<name> NAME <file> SOURCES … USES …)
 # A library beside the program, loaded when it is first needed (ProgramPart.h). Its floors must know
 # neither the language nor a window: it would get copies of its own.
@@ -20,6 +29,7 @@ function(add_program_part name)
   set_target_properties(${name} PROPERTIES AUTOMOC ON PREFIX "" OUTPUT_NAME "${PART_NAME}"
     LIBRARY_OUTPUT_DIRECTORY "${QUEND_PROGRAM_DIR}")
   set_property(GLOBAL APPEND PROPERTY QUEND_PROGRAM_PARTS ${name})
+  seal(${name})
 endfunction()
 
 # compile_alone(<source>…)

@@ -47,6 +47,7 @@ function(add_language_components target)
       OUTPUT_NAME "${LANGUAGES_PROGRAM}${identifier}.Resources"
       LIBRARY_OUTPUT_DIRECTORY "${LANGUAGES_DESTINATION}")
     target_link_libraries(${component} PRIVATE texttable strictness)
+    seal(${component})
     add_dependencies(${target} ${component})
     set_property(TARGET ${target} APPEND PROPERTY QUEND_COMPONENTS ${component})
   endforeach()

@@ -1,6 +1,7 @@
 #include "ComponentFile.h"
 
 #include "LanguageComponent.h"
+#include "SealedLibrary.h"
 
 #include <QDir>
 #include <QJsonObject>
@@ -66,6 +67,9 @@ QStringList Identifiers(const QString& folder, const QString& programName) {
 }
 
 std::optional<LanguageLabel> Label(const QString& file) {
+    if (!IsSealed(file)) {
+        return std::nullopt;
+    }
     const QJsonObject all = QPluginLoader(file).metaData();
     if (all[QLatin1String("IID")].toString() !=
         QLatin1String(qobject_interface_iid<LanguageComponent*>())) {

@@ -27,7 +27,7 @@ QString Find(const QString& folder, const QString& component);
 /// lowest first.
 QStringList Identifiers(const QString& folder, const QString& programName);
 
-/// No value when the file is no language component. Runs none of the file's code.
+/// No value when the file is damaged or no language component. Runs none of the file's code.
 std::optional<LanguageLabel> Label(const QString& file);
 
 /// The component's texts, which stay in memory to the end of the process; nullptr when the file is

@@ -3,8 +3,8 @@ set(doc "${data}/doc/quend-loan")
 pack("${log}" "${made}/changelog.gz")
 install(FILES debian/copyright "${made}/changelog.gz" DESTINATION "${doc}")
 
-# What the linker cannot know: scripts/packages names what is loaded by name. The linked libraries are
-# found in the program itself, and scripts/package compares them with that list.
+# What the linker cannot know: scripts/packages names what is loaded by name. The libraries that are
+# linked are found in the program itself, because their packages' names differ between releases of Debian.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/scripts/packages")
 foreach(how loaded recommended)
   file(STRINGS "${CMAKE_SOURCE_DIR}/scripts/packages" ${how} REGEX "^running .* ${how}$")
@@ -35,7 +35,7 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
+set(CPACK_STRIP_FILES OFF) # they were stripped while they were linked: libraries are sealed after that
 set(CPACK_PACKAGE_DIRECTORY "${CMAKE_BINARY_DIR}/package")
 set(CPACK_OUTPUT_FILE_PREFIX "${CPACK_PACKAGE_DIRECTORY}")
 include(CPack)

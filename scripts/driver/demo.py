@@ -119,13 +119,14 @@ def _print(window: Window, lab: PrintLab, file: Path) -> None:
     print(f"report: {file}")
 
 
-def _print_lab(session: Session, ending: ExitStack) -> PrintLab | None:
-    """A printer for this run; None where none can be had."""
+def _print_lab(session: Session, ending: ExitStack) -> PrintLab | str:
+    """A printer for this run, or why none can be had."""
     try:
         return ending.enter_context(PrintLab(session))
+    except subprocess.CalledProcessError as error:
+        return error.stderr.strip()
     except (OSError, subprocess.SubprocessError) as error:
-        print(f"demo: nothing is printed, for want of a print server: {error}", file=sys.stderr)
-        return None
+        return str(error)
 
 
 def _sort(window: Window, heading: str, file: Path) -> None:
@@ -159,9 +160,12 @@ def main() -> int:
             window = Window(session, given.program, Texts(_ROOT / "language/components"), 10.0)
             pictures = given.pictures.resolve()
             _show(window, pictures, given.locale)
-            if lab:
-                window.menu(["mnuTools", "mnuToolsLanguage", "mnuToolsLanguageOpt(1)"])
-                _print(window, lab, pictures / "report.pdf")
+            if isinstance(lab, str):
+                print(f"demo: the report was not printed, because no print server runs: {lab}",
+                      file=sys.stderr)
+                return 1
+            window.menu(["mnuTools", "mnuToolsLanguage", "mnuToolsLanguageOpt(1)"])
+            _print(window, lab, pictures / "report.pdf")
         except (Refused, Expired, BusError, OSError) as error:
             print(f"demo: {error}", file=sys.stderr)
             return 1

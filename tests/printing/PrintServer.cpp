@@ -12,11 +12,6 @@ namespace {
 
 constexpr int PatienceMs = 60'000;
 
-const QString& ServerPath() {
-    static const QString path = QStringLiteral("/usr/sbin/cupsd");
-    return path;
-}
-
 QString PropertyOf(const QString& document, const QString& name) {
     const QString info = PrintServer::Run(QStringLiteral("pdfinfo"), {document});
     const QRegularExpression line(QStringLiteral("^%1:\\s*(.*)$").arg(name),
@@ -27,10 +22,8 @@ QString PropertyOf(const QString& document, const QString& name) {
 } // namespace
 
 bool PrintServer::IsInstalled() {
-    return QFile::exists(ServerPath()) && QFile::exists(QStringLiteral("/usr/sbin/avahi-daemon")) &&
-           !QStandardPaths::findExecutable(
-                QStringLiteral("ippeveprinter"),
-                {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin")})
+    return !QStandardPaths::findExecutable(
+                QStringLiteral("cupsd"), {QStringLiteral("/usr/sbin"), QStringLiteral("/usr/bin")})
                 .isEmpty();
 }
 
@@ -75,7 +68,8 @@ void PrintServer::EndServer() const {
 QStringList PrintServer::Printed() const {
     QDir folder(m_folder.filePath(QStringLiteral("jobs")));
     QStringList paths;
-    for (const QString& name : folder.entryList(QDir::Files, QDir::Time | QDir::Reversed)) {
+    for (const QString& name :
+         folder.entryList({QStringLiteral("*.pdf")}, QDir::Files, QDir::Name)) {
         paths << folder.filePath(name);
     }
     return paths;

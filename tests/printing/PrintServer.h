@@ -3,8 +3,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// A print server with a real IPP printer, on loopback and in a folder of its own. The queue "Lab"
-/// is the default one. This program and its children print there, and nowhere else.
+/// A print server in a temporary folder, whose queue "Lab" prints into files. It is the default
+/// one. This program and its children print there, and nowhere else.
 class PrintServer {
 public:
     /// Whether what it takes is installed.
@@ -19,7 +19,7 @@ public:
 
     /// Runs one of the server's own commands; gives what it says. Throws where it fails.
     static QString Run(const QString& command, const QStringList& arguments);
-    /// Ends the server; its printer stays.
+    /// Ends the server.
     void EndServer() const;
     /// The documents that have come out of the printer, in order.
     QStringList Printed() const;

@@ -1,5 +1,5 @@
-// The Print command from its dialog to the sheet in the printer's tray: a real print server, a real
-// IPP printer. Where they are not installed, into a file.
+// The Print command from its dialog to the printed document, through a real print server. Where none
+// is installed, into a file.
 
 #include "PrintServer.h"
 #include "FilePrinter.h"

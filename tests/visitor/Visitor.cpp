@@ -65,6 +65,8 @@ void FillIn() {
     Named<QComboBox>("cboLoanName").setEditText(QStringLiteral("Sample"));
     Enter("txtLoanAmount", "100000");
     Enter("txtAnnualTaxes", "1200");
+    Enter("txtActualPayment(0)",
+          "700"); // enough, so that no notice of a raised payment comes in between
     Enter("txtInterestRate(0)", "6");
     Enter("txtTerm(0)", "30");
     Enter("txtWho(0)", "Bank of the Prairie");

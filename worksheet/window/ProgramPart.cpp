@@ -1,9 +1,12 @@
 #include "ProgramPart.h"
 
+#include "SealedLibrary.h"
+
 #include <QCoreApplication>
 #include <QPluginLoader>
 
 QObject* LoadProgramPart(const QString& name) {
     const QString folder = QCoreApplication::applicationDirPath();
-    return QPluginLoader(folder + u'/' + name).instance();
+    QPluginLoader library(folder + u'/' + name);
+    return IsSealed(library.fileName()) ? library.instance() : nullptr;
 }

@@ -6,7 +6,7 @@
 #include <QString>
 
 /// A library beside the program, named without its ending; it stays loaded. Null where it is
-/// missing or does not fit.
+/// missing, damaged or does not fit.
 QObject* LoadProgramPart(const QString& name);
 
 /// What few sittings need, such as printing, stands in a library of its own with much else behind

@@ -1,0 +1,19 @@
+#include "SealedLibrary.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+
+bool IsSealed(const QString& library) {
+    constexpr qsizetype sealSize = 32; // MD5 in hexadecimal digits, which cmake/Seal.cmake appends
+    QFile file(library);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    const QByteArray bytes = file.readAll();
+    if (bytes.size() < sealSize) {
+        return false;
+    }
+    const QByteArray content = QByteArray::fromRawData(bytes.constData(), bytes.size() - sealSize);
+    const QByteArray hash = QCryptographicHash::hash(content, QCryptographicHash::Md5);
+    return hash.toHex() == bytes.last(sealSize);
+}

@@ -1,0 +1,36 @@
+# shellcheck shell=bash
+# A bare Debian in a temporary folder, for the scripts that try the program where nothing else is. Sourced
+# after scripts/lib.sh, by root. The system is removed when the script ends.
+
+((EUID == 0)) || die "must be run as root, to make a system of its own"
+bare=$(mktemp -d /var/tmp/quend-loan-bare.XXXXXX)
+# Nothing of the outer system is mounted there, so that nothing else can go with it.
+trap 'rm -rf --one-file-system "$bare"' EXIT
+
+# inside COMMAND…: runs it there. Its processes and mounts belong to name spaces of their own, which
+# end with it, whatever happens.
+inside() {
+    unshare --mount --pid --fork --kill-child --mount-proc="$bare/proc" \
+        env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
+        chroot "$bare" "$@"
+}
+
+apt() {
+    quietly "$log_dir/bare-apt.log" inside apt-get -q -y --no-install-recommends "$@"
+}
+
+# make_system RELEASE: from the same mirror as this system.
+make_system() {
+    local mirror here
+    here=$(. /etc/os-release && printf '%s' "$VERSION_CODENAME")
+    chmod 755 "$bare" # it is the root folder of ordinary users, too
+    # shellcheck disable=SC2016 # the names are apt-get's own
+    mirror=$(apt-get indextargets --format '$(SITE) $(RELEASE)' 'Created-By: Packages' |
+        awk -v here="$here" '$2 == here && !found++ { print $1 }')
+    quietly "$log_dir/bare-system.log" debootstrap --variant=minbase "$1" "$bare" "$mirror"
+    apt-config dump | grep -E '^Acquire::.*Proxy' >"$bare/etc/apt/apt.conf.d/90outer" || true
+    cp /etc/hosts /etc/resolv.conf "$bare/etc/"
+    printf '#!/bin/sh\nexit 101\n' >"$bare/usr/sbin/policy-rc.d" # no services: nothing is to start by itself
+    chmod +x "$bare/usr/sbin/policy-rc.d"
+    apt update
+}

@@ -7,6 +7,7 @@ well, 1 when the window did not do as it should, 2 when the scenario is at fault
 from __future__ import annotations
 
 import argparse
+import re
 import subprocess
 import sys
 from contextlib import ExitStack
@@ -21,6 +22,8 @@ from waiting import Expired
 from window import Refused, Window
 
 _ROOT = Path(__file__).resolve().parents[2]
+_LOCALE_NOTE = re.compile(r'Detected locale "[^"]*" with character encoding.*?for more information\.\n',
+                          re.DOTALL)
 
 
 def _arguments() -> argparse.Namespace:
@@ -43,6 +46,12 @@ def _show(reading: Reading) -> None:
     print(f"{reading.control}\t{text}", flush=True)
 
 
+def _complaints(log: Path) -> str:
+    """What the program said, without the note of newer versions of Qt that a locale is not installed."""
+    said = log.read_text(errors="replace") if log.exists() else ""
+    return _LOCALE_NOTE.sub("", said)
+
+
 def main() -> int:
     given = _arguments()
     try:
@@ -63,10 +72,9 @@ def main() -> int:
             print(f"driver: {error}", file=sys.stderr)
             return 1
         finally:
-            said = (session.folder / "program.log")
-            if said.exists() and said.stat().st_size:
-                print(f"driver: the program said:\n{said.read_text(errors='replace')}",
-                      file=sys.stderr)
+            complaints = _complaints(session.folder / "program.log")
+            if complaints:
+                print(f"driver: the program said:\n{complaints}", file=sys.stderr)
     return 0
 
 

@@ -39,7 +39,8 @@ std::string Shown(const LanguageEntry& entry, const QString& folder) {
 
 std::vector<std::string> EntriesShown(const ProgramFolder& folder) {
     std::vector<std::string> shown;
-    for (const LanguageEntry& entry : SetUpIn(folder.Path()).Entries()) {
+    const Language& language = SetUpIn(folder.Path());
+    for (const LanguageEntry& entry : language.Entries()) {
         shown.push_back(Shown(entry, folder.Path()));
     }
     return shown;

@@ -6,21 +6,28 @@
 #include "MailDoor.h"
 #include "TextNumbers.h"
 
+#include <cmath>
 #include <utility>
 
 namespace {
 
 const QLatin1String Marker("?ID");
 
+/// Its value is not 0. "12abc" has none, and "nan" and "inf", which the toolkit reads, are none.
+bool IsKnown(const QString& referral) {
+    const double value = referral.toDouble();
+    return std::isfinite(value) && value != 0.0;
+}
+
 } // namespace
 
 QString ShareBody(const QString& text, const QString& referral) {
-    const bool known = referral.toDouble() != 0.0;
     QString body = text;
     const qsizetype at = body.indexOf(Marker);
-    return at < 0 ? body
-                  : body.replace(at, Marker.size(),
-                                 known ? QStringLiteral("?ref=") + referral : QString());
+    return at < 0
+               ? body
+               : body.replace(at, Marker.size(),
+                              IsKnown(referral) ? QStringLiteral("?ref=") + referral : QString());
 }
 
 ShareCommands::ShareCommands(Loan& window, MailDoor& mail, QString referral)

@@ -6,7 +6,8 @@
 bool IsSealed(const QString& library) {
     constexpr qsizetype sealSize = 32; // MD5 in hexadecimal digits, which cmake/Seal.cmake appends
     QFile file(library);
-    if (!file.open(QIODevice::ReadOnly)) {
+    // The name is empty where the toolkit found no library, and it complains of opening that.
+    if (library.isEmpty() || !file.open(QIODevice::ReadOnly)) {
         return false;
     }
     const QByteArray bytes = file.readAll();

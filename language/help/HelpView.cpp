@@ -3,8 +3,40 @@
 #include "HelpBook.h"
 #include "LinkColour.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QEvent>
 #include <QImage>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextFrame>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace {
+
+/// Where a section begins, in pixels from the start of the page.
+std::optional<int> SectionTop(const QTextDocument& page, const QString& name) {
+    for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); part != block.end(); ++part) {
+            if (part.fragment().charFormat().anchorNames().contains(name)) {
+                return static_cast<int>(page.documentLayout()->blockBoundingRect(block).top());
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+void SetRoomBelow(const QTextDocument& page, double room) {
+    QTextFrameFormat format = page.rootFrame()->frameFormat();
+    if (format.bottomMargin() != room) {
+        format.setBottomMargin(room);
+        page.rootFrame()->setFrameFormat(format);
+    }
+}
+
+} // namespace
 
 HelpView::HelpView(QWidget* parent) : QTextBrowser(parent) {
     setOpenExternalLinks(false);
@@ -12,6 +44,32 @@ HelpView::HelpView(QWidget* parent) : QTextBrowser(parent) {
     // Pictures are made to fit before it is known whether the page is longer than the view.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     ColourLinks();
+    connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& page) {
+        m_section = page.fragment(); // source() is still the page of before
+        FitSection(true);
+    });
+}
+
+bool HelpView::IsAtSection() const { return verticalScrollBar()->value() == m_sectionTop; }
+
+/// A page scrolls to its end and no further, so the last sections need room below them.
+void HelpView::FitSection(bool scroll) {
+    const double margin = document()->documentMargin();
+    const auto top = SectionTop(*document(), m_section);
+    m_sectionTop = top.value_or(0);
+    const double below = document()->size().height() -
+                         document()->rootFrame()->frameFormat().bottomMargin() - m_sectionTop;
+    const double room = top ? std::ceil(viewport()->height() - below) : margin;
+    SetRoomBelow(*document(), std::max(room, margin));
+    if (scroll) {
+        verticalScrollBar()->setValue(m_sectionTop);
+    }
+}
+
+void HelpView::resizeEvent(QResizeEvent* event) {
+    const bool scroll = IsAtSection();
+    QTextBrowser::resizeEvent(event);
+    FitSection(scroll);
 }
 
 void HelpView::ColourLinks() {
@@ -20,7 +78,11 @@ void HelpView::ColourLinks() {
 }
 
 void HelpView::changeEvent(QEvent* event) {
+    const bool scroll = IsAtSection();
     QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        FitSection(scroll);
+    }
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) {
         ColourLinks();
         reload();

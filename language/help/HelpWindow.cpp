@@ -1,6 +1,7 @@
 #include "HelpWindow.h"
 
 #include "Captions.h"
+#include "HelpAccess.h"
 #include "HelpBook.h"
 #include "Language.h"
 #include "TextNumbers.h"
@@ -9,6 +10,7 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMetaObject>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QShortcut>
@@ -21,13 +23,14 @@ namespace {
 
 constexpr int MostFound = 100;
 
-/// Every word, begun or whole: what stands between them means something to the search.
+/// Every word, begun or whole. In quotes, because AND, OR, NOT and NEAR are commands of the search
+/// engine, as are the characters between words.
 QString QueryOf(const QString& typed) {
-    const QRegularExpression gap(QStringLiteral("[^\\w]+"),
+    const QRegularExpression gap(QStringLiteral("[\\W_]+"),
                                  QRegularExpression::UseUnicodePropertiesOption);
     QStringList words = typed.split(gap, Qt::SkipEmptyParts);
     for (QString& word : words) {
-        word += u'*';
+        word = u'"' + word + QStringLiteral("\"*");
     }
     return words.join(u' ');
 }
@@ -36,12 +39,10 @@ QString QueryOf(const QString& typed) {
 
 HelpWindow::HelpWindow(const HelpPlace& place)
     : m_ui(std::make_unique<Ui::HelpWindow>()), m_place(place) {
+    InstallHelpAccess();
     m_ui->setupUi(this);
     setAttribute(Qt::WA_QuitOnClose, false);
     m_ui->splHelp->setStretchFactor(1, 1);
-    // Titles wider than their side are scrolled to, not cut.
-    m_ui->treContents->header()->setStretchLastSection(false);
-    m_ui->treContents->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_ui->lblNotFound->hide();
     m_keywords.setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_keywords.setSortCaseSensitivity(Qt::CaseInsensitive);
@@ -56,13 +57,14 @@ HelpWindow::~HelpWindow() {
     if (m_book) {
         m_book->TellReader({});
     }
-    m_ui->treContents->setModel(nullptr);
+    m_ui->treContents->SetBook(nullptr);
     m_keywords.setSourceModel(nullptr);
     m_ui->txtPage->SetBook(nullptr);
 }
 
 void HelpWindow::Wire() {
     m_ui->splHelp->installEventFilter(this);
+    m_ui->tabHelp->tabBar()->installEventFilter(this);
     connect(m_ui->splHelp, &QSplitter::splitterMoved, this, [this] { m_sideSet = true; });
     connect(m_ui->cmdBack, &QPushButton::clicked, m_ui->txtPage, &QTextBrowser::backward);
     connect(m_ui->cmdForward, &QPushButton::clicked, m_ui->txtPage, &QTextBrowser::forward);
@@ -71,8 +73,9 @@ void HelpWindow::Wire() {
     m_ui->cmdBack->setEnabled(false);
     m_ui->cmdForward->setEnabled(false);
 
-    connect(m_ui->treContents, &QTreeView::activated, this, &HelpWindow::ShowChapter);
-    connect(m_ui->treContents, &QTreeView::clicked, this, &HelpWindow::ShowChapter);
+    connect(m_ui->treContents, &HelpContents::PageChosen, this, &HelpWindow::ShowPage);
+    connect(m_ui->txtPage, &QTextBrowser::sourceChanged, m_ui->treContents,
+            &HelpContents::MarkPage);
     connect(m_ui->txtKeyword, &QLineEdit::textEdited, this, &HelpWindow::ListKeywords);
     connect(m_ui->txtKeyword, &QLineEdit::returnPressed, this,
             [this] { ShowKeyword(m_ui->lstIndex->currentIndex()); });
@@ -109,9 +112,8 @@ void HelpWindow::SetBook(std::shared_ptr<HelpBook> book) {
         return;
     }
     const QUrl before = PageInView();
-    m_ui->lstFound->clear();
-    m_ui->lblNotFound->hide();
-    m_ui->treContents->setModel(book->Contents());
+    ClearFound();
+    m_ui->treContents->SetBook(book.get());
     m_keywords.setSourceModel(book->Keywords());
     m_keywords.sort(0);
     m_ui->txtPage->SetBook(book.get());
@@ -148,13 +150,15 @@ bool HelpWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_ui->splHelp && event->type() == QEvent::Resize) {
         FitSide();
     }
+    if (watched == m_ui->tabHelp->tabBar() && event->type() == QEvent::Shortcut) {
+        QMetaObject::invokeMethod(this, &HelpWindow::EnterSide, Qt::QueuedConnection);
+    }
     return QWidget::eventFilter(watched, event);
 }
 
 void HelpWindow::UnfoldContents() {
-    m_ui->treContents->expandAll();
+    m_ui->treContents->Unfold();
     FitSide();
-    m_ui->treContents->setCurrentIndex(m_ui->treContents->model()->index(0, 0));
 }
 
 QUrl HelpWindow::PageInView() const { return m_ui->txtPage->source(); }
@@ -163,10 +167,6 @@ void HelpWindow::ShowPage(const QUrl& page) {
     if (!page.isEmpty()) {
         m_ui->txtPage->setSource(page);
     }
-}
-
-void HelpWindow::ShowChapter(const QModelIndex& chapter) {
-    ShowPage(m_book->PageOfChapter(chapter));
 }
 
 void HelpWindow::ShowKeyword(const QModelIndex& keyword) {
@@ -181,6 +181,11 @@ void HelpWindow::ListKeywords(const QString& start) {
     m_ui->lstIndex->setCurrentIndex(m_keywords.index(0, 0));
 }
 
+void HelpWindow::ClearFound() {
+    m_ui->lstFound->clear();
+    m_ui->lblNotFound->hide();
+}
+
 void HelpWindow::Find() {
     const QString query = QueryOf(m_ui->txtWords->text());
     if (!query.isEmpty()) {
@@ -188,8 +193,12 @@ void HelpWindow::Find() {
     }
 }
 
+/// The answer to a search that the user has left since is dropped.
 void HelpWindow::ListFound() {
-    m_ui->lstFound->clear();
+    ClearFound();
+    if (QueryOf(m_ui->txtWords->text()).isEmpty()) {
+        return;
+    }
     for (const HelpBook::FoundPage& found : m_book->Found(MostFound)) {
         auto* item = new QListWidgetItem(found.title, m_ui->lstFound);
         item->setData(Qt::UserRole, found.page);
@@ -202,10 +211,23 @@ void HelpWindow::ListFound() {
 
 void HelpWindow::Open(Side side, QWidget& beside) {
     m_ui->tabHelp->setCurrentIndex(static_cast<int>(side));
-    Raise(beside);
+    if (side == Side::Contents) {
+        ShowPage(m_book->FirstPage());
+    }
     if (side == Side::Search) {
-        m_ui->txtWords->setFocus();
-        m_ui->txtWords->selectAll();
+        m_ui->txtWords->clear();
+        ClearFound();
+    }
+    Raise(beside);
+    EnterSide();
+}
+
+/// Puts the keyboard on the side in view, into its field where it has one.
+void HelpWindow::EnterSide() {
+    QWidget* side = m_ui->tabHelp->currentWidget();
+    if (auto* field = side->findChild<QLineEdit*>()) {
+        field->setFocus();
+        field->selectAll();
     } else {
         m_ui->treContents->setFocus();
     }

@@ -38,6 +38,7 @@ public:
     void SetBook(std::shared_ptr<HelpBook> book);
 
     /// Brings the window to the front, on the screen of `beside`, with the keyboard on that side.
+    /// Contents shows the book's first page, too; a search begins without words.
     /// A dialog that waits for its answer would block it, so it then belongs to the dialog.
     void Open(Side side, QWidget& beside);
     /// The same with this page, its side staying as it is.
@@ -58,11 +59,12 @@ private:
     void Place(const QWidget& beside);
     void FitSide();
     void UnfoldContents();
+    void EnterSide();
     void ShowPage(const QUrl& page);
-    void ShowChapter(const QModelIndex& chapter);
     void ShowKeyword(const QModelIndex& keyword);
     void ListKeywords(const QString& start);
     void Find();
+    void ClearFound();
     void ListFound();
 
     std::unique_ptr<Ui::HelpWindow> m_ui;

@@ -5,6 +5,7 @@
 #include "WindowFixture.h"
 #include "frmAbout.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
@@ -83,7 +84,10 @@ TEST_P(About, TellsTheVersionRecord) {
                             u"of credit."
                           : u"Copyright 2026 Quend Halverworks. Las cifras son estimaciones y no "
                             u"una oferta de crédito.");
-        EXPECT_FALSE(dialog.findChild<QLabel*>(QStringLiteral("picIcon"))->pixmap().isNull());
+        auto* icon = dialog.findChild<QLabel*>(QStringLiteral("picIcon"));
+        EXPECT_FALSE(icon->pixmap().isNull());
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(icon)->text(QAccessible::Name),
+                  english ? u"Icon of Quend Loan" : u"Icono de Quend Loan");
     });
 }
 

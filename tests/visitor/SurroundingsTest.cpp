@@ -187,6 +187,30 @@ TEST_F(Surroundings, OfAnyFoldersKeepTheStoreWhereItBelongs) {
     }
 }
 
+/// What a user who looks for them is told in the manual.
+TEST_F(Surroundings, FilesAreWhereTheManualSays) {
+    ExpectStarts(Start({}));
+    ExpectStarts(
+        Start({{"XDG_DATA_HOME", BytesOfPath(u"d"_s)}, {"XDG_CONFIG_HOME", BytesOfPath(u"c"_s)}}));
+    for (const char* const page : {"en.1.in", "es.1.in"}) {
+        QFile manual(QStringLiteral(QUEND_SOURCE_DIR "/packaging/man/") + QLatin1String(page));
+        ASSERT_TRUE(manual.open(QIODevice::ReadOnly));
+        int files = 0;
+        for (const QString& line : QString::fromUtf8(manual.readAll()).split(u'\n')) {
+            const QString name = line.startsWith(u".I ~/") ? line.sliced(5) : QString();
+            if (name.isNull()) {
+                continue;
+            }
+            ++files;
+            EXPECT_TRUE(QFile::exists(PathOf(name))) << name.toStdString();
+            QString moved = name;
+            moved.replace(u".local/share"_s, u"d"_s).replace(u".config"_s, u"c"_s);
+            EXPECT_TRUE(QFile::exists(PathOf(moved))) << moved.toStdString();
+        }
+        EXPECT_EQ(files, 2) << page;
+    }
+}
+
 TEST_F(Surroundings, OfAnyToolkitSettingsAreTaken) {
     const std::vector<Variable> variables = {{"QT_STYLE_OVERRIDE", "nonsense"},
                                              {"QT_SCALE_FACTOR", "x"},

@@ -1,10 +1,12 @@
 #include "HelpFixture.h"
 
 #include "CompiledBook.h"
+#include "HelpView.h"
 #include "Language.h"
 
 #include <QApplication>
 #include <QFile>
+#include <QTextCursor>
 #include <QUrl>
 
 void HelpTest::OpenWithHelp(const Start& start) {
@@ -41,6 +43,18 @@ QAction& HelpTest::Entry(const QString& name) {
 QString HelpTest::PageInView() {
     const QUrl page = Help().PageInView();
     return page.hasFragment() ? page.fileName() + u'#' + page.fragment() : page.fileName();
+}
+
+int HelpTest::TopOfSection() {
+    const auto& view = InHelp<HelpView>(QStringLiteral("txtPage"));
+    QTextCursor cursor(view.document());
+    const QString name = Help().PageInView().fragment();
+    while (!cursor.charFormat().anchorNames().contains(name)) {
+        if (!cursor.movePosition(QTextCursor::NextCharacter)) {
+            throw std::runtime_error("no section " + name.toStdString());
+        }
+    }
+    return view.cursorRect(cursor).top();
 }
 
 QWidget* WhatsThisPopup() {

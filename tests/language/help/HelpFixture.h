@@ -31,6 +31,8 @@ protected:
     QAction& Entry(const QString& name);
     /// The name of the page in view, such as "points.html#t1030".
     QString PageInView();
+    /// How far below the top of the view the section in view begins, in pixels.
+    int TopOfSection();
 
 private:
     std::unique_ptr<HelpCommands> m_commands;

@@ -116,6 +116,25 @@ TEST_P(Pages, SaysWhatTheOtherLanguagesSay) {
     }
 }
 
+/// Texts, pages and manual have many authors and one voice: each key and thing has one name.
+TEST(SpanishWords, AreTheSameThroughout) {
+    const QRegularExpression others(
+        QStringLiteral("oprim\\w+|presion(?:e|ar)\\b|rengl[oó]n\\w*|ordenador|\\ben por ciento|"
+                       "con mucho\\.|parejas de puntos|\\bborra\\b|importes?\\b"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+    const HelpPages help("40a");
+    QMap<QString, QString> written = help.pages;
+    for (const char* name : {"language/components/40a/texts.txt", "packaging/man/es.1.in"}) {
+        written.insert(QLatin1String(name),
+                       TextOfFile(QStringLiteral(QUEND_SOURCE_DIR "/") + QLatin1String(name)));
+    }
+    for (auto part = written.begin(); part != written.end(); ++part) {
+        const QRegularExpressionMatch found = others.match(*part);
+        EXPECT_FALSE(found.hasMatch())
+            << part.key().toStdString() << ": " << found.captured().toStdString();
+    }
+}
+
 TEST_P(Pages, AreWholeAndNameTheirLanguage) {
     for (auto page = m_help.pages.begin(); page != m_help.pages.end(); ++page) {
         SCOPED_TRACE(page.key().toStdString());

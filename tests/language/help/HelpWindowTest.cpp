@@ -173,7 +173,13 @@ TEST_P(HelpShown, SearchFindsWholeAndBegunWords) {
           Case{"refinan", "refinan", "refinance.html"},
           Case{"POINTS closing", "puntos liquidado", nullptr},
           Case{"escrow", "garantia", "escrow.html"}, Case{"xylophone", "xilófono", ""},
-          Case{"escrow xylophone", "garantía xilófono", ""}}) {
+          Case{"escrow xylophone", "garantía xilófono", ""},
+          // What the search engine takes for commands are words.
+          Case{"AND", "OR", nullptr}, Case{"escrow AND", "garantia OR", nullptr},
+          Case{"NOT escrow", "garantia NOT", nullptr}, Case{"OR OR", "OR OR", nullptr},
+          Case{"NEAR", "OR", nullptr}, Case{"escrow NOT escrow", "garantia NOT", nullptr},
+          Case{"\"escrow", "\"garantia", "escrow.html"},
+          Case{"escrow_insurance", "garantia_seguro", "escrow.html"}}) {
         const char* words = GetParam() == English ? tested.english : tested.spanish;
         SCOPED_TRACE(words);
         Search(QString::fromUtf8(words));
@@ -207,6 +213,23 @@ TEST_P(HelpShown, SearchOpensReadyToType) {
     EXPECT_EQ(InHelp<QTabWidget>(QStringLiteral("tabHelp")).currentIndex(), 2);
     EXPECT_EQ(FocusName(), u"txtWords");
     EXPECT_EQ(InHelp<QLineEdit>(QStringLiteral("txtWords")).text(), QString());
+}
+
+/// With the words of before, or what they found, the list would answer a question not asked.
+TEST_P(HelpShown, SearchStartsEmptyEachTime) {
+    for (const char* words : {"loan", "xylophone"}) {
+        Search(QString::fromLatin1(words));
+        Entry(QStringLiteral("mnuHelpSearch")).trigger();
+        EXPECT_EQ(InHelp<QLineEdit>(QStringLiteral("txtWords")).text(), QString());
+        EXPECT_EQ(Found(), QStringList());
+        EXPECT_FALSE(InHelp<QLabel>(QStringLiteral("lblNotFound")).isVisible());
+    }
+    // Nor does an answer that comes late.
+    InHelp<QLineEdit>(QStringLiteral("txtWords")).setText(QStringLiteral("loan"));
+    InHelp<QPushButton>(QStringLiteral("cmdFind")).click();
+    Entry(QStringLiteral("mnuHelpSearch")).trigger();
+    Settle();
+    EXPECT_EQ(Found(), QStringList());
 }
 
 TEST_P(HelpShown, IndexFindsByPartOfAKeyword) {
@@ -271,6 +294,9 @@ TEST_F(HelpLanguage, FollowsASwitchOnTheSamePage) {
     EXPECT_EQ(InHelp<QTabWidget>(QStringLiteral("tabHelp")).tabText(0), u"&Contenido");
     const auto text = [this] { return InHelp<HelpView>(QStringLiteral("txtPage")).toPlainText(); };
     EXPECT_TRUE(text().startsWith(u"La cuenta de garantía"));
+    const auto& contents = InHelp<QTreeView>(QStringLiteral("treContents"));
+    EXPECT_TRUE(WaitFor(
+        [&] { return text().startsWith(contents.currentIndex().data().toString() + u'\n'); }));
     SwitchLanguage(English);
     Settle();
     EXPECT_TRUE(text().startsWith(u"Escrow"));

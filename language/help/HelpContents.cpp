@@ -1,0 +1,53 @@
+#include "HelpContents.h"
+
+#include "HelpBook.h"
+
+#include <QHeaderView>
+
+QVariant HelpContents::Model::headerData(int /*section*/, Qt::Orientation /*orientation*/,
+                                         int /*role*/) const {
+    return {};
+}
+
+HelpContents::HelpContents(QWidget* parent) : QTreeView(parent) {
+    setModel(&m_model);
+    // Titles wider than their side are scrolled to, not cut.
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    connect(this, &QTreeView::activated, this, &HelpContents::Choose);
+    connect(this, &QTreeView::clicked, this, &HelpContents::Choose);
+}
+
+void HelpContents::SetBook(HelpBook* book) {
+    m_book = book;
+    m_model.setSourceModel(book ? book->Contents() : nullptr);
+    Unfold();
+}
+
+void HelpContents::Unfold() {
+    expandAll();
+    MarkPage(m_page);
+}
+
+void HelpContents::MarkPage(const QUrl& page) {
+    m_page = m_book ? m_book->Page(page.fileName()) : QUrl(); // a link may be relative
+    if (currentIndex().isValid() && PageOf(currentIndex()) == m_page) {
+        return;
+    }
+    QModelIndex found;
+    for (QModelIndex chapter = m_model.index(0, 0); chapter.isValid();
+         chapter = indexBelow(chapter)) {
+        if (PageOf(chapter) == m_page) {
+            found = chapter;
+        }
+    }
+    setCurrentIndex(found);
+}
+
+void HelpContents::Choose(const QModelIndex& chapter) {
+    Q_EMIT PageChosen(m_book->PageOfChapter(m_model.mapToSource(chapter)));
+}
+
+QUrl HelpContents::PageOf(const QModelIndex& chapter) const {
+    return m_book->PageOfChapter(m_model.mapToSource(chapter)).adjusted(QUrl::RemoveFragment);
+}

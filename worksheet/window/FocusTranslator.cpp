@@ -19,6 +19,13 @@ bool IsPassing(Qt::FocusReason reason) {
            reason == Qt::MenuBarFocusReason || QApplication::activePopupWidget() != nullptr;
 }
 
+/// Turned over a field that is passed, the wheel would leave the one being edited.
+void TakeNoFocusByWheel(QWidget& control) {
+    if (control.focusPolicy() == Qt::WheelFocus) {
+        control.setFocusPolicy(Qt::StrongFocus);
+    }
+}
+
 } // namespace
 
 FocusTranslator::FocusTranslator(FieldHandlers& handlers, const ControlMap& controls,
@@ -32,6 +39,7 @@ void FocusTranslator::Watch(const QWidget& parent) {
             continue;
         }
         control->installEventFilter(this);
+        TakeNoFocusByWheel(*control);
         // Composed characters would pass by the filter of the keys.
         const bool isNumber = RuleOf(field->id).IsNumber();
         control->setAttribute(Qt::WA_InputMethodEnabled, !isNumber);
@@ -78,8 +86,10 @@ bool FocusTranslator::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyRelease:
         return OnKeyRelease(*field, *static_cast<QKeyEvent*>(event));
     case QEvent::Wheel:
-        // A list or date under the pointer must not change unseen. In the rows the wheel scrolls.
-        return field->row == Field::NoRow && !static_cast<QWidget*>(watched)->hasFocus();
+        // No list and no date changes by the wheel, not even the one with the keyboard: a notch
+        // over the name would make another worksheet of this one. What stands around it may scroll.
+        event->ignore();
+        return true;
     default:
         return false;
     }

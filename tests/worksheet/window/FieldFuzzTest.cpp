@@ -65,7 +65,7 @@ protected:
         const QStringList told = SettledMessages();
         if (FocusName() == field.name) {
             ASSERT_EQ(told.size(), 1);
-            EXPECT_TRUE(told[0] == m_refusal + field.picture.toString() || told[0] == Overflow)
+            EXPECT_TRUE(told[0] == m_refusal + field.picture.toString() || told[0] == Overflow())
                 << told[0].toStdString();
             EXPECT_EQ(Text(field.name), written);
             EXPECT_EQ(Edit(field.name).selectedText(), written);
@@ -102,6 +102,10 @@ protected:
 private:
     const QuietToolkit m_quiet; // which has no letters for some scripts
     bool IsOpen() { return m_formats.has_value(); }
+    static QString Overflow() {
+        return GetResourceText(TextNumber::NumberTooLarge) +
+               u"\nerrn=6  src=Loan  desc=Overflow"_qs;
+    }
     static int decimals(const NumberField& field) {
         const qsizetype point = field.picture.indexOf(u'.');
         const bool term = field.name.startsWith(u"txtTerm");
@@ -116,8 +120,6 @@ private:
         }
         QApplication::clipboard()->setMimeData(data.release());
     }
-
-    const QString Overflow = u"errn=6  src=Loan  desc=Overflow"_qs;
     const QString NoNumber = u"errn=13  src=Loan  desc=Type mismatch"_qs;
     std::optional<DisplayFormats> m_formats;
     QString m_refusal;

@@ -232,14 +232,13 @@ void DatePicker::changeEvent(QEvent* event) {
     updateGeometry();
 }
 
-/// As high as a list, and as wide as its widest date: the base does not know what will stand here.
+/// The base leaves room for no date, because it does not know what will stand here.
 QSize DatePicker::sizeHint() const {
     ensurePolished();
     constexpr int caretAndMargins = 6;
-    constexpr int leastHeight = 14;
     const QString widest = m_writing.write ? m_writing.write(QDate(2058, 12, 28)) : QString();
     const QSize text(fontMetrics().horizontalAdvance(widest) + caretAndMargins,
-                     std::max(fontMetrics().height(), leastHeight) + 2);
+                     lineEdit()->sizeHint().height());
     const QStyleOptionComboBox frame = Frame();
     return style()->sizeFromContents(QStyle::CT_ComboBox, &frame, text, this);
 }

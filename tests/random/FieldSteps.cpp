@@ -188,7 +188,7 @@ void RandomUser::Tab(unsigned a, unsigned /*b*/) {
 
 void RandomUser::Return(unsigned /*a*/, unsigned /*b*/) {
     const View before = Look();
-    if (m_edited && RuleOf(m_edited->id).IsNumber()) {
+    if (m_edited && RuleOf(m_edited->id).IsTyped()) {
         Press(Qt::Key_Return);
         Commit(before);
     } else if (m_edited && m_edited->id != FieldId::FinancePoints) {

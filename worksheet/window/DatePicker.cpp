@@ -232,13 +232,14 @@ void DatePicker::changeEvent(QEvent* event) {
     updateGeometry();
 }
 
-/// The base leaves room for no date, because it does not know what will stand here.
+/// As other date fields of the desktop: the base does not know what will stand here.
 QSize DatePicker::sizeHint() const {
     ensurePolished();
-    constexpr int caretAndMargins = 6;
+    constexpr int caret = 2;
     const QString widest = m_writing.write ? m_writing.write(QDate(2058, 12, 28)) : QString();
-    const QSize text(fontMetrics().horizontalAdvance(widest) + caretAndMargins,
+    const QSize text(fontMetrics().horizontalAdvance(widest) + caret,
                      lineEdit()->sizeHint().height());
-    const QStyleOptionComboBox frame = Frame();
-    return style()->sizeFromContents(QStyle::CT_ComboBox, &frame, text, this);
+    QStyleOptionSpinBox option;
+    initStyleOption(&option);
+    return style()->sizeFromContents(QStyle::CT_SpinBox, &option, text, this);
 }

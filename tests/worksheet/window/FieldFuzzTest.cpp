@@ -6,9 +6,11 @@
 #include "Fuzzing.h"
 #include "HostileTexts.h"
 #include "IsValidNumber.h"
+#include "Language.h"
 #include "MessageBoxes.h"
 #include "NumberFields.h"
 #include "QuietToolkit.h"
+#include "TextNumbers.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -74,7 +76,7 @@ protected:
         } else {
             EXPECT_TRUE(IsValidNumber(written, decimals(field), m_formats->DecimalSeparator()));
             for (const QString& message : told) { // a result that nothing can hold
-                EXPECT_EQ(message, Overflow);
+                EXPECT_EQ(message, Overflow());
             }
         }
         EXPECT_NE(FocusName(), field.name);
@@ -85,7 +87,7 @@ protected:
         const Offered offered = Drop(field.name, text);
         const QStringList told = SettledMessages();
         for (const QString& message : told) {
-            EXPECT_TRUE(message == Overflow || message == NoNumber) << message.toStdString();
+            EXPECT_TRUE(message == Overflow() || message == NoNumber) << message.toStdString();
         }
         if (!offered.accepted) {
             EXPECT_EQ(Text(field.name), before);

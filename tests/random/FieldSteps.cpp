@@ -21,7 +21,7 @@ namespace {
 
 bool HoldsValue() {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    return data != nullptr && data->hasFormat(u"application/x-quend-loan-value"_qs);
+    return data != nullptr && data->hasFormat(u"application/x-quend-loan-value"_s);
 }
 
 /// The keys that a field lets through.
@@ -116,7 +116,7 @@ void RandomUser::EditText(unsigned a, unsigned /*b*/) {
 /// What a value looks like on its way.
 QString RandomUser::CopiedText(Field field, const QString& shown) const {
     const BookOffer& offer = m_book.OfferIn(field.row.value);
-    const auto orZero = [](const QString& text) { return text.isEmpty() ? u"0"_qs : text; };
+    const auto orZero = [](const QString& text) { return text.isEmpty() ? u"0"_s : text; };
     switch (field.id) {
     case FieldId::Points:
         return orZero(m_book.forms.Number(offer.points));
@@ -147,7 +147,7 @@ void RandomUser::UseClipboard(unsigned a, unsigned /*b*/) {
         Press(Qt::Key_C, Qt::ControlModifier);
         if (!part && !copied.isEmpty() && QGuiApplication::clipboard()->text() != copied) {
             Complain(
-                u"copied %1 instead of %2"_qs.arg(QGuiApplication::clipboard()->text(), copied));
+                u"copied %1 instead of %2"_s.arg(QGuiApplication::clipboard()->text(), copied));
         }
         return;
     }
@@ -222,7 +222,7 @@ void RandomUser::Arrow(unsigned a, unsigned /*b*/) {
         return;
     }
     if (Follow(before) && canMove && m_edited != Field{field.id, Row{target}}) {
-        Complain(u"the arrow key did not go to the row beside"_qs);
+        Complain(u"the arrow key did not go to the row beside"_s);
     }
 }
 
@@ -242,7 +242,7 @@ void RandomUser::ChooseFrom(Field field, unsigned b) {
     }
     Settle();
     if (QApplication::activePopupWidget() == nullptr) {
-        return Complain(u"no list opens"_qs);
+        return Complain(u"no list opens"_s);
     }
     if (b % 5 == 0) {
         return Press(Qt::Key_Escape);
@@ -255,7 +255,7 @@ void RandomUser::ChooseFrom(Field field, unsigned b) {
     Press(Qt::Key_Return);
     Settle();
     if (list->currentIndex() != entry) {
-        Complain(u"another entry was picked"_qs);
+        Complain(u"another entry was picked"_s);
     }
     m_book.StoreChoice(field, list->currentText());
 }
@@ -274,12 +274,12 @@ void RandomUser::TypeDay(unsigned a, unsigned b) {
     const std::array texts{QString::number(b % 10'000),
                            QString::number(1'000'000 + b * 100),
                            m_book.forms.Day(Today.addDays(b % 10'000)),
-                           u"2/%1/%2"_qs.arg(b % 32).arg(b % 10'000),
-                           u"12. 30. 2031"_qs,
-                           u"30/12/31"_qs,
-                           u"2031-12-30"_qs,
-                           u"123031"_qs,
-                           u"/"_qs};
+                           u"2/%1/%2"_s.arg(b % 32).arg(b % 10'000),
+                           u"12. 30. 2031"_s,
+                           u"30/12/31"_s,
+                           u"2031-12-30"_s,
+                           u"123031"_s,
+                           u"/"_s};
     Press(Qt::Key_A, Qt::ControlModifier);
     TypeText(texts.at(b / 7 % texts.size()));
     const View typed = Look();

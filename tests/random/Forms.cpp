@@ -119,7 +119,7 @@ QString Forms::Number(Plain::Count amount) const {
     }
     const Digits digits = DigitsOf(amount);
     const QString decimals = WithoutEndingZeros(digits.decimals);
-    return (amount < 0 ? u"-"_qs : QString()) + digits.whole +
+    return (amount < 0 ? u"-"_s : QString()) + digits.whole +
            (decimals.isEmpty() ? QString() : m_point + decimals);
 }
 
@@ -160,7 +160,7 @@ QString Forms::Day(QDate day) const {
 }
 
 QDate Forms::ReadDay(const QString& text, int thisYear) const {
-    QStringList parts = text.split(QRegularExpression(u"[^0-9]+"_qs), Qt::SkipEmptyParts);
+    QStringList parts = text.split(QRegularExpression(u"[^0-9]+"_s), Qt::SkipEmptyParts);
     if (parts.size() == 1 && (text.size() == 6 || text.size() == 8)) {
         parts = {text.left(2), text.mid(2, 2), text.mid(4)};
     }

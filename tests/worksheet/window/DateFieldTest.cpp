@@ -11,6 +11,8 @@
 #include <set>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class DateField : public WindowTest {
@@ -29,7 +31,7 @@ protected:
     }
     static QString Refusal(QStringView typed) {
         return u"There is no such date: “%1”. Please enter one such as 11/21/2026, in the years "
-               "from 1753 to 9999."_qs.arg(typed);
+               "from 1753 to 9999."_s.arg(typed);
     }
 };
 
@@ -146,7 +148,7 @@ TEST_F(DateField, SpeaksTheLanguageOfTheUser) {
     Type(u"31/2/2026");
     Tab();
     EXPECT_EQ(SettledMessages(), QStringList{u"Esa fecha no existe: «31/2/2026». Escriba una como "
-                                             "21/11/2026, de los años 1753 a 9999."_qs});
+                                             "21/11/2026, de los años 1753 a 9999."_s});
 }
 
 TEST_F(DateField, TakesNoLetters) {
@@ -241,7 +243,7 @@ TEST_F(DateField, IsPickedFromItsCalendar) {
 TEST_F(DateField, IsAsWideAsItsDateAndButton) {
     Open({.locale = QLocale(QLocale::Croatian, QLocale::Croatia)});
     const QLineEdit& edit = Picker().Edit();
-    EXPECT_GE(edit.width(), edit.fontMetrics().horizontalAdvance(u"28. 12. 2058."_qs) + 4);
+    EXPECT_GE(edit.width(), edit.fontMetrics().horizontalAdvance(u"28. 12. 2058."_s) + 4);
     EXPECT_LE(edit.width(), Picker().width() - 12);
     EXPECT_LE(edit.height(), Picker().height());
 }

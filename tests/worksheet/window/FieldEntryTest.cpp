@@ -10,6 +10,8 @@
 #include <functional>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class FieldEntry : public WindowTest, public ::testing::WithParamInterface<NumberField> {
@@ -58,11 +60,11 @@ TEST_P(FieldEntry, ACellIsPastedAsItsText) {
     for (const QStringView end : {u"\n", u"\r\n", u"\t", u"\t\n"}) {
         Enter(GetParam().name);
         Press(Qt::Key_A, Qt::ControlModifier);
-        Paste(u"12"_qs.append(end));
+        Paste(u"12"_s.append(end));
         EXPECT_EQ(Field().text(), u"12");
         Press(Qt::Key_Home);
         Press(Qt::Key_Right);
-        Paste(u"3"_qs.append(end)); // between the others
+        Paste(u"3"_s.append(end)); // between the others
         EXPECT_EQ(Field().text(), u"132");
     }
     Press(Qt::Key_A, Qt::ControlModifier);

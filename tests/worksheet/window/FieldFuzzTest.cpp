@@ -19,6 +19,8 @@
 #include <QScreen>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class FieldFuzz : public DragTest {
@@ -35,8 +37,8 @@ protected:
         m_refusal = GetParamText(number % starts.size() == 2);
     }
     static QString GetParamText(bool spanish) {
-        return spanish ? u"Escriba un número de la forma"_qs
-                       : u"Please enter a number of the form"_qs;
+        return spanish ? u"Escriba un número de la forma"_s
+                       : u"Please enter a number of the form"_s;
     }
 
     /// The field that a text goes into, and how.
@@ -105,8 +107,7 @@ private:
     const QuietToolkit m_quiet; // which has no letters for some scripts
     bool IsOpen() { return m_formats.has_value(); }
     static QString Overflow() {
-        return GetResourceText(TextNumber::NumberTooLarge) +
-               u"\nerrn=6  src=Loan  desc=Overflow"_qs;
+        return GetResourceText(TextNumber::NumberTooLarge) + u"\nerrn=6  src=Loan  desc=Overflow"_s;
     }
     static int decimals(const NumberField& field) {
         const qsizetype point = field.picture.indexOf(u'.');
@@ -116,13 +117,13 @@ private:
     static void Clip(const QString& text, bool asValue, const NumberField& field) {
         auto data = std::make_unique<QMimeData>();
         data->setText(text);
-        data->setHtml(u"<b>"_qs + text);
+        data->setHtml(u"<b>"_s + text);
         if (asValue) {
-            data->setData(u"application/x-quend-loan-value"_qs, field.name.toLatin1());
+            data->setData(u"application/x-quend-loan-value"_s, field.name.toLatin1());
         }
         QApplication::clipboard()->setMimeData(data.release());
     }
-    const QString NoNumber = u"errn=13  src=Loan  desc=Type mismatch"_qs;
+    const QString NoNumber = u"errn=13  src=Loan  desc=Type mismatch"_s;
     std::optional<DisplayFormats> m_formats;
     QString m_refusal;
 };

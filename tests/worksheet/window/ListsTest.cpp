@@ -10,6 +10,8 @@
 #include <array>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using ChoiceLists = WindowTest;
@@ -113,7 +115,7 @@ TEST_F(ChoiceLists, TheWheelChangesNothingAndTakesNoFocus) {
     Choose(u"cboLoanType", 2);
     Choose(u"cboCurPaymentFrequency", 2);
     Choose(u"cboActPaymentFrequency", 2);
-    List(u"cboLoanName").addItems({u"Alpha"_qs, u"Beta"_qs, u"Gamma"_qs});
+    List(u"cboLoanName").addItems({u"Alpha"_s, u"Beta"_s, u"Gamma"_s});
     Fill(u"cboLoanName", u"Beta");
     for (const QStringView field : TurnedByNoWheel) {
         SCOPED_TRACE(field.toString().toStdString());

@@ -8,7 +8,7 @@ constexpr auto Unwatched = [](const SchedulePeriod&) {};
 
 } // namespace
 
-void ScheduleLoop::RaiseEndless() { throw OverflowFailure("Schedule"); }
+void ScheduleLoop::RaiseEndless() { throw NeverRepaidFailure("Schedule"); }
 
 ScheduleTotals ScheduleLoop::Totals(const ScheduleTerms& terms, const Payoff& payoff) {
     if (payoff.periods == 0) {

@@ -49,7 +49,8 @@ struct ScheduleTotals {
 /// one that exactly clears the balance does. A zero balance has no period and no date.
 ///
 /// It always ends: with the payoff, or with OverflowFailure. That is raised
-/// - at once when a positive balance can never fall again: its principal part is zero, or it is
+/// - at once, as NeverRepaidFailure, when a positive balance can never fall again: its principal
+/// part is zero, or it is
 ///   below zero and the rate is not, so that each period adds at least as much as the last;
 /// - when a payment date would lie past the last date, which bounds whatever still may fall, as a
 ///   balance may that grows under a negative rate;

@@ -29,6 +29,12 @@ public:
     explicit OverflowFailure(const std::string& source) : Failure(6, source, "Overflow") {}
 };
 
+/// A payment that never repays its loan: the balance would grow, or stay, for ever.
+class NeverRepaidFailure : public OverflowFailure {
+public:
+    using OverflowFailure::OverflowFailure;
+};
+
 /// A text is no number, amount or date.
 class ConversionFailure : public Failure {
 public:

@@ -83,6 +83,10 @@ inline constexpr int CopyValue = 540;
 inline constexpr int PasteValue = 541;
 /// %1: what was to be pasted. A picture such as " nnnn.nn" follows it.
 inline constexpr int ValueRefused = 542;
+/// %1: what was typed, %2: a date as it is written, %3, %4: the first and the last year.
+inline constexpr int DateRefused = 620;
+inline constexpr int NeverRepaid = 621;    ///< the failure follows it on a line of its own
+inline constexpr int NumberTooLarge = 622; ///< the same
 inline constexpr int HelpContents = 581;
 inline constexpr int HelpIndex = 582;
 inline constexpr int HelpSearch = 583;
@@ -158,6 +162,9 @@ inline constexpr std::array All{
     CopyValue,
     PasteValue,
     ValueRefused,
+    DateRefused,
+    NeverRepaid,
+    NumberTooLarge,
     HelpContents,
     HelpIndex,
     HelpSearch,

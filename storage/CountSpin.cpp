@@ -14,6 +14,7 @@ bool IsDigit(QChar character) { return character >= u'0' && character <= u'9'; }
 } // namespace
 
 CountSpin::CountSpin(QWidget* parent) : QAbstractSpinBox(parent) {
+    setFocusPolicy(Qt::StrongFocus); // not by the wheel
     setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
     setInputMethodHints(Qt::ImhDigitsOnly);
     connect(lineEdit(), &QLineEdit::textChanged, this, &CountSpin::OnTextChanged);

@@ -305,8 +305,7 @@ class Window:
     def date(self, control: str, day: str) -> None:
         """Types a date given as year-month-day, in the order the locale shows it; leaves by Tab."""
         node = self.focus(control)
-        # The first section gives way to what is typed only when it is marked, as a step marks it.
-        self._hands.keys("Home", "Up", "Down")
+        self._hands.keys("ctrl+a")  # it may have been entered before
         self._hands.text(typed_date(self._locale, day))
         self._hands.keys("Tab")
         self._wait(f"{control} to be left", lambda: not _has_focus(node))

@@ -86,7 +86,8 @@ TEST_P(Texts, HaveTheNumbersOfTheEnglishTable) {
 TEST_P(Texts, HaveTheirPlacesForNumbersWhereEnglishHas) {
     for (const auto& [number, text] : m_table.Texts()) {
         qsizetype places = 0;
-        for (const QString& place : {QStringLiteral("%1"), QStringLiteral("%2")}) {
+        for (const QString& place : {QStringLiteral("%1"), QStringLiteral("%2"),
+                                     QStringLiteral("%3"), QStringLiteral("%4")}) {
             EXPECT_EQ(m_english.Text(number).count(place), text.count(place)) << number;
             places += text.count(place);
         }

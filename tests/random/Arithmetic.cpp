@@ -80,7 +80,7 @@ private:
 /// Without a frequency nothing bears interest and no day passes: how often the payment fits.
 Repaid RepayWithoutDates(const Debt& debt, Count available) {
     if (debt.balance > 0 ? available <= 0 : available < debt.balance) {
-        throw TooLarge{};
+        throw NeverRepaid{};
     }
     const Count full = debt.balance > 0 ? (debt.balance - 1) / available : 0;
     const Count last = debt.balance - full * available;
@@ -163,7 +163,7 @@ Repaid Repay(const Debt& debt, bool addsPayments) {
         if (principal > balance) {
             principal = balance;
         } else if (balance > 0 && (principal == 0 || (principal < 0 && debt.rate >= 0))) {
-            throw TooLarge{}; // it will never be less
+            throw NeverRepaid{}; // it will never be less
         } else {
             days.GoOn();
         }

@@ -11,6 +11,8 @@ namespace Plain {
 
 /// A number that its kind cannot hold.
 struct TooLarge {};
+/// A debt that no number of payments repays.
+struct NeverRepaid : TooLarge {};
 
 /// Room for any sum of two amounts, and for their product with a number of periods.
 __extension__ typedef __int128 Wide; // NOLINT(modernize-use-using): only so is it no warning
@@ -48,7 +50,7 @@ struct Repaid {
     Count paid = 0; ///< only where it is asked for
 };
 
-/// Pays one period after another. Throws TooLarge for a debt that is never repaid.
+/// Pays one period after another. Throws NeverRepaid or TooLarge.
 Repaid Repay(const Debt& debt, bool addsPayments);
 
 } // namespace Plain

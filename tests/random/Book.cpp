@@ -5,26 +5,48 @@
 #include "Language.h"
 #include "TextNumbers.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
+#include <exception>
 #include <numeric>
+#include <utility>
 
 using Plain::Count;
 using Plain::TooLarge;
 
 void Book::Expect(int text, const QString& rest) { expected.append(GetResourceText(text) + rest); }
 
-void Book::ExpectFailure(int number) {
-    expected.append(QStringLiteral("errn=%1  src=").arg(number));
+void Book::ExpectFailure(int number, bool never) {
+    const QString start = QStringLiteral("errn=%1  src=").arg(number);
+    const int meaning = never ? TextNumber::NeverRepaid : TextNumber::NumberTooLarge;
+    expected.append(number == 6 ? GetResourceText(meaning) + u'\n' + start : start);
 }
 
 void Book::Guard(const std::function<void()>& action) {
     try {
         action();
+    } catch (const Plain::NeverRepaid&) {
+        ExpectFailure(6, true);
     } catch (const TooLarge&) {
         ExpectFailure(6);
     } catch (const Forms::NoNumber&) {
         ExpectFailure(13);
     }
+}
+
+void Book::GuardAgain(const std::function<void()>& action) {
+    const bool wasDirty = std::exchange(dirty, false);
+    const QStringList before = expected;
+    qsizetype refusals = 0; // of intended payments, which are told whatever else happens
+    Guard([&] {
+        const auto count = qScopeGuard([&] { refusals = expected.size() - before.size(); });
+        action();
+    });
+    if (!dirty) {
+        expected = expected.first(before.size() + refusals);
+    }
+    dirty = dirty || wasDirty;
 }
 
 bool Book::Try(const std::function<void()>& action) {
@@ -36,26 +58,33 @@ bool Book::Try(const std::function<void()>& action) {
     }
 }
 
-/// All of them, also after one has failed.
+/// All of them, also after one has failed; what fails first is told.
 void Book::Recalculate(unsigned parts) {
-    bool sound = true;
+    std::exception_ptr first;
+    const auto run = [&](const std::function<void()>& step) {
+        try {
+            step();
+        } catch (const TooLarge&) {
+            first = first ? first : std::current_exception();
+        }
+    };
     if ((parts & Escrow) != 0) {
-        sound &= Try([&] { RecalculateEscrow(); });
+        run([&] { RecalculateEscrow(); });
         parts |= Offers | Payment | Schedule;
     }
     if ((parts & Offers) != 0) {
         for (const std::size_t index : order) {
-            sound &= Try([&] { RecalculateOffer(index); });
+            run([&] { RecalculateOffer(index); });
         }
     }
     if ((parts & Payment) != 0) {
-        sound &= Try([&] { RecalculatePayment(); });
+        run([&] { RecalculatePayment(); });
     }
     if ((parts & Schedule) != 0) {
-        sound &= Try([&] { RecalculateSchedule(); });
+        run([&] { RecalculateSchedule(); });
     }
-    if (!sound) {
-        throw TooLarge{};
+    if (first) {
+        std::rethrow_exception(first);
     }
 }
 

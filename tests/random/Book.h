@@ -94,6 +94,9 @@ public:
     // What happens. Failures become messages that are expected.
     void Leave(Field field, const QString& text);
     void StoreChoice(Field field, const QString& text);
+    /// A list or a ticked box is left; what does not change is not told again.
+    void LeaveChoice(Field field, const QString& text);
+    void LeaveTick(int row, bool ticked);
     void StoreTick(int row, bool ticked);
     void StoreDay(QDate day);
     void StoreWho(int row, const QString& who);
@@ -151,9 +154,12 @@ public:
     QStringList expected;
 
     void Expect(int text, const QString& rest = {});
-    void ExpectFailure(int number);
+    /// `never`: the payments never repay the loan.
+    void ExpectFailure(int number, bool never = false);
     /// Runs it; what fails must be told.
     void Guard(const std::function<void()>& action);
+    /// The same for values that are only stored again: told is what comes of a change.
+    void GuardAgain(const std::function<void()>& action);
 
 private:
     static std::size_t Place(int row) { return static_cast<std::size_t>(row); }
@@ -198,5 +204,6 @@ private:
     double AsKept(double number) const;
     BookPage Page() const;
     bool LoadOffer(int row, const BookOffer& kept);
+    void Store(Field field, const QString& text);
     bool Try(const std::function<void()>& action);
 };

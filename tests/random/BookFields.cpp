@@ -128,12 +128,19 @@ Book::Number Book::Read(FieldId field, const QString& text) const {
 }
 
 bool Book::Accepts(Field field, const QString& text) const {
+    if (field.id == NextPayment) {
+        return text == Shown(field) || forms.ReadDay(text, Today.year()).isValid();
+    }
     return Of(field.id).sort == Sort::None || text == EntryText(field) ||
            (forms.IsForm(text, Of(field.id).decimals) && FailureOf(field, text).isEmpty());
 }
 
 /// A lone sign stands for no number, and is refused like any other text that is none.
 QString Book::FailureOf(Field field, const QString& text) const {
+    if (field.id == NextPayment) {
+        const QString refused = GetResourceText(TextNumber::DateRefused);
+        return refused.left(refused.indexOf(u'%'));
+    }
     static constexpr std::array pictures{u" nnn", u" nnnn.n", u" nnnn.nn", u" nnnn.nnn"};
     const int decimals = Of(field.id).decimals;
     QString refused = GetResourceText(TextNumber::NumberRefused) +
@@ -144,7 +151,7 @@ QString Book::FailureOf(Field field, const QString& text) const {
     try {
         Read(field.id, text);
     } catch (const TooLarge&) {
-        return u"errn=6  src="_s;
+        return GetResourceText(TextNumber::NumberTooLarge) + u"\nerrn=6  src="_s;
     } catch (const Forms::NoNumber&) {
         return refused;
     }
@@ -156,12 +163,14 @@ bool Book::MayDrop(FieldId field, const QString& text) const {
 }
 
 void Book::Leave(Field field, const QString& text) {
-    Guard([&] {
-        if (Of(field.id).sort == Sort::None || text == EntryText(field)) {
-            return;
-        }
-        StoreNumber(field, Read(field.id, text));
-    });
+    if (Of(field.id).sort == Sort::None) {
+        return;
+    }
+    if (text == EntryText(field)) {
+        GuardAgain([&] { StoreNumber(field, NumberOf(field)); });
+    } else {
+        Guard([&] { StoreNumber(field, Read(field.id, text)); });
+    }
 }
 
 void Book::StoreNumber(Field field, const Number& number) {
@@ -237,22 +246,40 @@ void Book::StoreActual(int row, Count payment) {
 }
 
 void Book::StoreChoice(Field field, const QString& text) {
-    Guard([&] {
-        switch (field.id) {
-        case LoanType: {
-            const QChar code = CodeOf(TypeNames, text, spanish);
-            return Put(loan.type, code.isNull() ? QString() : QString(code));
+    Guard([&] { Store(field, text); });
+}
+
+void Book::Store(Field field, const QString& text) {
+    switch (field.id) {
+    case LoanType: {
+        const QChar code = CodeOf(TypeNames, text, spanish);
+        return Put(loan.type, code.isNull() ? QString() : QString(code));
+    }
+    case CurPaymentFrequency:
+        Put(current.frequency, FrequencyCode(text));
+        return Recalculate(Payment | Schedule);
+    case ActPaymentFrequency:
+        Put(current.actualFrequency, FrequencyCode(text));
+        return Recalculate(Payment | Schedule);
+    default:
+        Put(OfferIn(field.row.value).frequency, FrequencyCode(text));
+        return RecalculateOffer(order.at(Place(field.row.value)));
+    }
+}
+
+void Book::LeaveChoice(Field field, const QString& text) {
+    GuardAgain([&] {
+        if (field.id == CurPaymentFrequency || field.id == ActPaymentFrequency) {
+            return text == Shown(field) ? Recalculate(Payment) : Store(field, text);
         }
-        case CurPaymentFrequency:
-            Put(current.frequency, FrequencyCode(text));
-            return Recalculate(Payment | Schedule);
-        case ActPaymentFrequency:
-            Put(current.actualFrequency, FrequencyCode(text));
-            return Recalculate(Payment | Schedule);
-        default:
-            Put(OfferIn(field.row.value).frequency, FrequencyCode(text));
-            return RecalculateOffer(order.at(Place(field.row.value)));
-        }
+        Store(field, text);
+    });
+}
+
+void Book::LeaveTick(int row, bool ticked) {
+    GuardAgain([&] {
+        Put(OfferIn(row).financed, ticked);
+        RecalculateOffer(order.at(Place(row)));
     });
 }
 

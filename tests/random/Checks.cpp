@@ -1,12 +1,12 @@
 #include "Checks.h"
 
 #include "Colours.h"
+#include "DatePicker.h"
 #include "RandomUser.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLineEdit>
 #include <QScrollBar>
 
@@ -87,8 +87,8 @@ void Checks::Compare(RandomUser& user, Field field, const QString& expected) {
         shown = edit->text();
     } else if (const auto* list = qobject_cast<const QComboBox*>(control)) {
         shown = list->currentText();
-    } else if (const auto* picker = qobject_cast<const QDateEdit*>(control)) {
-        shown = user.TheBook().forms.Day(picker->date());
+    } else if (const auto* picker = qobject_cast<const DatePicker*>(control)) {
+        shown = picker->text();
     } else if (const auto* box = qobject_cast<const QCheckBox*>(control)) {
         shown = box->isChecked() ? u"ticked"_s : QString();
     }

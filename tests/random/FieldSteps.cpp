@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLineEdit>
 #include <QMimeData>
 
@@ -189,7 +188,7 @@ void RandomUser::Tab(unsigned a, unsigned /*b*/) {
 
 void RandomUser::Return(unsigned /*a*/, unsigned /*b*/) {
     const View before = Look();
-    if (m_edited && RuleOf(m_edited->id).IsNumber()) {
+    if (m_edited && RuleOf(m_edited->id).IsTyped()) {
         Press(Qt::Key_Return);
         Commit(before);
     } else if (m_edited && m_edited->id != FieldId::FinancePoints) {
@@ -216,8 +215,8 @@ void RandomUser::Arrow(unsigned a, unsigned /*b*/) {
     const int target = field.row.value + (key == Qt::Key_Up ? -1 : 1);
     const bool canMove =
         isRowField && target >= 0 && target < static_cast<int>(m_book.offers.size());
-    if (!isRowField && EditOf(field) != nullptr) {
-        return; // a caret in one line
+    if (!isRowField && RuleOf(field.id).IsTyped()) {
+        return; // a caret in one line, or a step of the date
     }
     if (isRowField && !canMove) {
         return;
@@ -272,8 +271,20 @@ void RandomUser::TypeDay(unsigned a, unsigned b) {
     if (a % 4 != 0) {
         return Press(keys.at(b % keys.size()));
     }
-    TypeText(b % 2 == 0 ? QString::number(b % 10'000) : u"12/30/2031"_s);
+    const std::array texts{QString::number(b % 10'000),
+                           QString::number(1'000'000 + b * 100),
+                           m_book.forms.Day(Today.addDays(b % 10'000)),
+                           u"2/%1/%2"_s.arg(b % 32).arg(b % 10'000),
+                           u"12. 30. 2031"_s,
+                           u"30/12/31"_s,
+                           u"2031-12-30"_s,
+                           u"123031"_s,
+                           u"/"_s};
+    Press(Qt::Key_A, Qt::ControlModifier);
+    TypeText(texts.at(b / 7 % texts.size()));
+    const View typed = Look();
     Press(Qt::Key_Return);
+    Commit(typed);
 }
 
 /// Good numbers into these fields, one after the other.

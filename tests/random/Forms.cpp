@@ -1,5 +1,7 @@
 #include "Forms.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -155,6 +157,29 @@ QString Forms::Percent(double fraction) const {
 
 QString Forms::Day(QDate day) const {
     return day.isNull() ? QString() : day.toString(Said(AllHabits.at(m_country).day));
+}
+
+QDate Forms::ReadDay(const QString& text, int thisYear) const {
+    QStringList parts = text.split(QRegularExpression(u"[^0-9]+"_s), Qt::SkipEmptyParts);
+    if (parts.size() == 1 && (text.size() == 6 || text.size() == 8)) {
+        parts = {text.left(2), text.mid(2, 2), text.mid(4)};
+    }
+    if (parts.size() != 3 || std::ranges::any_of(text, [](QChar c) { return c.isLetter(); })) {
+        return {};
+    }
+    if (parts[0].size() == 4) { // year, month, day
+        parts = {parts[1], parts[2], parts[0]};
+    } else if (m_country != 0) { // day, month, year
+        parts.swapItemsAt(0, 1);
+    }
+    int year = parts[2].toInt();
+    if (parts[2].size() == 2) {
+        year += thisYear / 100 * 100;
+        year += year < thisYear - 19 ? 100 : year > thisYear + 80 ? -100 : 0;
+    } else if (parts[2].size() != 4 || year < 1753) {
+        return {};
+    }
+    return {year, parts[0].toInt(), parts[1].toInt()};
 }
 
 QString Forms::Term(int months, bool inMonths) const {

@@ -25,6 +25,9 @@ public:
     QString Percent(double fraction) const;
     /// No day is the empty text.
     QString Day(QDate day) const;
+    /// What was typed for a day; none where it is no day between 1753 and 9999. `thisYear` says
+    /// what two digits mean.
+    QDate ReadDay(const QString& text, int thisYear) const;
     QString Term(int months, bool inMonths) const;
 
     enum class Reading { Number, NoNumber, TooLarge };

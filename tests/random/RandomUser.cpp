@@ -2,6 +2,7 @@
 
 #include "RandomUser.h"
 
+#include "DatePicker.h"
 #include "Language.h"
 #include "TextNumbers.h"
 #include "Trail.h"
@@ -11,7 +12,6 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QDialog>
 #include <QLineEdit>
 #include <QTest>
@@ -195,6 +195,8 @@ RandomUser::View RandomUser::LookAt(Field field) const {
     } else if (const auto* edit = qobject_cast<const QLineEdit*>(control)) {
         view.text = edit->text();
         view.modified = edit->isModified();
+    } else if (const auto* picker = qobject_cast<const DatePicker*>(control)) {
+        view.text = picker->text();
     }
     return view;
 }
@@ -219,7 +221,7 @@ Field RandomUser::AnyInput(unsigned number) const {
 // The book
 
 bool RandomUser::IsRefused(const View& before) const {
-    return m_edited && RuleOf(m_edited->id).IsNumber() && !m_book.Accepts(*m_edited, before.text);
+    return m_edited && RuleOf(m_edited->id).IsTyped() && !m_book.Accepts(*m_edited, before.text);
 }
 
 bool RandomUser::ClickInto(Field field, const View& before) {
@@ -269,19 +271,23 @@ void RandomUser::LeaveInBook(const View& before) {
         break;
     case FieldId::FinancePoints:
         if (before.ticked || m_book.OfferIn(field.row.value).financed) {
-            m_book.StoreTick(field.row.value, before.ticked);
+            m_book.LeaveTick(field.row.value, before.ticked);
         }
         break;
     case FieldId::NextPayment:
+        if (const QDate day = m_book.forms.ReadDay(before.text, Today.year());
+            day != m_book.current.next) {
+            m_book.StoreDay(day);
+        }
         break;
     case FieldId::Who:
         if (before.modified) {
-            m_book.StoreWho(field.row.value, before.text);
+            m_book.Drop(field, before.text);
         }
         break;
     default:
         if (RuleOf(field.id).kind == ValueKind::Choice) {
-            m_book.StoreChoice(field, before.text);
+            m_book.LeaveChoice(field, before.text);
         } else {
             m_book.Leave(field, before.text);
         }
@@ -312,11 +318,11 @@ void RandomUser::Refocus(Field field) {
     EnterInBook(field);
 }
 
-/// What is typed into the date becomes a day with every key, and the day is an input at once.
+/// A day that is stepped to is an input at once.
 void RandomUser::WatchDay() {
     m_days.clear();
-    QObject::connect(qobject_cast<QDateEdit*>(Control({FieldId::NextPayment})),
-                     &QDateEdit::dateChanged, &Window(), [this](QDate day) { m_days.append(day); });
+    QObject::connect(qobject_cast<DatePicker*>(Control({FieldId::NextPayment})),
+                     &DatePicker::Picked, &Window(), [this](QDate day) { m_days.append(day); });
 }
 
 void RandomUser::ObserveDay() {

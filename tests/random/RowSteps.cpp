@@ -18,6 +18,7 @@
 #include <QTimerEvent>
 #include <QWheelEvent>
 #include <QWindow>
+#include <QtTest/qtestspontaneevent.h>
 
 #include <array>
 
@@ -86,24 +87,19 @@ void RandomUser::Sort(unsigned a, unsigned /*b*/) {
     }
 }
 
-/// Over the rows, which scroll, or over the field being edited.
+/// Over the rows, which scroll, or over the field being edited, which keeps its value.
 void RandomUser::Wheel(unsigned a, unsigned b) {
     const bool overField = m_edited && a % 3 == 0;
     const QWidget& control = overField ? *Control(*m_edited) : *Named(u"picScroll"_s);
     if (!IsVisible(control)) {
         return;
     }
-    const View before = Look();
     const QPoint at = control.mapTo(&Window(), control.rect().center());
     const int notches = static_cast<int>(b % 7) - 3;
     QWheelEvent event(at, Window().mapToGlobal(at), QPoint(), QPoint(0, notches * 120),
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(Window().windowHandle(), &event);
-    // In the bands a list that has the focus is turned by the wheel.
-    if (overField && m_edited->row == Field::NoRow &&
-        RuleOf(m_edited->id).kind == ValueKind::Choice && Look().text != before.text) {
-        m_book.StoreChoice(*m_edited, Look().text);
-    }
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(Window().windowHandle(), &event);
 }
 
 void RandomUser::ClickBar(unsigned a, unsigned b) {

@@ -15,6 +15,7 @@
 #include <QTimer>
 #include <QWheelEvent>
 #include <QWindow>
+#include <QtTest/qtestspontaneevent.h>
 
 #include <functional>
 #include <vector>
@@ -289,13 +290,15 @@ TEST_F(OptionsDialog, WheelTurnsTheNumberOnlyWhereTheKeyboardIs) {
         const QPoint at = field.rect().center();
         QWheelEvent event(at, field.mapToGlobal(at), QPoint(), QPoint(0, 120), Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&field, &event);
+        QSpontaneKeyEvent::setSpontaneous(&event); // or it could never give the focus
+        qApp->notify(&field, &event);
         return Text(u"txtLoans");
     };
     EXPECT_TRUE(field.hasFocus()) << FocusName().toStdString();
     EXPECT_EQ(wheel(), u"7");
     Tab();
     EXPECT_EQ(wheel(), u"7");
+    EXPECT_FALSE(field.hasFocus());
 }
 
 TEST_F(OptionsDialog, HandsBackWhatWasChosen) {

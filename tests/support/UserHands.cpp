@@ -37,8 +37,18 @@ void UserHands::Click(const QWidget& control, QPoint at) {
                       control.mapTo(control.window(), at));
 }
 
+void UserHands::DoubleClick(const QWidget& control) {
+    QTest::mouseDClick(control.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                       control.mapTo(control.window(), control.rect().center()));
+}
+
 void UserHands::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(UsersWindow().windowHandle(), key, modifiers);
+}
+
+void UserHands::PressText(Qt::Key key, QStringView text, Qt::KeyboardModifiers modifiers) {
+    QTest::sendKeyEvent(QTest::Click, UsersWindow().windowHandle(), key, text.toString(),
+                        modifiers);
 }
 
 void UserHands::Type(QStringView text) {

@@ -40,7 +40,11 @@ protected:
     void Click(QStringView name) { Click(Control(name)); }
     static void Click(const QWidget& control) { Click(control, control.rect().center()); }
     static void Click(const QWidget& control, QPoint at);
+    /// Two quick clicks into the middle of a control.
+    static void DoubleClick(const QWidget& control);
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    /// A key that types this text, by itself or with others held.
+    void PressText(Qt::Key key, QStringView text, Qt::KeyboardModifiers modifiers);
     void Tab() { Press(Qt::Key_Tab); }
     void BackTab() { Press(Qt::Key_Backtab, Qt::ShiftModifier); }
     /// Key by key, as far as keys give these characters.

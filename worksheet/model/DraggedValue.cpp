@@ -35,11 +35,8 @@ DroppedValue ReadAmount(const Worksheet& worksheet, const QString& text) {
     return FormatsOf(worksheet).ReadAmount(text);
 }
 
-/// Its lines end as the lender's dialog ends them, whatever the other program does.
 DroppedValue ReadWho(const Worksheet& /*worksheet*/, const QString& text) {
-    QString lines = text;
-    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
-    return lines.replace(u'\n', QStringLiteral("\r\n"));
+    return WithLenderLines(text);
 }
 
 struct DraggedValue {
@@ -64,6 +61,11 @@ const DraggedValue& ValueOf(FieldId field) {
 }
 
 } // namespace
+
+QString WithLenderLines(QString text) {
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    return text.replace(u'\n', QStringLiteral("\r\n"));
+}
 
 bool IsDraggable(FieldId field) {
     return std::ranges::find(DraggedValues, field, &DraggedValue::field) != DraggedValues.end();

@@ -13,6 +13,9 @@ class Worksheet;
 // interest rate, intended payment and lender. One table says for each what travels, what may arrive
 // and how it is read. Rows are those on display; the worksheet finds the offers they show.
 
+/// A lender's text whose lines end as its dialog ends them, "\r\n", wherever it comes from.
+QString WithLenderLines(QString text);
+
 /// Whether the values of this field travel.
 bool IsDraggable(FieldId field);
 
@@ -31,7 +34,7 @@ bool MayDrop(const Worksheet& worksheet, FieldId field, const QString& text);
 using DroppedValue = std::variant<double, Money, QString>;
 
 /// The value that a text stands for. Nothing is divided by a hundred: a rate arrives as a fraction.
-/// Line breaks in a lender become blanks. Throws ConversionFailure or OverflowFailure.
+/// A lender gets the lines of WithLenderLines. Throws ConversionFailure or OverflowFailure.
 DroppedValue ReadDropped(const Worksheet& worksheet, FieldId field, const QString& text);
 
 /// Stores a value that arrived, as if it had been typed: the row is brought up to date, a changed

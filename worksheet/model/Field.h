@@ -92,6 +92,11 @@ struct FieldRule {
                kind == ValueKind::Decimal || kind == ValueKind::WholeTerm ||
                kind == ValueKind::FractionalTerm;
     }
+
+    /// Its text is read when the field is left, and may be refused.
+    constexpr bool IsTyped() const {
+        return access == Access::Input && (IsNumber() || kind == ValueKind::Date);
+    }
 };
 
 /// The fields of the two upper bands, in the order of the tab key.

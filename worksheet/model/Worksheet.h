@@ -109,6 +109,17 @@ public:
     /// Whether a text has the form of the field's number and stands for one: a lone sign does not.
     /// Throws OverflowFailure for a number that the field cannot hold.
     bool Accepts(Field field, const QString& text) const;
+    /// Whether a key of this character may type into the field.
+    bool AllowsKey(FieldId field, QChar key) const;
+    /// Stores what a field that is typed into holds. Throws ConversionFailure or OverflowFailure.
+    void StoreTyped(Field field, const QString& text);
+    /// Stores the value that the field has: leaving it untouched goes through the same rules as
+    /// leaving it changed, but keeps what its text cannot show. Throws only if something changed,
+    /// such as a term that was missing.
+    void StoreAgain(Field field);
+    /// The list, or the box of financed points, is left. The same holds for what has not changed.
+    void LeaveChoice(Field field, const QString& text);
+    void LeaveFinancePoints(Row row, bool financed);
     /// Stores what a number field holds. Throws ConversionFailure or OverflowFailure.
     void StoreNumber(Field field, const QString& text);
     /// The same for a number of an offer that has been read already: points, rate, term or intended
@@ -183,6 +194,9 @@ private:
         }
         Show({field});
     }
+    template <class Step>
+    void TellOnlyNews(Step step);
+    void Store(Field field, const FieldNumber& number);
     void Recalculate(unsigned pending);
     void SetStartingAmounts();
     void StoreLoanNumber(FieldId field, const FieldNumber& number);

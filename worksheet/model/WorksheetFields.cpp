@@ -4,17 +4,25 @@
 #include "Frequency.h"
 #include "IsValidNumber.h"
 #include "LoanTypes.h"
+#include "TypedDate.h"
 #include "Worksheet.h"
 
 #include <array>
 #include <utility>
 
 QString Worksheet::EntryText(Field field) const {
+    if (field.id == FieldId::NextPayment) {
+        return m_current.nextPayment.IsNone() ? QString()
+                                              : m_texts.Formats().ShortDate(m_current.nextPayment);
+    }
     return m_texts.EntryText(RuleOf(field.id).kind, NumberOf(field));
 }
 
 bool Worksheet::Accepts(Field field, const QString& text) const {
     const FieldRule& rule = RuleOf(field.id);
+    if (rule.kind == ValueKind::Date) {
+        return ReadTypedDate(text, m_texts.Formats(), m_today()).has_value();
+    }
     if (!IsValidNumber(text, rule.decimals, m_texts.Formats().DecimalSeparator())) {
         return false;
     }
@@ -24,6 +32,20 @@ bool Worksheet::Accepts(Field field, const QString& text) const {
         return false;
     }
     return true;
+}
+
+bool Worksheet::AllowsKey(FieldId field, QChar key) const {
+    constexpr char16_t firstPrinted = 32;
+    constexpr char16_t deleteKey = 127;
+    const FieldRule& rule = RuleOf(field);
+    if (key.unicode() < firstPrinted || key.unicode() == deleteKey) {
+        return true;
+    }
+    if (rule.kind == ValueKind::Date) {
+        return MayTypeDate(key, m_texts.Formats());
+    }
+    return (key >= u'0' && key <= u'9') ||
+           (rule.separatorKey && key == m_texts.Formats().DecimalSeparator());
 }
 
 FieldNumber Worksheet::NumberOf(Field field) const {
@@ -131,8 +153,66 @@ void Worksheet::ShowChoices() const {
     }
 }
 
+void Worksheet::StoreTyped(Field field, const QString& text) {
+    if (field.id != FieldId::NextPayment) {
+        return StoreNumber(field, text);
+    }
+    const auto date = ReadTypedDate(text, m_texts.Formats(), m_today());
+    if (!date) {
+        throw ConversionFailure(ProgramSource);
+    }
+    if (*date != m_current.nextPayment) { // as it is after a step, which has stored it
+        SetCurrentNextPayment(*date);
+    }
+    Show(field);
+}
+
+/// What it comes to has been told when the values were entered, unless one has changed meanwhile.
+template <class Step>
+void Worksheet::TellOnlyNews(Step step) {
+    const bool wasDirty = std::exchange(m_dirty, false);
+    try {
+        step();
+    } catch (const Failure&) {
+        if (m_dirty) {
+            throw;
+        }
+    }
+    m_dirty = m_dirty || wasDirty;
+}
+
+void Worksheet::StoreAgain(Field field) {
+    if (RuleOf(field.id).IsNumber()) {
+        TellOnlyNews([&] { Store(field, NumberOf(field)); });
+    } else {
+        Show(field);
+    }
+}
+
+void Worksheet::LeaveChoice(Field field, const QString& text) {
+    TellOnlyNews([&] {
+        const bool isFrequency =
+            field.id == FieldId::CurPaymentFrequency || field.id == FieldId::ActPaymentFrequency;
+        if (isFrequency && text == ChoiceText(field)) {
+            return Recalculate(Payment);
+        }
+        StoreChoice(field, text);
+    });
+}
+
+/// A ticked box is stored and calculated again on every way out, an unticked one only when the
+/// offer does not know of it yet.
+void Worksheet::LeaveFinancePoints(Row row, bool financed) {
+    if (financed || OfferOfRow(row).FinancePoints()) {
+        TellOnlyNews([&] { StoreFinancePoints(row, financed); });
+    }
+}
+
 void Worksheet::StoreNumber(Field field, const QString& text) {
-    const FieldNumber number = m_texts.Read(RuleOf(field.id).kind, text);
+    Store(field, m_texts.Read(RuleOf(field.id).kind, text));
+}
+
+void Worksheet::Store(Field field, const FieldNumber& number) {
     if (field.row == Field::NoRow) {
         StoreLoanNumber(field.id, number);
     } else {

@@ -11,6 +11,9 @@
 /// How a failure is told: "errn=" number "  src=" source "  desc=" description.
 QString FailureText(const Failure& failure);
 
+/// The same below what it means in the user's language, where a user can do something about it.
+QString FailureMessage(const Failure& failure);
+
 /// Several of them, one a line; of many, the first ones and their number.
 QString FailureLines(const std::vector<Failure>& failures);
 

@@ -3,6 +3,7 @@
 #include "ControlMap.h"
 #include "DraggedValue.h"
 #include "FailureReport.h"
+#include "FieldEdits.h"
 #include "Language.h"
 #include "Messages.h"
 #include "TextNumbers.h"
@@ -27,6 +28,11 @@ const QMimeData* Clipped() { return QGuiApplication::clipboard()->mimeData(); }
 
 bool HoldsValue(const QMimeData* data) { return data != nullptr && data->hasFormat(ValueFormat()); }
 
+/// What comes from a table is a cell; what comes from a field is its value, to the letter.
+QString ValueOn(const QMimeData& data) {
+    return HoldsValue(&data) ? data.text() : WithoutCellEnd(data.text());
+}
+
 bool IsPartSelected(const QLineEdit& edit) {
     return edit.hasSelectedText() && edit.selectedText() != edit.text();
 }
@@ -34,15 +40,6 @@ bool IsPartSelected(const QLineEdit& edit) {
 /// Nothing selected in a number means all of it; in a lender's text it is the place to insert at.
 bool TakesWholeValue(const QLineEdit& edit, Field field) {
     return RuleOf(field.id).IsNumber() ? !IsPartSelected(edit) : edit.selectedText() == edit.text();
-}
-
-QString Shortened(const QString& text) {
-    constexpr int longest = 40;
-    if (text.size() <= longest) {
-        return text;
-    }
-    const bool inTwoHalves = text.at(longest - 1).isHighSurrogate();
-    return text.left(inTwoHalves ? longest - 1 : longest) + u'…';
 }
 
 } // namespace
@@ -109,7 +106,7 @@ void FieldClipboard::PasteValue(Field field) {
     if (clipped == nullptr || !clipped->hasText()) {
         return;
     }
-    const QString text = clipped->text();
+    const QString text = ValueOn(*clipped);
     if (!m_values->MayTake(field, text)) {
         m_messages->Post(GetResourceText(TextNumber::ValueRefused).arg(Shortened(text)) +
                          NumberPicture(RuleOf(field.id).decimals));
@@ -130,6 +127,6 @@ void FieldClipboard::OpenMenu(Field field, const QContextMenuEvent& event) {
     auto* paste = menu->addAction(GetResourceText(TextNumber::PasteValue), this,
                                   [this, field] { PasteValue(field); });
     paste->setEnabled(clipped != nullptr && clipped->hasText() &&
-                      m_values->MayTake(field, clipped->text()));
+                      m_values->MayTake(field, ValueOn(*clipped)));
     menu->popup(event.globalPos());
 }

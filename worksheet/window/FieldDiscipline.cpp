@@ -1,11 +1,13 @@
 #include "FieldDiscipline.h"
 
 #include "ControlMap.h"
+#include "DatePicker.h"
 #include "FailureReport.h"
 #include "Language.h"
 #include "Messages.h"
 #include "OfferRows.h"
 #include "TextNumbers.h"
+#include "TypedDate.h"
 #include "Worksheet.h"
 
 #include <QLineEdit>
@@ -15,6 +17,9 @@ FieldDiscipline::FieldDiscipline(Worksheet& worksheet, const ControlMap& control
     : m_worksheet(&worksheet), m_controls(&controls), m_rows(&rows), m_messages(&messages) {}
 
 QLineEdit& FieldDiscipline::EditOf(Field field) const {
+    if (const auto* picker = m_controls->ControlOf<DatePicker>(field)) {
+        return picker->Edit();
+    }
     return *m_controls->ControlOf<QLineEdit>(field);
 }
 
@@ -35,15 +40,12 @@ void FieldDiscipline::Enter(Field field) {
 }
 
 bool FieldDiscipline::Allows(Field field, QChar key) const {
-    if (!key.isPrint() || (key >= u'0' && key <= u'9')) {
-        return true;
-    }
-    return RuleOf(field.id).separatorKey &&
-           key == m_worksheet->Texts().Formats().DecimalSeparator();
+    return m_worksheet->AllowsKey(field.id, key);
 }
 
 /// A text as the program wrote it is never refused and never read back: 30 months show as 2.5
-/// years, and passing through the field must not make two years of them.
+/// years, and passing through the field must not make two years of them. Their value is stored
+/// again, with all that follows from it.
 bool FieldDiscipline::Check(Field field) {
     const QString text = EditOf(field).text();
     if (text == m_entryText) {
@@ -53,12 +55,21 @@ bool FieldDiscipline::Check(Field field) {
         if (m_worksheet->Accepts(field, text)) {
             return true;
         }
-        Refuse(field, GetResourceText(TextNumber::NumberRefused) +
-                          NumberPicture(RuleOf(field.id).decimals));
+        Refuse(field, RefusalOf(field, text));
     } catch (const Failure& failure) {
-        Refuse(field, FailureText(failure));
+        Refuse(field, FailureMessage(failure));
     }
     return false;
+}
+
+QString FieldDiscipline::RefusalOf(Field field, const QString& text) const {
+    const FieldRule& rule = RuleOf(field.id);
+    if (rule.IsNumber()) {
+        return GetResourceText(TextNumber::NumberRefused) + NumberPicture(rule.decimals);
+    }
+    return GetResourceText(TextNumber::DateRefused)
+        .arg(Shortened(text), m_worksheet->Texts().Formats().ShortDate(m_worksheet->Today()),
+             QString::number(FirstTypedYear), QString::number(LastTypedYear));
 }
 
 void FieldDiscipline::Refuse(Field field, const QString& message) {
@@ -69,9 +80,9 @@ void FieldDiscipline::Refuse(Field field, const QString& message) {
 void FieldDiscipline::Leave(Field field) {
     const QString text = EditOf(field).text();
     if (text == m_entryText) {
-        m_worksheet->Show(field);
+        m_worksheet->StoreAgain(field);
     } else {
-        m_worksheet->StoreNumber(field, text);
+        m_worksheet->StoreTyped(field, text);
     }
 }
 

@@ -23,7 +23,7 @@ public:
     /// A field of a row got the focus: a blank row always waits below the last one in use, and the
     /// row is in view.
     void EnterRow(Row row);
-    /// A number field got the focus.
+    /// A number field or the date got the focus.
     void Enter(Field field);
     /// Whether a key may type this character into the field.
     bool Allows(Field field, QChar key) const;
@@ -38,6 +38,7 @@ public:
 
 private:
     QLineEdit& EditOf(Field field) const;
+    QString RefusalOf(Field field, const QString& text) const;
     void Refuse(Field field, const QString& message);
 
     Worksheet* m_worksheet;

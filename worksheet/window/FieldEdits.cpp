@@ -4,11 +4,28 @@
 
 #include <QEvent>
 #include <QFocusEvent>
-#include <QKeyEvent>
 #include <QPalette>
+
+#include <algorithm>
+
+namespace {
+
+bool IsCellEnd(QChar c) { return c == u'\n' || c == u'\r' || c == u'\t'; }
+
+} // namespace
+
+QString WithoutCellEnd(const QString& text) {
+    qsizetype end = text.size();
+    while (end > 0 && IsCellEnd(text.at(end - 1))) {
+        --end;
+    }
+    const QString cell = text.left(end);
+    return std::ranges::none_of(cell, IsCellEnd) ? cell : text;
+}
 
 EntryEdit::EntryEdit(QWidget* parent) : QLineEdit(parent) {
     setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
+    connect(this, &QLineEdit::textEdited, this, &EntryEdit::DropCellEnd);
 }
 
 void EntryEdit::SetMark(Mark mark) {
@@ -21,17 +38,30 @@ void EntryEdit::SetMark(Mark mark) {
 
 void EntryEdit::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    m_enteredByClick = m_selectsOnClick && event->reason() == Qt::MouseFocusReason;
+    if (m_isNumber) {
+        m_click.Entered(event->reason());
+    }
 }
 
-/// The click that enters a number field would put the caret where it fell; the whole text is to be
-/// selected, unless the user has drawn a selection of his own.
-void EntryEdit::mouseReleaseEvent(QMouseEvent* event) {
-    QLineEdit::mouseReleaseEvent(event);
-    if (m_enteredByClick && !hasSelectedText()) {
-        selectAll();
+bool EntryEdit::event(QEvent* event) {
+    return m_click.Takes(*event, *this) || QLineEdit::event(event);
+}
+
+/// A cell copied from a table brings its end along: a line end or a tab behind the number.
+void EntryEdit::DropCellEnd() {
+    const QString typed = text();
+    const int caret = cursorPosition();
+    int end = caret;
+    while (end > 0 && IsCellEnd(typed.at(end - 1))) {
+        --end;
     }
-    m_enteredByClick = false;
+    // A lender may have several lines, and a caret between them.
+    const bool isOneCell =
+        m_isNumber || (caret == typed.size() && std::ranges::none_of(typed.left(end), IsCellEnd));
+    if (end < caret && isOneCell) {
+        setSelection(end, caret - end);
+        del();
+    }
 }
 
 ResultEdit::ResultEdit(QWidget* parent) : QLineEdit(parent) {
@@ -55,19 +85,5 @@ void ResultEdit::TakeWindowColour() {
         own.setBrush(QPalette::Base, inherited.window());
         own.setBrush(QPalette::Text, inherited.windowText());
         setPalette(own);
-    }
-}
-
-void DatePicker::keyPressEvent(QKeyEvent* event) {
-    const QString typed = event->text();
-    const bool isSeparator = typed.size() == 1 && typed.front().isPunct();
-    if (!isSeparator) {
-        QDateEdit::keyPressEvent(event);
-        return;
-    }
-    const bool hasMovedOn =
-        currentSectionIndex() > 0 && lineEdit()->selectedText() == sectionText(currentSection());
-    if (!hasMovedOn && currentSectionIndex() + 1 < sectionCount()) {
-        setSelectedSection(sectionAt(currentSectionIndex() + 1));
     }
 }

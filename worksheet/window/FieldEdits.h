@@ -1,9 +1,13 @@
 #pragma once
 
+#include "EnteringClick.h"
 #include "Mark.h"
 
-#include <QDateEdit>
 #include <QLineEdit>
+
+/// The text of a cell copied from a table, without the line end or tab that it brings along; a text
+/// of several cells as it is.
+QString WithoutCellEnd(const QString& text);
 
 /// A field that is typed into. Knows how it looks, not what its text means.
 class EntryEdit : public QLineEdit {
@@ -15,17 +19,19 @@ public:
     void SetMark(Mark mark);
     Mark GetMark() const { return m_mark; }
 
-    /// Whether the click that enters the field selects the whole text, as the tab key does.
-    void SetSelectsOnClick(bool selects) { m_selectsOnClick = selects; }
+    /// The click that enters a number selects all of it, as the tab key does.
+    void SetIsNumber(bool isNumber) { m_isNumber = isNumber; }
 
 protected:
-    void mouseReleaseEvent(QMouseEvent* event) override;
+    bool event(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
 private:
+    void DropCellEnd();
+
     Mark m_mark = Mark::None;
-    bool m_selectsOnClick = false;
-    bool m_enteredByClick = false;
+    bool m_isNumber = false;
+    EnteringClick m_click;
 };
 
 /// A field that shows a computed value: flat, on the window's own colour, so that it does not look
@@ -41,20 +47,4 @@ protected:
 
 private:
     void TakeWindowColour();
-};
-
-/// A date picker that is typed into as dates are written: the separator ends a part of the date,
-/// also where the part was full and the caret has moved on by itself. The tab key leaves it like
-/// any other field, instead of walking from month to day to year; the arrow keys do that.
-class DatePicker : public QDateEdit {
-    Q_OBJECT
-
-public:
-    using QDateEdit::QDateEdit;
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    // Past the date edit's own override, which is what walks through the date.
-    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-    bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
 };

@@ -2,13 +2,14 @@
 
 #include "CalendarDate.h"
 #include "ControlMap.h"
+#include "DatePicker.h"
+#include "DraggedValue.h"
 #include "FieldDiscipline.h"
 #include "LoanNameBox.h"
 #include "Worksheet.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLineEdit>
 
 #include <algorithm>
@@ -64,7 +65,12 @@ constexpr std::array LoanEvents{
     Events<>{.field = ActPaymentFrequency,
              .lostFocus = &H::cboActPaymentFrequency_LostFocus,
              .click = &H::cboActPaymentFrequency_Click},
-    Events<>{.field = NextPayment, .click = &H::dtNextPayment_Change},
+    Events<>{.field = NextPayment,
+             .gotFocus = &H::dtNextPayment_GotFocus,
+             .keyPress = &H::dtNextPayment_KeyPress,
+             .validate = &H::dtNextPayment_Validate,
+             .lostFocus = &H::dtNextPayment_LostFocus,
+             .click = &H::dtNextPayment_Change},
 };
 
 constexpr std::array OfferEvents{
@@ -134,6 +140,9 @@ void FieldHandlers::GotFocus(Field field) {
 bool FieldHandlers::KeyPress(Field field, QChar key) {
     return Call(*this, field, &Events<>::keyPress, &Events<int>::keyPress, true, key);
 }
+QChar FieldHandlers::DecimalSeparator() const {
+    return m_worksheet->Texts().Formats().DecimalSeparator();
+}
 bool FieldHandlers::Validate(Field field) {
     return Call(*this, field, &Events<>::validate, &Events<int>::validate, true);
 }
@@ -160,6 +169,7 @@ void FieldHandlers::Leave(Field field) { m_discipline->Leave(field); }
 bool FieldHandlers::Move(Field field, int key) { return m_discipline->MoveByArrow(field, key); }
 
 void FieldHandlers::StoreChoice(Field field) { m_worksheet->StoreChoice(field, ChosenText(field)); }
+void FieldHandlers::LeaveChoice(Field field) { m_worksheet->LeaveChoice(field, ChosenText(field)); }
 
 QString FieldHandlers::ChosenText(Field field) const {
     return m_controls->ControlOf<QComboBox>(field)->currentText();
@@ -181,17 +191,21 @@ void FieldHandlers::cboLoanName_LostFocus() {
 }
 
 void FieldHandlers::cboLoanType_Click() { StoreChoice({LoanType}); }
-void FieldHandlers::cboLoanType_LostFocus() { StoreChoice({LoanType}); }
+void FieldHandlers::cboLoanType_LostFocus() { LeaveChoice({LoanType}); }
 
 void FieldHandlers::cboCurPaymentFrequency_Click() { StoreChoice({CurPaymentFrequency}); }
-void FieldHandlers::cboCurPaymentFrequency_LostFocus() { StoreChoice({CurPaymentFrequency}); }
+void FieldHandlers::cboCurPaymentFrequency_LostFocus() { LeaveChoice({CurPaymentFrequency}); }
 
 void FieldHandlers::cboActPaymentFrequency_Click() { StoreChoice({ActPaymentFrequency}); }
-void FieldHandlers::cboActPaymentFrequency_LostFocus() { StoreChoice({ActPaymentFrequency}); }
+void FieldHandlers::cboActPaymentFrequency_LostFocus() { LeaveChoice({ActPaymentFrequency}); }
 
+void FieldHandlers::dtNextPayment_GotFocus() { Enter({NextPayment}); }
+bool FieldHandlers::dtNextPayment_KeyPress(QChar key) { return Allows({NextPayment}, key); }
+bool FieldHandlers::dtNextPayment_Validate() { return Check({NextPayment}); }
+void FieldHandlers::dtNextPayment_LostFocus() { Leave({NextPayment}); }
 void FieldHandlers::dtNextPayment_Change() {
-    const auto* picker = m_controls->ControlOf<QDateEdit>({NextPayment});
-    m_worksheet->SetCurrentNextPayment(FromCalendar(picker->date()));
+    const auto* picker = m_controls->ControlOf<DatePicker>({NextPayment});
+    m_worksheet->SetCurrentNextPayment(FromCalendar(picker->Shown()));
 }
 
 void FieldHandlers::txtLoanAmount_GotFocus() { Enter({LoanAmount}); }
@@ -249,13 +263,8 @@ void FieldHandlers::chkPoints_Click(int index) {
     m_worksheet->StoreFinancePoints(Row{index}, IsTicked(Row{index}));
 }
 void FieldHandlers::chkPoints_GotFocus(int index) { EnterRow(index); }
-/// A ticked box is stored and calculated again on every way out, an unticked one only when the
-/// offer does not know of it yet.
 void FieldHandlers::chkPoints_LostFocus(int index) {
-    const bool ticked = IsTicked(Row{index});
-    if (ticked || m_worksheet->OfferOfRow(Row{index}).FinancePoints()) {
-        m_worksheet->StoreFinancePoints(Row{index}, ticked);
-    }
+    m_worksheet->LeaveFinancePoints(Row{index}, IsTicked(Row{index}));
 }
 
 void FieldHandlers::txtPoints_GotFocus(int index) { Enter({FieldId::Points, Row{index}}); }
@@ -312,7 +321,7 @@ void FieldHandlers::txtActualPayment_LostFocus(int index) {
 
 void FieldHandlers::cboFrequency_GotFocus(int index) { EnterRow(index); }
 void FieldHandlers::cboFrequency_Click(int index) { StoreChoice({Frequency, Row{index}}); }
-void FieldHandlers::cboFrequency_LostFocus(int index) { StoreChoice({Frequency, Row{index}}); }
+void FieldHandlers::cboFrequency_LostFocus(int index) { LeaveChoice({Frequency, Row{index}}); }
 
 void FieldHandlers::txtWho_GotFocus(int index) { EnterRow(index); }
 bool FieldHandlers::txtWho_KeyDown(int index, int key) { return Move({Who, Row{index}}, key); }
@@ -320,6 +329,6 @@ bool FieldHandlers::txtWho_KeyDown(int index, int key) { return Move({Who, Row{i
 void FieldHandlers::txtWho_LostFocus(int index) {
     const auto* edit = m_controls->ControlOf<QLineEdit>({Who, Row{index}});
     if (edit->isModified()) {
-        m_worksheet->StoreWho(Row{index}, edit->text());
+        m_worksheet->StoreWho(Row{index}, WithLenderLines(edit->text()));
     }
 }

@@ -19,6 +19,8 @@ public:
     /// ignores it: keys and checks then pass.
     void GotFocus(Field field);
     bool KeyPress(Field field, QChar key);
+    /// What the decimal key of the number pad types.
+    QChar DecimalSeparator() const;
     bool Validate(Field field);
     void LostFocus(Field field);
     void Click(Field field);
@@ -35,6 +37,10 @@ public:
     void cboCurPaymentFrequency_LostFocus();
     void cboActPaymentFrequency_Click();
     void cboActPaymentFrequency_LostFocus();
+    void dtNextPayment_GotFocus();
+    bool dtNextPayment_KeyPress(QChar key);
+    bool dtNextPayment_Validate();
+    void dtNextPayment_LostFocus();
     void dtNextPayment_Change();
     void txtLoanAmount_GotFocus();
     bool txtLoanAmount_KeyPress(QChar key);
@@ -112,6 +118,7 @@ private:
     void Leave(Field field);
     bool Move(Field field, int key);
     void StoreChoice(Field field);
+    void LeaveChoice(Field field);
     QString ChosenText(Field field) const;
     bool IsTicked(Row row) const;
 

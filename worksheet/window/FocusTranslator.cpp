@@ -6,9 +6,11 @@
 #include "FieldHandlers.h"
 
 #include <QApplication>
-#include <QDateEdit>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
+
+#include <algorithm>
 
 namespace {
 
@@ -17,6 +19,19 @@ namespace {
 bool IsPassing(Qt::FocusReason reason) {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
            reason == Qt::MenuBarFocusReason || QApplication::activePopupWidget() != nullptr;
+}
+
+bool IsControlCharacter(QChar key) {
+    constexpr char16_t firstPrinted = 32;
+    constexpr char16_t deleteKey = 127;
+    return key.unicode() < firstPrinted || key.unicode() == deleteKey;
+}
+
+/// Turned over a field that is passed, the wheel would leave the one being edited.
+void TakeNoFocusByWheel(QWidget& control) {
+    if (control.focusPolicy() == Qt::WheelFocus) {
+        control.setFocusPolicy(Qt::StrongFocus);
+    }
 }
 
 } // namespace
@@ -32,11 +47,13 @@ void FocusTranslator::Watch(const QWidget& parent) {
             continue;
         }
         control->installEventFilter(this);
+        TakeNoFocusByWheel(*control);
         // Composed characters would pass by the filter of the keys.
-        const bool isNumber = RuleOf(field->id).IsNumber();
-        control->setAttribute(Qt::WA_InputMethodEnabled, !isNumber);
+        if (RuleOf(field->id).IsTyped()) {
+            control->setAttribute(Qt::WA_InputMethodEnabled, false);
+        }
         if (auto* edit = qobject_cast<EntryEdit*>(control)) {
-            edit->SetSelectsOnClick(isNumber);
+            edit->SetIsNumber(RuleOf(field->id).IsNumber());
         }
     }
 }
@@ -46,9 +63,6 @@ bool FocusTranslator::Commit() {
         return true;
     }
     const Field field = *m_edited;
-    if (auto* picker = m_controls->ControlOf<QDateEdit>(field)) {
-        picker->interpretText();
-    }
     if (!m_handlers->Validate(field)) {
         return false;
     }
@@ -77,9 +91,13 @@ bool FocusTranslator::eventFilter(QObject* watched, QEvent* event) {
         return OnKeyPress(*field, *static_cast<QKeyEvent*>(event));
     case QEvent::KeyRelease:
         return OnKeyRelease(*field, *static_cast<QKeyEvent*>(event));
+    case QEvent::InputMethod:
+        return RuleOf(field->id).IsTyped(); // whatever a dead key comes to
     case QEvent::Wheel:
-        // A list or date under the pointer must not change unseen. In the rows the wheel scrolls.
-        return field->row == Field::NoRow && !static_cast<QWidget*>(watched)->hasFocus();
+        // No list and no date changes by the wheel, not even the one with the keyboard: a notch
+        // over the name would make another worksheet of this one. What stands around it may scroll.
+        event->ignore();
+        return true;
     default:
         return false;
     }
@@ -139,15 +157,38 @@ bool FocusTranslator::OnKeyPress(Field field, const QKeyEvent& event) {
     if (used) {
         return true;
     }
-    if ((event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) &&
-        RuleOf(field.id).IsNumber()) {
+    if (!RuleOf(field.id).IsTyped()) {
+        return false;
+    }
+    if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) {
         Commit();
         return true;
     }
-    const bool shortcut =
-        (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-    return !shortcut && !event.text().isEmpty() &&
-           !m_handlers->KeyPress(field, event.text().front());
+    return OnTypedKey(field, event);
+}
+
+/// True for a key that must not type. Access keys and shortcuts have been served before. Ctrl with
+/// Alt is the third level of some keyboards.
+bool FocusTranslator::OnTypedKey(Field field, const QKeyEvent& event) {
+    const QString typed = event.text();
+    const Qt::KeyboardModifiers held =
+        event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (held == Qt::ControlModifier || std::ranges::all_of(typed, IsControlCharacter)) {
+        return false;
+    }
+    if (held == Qt::AltModifier || held.testFlag(Qt::MetaModifier)) {
+        return true;
+    }
+    const bool isKeypadPoint = event.modifiers().testFlag(Qt::KeypadModifier) &&
+                               (event.key() == Qt::Key_Period || event.key() == Qt::Key_Comma);
+    if (isKeypadPoint && RuleOf(field.id).IsNumber()) {
+        const QChar separator = m_handlers->DecimalSeparator();
+        if (m_handlers->KeyPress(field, separator)) {
+            m_controls->ControlOf<QLineEdit>(field)->insert(separator);
+        }
+        return true;
+    }
+    return !std::ranges::all_of(typed, [&](QChar key) { return m_handlers->KeyPress(field, key); });
 }
 
 /// Only a key that went down in the same field: one that closed a list or a menu comes up here too.

@@ -44,6 +44,7 @@ private:
     bool OnFocusIn(Field field, const QFocusEvent& event);
     bool OnFocusOut(Field field, const QFocusEvent& event);
     bool OnKeyPress(Field field, const QKeyEvent& event);
+    bool OnTypedKey(Field field, const QKeyEvent& event);
     bool OnKeyRelease(Field field, const QKeyEvent& event);
     bool Leave();
     void Stay(Qt::FocusReason reason);

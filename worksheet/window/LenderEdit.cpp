@@ -1,9 +1,43 @@
 #include "LenderEdit.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
 #include <utility>
+
+namespace {
+
+/// Whether the focus really moves here or away; a menu or another window only borrows it.
+bool IsMove(Qt::FocusReason reason) {
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+           reason == Qt::ShortcutFocusReason || reason == Qt::OtherFocusReason ||
+           reason == Qt::MouseFocusReason;
+}
+
+} // namespace
+
+void LenderEdit::ShowText(const QString& text) {
+    const int caret = cursorPosition();
+    setText(text);
+    setCursorPosition(caret);
+}
+
+void LenderEdit::focusInEvent(QFocusEvent* event) {
+    EntryEdit::focusInEvent(event);
+    if (IsMove(event->reason())) {
+        deselect();
+        setCursorPosition(m_caret);
+    }
+}
+
+void LenderEdit::focusOutEvent(QFocusEvent* event) {
+    if (IsMove(event->reason())) {
+        m_caret = cursorPosition();
+        setCursorPosition(0);
+    }
+    EntryEdit::focusOutEvent(event);
+}
 
 void LenderEdit::mousePressEvent(QMouseEvent* event) {
     m_clickedTwice = false;

@@ -1,11 +1,14 @@
 #include "Loan.h"
 
+#include "CalendarDate.h"
 #include "Captions.h"
+#include "DatePicker.h"
 #include "FieldWidth.h"
 #include "Language.h"
 #include "LenderEdit.h"
 #include "Lists.h"
 #include "TextNumbers.h"
+#include "TypedDate.h"
 #include "ui_Loan.h"
 
 #include <QCheckBox>
@@ -28,6 +31,20 @@ ControlMap ControlsOf(const QWidget& window) {
     ControlMap controls;
     controls.Add(window, LoanFields());
     return controls;
+}
+
+DatePicker::Writing WritingOf(const Worksheet& worksheet) {
+    const DisplayFormats& formats = worksheet.Texts().Formats();
+    return {.locale = formats.Locale(),
+            .first = QDate(FirstTypedYear, 1, 1),
+            .last = QDate(LastTypedYear, 12, 31),
+            .write = [&](const QDate& date) { return formats.ShortDate(FromCalendar(date)); },
+            .read =
+                [&](const QString& text) {
+                    const auto date = ReadTypedDate(text, formats, worksheet.Today());
+                    return date ? ToCalendar(*date) : QDate();
+                },
+            .parts = [&](const QString& text) { return DateParts(text, formats); }};
 }
 
 TermUnit UnitOf(const Settings& settings) {
@@ -79,7 +96,7 @@ void Loan::Form_Load() {
     m_loaded = true;
     MeasureFields();
     LoadWallpaper();
-    m_ui->dtNextPayment->setDisplayFormat(m_worksheet.Texts().Formats().ShortDateFormat());
+    m_ui->dtNextPayment->SetWriting(WritingOf(m_worksheet));
     m_worksheet.SetCurrentNextPayment(m_worksheet.Today());
     m_worksheet.SetPaymentNoticeShown(false);
     m_worksheet.ClearDirty();
@@ -97,7 +114,7 @@ void Loan::WireFields() {
     for (const FieldRule& rule : LoanFields()) {
         WireChoice({rule.id});
     }
-    connect(m_ui->dtNextPayment, &QDateEdit::dateChanged, this,
+    connect(m_ui->dtNextPayment, &DatePicker::Picked, this,
             [this] { m_report.Guard([this] { m_handlers.dtNextPayment_Change(); }); });
     connect(&m_rows, &OfferRows::RowCreated, this, &Loan::WireRow);
     connect(m_ui->mnuFileExit, &QAction::triggered, this, &Loan::mnuFileExit_Click);

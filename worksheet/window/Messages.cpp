@@ -13,6 +13,15 @@ constexpr auto MouseReleaseCheck = 10ms;
 
 } // namespace
 
+QString Shortened(const QString& text) {
+    constexpr int longest = 40;
+    if (text.size() <= longest) {
+        return text;
+    }
+    const bool inTwoHalves = text.at(longest - 1).isHighSurrogate();
+    return text.left(inTwoHalves ? longest - 1 : longest) + u'…';
+}
+
 Messages::Messages(MessageDoor& door) : m_door(&door) {
     m_later.setSingleShot(true);
     connect(&m_later, &QTimer::timeout, this, &Messages::ShowNext);

@@ -27,6 +27,9 @@ public:
     virtual Answer Ask(const Question& question) = 0;
 };
 
+/// A text of the user's as a message quotes it: a long one's beginning.
+QString Shortened(const QString& text);
+
 /// Messages on their way to the user, shown one after another once the event that raised them is
 /// over and no mouse button is down: a box that opens in the middle of a change of focus or of a
 /// click would leave the window half way. The same text is not queued twice.

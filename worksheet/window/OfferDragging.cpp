@@ -115,6 +115,7 @@ bool OfferDragging::OnFieldEvent(Field field, QEvent& event) {
         }
         return false;
     case QEvent::FocusOut:
+    case QEvent::KeyPress:
         m_enteredByMouse.reset();
         return false;
     case QEvent::MouseButtonPress:
@@ -174,8 +175,12 @@ bool OfferDragging::Drag(Field field) {
     drag->setMimeData(data.release());
     drag->exec(allowed, Qt::CopyAction);
     m_handlers->OLECompleteDrag(field);
-    if (RuleOf(field.id).IsNumber() && edit.hasFocus()) {
-        edit.selectAll(); // as it was before the press
+    if (edit.hasFocus()) { // as it was before the press
+        if (RuleOf(field.id).IsNumber()) {
+            edit.selectAll();
+        } else {
+            m_enteredByMouse = field;
+        }
     }
     return true;
 }

@@ -2,14 +2,14 @@
 
 #include "CalendarDate.h"
 #include "ControlMap.h"
+#include "DatePicker.h"
 #include "FieldEdits.h"
 #include "Language.h"
+#include "LenderEdit.h"
 #include "LoanNameBox.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
-#include <QSignalBlocker>
 
 #include <utility>
 
@@ -17,7 +17,9 @@ WindowDisplay::WindowDisplay(const ControlMap& controls, Notices notices)
     : m_controls(&controls), m_notices(std::move(notices)) {}
 
 void WindowDisplay::ShowText(Field field, const QString& text) {
-    if (auto* edit = m_controls->ControlOf<QLineEdit>(field)) {
+    if (auto* lender = m_controls->ControlOf<LenderEdit>(field)) {
+        lender->ShowText(text);
+    } else if (auto* edit = m_controls->ControlOf<QLineEdit>(field)) {
         edit->setText(text);
         edit->setCursorPosition(0); // the leading digits of an amount are the ones that matter
     } else if (auto* list = m_controls->ControlOf<QComboBox>(field)) {
@@ -37,11 +39,8 @@ void WindowDisplay::ShowTicked(Field field, bool ticked) {
 }
 
 void WindowDisplay::ShowDate(Field field, Date date) {
-    auto* picker = m_controls->ControlOf<QDateEdit>(field);
-    // Set again, a date would undo the part of it that is being typed.
-    if (picker && !date.IsNone() && picker->date() != ToCalendar(date)) {
-        const QSignalBlocker quiet(picker);
-        picker->setDate(ToCalendar(date));
+    if (auto* picker = m_controls->ControlOf<DatePicker>(field)) {
+        picker->ShowDate(ToCalendar(date));
     }
 }
 

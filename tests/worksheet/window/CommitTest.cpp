@@ -5,8 +5,10 @@
 #include "WindowFixture.h"
 
 #include <QAction>
-#include <QDateEdit>
 #include <QLineEdit>
+
+#include <functional>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -95,26 +97,12 @@ TEST_F(CommitOfOthers, LenderAndNameAreStoredBeforeClosing) {
     EXPECT_EQ(Sheet().OfferOfRow(Row{2}).Who(), u"Bank");
 }
 
-TEST_F(CommitOfOthers, ADateHalfTypedIsTakenBeforeClosing) {
+TEST_F(CommitOfOthers, ADateIsTakenBeforeClosing) {
     Open();
-    auto& picker = Get<QDateEdit>(u"dtNextPayment");
-    Click(picker, {8, picker.height() / 2});
-    picker.setSelectedSection(QDateTimeEdit::DaySection);
-    Type(u"9");
+    Click(u"dtNextPayment");
+    Type(u"11/9/2026");
     EXPECT_TRUE(Window().close());
     EXPECT_EQ(Sheet().CurrentNextPayment(), Date::FromCalendar(2026, 11, 9));
-}
-
-// Each digit is an input of its own, which must not take back the part being typed.
-TEST_F(CommitOfOthers, ADateIsTypedWithoutItsSeparators) {
-    Open();
-    auto& picker = Get<QDateEdit>(u"dtNextPayment");
-    Click(picker, {8, picker.height() / 2});
-    picker.setSelectedSection(QDateTimeEdit::MonthSection);
-    Type(u"03012027");
-    Tab();
-    EXPECT_EQ(picker.date(), QDate(2027, 3, 1));
-    EXPECT_EQ(Sheet().CurrentNextPayment(), Date::FromCalendar(2027, 3, 1));
 }
 
 TEST_F(CommitOfOthers, ExitOfTheMenuStopsOnARefusedField) {
@@ -127,6 +115,85 @@ TEST_F(CommitOfOthers, ExitOfTheMenuStopsOnARefusedField) {
     Press(Qt::Key_Delete);
     Window().findChild<QAction*>(u"mnuFileExit"_s)->trigger();
     EXPECT_FALSE(Window().isVisible());
+}
+
+using LeavingUntouched = WindowTest;
+
+TEST_F(LeavingUntouched, ARateGivesAMissingTermTheDefaultOne) {
+    struct Case {
+        const char* name;
+        std::function<void()> pass;
+    };
+    const std::vector<Case> ways = {
+        {"passed through", [this] { Tab(); }},
+        {"typed again", [this] { Type(u"6.5"), Tab(); }},
+        {"in another spelling", [this] { Type(u"6.50"), Tab(); }},
+        {"by Return", [this] { Press(Qt::Key_Return); }},
+    };
+    for (const Case& way : ways) {
+        SCOPED_TRACE(way.name);
+        Open();
+        Fill(u"txtInterestRate(0)", u"6.5");
+        EXPECT_EQ(Text(u"txtTerm(0)"), u"");
+        Fill(u"txtLoanTerm", u"30");
+        Enter(u"txtInterestRate(0)");
+        way.pass();
+        EXPECT_EQ(Text(u"txtTerm(0)"), u"30");
+        EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), 360);
+        Shut();
+    }
+}
+
+TEST_F(LeavingUntouched, ChangesNoValueAndSavesNothing) {
+    Open({.termInMonths = false});
+    FillFirstOffer();
+    SheetToWrite().OfferOfRow(Row{0}).SetTerm(30); // shown as 2.5 years
+    SheetToWrite().ShowOffer(Row{0});
+    SheetToWrite().SetLoanTerm(30);
+    SheetToWrite().ClearDirty();
+    Click(u"cboLoanName");
+    for (int stop = 0; stop < 40; ++stop) {
+        Tab();
+    }
+    EXPECT_FALSE(Sheet().Dirty());
+    EXPECT_EQ(Sheet().LoanTerm(), 30);
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), 30);
+    EXPECT_TRUE(SettledMessages().isEmpty()) << Door().Texts().join(u'\n').toStdString();
+}
+
+TEST_F(LeavingUntouched, AScheduleThatNeverEndsIsToldOnce) {
+    Open();
+    Fill(u"txtCurrentBalance", u"10000");
+    Fill(u"txtCurInterestRate", u"12");
+    Choose(u"cboCurPaymentFrequency", 0);
+    Choose(u"cboActPaymentFrequency", 0);
+    Fill(u"txtCurActualPayment", u"100");
+    EXPECT_EQ(SettledMessages().size(), 1);
+    Click(u"txtCurLoanAmount");
+    for (int stop = 0; stop < 12; ++stop) {
+        Tab();
+    }
+    EXPECT_EQ(SettledMessages().size(), 1) << "passed, not computed from anything new";
+    Fill(u"txtCurActualPayment", u"99");
+    EXPECT_EQ(SettledMessages().size(), 2);
+}
+
+TEST_F(LeavingUntouched, OneEditOfARowIsToldOnce) {
+    Open();
+    Fill(u"txtLoanAmount", u"900000000000000");
+    Fill(u"txtPoints(0)", u"900000");
+    Fill(u"txtInterestRate(0)", u"6");
+    Fill(u"txtTerm(0)", u"30");
+    Choose(u"cboFrequency(0)", 0);
+    Door().Clear();
+    Click(u"chkPoints(0)"); // no amount can hold the principal with its points
+    const QStringList told = SettledMessages();
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_TRUE(told.front().startsWith(u"This number is too large.\nerrn=6  src="));
+    for (int stop = 0; stop < 8; ++stop) {
+        Tab();
+    }
+    EXPECT_EQ(SettledMessages().size(), 1);
 }
 
 } // namespace

@@ -139,6 +139,17 @@ TEST_F(DragStart, TheMouseStillSelectsInTheFieldBeingEdited) {
     }
 }
 
+TEST_F(DragStart, AFieldIsDraggedAgainAndAgain) {
+    for (const QStringView field : {u"txtPoints(0)", u"txtActualPayment(0)", u"txtWho(0)"}) {
+        for (int times = 0; times < 3; ++times) {
+            EXPECT_EQ(Drag(field).size(), 1U) << field.toString().toStdString() << ' ' << times;
+        }
+    }
+    // A click in between is for the caret, and what follows for a selection.
+    Click(u"txtWho(0)");
+    EXPECT_TRUE(Drag(u"txtWho(0)").empty());
+}
+
 TEST_F(DragStart, WhatIsBeingTypedIsStoredBeforeItTravels) {
     Enter(u"txtPoints(0)");
     Type(u"2.25");

@@ -133,7 +133,8 @@ TEST_F(DropOnFields, AFormThatIsNoNumberIsReported) {
         {u"txtPoints(1)", u"-", u"errn=13  src=Loan  desc=Type mismatch"},
         {u"txtInterestRate(1)", u".", u"errn=13  src=Loan  desc=Type mismatch"},
         {u"txtActualPayment(1)", u"+", u"errn=13  src=Loan  desc=Type mismatch"},
-        {u"txtActualPayment(1)", u"99999999999999999999", u"errn=6  src=Loan  desc=Overflow"},
+        {u"txtActualPayment(1)", u"99999999999999999999",
+         u"This number is too large.\nerrn=6  src=Loan  desc=Overflow"},
     };
     for (const auto& row : table) {
         const QString before = Text(row.field);

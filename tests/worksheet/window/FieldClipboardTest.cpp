@@ -283,4 +283,15 @@ TEST_F(FieldClipboard, TheMenuPastesAsADropDoes) {
     EXPECT_EQ(SettledMessages(), QStringList{u"errn=13  src=Loan  desc=Type mismatch"_s});
 }
 
+TEST_F(FieldClipboard, TheMenuPastesACellAsItsValue) {
+    Clip(u"0.05\r\n");
+    InMenu(u"txtInterestRate(0)", [](const QMenu& menu) {
+        QAction& paste = Entry(menu, GetResourceText(541));
+        EXPECT_TRUE(paste.isEnabled());
+        paste.trigger();
+    });
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).InterestRate(), 0.05);
+    EXPECT_TRUE(SettledMessages().isEmpty());
+}
+
 } // namespace

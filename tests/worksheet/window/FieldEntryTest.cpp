@@ -3,9 +3,14 @@
 #include "NumberFields.h"
 #include "WindowFixture.h"
 
+#include <QApplication>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 
+#include <functional>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -42,6 +47,34 @@ TEST_P(FieldEntry, ShowsTheBareValueAllSelectedHoweverItIsEntered) {
     EXPECT_TRUE(SettledMessages().isEmpty());
 }
 
+TEST_P(FieldEntry, ADoubleClickThatEntersItSelectsAll) {
+    Fill(GetParam().name, GetParam().typed);
+    Click(u"cboLoanName");
+    DoubleClick(Field());
+    ExpectEntered("a double click");
+    Type(u"7");
+    EXPECT_EQ(Field().text(), u"7");
+}
+
+TEST_P(FieldEntry, ACellIsPastedAsItsText) {
+    for (const QStringView end : {u"\n", u"\r\n", u"\t", u"\t\n"}) {
+        Enter(GetParam().name);
+        Press(Qt::Key_A, Qt::ControlModifier);
+        Paste(u"12"_s.append(end));
+        EXPECT_EQ(Field().text(), u"12");
+        Press(Qt::Key_Home);
+        Press(Qt::Key_Right);
+        Paste(u"3"_s.append(end)); // between the others
+        EXPECT_EQ(Field().text(), u"132");
+    }
+    Press(Qt::Key_A, Qt::ControlModifier);
+    Paste(u"1\n2\n"); // two cells are no number
+    Tab();
+    EXPECT_EQ(FocusName(), GetParam().name);
+    EXPECT_EQ(SettledMessages().size(), 1);
+    Press(Qt::Key_Delete);
+}
+
 TEST_P(FieldEntry, ASecondClickPlacesTheCaret) {
     Fill(GetParam().name, GetParam().typed);
     Click(GetParam().name);
@@ -70,6 +103,42 @@ TEST_P(FieldEntry, KeysOtherThanDigitsTypeNothing) {
     EXPECT_EQ(Field().text(), u"1");
     Type(u"2.3");
     EXPECT_EQ(Field().text(), GetParam().separatorKey ? u"12.3" : u"123");
+}
+
+TEST_P(FieldEntry, AltAndSuperTypeNothing) {
+    Click(GetParam().name);
+    Type(u"1");
+    struct Key {
+        Qt::Key key;
+        QStringView text;
+        Qt::KeyboardModifiers held;
+    };
+    for (const Key& key :
+         {Key{Qt::Key_Minus, u"-", Qt::AltModifier}, Key{Qt::Key_5, u"5", Qt::AltModifier},
+          Key{Qt::Key_Minus, u"-", Qt::MetaModifier},
+          Key{Qt::Key_5, u"5", Qt::MetaModifier | Qt::ShiftModifier},
+          Key{Qt::Key_Minus, u"-", Qt::ControlModifier | Qt::AltModifier},
+          Key{Qt::Key_Minus, u"-", Qt::ControlModifier | Qt::MetaModifier},
+          Key{Qt::Key_unknown, u"12\u00e9", Qt::NoModifier},
+          Key{Qt::Key_unknown, u"\u200d", Qt::NoModifier},
+          Key{Qt::Key_Dead_Acute, u"\u00b4", Qt::NoModifier}}) {
+        PressText(key.key, key.text, key.held);
+        EXPECT_EQ(Field().text(), u"1") << key.text.toString().toStdString();
+    }
+    // The third level of a keyboard types what it can.
+    PressText(Qt::Key_5, u"5", Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_EQ(Field().text(), u"15");
+    Press(Qt::Key_Y, Qt::AltModifier);
+    EXPECT_EQ(FocusName(), u"cboLoanType") << "an access key goes on working";
+}
+
+TEST_P(FieldEntry, WhatDeadKeysComeToIsDropped) {
+    Click(GetParam().name);
+    Type(u"12");
+    QInputMethodEvent composed;
+    composed.setCommitString(QStringLiteral("\u00e9"));
+    QApplication::sendEvent(&Field(), &composed);
+    EXPECT_EQ(Field().text(), u"12");
 }
 
 TEST_P(FieldEntry, KeysThatEditPass) {
@@ -121,6 +190,18 @@ TEST_P(FieldEntryWithComma, OnlyTheSymbolOfTheCountryIsTyped) {
     Click(GetParam().name);
     Type(u"1.2,3");
     EXPECT_EQ(Text(GetParam().name), GetParam().separatorKey ? u"12,3" : u"123");
+}
+
+TEST_P(FieldEntryWithComma, TheDecimalKeyOfTheNumberPadTypesIt) {
+    Open({.locale = Germany});
+    Click(GetParam().name);
+    Type(u"12");
+    PressText(Qt::Key_Period, u".", Qt::KeypadModifier);
+    PressText(Qt::Key_Comma, u",", Qt::KeypadModifier);
+    PressText(Qt::Key_3, u"3", Qt::KeypadModifier);
+    EXPECT_EQ(Text(GetParam().name), GetParam().separatorKey ? u"12,,3" : u"123");
+    Press(Qt::Key_A, Qt::ControlModifier);
+    PressText(Qt::Key_4, u"4", Qt::KeypadModifier);
 }
 
 class TermEntry : public WindowTest, public ::testing::WithParamInterface<bool> {};
@@ -180,6 +261,58 @@ TEST_F(LenderField, AClickPlacesTheCaretAndSelectsNothing) {
     Click(u"txtLoanAmount");
     Click(u"txtWho(0)");
     EXPECT_EQ(Edit(u"txtWho(0)").selectedText(), u"");
+}
+
+TEST_F(LenderField, EnteredByAKeyItsCaretIsWhereItWasLeft) {
+    Open();
+    Enter(u"txtWho(0)");
+    Type(u"First Bank");
+    Press(Qt::Key_Left);
+    struct Way {
+        const char* name;
+        std::function<void()> there;
+        std::function<void()> back;
+    };
+    const std::vector<Way> ways = {
+        {"Tab", [this] { BackTab(); }, [this] { Tab(); }},
+        {"Shift+Tab", [this] { Tab(); }, [this] { BackTab(); }},
+        {"arrows", [this] { Press(Qt::Key_Down); }, [this] { Press(Qt::Key_Up); }},
+    };
+    const QLineEdit& lender = Edit(u"txtWho(0)");
+    for (const Way& way : ways) {
+        SCOPED_TRACE(way.name);
+        way.there();
+        EXPECT_NE(FocusName(), u"txtWho(0)");
+        EXPECT_EQ(lender.cursorPosition(), 0) << "shows its beginning meanwhile";
+        way.back();
+        EXPECT_EQ(FocusName(), u"txtWho(0)");
+        EXPECT_EQ(lender.selectedText(), u"");
+        EXPECT_EQ(lender.cursorPosition(), 9);
+    }
+    Press(Qt::Key_Up); // the first row: no way to go, and the caret stays
+    EXPECT_EQ(lender.cursorPosition(), 9);
+    Press(Qt::Key_Left, Qt::ShiftModifier);
+    OpenContextMenu(u"txtWho(0)");
+    EXPECT_EQ(lender.selectedText(), u"n") << "a menu is not leaving";
+}
+
+TEST_F(LenderField, PastedLinesEndAsDroppedOnes) {
+    Open();
+    struct Case {
+        QStringView pasted;
+        QStringView stored;
+    };
+    for (const Case& row : {Case{u"First\nNational", u"First\r\nNational"},
+                            Case{u"First\rNational\r", u"First\r\nNational\r\n"},
+                            Case{u"First National\n", u"First National"},
+                            Case{u"First National\t", u"First National"}}) {
+        Enter(u"txtWho(0)");
+        Press(Qt::Key_A, Qt::ControlModifier);
+        Paste(row.pasted);
+        Tab();
+        EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Who(), row.stored);
+        BackTab();
+    }
 }
 
 } // namespace

@@ -6,9 +6,11 @@
 #include "Fuzzing.h"
 #include "HostileTexts.h"
 #include "IsValidNumber.h"
+#include "Language.h"
 #include "MessageBoxes.h"
 #include "NumberFields.h"
 #include "QuietToolkit.h"
+#include "TextNumbers.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -67,7 +69,7 @@ protected:
         const QStringList told = SettledMessages();
         if (FocusName() == field.name) {
             ASSERT_EQ(told.size(), 1);
-            EXPECT_TRUE(told[0] == m_refusal + field.picture.toString() || told[0] == Overflow)
+            EXPECT_TRUE(told[0] == m_refusal + field.picture.toString() || told[0] == Overflow())
                 << told[0].toStdString();
             EXPECT_EQ(Text(field.name), written);
             EXPECT_EQ(Edit(field.name).selectedText(), written);
@@ -76,7 +78,7 @@ protected:
         } else {
             EXPECT_TRUE(IsValidNumber(written, decimals(field), m_formats->DecimalSeparator()));
             for (const QString& message : told) { // a result that nothing can hold
-                EXPECT_EQ(message, Overflow);
+                EXPECT_EQ(message, Overflow());
             }
         }
         EXPECT_NE(FocusName(), field.name);
@@ -87,7 +89,7 @@ protected:
         const Offered offered = Drop(field.name, text);
         const QStringList told = SettledMessages();
         for (const QString& message : told) {
-            EXPECT_TRUE(message == Overflow || message == NoNumber) << message.toStdString();
+            EXPECT_TRUE(message == Overflow() || message == NoNumber) << message.toStdString();
         }
         if (!offered.accepted) {
             EXPECT_EQ(Text(field.name), before);
@@ -104,6 +106,9 @@ protected:
 private:
     const QuietToolkit m_quiet; // which has no letters for some scripts
     bool IsOpen() { return m_formats.has_value(); }
+    static QString Overflow() {
+        return GetResourceText(TextNumber::NumberTooLarge) + u"\nerrn=6  src=Loan  desc=Overflow"_s;
+    }
     static int decimals(const NumberField& field) {
         const qsizetype point = field.picture.indexOf(u'.');
         const bool term = field.name.startsWith(u"txtTerm");
@@ -118,8 +123,6 @@ private:
         }
         QApplication::clipboard()->setMimeData(data.release());
     }
-
-    const QString Overflow = u"errn=6  src=Loan  desc=Overflow"_s;
     const QString NoNumber = u"errn=13  src=Loan  desc=Type mismatch"_s;
     std::optional<DisplayFormats> m_formats;
     QString m_refusal;

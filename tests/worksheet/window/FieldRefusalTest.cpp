@@ -13,9 +13,10 @@
 
 #include <vector>
 
-using namespace Qt::StringLiterals;
-
 namespace {
+
+const QString TooLarge =
+    QStringLiteral("This number is too large.\nerrn=6  src=Loan  desc=Overflow");
 
 class FieldRefusal : public WindowTest, public ::testing::WithParamInterface<NumberField> {
 protected:
@@ -88,7 +89,7 @@ TEST_P(FieldRefusal, StoresNothing) {
 
 TEST_P(FieldRefusal, OfNumbersThatNothingCanHold) {
     const QString nines(400, u'9');
-    ExpectRefused(nines, QStringLiteral("errn=6  src=Loan  desc=Overflow"));
+    ExpectRefused(nines, TooLarge);
     Type(u"1");
     Tab();
     EXPECT_NE(FocusName(), GetParam().name);
@@ -110,7 +111,7 @@ TEST_F(LimitsOfFields, TheLargestAmountIsTakenAndTheNextIsNot) {
     BackTab();
     EXPECT_EQ(Text(u"txtCurLoanAmount"), u"922337203685477.58");
     Fill(u"txtCurLoanAmount", u"922337203685477.59");
-    EXPECT_EQ(SettledMessages(), QStringList(u"errn=6  src=Loan  desc=Overflow"_s));
+    EXPECT_EQ(SettledMessages(), QStringList(TooLarge));
     EXPECT_EQ(FocusName(), u"txtCurLoanAmount");
 }
 
@@ -119,7 +120,7 @@ TEST_F(LimitsOfFields, ATermOfTooManyMonthsIsRefusedInYears) {
     for (const QStringView field : {u"txtLoanTerm", u"txtCurLoanTerm", u"txtTerm(0)"}) {
         Door().Clear();
         Fill(field, u"178956971"); // times twelve: 2^31 + 4
-        EXPECT_EQ(SettledMessages(), QStringList(u"errn=6  src=Loan  desc=Overflow"_s));
+        EXPECT_EQ(SettledMessages(), QStringList(TooLarge));
         EXPECT_EQ(FocusName(), field);
         Type(u"1");
         Tab();

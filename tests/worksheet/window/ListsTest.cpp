@@ -7,7 +7,10 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include <array>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -99,6 +102,39 @@ TEST_F(ChoiceLists, TheFrequencyOfTheLoanHeldTodayDefaultsToMonthly) {
     Fill(u"txtCurInterestRate", u"6");
     EXPECT_EQ(Text(u"cboCurPaymentFrequency"), u"Monthly");
     EXPECT_EQ(Text(u"cboActPaymentFrequency"), u"");
+}
+
+/// Every list and the date of the bands, and one list of the rows.
+constexpr std::array TurnedByNoWheel{
+    u"cboLoanName",   u"cboLoanType",    u"cboCurPaymentFrequency", u"cboActPaymentFrequency",
+    u"dtNextPayment", u"cboFrequency(0)"};
+
+TEST_F(ChoiceLists, TheWheelChangesNothingAndTakesNoFocus) {
+    Open();
+    FillFirstOffer();
+    Choose(u"cboLoanType", 2);
+    Choose(u"cboCurPaymentFrequency", 2);
+    Choose(u"cboActPaymentFrequency", 2);
+    List(u"cboLoanName").addItems({u"Alpha"_s, u"Beta"_s, u"Gamma"_s});
+    Fill(u"cboLoanName", u"Beta");
+    for (const QStringView field : TurnedByNoWheel) {
+        SCOPED_TRACE(field.toString().toStdString());
+        const QString before = Text(field);
+        EXPECT_FALSE(before.isEmpty());
+        Click(u"txtLoanAmount");
+        Press(Qt::Key_A, Qt::ControlModifier);
+        Type(u"77");
+        Wheel(Control(field), -1);
+        Wheel(Control(field), 2);
+        EXPECT_EQ(Text(field), before);
+        EXPECT_EQ(FocusName(), u"txtLoanAmount");
+        EXPECT_EQ(Text(u"txtLoanAmount"), u"77") << "still being typed";
+        Control(field).setFocus(Qt::TabFocusReason);
+        Wheel(Control(field), -1);
+        Wheel(Control(field), 2);
+        EXPECT_EQ(Text(field), before) << "with the keyboard in it";
+    }
+    EXPECT_EQ(Sheet().LoanName(), u"Beta");
 }
 
 class PointsBox : public WindowTest {

@@ -7,7 +7,6 @@
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QTest>
-#include <QWheelEvent>
 #include <QWindow>
 
 #include <vector>
@@ -172,9 +171,7 @@ TEST_F(Scrolling, TheWheelEndsAtBothEnds) {
 TEST_F(Scrolling, PartsOfANotchAddUp) {
     const QPoint at = PlaceInWindow(Control(u"picScroll"), {200, 20});
     for (const int expected : {0, 0, 1, 1, 1, 2}) {
-        QWheelEvent event(at, at, QPoint(), QPoint(0, -40), Qt::NoButton, Qt::NoModifier,
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(Window().windowHandle(), &event);
+        TurnWheel(at, -40);
         EXPECT_EQ(TopRow(), expected);
     }
 }

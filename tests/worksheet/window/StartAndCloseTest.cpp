@@ -4,7 +4,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
@@ -55,12 +54,10 @@ TEST_P(FreshStart, ShowsEmptyFields) {
 }
 
 TEST_P(FreshStart, ShowsTodayAsTheNextPayment) {
-    EXPECT_EQ(Get<QDateEdit>(u"dtNextPayment").date(), QDate(2026, 11, 21));
     EXPECT_EQ(Sheet().CurrentNextPayment(), Date::FromCalendar(2026, 11, 21));
-    EXPECT_EQ(Get<QDateEdit>(u"dtNextPayment").text(),
-              GetParam().start.locale == UnitedStates ? u"11/21/2026"
-              : GetParam().start.locale == Germany    ? u"21.11.2026"
-                                                      : u"21/11/2026");
+    EXPECT_EQ(Text(u"dtNextPayment"), GetParam().start.locale == UnitedStates ? u"11/21/2026"
+                                      : GetParam().start.locale == Germany    ? u"21.11.2026"
+                                                                              : u"21/11/2026");
 }
 
 TEST_P(FreshStart, CarriesTheTitle) { EXPECT_EQ(Window().windowTitle(), u"Quend Loan"); }
@@ -105,8 +102,7 @@ TEST_F(Closing, WhatStillWaitsIsShownOnce) {
 // The date of the loan held today is an input like any other.
 TEST_F(Closing, AnotherDateIsAChange) {
     Open();
-    auto& picker = Get<QDateEdit>(u"dtNextPayment");
-    Click(picker, {8, picker.height() / 2});
+    Click(u"dtNextPayment");
     Press(Qt::Key_Up);
     EXPECT_TRUE(Sheet().Dirty());
 }
@@ -122,8 +118,8 @@ TEST_F(Closing, AFailureOfTheArithmeticIsToldAndNothingIsLost) {
     Press(Qt::Key_Return);
     const QStringList told = SettledMessages();
     ASSERT_EQ(told.size(), 1);
-    EXPECT_TRUE(told.front().startsWith(u"errn=6  src=")) << told.front().toStdString();
-    EXPECT_TRUE(told.front().endsWith(u"  desc=Overflow"));
+    EXPECT_EQ(told.front(), u"This payment never repays the loan.\n"
+                            "errn=6  src=Schedule  desc=Overflow");
     EXPECT_EQ(Sheet().CurrentActualPayment(), Money::FromDouble(100));
     EXPECT_EQ(Text(u"txtCurPayoffDate"), u"");
     Type(u"1000");

@@ -1,12 +1,12 @@
 // No text is cut off, in either language and with large letters.
 
+#include "DatePicker.h"
 #include "DisplayFormats.h"
 #include "WindowFixture.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -67,7 +67,7 @@ protected:
         ExpectFits<QPushButton>();
         ExpectFits<QCheckBox>();
         ExpectFits<QComboBox>();
-        ExpectFits<QDateEdit>();
+        ExpectFits<DatePicker>();
         ExpectFieldsFit();
     }
     /// What a text of this field may be as wide as.

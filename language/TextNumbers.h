@@ -57,6 +57,8 @@ inline constexpr int StoreNewer = 132;      ///< %1: the file
 inline constexpr int SettingsNotRead = 133; ///< the failures follow it, one a line
 inline constexpr int NotDeleted = 134;
 inline constexpr int StoreUnusable = 135; ///< %1: the file
+inline constexpr int NoSuchNameToDelete = 600;
+inline constexpr int NameOfNewLoan = 601;
 inline constexpr int WindowTitle = 200;
 inline constexpr int NoPicture = 520;
 inline constexpr int PictureNotShown = 521;
@@ -135,6 +137,8 @@ inline constexpr std::array All{
     SettingsNotRead,
     NotDeleted,
     StoreUnusable,
+    NoSuchNameToDelete,
+    NameOfNewLoan,
     WindowTitle,
     NoPicture,
     PictureNotShown,

@@ -107,21 +107,18 @@ void FileCommands::cboLoanName_Click(const QString& picked) {
         m_worksheet->Show({FieldId::LoanName});
     } else if (picked == GetResourceText(TextNumber::NewLoan)) {
         ClearWorksheet();
-    } else if (m_store.Exists(picked)) {
-        LoadLoan(picked);
     } else {
-        m_worksheet->SetLoanName(picked);
+        LoadLoan(picked);
     }
     m_window->Reenter();
 }
 
 bool FileCommands::CanSave() const {
-    if (LoanStore::IsEmptyName(m_worksheet->LoanName())) {
-        Tell(GetResourceText(TextNumber::NoNameToSave));
-        return false;
-    }
-    if (!LoanStore::CanHold(m_worksheet->LoanName())) {
-        Tell(GetResourceText(TextNumber::NameNotPossible));
+    const NameFault fault = LoanStore::FaultOf(m_worksheet->LoanName());
+    if (fault != NameFault::None) {
+        Tell(GetResourceText(fault == NameFault::Empty     ? TextNumber::NoNameToSave
+                             : fault == NameFault::NewLoan ? TextNumber::NameOfNewLoan
+                                                           : TextNumber::NameNotPossible));
         return false;
     }
     for (Row row{0}; row <= m_worksheet->HighestOfferRow(); ++row.value) {
@@ -148,14 +145,19 @@ bool FileCommands::SaveLoan() {
     return true;
 }
 
+/// A name that no worksheet has any more is only set.
 void FileCommands::LoadLoan(const QString& name) {
     CMouse mouse;
     mouse.SetPointer(MousePointer::Hourglass);
-    const std::vector<Failure> failures =
+    const LoadOutcome outcome =
         m_store.Load(*m_worksheet, name, [this](Row last) { m_window->Rows().GrowTo(last); });
+    if (!outcome.exists) {
+        m_worksheet->SetLoanName(name);
+        return;
+    }
     m_window->ClearNameMark();
-    if (!failures.empty()) {
-        Tell(GetResourceText(TextNumber::ValuesNotLoaded), FailureLines(failures));
+    if (!outcome.failures.empty()) {
+        Tell(GetResourceText(TextNumber::ValuesNotLoaded), FailureLines(outcome.failures));
     }
 }
 
@@ -163,6 +165,9 @@ void FileCommands::mnuFileDelete_Click() {
     const QString name = m_worksheet->LoanName();
     if (LoanStore::IsEmptyName(name) && m_worksheet->Dirty()) {
         ClearWorksheet();
+    } else if (LoanStore::FaultOf(name) == NameFault::NoKey) {
+        Tell(GetResourceText(TextNumber::NoSuchNameToDelete));
+        return;
     } else {
         const Question question{WithName(TextNumber::DeleteQuestion, name),
                                 GetResourceText(TextNumber::DeleteTitle)};

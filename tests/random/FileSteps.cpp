@@ -17,9 +17,12 @@ namespace {
 
 bool IsEmptyName(const QString& name) { return name.isEmpty() || name == u" "; }
 
-bool CanBeKept(const QString& name) {
-    return name.size() <= 255 && !name.contains(u'\\') && !name.contains(QChar::Null) &&
-           name != u"(new loan)" && name != u"(préstamo nuevo)";
+bool CanBeKey(const QString& name) {
+    return name.size() <= 255 && !name.contains(u'\\') && !name.contains(QChar::Null);
+}
+
+bool IsNewLoan(const QString& name) {
+    return name == u"(new loan)" || name == u"(préstamo nuevo)";
 }
 
 int Letters(const QString& text) {
@@ -47,8 +50,9 @@ bool RandomUser::SaveInBook() {
         m_book.Expect(TextNumber::NoNameToSave);
         return false;
     }
-    if (!CanBeKept(m_book.loan.name)) {
-        m_book.Expect(TextNumber::NameNotPossible);
+    if (!CanBeKey(m_book.loan.name) || IsNewLoan(m_book.loan.name)) {
+        m_book.Expect(IsNewLoan(m_book.loan.name) ? TextNumber::NameOfNewLoan
+                                                  : TextNumber::NameNotPossible);
         return false;
     }
     for (int row = 0; row < static_cast<int>(m_book.offers.size()); ++row) {
@@ -197,6 +201,9 @@ void RandomUser::Delete(unsigned a, unsigned /*b*/) {
         return;
     }
     const bool unnamed = IsEmptyName(m_book.loan.name);
+    if (!CanBeKey(m_book.loan.name)) {
+        return m_book.Expect(TextNumber::NoSuchNameToDelete);
+    }
     if (!unnamed || !m_book.dirty) {
         m_questions.append(WithName(TextNumber::DeleteQuestion));
         if (answer != Answer::Yes) {

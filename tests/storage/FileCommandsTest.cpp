@@ -160,7 +160,10 @@ TEST_F(FileCommandsTest, NamesThatCannotBeKeptAreRefusedAndNothingIsLost) {
     for (const RefusedName& row : {
              RefusedName{u"a\\b"_qs, notPossible},
              RefusedName{QString(256, u'x'), notPossible},
-             RefusedName{u"(new loan)"_qs, notPossible},
+             RefusedName{u"a\\"_qs, notPossible},
+             RefusedName{u"(new loan)"_qs,
+                         u"This is the name of the entry that begins a new worksheet, so none can "
+                         "be saved under it. Please choose another name."_qs},
              RefusedName{u" "_qs, u"Please give the loan a name before you save it."_qs},
          }) {
         Door().Clear();
@@ -402,6 +405,29 @@ TEST_F(FileCommandsTest, DeletingAnUnnamedWorksheet) {
     ASSERT_EQ(Door().Questions().size(), 1U);
     EXPECT_EQ(SettledMessages(),
               QStringList(u"There is no worksheet to delete: the loan has no name."_qs));
+}
+
+TEST_F(FileCommandsTest, DeletingANameThatNoWorksheetCanHaveDeletesNone) {
+    m_folder.Store().SetValue(StoreFolder::Root, BaseKey, "LoansDisplayed", RegistryType::Number,
+                              3);
+    for (const QStringView name : {u"\\", u"Alpha\\", u"\\Alpha", u"Alpha\\\\"}) {
+        TypeName(name);
+        Fill(u"txtLoanAmount", u"7");
+        Door().Clear();
+        Door().WillAnswer({Answer::Yes});
+        Trigger(u"mnuFileDelete");
+        EXPECT_TRUE(Door().Questions().empty());
+        EXPECT_EQ(SettledMessages(),
+                  QStringList(u"No worksheet can have this name, so nothing has been deleted."_qs));
+        EXPECT_EQ(Sheet().LoanName(), name);
+        EXPECT_EQ(Sheet().LoanAmount(), Money::FromDouble(7));
+        if (Kept().isEmpty()) {
+            Begin({}, m_folder.Store());
+            KeepLoan(u"Alpha", u"1000");
+        }
+        EXPECT_EQ(Kept(), QStringList(u"Alpha"_qs));
+    }
+    EXPECT_EQ(m_folder.Number(BaseKey, "LoansDisplayed"), 3);
 }
 
 TEST_F(FileCommandsTest, BadValuesAreToldInOneMessage) {

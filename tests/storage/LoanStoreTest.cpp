@@ -63,6 +63,9 @@ protected:
     LoanStore Loans() const { return LoanStore(m_folder.Store()); }
     void Save(Sheet& sheet) const { Loans().Save(sheet.worksheet); }
     std::vector<Failure> Load(Sheet& sheet, const QString& name = u"Our new home"_qs) const {
+        return Outcome(sheet, name).failures;
+    }
+    LoadOutcome Outcome(Sheet& sheet, const QString& name = u"Our new home"_qs) const {
         return Loans().Load(sheet.worksheet, name, [&](Row last) {
             sheet.worksheet.GrowOfferArrays(sheet.worksheet.HighestOfferRow(), last);
         });
@@ -274,25 +277,57 @@ TEST_F(LoanStoreTest, NamesThatCanAndCannotBeKeys) {
     Language::Instance().LoadLanguage(Spanish);
     struct Case {
         QString name;
-        bool empty;
-        bool canHold;
+        NameFault fault;
     };
+    using Fault = NameFault;
     for (const Case& row : {
-             Case{u""_qs, true, true},
-             Case{u" "_qs, true, true},
-             Case{u"  "_qs, false, true},
-             Case{u"Casa de la Ñandú 🏠"_qs, false, true},
-             Case{u"C:\\loans"_qs, false, false},
-             Case{QString(255, u'x'), false, true},
-             Case{QString(256, u'x'), false, false},
-             Case{u"(new loan)"_qs, false, false},
-             Case{u"(préstamo nuevo)"_qs, false, false},
-             Case{u"a/b*c?"_qs, false, true},
-             Case{u"a"_qs + QChar(QChar::Null), false, false},
+             Case{u""_qs, Fault::Empty},
+             Case{u" "_qs, Fault::Empty},
+             Case{u"  "_qs, Fault::None},
+             Case{u"Casa de la Ñandú 🏠"_qs, Fault::None},
+             Case{u"C:\\loans"_qs, Fault::NoKey},
+             Case{u"\\"_qs, Fault::NoKey},
+             Case{u"Alpha\\"_qs, Fault::NoKey},
+             Case{u"\\Alpha"_qs, Fault::NoKey},
+             Case{QString(255, u'x'), Fault::None},
+             Case{QString(256, u'x'), Fault::NoKey},
+             Case{u"(new loan)"_qs, Fault::NewLoan},
+             Case{u"(préstamo nuevo)"_qs, Fault::NewLoan},
+             Case{u"a/b*c?"_qs, Fault::None},
+             Case{u"a"_qs + QChar(QChar::Null), Fault::NoKey},
+             Case{u"half "_qs + QChar(0xD83C), Fault::NoKey},
          }) {
-        EXPECT_EQ(row.empty, LoanStore::IsEmptyName(row.name)) << row.name.toStdString();
-        EXPECT_EQ(row.canHold, LoanStore::CanHold(row.name)) << row.name.toStdString();
+        EXPECT_EQ(row.fault, LoanStore::FaultOf(row.name)) << row.name.toStdString();
+        EXPECT_EQ(row.fault == Fault::Empty, LoanStore::IsEmptyName(row.name));
     }
+}
+
+TEST_F(LoanStoreTest, ANameThatNoWorksheetCanHaveReachesNoOther) {
+    m_folder.Store().SetValue(StoreFolder::Root, BaseKey, "TermInMonths", RegistryType::Number, 5);
+    Sheet nothing;
+    Loans().Delete(u"\\"_qs); // with nothing saved, the settings would go
+    EXPECT_EQ(5, m_folder.Number(BaseKey, "TermInMonths"));
+    for (const QString& saved : {u"Alpha"_qs, u"half \uFFFD"_qs}) {
+        Sheet sheet;
+        sheet.worksheet.SetLoanName(saved);
+        Save(sheet);
+    }
+    const QStringList kept = Loans().Names();
+    for (const QString& name :
+         {u"\\"_qs, u"Alpha\\"_qs, u"\\Alpha"_qs, u"Alpha\\\\"_qs, u"\\\\Alpha"_qs, QString(),
+          u"Alpha"_qs + QChar(QChar::Null), u"half "_qs + QChar(0xD83C)}) {
+        SCOPED_TRACE(name.toStdString());
+        EXPECT_FALSE(Loans().Exists(name));
+        EXPECT_FALSE(Outcome(nothing, name).exists);
+        EXPECT_TRUE(nothing.worksheet.LoanName().isEmpty());
+        Loans().Delete(name);
+        EXPECT_EQ(kept, Loans().Names());
+        Sheet other;
+        other.worksheet.SetLoanName(name);
+        EXPECT_THROW(Save(other), Failure);
+        EXPECT_EQ(kept, Loans().Names());
+    }
+    EXPECT_EQ(5, m_folder.Number(BaseKey, "TermInMonths"));
 }
 
 TEST_F(LoanStoreTest, TheLongestNameAndEveryNameWithinItsLimitsAreKept) {

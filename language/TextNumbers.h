@@ -59,6 +59,11 @@ inline constexpr int NotDeleted = 134;
 inline constexpr int StoreUnusable = 135; ///< %1: the file
 inline constexpr int NoSuchNameToDelete = 600;
 inline constexpr int NameOfNewLoan = 601;
+inline constexpr int NotLoaded = 602; ///< why, where that is known, follows it
+inline constexpr int StoreDiskFull = 603;
+inline constexpr int StoreReadOnly = 604;
+inline constexpr int StoreInUse = 605;
+inline constexpr int StoreNotAllowed = 606;
 inline constexpr int WindowTitle = 200;
 inline constexpr int NoPicture = 520;
 inline constexpr int PictureNotShown = 521;
@@ -139,6 +144,11 @@ inline constexpr std::array All{
     StoreUnusable,
     NoSuchNameToDelete,
     NameOfNewLoan,
+    NotLoaded,
+    StoreDiskFull,
+    StoreReadOnly,
+    StoreInUse,
+    StoreNotAllowed,
     WindowTitle,
     NoPicture,
     PictureNotShown,

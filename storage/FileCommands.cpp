@@ -5,6 +5,7 @@
 #include "Loan.h"
 #include "LoanForm.h"
 #include "LoanNameBox.h"
+#include "StoreNotice.h"
 #include "TextNumbers.h"
 
 #include <QAction>
@@ -139,18 +140,24 @@ bool FileCommands::SaveLoan() {
     try {
         m_store.Save(*m_worksheet);
     } catch (const Failure& failure) {
-        Tell(GetResourceText(TextNumber::NotSaved), FailureText(failure));
+        Tell(GetResourceText(TextNumber::NotSaved), StoreFailureText(failure));
         return false;
     }
     return true;
 }
 
-/// A name that no worksheet has any more is only set.
+/// A name that no worksheet has any more is only set. While the store cannot be read, that is not
+/// known, and everything stays.
 void FileCommands::LoadLoan(const QString& name) {
     CMouse mouse;
     mouse.SetPointer(MousePointer::Hourglass);
     const LoadOutcome outcome =
         m_store.Load(*m_worksheet, name, [this](Row last) { m_window->Rows().GrowTo(last); });
+    if (outcome.trouble != StoreTrouble::None) {
+        Tell(GetResourceText(TextNumber::NotLoaded), TroubleText(outcome.trouble));
+        m_worksheet->Show({FieldId::LoanName});
+        return;
+    }
     if (!outcome.exists) {
         m_worksheet->SetLoanName(name);
         return;
@@ -189,11 +196,13 @@ bool FileCommands::DeleteLoan() {
     }
     CMouse mouse;
     mouse.SetPointer(MousePointer::Hourglass);
-    const bool gone = m_store.Delete(m_worksheet->LoanName());
-    if (!gone) {
-        Tell(GetResourceText(TextNumber::NotDeleted));
+    try {
+        m_store.Delete(m_worksheet->LoanName());
+    } catch (const StoreFailure& failure) {
+        Tell(GetResourceText(TextNumber::NotDeleted), TroubleText(failure.Trouble()));
+        return false;
     }
-    return gone;
+    return true;
 }
 
 void FileCommands::ClearWorksheet() {

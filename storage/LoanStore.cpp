@@ -108,7 +108,7 @@ bool LoanStore::Exists(const QString& name) const {
 void LoanStore::Save(Worksheet& worksheet) const {
     const auto key = KeyOf(worksheet.LoanName());
     if (!key) {
-        throw Failure(1001, "", "Unable to create the registry key");
+        throw StoreFailure(StoreTrouble::Unknown);
     }
     m_store.InOneStep([&](const RegistryAPI& store) {
         // The whole key first, so that no offer of an earlier, longer save survives.
@@ -124,21 +124,29 @@ LoadOutcome LoanStore::Load(Worksheet& worksheet, const QString& name,
     const auto key = KeyOf(name);
     LoadedLoan loaded(worksheet.Texts().Formats());
     LoadOutcome outcome;
-    m_store.ReadInOneStep([&](const RegistryAPI& store) {
+    outcome.trouble = m_store.ReadInOneStep([&](const RegistryAPI& store) {
         outcome.exists = key && store.KeyExists(StoreRoot, *key);
         if (outcome.exists) {
             loaded.Read(store, *key);
         }
     });
+    outcome.exists = outcome.exists && outcome.trouble == StoreTrouble::None;
     if (outcome.exists) {
         outcome.failures = loaded.Put(worksheet, name, growTo);
     }
     return outcome;
 }
 
-bool LoanStore::Delete(const QString& name) const {
-    if (const auto key = KeyOf(name)) {
-        m_store.DeleteKey(StoreRoot, *key);
+/// What cannot be read looks as if it were gone: only a step that was kept says that it is.
+void LoanStore::Delete(const QString& name) const {
+    const auto key = KeyOf(name);
+    if (!key) {
+        return;
     }
-    return !Exists(name);
+    m_store.InOneStep([&](const RegistryAPI& store) {
+        store.DeleteKey(StoreRoot, *key);
+        if (store.KeyExists(StoreRoot, *key)) {
+            throw StoreFailure(StoreTrouble::Unknown);
+        }
+    });
 }

@@ -21,6 +21,7 @@ enum class NameFault {
 /// What became of a loading.
 struct LoadOutcome {
     bool exists = false;
+    StoreTrouble trouble = StoreTrouble::None; ///< why that is not known
     std::vector<Failure> failures; ///< of values left out; the sources are the values' names
 };
 
@@ -49,19 +50,20 @@ public:
     bool Exists(const QString& name) const;
 
     /// Keeps the worksheet, its offers in the order of entry, under its name in one step, in place
-    /// of what had that name; clears Dirty. Throws Failure 1001 when it could not be kept: all is
+    /// of what had that name; clears Dirty. Throws StoreFailure when it could not be kept: all is
     /// then as it was before.
     void Save(Worksheet& worksheet) const;
 
     /// Replaces the worksheet by the one kept under this name and clears Dirty. `growTo` is called
     /// when there are more offers than rows, with the last row wanted; it may add fewer. A value
-    /// that cannot be read is left out. Where no worksheet has this name nothing is changed. Does
-    /// not throw.
+    /// that cannot be read is left out. Nothing is changed where no worksheet has this name, or the
+    /// store cannot be read. Does not throw.
     LoadOutcome Load(Worksheet& worksheet, const QString& name,
                      const std::function<void(Row)>& growTo) const;
 
-    /// False when the worksheet is still there.
-    bool Delete(const QString& name) const;
+    /// Does nothing where no worksheet has this name. Throws StoreFailure when the worksheet is
+    /// still there, or when that cannot be made out.
+    void Delete(const QString& name) const;
 
 private:
     RegistryAPI m_store;

@@ -59,7 +59,8 @@ std::optional<QString> Obstacle(const RegistryAPI& store, const StoreCondition& 
     try {
         PrepareKeyAndLanguage(store, UserDefaultLanguageIdentifier());
     } catch (const Failure& failure) {
-        return StoreText(TextNumber::StoreUnusable) + QStringLiteral("\n\n") + FailureText(failure);
+        return StoreText(TextNumber::StoreUnusable) + QStringLiteral("\n\n") +
+               StoreFailureText(failure);
     }
     return std::nullopt;
 }

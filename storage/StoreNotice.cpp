@@ -1,5 +1,6 @@
 #include "StoreNotice.h"
 
+#include "FailureReport.h"
 #include "Language.h"
 #include "LoanStore.h"
 #include "Messages.h"
@@ -11,6 +12,27 @@ QString RepairNotice(const RegistryAPI& store, const std::filesystem::path& kept
     return GetResourceText(TextNumber::StoreRepaired)
         .arg(QString::fromStdString(keptAs.string()))
         .arg(LoanStore(store).Names().size());
+}
+
+QString TroubleText(StoreTrouble trouble) {
+    switch (trouble) {
+    case StoreTrouble::DiskFull:
+        return GetResourceText(TextNumber::StoreDiskFull);
+    case StoreTrouble::ReadOnly:
+        return GetResourceText(TextNumber::StoreReadOnly);
+    case StoreTrouble::NotAllowed:
+        return GetResourceText(TextNumber::StoreNotAllowed);
+    case StoreTrouble::InUse:
+        return GetResourceText(TextNumber::StoreInUse);
+    default:
+        return {};
+    }
+}
+
+QString StoreFailureText(const Failure& failure) {
+    const auto* const ofStore = dynamic_cast<const StoreFailure*>(&failure);
+    const QString reason = ofStore != nullptr ? TroubleText(ofStore->Trouble()) : QString();
+    return reason.isEmpty() ? FailureText(failure) : reason + u'\n' + FailureText(failure);
 }
 
 RegistryAPI StoreThatTells(const std::filesystem::path& place, Messages& messages,

@@ -13,6 +13,12 @@ class Messages;
 /// in the new one, in the language in use.
 QString RepairNotice(const RegistryAPI& store, const std::filesystem::path& keptAs);
 
+/// Why the store could not be used, in the language in use; empty where that is not known.
+QString TroubleText(StoreTrouble trouble);
+
+/// A failure of the store as the user is told of it: the reason, then the failure.
+QString StoreFailureText(const Failure& failure);
+
 /// The store at this place. A repair that a save makes is told once that save is over; `messages`
 /// outlives the store and its copies. `today` is as in RepairDoor.
 RegistryAPI StoreThatTells(const std::filesystem::path& place, Messages& messages,

@@ -430,6 +430,74 @@ TEST_F(FileCommandsTest, DeletingANameThatNoWorksheetCanHaveDeletesNone) {
     EXPECT_EQ(m_folder.Number(BaseKey, "LoansDisplayed"), 3);
 }
 
+TEST_F(FileCommandsTest, AWorksheetThatCannotBeDeletedStays) {
+    KeepLoan(u"Alpha", u"1000");
+    Door().WillAnswer({Answer::Yes});
+    {
+        const StoreOutOfReach closed(m_folder.File());
+        Trigger(u"mnuFileDelete");
+    }
+    EXPECT_EQ(SettledMessages(), QStringList(u"The worksheet could not be deleted."_qs));
+    EXPECT_EQ(Sheet().LoanName(), u"Alpha");
+    EXPECT_EQ(Sheet().LoanAmount(), Money::FromDouble(1'000));
+    EXPECT_EQ(Kept(), QStringList(u"Alpha"_qs));
+}
+
+TEST_F(FileCommandsTest, APickFromAStoreOutOfReachChangesNothing) {
+    KeepLoan(u"Alpha", u"1000");
+    KeepLoan(u"Beta", u"2000");
+    Click(u"cboLoanName");
+    Press(Qt::Key_Down);
+    ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+    {
+        const StoreOutOfReach closed(m_folder.File());
+        Press(Qt::Key_Home);
+        Press(Qt::Key_Down);
+        Press(Qt::Key_Return);
+        Settle();
+    }
+    EXPECT_EQ(SettledMessages(),
+              QStringList(u"The worksheet could not be opened, because your saved worksheets "
+                          "cannot be read at the moment. What you see stays as it is."_qs));
+    EXPECT_EQ(Text(u"cboLoanName"), u"Beta");
+    EXPECT_EQ(Sheet().LoanName(), u"Beta");
+    EXPECT_EQ(Sheet().LoanAmount(), Money::FromDouble(2'000));
+}
+
+/// Another program writes: what it holds up says so, before the line that can be looked up.
+TEST_F(FileCommandsTest, AStoreInUseIsToldInBothLanguages) {
+    struct {
+        int language;
+        QStringView reason;
+    } const table[]{
+        {English, u"Another program is writing to your worksheets. Please try again in a moment."},
+        {Spanish, u"Otro programa está escribiendo en sus hojas de trabajo. Inténtelo de nuevo "
+                  u"dentro de un momento."},
+    };
+    for (const auto& row : table) {
+        Begin({.language = row.language},
+              RegistryAPI(m_folder.File(), std::chrono::milliseconds(20)));
+        KeepLoan(u"Alpha", u"1000");
+        Door().Clear();
+        sqlite3* connection = nullptr;
+        ASSERT_EQ(sqlite3_open(m_folder.File().c_str(), &connection), SQLITE_OK);
+        sqlite3_exec(connection, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
+        Trigger(u"mnuFileSave");
+        Door().WillAnswer({Answer::Yes});
+        Trigger(u"mnuFileDelete");
+        sqlite3_close(connection);
+        const QStringList told = SettledMessages();
+        ASSERT_EQ(told.size(), 2) << told.join(u'|').toStdString();
+        EXPECT_TRUE(
+            told.front().endsWith(u"\n\n"_qs + row.reason.toString() +
+                                  u"\nerrn=1001  src=  desc=Unable to create the registry key"_qs))
+            << told.front().toStdString();
+        EXPECT_TRUE(told.back().endsWith(u"\n\n"_qs + row.reason.toString()))
+            << told.back().toStdString();
+        EXPECT_EQ(Kept(), QStringList(u"Alpha"_qs));
+    }
+}
+
 TEST_F(FileCommandsTest, BadValuesAreToldInOneMessage) {
     KeepLoan(u"Beta", u"70000");
     const RegistryAPI store = m_folder.Store();

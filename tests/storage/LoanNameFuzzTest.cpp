@@ -36,7 +36,7 @@ protected:
         EXPECT_TRUE(store.Load(again.worksheet, name, [](Row) {}).failures.empty());
         EXPECT_EQ(again.worksheet.LoanName(), name);
         EXPECT_EQ(std::as_const(again.worksheet).OfferOfRow(Row{0}).Who(), who);
-        EXPECT_TRUE(store.Delete(name));
+        EXPECT_NO_THROW(store.Delete(name));
         EXPECT_FALSE(store.Exists(name));
     }
 

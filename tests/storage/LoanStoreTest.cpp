@@ -352,9 +352,9 @@ TEST_F(LoanStoreTest, NamesAreListedInAlphabeticalOrder) {
     }
     EXPECT_EQ(QStringList({u"Alpha"_qs, u"ALPHA 2"_qs, u"beta"_qs, u"gamma"_qs}), Loans().Names());
     EXPECT_TRUE(Loans().Exists(u"GAMMA"_qs));
-    EXPECT_TRUE(Loans().Delete(u"gamma"_qs));
+    Loans().Delete(u"gamma"_qs);
     EXPECT_FALSE(Loans().Exists(u"gamma"_qs));
-    EXPECT_TRUE(Loans().Delete(u"never kept"_qs));
+    EXPECT_NO_THROW(Loans().Delete(u"never kept"_qs));
 }
 
 TEST_F(LoanStoreTest, LendersAreCountedInCharactersAsUsersCountThem) {
@@ -481,6 +481,23 @@ TEST_F(LoanStoreTest, LoadingOverOtherOffersRefusesNoPayment) {
     EXPECT_EQ(Units(1'600), other.worksheet.OfferOfRow(Row{0}).ActualPayment());
     EXPECT_EQ(u"$1,600.00", other.display.TextOf({FieldId::ActualPayment, Row{0}}));
     EXPECT_FALSE(other.display.TextOf({FieldId::Interest, Row{0}}).isEmpty());
+}
+
+TEST_F(LoanStoreTest, AStoreThatCannotBeReadHasLostNothing) {
+    Sheet sheet;
+    Fill(sheet.worksheet);
+    Save(sheet);
+    {
+        const StoreOutOfReach closed(m_folder.File());
+        EXPECT_THROW(Loans().Delete(u"Our new home"_qs), StoreFailure);
+        const LoadOutcome outcome = Outcome(sheet);
+        EXPECT_FALSE(outcome.exists);
+        EXPECT_NE(StoreTrouble::None, outcome.trouble);
+    }
+    EXPECT_EQ(Units(250'000.5), sheet.worksheet.LoanAmount());
+    EXPECT_TRUE(Outcome(sheet).exists);
+    EXPECT_NO_THROW(Loans().Delete(u"Our new home"_qs));
+    EXPECT_TRUE(Loans().Names().isEmpty());
 }
 
 TEST_F(LoanStoreTest, ASaveThatCannotBeMadeIsToldAndLeavesEverything) {

@@ -90,15 +90,7 @@ void KeepAs(const fs::path& file, const fs::path& name) {
     }
 }
 
-void RemoveStore(const fs::path& store) {
-    for (const fs::path& file : {store, StoreFile::LogOf(store), StoreFile::SharedOf(store)}) {
-        std::error_code error;
-        fs::remove(file, error);
-    }
-}
-
 Salvage::Counts WriteNew(const fs::path& made, const Salvage& salvage) {
-    RemoveStore(made);
     StoreFile::Make(made, Wait);
     Salvage::Counts counts;
     {
@@ -112,8 +104,7 @@ Salvage::Counts WriteNew(const fs::path& made, const Salvage& salvage) {
 
 /// At no moment is there less on the disk than the damaged store and its log.
 StoreCondition Repair(const fs::path& store, const std::string& today) {
-    fs::path made = store;
-    made += ".new";
+    const fs::path made = StoreFile::NewOf(store);
     try {
         const Salvage::Counts counts = WriteNew(made, Salvage(StoreImage(store)));
         const fs::path kept = FreeNameFor(store, today);
@@ -121,16 +112,13 @@ StoreCondition Repair(const fs::path& store, const std::string& today) {
         if (fs::exists(StoreFile::LogOf(store))) {
             KeepAs(StoreFile::LogOf(store), StoreFile::LogOf(kept));
         }
-        fs::remove(StoreFile::LogOf(store));
-        fs::remove(StoreFile::SharedOf(store));
-        fs::rename(made, store);
-        RemoveStore(made);
+        StoreFile::PutInPlace(made, store);
         FoldLogIfLonger(store, 0);
         return {Condition::Repaired, kept, counts.keys, counts.values};
     } catch (const StoreError&) {
-        RemoveStore(made);
+        StoreFile::Remove(made);
     } catch (const fs::filesystem_error&) {
-        RemoveStore(made);
+        StoreFile::Remove(made);
     }
     return {Condition::Unusable, {}, 0, 0};
 }

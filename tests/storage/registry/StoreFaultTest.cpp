@@ -155,6 +155,56 @@ TEST_F(StoreFaultTest, TwoProgramsSavingAtOnceBothLandWhole) {
     EXPECT_EQ(PrepareStore(store, "today").state, State::Sound);
 }
 
+/// However early a first start ends, the next one finds a whole store or none, and no damage.
+TEST_F(StoreFaultTest, AProcessKilledWhileMakingTheStoreLeavesItWholeOrNone) {
+    std::mt19937 random(2027);
+    std::uniform_int_distribution<int> microseconds(1, 6'000);
+    int none = 0;
+    for (int round = 0; round < 60; ++round) {
+        fs::remove_all(store.parent_path());
+        const std::chrono::microseconds time(microseconds(random));
+        const pid_t child = fork();
+        if (child == 0) {
+            KillAfter(time);
+            registry.CreateKey(User, Base);
+            _exit(0);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, 0), child);
+        const State state = PrepareStore(store, "today").state;
+        ASSERT_TRUE(state == State::Missing || state == State::Sound) << time.count();
+        none += state == State::Missing ? 1 : 0;
+        EXPECT_EQ(FailureOf([&] { SaveWorksheet(registry, "A", "a"); }), "");
+        EXPECT_EQ(MarkOf(registry, "A"), "a");
+        EXPECT_FALSE(fs::exists(StoreFile::NewOf(store)));
+    }
+    EXPECT_GT(none, 0); // the test killed at all
+}
+
+TEST_F(StoreFaultTest, AStoreThatCannotBeMadeLeavesNothing) {
+    for (const rlim_t most : {0U, 100U, 4'096U, 8'192U, 20'000U}) {
+        SCOPED_TRACE(most);
+        EXPECT_TRUE(HoldsInChild([&] {
+            signal(SIGXFSZ, SIG_IGN);
+            const rlimit limit{most, most};
+            ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+            EXPECT_EQ(TroubleOf([&] { registry.CreateKey(User, Base); }), StoreTrouble::DiskFull);
+        }));
+        EXPECT_TRUE(fs::is_empty(store.parent_path()));
+        EXPECT_EQ(PrepareStore(store, "today").state, State::Missing);
+    }
+    EXPECT_EQ(FailureOf([&] { SaveWorksheet(registry, "A", "a"); }), "");
+}
+
+TEST_F(StoreFaultTest, AnEmptyFileIsDamage) {
+    fs::create_directory(store.parent_path());
+    WriteBytes(store, "");
+    EXPECT_EQ(FailureOf([&] { registry.CreateKey(User, Base); }), NotMade);
+    EXPECT_EQ(FailureOf([&] { SaveWorksheet(registry, "A", "a"); }), NotMade);
+    EXPECT_TRUE(fs::is_empty(store));
+    EXPECT_EQ(PrepareStore(store, "today").state, State::Repaired);
+}
+
 TEST_F(StoreFaultTest, TwoProgramsMakingTheStoreAtOnceBothLandWhole) {
     for (int round = 0; round < 20; ++round) {
         const RegistryAPI made(folder / std::to_string(round) / "Loan.store");
@@ -222,8 +272,6 @@ void FillDisk(const fs::path& store) {
         EXPECT_EQ(MarkOf(registry, std::to_string(i)), "kept") << i;
     }
     EXPECT_EQ(FailureOf([&] { SaveWorksheet(registry, "0", std::string(5'000, 'x')); }), NotMade);
-    EXPECT_EQ(TroubleOf([&] { SaveWorksheet(registry, "0", std::string(5'000, 'x')); }),
-              StoreTrouble::DiskFull);
     EXPECT_EQ(MarkOf(registry, "0"), "kept");
     EXPECT_EQ(PrepareStore(store, "today").state, State::Sound);
 }
@@ -244,7 +292,11 @@ bool HoldsOnSmallDisk(const fs::path& folder, const char* size,
 }
 
 TEST_F(StoreFaultTest, AFullDiskMakesTheSaveFailAndNothingElse) {
-    const bool holds = HoldsOnSmallDisk(folder, "size=1m", [&] { FillDisk(store); });
+    const bool holds = HoldsOnSmallDisk(folder, "size=1m", [&] {
+        FillDisk(store);
+        EXPECT_EQ(TroubleOf([&] { SaveWorksheet(registry, "0", std::string(5'000, 'x')); }),
+                  StoreTrouble::DiskFull);
+    });
     if (!holds && geteuid() != 0) {
         GTEST_SKIP() << "only root may make a small file system";
     }

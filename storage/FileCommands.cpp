@@ -49,7 +49,11 @@ FileCommands::FileCommands(Loan& window, LoanStore store)
     });
 }
 
-void FileCommands::cboLoanName_DropDown() { RefreshLoanList(); }
+/// The name typed is the one that is asked about and saved under, whatever is picked then.
+void FileCommands::cboLoanName_DropDown() {
+    m_window->Commit();
+    RefreshLoanList();
+}
 
 /// What is typed in the box stays.
 void FileCommands::RefreshLoanList() {

@@ -21,9 +21,7 @@ bool CanBeKey(const QString& name) {
     return name.size() <= 255 && !name.contains(u'\\') && !name.contains(QChar::Null);
 }
 
-bool IsNewLoan(const QString& name) {
-    return name == u"(new loan)" || name == u"(préstamo nuevo)";
-}
+bool IsNewLoan(const QString& name) { return name == u"(new loan)" || name == u"(préstamo nuevo)"; }
 
 int Letters(const QString& text) {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
@@ -142,15 +140,16 @@ void RandomUser::PickName(unsigned a, unsigned b) {
         return;
     }
     auto& box = *qobject_cast<QComboBox*>(Control(field));
-    const QString typed = box.currentText();
+    const View typed = Look();
     Press(Qt::Key_Down);
     Settle();
+    Commit(typed);
     const QStringList entries = QStringList(GetResourceText(TextNumber::NewLoan)) + m_book.Names();
     QStringList shown;
     for (int i = 0; i < box.count(); ++i) {
         shown.append(box.itemText(i));
     }
-    if (shown != entries || box.currentText() != typed) {
+    if (shown != entries || box.currentText() != typed.text) {
         Complain(u"the list shows %1 instead of %2"_qs.arg(shown.join(u'|'), entries.join(u'|')));
     }
     if (a % 6 == 0) {

@@ -251,21 +251,53 @@ TEST_F(FileCommandsTest, PickingTheNewLoanClears) {
     EXPECT_EQ(Kept(), QStringList(u"Beta"_qs));
 }
 
-/// A list that drops down takes the keyboard for a while; what is typed in its box is not yet
-/// meant.
-TEST_F(FileCommandsTest, DroppingTheListDownIsNotLeavingTheBox) {
+TEST_F(FileCommandsTest, DroppingTheListDownTakesTheNameTyped) {
     KeepLoan(u"Beta", u"70000");
     TypeName(u"Half ty");
     Press(Qt::Key_Down);
     ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
-    EXPECT_EQ(Sheet().LoanName(), u"Beta");
+    EXPECT_EQ(Sheet().LoanName(), u"Half ty");
     Press(Qt::Key_Escape);
     ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() == nullptr; }));
     ActivateAgain();
     EXPECT_EQ(Text(u"cboLoanName"), u"Half ty");
-    EXPECT_EQ(Sheet().LoanName(), u"Beta");
-    Tab();
     EXPECT_EQ(Sheet().LoanName(), u"Half ty");
+    EXPECT_EQ(Text(u"txtLoanAmount"), u"$70,000.00");
+    EXPECT_EQ(FocusName(), u"cboLoanName");
+}
+
+/// A copy under a new name, and another worksheet picked before it is saved.
+TEST_F(FileCommandsTest, TheNameTypedIsAskedAboutAndSavedUnder) {
+    KeepLoan(u"AA", u"1000");
+    KeepLoan(u"BB", u"2000");
+    for (const bool opensByKey : {true, false}) {
+        SCOPED_TRACE(opensByKey);
+        Pick(1);
+        Fill(u"txtLoanAmount", u"3000");
+        TypeName(u"Copy");
+        Door().Clear();
+        Door().WillAnswer({Answer::Yes});
+        if (opensByKey) {
+            Press(Qt::Key_Down);
+        } else {
+            QTest::mouseClick(Window().windowHandle(), Qt::LeftButton, {},
+                              NameBox().mapTo(&Window(), NameBox().rect().center() +
+                                                             QPoint(NameBox().width() / 2 - 6, 0)));
+        }
+        ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+        Settle();
+        Press(Qt::Key_End);
+        Press(Qt::Key_Return);
+        ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() == nullptr; }));
+        ActivateAgain();
+        Settle();
+        ASSERT_EQ(Door().Questions().size(), 1U);
+        EXPECT_EQ(Door().Questions().front().text, u"Do you want to save the changes to “Copy”?");
+        EXPECT_EQ("1000", KeptText("AA", "LoanAmount"));
+        EXPECT_EQ("3000", KeptText("Copy", "LoanAmount"));
+        LoanStore(m_folder.Store()).Delete(u"Copy"_qs);
+        EXPECT_EQ(SettledMessages(), QStringList());
+    }
 }
 
 TEST_F(FileCommandsTest, TypingANameThatIsKeptLoadsNothing) {

@@ -167,6 +167,9 @@ void FileCommands::LoadLoan(const QString& name) {
         return;
     }
     m_window->ClearNameMark();
+    if (outcome.incomplete) {
+        Tell(GetResourceText(TextNumber::LoanIncomplete));
+    }
     if (!outcome.failures.empty()) {
         Tell(GetResourceText(TextNumber::ValuesNotLoaded), FailureLines(outcome.failures));
     }

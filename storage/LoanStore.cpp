@@ -128,6 +128,7 @@ LoadOutcome LoanStore::Load(Worksheet& worksheet, const QString& name,
         outcome.exists = key && store.KeyExists(StoreRoot, *key);
         if (outcome.exists) {
             loaded.Read(store, *key);
+            outcome.incomplete = store.GetValueType(StoreRoot, *key, IncompleteName) != 0;
         }
     });
     outcome.exists = outcome.exists && outcome.trouble == StoreTrouble::None;

@@ -22,6 +22,7 @@ enum class NameFault {
 struct LoadOutcome {
     bool exists = false;
     StoreTrouble trouble = StoreTrouble::None; ///< why that is not known
+    bool incomplete = false;       ///< a repair of the store has lost some of its values
     std::vector<Failure> failures; ///< of values left out; the sources are the values' names
 };
 

@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "Frequency.h"
 #include "LoanTypes.h"
+#include "StoreNames.h"
 
 #include <array>
 
@@ -120,7 +121,7 @@ using C = CLoan;
 // clang-format off
 const std::array LoanValueTable{
     //     kind            from and to                                                         name                      missing  read as
-    OfLoan<PlainText,      &W::LoanName,                &W::SetLoanName>(                "LoanName",               "",   0),
+    OfLoan<PlainText,      &W::LoanName,                &W::SetLoanName>(                LoanNameName,             "",   0),
     OfLoan<LoanTypeText,   &W::LoanType,                &W::SetLoanType>(                "LoanType",               "",   1),
     OfLoan<Amount,         &W::LoanAmount,              &W::SetLoanAmount>(              "LoanAmount",             "0",  2),
     OfLoan<Months,         &W::LoanTerm,                &W::SetLoanTerm>(                "LoanTerm",               "0",  3),

@@ -217,7 +217,7 @@ bool RegistryAPI::Repair() const {
     if (!m_door.today) {
         return false;
     }
-    const StoreCondition condition = RepairStore(m_store, m_door.today());
+    const StoreCondition condition = RepairStore(m_store, m_door.today(), m_door.named);
     const bool repaired = condition.state == StoreCondition::State::Repaired;
     if (repaired && m_door.repaired) {
         m_door.repaired(condition.keptAs);

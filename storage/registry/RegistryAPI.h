@@ -30,12 +30,21 @@ using RegistryValue = std::variant<std::string, std::vector<std::byte>, std::int
 
 constexpr std::int32_t RegistryFlag(bool set) { return set ? -1 : 0; }
 
+/// Which keys a repair can find again by their values alone: those below `parent` that repeat their
+/// name in a text value. Without the name of that value none.
+struct NamedKeys {
+    RegistryRoot root = RegistryRoot::CurrentUser;
+    std::string parent;
+    std::string nameValue;
+};
+
 /// What a repair of the store in the middle of a step asks of the world outside, and tells it.
 struct RepairDoor {
     /// Stands in the name of the damaged file, as in 2026-11-21. Without it nothing is repaired.
     std::function<std::string()> today;
     /// Called once for each repair, before the step is made again; may be empty.
     std::function<void(const std::filesystem::path& keptAs)> repaired;
+    NamedKeys named = {};
 };
 
 /// Why the store could not be read or written, as far as that can be made out.

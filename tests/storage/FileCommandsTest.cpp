@@ -556,13 +556,23 @@ TEST_F(FileCommandsTest, ARepairInTheMiddleOfASaveIsToldOnce) {
     struct {
         int language;
         QStringView told;
+        QStringView opened;
     } const table[]{
         {English,
          u"The file with your saved worksheets was damaged. What could be read is in a new file: "
-         u"%2 worksheets. The damaged file has been kept as %1"},
-        {Spanish, u"El archivo con sus hojas de trabajo guardadas estaba dañado. Lo que se pudo "
-                  u"leer está en un archivo nuevo: %2 hojas de trabajo. El archivo dañado se "
-                  u"conservó como %1"},
+         u"1 complete worksheet. The damaged file has been kept as %1\n\n"
+         u"Not complete, because some values could not be read: “Delta”",
+         u"This worksheet is not complete: some of its values were lost when the file with your "
+         u"saved worksheets was damaged. If you save it under this name, it will be kept as you "
+         u"see it now."},
+        {Spanish,
+         u"El archivo con sus hojas de trabajo guardadas estaba dañado. Lo que se pudo "
+         u"leer está en un archivo nuevo: 1 hoja de trabajo completa. El archivo dañado se "
+         u"conservó como %1\n\n"
+         u"Con valores que faltan, porque no se pudieron leer: “Delta”",
+         u"Esta hoja de trabajo no está completa: algunos de sus valores se perdieron cuando se "
+         u"dañó el archivo con sus hojas de trabajo guardadas. Si la guarda con este nombre, se "
+         u"conservará como la ve ahora."},
     };
     for (const auto& row : table) {
         const StoreFolder folder;
@@ -570,16 +580,27 @@ TEST_F(FileCommandsTest, ARepairInTheMiddleOfASaveIsToldOnce) {
         Take(StoreThatTells(folder.File(), Window().GetMessages(),
                             [] { return std::string("2026-11-21"); }));
         KeepLoan(u"Alpha", u"1000");
+        KeepLoan(u"Delta", u"4000");
+        folder.Store().DeleteValue(StoreFolder::Root, StoreFolder::LoanKey("Delta"), "LoanTerm");
         Damage(folder.File());
         KeepLoan(u"Beta", u"2000");
         const QString kept =
             QString::fromStdString(folder.File().string()) + QStringLiteral(".damaged-2026-11-21");
-        EXPECT_EQ(SettledMessages(), QStringList(row.told.toString().arg(kept).arg(1)));
+        EXPECT_EQ(SettledMessages(), QStringList(row.told.toString().arg(kept)));
         EXPECT_TRUE(QFile::exists(kept));
         KeepLoan(u"Gamma", u"3000");
         EXPECT_EQ(SettledMessages().size(), 1);
         EXPECT_EQ(LoanStore(folder.Store()).Names(),
-                  (QStringList{u"Alpha"_qs, u"Beta"_qs, u"Gamma"_qs}));
+                  (QStringList{u"Alpha"_qs, u"Beta"_qs, u"Delta"_qs, u"Gamma"_qs}));
+        for (const bool saved : {false, true}) {
+            Door().Clear();
+            Pick(3);
+            EXPECT_EQ(SettledMessages(),
+                      saved ? QStringList() : QStringList(row.opened.toString()));
+            EXPECT_EQ(Sheet().LoanAmount(), Money::FromDouble(4'000));
+            Trigger(u"mnuFileSave");
+            Pick(1);
+        }
         Door().Clear();
     }
 }

@@ -16,6 +16,8 @@
 inline constexpr std::int32_t MostOffers = 16;
 
 inline constexpr const char* LoanCountName = "LoanCount";
+/// The one value that is both kept and computed.
+inline constexpr const char* CurrentPaymentName = "CurrentPayment";
 /// The form in which the worksheet's date was written. Not a property: it only tells how to read.
 inline constexpr const char* DateFormatName = "DateFormat";
 /// Set by a repair that could not find all values of the worksheet. No property either.

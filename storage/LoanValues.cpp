@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "Frequency.h"
+#include "LoadedLoan.h"
 #include "LoanTypes.h"
 #include "StoreNames.h"
 
@@ -134,7 +135,7 @@ const std::array LoanValueTable{
     OfLoan<Amount,         &W::CurrentActualPayment,    &W::SetCurrentActualPayment>(    "CurrentActualPayment",   "0", 14),
     OfLoan<FrequencyShown, &W::CurrentFrequency,        &W::SetCurrentFrequency>(        "CurrentFrequency",       "",  11),
     OfLoan<FrequencyShown, &W::CurrentActualFrequency,  &W::SetCurrentActualFrequency>(  "CurrentActualFrequency", "",  10),
-    OfLoan<Amount,         &W::CurrentPayment,          &W::SetCurrentPayment>(          "CurrentPayment",         "0", 13),
+    OfLoan<Amount,         &W::CurrentPayment,          &W::SetCurrentPayment>(          CurrentPaymentName,       "0", 13),
     OfLoan<Day,            &W::CurrentNextPayment,      &W::SetCurrentNextPayment>(      "CurrentNextPayment",     "",  12),
 };
 

@@ -461,6 +461,47 @@ TEST_F(LoanStoreTest, MissingValuesTakeTheirDefaults) {
     EXPECT_EQ(read.worksheet.Today(), read.worksheet.CurrentNextPayment());
 }
 
+TEST_F(LoanStoreTest, ThePaymentOfTheLoanHeldTodayIsTheOneThatWasKept) {
+    Sheet sheet;
+    Fill(sheet.worksheet);
+    Save(sheet);
+    sheet.worksheet.RecalculateCurrentPayment();
+    const Money computed = sheet.worksheet.CurrentPayment();
+    struct Case {
+        const char* kept;
+        Money loaded;
+        const char16_t* shown;
+    };
+    for (const Case& row : {Case{"1234.56", Units(1'234.56), u"$1,234.56"}, Case{"0", Money(), u""},
+                            Case{nullptr, Money(), u""}}) {
+        if (row.kept != nullptr) {
+            Put("CurrentPayment", row.kept);
+        } else {
+            m_folder.Store().DeleteValue(StoreFolder::Root, Key, "CurrentPayment");
+        }
+        Sheet read;
+        EXPECT_TRUE(Load(read).empty());
+        EXPECT_EQ(row.loaded, read.worksheet.CurrentPayment());
+        EXPECT_EQ(row.shown, read.display.TextOf({FieldId::CurPayment}));
+        EXPECT_FALSE(read.worksheet.Dirty());
+        read.worksheet.RecalculateCurrentPayment(); // as when one of its inputs is left
+        EXPECT_EQ(computed, read.worksheet.CurrentPayment());
+    }
+}
+
+/// What is missing of the loan held today is marked at once.
+TEST_F(LoanStoreTest, WhatIsMissingOfTheLoanHeldTodayIsMarked) {
+    Sheet sheet;
+    sheet.worksheet.SetLoanName(u"Our new home"_qs);
+    sheet.worksheet.SetCurrentInterestRate(0.05);
+    Save(sheet);
+    Sheet read;
+    EXPECT_TRUE(Load(read).empty());
+    EXPECT_EQ(Mark::Missing, read.display.Of({FieldId::CurLoanAmount}).mark);
+    EXPECT_EQ(Mark::None, read.display.Of({FieldId::CurInterestRate}).mark);
+    EXPECT_EQ(FrequencyCodeToText(u"M"_qs), read.worksheet.CurrentFrequency());
+}
+
 /// The intended payment is assigned before the rate: an offer of before must not refuse it.
 TEST_F(LoanStoreTest, LoadingOverOtherOffersRefusesNoPayment) {
     Sheet sheet;

@@ -52,8 +52,8 @@ inline constexpr int NotSaved = 127;
 inline constexpr int NameNotPossible = 128;
 inline constexpr int LenderTooLong = 129;   ///< %1 takes the number of the offer
 inline constexpr int ValuesNotLoaded = 130; ///< the failures follow it, one a line
-inline constexpr int StoreRepaired =
-    131; ///< %1: where the damaged file is, %2: WholeLoans or OneWholeLoan
+/// %1: where the damaged file is, %2: OneWholeLoan or WholeLoans
+inline constexpr int StoreRepaired = 131;
 inline constexpr int StoreNewer = 132;      ///< %1: the file
 inline constexpr int SettingsNotRead = 133; ///< the failures follow it, one a line
 inline constexpr int NotDeleted = 134;

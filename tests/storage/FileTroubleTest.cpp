@@ -9,6 +9,8 @@
 #include <fstream>
 #include <sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class FileTrouble : public FileCommandsTest {
@@ -35,14 +37,14 @@ TEST_F(FileTrouble, DeletingANameThatNoWorksheetCanHaveDeletesNone) {
         Trigger(u"mnuFileDelete");
         EXPECT_TRUE(Door().Questions().empty());
         EXPECT_EQ(SettledMessages(),
-                  QStringList(u"No worksheet can have this name, so nothing has been deleted."_qs));
+                  QStringList(u"No worksheet can have this name, so nothing has been deleted."_s));
         EXPECT_EQ(Sheet().LoanName(), name);
         EXPECT_EQ(Sheet().LoanAmount(), Money::FromDouble(7));
         if (Kept().isEmpty()) {
             Begin({}, m_folder.Store());
             KeepLoan(u"Alpha", u"1000");
         }
-        EXPECT_EQ(Kept(), QStringList(u"Alpha"_qs));
+        EXPECT_EQ(Kept(), QStringList(u"Alpha"_s));
     }
     EXPECT_EQ(m_folder.Number(BaseKey, "LoansDisplayed"), 3);
 }
@@ -54,10 +56,10 @@ TEST_F(FileTrouble, AWorksheetThatCannotBeDeletedStays) {
         const StoreOutOfReach closed(m_folder.File());
         Trigger(u"mnuFileDelete");
     }
-    EXPECT_EQ(SettledMessages(), QStringList(u"The worksheet could not be deleted."_qs));
+    EXPECT_EQ(SettledMessages(), QStringList(u"The worksheet could not be deleted."_s));
     EXPECT_EQ(Sheet().LoanName(), u"Alpha");
     EXPECT_EQ(Sheet().LoanAmount(), Money::FromDouble(1'000));
-    EXPECT_EQ(Kept(), QStringList(u"Alpha"_qs));
+    EXPECT_EQ(Kept(), QStringList(u"Alpha"_s));
 }
 
 TEST_F(FileTrouble, APickFromAStoreOutOfReachChangesNothing) {
@@ -75,7 +77,7 @@ TEST_F(FileTrouble, APickFromAStoreOutOfReachChangesNothing) {
     }
     EXPECT_EQ(SettledMessages(),
               QStringList(u"The worksheet could not be opened, because your saved worksheets "
-                          "cannot be read at the moment. What you see stays as it is."_qs));
+                          "cannot be read at the moment. What you see stays as it is."_s));
     EXPECT_EQ(Text(u"cboLoanName"), u"Beta");
     EXPECT_EQ(Sheet().LoanName(), u"Beta");
     EXPECT_EQ(Sheet().LoanAmount(), Money::FromDouble(2'000));
@@ -106,12 +108,12 @@ TEST_F(FileTrouble, AStoreInUseIsToldInBothLanguages) {
         const QStringList told = SettledMessages();
         ASSERT_EQ(told.size(), 2) << told.join(u'|').toStdString();
         EXPECT_TRUE(
-            told.front().endsWith(u"\n\n"_qs + row.reason.toString() +
-                                  u"\nerrn=1001  src=  desc=Unable to create the registry key"_qs))
+            told.front().endsWith(u"\n\n"_s + row.reason.toString() +
+                                  u"\nerrn=1001  src=  desc=Unable to create the registry key"_s))
             << told.front().toStdString();
-        EXPECT_TRUE(told.back().endsWith(u"\n\n"_qs + row.reason.toString()))
+        EXPECT_TRUE(told.back().endsWith(u"\n\n"_s + row.reason.toString()))
             << told.back().toStdString();
-        EXPECT_EQ(Kept(), QStringList(u"Alpha"_qs));
+        EXPECT_EQ(Kept(), QStringList(u"Alpha"_s));
     }
 }
 
@@ -176,7 +178,7 @@ TEST_F(FileTrouble, ARepairInTheMiddleOfASaveIsToldOnce) {
         KeepLoan(u"Gamma", u"3000");
         EXPECT_EQ(SettledMessages().size(), 1);
         EXPECT_EQ(LoanStore(folder.Store()).Names(),
-                  (QStringList{u"Alpha"_qs, u"Beta"_qs, u"Delta"_qs, u"Gamma"_qs}));
+                  (QStringList{u"Alpha"_s, u"Beta"_s, u"Delta"_s, u"Gamma"_s}));
         for (const bool saved : {false, true}) {
             Door().Clear();
             Pick(3);

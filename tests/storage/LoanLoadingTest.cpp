@@ -2,6 +2,8 @@
 
 #include "LoanStoreFixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class LoanLoading : public LoanStoreTest {};
@@ -43,7 +45,7 @@ TEST_F(LoanLoading, ABadValueIsReportedAndTheRestIsLoaded) {
         SCOPED_TRACE(std::string(bad.value) + " = " + bad.text);
         Sheet sheet;
         Fill(sheet.worksheet);
-        FillOffer(sheet.worksheet, Row{0}, u"First"_qs);
+        FillOffer(sheet.worksheet, Row{0}, u"First"_s);
         Save(sheet);
         Put(bad.value, bad.text);
         Sheet read;
@@ -71,7 +73,7 @@ TEST_F(LoanLoading, ACountThatCannotBeMakesNoEndlessRows) {
           Case{1'000'000, 1, 15, true}, Case{-1, 1, 5, false}, Case{INT32_MIN, 1, 5, false}}) {
         Sheet sheet;
         Fill(sheet.worksheet);
-        FillOffer(sheet.worksheet, Row{0}, u"First"_qs);
+        FillOffer(sheet.worksheet, Row{0}, u"First"_s);
         Save(sheet);
         m_folder.Store().SetValue(StoreFolder::Root, Key, "LoanCount", RegistryType::Number,
                                   row.count);
@@ -87,7 +89,7 @@ TEST_F(LoanLoading, MissingValuesTakeTheirDefaults) {
     m_folder.Store().CreateKey(StoreFolder::Root, Key);
     m_folder.Store().SetValue(StoreFolder::Root, Key, "LoanCount", RegistryType::Number, 2);
     Sheet read;
-    FillOffer(read.worksheet, Row{0}, u"Of before"_qs);
+    FillOffer(read.worksheet, Row{0}, u"Of before"_s);
     EXPECT_TRUE(Load(read).empty());
     EXPECT_EQ(Money(), read.worksheet.LoanAmount());
     EXPECT_EQ(u"", read.worksheet.LoanType());
@@ -127,14 +129,14 @@ TEST_F(LoanLoading, ThePaymentOfTheLoanHeldTodayIsTheOneThatWasKept) {
 /// What is missing of the loan held today is marked at once.
 TEST_F(LoanLoading, WhatIsMissingOfTheLoanHeldTodayIsMarked) {
     Sheet sheet;
-    sheet.worksheet.SetLoanName(u"Our new home"_qs);
+    sheet.worksheet.SetLoanName(u"Our new home"_s);
     sheet.worksheet.SetCurrentInterestRate(0.05);
     Save(sheet);
     Sheet read;
     EXPECT_TRUE(Load(read).empty());
     EXPECT_EQ(Mark::Missing, read.display.Of({FieldId::CurLoanAmount}).mark);
     EXPECT_EQ(Mark::None, read.display.Of({FieldId::CurInterestRate}).mark);
-    EXPECT_EQ(FrequencyCodeToText(u"M"_qs), read.worksheet.CurrentFrequency());
+    EXPECT_EQ(FrequencyCodeToText(u"M"_s), read.worksheet.CurrentFrequency());
 }
 
 /// The intended payment is assigned before the rate: an offer of before must not refuse it.
@@ -144,12 +146,12 @@ TEST_F(LoanLoading, LoadingOverOtherOffersRefusesNoPayment) {
     CLoan& offer = sheet.worksheet.OfferOfRow(Row{0});
     offer.SetTerm(360);
     offer.SetInterestRate(0.03);
-    offer.SetFrequencyCode(u"M"_qs);
+    offer.SetFrequencyCode(u"M"_s);
     offer.SetActualPayment(Units(1'600));
     Save(sheet);
     Sheet other;
     Fill(other.worksheet);
-    FillOffer(other.worksheet, Row{0}, u"Dear"_qs);
+    FillOffer(other.worksheet, Row{0}, u"Dear"_s);
     other.display.ForgetCalls();
     EXPECT_TRUE(Load(other).empty());
     EXPECT_EQ(0, other.display.PaymentsRefused());
@@ -165,14 +167,14 @@ TEST_F(LoanLoading, AStoreThatCannotBeReadHasLostNothing) {
     Save(sheet);
     {
         const StoreOutOfReach closed(m_folder.File());
-        EXPECT_THROW(Loans().Delete(u"Our new home"_qs), StoreFailure);
+        EXPECT_THROW(Loans().Delete(u"Our new home"_s), StoreFailure);
         const LoadOutcome outcome = Outcome(sheet);
         EXPECT_FALSE(outcome.exists);
         EXPECT_NE(StoreTrouble::None, outcome.trouble);
     }
     EXPECT_EQ(Units(250'000.5), sheet.worksheet.LoanAmount());
     EXPECT_TRUE(Outcome(sheet).exists);
-    EXPECT_NO_THROW(Loans().Delete(u"Our new home"_qs));
+    EXPECT_NO_THROW(Loans().Delete(u"Our new home"_s));
     EXPECT_TRUE(Loans().Names().isEmpty());
 }
 

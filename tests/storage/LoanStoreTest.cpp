@@ -4,6 +4,8 @@
 
 #include <map>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct KeptText {
@@ -41,7 +43,7 @@ TEST_F(LoanStoreTest, WritesEachValueUnderItsName) {
          {std::pair{UnitedStates, &KeptText::inEnglish}, std::pair{Germany, &KeptText::inGerman}}) {
         Sheet sheet(locale);
         Fill(sheet.worksheet);
-        FillOffer(sheet.worksheet, Row{0}, u"First\r\nPrairie Bank"_qs);
+        FillOffer(sheet.worksheet, Row{0}, u"First\r\nPrairie Bank"_s);
         Save(sheet);
         EXPECT_FALSE(sheet.worksheet.Dirty());
         for (const KeptText& kept : KeptTexts) {
@@ -54,7 +56,7 @@ TEST_F(LoanStoreTest, WritesEachValueUnderItsName) {
 
 TEST_F(LoanStoreTest, AnEmptyWorksheetIsKeptAsZeros) {
     Sheet sheet;
-    sheet.worksheet.SetLoanName(u"Our new home"_qs);
+    sheet.worksheet.SetLoanName(u"Our new home"_s);
     Save(sheet);
     for (const char* value : {"LoanAmount", "LoanTerm", "EscrowTaxes", "CurrentInterestRate"}) {
         EXPECT_EQ("0", Kept(value)) << value;
@@ -69,7 +71,7 @@ TEST_F(LoanStoreTest, AnEmptyWorksheetIsKeptAsZeros) {
 /// What a worksheet would keep, as it stands.
 std::map<std::string, std::string> ValuesOf(Worksheet& worksheet) {
     const StoreFolder folder;
-    worksheet.SetLoanName(u"same"_qs);
+    worksheet.SetLoanName(u"same"_s);
     LoanStore(folder.Store()).Save(worksheet);
     std::map<std::string, std::string> values;
     const std::string key = StoreFolder::LoanKey("same");
@@ -84,7 +86,7 @@ std::map<std::string, std::string> ValuesOf(Worksheet& worksheet) {
 TEST_F(LoanStoreTest, WhatWasKeptComesBackEqual) {
     Sheet written;
     Fill(written.worksheet);
-    FillOffer(written.worksheet, Row{0}, u"First\r\nPrairie Bank"_qs);
+    FillOffer(written.worksheet, Row{0}, u"First\r\nPrairie Bank"_s);
     Save(written);
     Sheet read;
     EXPECT_TRUE(Load(read).empty());
@@ -113,7 +115,7 @@ TEST_F(LoanStoreTest, NoFigureChangesUnderAnotherLocaleOrLanguage) {
         Sheet written(abroad.writer);
         Language::Instance().LoadLanguage(abroad.writerLanguage);
         Fill(written.worksheet);
-        FillOffer(written.worksheet, Row{0}, u"Añil"_qs);
+        FillOffer(written.worksheet, Row{0}, u"Añil"_s);
         Save(written);
         Language::Instance().LoadLanguage(abroad.readerLanguage);
         Sheet read(abroad.reader);
@@ -130,17 +132,17 @@ TEST_F(LoanStoreTest, NoFigureChangesUnderAnotherLocaleOrLanguage) {
 TEST_F(LoanStoreTest, OffersComeBackPacked) {
     Sheet sheet;
     Fill(sheet.worksheet);
-    FillOffer(sheet.worksheet, Row{2}, u"Second"_qs);
-    FillOffer(sheet.worksheet, Row{5}, u"Fifth"_qs);
+    FillOffer(sheet.worksheet, Row{2}, u"Second"_s);
+    FillOffer(sheet.worksheet, Row{5}, u"Fifth"_s);
     Save(sheet);
     EXPECT_EQ(2, m_folder.Number(Key, "LoanCount"));
     EXPECT_EQ("Fifth", Kept("Loan 2 Who"));
     EXPECT_EQ("(missing)", Kept("Loan 3 Who"));
 
     Sheet other;
-    FillOffer(other.worksheet, Row{4}, u"Of before"_qs);
+    FillOffer(other.worksheet, Row{4}, u"Of before"_s);
     EXPECT_TRUE(Load(other).empty());
-    const std::vector<QString> expected{u"Second"_qs, u"Fifth"_qs, {}, {}, {}, {}};
+    const std::vector<QString> expected{u"Second"_s, u"Fifth"_s, {}, {}, {}, {}};
     for (Row row{0}; row <= other.worksheet.HighestOfferRow(); ++row.value) {
         EXPECT_EQ(expected.at(static_cast<std::size_t>(row.value)),
                   other.worksheet.OfferOfRow(row).Who());
@@ -152,11 +154,11 @@ TEST_F(LoanStoreTest, OffersComeBackPacked) {
 TEST_F(LoanStoreTest, AShorterSaveLeavesNoOldOffers) {
     Sheet sheet;
     Fill(sheet.worksheet);
-    FillOffer(sheet.worksheet, Row{0}, u"First"_qs);
-    FillOffer(sheet.worksheet, Row{1}, u"Second"_qs);
+    FillOffer(sheet.worksheet, Row{0}, u"First"_s);
+    FillOffer(sheet.worksheet, Row{1}, u"Second"_s);
     Save(sheet);
     sheet.worksheet.Clear();
-    sheet.worksheet.SetLoanName(u"Our new home"_qs);
+    sheet.worksheet.SetLoanName(u"Our new home"_s);
     Save(sheet);
     EXPECT_EQ("(missing)", Kept("Loan 1 Who"));
     EXPECT_EQ("(missing)", Kept("Loan 2 Who"));
@@ -185,15 +187,15 @@ TEST_F(LoanStoreTest, WhatMakesAnOfferWorthKeeping) {
     for (const Case& row : {
              Case{"nothing", [](CLoan&) {}, false},
              Case{"a term", [](CLoan& offer) { offer.SetTerm(360); }, false},
-             Case{"a frequency", [](CLoan& offer) { offer.SetFrequencyCode(u"M"_qs); }, false},
-             Case{"a lender", [](CLoan& offer) { offer.SetWho(u"x"_qs); }, true},
+             Case{"a frequency", [](CLoan& offer) { offer.SetFrequencyCode(u"M"_s); }, false},
+             Case{"a lender", [](CLoan& offer) { offer.SetWho(u"x"_s); }, true},
              Case{"a payment", [](CLoan& offer) { offer.SetActualPayment(Units(1)); }, true},
              Case{"financed", [](CLoan& offer) { offer.SetFinancePoints(true); }, true},
              Case{"a rate", [](CLoan& offer) { offer.SetInterestRate(0.01); }, true},
              Case{"points", [](CLoan& offer) { offer.SetPoints(-0.5); }, true},
          }) {
         Sheet sheet;
-        sheet.worksheet.SetLoanName(u"Our new home"_qs);
+        sheet.worksheet.SetLoanName(u"Our new home"_s);
         row.enter(sheet.worksheet.OfferOfRow(Row{3}));
         Save(sheet);
         EXPECT_EQ(row.worth ? 1 : 0, m_folder.Number(Key, "LoanCount")) << row.name;
@@ -208,21 +210,21 @@ TEST_F(LoanStoreTest, NamesThatCanAndCannotBeKeys) {
     };
     using Fault = NameFault;
     for (const Case& row : {
-             Case{u""_qs, Fault::Empty},
-             Case{u" "_qs, Fault::Empty},
-             Case{u"  "_qs, Fault::None},
-             Case{u"Casa de la Ñandú 🏠"_qs, Fault::None},
-             Case{u"C:\\loans"_qs, Fault::NoKey},
-             Case{u"\\"_qs, Fault::NoKey},
-             Case{u"Alpha\\"_qs, Fault::NoKey},
-             Case{u"\\Alpha"_qs, Fault::NoKey},
+             Case{u""_s, Fault::Empty},
+             Case{u" "_s, Fault::Empty},
+             Case{u"  "_s, Fault::None},
+             Case{u"Casa de la Ñandú 🏠"_s, Fault::None},
+             Case{u"C:\\loans"_s, Fault::NoKey},
+             Case{u"\\"_s, Fault::NoKey},
+             Case{u"Alpha\\"_s, Fault::NoKey},
+             Case{u"\\Alpha"_s, Fault::NoKey},
              Case{QString(255, u'x'), Fault::None},
              Case{QString(256, u'x'), Fault::NoKey},
-             Case{u"(new loan)"_qs, Fault::NewLoan},
-             Case{u"(préstamo nuevo)"_qs, Fault::NewLoan},
-             Case{u"a/b*c?"_qs, Fault::None},
-             Case{u"a"_qs + QChar(QChar::Null), Fault::NoKey},
-             Case{u"half "_qs + QChar(0xD83C), Fault::NoKey},
+             Case{u"(new loan)"_s, Fault::NewLoan},
+             Case{u"(préstamo nuevo)"_s, Fault::NewLoan},
+             Case{u"a/b*c?"_s, Fault::None},
+             Case{u"a"_s + QChar(QChar::Null), Fault::NoKey},
+             Case{u"half "_s + QChar(0xD83C), Fault::NoKey},
          }) {
         EXPECT_EQ(row.fault, LoanStore::FaultOf(row.name)) << row.name.toStdString();
         EXPECT_EQ(row.fault == Fault::Empty, LoanStore::IsEmptyName(row.name));
@@ -232,17 +234,17 @@ TEST_F(LoanStoreTest, NamesThatCanAndCannotBeKeys) {
 TEST_F(LoanStoreTest, ANameThatNoWorksheetCanHaveReachesNoOther) {
     m_folder.Store().SetValue(StoreFolder::Root, BaseKey, "TermInMonths", RegistryType::Number, 5);
     Sheet nothing;
-    Loans().Delete(u"\\"_qs); // with nothing saved, the settings would go
+    Loans().Delete(u"\\"_s); // with nothing saved, the settings would go
     EXPECT_EQ(5, m_folder.Number(BaseKey, "TermInMonths"));
-    for (const QString& saved : {u"Alpha"_qs, u"half \uFFFD"_qs}) {
+    for (const QString& saved : {u"Alpha"_s, u"half \uFFFD"_s}) {
         Sheet sheet;
         sheet.worksheet.SetLoanName(saved);
         Save(sheet);
     }
     const QStringList kept = Loans().Names();
     for (const QString& name :
-         {u"\\"_qs, u"Alpha\\"_qs, u"\\Alpha"_qs, u"Alpha\\\\"_qs, u"\\\\Alpha"_qs, QString(),
-          u"Alpha"_qs + QChar(QChar::Null), u"half "_qs + QChar(0xD83C)}) {
+         {u"\\"_s, u"Alpha\\"_s, u"\\Alpha"_s, u"Alpha\\\\"_s, u"\\\\Alpha"_s, QString(),
+          u"Alpha"_s + QChar(QChar::Null), u"half "_s + QChar(0xD83C)}) {
         SCOPED_TRACE(name.toStdString());
         EXPECT_FALSE(Loans().Exists(name));
         EXPECT_FALSE(Outcome(nothing, name).exists);
@@ -258,7 +260,7 @@ TEST_F(LoanStoreTest, ANameThatNoWorksheetCanHaveReachesNoOther) {
 }
 
 TEST_F(LoanStoreTest, TheLongestNameAndEveryNameWithinItsLimitsAreKept) {
-    for (const QString& name : {QString(255, u'x'), u"  "_qs, u" lead and trail "_qs, u"Ñ🏠é"_qs}) {
+    for (const QString& name : {QString(255, u'x'), u"  "_s, u" lead and trail "_s, u"Ñ🏠é"_s}) {
         Sheet sheet;
         sheet.worksheet.SetLoanName(name);
         sheet.worksheet.SetLoanAmount(Units(7));
@@ -272,25 +274,25 @@ TEST_F(LoanStoreTest, TheLongestNameAndEveryNameWithinItsLimitsAreKept) {
 
 TEST_F(LoanStoreTest, NamesAreListedInAlphabeticalOrder) {
     EXPECT_TRUE(Loans().Names().isEmpty());
-    for (const QString& name : {u"beta"_qs, u"Alpha"_qs, u"gamma"_qs, u"ALPHA 2"_qs}) {
+    for (const QString& name : {u"beta"_s, u"Alpha"_s, u"gamma"_s, u"ALPHA 2"_s}) {
         Sheet sheet;
         sheet.worksheet.SetLoanName(name);
         Save(sheet);
     }
-    EXPECT_EQ(QStringList({u"Alpha"_qs, u"ALPHA 2"_qs, u"beta"_qs, u"gamma"_qs}), Loans().Names());
-    EXPECT_TRUE(Loans().Exists(u"GAMMA"_qs));
-    Loans().Delete(u"gamma"_qs);
-    EXPECT_FALSE(Loans().Exists(u"gamma"_qs));
-    EXPECT_NO_THROW(Loans().Delete(u"never kept"_qs));
+    EXPECT_EQ(QStringList({u"Alpha"_s, u"ALPHA 2"_s, u"beta"_s, u"gamma"_s}), Loans().Names());
+    EXPECT_TRUE(Loans().Exists(u"GAMMA"_s));
+    Loans().Delete(u"gamma"_s);
+    EXPECT_FALSE(Loans().Exists(u"gamma"_s));
+    EXPECT_NO_THROW(Loans().Delete(u"never kept"_s));
 }
 
 TEST_F(LoanStoreTest, LendersAreCountedInCharactersAsUsersCountThem) {
     EXPECT_TRUE(LoanStore::CanHoldLender(QString(1023, u'x')));
     EXPECT_FALSE(LoanStore::CanHoldLender(QString(1024, u'x')));
-    EXPECT_TRUE(LoanStore::CanHoldLender(u"e\u0301"_qs.repeated(1023)));
+    EXPECT_TRUE(LoanStore::CanHoldLender(u"e\u0301"_s.repeated(1023)));
     Sheet sheet;
     Fill(sheet.worksheet);
-    const QString longest = u"e\u0301"_qs.repeated(1023);
+    const QString longest = u"e\u0301"_s.repeated(1023);
     FillOffer(sheet.worksheet, Row{0}, longest);
     Save(sheet);
     Sheet read;

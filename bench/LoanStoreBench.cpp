@@ -125,9 +125,10 @@ void MeasureLoads(benchmark::State& state, const LoanStore& loans, const QString
     Rounds rounds(state);
     for ([[maybe_unused]] auto round : state) {
         const auto start = Clock::now();
-        const auto failures = loans.Load(sheet.worksheet, name, [](Row /*last*/) {});
+        const LoadOutcome outcome = loans.Load(sheet.worksheet, name, [](Row /*last*/) {});
         rounds.Add(start);
-        if (!failures.empty() || sheet.worksheet.OfferOfRow(Row{offers - 1}).Who().isEmpty()) {
+        if (!outcome.exists || !outcome.failures.empty() ||
+            sheet.worksheet.OfferOfRow(Row{offers - 1}).Who().isEmpty()) {
             state.SkipWithError("not all of it");
         }
     }

@@ -52,11 +52,24 @@ inline constexpr int NotSaved = 127;
 inline constexpr int NameNotPossible = 128;
 inline constexpr int LenderTooLong = 129;   ///< %1 takes the number of the offer
 inline constexpr int ValuesNotLoaded = 130; ///< the failures follow it, one a line
-inline constexpr int StoreRepaired = 131;   ///< %1: where the damaged file is, %2: how many loans
+/// %1: where the damaged file is, %2: OneWholeLoan or WholeLoans
+inline constexpr int StoreRepaired = 131;
 inline constexpr int StoreNewer = 132;      ///< %1: the file
 inline constexpr int SettingsNotRead = 133; ///< the failures follow it, one a line
 inline constexpr int NotDeleted = 134;
 inline constexpr int StoreUnusable = 135; ///< %1: the file
+inline constexpr int NoSuchNameToDelete = 600;
+inline constexpr int NameOfNewLoan = 601;
+inline constexpr int NotLoaded = 602; ///< why, where that is known, follows it
+inline constexpr int StoreDiskFull = 603;
+inline constexpr int StoreReadOnly = 604;
+inline constexpr int StoreInUse = 605;
+inline constexpr int StoreNotAllowed = 606;
+inline constexpr int OneWholeLoan = 607;
+inline constexpr int WholeLoans = 608; ///< %1: how many, but for one
+/// Follows StoreRepaired; %1: their names
+inline constexpr int LoansIncomplete = 609;
+inline constexpr int LoanIncomplete = 610;
 inline constexpr int WindowTitle = 200;
 inline constexpr int NoPicture = 520;
 inline constexpr int PictureNotShown = 521;
@@ -139,6 +152,17 @@ inline constexpr std::array All{
     SettingsNotRead,
     NotDeleted,
     StoreUnusable,
+    NoSuchNameToDelete,
+    NameOfNewLoan,
+    NotLoaded,
+    StoreDiskFull,
+    StoreReadOnly,
+    StoreInUse,
+    StoreNotAllowed,
+    OneWholeLoan,
+    WholeLoans,
+    LoansIncomplete,
+    LoanIncomplete,
     WindowTitle,
     NoPicture,
     PictureNotShown,

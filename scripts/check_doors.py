@@ -19,6 +19,7 @@ _DOORS = frozenset({
     "language/LanguageIdentifier.cpp",
     "printing/UserPrinter.cpp",
     "storage/registry/StoreFile.cpp",
+    "storage/registry/StoreTrouble.cpp",
     "storage/registry/UserStore.cpp",
     "storage/registry/WindowsRegistry.cpp",
     "worksheet/window/ProgramPart.cpp",

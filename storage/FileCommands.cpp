@@ -5,6 +5,7 @@
 #include "Loan.h"
 #include "LoanForm.h"
 #include "LoanNameBox.h"
+#include "StoreNotice.h"
 #include "TextNumbers.h"
 
 #include <QAction>
@@ -48,7 +49,11 @@ FileCommands::FileCommands(Loan& window, LoanStore store)
     });
 }
 
-void FileCommands::cboLoanName_DropDown() { RefreshLoanList(); }
+/// The name typed is the one that is asked about and saved under, whatever is picked then.
+void FileCommands::cboLoanName_DropDown() {
+    m_window->Commit();
+    RefreshLoanList();
+}
 
 /// What is typed in the box stays.
 void FileCommands::RefreshLoanList() {
@@ -107,21 +112,18 @@ void FileCommands::cboLoanName_Click(const QString& picked) {
         m_worksheet->Show({FieldId::LoanName});
     } else if (picked == GetResourceText(TextNumber::NewLoan)) {
         ClearWorksheet();
-    } else if (m_store.Exists(picked)) {
-        LoadLoan(picked);
     } else {
-        m_worksheet->SetLoanName(picked);
+        LoadLoan(picked);
     }
     m_window->Reenter();
 }
 
 bool FileCommands::CanSave() const {
-    if (LoanStore::IsEmptyName(m_worksheet->LoanName())) {
-        Tell(GetResourceText(TextNumber::NoNameToSave));
-        return false;
-    }
-    if (!LoanStore::CanHold(m_worksheet->LoanName())) {
-        Tell(GetResourceText(TextNumber::NameNotPossible));
+    const NameFault fault = LoanStore::FaultOf(m_worksheet->LoanName());
+    if (fault != NameFault::None) {
+        Tell(GetResourceText(fault == NameFault::Empty     ? TextNumber::NoNameToSave
+                             : fault == NameFault::NewLoan ? TextNumber::NameOfNewLoan
+                                                           : TextNumber::NameNotPossible));
         return false;
     }
     for (Row row{0}; row <= m_worksheet->HighestOfferRow(); ++row.value) {
@@ -142,20 +144,34 @@ bool FileCommands::SaveLoan() {
     try {
         m_store.Save(*m_worksheet);
     } catch (const Failure& failure) {
-        Tell(GetResourceText(TextNumber::NotSaved), FailureText(failure));
+        Tell(GetResourceText(TextNumber::NotSaved), StoreFailureText(failure));
         return false;
     }
     return true;
 }
 
+/// A name that no worksheet has any more is only set. While the store cannot be read, that is not
+/// known, and everything stays.
 void FileCommands::LoadLoan(const QString& name) {
     CMouse mouse;
     mouse.SetPointer(MousePointer::Hourglass);
-    const std::vector<Failure> failures =
+    const LoadOutcome outcome =
         m_store.Load(*m_worksheet, name, [this](Row last) { m_window->Rows().GrowTo(last); });
+    if (outcome.trouble != StoreTrouble::None) {
+        Tell(GetResourceText(TextNumber::NotLoaded), TroubleText(outcome.trouble));
+        m_worksheet->Show({FieldId::LoanName});
+        return;
+    }
+    if (!outcome.exists) {
+        m_worksheet->SetLoanName(name);
+        return;
+    }
     m_window->ClearNameMark();
-    if (!failures.empty()) {
-        Tell(GetResourceText(TextNumber::ValuesNotLoaded), FailureLines(failures));
+    if (outcome.incomplete) {
+        Tell(GetResourceText(TextNumber::LoanIncomplete));
+    }
+    if (!outcome.failures.empty()) {
+        Tell(GetResourceText(TextNumber::ValuesNotLoaded), FailureLines(outcome.failures));
     }
 }
 
@@ -163,6 +179,9 @@ void FileCommands::mnuFileDelete_Click() {
     const QString name = m_worksheet->LoanName();
     if (LoanStore::IsEmptyName(name) && m_worksheet->Dirty()) {
         ClearWorksheet();
+    } else if (LoanStore::FaultOf(name) == NameFault::NoKey) {
+        Tell(GetResourceText(TextNumber::NoSuchNameToDelete));
+        return;
     } else {
         const Question question{WithName(TextNumber::DeleteQuestion, name),
                                 GetResourceText(TextNumber::DeleteTitle)};
@@ -184,11 +203,13 @@ bool FileCommands::DeleteLoan() {
     }
     CMouse mouse;
     mouse.SetPointer(MousePointer::Hourglass);
-    const bool gone = m_store.Delete(m_worksheet->LoanName());
-    if (!gone) {
-        Tell(GetResourceText(TextNumber::NotDeleted));
+    try {
+        m_store.Delete(m_worksheet->LoanName());
+    } catch (const StoreFailure& failure) {
+        Tell(GetResourceText(TextNumber::NotDeleted), TroubleText(failure.Trouble()));
+        return false;
     }
-    return gone;
+    return true;
 }
 
 void FileCommands::ClearWorksheet() {

@@ -4,6 +4,7 @@
 #include "StoreNames.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace {
 
@@ -59,9 +60,15 @@ std::vector<Failure> LoadedLoan::Put(Worksheet& worksheet, const QString& name,
     const StoredTexts texts(m_formats, m_dateFormat);
     const auto values = InOrderOfReading(KeptLoanValues());
     for (std::size_t i = 0; i < values.size(); ++i) {
+        const bool isPayment = values[i]->name == std::string_view(CurrentPaymentName);
+        if (isPayment) {
+            // What it is computed from has come; what is missing of that is marked. The payment
+            // itself stays the one that was kept until something of it is entered anew.
+            Try(CurrentPaymentName, [&] { worksheet.RecalculateCurrentPayment(); });
+        }
         const bool isMissing = m_loan.at(i) == values[i]->Missing();
         Try(values[i]->name, [&] {
-            if (!isMissing) {
+            if (!isMissing || isPayment) {
                 values[i]->read(worksheet, m_loan.at(i), texts);
             }
         });
@@ -71,8 +78,6 @@ std::vector<Failure> LoadedLoan::Put(Worksheet& worksheet, const QString& name,
         growTo(Row{static_cast<int>(m_offers.size()) - 1});
     }
     PutOffers(worksheet);
-    // The offers and the schedule have been computed as their values came.
-    Try("CurrentPayment", [&] { worksheet.RecalculateCurrentPayment(); });
     worksheet.ClearDirty();
     return m_failures;
 }

@@ -16,8 +16,12 @@
 inline constexpr std::int32_t MostOffers = 16;
 
 inline constexpr const char* LoanCountName = "LoanCount";
+/// The one value that is both kept and computed.
+inline constexpr const char* CurrentPaymentName = "CurrentPayment";
 /// The form in which the worksheet's date was written. Not a property: it only tells how to read.
 inline constexpr const char* DateFormatName = "DateFormat";
+/// Set by a repair that could not find all values of the worksheet. No property either.
+inline constexpr const char* IncompleteName = "Incomplete";
 
 /// What the names of an offer's values begin with: "Loan 3". Offers are numbered from 1.
 std::string OfferPrefix(int number);

@@ -1,5 +1,6 @@
 #include "LoanStore.h"
 
+#include "KeyPath.h"
 #include "Language.h"
 #include "LoadedLoan.h"
 #include "LoanValues.h"
@@ -8,9 +9,16 @@
 
 #include <QTextBoundaryFinder>
 
+#include <optional>
+
 namespace {
 
-std::string KeyOf(const QString& name) { return std::string(BaseKey) + '\\' + name.toStdString(); }
+/// No value for a name that no worksheet can have: it would lead to another key than was meant.
+std::optional<std::string> KeyOf(const QString& name) {
+    return LoanStore::CanBeKept(name)
+               ? std::optional(std::string(BaseKey) + '\\' + name.toStdString())
+               : std::nullopt;
+}
 
 /// As a user counts: a letter with its accents is one.
 qsizetype CharactersOf(const QString& text) {
@@ -51,11 +59,21 @@ bool LoanStore::IsEmptyName(const QString& name) {
     return name.isEmpty() || name == QStringLiteral(" ");
 }
 
-bool LoanStore::CanHold(const QString& name) {
-    constexpr qsizetype longest = 255;
-    const QStringList newLoan = Language::Instance().TextInEveryLanguage(TextNumber::NewLoan);
-    return name.size() <= longest && !name.contains(u'\\') && !name.contains(QChar::Null) &&
-           !newLoan.contains(name);
+bool LoanStore::CanBeKept(const QString& name) {
+    return !IsEmptyName(name) && name.size() <= static_cast<qsizetype>(LongestKeyName) &&
+           name.isValidUtf16() && !name.contains(u'\\') && !name.contains(QChar::Null);
+}
+
+NameFault LoanStore::FaultOf(const QString& name) {
+    if (IsEmptyName(name)) {
+        return NameFault::Empty;
+    }
+    if (!CanBeKept(name)) {
+        return NameFault::NoKey;
+    }
+    const bool newLoan =
+        Language::Instance().TextInEveryLanguage(TextNumber::NewLoan).contains(name);
+    return newLoan ? NameFault::NewLoan : NameFault::None;
 }
 
 bool LoanStore::CanHoldLender(const QString& who) {
@@ -83,28 +101,53 @@ QStringList LoanStore::Names() const {
 }
 
 bool LoanStore::Exists(const QString& name) const {
-    return m_store.KeyExists(StoreRoot, KeyOf(name));
+    const auto key = KeyOf(name);
+    return key && m_store.KeyExists(StoreRoot, *key);
 }
 
 void LoanStore::Save(Worksheet& worksheet) const {
-    const std::string key = KeyOf(worksheet.LoanName());
+    const auto key = KeyOf(worksheet.LoanName());
+    if (!key) {
+        throw StoreFailure(StoreTrouble::Unknown);
+    }
     m_store.InOneStep([&](const RegistryAPI& store) {
         // The whole key first, so that no offer of an earlier, longer save survives.
-        store.DeleteKey(StoreRoot, key);
-        store.CreateKey(StoreRoot, key);
-        Write(store, key, worksheet);
+        store.DeleteKey(StoreRoot, *key);
+        store.CreateKey(StoreRoot, *key);
+        Write(store, *key, worksheet);
     });
     worksheet.ClearDirty();
 }
 
-std::vector<Failure> LoanStore::Load(Worksheet& worksheet, const QString& name,
-                                     const std::function<void(Row)>& growTo) const {
+LoadOutcome LoanStore::Load(Worksheet& worksheet, const QString& name,
+                            const std::function<void(Row)>& growTo) const {
+    const auto key = KeyOf(name);
     LoadedLoan loaded(worksheet.Texts().Formats());
-    m_store.ReadInOneStep([&](const RegistryAPI& store) { loaded.Read(store, KeyOf(name)); });
-    return loaded.Put(worksheet, name, growTo);
+    LoadOutcome outcome;
+    outcome.trouble = m_store.ReadInOneStep([&](const RegistryAPI& store) {
+        outcome.exists = key && store.KeyExists(StoreRoot, *key);
+        if (outcome.exists) {
+            loaded.Read(store, *key);
+            outcome.incomplete = store.GetValueType(StoreRoot, *key, IncompleteName) != 0;
+        }
+    });
+    outcome.exists = outcome.exists && outcome.trouble == StoreTrouble::None;
+    if (outcome.exists) {
+        outcome.failures = loaded.Put(worksheet, name, growTo);
+    }
+    return outcome;
 }
 
-bool LoanStore::Delete(const QString& name) const {
-    m_store.DeleteKey(StoreRoot, KeyOf(name));
-    return !Exists(name);
+/// What cannot be read looks as if it were gone: only a step that was kept says that it is.
+void LoanStore::Delete(const QString& name) const {
+    const auto key = KeyOf(name);
+    if (!key) {
+        return;
+    }
+    m_store.InOneStep([&](const RegistryAPI& store) {
+        store.DeleteKey(StoreRoot, *key);
+        if (store.KeyExists(StoreRoot, *key)) {
+            throw StoreFailure(StoreTrouble::Unknown);
+        }
+    });
 }

@@ -2,7 +2,9 @@
 
 #include "Failure.h"
 #include "Frequency.h"
+#include "LoadedLoan.h"
 #include "LoanTypes.h"
+#include "StoreNames.h"
 
 #include <array>
 
@@ -120,7 +122,7 @@ using C = CLoan;
 // clang-format off
 const std::array LoanValueTable{
     //     kind            from and to                                                         name                      missing  read as
-    OfLoan<PlainText,      &W::LoanName,                &W::SetLoanName>(                "LoanName",               "",   0),
+    OfLoan<PlainText,      &W::LoanName,                &W::SetLoanName>(                LoanNameName,             "",   0),
     OfLoan<LoanTypeText,   &W::LoanType,                &W::SetLoanType>(                "LoanType",               "",   1),
     OfLoan<Amount,         &W::LoanAmount,              &W::SetLoanAmount>(              "LoanAmount",             "0",  2),
     OfLoan<Months,         &W::LoanTerm,                &W::SetLoanTerm>(                "LoanTerm",               "0",  3),
@@ -133,7 +135,7 @@ const std::array LoanValueTable{
     OfLoan<Amount,         &W::CurrentActualPayment,    &W::SetCurrentActualPayment>(    "CurrentActualPayment",   "0", 14),
     OfLoan<FrequencyShown, &W::CurrentFrequency,        &W::SetCurrentFrequency>(        "CurrentFrequency",       "",  11),
     OfLoan<FrequencyShown, &W::CurrentActualFrequency,  &W::SetCurrentActualFrequency>(  "CurrentActualFrequency", "",  10),
-    OfLoan<Amount,         &W::CurrentPayment,          &W::SetCurrentPayment>(          "CurrentPayment",         "0", 13),
+    OfLoan<Amount,         &W::CurrentPayment,          &W::SetCurrentPayment>(          CurrentPaymentName,       "0", 13),
     OfLoan<Day,            &W::CurrentNextPayment,      &W::SetCurrentNextPayment>(      "CurrentNextPayment",     "",  12),
 };
 

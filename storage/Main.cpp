@@ -16,10 +16,12 @@
 #include "PrintCommands.h"
 #include "PrinterOfPart.h"
 #include "ProgramIcon.h"
+#include "RepairedLoans.h"
 #include "SettingsStore.h"
 #include "ShareCommands.h"
 #include "StartUp.h"
 #include "StoreCheck.h"
+#include "StoreNames.h"
 #include "StoreNotice.h"
 #include "TextNumbers.h"
 #include "VersionRecord.h"
@@ -59,7 +61,8 @@ std::optional<QString> Obstacle(const RegistryAPI& store, const StoreCondition& 
     try {
         PrepareKeyAndLanguage(store, UserDefaultLanguageIdentifier());
     } catch (const Failure& failure) {
-        return StoreText(TextNumber::StoreUnusable) + QStringLiteral("\n\n") + FailureText(failure);
+        return StoreText(TextNumber::StoreUnusable) + QStringLiteral("\n\n") +
+               StoreFailureText(failure);
     }
     return std::nullopt;
 }
@@ -67,7 +70,7 @@ std::optional<QString> Obstacle(const RegistryAPI& store, const StoreCondition& 
 void TellAboutStore(Messages& messages, const RegistryAPI& store, const StoreCondition& condition,
                     const std::vector<Failure>& refused) {
     if (condition.state == StoreCondition::State::Repaired) {
-        messages.Post(RepairNotice(store, condition.keptAs));
+        messages.Post(RepairNotice(FindIncomplete(store), condition.keptAs));
     }
     if (!refused.empty()) {
         messages.Post(GetResourceText(TextNumber::SettingsNotRead) + QStringLiteral("\n\n") +
@@ -106,7 +109,8 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
 
 /// Looks at the store while the toolkit gets ready.
 std::future<StoreCondition> BeginLook(const std::filesystem::path& place) {
-    return std::async([place, today = TodayInWords()] { return PrepareStore(place, today); });
+    return std::async(
+        [place, today = TodayInWords()] { return PrepareStore(place, today, NamedLoans()); });
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 
 namespace {
 
-/// 0 when none was ever set.
+/// 0 or less when none was ever set: below 0 stands for one that was only detected.
 int ChosenLanguage(const RegistryAPI& store) {
     if (!store.KeyExists(StoreRoot, BaseKey)) {
         store.CreateKey(StoreRoot, BaseKey);
@@ -21,7 +21,7 @@ int ChosenLanguage(const RegistryAPI& store) {
 void PrepareKeyAndLanguage(const RegistryAPI& store, std::uint16_t languageIdentifier) {
     Language& language = Language::Instance();
     language.SetCurrentLanguage(ChosenLanguage(store));
-    if (language.CurrentLanguage() == 0) {
+    if (language.CurrentLanguage() < 1) {
         language.DetectLanguage(languageIdentifier);
     }
 }

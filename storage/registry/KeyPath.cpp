@@ -16,20 +16,15 @@ bool Fits(std::string_view name, std::size_t longest) {
 
 std::optional<std::vector<std::string>> PathElements(const std::string& keyName) {
     std::string_view rest = UpToNul(keyName);
-    if (rest.starts_with('\\')) {
-        return std::nullopt;
-    }
     std::vector<std::string> elements;
-    while (!rest.empty()) {
+    for (bool more = !rest.empty(); more;) {
         const std::string_view element = rest.substr(0, rest.find('\\'));
-        rest.remove_prefix(element.size() == rest.size() ? rest.size() : element.size() + 1);
-        if (element.empty()) {
-            continue;
-        }
-        if (!Fits(element, LongestKeyName) || elements.size() == DeepestPath) {
+        if (element.empty() || !Fits(element, LongestKeyName) || elements.size() == DeepestPath) {
             return std::nullopt;
         }
         elements.emplace_back(element);
+        more = element.size() < rest.size();
+        rest.remove_prefix(element.size() + (more ? 1 : 0));
     }
     return elements;
 }

@@ -11,10 +11,11 @@ inline constexpr std::size_t LongestKeyName = 255;
 inline constexpr std::size_t LongestValueName = 16'383;
 inline constexpr std::size_t DeepestPath = 512;
 
-/// The elements of a path below a root: none for an empty path, which is the root itself. Doubled
-/// and trailing backslashes count for nothing. No value when no key can have that path: it starts
-/// with a backslash, is deeper or has a longer element than a store holds, or is no UTF-8. A path
-/// ends at its first NUL.
+/// The elements of a path below a root: none for an empty path, which is the root itself. No value
+/// when no key can have that path: an element is empty (a backslash at either end, or two in a
+/// row), longer than a store holds or no UTF-8, or there are too many. An empty element is refused
+/// rather than passed over, because a name with a backslash would lead to another key than was
+/// meant. A path ends at its first NUL.
 std::optional<std::vector<std::string>> PathElements(const std::string& keyName);
 
 /// The name of a value up to its first NUL, or no value when no value can have that name.

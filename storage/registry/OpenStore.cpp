@@ -51,13 +51,13 @@ std::unique_ptr<OpenStore> OpenStore::ToRead(const std::filesystem::path& store,
     try {
         return opened(Connection(store, wait));
     } catch (const StoreError& error) {
-        if (!IsOutOfReach(error)) {
+        const std::string image =
+            IsOutOfReach(error) ? StoreImage(store).AsPlainFile() : std::string();
+        if (image.empty()) {
             throw;
         }
+        return opened(Connection::OfBytes(image));
     }
-    const std::string image = StoreImage(store).AsPlainFile();
-    Require(!image.empty(), "no store there");
-    return opened(Connection::OfBytes(image));
 }
 
 std::unique_ptr<OpenStore> OpenStore::ToWrite(const std::filesystem::path& store,

@@ -1,19 +1,17 @@
 #include "RegistryAPI.h"
 
-#include "Failure.h"
 #include "KeyPath.h"
 #include "StoreCheck.h"
 #include "StoreStep.h"
+#include "StoreTrouble.h"
 #include "ValueBytes.h"
 
 namespace {
 
-Failure NotMade() { return {1001, "", "Unable to create the registry key"}; }
-
-/// The same, for a reason that can be mended.
-class DamageMet : public Failure {
+/// For a reason that can be mended.
+class DamageMet : public StoreFailure {
 public:
-    DamageMet() : Failure(NotMade()) {}
+    DamageMet() : StoreFailure(StoreTrouble::Unknown) {}
 };
 
 std::int64_t KeyOf(RegistryRoot root) { return KeyTree::RootKey(static_cast<std::uint32_t>(root)); }
@@ -44,20 +42,27 @@ std::shared_ptr<StoreStep> StartStep(const std::filesystem::path& store,
         if (error.IsDamage()) {
             throw DamageMet();
         }
-        throw NotMade();
+        throw StoreFailure(TroubleOf(error, store));
     }
 }
 
-/// A store that cannot be read gives defaults.
 std::shared_ptr<StoreStep> StartReading(const std::filesystem::path& store,
                                         std::chrono::milliseconds wait) {
-    std::unique_ptr<OpenStore> opened;
     try {
-        opened = OpenStore::ToRead(store, wait);
-    } catch (const StoreError&) {
-        opened.reset();
+        return std::make_shared<StoreStep>(OpenStore::ToRead(store, wait), StoreStep::Kind::Reads);
+    } catch (const StoreError& error) {
+        return std::make_shared<StoreStep>(error, StoreStep::Kind::Reads);
     }
-    return std::make_shared<StoreStep>(std::move(opened), StoreStep::Kind::Reads);
+}
+
+/// Also of a step that was over when it was used.
+StoreTrouble TroubleOfStep(const StoreStep& step, const std::filesystem::path& store) {
+    return step.Error() ? TroubleOf(*step.Error(), store) : StoreTrouble::Unknown;
+}
+
+bool IsMissing(const std::filesystem::path& store) {
+    std::error_code error;
+    return std::filesystem::status(store, error).type() == std::filesystem::file_type::not_found;
 }
 
 } // namespace
@@ -66,21 +71,17 @@ RegistryAPI::RegistryAPI(std::filesystem::path store, std::chrono::milliseconds 
                          RepairDoor door)
     : m_store(std::move(store)), m_wait(wait), m_door(std::move(door)) {}
 
-bool RegistryAPI::Read(const std::function<void(KeyTree&)>& reading) const {
-    if (m_step) {
-        return m_step->Run(reading);
-    }
-    try {
-        reading(OpenStore::ToRead(m_store, m_wait)->Keys());
-        return true;
-    } catch (const StoreError&) {
-        return false;
-    }
+/// A store that cannot be read gives defaults.
+void RegistryAPI::Read(const std::function<void(KeyTree&)>& reading) const {
+    const std::shared_ptr<StoreStep> step = m_step ? m_step : StartReading(m_store, m_wait);
+    step->Run(reading);
 }
 
-bool RegistryAPI::Write(const std::function<void(KeyTree&)>& writing, bool makesStore) const {
+StoreTrouble RegistryAPI::Write(const std::function<void(KeyTree&)>& writing,
+                                bool makesStore) const {
     if (m_step) {
-        return m_step->Writes() && m_step->Run(writing);
+        return m_step->Writes() && m_step->Run(writing) ? StoreTrouble::None
+                                                        : TroubleOfStep(*m_step, m_store);
     }
     using Missing = OpenStore::Missing;
     try {
@@ -88,9 +89,9 @@ bool RegistryAPI::Write(const std::function<void(KeyTree&)>& writing, bool makes
             OpenStore::ToWrite(m_store, m_wait, makesStore ? Missing::IsMade : Missing::Fails);
         writing(store->Keys());
         store->Keep();
-        return true;
-    } catch (const StoreError&) {
-        return false;
+        return StoreTrouble::None;
+    } catch (const StoreError& error) {
+        return TroubleOf(error, m_store);
     }
 }
 
@@ -106,7 +107,7 @@ bool RegistryAPI::KeyExists(RegistryRoot keyRoot, const std::string& keyName) co
 bool RegistryAPI::CreateKey(RegistryRoot keyRoot, const std::string& keyName) const {
     const auto path = PathElements(keyName);
     if (!path) {
-        throw NotMade();
+        throw StoreFailure(StoreTrouble::Unknown);
     }
     if (KeyExists(keyRoot, keyName)) {
         return true;
@@ -116,8 +117,9 @@ bool RegistryAPI::CreateKey(RegistryRoot keyRoot, const std::string& keyName) co
         existed = keys.Find(KeyOf(keyRoot), *path).has_value(); // made by another program just now
         keys.Create(KeyOf(keyRoot), *path);
     };
-    if (!Write(create, true)) {
-        throw NotMade();
+    const StoreTrouble trouble = Write(create, true);
+    if (trouble != StoreTrouble::None) {
+        throw StoreFailure(trouble);
     }
     return existed;
 }
@@ -215,7 +217,7 @@ bool RegistryAPI::Repair() const {
     if (!m_door.today) {
         return false;
     }
-    const StoreCondition condition = RepairStore(m_store, m_door.today());
+    const StoreCondition condition = RepairStore(m_store, m_door.today(), m_door.named);
     const bool repaired = condition.state == StoreCondition::State::Repaired;
     if (repaired && m_door.repaired) {
         m_door.repaired(condition.keptAs);
@@ -233,7 +235,7 @@ void RegistryAPI::TryStep(const std::function<void(const RegistryAPI&)>& steps) 
     try {
         steps(bound);
         if (!step.Writes() || !(inner ? step.IsWhole() : step.Keep())) {
-            throw NotMade();
+            throw StoreFailure(TroubleOfStep(step, m_store));
         }
     } catch (...) {
         step.Break(); // an inner step takes the outer one with it
@@ -244,10 +246,15 @@ void RegistryAPI::TryStep(const std::function<void(const RegistryAPI&)>& steps) 
     }
 }
 
-void RegistryAPI::ReadInOneStep(const std::function<void(const RegistryAPI&)>& steps) const {
+StoreTrouble
+RegistryAPI::ReadInOneStep(const std::function<void(const RegistryAPI&)>& steps) const {
     RegistryAPI bound(*this);
     if (!m_step) {
         bound.m_step = StartReading(m_store, m_wait);
     }
     steps(bound);
+    if (!bound.m_step->Error() || IsMissing(m_store)) {
+        return StoreTrouble::None;
+    }
+    return TroubleOfStep(*bound.m_step, m_store);
 }

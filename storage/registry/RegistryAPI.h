@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Failure.h"
+
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
@@ -28,12 +30,43 @@ using RegistryValue = std::variant<std::string, std::vector<std::byte>, std::int
 
 constexpr std::int32_t RegistryFlag(bool set) { return set ? -1 : 0; }
 
+/// Which keys a repair can find again by their values alone: those below `parent` that repeat their
+/// name in a text value. Without the name of that value none.
+struct NamedKeys {
+    RegistryRoot root = RegistryRoot::CurrentUser;
+    std::string parent;
+    std::string nameValue;
+};
+
 /// What a repair of the store in the middle of a step asks of the world outside, and tells it.
 struct RepairDoor {
     /// Stands in the name of the damaged file, as in 2026-11-21. Without it nothing is repaired.
     std::function<std::string()> today;
     /// Called once for each repair, before the step is made again; may be empty.
     std::function<void(const std::filesystem::path& keptAs)> repaired;
+    NamedKeys named = {};
+};
+
+/// Why the store could not be read or written, as far as that can be made out.
+enum class StoreTrouble {
+    None,
+    Unknown,
+    DiskFull,
+    ReadOnly,   ///< the file system takes no writing
+    NotAllowed, ///< the user has no right to the file or its folder
+    InUse       ///< another program was writing for longer than the wait
+};
+
+/// The failure of a key or a step that could not be made, with the reason.
+class StoreFailure : public Failure {
+public:
+    explicit StoreFailure(StoreTrouble trouble)
+        : Failure(1001, "", "Unable to create the registry key"), m_trouble(trouble) {}
+
+    StoreTrouble Trouble() const { return m_trouble; }
+
+private:
+    StoreTrouble m_trouble;
 };
 
 class KeyTree;
@@ -64,8 +97,7 @@ public:
 
     bool KeyExists(RegistryRoot keyRoot, const std::string& keyName) const;
 
-    /// Makes every missing key of the path. True when the key existed already. Throws Failure 1001
-    /// "Unable to create the registry key".
+    /// Makes every missing key of the path. True when the key existed already. Throws StoreFailure.
     bool CreateKey(RegistryRoot keyRoot, const std::string& keyName) const;
 
     /// Deletes a key with its values. A key that has subkeys stays.
@@ -100,21 +132,21 @@ public:
     /// that it reads is of one moment. Waits a few seconds for another program that is writing.
     /// When it meets damage the store is repaired, if it was given a door for that, and `steps` run
     /// once more from the beginning.
-    /// Throws what `steps` throws, with nothing kept; and Failure 1001 "Unable to create the
-    /// registry key" when the step could not be made, because the store cannot be written to, the
-    /// disk is full, or the wait was in vain. Where the platform's registry knows no such steps the
-    /// writes are made one by one.
+    /// Throws what `steps` throws, with nothing kept; and StoreFailure when the step could not be
+    /// made, because the store cannot be written to, the disk is full, or the wait was in vain.
+    /// Where the platform's registry knows no such steps the writes are made one by one.
     void InOneStep(const std::function<void(const RegistryAPI&)>& steps) const;
 
     /// The same for reading alone: nothing is written, nothing is waited for, and a store that
-    /// cannot be read gives defaults.
-    void ReadInOneStep(const std::function<void(const RegistryAPI&)>& steps) const;
+    /// cannot be read gives defaults. What kept it from being read is returned; a store that is not
+    /// there holds nothing, and is no trouble.
+    StoreTrouble ReadInOneStep(const std::function<void(const RegistryAPI&)>& steps) const;
 
 private:
     bool Repair() const;
     void TryStep(const std::function<void(const RegistryAPI&)>& steps) const;
-    bool Read(const std::function<void(KeyTree&)>& reading) const;
-    bool Write(const std::function<void(KeyTree&)>& writing, bool makesStore = false) const;
+    void Read(const std::function<void(KeyTree&)>& reading) const;
+    StoreTrouble Write(const std::function<void(KeyTree&)>& writing, bool makesStore = false) const;
 
     std::filesystem::path m_store;
     std::chrono::milliseconds m_wait;

@@ -3,6 +3,7 @@
 #include "KeyPath.h"
 #include "KeyTree.h"
 #include "Names.h"
+#include "RegistryAPI.h"
 #include "StoreImage.h"
 #include "StorePages.h"
 #include "StoreRows.h"
@@ -97,14 +98,14 @@ private:
 
     void TakeKey(const std::optional<KeyRow>& row) {
         if (row && IsKeyName(row->name, row->folded)) {
-            m_salvage.m_keys[row->id] = Key{row->parent, std::string(row->name)};
+            m_salvage.m_keys[row->id] = Key{row->parent, std::string(row->name), false};
         }
     }
 
     void TakeIndexed(const std::optional<KeyRow>& row) {
         const std::string name = row ? Unfolded(row->folded) : std::string();
         if (row && IsKeyName(name, row->folded)) {
-            m_salvage.m_keys.try_emplace(row->id, Key{row->parent, name});
+            m_salvage.m_keys.try_emplace(row->id, Key{row->parent, name, true});
         }
     }
 
@@ -130,33 +131,91 @@ Salvage::Salvage(const StoreImage& image) {
     }
 }
 
-Salvage::Counts Salvage::WriteTo(KeyTree& keys) const {
-    Counts counts;
-    // The roots have the numbers below zero.
-    std::set<std::int64_t> roots;
-    for (auto child = m_children.begin(); child != m_children.lower_bound(0); ++child) {
-        roots.insert(child->first);
-    }
-    for (auto value = m_values.begin(); value != m_values.lower_bound({0, {}}); ++value) {
-        roots.insert(value->first.first);
-    }
-    for (const std::int64_t root : roots) {
-        WriteBelow(keys, root, root, 0, counts);
-    }
-    return counts;
+/// The name that the values of a key repeat, or none.
+std::string Salvage::NameOf(std::int64_t key, const NamedKeys& named) const {
+    const auto value = m_values.find({key, Folded(named.nameValue)});
+    const bool fits = !named.nameValue.empty() && value != m_values.end() &&
+                      value->second.type == RegistryType::Text &&
+                      IsKeyName(value->second.data, Folded(value->second.data));
+    return fits ? value->second.data : std::string();
 }
 
-void Salvage::WriteBelow(KeyTree& keys, std::int64_t from, std::int64_t to, int depth,
-                         Counts& counts) const {
-    for (auto value = m_values.lower_bound({from, {}});
-         value != m_values.end() && value->first.first == from; ++value) {
-        keys.Set(to, value->second.name, {value->second.type, value->second.data});
-        ++counts.values;
+class Salvage::Writer {
+public:
+    Writer(const Salvage& salvage, KeyTree& keys, const NamedKeys& named)
+        : m_salvage(salvage), m_keys(keys), m_named(named) {}
+
+    void WriteRoots() {
+        // The roots have the numbers below zero.
+        std::set<std::int64_t> roots;
+        const auto& children = m_salvage.m_children;
+        for (auto child = children.begin(); child != children.lower_bound(0); ++child) {
+            roots.insert(child->first);
+        }
+        const auto& values = m_salvage.m_values;
+        for (auto value = values.begin(); value != values.lower_bound({0, {}}); ++value) {
+            roots.insert(value->first.first);
+        }
+        for (const std::int64_t root : roots) {
+            WriteBelow(root, root, 0);
+        }
     }
-    const auto [first, end] = m_children.equal_range(from);
-    for (auto child = first; child != end && depth < static_cast<int>(DeepestPath); ++child) {
-        const std::int64_t made = keys.Create(to, {m_keys.at(child->second).name});
-        ++counts.keys;
-        WriteBelow(keys, child->second, made, depth + 1, counts);
+
+    /// The newest first: of two of one name the older one may have been deleted long ago.
+    void WriteLost() {
+        const auto parent = PathElements(m_named.parent);
+        const std::int64_t root = KeyTree::RootKey(static_cast<std::uint32_t>(m_named.root));
+        const auto& values = m_salvage.m_values;
+        for (auto value = values.rbegin(); parent && value != values.rend(); ++value) {
+            const std::int64_t key = value->first.first;
+            const std::string name = m_written.contains(key) ? "" : m_salvage.NameOf(key, m_named);
+            KeyTree::Path path = *parent;
+            path.push_back(name);
+            if (!name.empty() && !m_keys.Find(root, path)) {
+                ++m_counts.keys;
+                WriteBelow(key, m_keys.Create(root, path), static_cast<int>(path.size()));
+            }
+        }
     }
+
+    const Counts& Written() const { return m_counts; }
+
+private:
+    void WriteBelow(std::int64_t from, std::int64_t to, int depth) {
+        m_written.insert(from);
+        const auto& values = m_salvage.m_values;
+        for (auto value = values.lower_bound({from, {}});
+             value != values.end() && value->first.first == from; ++value) {
+            m_keys.Set(to, value->second.name, {value->second.type, value->second.data});
+            ++m_counts.values;
+        }
+        const auto [first, end] = m_salvage.m_children.equal_range(from);
+        for (auto child = first; child != end && depth < static_cast<int>(DeepestPath); ++child) {
+            if (m_written.contains(child->second)) {
+                continue; // damage can make a key its own parent
+            }
+            ++m_counts.keys;
+            WriteBelow(child->second, m_keys.Create(to, {NameOfChild(child->second)}), depth + 1);
+        }
+    }
+
+    std::string NameOfChild(std::int64_t child) const {
+        const Key& key = m_salvage.m_keys.at(child);
+        const std::string repeated =
+            key.nameInUpperCase ? m_salvage.NameOf(child, m_named) : std::string();
+        return Folded(repeated) == Folded(key.name) ? repeated : key.name;
+    }
+
+    const Salvage& m_salvage;
+    KeyTree& m_keys;
+    const NamedKeys& m_named;
+    std::set<std::int64_t> m_written;
+    Counts m_counts;
+};
+
+Salvage::Counts Salvage::WriteTo(KeyTree& keys, const NamedKeys& named) const {
+    Writer writer(*this, keys, named);
+    writer.WriteRoots();
+    writer.WriteLost();
+    return writer.Written();
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+struct NamedKeys;
 class KeyTree;
 class StoreImage;
 
@@ -22,13 +23,15 @@ public:
     };
 
     /// Writes it all below the roots of an empty store. What belonged to a key whose name and place
-    /// are lost is left out. Throws StoreError.
-    Counts WriteTo(KeyTree& keys) const;
+    /// are lost is left out, but for named keys: their values say both. Where a key of that name is
+    /// there already, it stays as it is. Throws StoreError.
+    Counts WriteTo(KeyTree& keys, const NamedKeys& named) const;
 
 private:
     struct Key {
         std::int64_t parent = 0;
         std::string name;
+        bool nameInUpperCase = false; ///< all that was left of it
     };
     struct Value {
         std::string name;
@@ -36,9 +39,9 @@ private:
         std::string data;
     };
     class Reader;
+    class Writer;
 
-    void WriteBelow(KeyTree& keys, std::int64_t from, std::int64_t to, int depth,
-                    Counts& counts) const;
+    std::string NameOf(std::int64_t key, const NamedKeys& named) const;
 
     std::map<std::int64_t, Key> m_keys;
     std::multimap<std::int64_t, std::int64_t> m_children;

@@ -10,8 +10,9 @@ constexpr const char* FileSystemName = "quend-loan";
 
 void Check(int code, sqlite3* connection) {
     if (code != SQLITE_OK) {
-        throw connection != nullptr ? StoreError(code, sqlite3_errmsg(connection))
-                                    : StoreError(code);
+        throw connection != nullptr
+            ? StoreError(code, sqlite3_errmsg(connection), sqlite3_system_errno(connection))
+            : StoreError(code);
     }
 }
 
@@ -86,9 +87,9 @@ bool Statement::Next() {
     }
     sqlite3* const connection = sqlite3_db_handle(m_statement.get());
     if (code != SQLITE_DONE) {
-        const std::string text = sqlite3_errmsg(connection);
+        const StoreError error(code, sqlite3_errmsg(connection), sqlite3_system_errno(connection));
         Reset();
-        throw StoreError(code, text);
+        throw error;
     }
     Reset();
     return false;

@@ -15,15 +15,19 @@ struct sqlite3_stmt;
 class StoreError : public std::runtime_error {
 public:
     explicit StoreError(int code);
-    StoreError(int code, const std::string& text) : std::runtime_error(text), m_code(code) {}
+    StoreError(int code, const std::string& text, int systemError = 0)
+        : std::runtime_error(text), m_code(code), m_systemError(systemError) {}
 
     /// SQLite's primary result code.
     int Code() const { return m_code & 0xFF; }
     /// Whether what is in the file is the reason.
     bool IsDamage() const;
+    /// What the system gave as its reason (errno); 0 when that is not known.
+    int SystemError() const { return m_systemError; }
 
 private:
     int m_code;
+    int m_systemError = 0;
 };
 
 /// A command with its bound values, kept to be run again. All failures throw StoreError.

@@ -90,20 +90,12 @@ void KeepAs(const fs::path& file, const fs::path& name) {
     }
 }
 
-void RemoveStore(const fs::path& store) {
-    for (const fs::path& file : {store, StoreFile::LogOf(store), StoreFile::SharedOf(store)}) {
-        std::error_code error;
-        fs::remove(file, error);
-    }
-}
-
-Salvage::Counts WriteNew(const fs::path& made, const Salvage& salvage) {
-    RemoveStore(made);
+Salvage::Counts WriteNew(const fs::path& made, const Salvage& salvage, const NamedKeys& named) {
     StoreFile::Make(made, Wait);
     Salvage::Counts counts;
     {
         const auto store = OpenStore::ToWrite(made, Wait, OpenStore::Missing::Fails);
-        counts = salvage.WriteTo(store->Keys());
+        counts = salvage.WriteTo(store->Keys(), named);
         store->Keep();
     }
     Connection(made, Wait).Execute("PRAGMA wal_checkpoint(TRUNCATE)");
@@ -111,37 +103,34 @@ Salvage::Counts WriteNew(const fs::path& made, const Salvage& salvage) {
 }
 
 /// At no moment is there less on the disk than the damaged store and its log.
-StoreCondition Repair(const fs::path& store, const std::string& today) {
-    fs::path made = store;
-    made += ".new";
+StoreCondition Repair(const fs::path& store, const std::string& today, const NamedKeys& named) {
+    const fs::path made = StoreFile::NewOf(store);
     try {
-        const Salvage::Counts counts = WriteNew(made, Salvage(StoreImage(store)));
+        const Salvage::Counts counts = WriteNew(made, Salvage(StoreImage(store)), named);
         const fs::path kept = FreeNameFor(store, today);
         KeepAs(store, kept);
         if (fs::exists(StoreFile::LogOf(store))) {
             KeepAs(StoreFile::LogOf(store), StoreFile::LogOf(kept));
         }
-        fs::remove(StoreFile::LogOf(store));
-        fs::remove(StoreFile::SharedOf(store));
-        fs::rename(made, store);
-        RemoveStore(made);
+        StoreFile::PutInPlace(made, store);
         FoldLogIfLonger(store, 0);
         return {Condition::Repaired, kept, counts.keys, counts.values};
     } catch (const StoreError&) {
-        RemoveStore(made);
+        StoreFile::Remove(made);
     } catch (const fs::filesystem_error&) {
-        RemoveStore(made);
+        StoreFile::Remove(made);
     }
     return {Condition::Unusable, {}, 0, 0};
 }
 
-StoreCondition RepairIfStillDamaged(const fs::path& store, const std::string& today) {
+StoreCondition RepairIfStillDamaged(const fs::path& store, const std::string& today,
+                                    const NamedKeys& named) {
     try {
         // Of two programs that start at once the second finds what the first has repaired.
         const StoreFile::FolderLock lock(store.parent_path(), Wait);
         const Finding finding = SecondLook(store);
         return finding == Finding::Damaged
-                   ? Repair(store, today)
+                   ? Repair(store, today, named)
                    : StoreCondition{
                          finding == Finding::Newer ? Condition::Newer : Condition::Sound, {}, 0, 0};
     } catch (const StoreError&) {
@@ -151,7 +140,8 @@ StoreCondition RepairIfStillDamaged(const fs::path& store, const std::string& to
 
 } // namespace
 
-StoreCondition PrepareStore(const fs::path& store, const std::string& today) {
+StoreCondition PrepareStore(const fs::path& store, const std::string& today,
+                            const NamedKeys& named) {
     std::error_code error;
     const fs::file_status status = fs::status(store, error);
     if (status.type() == fs::file_type::not_found) {
@@ -170,16 +160,17 @@ StoreCondition PrepareStore(const fs::path& store, const std::string& today) {
         FoldLogIfLonger(store, LongLog);
         return {};
     default:
-        return RepairIfStillDamaged(store, today);
+        return RepairIfStillDamaged(store, today, named);
     }
 }
 
-StoreCondition RepairStore(const fs::path& store, const std::string& today) {
+StoreCondition RepairStore(const fs::path& store, const std::string& today,
+                           const NamedKeys& named) {
     try {
         const StoreFile::FolderLock lock(store.parent_path(), Wait);
         return KindOf(StoreImage(store)) == StoreKind::Newer
                    ? StoreCondition{Condition::Newer, {}, 0, 0}
-                   : Repair(store, today);
+                   : Repair(store, today, named);
     } catch (const StoreError&) {
         return {Condition::Unusable, {}, 0, 0};
     }

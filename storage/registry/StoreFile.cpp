@@ -5,6 +5,7 @@
 
 #include <sqlite3.h>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <string>
 #include <sys/file.h>
@@ -33,22 +34,34 @@ void MakeFolder(const std::filesystem::path& folder) {
     mkdir(folder.c_str(), S_IRWXU); // whether it is there is seen when the file is made
 }
 
-/// An empty file for the user alone. True when it is empty, whoever made it.
-bool MakeEmptyFile(const std::filesystem::path& store) {
-    const int file = open(store.c_str(), O_CREAT | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
+/// For the user alone, where there was none.
+void MakeEmptyFile(const std::filesystem::path& store) {
+    const int file = open(store.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (file < 0) {
-        throw StoreError(SQLITE_CANTOPEN);
+        throw StoreError(SQLITE_CANTOPEN, "no file could be made", errno);
     }
-    struct stat facts {};
-    const bool empty = fstat(file, &facts) == 0 && facts.st_size == 0;
     close(file);
-    return empty;
 }
 
-bool IsThere(const std::filesystem::path& store) {
+enum class Found { Nothing, Empty, Something };
+
+Found Look(const std::filesystem::path& store) {
     std::error_code error;
+    if (!std::filesystem::exists(store, error) && !error) {
+        return Found::Nothing;
+    }
     const auto size = std::filesystem::file_size(store, error);
-    return !error && size > 0;
+    return !error && size == 0 ? Found::Empty : Found::Something;
+}
+
+void FillNew(const std::filesystem::path& store, std::chrono::milliseconds wait) {
+    const Connection connection(store, wait);
+    connection.Execute("PRAGMA auto_vacuum=NONE;PRAGMA page_size=4096;PRAGMA journal_mode=WAL");
+    SetUpForWriting(connection);
+    Transaction making(connection, Transaction::Kind::Write);
+    StoreLayout::Migrate(connection);
+    making.Keep();
+    connection.Execute("PRAGMA wal_checkpoint(TRUNCATE)");
 }
 
 } // namespace
@@ -63,26 +76,65 @@ void SetUpForWriting(const Connection& connection) {
     sqlite3_wal_autocheckpoint(connection.Handle(), PagesOfLongLog);
 }
 
-void Make(const std::filesystem::path& store, std::chrono::milliseconds wait) {
-    if (!MakeEmptyFile(store)) {
-        return;
+std::filesystem::path NewOf(const std::filesystem::path& store) { return Beside(store, ".new"); }
+
+void Remove(const std::filesystem::path& store) {
+    for (const std::filesystem::path& file : {store, LogOf(store), SharedOf(store)}) {
+        std::error_code error;
+        std::filesystem::remove(file, error);
     }
-    const Connection connection(store, wait);
-    connection.Execute("PRAGMA auto_vacuum=NONE;PRAGMA page_size=4096;PRAGMA journal_mode=WAL");
-    SetUpForWriting(connection);
-    Transaction making(connection, Transaction::Kind::Write);
-    StoreLayout::Migrate(connection);
-    making.Keep();
-    FoldLog(connection);
+}
+
+void Make(const std::filesystem::path& store, std::chrono::milliseconds wait) {
+    Remove(store);
+    try {
+        MakeEmptyFile(store);
+        FillNew(store, wait);
+    } catch (const StoreError&) {
+        Remove(store);
+        throw;
+    }
+    std::error_code error;
+    std::filesystem::remove(LogOf(store), error); // empty now
+    std::filesystem::remove(SharedOf(store), error);
+}
+
+void PutInPlace(const std::filesystem::path& made, const std::filesystem::path& store) {
+    std::error_code error;
+    // The log of another file would be laid over this one.
+    std::filesystem::remove(LogOf(store), error);
+    if (!error) {
+        std::filesystem::remove(SharedOf(store), error);
+        std::filesystem::rename(made, store, error);
+    }
+    if (error) {
+        throw StoreError(SQLITE_IOERR, error.message(), error.value());
+    }
+    Remove(made);
 }
 
 void MakeWhereMissing(const std::filesystem::path& store, std::chrono::milliseconds wait) {
-    if (IsThere(store)) {
+    if (Look(store) == Found::Something) {
         return;
     }
     MakeFolder(store.parent_path());
     const FolderLock lock(store.parent_path(), wait);
-    Make(store, wait);
+    switch (Look(store)) {
+    case Found::Something: // made by another program just now
+        return;
+    case Found::Empty:
+        throw StoreError(SQLITE_NOTADB);
+    default:
+        break;
+    }
+    const std::filesystem::path made = NewOf(store);
+    Make(made, wait);
+    try {
+        PutInPlace(made, store);
+    } catch (const StoreError&) {
+        Remove(made);
+        throw;
+    }
 }
 
 void FoldLog(const Connection& connection) {
@@ -101,7 +153,7 @@ void FoldLog(const Connection& connection) {
 FolderLock::FolderLock(const std::filesystem::path& folder, std::chrono::milliseconds wait)
     : m_folder(open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
     if (m_folder < 0) {
-        throw StoreError(SQLITE_CANTOPEN);
+        throw StoreError(SQLITE_CANTOPEN, "the folder cannot be opened", errno);
     }
     const auto last = std::chrono::steady_clock::now() + wait;
     while (flock(m_folder, LOCK_EX | LOCK_NB) != 0) {

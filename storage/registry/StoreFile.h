@@ -17,11 +17,22 @@ std::filesystem::path SharedOf(const std::filesystem::path& store);
 /// Whether this user may read the file; false where there is none.
 bool CanRead(const std::filesystem::path& file);
 
-/// Makes a store, or fills an empty file; the folder must be there. A file that has something in it
-/// is left as it is. Throws StoreError.
+/// The place beside a store where a new one is made, under the lock of their folder.
+std::filesystem::path NewOf(const std::filesystem::path& store);
+
+/// Makes an empty store, in place of what a making that was cut short has left; the folder must be
+/// there. It is one file. Throws StoreError, with nothing left.
 void Make(const std::filesystem::path& store, std::chrono::milliseconds wait);
 
-/// Makes the store with its folders, or fills an empty one, unless there is one. Throws StoreError.
+/// Gives a store that is one file the place of another, with the log of that one gone. Throws
+/// StoreError, with the other one untouched or without its log.
+void PutInPlace(const std::filesystem::path& made, const std::filesystem::path& store);
+
+/// Removes a store with all that stands beside it.
+void Remove(const std::filesystem::path& store);
+
+/// Makes the store with its folders unless there is a file. It appears whole or not at all, so that
+/// an empty file is damage: StoreError says so. Throws StoreError, with no file left.
 void MakeWhereMissing(const std::filesystem::path& store, std::chrono::milliseconds wait);
 
 /// Each step that is kept is then on the disk, at the cost of one flush.

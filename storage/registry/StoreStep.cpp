@@ -8,7 +8,7 @@ bool StoreStep::Run(const std::function<void(KeyTree&)>& action) {
         action(m_store->Keys());
         return true;
     } catch (const StoreError& error) {
-        m_metDamage = error.IsDamage();
+        m_error = error;
         Break();
         return false;
     }

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 /// A store that is open while a step runs. After its first failure, and after its end, it does
 /// nothing more, so that nothing is kept of a step that is broken.
@@ -11,14 +12,17 @@ class StoreStep {
 public:
     enum class Kind { Reads, Writes };
 
-    /// Without a store, one whose every action fails.
     StoreStep(std::unique_ptr<OpenStore> store, Kind kind)
         : m_store(std::move(store)), m_kind(kind) {}
+    /// One for a store that could not be opened.
+    StoreStep(StoreError error, Kind kind) : m_kind(kind), m_error(std::move(error)) {}
 
     bool Writes() const { return m_kind == Kind::Writes; }
     bool IsWhole() const { return m_store != nullptr; }
-    /// Whether it is broken because the store is damaged.
-    bool MetDamage() const { return m_metDamage; }
+    /// What broke it, if anything did.
+    const std::optional<StoreError>& Error() const { return m_error; }
+    /// Whether that is damage of the store.
+    bool MetDamage() const { return m_error && m_error->IsDamage(); }
 
     /// False when the action failed, now or before.
     bool Run(const std::function<void(KeyTree&)>& action);
@@ -30,5 +34,5 @@ public:
 private:
     std::unique_ptr<OpenStore> m_store;
     Kind m_kind;
-    bool m_metDamage = false;
+    std::optional<StoreError> m_error;
 };

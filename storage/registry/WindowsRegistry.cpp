@@ -2,7 +2,6 @@
 // page, which the program's manifest makes UTF-8.
 #include "RegistryAPI.h"
 
-#include "Failure.h"
 #include "KeyPath.h"
 #include "Utf8.h"
 #include "ValueBytes.h"
@@ -25,7 +24,10 @@ HKEY HandleOf(RegistryRoot root) {
     return reinterpret_cast<HKEY>(static_cast<LONG_PTR>(number));
 }
 
-Failure NotMade() { return {1001, "", "Unable to create the registry key"}; }
+StoreFailure NotMade(LSTATUS status = ERROR_SUCCESS) {
+    return StoreFailure(status == ERROR_ACCESS_DENIED ? StoreTrouble::NotAllowed
+                                                      : StoreTrouble::Unknown);
+}
 
 /// A key that is open while this lives, or none. The predefined keys are never closed.
 class OpenKey {
@@ -151,9 +153,10 @@ bool RegistryAPI::CreateKey(RegistryRoot keyRoot, const std::string& keyName) co
         // Nothing is asked of the last one, which is closed at once.
         const REGSAM rights = i + 1 < parts->size() ? KEY_CREATE_SUB_KEY : 0;
         HKEY opened = nullptr;
-        if (RegCreateKeyExA(parent, (*parts)[i].c_str(), 0, nullptr, 0, rights, nullptr, &opened,
-                            &disposition) != ERROR_SUCCESS) {
-            throw NotMade();
+        const LSTATUS status = RegCreateKeyExA(parent, (*parts)[i].c_str(), 0, nullptr, 0, rights,
+                                               nullptr, &opened, &disposition);
+        if (status != ERROR_SUCCESS) {
+            throw NotMade(status);
         }
         key = OpenKey(opened);
         parent = opened;
@@ -247,6 +250,8 @@ void RegistryAPI::InOneStep(const std::function<void(const RegistryAPI&)>& steps
     steps(*this);
 }
 
-void RegistryAPI::ReadInOneStep(const std::function<void(const RegistryAPI&)>& steps) const {
+StoreTrouble
+RegistryAPI::ReadInOneStep(const std::function<void(const RegistryAPI&)>& steps) const {
     steps(*this);
+    return StoreTrouble::None;
 }

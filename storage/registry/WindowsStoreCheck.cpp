@@ -2,8 +2,12 @@
 
 // The platform looks after its registry itself.
 
-StoreCondition PrepareStore(const std::filesystem::path&, const std::string&) { return {}; }
+StoreCondition PrepareStore(const std::filesystem::path&, const std::string&, const NamedKeys&) {
+    return {};
+}
 
-StoreCondition RepairStore(const std::filesystem::path&, const std::string&) { return {}; }
+StoreCondition RepairStore(const std::filesystem::path&, const std::string&, const NamedKeys&) {
+    return {};
+}
 
 void TidyStore(const std::filesystem::path&) {}

@@ -87,6 +87,7 @@ void Book::Load(const QString& name) {
         sound &= LoadOffer(static_cast<int>(i), page.offers[i]);
     }
     sound &= Try([&] { RecalculatePayment(); });
+    current.payment = page.current.payment; // as it was put away
     if (!sound) {
         Expect(TextNumber::ValuesNotLoaded);
     }

@@ -17,10 +17,11 @@ namespace {
 
 bool IsEmptyName(const QString& name) { return name.isEmpty() || name == u" "; }
 
-bool CanBeKept(const QString& name) {
-    return name.size() <= 255 && !name.contains(u'\\') && !name.contains(QChar::Null) &&
-           name != u"(new loan)" && name != u"(préstamo nuevo)";
+bool CanBeKey(const QString& name) {
+    return name.size() <= 255 && !name.contains(u'\\') && !name.contains(QChar::Null);
 }
+
+bool IsNewLoan(const QString& name) { return name == u"(new loan)" || name == u"(préstamo nuevo)"; }
 
 int Letters(const QString& text) {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
@@ -47,8 +48,9 @@ bool RandomUser::SaveInBook() {
         m_book.Expect(TextNumber::NoNameToSave);
         return false;
     }
-    if (!CanBeKept(m_book.loan.name)) {
-        m_book.Expect(TextNumber::NameNotPossible);
+    if (!CanBeKey(m_book.loan.name) || IsNewLoan(m_book.loan.name)) {
+        m_book.Expect(IsNewLoan(m_book.loan.name) ? TextNumber::NameOfNewLoan
+                                                  : TextNumber::NameNotPossible);
         return false;
     }
     for (int row = 0; row < static_cast<int>(m_book.offers.size()); ++row) {
@@ -138,15 +140,16 @@ void RandomUser::PickName(unsigned a, unsigned b) {
         return;
     }
     auto& box = *qobject_cast<QComboBox*>(Control(field));
-    const QString typed = box.currentText();
+    const View typed = Look();
     Press(Qt::Key_Down);
     Settle();
+    Commit(typed);
     const QStringList entries = QStringList(GetResourceText(TextNumber::NewLoan)) + m_book.Names();
     QStringList shown;
     for (int i = 0; i < box.count(); ++i) {
         shown.append(box.itemText(i));
     }
-    if (shown != entries || box.currentText() != typed) {
+    if (shown != entries || box.currentText() != typed.text) {
         Complain(u"the list shows %1 instead of %2"_s.arg(shown.join(u'|'), entries.join(u'|')));
     }
     if (a % 6 == 0) {
@@ -197,6 +200,9 @@ void RandomUser::Delete(unsigned a, unsigned /*b*/) {
         return;
     }
     const bool unnamed = IsEmptyName(m_book.loan.name);
+    if (!CanBeKey(m_book.loan.name)) {
+        return m_book.Expect(TextNumber::NoSuchNameToDelete);
+    }
     if (!unnamed || !m_book.dirty) {
         m_questions.append(WithName(TextNumber::DeleteQuestion));
         if (answer != Answer::Yes) {

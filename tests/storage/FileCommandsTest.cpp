@@ -1,101 +1,21 @@
 // The File menu and the box of the loan's name, worked by a user in the real window.
 
-#include "FileCommands.h"
+#include "FileCommandsFixture.h"
 
 #include "Colours.h"
-#include "LoanNameBox.h"
-#include "StoreFolder.h"
-#include "StoreNotice.h"
-#include "WindowFixture.h"
 
 #include <QAbstractItemView>
-#include <QAction>
 #include <QLineEdit>
 #include <QScreen>
 #include <QTest>
-
-#include <sqlite3.h>
-
-#include <fstream>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class FileCommandsTest : public WindowTest {
-protected:
-    FileCommandsTest() { Begin({}, m_folder.Store()); }
-    ~FileCommandsTest() override { m_files.reset(); }
-
-    void Begin(const Start& start, const RegistryAPI& store) {
-        m_files.reset();
-        Open(start);
-        Take(store);
-    }
-    /// Goes on with this store.
-    void Take(const RegistryAPI& store) {
-        m_files.reset();
-        m_files = std::make_unique<FileCommands>(Window(), LoanStore(store));
-        Window().OnUnload([this] { return m_files->MayDrop(); });
-    }
-
-    /// Writes over the first page of a store.
-    static void Damage(const std::filesystem::path& file) {
-        sqlite3* connection = nullptr;
-        ASSERT_EQ(sqlite3_open(file.c_str(), &connection), SQLITE_OK);
-        sqlite3_exec(connection, "PRAGMA wal_checkpoint(TRUNCATE)", nullptr, nullptr, nullptr);
-        sqlite3_close(connection);
-        std::fstream store(file, std::ios::in | std::ios::out | std::ios::binary);
-        store << std::string(4'096, '?');
-    }
-
-    void Trigger(QStringView entry) {
-        Window().findChild<QAction*>(entry.toString())->trigger();
-        Settle();
-    }
-    void TypeName(QStringView name) {
-        Click(u"cboLoanName");
-        Press(Qt::Key_A, Qt::ControlModifier);
-        Type(name);
-    }
-    void KeepLoan(QStringView name, QStringView amount) {
-        TypeName(name);
-        Fill(u"txtLoanAmount", amount);
-        Trigger(u"mnuFileSave");
-        ASSERT_FALSE(Sheet().Dirty());
-    }
-    /// Opens the list of names by its key and takes an entry.
-    void Pick(int index) {
-        Click(u"cboLoanName");
-        Press(Qt::Key_Down);
-        ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
-        Settle();
-        Press(Qt::Key_Home);
-        for (int entry = 0; entry < index; ++entry) {
-            Press(Qt::Key_Down);
-        }
-        Press(Qt::Key_Return);
-        ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() == nullptr; }));
-        ActivateAgain();
-        Settle();
-    }
-    LoanNameBox& NameBox() { return Get<LoanNameBox>(u"cboLoanName"); }
-    bool IsMarked() { return NameBox().lineEdit()->palette().base().color() == Colours::Missing; }
-    QStringList Kept() const { return LoanStore(m_folder.Store()).Names(); }
-    std::string KeptText(const std::string& loan, const std::string& value) const {
-        return m_folder.Text(StoreFolder::LoanKey(loan), value);
-    }
-    QStringList Entries() {
-        QStringList entries;
-        for (int i = 0; i < NameBox().count(); ++i) {
-            entries.append(NameBox().itemText(i));
-        }
-        return entries;
-    }
-
-    StoreFolder m_folder;
-    std::unique_ptr<FileCommands> m_files;
-};
+bool IsMarked(LoanNameBox& box) {
+    return box.lineEdit()->palette().base().color() == Colours::Missing;
+}
 
 TEST_F(FileCommandsTest, SavingStoresTheFieldBeingEditedAndLeavesItInEntryForm) {
     TypeName(u"Our home");
@@ -123,17 +43,17 @@ TEST_F(FileCommandsTest, SavingTakesTheNameBeingTyped) {
 TEST_F(FileCommandsTest, SavingWithoutANameMarksItsBoxUntilThereIsOne) {
     Fill(u"txtLoanAmount", u"7");
     Trigger(u"mnuFileSave");
-    EXPECT_TRUE(IsMarked());
+    EXPECT_TRUE(IsMarked(NameBox()));
     EXPECT_TRUE(SettledMessages().isEmpty());
     EXPECT_TRUE(Kept().isEmpty());
     EXPECT_TRUE(Sheet().Dirty());
     Click(u"cboLoanName");
     Tab();
-    EXPECT_TRUE(IsMarked());
+    EXPECT_TRUE(IsMarked(NameBox()));
     TypeName(u"Now");
-    EXPECT_TRUE(IsMarked());
+    EXPECT_TRUE(IsMarked(NameBox()));
     Tab();
-    EXPECT_FALSE(IsMarked());
+    EXPECT_FALSE(IsMarked(NameBox()));
 }
 
 TEST_F(FileCommandsTest, ARefusedFieldStopsEveryCommand) {
@@ -162,7 +82,10 @@ TEST_F(FileCommandsTest, NamesThatCannotBeKeptAreRefusedAndNothingIsLost) {
     for (const RefusedName& row : {
              RefusedName{u"a\\b"_s, notPossible},
              RefusedName{QString(256, u'x'), notPossible},
-             RefusedName{u"(new loan)"_s, notPossible},
+             RefusedName{u"a\\"_s, notPossible},
+             RefusedName{u"(new loan)"_s,
+                         u"This is the name of the entry that begins a new worksheet, so none can "
+                         "be saved under it. Please choose another name."_s},
              RefusedName{u" "_s, u"Please give the loan a name before you save it."_s},
          }) {
         Door().Clear();
@@ -250,21 +173,53 @@ TEST_F(FileCommandsTest, PickingTheNewLoanClears) {
     EXPECT_EQ(Kept(), QStringList(u"Beta"_s));
 }
 
-/// A list that drops down takes the keyboard for a while; what is typed in its box is not yet
-/// meant.
-TEST_F(FileCommandsTest, DroppingTheListDownIsNotLeavingTheBox) {
+TEST_F(FileCommandsTest, DroppingTheListDownTakesTheNameTyped) {
     KeepLoan(u"Beta", u"70000");
     TypeName(u"Half ty");
     Press(Qt::Key_Down);
     ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
-    EXPECT_EQ(Sheet().LoanName(), u"Beta");
+    EXPECT_EQ(Sheet().LoanName(), u"Half ty");
     Press(Qt::Key_Escape);
     ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() == nullptr; }));
     ActivateAgain();
     EXPECT_EQ(Text(u"cboLoanName"), u"Half ty");
-    EXPECT_EQ(Sheet().LoanName(), u"Beta");
-    Tab();
     EXPECT_EQ(Sheet().LoanName(), u"Half ty");
+    EXPECT_EQ(Text(u"txtLoanAmount"), u"$70,000.00");
+    EXPECT_EQ(FocusName(), u"cboLoanName");
+}
+
+/// A copy under a new name, and another worksheet picked before it is saved.
+TEST_F(FileCommandsTest, TheNameTypedIsAskedAboutAndSavedUnder) {
+    KeepLoan(u"AA", u"1000");
+    KeepLoan(u"BB", u"2000");
+    for (const bool opensByKey : {true, false}) {
+        SCOPED_TRACE(opensByKey);
+        Pick(1);
+        Fill(u"txtLoanAmount", u"3000");
+        TypeName(u"Copy");
+        Door().Clear();
+        Door().WillAnswer({Answer::Yes});
+        if (opensByKey) {
+            Press(Qt::Key_Down);
+        } else {
+            QTest::mouseClick(Window().windowHandle(), Qt::LeftButton, {},
+                              NameBox().mapTo(&Window(), NameBox().rect().center() +
+                                                             QPoint(NameBox().width() / 2 - 6, 0)));
+        }
+        ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+        Settle();
+        Press(Qt::Key_End);
+        Press(Qt::Key_Return);
+        ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() == nullptr; }));
+        ActivateAgain();
+        Settle();
+        ASSERT_EQ(Door().Questions().size(), 1U);
+        EXPECT_EQ(Door().Questions().front().text, u"Do you want to save the changes to “Copy”?");
+        EXPECT_EQ("1000", KeptText("AA", "LoanAmount"));
+        EXPECT_EQ("3000", KeptText("Copy", "LoanAmount"));
+        LoanStore(m_folder.Store()).Delete(u"Copy"_s);
+        EXPECT_EQ(SettledMessages(), QStringList());
+    }
 }
 
 TEST_F(FileCommandsTest, TypingANameThatIsKeptLoadsNothing) {
@@ -356,7 +311,7 @@ TEST_P(Unsaved, ChangesAreNeverDroppedWithoutAQuestion) {
         EXPECT_EQ(stays, !row.goesOn);
         if (!row.goesOn) {
             EXPECT_EQ(Text(u"cboLoanName"), row.named ? u"Mine"_s : QString());
-            EXPECT_EQ(IsMarked(), row.answer == Answer::Yes);
+            EXPECT_EQ(IsMarked(NameBox()), row.answer == Answer::Yes);
             EXPECT_TRUE(Sheet().Dirty());
         }
         EXPECT_TRUE(SettledMessages().isEmpty());
@@ -404,60 +359,6 @@ TEST_F(FileCommandsTest, DeletingAnUnnamedWorksheet) {
     ASSERT_EQ(Door().Questions().size(), 1U);
     EXPECT_EQ(SettledMessages(),
               QStringList(u"There is no worksheet to delete: the loan has no name."_s));
-}
-
-TEST_F(FileCommandsTest, BadValuesAreToldInOneMessage) {
-    KeepLoan(u"Beta", u"70000");
-    const RegistryAPI store = m_folder.Store();
-    const std::string key = StoreFolder::LoanKey("Beta");
-    for (const char* value :
-         {"LoanTerm", "EscrowTaxes", "CurrentTerm", "CurrentBalance", "CurrentPayment",
-          "CurrentLoanAmount", "CurrentNextPayment", "CurrentFrequency", "CurrentActualFrequency",
-          "EscrowInsurance", "CurrentActualPayment"}) {
-        store.SetValue(StoreFolder::Root, key, value, RegistryType::Text, std::string("bad"));
-    }
-    Pick(1);
-    const QStringList told = SettledMessages();
-    ASSERT_EQ(told.size(), 1) << told.join(u'|').toStdString();
-    EXPECT_TRUE(told.front().startsWith(
-        u"Some values of this worksheet could not be read. The rest has been loaded.\n\n"
-        "errn=13  src=LoanTerm  desc=Type mismatch\nerrn=13  src=EscrowTaxes"))
-        << told.front().toStdString();
-    EXPECT_TRUE(told.front().endsWith(u"… (11)"));
-    EXPECT_EQ(Text(u"txtLoanAmount"), u"$70,000.00");
-}
-
-/// The store is damaged while the program runs; the next save repairs it and is made.
-TEST_F(FileCommandsTest, ARepairInTheMiddleOfASaveIsToldOnce) {
-    struct {
-        int language;
-        QStringView told;
-    } const table[]{
-        {English,
-         u"The file with your saved worksheets was damaged. What could be read is in a new file: "
-         u"%2 worksheets. The damaged file has been kept as %1"},
-        {Spanish, u"El archivo con sus hojas de trabajo guardadas estaba dañado. Lo que se pudo "
-                  u"leer está en un archivo nuevo: %2 hojas de trabajo. El archivo dañado se "
-                  u"conservó como %1"},
-    };
-    for (const auto& row : table) {
-        const StoreFolder folder;
-        Begin({.language = row.language}, folder.Store());
-        Take(StoreThatTells(folder.File(), Window().GetMessages(),
-                            [] { return std::string("2026-11-21"); }));
-        KeepLoan(u"Alpha", u"1000");
-        Damage(folder.File());
-        KeepLoan(u"Beta", u"2000");
-        const QString kept =
-            QString::fromStdString(folder.File().string()) + QStringLiteral(".damaged-2026-11-21");
-        EXPECT_EQ(SettledMessages(), QStringList(row.told.toString().arg(kept).arg(1)));
-        EXPECT_TRUE(QFile::exists(kept));
-        KeepLoan(u"Gamma", u"3000");
-        EXPECT_EQ(SettledMessages().size(), 1);
-        EXPECT_EQ(LoanStore(folder.Store()).Names(),
-                  (QStringList{u"Alpha"_s, u"Beta"_s, u"Gamma"_s}));
-        Door().Clear();
-    }
 }
 
 TEST_F(FileCommandsTest, EverythingIsAskedInSpanish) {

@@ -159,13 +159,10 @@ protected:
             }
         });
     }
-    std::size_t Load(Sheet& sheet) const {
-        return LoanStore(m_folder.Store())
-            .Load(sheet.worksheet, QStringLiteral("fuzz"),
-                  [&](Row last) {
-                      sheet.worksheet.GrowOfferArrays(sheet.worksheet.HighestOfferRow(), last);
-                  })
-            .size();
+    void Load(Sheet& sheet) const {
+        LoanStore(m_folder.Store()).Load(sheet.worksheet, QStringLiteral("fuzz"), [&](Row last) {
+            sheet.worksheet.GrowOfferArrays(sheet.worksheet.HighestOfferRow(), last);
+        });
     }
     /// What a figure of the worksheet is, whatever its text.
     static std::vector<std::int64_t> FiguresOf(const Worksheet& sheet) {

@@ -1,82 +1,12 @@
 // Worksheets kept and brought back: every value by its name, whatever language and locale.
 
-#include "LoanStore.h"
-
-#include "Frequency.h"
-#include "Language.h"
-#include "Printing.h"
-#include "Sheet.h"
-#include "StoreFolder.h"
-
-#include <gtest/gtest.h>
+#include "LoanStoreFixture.h"
 
 #include <map>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QLocale UnitedStates(QLocale::English, QLocale::UnitedStates);
-const QLocale Mexico(QLocale::Spanish, QLocale::Mexico);
-const QLocale Germany(QLocale::German, QLocale::Germany);
-constexpr int English = 1;
-constexpr int Spanish = 2;
-
-Money Units(double units) { return Money::FromDouble(units); }
-
-/// Everything that a worksheet keeps has a value of its own.
-void Fill(Worksheet& w) {
-    w.SetLoanName(u"Our new home"_s);
-    w.SetLoanType(u"M"_s);
-    w.SetLoanAmount(Units(250'000.5));
-    w.SetLoanTerm(360);
-    w.SetEscrowTaxes(Units(3'600));
-    w.SetEscrowInsurance(Units(1'200.25));
-    w.SetCurrentLoanAmount(Units(230'000));
-    w.SetCurrentTerm(342);
-    w.SetCurrentInterestRate(0.07125);
-    w.SetCurrentFrequency(FrequencyCodeToText(u"B"_s));
-    w.SetCurrentBalance(Units(198'450.75));
-    w.SetCurrentActualFrequency(FrequencyCodeToText(u"W"_s));
-    w.SetCurrentNextPayment(Date::FromCalendar(2026, 12, 3));
-    w.SetCurrentPayment(Units(1'186.35));
-    w.SetCurrentActualPayment(Units(2'050));
-}
-
-void FillOffer(Worksheet& w, Row row, const QString& who) {
-    CLoan& offer = w.OfferOfRow(row);
-    offer.SetFinancePoints(true);
-    offer.SetPoints(1.125);
-    offer.SetTerm(186);
-    offer.SetInterestRate(0.0625);
-    offer.SetFrequencyCode(u"Q"_s);
-    offer.SetActualPayment(Units(5'000));
-    offer.SetWho(who);
-}
-
-class LoanStoreTest : public testing::Test {
-protected:
-    LoanStoreTest() {
-        Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), u"Loan"_s);
-        Language::Instance().LoadLanguage(English);
-    }
-
-    LoanStore Loans() const { return LoanStore(m_folder.Store()); }
-    void Save(Sheet& sheet) const { Loans().Save(sheet.worksheet); }
-    std::vector<Failure> Load(Sheet& sheet, const QString& name = u"Our new home"_s) const {
-        return Loans().Load(sheet.worksheet, name, [&](Row last) {
-            sheet.worksheet.GrowOfferArrays(sheet.worksheet.HighestOfferRow(), last);
-        });
-    }
-    std::string Kept(const std::string& value) const { return m_folder.Text(Key, value); }
-    void Put(const std::string& value, const std::string& text) const {
-        m_folder.Store().SetValue(StoreFolder::Root, Key, value, RegistryType::Text, text);
-    }
-
-    inline static const std::string Key = StoreFolder::LoanKey("Our new home");
-    StoreFolder m_folder;
-};
 
 struct KeptText {
     const char* value;
@@ -276,25 +206,57 @@ TEST_F(LoanStoreTest, NamesThatCanAndCannotBeKeys) {
     Language::Instance().LoadLanguage(Spanish);
     struct Case {
         QString name;
-        bool empty;
-        bool canHold;
+        NameFault fault;
     };
+    using Fault = NameFault;
     for (const Case& row : {
-             Case{u""_s, true, true},
-             Case{u" "_s, true, true},
-             Case{u"  "_s, false, true},
-             Case{u"Casa de la Ñandú 🏠"_s, false, true},
-             Case{u"C:\\loans"_s, false, false},
-             Case{QString(255, u'x'), false, true},
-             Case{QString(256, u'x'), false, false},
-             Case{u"(new loan)"_s, false, false},
-             Case{u"(préstamo nuevo)"_s, false, false},
-             Case{u"a/b*c?"_s, false, true},
-             Case{u"a"_s + QChar(QChar::Null), false, false},
+             Case{u""_s, Fault::Empty},
+             Case{u" "_s, Fault::Empty},
+             Case{u"  "_s, Fault::None},
+             Case{u"Casa de la Ñandú 🏠"_s, Fault::None},
+             Case{u"C:\\loans"_s, Fault::NoKey},
+             Case{u"\\"_s, Fault::NoKey},
+             Case{u"Alpha\\"_s, Fault::NoKey},
+             Case{u"\\Alpha"_s, Fault::NoKey},
+             Case{QString(255, u'x'), Fault::None},
+             Case{QString(256, u'x'), Fault::NoKey},
+             Case{u"(new loan)"_s, Fault::NewLoan},
+             Case{u"(préstamo nuevo)"_s, Fault::NewLoan},
+             Case{u"a/b*c?"_s, Fault::None},
+             Case{u"a"_s + QChar(QChar::Null), Fault::NoKey},
+             Case{u"half "_s + QChar(0xD83C), Fault::NoKey},
          }) {
-        EXPECT_EQ(row.empty, LoanStore::IsEmptyName(row.name)) << row.name.toStdString();
-        EXPECT_EQ(row.canHold, LoanStore::CanHold(row.name)) << row.name.toStdString();
+        EXPECT_EQ(row.fault, LoanStore::FaultOf(row.name)) << row.name.toStdString();
+        EXPECT_EQ(row.fault == Fault::Empty, LoanStore::IsEmptyName(row.name));
     }
+}
+
+TEST_F(LoanStoreTest, ANameThatNoWorksheetCanHaveReachesNoOther) {
+    m_folder.Store().SetValue(StoreFolder::Root, BaseKey, "TermInMonths", RegistryType::Number, 5);
+    Sheet nothing;
+    Loans().Delete(u"\\"_s); // with nothing saved, the settings would go
+    EXPECT_EQ(5, m_folder.Number(BaseKey, "TermInMonths"));
+    for (const QString& saved : {u"Alpha"_s, u"half \uFFFD"_s}) {
+        Sheet sheet;
+        sheet.worksheet.SetLoanName(saved);
+        Save(sheet);
+    }
+    const QStringList kept = Loans().Names();
+    for (const QString& name :
+         {u"\\"_s, u"Alpha\\"_s, u"\\Alpha"_s, u"Alpha\\\\"_s, u"\\\\Alpha"_s, QString(),
+          u"Alpha"_s + QChar(QChar::Null), u"half "_s + QChar(0xD83C)}) {
+        SCOPED_TRACE(name.toStdString());
+        EXPECT_FALSE(Loans().Exists(name));
+        EXPECT_FALSE(Outcome(nothing, name).exists);
+        EXPECT_TRUE(nothing.worksheet.LoanName().isEmpty());
+        Loans().Delete(name);
+        EXPECT_EQ(kept, Loans().Names());
+        Sheet other;
+        other.worksheet.SetLoanName(name);
+        EXPECT_THROW(Save(other), Failure);
+        EXPECT_EQ(kept, Loans().Names());
+    }
+    EXPECT_EQ(5, m_folder.Number(BaseKey, "TermInMonths"));
 }
 
 TEST_F(LoanStoreTest, TheLongestNameAndEveryNameWithinItsLimitsAreKept) {
@@ -319,9 +281,9 @@ TEST_F(LoanStoreTest, NamesAreListedInAlphabeticalOrder) {
     }
     EXPECT_EQ(QStringList({u"Alpha"_s, u"ALPHA 2"_s, u"beta"_s, u"gamma"_s}), Loans().Names());
     EXPECT_TRUE(Loans().Exists(u"GAMMA"_s));
-    EXPECT_TRUE(Loans().Delete(u"gamma"_s));
+    Loans().Delete(u"gamma"_s);
     EXPECT_FALSE(Loans().Exists(u"gamma"_s));
-    EXPECT_TRUE(Loans().Delete(u"never kept"_s));
+    EXPECT_NO_THROW(Loans().Delete(u"never kept"_s));
 }
 
 TEST_F(LoanStoreTest, LendersAreCountedInCharactersAsUsersCountThem) {
@@ -336,133 +298,6 @@ TEST_F(LoanStoreTest, LendersAreCountedInCharactersAsUsersCountThem) {
     Sheet read;
     EXPECT_TRUE(Load(read).empty());
     EXPECT_EQ(longest, read.worksheet.OfferOfRow(Row{0}).Who());
-}
-
-struct BadValue {
-    const char* value;
-    const char* text;
-    int failure; ///< 0: accepted
-};
-
-TEST_F(LoanStoreTest, ABadValueIsReportedAndTheRestIsLoaded) {
-    for (const BadValue& bad : {
-             BadValue{"LoanType", "Yacht", 13},
-             BadValue{"LoanType", "Hipoteca", 0},
-             BadValue{"LoanAmount", "abc", 13},
-             BadValue{"LoanAmount", "1.234,5", 13},
-             BadValue{"LoanAmount", "-", 13},
-             BadValue{"LoanAmount", "99999999999999999999", 6},
-             BadValue{"LoanTerm", "3000000000", 6},
-             BadValue{"LoanTerm", "360.5", 0},
-             BadValue{"EscrowTaxes", "1e3", 13},
-             BadValue{"EscrowInsurance", " 5", 13},
-             BadValue{"CurrentTerm", "x", 13},
-             BadValue{"CurrentInterestRate", "7%", 13},
-             BadValue{"CurrentFrequency", "Z", 13},
-             BadValue{"CurrentActualFrequency", "Monthly", 13},
-             BadValue{"CurrentNextPayment", "2/30/2026", 13},
-             BadValue{"CurrentNextPayment", "soon", 13},
-             BadValue{"CurrentPayment", "--5", 13},
-             BadValue{"CurrentActualPayment", "$5", 13},
-             BadValue{"Loan 1 Points", "nan", 13},
-             BadValue{"Loan 1 Points", "1,5", 0},
-             BadValue{"Loan 1 Points", "1\u066B5", 0}, // as an Arabic locale writes it
-             BadValue{"Loan 1 Term", "thirty", 13},
-             BadValue{"Loan 1 InterestRate", "inf", 13},
-             BadValue{"Loan 1 Frequency", "m", 13},
-             BadValue{"Loan 1 ActualPayment", "1.2.3", 13},
-         }) {
-        SCOPED_TRACE(std::string(bad.value) + " = " + bad.text);
-        Sheet sheet;
-        Fill(sheet.worksheet);
-        FillOffer(sheet.worksheet, Row{0}, u"First"_s);
-        Save(sheet);
-        Put(bad.value, bad.text);
-        Sheet read;
-        const std::vector<Failure> failures = Load(read);
-        ASSERT_EQ(bad.failure == 0 ? 0U : 1U, failures.size());
-        if (bad.failure != 0) {
-            EXPECT_EQ(bad.failure, failures[0].Number());
-            EXPECT_EQ(bad.value, failures[0].Source());
-        }
-        EXPECT_EQ(u"First", read.worksheet.OfferOfRow(Row{0}).Who());
-        EXPECT_EQ(Units(198'450.75), read.worksheet.CurrentBalance());
-        EXPECT_FALSE(read.worksheet.Dirty());
-    }
-}
-
-TEST_F(LoanStoreTest, ACountThatCannotBeMakesNoEndlessRows) {
-    struct Case {
-        std::int32_t count;
-        std::size_t failures;
-        int highest;
-        bool hasFirst;
-    };
-    for (const Case& row :
-         {Case{0, 0, 5, false}, Case{1, 0, 5, true}, Case{16, 0, 15, true}, Case{17, 1, 15, true},
-          Case{1'000'000, 1, 15, true}, Case{-1, 1, 5, false}, Case{INT32_MIN, 1, 5, false}}) {
-        Sheet sheet;
-        Fill(sheet.worksheet);
-        FillOffer(sheet.worksheet, Row{0}, u"First"_s);
-        Save(sheet);
-        m_folder.Store().SetValue(StoreFolder::Root, Key, "LoanCount", RegistryType::Number,
-                                  row.count);
-        Sheet read;
-        EXPECT_EQ(row.failures, Load(read).size()) << row.count;
-        EXPECT_EQ(Row{row.highest}, read.worksheet.HighestOfferRow()) << row.count;
-        EXPECT_EQ(row.hasFirst, read.worksheet.OfferOfRow(Row{0}).Who() == u"First") << row.count;
-        EXPECT_EQ(Units(250'000.5), read.worksheet.LoanAmount()) << row.count;
-    }
-}
-
-TEST_F(LoanStoreTest, MissingValuesTakeTheirDefaults) {
-    m_folder.Store().CreateKey(StoreFolder::Root, Key);
-    m_folder.Store().SetValue(StoreFolder::Root, Key, "LoanCount", RegistryType::Number, 2);
-    Sheet read;
-    FillOffer(read.worksheet, Row{0}, u"Of before"_s);
-    EXPECT_TRUE(Load(read).empty());
-    EXPECT_EQ(Money(), read.worksheet.LoanAmount());
-    EXPECT_EQ(u"", read.worksheet.LoanType());
-    EXPECT_EQ(u"", read.worksheet.OfferOfRow(Row{0}).Who());
-    EXPECT_EQ(Money(), read.worksheet.OfferOfRow(Row{0}).ActualPayment());
-    EXPECT_EQ(read.worksheet.Today(), read.worksheet.CurrentNextPayment());
-}
-
-/// The intended payment is assigned before the rate: an offer of before must not refuse it.
-TEST_F(LoanStoreTest, LoadingOverOtherOffersRefusesNoPayment) {
-    Sheet sheet;
-    Fill(sheet.worksheet);
-    CLoan& offer = sheet.worksheet.OfferOfRow(Row{0});
-    offer.SetTerm(360);
-    offer.SetInterestRate(0.03);
-    offer.SetFrequencyCode(u"M"_s);
-    offer.SetActualPayment(Units(1'600));
-    Save(sheet);
-    Sheet other;
-    Fill(other.worksheet);
-    FillOffer(other.worksheet, Row{0}, u"Dear"_s);
-    other.display.ForgetCalls();
-    EXPECT_TRUE(Load(other).empty());
-    EXPECT_EQ(0, other.display.PaymentsRefused());
-    EXPECT_EQ(0, other.display.PaymentsRaised());
-    EXPECT_EQ(Units(1'600), other.worksheet.OfferOfRow(Row{0}).ActualPayment());
-    EXPECT_EQ(u"$1,600.00", other.display.TextOf({FieldId::ActualPayment, Row{0}}));
-    EXPECT_FALSE(other.display.TextOf({FieldId::Interest, Row{0}}).isEmpty());
-}
-
-TEST_F(LoanStoreTest, ASaveThatCannotBeMadeIsToldAndLeavesEverything) {
-    Sheet sheet;
-    Fill(sheet.worksheet);
-    const LoanStore nowhere(RegistryAPI("/proc/no/such/place/Loan.store"));
-    try {
-        nowhere.Save(sheet.worksheet);
-        FAIL() << "a save into nowhere looks like one";
-    } catch (const Failure& failure) {
-        EXPECT_EQ(1001, failure.Number());
-        EXPECT_EQ("Unable to create the registry key", failure.Description());
-    }
-    EXPECT_TRUE(sheet.worksheet.Dirty());
-    EXPECT_EQ(Units(250'000.5), sheet.worksheet.LoanAmount());
 }
 
 } // namespace

@@ -66,7 +66,5 @@ inline Settings WithPicture(const QString& picture, const QString& folder = {}) 
 }
 
 /// What text 88 says.
-inline const QString RefusedInEnglish =
-    QStringLiteral(u"Please enter a number of offers from 1 to 15.");
-inline const QString RefusedInSpanish =
-    QStringLiteral(u"Escriba un número de ofertas del 1 al 15.");
+inline const QString RefusedInEnglish = u"Please enter a number of offers from 1 to 15."_s;
+inline const QString RefusedInSpanish = u"Escriba un número de ofertas del 1 al 15."_s;

@@ -48,10 +48,11 @@ protected:
         return kept;
     }
     void LoadAgain() {
-        EXPECT_TRUE(
-            LoanStore(m_folder.Store())
-                .Load(SheetToWrite(), u"Home"_s, [this](Row last) { Window().Rows().GrowTo(last); })
-                .empty());
+        const LoadOutcome outcome =
+            LoanStore(m_folder.Store()).Load(SheetToWrite(), u"Home"_s, [this](Row last) {
+                Window().Rows().GrowTo(last);
+            });
+        EXPECT_TRUE(outcome.exists && outcome.failures.empty());
     }
 
     const QStringList m_entered{u"dear"_s, u"middle"_s, u"cheap"_s};

@@ -7,6 +7,7 @@
 #include "Language.h"
 #include "LoanNameBox.h"
 #include "StoreFolder.h"
+#include "TextNumbers.h"
 #include "WindowFixture.h"
 #include "WindowPlace.h"
 
@@ -59,10 +60,14 @@ TEST_F(StartUp, TheLanguageThatWasSetWins) {
     };
     m_store.CreateKey(StoreFolder::Root, BaseKey);
     for (const Case& row :
-         {Case{0, -Spanish}, Case{1, 1}, Case{2, 2}, Case{-2, -2}, Case{99, 99}}) {
+         {Case{0, -Spanish}, Case{1, 1}, Case{2, 2}, Case{-1, -Spanish}, Case{-2, -Spanish},
+          Case{-99, -Spanish}, Case{INT32_MIN, -Spanish}, Case{99, 99}}) {
         m_store.SetValue(StoreFolder::Root, BaseKey, "CurrentLanguage", RegistryType::Number,
                          row.kept);
+        Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
         PrepareKeyAndLanguage(m_store, MexicanSpanish);
+        // What was detected speaks already; what was set is loaded with the window.
+        EXPECT_EQ(GetResourceText(TextNumber::NewLoan) == u"(préstamo nuevo)", row.language < 0);
         EXPECT_EQ(row.language, Language::Instance().CurrentLanguage()) << row.kept;
     }
 }

@@ -5,7 +5,9 @@
 
 #include <QTemporaryDir>
 
+#include <filesystem>
 #include <string>
+#include <utility>
 
 /// A user's store of its own, gone with the test. It holds the program's key and nothing else.
 class StoreFolder {
@@ -34,4 +36,31 @@ public:
 
 private:
     QTemporaryDir m_folder;
+};
+
+/// While it lives, a folder is where the store was, and its log is away: nothing can be read or
+/// written, as without the right to.
+class StoreOutOfReach {
+public:
+    explicit StoreOutOfReach(std::filesystem::path store) : m_store(std::move(store)) {
+        Move("", ".away");
+        std::filesystem::create_directory(m_store);
+    }
+    StoreOutOfReach(const StoreOutOfReach&) = delete;
+    StoreOutOfReach& operator=(const StoreOutOfReach&) = delete;
+    ~StoreOutOfReach() {
+        std::filesystem::remove(m_store);
+        Move(".away", "");
+    }
+
+private:
+    void Move(const std::string& from, const std::string& to) const {
+        for (const char* const ending : {"", "-wal", "-shm"}) {
+            std::error_code missing;
+            const std::string file = m_store.string() + ending;
+            std::filesystem::rename(file + from, file + to, missing);
+        }
+    }
+
+    std::filesystem::path m_store;
 };

@@ -83,7 +83,7 @@ void FuzzStore::Try(const Input& input) const {
     }
     UseUnprepared();
     Lay(input);
-    const StoreCondition condition = PrepareStore(fuzzed, "today");
+    const StoreCondition condition = PrepareStore(fuzzed, "today", {User, Base, "InterestRate0"});
     EXPECT_EQ(condition.state == State::Sound || condition.state == State::Newer,
               sound || condition.state == State::Newer);
     if (condition.state == State::Newer) {

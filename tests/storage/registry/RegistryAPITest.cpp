@@ -289,8 +289,12 @@ TEST_F(RegistryAPITest, PathsThatNoKeyCanHaveAreRefused) {
     // clang-format off
     const std::vector<PathCase> cases{
         // what                     path                           holds  listedAs
-        { "trailing backslash",     "A\\",                         true,  "A" },
-        { "doubled backslash",      R"(\\A\\\)",                   true,  "A" },
+        { "nothing but backslash",  "\\",                          false, "" },
+        { "trailing backslash",     "A\\",                         false, "" },
+        { "trailing, doubled",      R"(A\\)",                      false, "" },
+        { "leading backslash",      R"(\A)",                       false, "" },
+        { "doubled backslash",      R"(A\\B)",                     false, "" },
+        { "no name",                "",                            false, "" },
         { "longest name",           Repeated(255, "x"),            true,  Repeated(255, "x") },
         { "longest, three bytes",   Repeated(255, "€"),            true,  Repeated(255, "€") },
         { "longest, four bytes",    Repeated(127, home),           true,  Repeated(127, home) },
@@ -321,6 +325,29 @@ TEST_F(RegistryAPITest, PathsThatNoKeyCanHaveAreRefused) {
     EXPECT_EQ(FailureOf([&] { registry.CreateKey(User, '\\' + KeyOf("A")); }), NotMade);
     EXPECT_FALSE(registry.KeyExists(User, KeyOf("A")));
     EXPECT_EQ(FailureOf([&] { registry.CreateKey(User, KeyOf(Repeated(600, "A\\"))); }), NotMade);
+}
+
+TEST_F(RegistryAPITest, ABackslashTooManyReachesNoOtherKey) {
+    registry.SetValue(User, BaseKey, "Name", RegistryType::Text, "base");
+    for (const char* const tail : {"\\", "\\\\", "\\\\\\"}) {
+        registry.DeleteKey(User, BaseKey + tail); // nothing is below it yet
+        EXPECT_EQ(Text("Name"), "base");
+    }
+    registry.CreateKey(User, KeyOf("Alpha"));
+    registry.SetValue(User, KeyOf("Alpha"), "Name", RegistryType::Text, "alpha");
+    for (const std::string& path :
+         {KeyOf("Alpha\\"), KeyOf("Alpha\\\\"), KeyOf("\\Alpha"), "\\" + KeyOf("Alpha")}) {
+        SCOPED_TRACE(path);
+        EXPECT_FALSE(registry.KeyExists(User, path));
+        EXPECT_EQ(registry.GetValue(User, path, "Name", RegistryType::Text, ""), RegistryValue(""));
+        EXPECT_EQ(registry.GetValueType(User, path, "Name"), 0);
+        EXPECT_EQ(registry.GetSubKeys(User, path), std::vector<std::string>{});
+        registry.SetValue(User, path, "Name", RegistryType::Text, "another");
+        registry.DeleteValue(User, path, "Name");
+        registry.DeleteKey(User, path);
+        EXPECT_EQ(registry.GetValue(User, KeyOf("Alpha"), "Name", RegistryType::Text, ""),
+                  RegistryValue("alpha"));
+    }
 }
 
 TEST_F(RegistryAPITest, LongPathsReachTheirKeys) {

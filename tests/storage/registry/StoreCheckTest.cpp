@@ -199,6 +199,92 @@ TEST_F(StoreCheckTest, ALostPageOfKeysLeavesTheirNamesInUpperCase) {
               RegistryValue("6.5"));
 }
 
+const NamedKeys Named{User, Base, "Name"};
+
+TEST_F(StoreCheckTest, AValueThatRepeatsTheNameGivesBackItsLetters) {
+    for (const char* const name : {"Préstamo", "Another"}) {
+        registry.CreateKey(User, Base + "\\Préstamo");
+        registry.SetValue(User, Base + "\\Préstamo", "Name", RegistryType::Text, name);
+        MakeOneFile(store);
+        std::string bytes = BytesOf(store);
+        const std::size_t page = bytes.find("Préstamo") / PageSize * PageSize;
+        WriteBytes(store, bytes.replace(page, PageSize, PageSize, 'x'));
+        EXPECT_EQ(PrepareStore(store, Today, Named).state, State::Repaired);
+        const bool same = std::string(name) == "Préstamo";
+        EXPECT_EQ(registry.GetSubKeys(User, Base),
+                  std::vector<std::string>{same ? "Préstamo" : "PRÉSTAMO"});
+        registry.DeleteKey(User, Base + "\\Préstamo");
+    }
+}
+
+struct LostKeyCase {
+    const char* what;
+    const char* name; ///< that the values of the lost key repeat, as SQL
+    std::vector<std::string> listed;
+};
+
+TEST_F(StoreCheckTest, ValuesWhoseKeyIsLostComeBackUnderTheNameTheyRepeat) {
+    // clang-format off
+    const std::vector<LostKeyCase> cases{
+        // what                  name               listed
+        { "its own",             "'Lost'",          {"Kept", "Lost"} },
+        { "accents and blanks",  "'  Ñandú 1'",     {"  Ñandú 1", "Kept"} },
+        { "one that is taken",   "'kEPT'",          {"Kept"} },
+        { "none",                "''",              {"Kept"} },
+        { "with a backslash",    "'a\\b'",          {"Kept"} },
+        { "no text",             "CAST(x'FF' AS TEXT)", {"Kept"} },
+        { "too long",            "printf('%300c', 'x')", {"Kept"} },
+    };
+    // clang-format on
+    for (const LostKeyCase& row : cases) {
+        SCOPED_TRACE(row.what);
+        fs::remove_all(store.parent_path());
+        SaveWorksheet(registry, "Kept", "kept");
+        SaveWorksheet(registry, "Lost", "lost");
+        registry.SetValue(User, Base + "\\Lost", "Name", RegistryType::Text, "?");
+        const Connection connection(store, std::chrono::milliseconds(0));
+        const std::string rename = std::string("UPDATE KeyValues SET data=CAST(") + row.name +
+                                   " AS BLOB) WHERE name='Name'";
+        connection.Execute(rename.c_str());
+        connection.Execute("DELETE FROM Keys WHERE name='Lost'");
+        MakeOneFile(store);
+        WriteBytes(store, Over(60, 4)(BytesOf(store)));
+        EXPECT_EQ(PrepareStore(store, Today, Named).state, State::Repaired);
+        EXPECT_EQ(registry.GetSubKeys(User, Base), row.listed);
+        EXPECT_EQ(MarkOf(registry, "Kept"), "kept");
+        for (const std::string& name : row.listed) {
+            EXPECT_TRUE(name == "Kept" || MarkOf(registry, name) == "lost") << name;
+        }
+        EXPECT_TRUE(IsSound(StoreImage(store)));
+    }
+}
+
+/// No key is left, not even those on the way to the worksheets.
+TEST_F(StoreCheckTest, OfAFileCutInHalfTheWorksheetsComeBackWhoseNamesAreThere) {
+    constexpr int Many = 300;
+    registry.InOneStep([](const RegistryAPI& step) {
+        for (int i = 0; i < Many; ++i) {
+            const std::string key = Base + "\\Worksheet " + std::to_string(i);
+            step.CreateKey(User, key);
+            step.SetValue(User, key, "Name", RegistryType::Text, "Worksheet " + std::to_string(i));
+            for (int value = 0; value < 20; ++value) {
+                step.SetValue(User, key, "Value" + std::to_string(value), RegistryType::Text,
+                              "250000.00");
+            }
+        }
+    });
+    Connection(store, std::chrono::milliseconds(0)).Execute("DELETE FROM Keys");
+    MakeOneFile(store);
+    WriteBytes(store, Cut(0.5)(BytesOf(store)));
+    const StoreCondition condition = PrepareStore(store, Today, Named);
+    ASSERT_EQ(condition.state, State::Repaired);
+    const std::vector<std::string> names = registry.GetSubKeys(User, Base);
+    EXPECT_GT(names.size(), std::size_t{Many} / 4);
+    for (const std::string& name : names) {
+        EXPECT_TRUE(name.starts_with("Worksheet ")) << name;
+    }
+}
+
 TEST_F(StoreCheckTest, WhatStandsInTheLogAloneIsRecoveredToo) {
     Build();
     SaveWorksheet(registry, "0", "last"); // in the log

@@ -155,6 +155,56 @@ TEST_F(StoreFaultTest, TwoProgramsSavingAtOnceBothLandWhole) {
     EXPECT_EQ(PrepareStore(store, "today").state, State::Sound);
 }
 
+/// However early a first start ends, the next one finds a whole store or none, and no damage.
+TEST_F(StoreFaultTest, AProcessKilledWhileMakingTheStoreLeavesItWholeOrNone) {
+    std::mt19937 random(2027);
+    std::uniform_int_distribution<int> microseconds(1, 6'000);
+    int none = 0;
+    for (int round = 0; round < 60; ++round) {
+        fs::remove_all(store.parent_path());
+        const std::chrono::microseconds time(microseconds(random));
+        const pid_t child = fork();
+        if (child == 0) {
+            KillAfter(time);
+            registry.CreateKey(User, Base);
+            _exit(0);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, 0), child);
+        const State state = PrepareStore(store, "today").state;
+        ASSERT_TRUE(state == State::Missing || state == State::Sound) << time.count();
+        none += state == State::Missing ? 1 : 0;
+        EXPECT_EQ(FailureOf([&] { SaveWorksheet(registry, "A", "a"); }), "");
+        EXPECT_EQ(MarkOf(registry, "A"), "a");
+        EXPECT_FALSE(fs::exists(StoreFile::NewOf(store)));
+    }
+    EXPECT_GT(none, 0); // the test killed at all
+}
+
+TEST_F(StoreFaultTest, AStoreThatCannotBeMadeLeavesNothing) {
+    for (const rlim_t most : {0U, 100U, 4'096U, 8'192U, 20'000U}) {
+        SCOPED_TRACE(most);
+        EXPECT_TRUE(HoldsInChild([&] {
+            signal(SIGXFSZ, SIG_IGN);
+            const rlimit limit{most, most};
+            ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+            EXPECT_EQ(TroubleOf([&] { registry.CreateKey(User, Base); }), StoreTrouble::DiskFull);
+        }));
+        EXPECT_TRUE(fs::is_empty(store.parent_path()));
+        EXPECT_EQ(PrepareStore(store, "today").state, State::Missing);
+    }
+    EXPECT_EQ(FailureOf([&] { SaveWorksheet(registry, "A", "a"); }), "");
+}
+
+TEST_F(StoreFaultTest, AnEmptyFileIsDamage) {
+    fs::create_directory(store.parent_path());
+    WriteBytes(store, "");
+    EXPECT_EQ(FailureOf([&] { registry.CreateKey(User, Base); }), NotMade);
+    EXPECT_EQ(FailureOf([&] { SaveWorksheet(registry, "A", "a"); }), NotMade);
+    EXPECT_TRUE(fs::is_empty(store));
+    EXPECT_EQ(PrepareStore(store, "today").state, State::Repaired);
+}
+
 TEST_F(StoreFaultTest, TwoProgramsMakingTheStoreAtOnceBothLandWhole) {
     for (int round = 0; round < 20; ++round) {
         const RegistryAPI made(folder / std::to_string(round) / "Loan.store");
@@ -190,6 +240,8 @@ TEST_F(StoreFaultTest, AProgramThatWritesTooLongMakesTheOtherGiveUp) {
     EXPECT_EQ(FailureOf([&] { SaveWorksheet(impatient, "A", "new"); }), NotMade);
     EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(50));
     EXPECT_EQ(FailureOf([&] { impatient.CreateKey(User, Base + "\\B"); }), NotMade);
+    EXPECT_EQ(TroubleOf([&] { SaveWorksheet(impatient, "A", "new"); }), StoreTrouble::InUse);
+    EXPECT_EQ(TroubleOf([&] { impatient.CreateKey(User, Base + "\\B"); }), StoreTrouble::InUse);
     impatient.SetValue(User, Base + "\\A", "InterestRate0", RegistryType::Text, "new");
     EXPECT_TRUE(impatient.CreateKey(User, Base + "\\A"));
     EXPECT_EQ(MarkOf(impatient, "A"), "old"); // reading waits for nobody
@@ -230,14 +282,39 @@ bool MountSmallDisk(const fs::path& folder) {
            mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=1m") == 0;
 }
 
-TEST_F(StoreFaultTest, AFullDiskMakesTheSaveFailAndNothingElse) {
-    if (!HoldsInChild([&] { _exit(MountSmallDisk(folder) ? 0 : 1); })) {
-        GTEST_SKIP() << "this machine lets this user mount no small disk";
+class SmallDisk : public StoreFaultTest {
+protected:
+    void SetUp() override {
+        if (!HoldsInChild([&] { _exit(MountSmallDisk(folder) ? 0 : 1); })) {
+            GTEST_SKIP() << "this machine lets this user mount no small disk";
+        }
     }
-    EXPECT_TRUE(HoldsInChild([&] {
-        ASSERT_TRUE(MountSmallDisk(folder));
+    bool Holds(const std::function<void()>& expectations) const {
+        return HoldsInChild([&] {
+            ASSERT_TRUE(MountSmallDisk(folder));
+            expectations();
+            umount(folder.c_str());
+        });
+    }
+};
+
+TEST_F(SmallDisk, WhenFullMakesTheSaveFailAndNothingElse) {
+    EXPECT_TRUE(Holds([&] {
         FillDisk(store);
-        umount(folder.c_str());
+        EXPECT_EQ(TroubleOf([&] { SaveWorksheet(registry, "0", std::string(5'000, 'x')); }),
+                  StoreTrouble::DiskFull);
+    }));
+}
+
+TEST_F(SmallDisk, WhenReadOnlyIsSaidAndRead) {
+    EXPECT_TRUE(Holds([&] {
+        SaveWorksheet(registry, "A", "kept");
+        ASSERT_EQ(mount("", folder.c_str(), "", MS_REMOUNT | MS_RDONLY, ""), 0);
+        EXPECT_EQ(TroubleOf([&] { SaveWorksheet(registry, "A", "new"); }), StoreTrouble::ReadOnly);
+        EXPECT_EQ(registry.ReadInOneStep([](const RegistryAPI&) {}), StoreTrouble::None);
+        EXPECT_EQ(MarkOf(registry, "A"), "kept");
+        const RegistryAPI other(folder / "new" / "Loan.store");
+        EXPECT_EQ(TroubleOf([&] { other.CreateKey(User, Base); }), StoreTrouble::ReadOnly);
     }));
 }
 
@@ -311,6 +388,11 @@ TEST_F(StoreFaultTest, WhatCannotBeWrittenIsReadIfItCanBe) {
             EXPECT_EQ(MarkOf(closed, "A"), row.isRead ? "last" : "");
             EXPECT_EQ(closed.KeyExists(User, Base + "\\A"), row.isRead);
             EXPECT_EQ(FailureOf([&] { SaveWorksheet(closed, "A", "new"); }), NotMade);
+            EXPECT_EQ(TroubleOf([&] { SaveWorksheet(closed, "A", "new"); }),
+                      StoreTrouble::NotAllowed);
+            EXPECT_EQ(
+                closed.ReadInOneStep([&](const RegistryAPI& step) { step.KeyExists(User, Base); }),
+                row.isRead ? StoreTrouble::None : StoreTrouble::NotAllowed);
             EXPECT_EQ(FailureOf([&] { closed.CreateKey(User, Base + "\\B"); }), NotMade);
             closed.SetValue(User, Base + "\\A", "InterestRate0", RegistryType::Text, "new");
             closed.DeleteKey(User, Base + "\\A");
@@ -326,6 +408,7 @@ TEST_F(StoreFaultTest, AMissingFolderIsMadeAndOneThatCannotBeIsSaid) {
     SaveWorksheet(registry, "A", "first");
     fs::remove_all(store.parent_path());
     EXPECT_EQ(MarkOf(registry, "A"), "");
+    EXPECT_EQ(registry.ReadInOneStep([](const RegistryAPI&) {}), StoreTrouble::None);
     EXPECT_EQ(PrepareStore(store, "today").state, State::Missing);
     EXPECT_EQ(FailureOf([&] { SaveWorksheet(registry, "A", "second"); }), "");
     EXPECT_EQ(MarkOf(registry, "A"), "second");

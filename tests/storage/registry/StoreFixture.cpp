@@ -71,6 +71,15 @@ std::string FailureOf(const std::function<void()>& action) {
     return "";
 }
 
+StoreTrouble TroubleOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const StoreFailure& failure) {
+        return failure.Trouble();
+    }
+    return StoreTrouble::None;
+}
+
 std::string BytesOf(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};

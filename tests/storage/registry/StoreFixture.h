@@ -39,6 +39,8 @@ void SaveWorksheets(const RegistryAPI& registry, int count);
 
 /// The failure of a step that only writes, or "".
 std::string FailureOf(const std::function<void()>& action);
+/// Why the action failed; None when it did not.
+StoreTrouble TroubleOf(const std::function<void()>& action);
 inline const std::string NotMade = "1001 Unable to create the registry key";
 
 std::string BytesOf(const std::filesystem::path& file);

@@ -13,15 +13,24 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QDoubleSpinBox>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QtEndian>
 
+#include <cmath>
 #include <iostream>
 #include <span>
 
@@ -74,12 +83,47 @@ void Accept(QPrintDialog& dialog) {
     dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
 }
 
+/// In points, such as "612 x 792".
+QString PageSizeOf(const QString& document) {
+    const QString info = PrintServer::Run(QStringLiteral("pdfinfo"), {document});
+    const QRegularExpression size(QStringLiteral("Page size:\\s*([0-9.]+) x ([0-9.]+)"));
+    const auto found = size.match(info);
+    return QStringLiteral("%1 x %2")
+        .arg(std::lround(found.captured(1).toDouble()))
+        .arg(std::lround(found.captured(2).toDouble()));
+}
+
+/// A path in the server's own folder.
+QString InServerFolder(const QString& path) {
+    return QFileInfo(qEnvironmentVariable("CUPS_SERVER")).dir().filePath(u"../"_qs + path);
+}
+
+/// What the server was told of the job with this number.
+int CopiesOf(int job) {
+    QFile file(InServerFolder(QStringLiteral("spool/c%1").arg(job, 5, 10, QLatin1Char('0'))));
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw std::runtime_error("there is no such job");
+    }
+    const QByteArray attributes = file.readAll();
+    const QByteArray name("\x21\0\6copies\0\4", 11);
+    const qsizetype at = attributes.indexOf(name);
+    return at < 0 ? 1 : qFromBigEndian<qint32>(attributes.constData() + at + name.size());
+}
+
 void ShowAllOptions(const QPrintDialog& dialog) {
     for (auto* button : dialog.findChildren<QPushButton*>()) {
         if (button->text().endsWith(u">>")) {
             button->click();
         }
     }
+}
+
+/// A second printer, which takes every document and keeps none.
+void AddOther() {
+    PrintServer::Run(QStringLiteral("lpadmin"),
+                     {QStringLiteral("-p"), QStringLiteral("Other"), QStringLiteral("-E"),
+                      QStringLiteral("-v"), QStringLiteral("file:///dev/null"),
+                      QStringLiteral("-m"), QStringLiteral("raw")});
 }
 
 class PrintServerTest : public WindowTest {
@@ -130,15 +174,17 @@ protected:
             },
             30'000);
     }
-    void ExpectNoTrace() {
+    void ExpectNoTrace(const QStringList& told = {}) {
         Settle();
         EXPECT_TRUE(Printed().isEmpty());
         if (Server) {
             EXPECT_TRUE(PrintServer::Jobs().isEmpty());
             EXPECT_TRUE(Server->Spooled().isEmpty()) << Server->Spooled().join(u' ').toStdString();
         }
-        EXPECT_TRUE(SettledMessages().isEmpty());
+        EXPECT_EQ(SettledMessages(), told);
     }
+    QTimer& JobTimer() const { return *Job()->findChild<QTimer*>(QStringLiteral("tmrPrint")); }
+    void HurryJob() const { JobTimer().setInterval(0ms); }
 
 private:
     QTemporaryDir m_folder;
@@ -287,10 +333,7 @@ TEST_F(ServerOnlyTest, TheDialogsSpeakTheLanguageInUse) {
 }
 
 TEST_F(ServerOnlyTest, SetUpChoosesThePrinterAndStartsNoJob) {
-    PrintServer::Run(QStringLiteral("lpadmin"),
-                     {QStringLiteral("-p"), QStringLiteral("Other"), QStringLiteral("-E"),
-                      QStringLiteral("-v"), QStringLiteral("file:///dev/null"),
-                      QStringLiteral("-m"), QStringLiteral("raw")});
+    AddOther();
     Begin();
     {
         const DialogAnswer answer([](QPrintDialog& dialog) {
@@ -316,14 +359,154 @@ TEST_F(ServerOnlyTest, SetUpChoosesThePrinterAndStartsNoJob) {
     });
 }
 
-TEST_F(ServerOnlyTest, NoPrinterAtAllIsNotTold) {
+/// Chooses in the properties of the open dialog, which are a dialog, too.
+void InProperties(const QPrintDialog& dialog, const std::function<void(QWidget&)>& choose) {
+    QTimer::singleShot(0, &dialog, [choose] {
+        QWidget& properties = *QApplication::activeModalWidget();
+        choose(properties);
+        properties.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    });
+    for (auto* button : dialog.findChildren<QPushButton*>()) {
+        if (button->text().contains(u"roperties")) {
+            button->click();
+        }
+    }
+}
+
+QComboBox& ListNamed(const QObject& dialog, const char* name) {
+    return *dialog.findChild<QComboBox*>(QLatin1String(name));
+}
+
+/// The paper shown, the side up, and the upper margin in points.
+QString ShownPage(const QWidget& properties) {
+    const auto unit = ListNamed(properties, "unitCombo").currentData().value<QPageLayout::Unit>();
+    const double top = properties.findChild<QDoubleSpinBox*>(QStringLiteral("topMargin"))->value();
+    const QMarginsF margins =
+        QPageLayout(QPageSize(QPageSize::A0), QPageLayout::Portrait, {0, top, 0, 0}, unit)
+            .margins(QPageLayout::Point);
+    return ListNamed(properties, "pageSizeCombo").currentText() +
+           (properties.findChild<QRadioButton*>(QStringLiteral("landscape"))->isChecked()
+                ? QStringLiteral(" lying ")
+                : QStringLiteral(" upright ")) +
+           QString::number(std::lround(margins.top()));
+}
+
+QString PageOf(const QPrinter& printer) {
+    const QPageLayout page = printer.pageLayout();
+    return page.pageSize().key() +
+           (page.orientation() == QPageLayout::Landscape ? QStringLiteral(" lying ")
+                                                         : QStringLiteral(" upright ")) +
+           QString::number(std::lround(page.margins(QPageLayout::Point).top()));
+}
+
+void ChooseLyingA4(QWidget& properties) {
+    auto& papers = ListNamed(properties, "pageSizeCombo");
+    papers.setCurrentIndex(papers.findText(QStringLiteral("A4")));
+    properties.findChild<QRadioButton*>(QStringLiteral("landscape"))->click();
+    auto& units = ListNamed(properties, "unitCombo");
+    units.setCurrentIndex(2); // points
+    Q_EMIT units.activated(2);
+    properties.findChild<QDoubleSpinBox*>(QStringLiteral("topMargin"))->setValue(100);
+}
+
+TEST_F(ServerOnlyTest, ThePageChosenInSetUpIsPrinted) {
+    Begin();
+    FillRows(1);
+    {
+        const DialogAnswer answer([](QPrintDialog& dialog) {
+            InProperties(dialog, [](QWidget& properties) {
+                EXPECT_EQ(ShownPage(properties), u"Letter upright 18");
+                ChooseLyingA4(properties);
+            });
+            Accept(dialog);
+        });
+        Window().Form().mnuFilePrintSetup->trigger();
+        EXPECT_EQ(answer.Count(), 1);
+    }
+    Print([](QPrintDialog& dialog) {
+        EXPECT_EQ(PageOf(*dialog.printer()), u"A4 lying 100");
+        Accept(dialog);
+    });
+    ASSERT_TRUE(WaitForEnd());
+    ASSERT_TRUE(WaitForPaper(1));
+    EXPECT_EQ(PageSizeOf(Printed().front()), u"595 x 842"); // a sheet of A4
+}
+
+TEST_F(ServerOnlyTest, ThePageOfTheLastDialogIsThatOfTheNext) {
+    Begin();
+    Print([](QPrintDialog& dialog) {
+        InProperties(dialog, ChooseLyingA4);
+        Accept(dialog);
+    });
+    ASSERT_TRUE(WaitForEnd());
+    Print([](QPrintDialog& dialog) { dialog.reject(); });
+    Print(); // without a look at the page
+    ASSERT_TRUE(WaitForEnd());
+    Print([](QPrintDialog& dialog) {
+        InProperties(
+            dialog, [](QWidget& properties) { EXPECT_EQ(ShownPage(properties), u"A4 lying 100"); });
+        Accept(dialog);
+    });
+    ASSERT_TRUE(WaitForEnd());
+    Print([](QPrintDialog& dialog) {
+        EXPECT_EQ(PageOf(*dialog.printer()), u"A4 lying 100");
+        dialog.reject();
+    });
+}
+
+/// The paper is taken as chosen, though it is that of the printer before.
+TEST_F(ServerOnlyTest, ThePaperChosenForAnotherPrinterHolds) {
+    AddOther();
+    Begin();
+    Print([](QPrintDialog& dialog) {
+        InProperties(dialog, ChooseLyingA4);
+        Accept(dialog);
+    });
+    ASSERT_TRUE(WaitForEnd());
+    Print([](QPrintDialog& dialog) {
+        auto& printers = ListNamed(dialog, "printers");
+        printers.setCurrentIndex(printers.findText(QStringLiteral("Other")));
+        InProperties(dialog, ChooseLyingA4);
+        Accept(dialog);
+    });
+    ASSERT_TRUE(WaitForEnd());
+    Print([](QPrintDialog& dialog) {
+        EXPECT_EQ(dialog.printer()->printerName(), u"Other");
+        EXPECT_EQ(PageOf(*dialog.printer()), u"A4 lying 100");
+        dialog.reject();
+    });
+}
+
+TEST_F(ServerOnlyTest, CopiesAreThoseOfOneJob) {
+    Begin();
+    FillRows(1);
+    const auto copies = [](QPrintDialog& dialog) {
+        return dialog.findChild<QSpinBox*>(QStringLiteral("copies"));
+    };
+    Print([&](QPrintDialog& dialog) {
+        copies(dialog)->setValue(3);
+        Accept(dialog);
+    });
+    ASSERT_TRUE(WaitForEnd());
+    Print([&](QPrintDialog& dialog) {
+        EXPECT_EQ(copies(dialog)->value(), 1);
+        Accept(dialog);
+    });
+    ASSERT_TRUE(WaitForEnd());
+    EXPECT_EQ(CopiesOf(1), 3);
+    EXPECT_EQ(CopiesOf(2), 1);
+}
+
+TEST_F(ServerOnlyTest, NoPrinterAtAllIsToldInsteadOfAsking) {
     PrintServer::Run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), QStringLiteral("Lab")});
     Begin();
     FillRows(1);
-    Print([](QPrintDialog& dialog) { dialog.accept(); });
-    EXPECT_TRUE(WaitForEnd());
+    const DialogAnswer answer(Accept);
+    Window().Form().mnuFilePrint->trigger();
+    EXPECT_EQ(answer.Count(), 0);
+    EXPECT_EQ(Job(), nullptr);
     EXPECT_EQ(Text(u"cboLoanName"), u"Our home");
-    ExpectNoTrace();
+    ExpectNoTrace({GetResourceText(660)});
 }
 
 TEST_F(ServerOnlyTest, APrinterThatIsGoneDoesNotPrintOnAnother) {
@@ -331,15 +514,12 @@ TEST_F(ServerOnlyTest, APrinterThatIsGoneDoesNotPrintOnAnother) {
     FillRows(1);
     Print();
     ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
-    PrintServer::Run(QStringLiteral("lpadmin"),
-                     {QStringLiteral("-p"), QStringLiteral("Other"), QStringLiteral("-E"),
-                      QStringLiteral("-v"), QStringLiteral("file:///dev/null"),
-                      QStringLiteral("-m"), QStringLiteral("raw")});
+    AddOther();
     PrintServer::Run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QStringLiteral("Other")});
     PrintServer::Run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), QStringLiteral("Lab")});
-    Job()->findChild<QTimer*>(QStringLiteral("tmrPrint"))->setInterval(0ms);
+    HurryJob();
     EXPECT_TRUE(WaitForEnd());
-    ExpectNoTrace();
+    ExpectNoTrace({GetResourceText(662).arg(QStringLiteral("Lab"))});
 }
 
 TEST_F(ServerOnlyTest, AStoppedQueueKeepsTheJob) {
@@ -356,26 +536,112 @@ TEST_F(ServerOnlyTest, AStoppedQueueKeepsTheJob) {
     EXPECT_TRUE(WaitForPaper(1));
 }
 
-TEST_F(ServerOnlyTest, AQueueThatRejectsIsNotTold) {
+TEST_F(ServerOnlyTest, AQueueThatRejectsIsToldAndStartsNoJob) {
     PrintServer::Run(QStringLiteral("cupsreject"), {QStringLiteral("Lab")});
     Begin();
     FillRows(1);
     Print();
-    EXPECT_TRUE(WaitForEnd());
-    ExpectNoTrace();
+    EXPECT_EQ(Job(), nullptr);
+    ExpectNoTrace({GetResourceText(663).arg(QStringLiteral("Lab"))});
 }
 
-TEST_F(ServerOnlyTest, AServerThatIsGoneIsNotTold) {
+TEST_F(ServerOnlyTest, AQueueThatRejectsMeanwhileIsTold) {
+    Begin(1h);
+    FillRows(1);
+    Print();
+    ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
+    PrintServer::Run(QStringLiteral("cupsreject"), {QStringLiteral("Lab")});
+    HurryJob();
+    EXPECT_TRUE(WaitForEnd());
+    ExpectNoTrace({GetResourceText(663).arg(QStringLiteral("Lab"))});
+}
+
+TEST_F(ServerOnlyTest, AServerThatIsGoneIsTold) {
     Begin(1h);
     FillRows(1);
     Print();
     ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
     Server->EndServer();
-    Job()->findChild<QTimer*>(QStringLiteral("tmrPrint"))->setInterval(0ms);
+    HurryJob();
     EXPECT_TRUE(WaitForEnd());
-    EXPECT_TRUE(SettledMessages().isEmpty());
+    EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(661)});
     EXPECT_TRUE(Printed().isEmpty());
     EXPECT_EQ(Text(u"cboLoanName"), u"Our home");
+    Door().Clear();
+    Print();
+    EXPECT_EQ(Job(), nullptr);
+    EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(661)});
+}
+
+/// Stops the server's process for as long as it lives: it takes requests and answers none.
+class HungServer {
+public:
+    HungServer() {
+        QFile file(InServerFolder(QStringLiteral("run/cupsd.pid")));
+        if (!file.open(QIODevice::ReadOnly)) {
+            throw std::runtime_error("the server has no process");
+        }
+        m_process = QString::fromLatin1(file.readAll().trimmed());
+        Signal(QStringLiteral("-STOP"));
+    }
+    HungServer(const HungServer&) = delete;
+    HungServer& operator=(const HungServer&) = delete;
+    HungServer(HungServer&&) = delete;
+    HungServer& operator=(HungServer&&) = delete;
+    ~HungServer() { Signal(QStringLiteral("-CONT")); }
+
+private:
+    void Signal(const QString& signal) const {
+        PrintServer::Run(QStringLiteral("kill"), {signal, m_process});
+    }
+    QString m_process;
+};
+
+TEST_F(ServerOnlyTest, AServerThatHangsIsToldInsteadOfAsking) {
+    Begin();
+    FillRows(1);
+    const HungServer hung;
+    QElapsedTimer clock;
+    clock.start();
+    const DialogAnswer answer(Accept);
+    Window().Form().mnuFilePrint->trigger();
+    EXPECT_LT(clock.elapsed(), 10'000) << "of two seconds";
+    EXPECT_EQ(answer.Count(), 0);
+    EXPECT_EQ(Job(), nullptr);
+    EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(661)});
+}
+
+TEST_F(ServerOnlyTest, AServerThatHangsIsWaitedFor) {
+    Begin(1h);
+    FillRows(1);
+    Print();
+    ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
+    {
+        const HungServer hung;
+        HurryJob();
+        ASSERT_TRUE(WaitFor([&] { return !JobTimer().isActive(); }));
+        Settle();
+        ASSERT_NE(Job(), nullptr);
+        EXPECT_TRUE(Job()->isVisible());
+    }
+    ASSERT_TRUE(WaitForEnd());
+    EXPECT_TRUE(WaitForPaper(1));
+    EXPECT_TRUE(SettledMessages().isEmpty());
+}
+
+TEST_F(ServerOnlyTest, CancelLeavesNoTraceInAServerThatHangs) {
+    Begin(1h);
+    FillRows(1);
+    Print();
+    ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
+    {
+        const HungServer hung;
+        HurryJob();
+        ASSERT_TRUE(WaitFor([&] { return !JobTimer().isActive(); }));
+        Job()->findChild<QPushButton*>()->click();
+        ASSERT_TRUE(WaitForEnd());
+    }
+    ExpectNoTrace();
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -322,6 +323,22 @@ TEST_F(PrintCommandsTest, MarginsWithoutRoomForARowAreRefused) {
             EXPECT_LE(Printer().printed.front().pages.size(), 5U) << row.space.width();
         }
         Door().Clear();
+    }
+}
+
+TEST_F(PrintCommandsTest, ATickIsAsLargeAsOtherText) {
+    Begin();
+    FillFirstOffer();
+    Get<QCheckBox>(u"chkPoints(0)").click();
+    for (const double width : {8.0, 7.5, 5.3, 3.8}) {
+        Printer().space.setWidth(width * TwipsPerInch);
+        Printer().printed.clear();
+        Print();
+        ASSERT_TRUE(WaitForEnd());
+        const PrintedPage& page = Printer().printed.at(0).pages.at(0);
+        const PrintFont tick = TextNamed(page, QStringLiteral("x")).font;
+        EXPECT_GE(tick.points, TextNamed(page, QStringLiteral("6.000%")).font.points) << width;
+        EXPECT_GE(tick.points, 6) << width;
     }
 }
 

@@ -17,6 +17,8 @@
 
 #include <iostream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -55,7 +57,7 @@ void Accept(QPrintDialog& dialog) {
 }
 
 QString InServerFolder(const QString& path) {
-    return QFileInfo(qEnvironmentVariable("CUPS_SERVER")).dir().filePath(u"../"_qs + path);
+    return QFileInfo(qEnvironmentVariable("CUPS_SERVER")).dir().filePath(u"../"_s + path);
 }
 
 void AddOther() {

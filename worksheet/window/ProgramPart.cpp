@@ -1,9 +1,23 @@
 #include "ProgramPart.h"
 
 #include <QCoreApplication>
+#include <QLatin1String>
 #include <QPluginLoader>
 
+namespace {
+
+#ifdef _WIN32
+constexpr QLatin1String Ending(".dll");
+#else
+constexpr QLatin1String Ending(".so");
+#endif
+
+} // namespace
+
+QString ProgramPartFile(const QString& name) {
+    return QCoreApplication::applicationDirPath() + u'/' + name + Ending;
+}
+
 QObject* LoadProgramPart(const QString& name) {
-    const QString folder = QCoreApplication::applicationDirPath();
-    return QPluginLoader(folder + u'/' + name).instance();
+    return QPluginLoader(ProgramPartFile(name)).instance();
 }

@@ -74,6 +74,15 @@ inline constexpr int WindowTitle = 200;
 inline constexpr int NoPicture = 520;
 inline constexpr int PictureNotShown = 521;
 inline constexpr int PrintSetUpTitle = 561;
+inline constexpr int NoPrinter = 660;
+inline constexpr int NoPrintServer = 661;
+/// %1 becomes the name of the printer.
+inline constexpr int PrinterGone = 662;
+inline constexpr int PrinterRejects = 663;
+inline constexpr int NotPrinted = 664;
+inline constexpr int MarginsTooWide = 665;
+/// %1 becomes the name of the file.
+inline constexpr int PartMissing = 666;
 /// No text to be shown: the file of the toolkit's own texts in this language. ToolkitTexts puts the
 /// following ones in their place.
 inline constexpr int ToolkitTexts = 562;
@@ -167,6 +176,13 @@ inline constexpr std::array All{
     NoPicture,
     PictureNotShown,
     PrintSetUpTitle,
+    NoPrinter,
+    NoPrintServer,
+    PrinterGone,
+    PrinterRejects,
+    NotPrinted,
+    MarginsTooWide,
+    PartMissing,
     ToolkitTexts,
     FileName,
     FileType,

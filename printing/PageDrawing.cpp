@@ -88,13 +88,20 @@ void PageDrawing::PrintTextInBox(double left, double top, double width, double h
     }
 }
 
-/// All of it in twips.
+/// All of it in twips. The room beside the text gives way before its type does, and a single
+/// character stays as large as other text whatever the box: a tick must not vanish.
 void PageDrawing::PrintLineInBox(double left, double right, double y, const QString& text,
                                  bool rightAligned) {
+    const double spare = right - left - LeastGap - TextWidth(text);
+    if (text.size() == 1 && spare < LeastGap) {
+        PrintAt({(left + right - TextWidth(text)) / 2, y}, text);
+        return;
+    }
     const PrintFont font = m_font;
     const double lineHeight = TextHeight();
-    const QString fitting = FitInto(text, right - left - TextPadding - LeastGap);
-    const double x = rightAligned ? right - TextWidth(fitting) - TextPadding : left + TextPadding;
+    const double padding = std::clamp(spare, LeastGap, TextPadding);
+    const QString fitting = FitInto(text, right - left - padding - LeastGap);
+    const double x = rightAligned ? right - TextWidth(fitting) - padding : left + padding;
     PrintAt({x, y + (lineHeight - TextHeight()) / 2}, fitting);
     m_font = font;
 }

@@ -32,8 +32,8 @@ public:
 
     void PrintBox(double left, double top, double width, double height);
     void PrintLine(double x1, double y1, double x2, double y2, int penWidth);
-    /// Centred vertically; breaks are "\r\n". A line that is too wide for the box is set in smaller
-    /// type, and one that would not be legible then ends in "…".
+    /// Centred vertically; breaks are "\r\n". A line that is too wide for the box is set closer
+    /// to its edge or else in smaller type, and one that would not be legible then ends in "…".
     void PrintTextInBox(double left, double top, double width, double height, const QString& text,
                         bool rightAligned);
     /// A caption at (x, y), in a height centred vertically, in a width centred horizontally if

@@ -1,8 +1,13 @@
 #include "PagePainter.h"
 
 #include <QFont>
+#include <QGlyphRun>
+#include <QImage>
 #include <QPagedPaintDevice>
 #include <QPainter>
+#include <QPainterPath>
+#include <QRawFont>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -36,11 +41,92 @@ void Paint(QPainter& painter, const PrintedLine& line) {
     painter.drawLine(line.line);
 }
 
+/// Pictures in type are beyond the letters of common scripts; a first look costs nothing.
+bool MayHoldPictures(const QString& text) {
+    constexpr char16_t firstSymbol = 0x2000;
+    return std::ranges::any_of(text, [](QChar letter) { return letter >= firstSymbol; });
+}
+
+/// The font at another size. A document that embeds a font leaves the toolkit's at a size where no
+/// picture is found, unnoticed; one that is not the last size asked for is set anew.
+QRawFont Sized(QRawFont font, double pixels) {
+    font.setPixelSize(pixels + 1);
+    font.boundingRect(0);
+    font.setPixelSize(pixels);
+    font.boundingRect(0);
+    return font;
+}
+
+/// One glyph of a font that holds pictures instead of outlines.
+QImage PictureOf(const QRawFont& font, quint32 glyph) {
+    const QRectF bounds = font.boundingRect(glyph);
+    QImage picture(bounds.size().toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QGlyphRun run;
+    run.setRawFont(font);
+    run.setGlyphIndexes({glyph});
+    run.setPositions({QPointF(0, 0)});
+    QPainter(&picture).drawGlyphRun(-bounds.topLeft(), run);
+    return picture;
+}
+
+void PaintPicture(QPainter& painter, QPointF place, const QRawFont& font, quint32 glyph) {
+    constexpr double dotsPerTwip = 0.5; // 720 an inch
+    const QRawFont dots = Sized(font, font.pixelSize() * dotsPerTwip);
+    const QRectF bounds = dots.boundingRect(glyph);
+    if (!bounds.isEmpty()) {
+        painter.drawImage(
+            QRectF(place + bounds.topLeft() / dotsPerTwip, bounds.size() / dotsPerTwip),
+            PictureOf(dots, glyph));
+    }
+}
+
+/// Emoji have no outlines, and what has none leaves no mark in a document.
+void PaintPictures(QPainter& painter, QPointF baseline, const QFont& font, const QString& text) {
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    for (const QGlyphRun& run : layout.glyphRuns()) {
+        const QRawFont raw = run.rawFont();
+        const QList<quint32> glyphs = run.glyphIndexes();
+        const QList<QPointF> places = run.positions();
+        for (qsizetype at = 0; at < glyphs.size(); ++at) {
+            if (raw.pathForGlyph(glyphs.at(at)).isEmpty()) {
+                PaintPicture(painter, baseline + places.at(at) - QPointF(0, line.ascent()), raw,
+                             glyphs.at(at));
+            }
+        }
+    }
+}
+
 void Paint(QPainter& painter, const PrintedText& text) {
     const QFont font = FontOf(text.font);
+    const QPointF baseline = text.place + QPointF(0, QFontMetricsF(font).ascent());
     painter.setPen(Qt::black);
     painter.setFont(font);
-    painter.drawText(text.place + QPointF(0, QFontMetricsF(font).ascent()), text.text);
+    painter.drawText(baseline, text.text);
+    if (MayHoldPictures(text.text)) {
+        PaintPictures(painter, baseline, font, text.text);
+    }
+}
+
+/// Or the next report would be laid out by the sizes that this one left behind.
+void SetSizesAnew(const PrintedPages& pages) {
+    for (const PrintedPage& page : pages.pages) {
+        for (const PrintedItem& item : page.items) {
+            const auto* text = std::get_if<PrintedText>(&item);
+            if (text != nullptr && MayHoldPictures(text->text)) {
+                QTextLayout layout(text->text, FontOf(text->font));
+                layout.beginLayout();
+                layout.createLine();
+                layout.endLayout();
+                for (const QGlyphRun& run : layout.glyphRuns()) {
+                    Sized(run.rawFont(), run.rawFont().pixelSize());
+                }
+            }
+        }
+    }
 }
 
 } // namespace
@@ -79,5 +165,7 @@ bool PaintPages(QPagedPaintDevice& device, const PrintedPages& pages) {
         }
         PaintPage(painter, page);
     }
-    return painter.end();
+    const bool ended = painter.end();
+    SetSizesAnew(pages);
+    return ended;
 }

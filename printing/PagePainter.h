@@ -22,8 +22,9 @@ private:
     mutable std::vector<std::pair<PrintFont, QFontMetricsF>> m_known;
 };
 
-/// Draws a page in black, as lines and text. The painter's unit is the twip, its origin the top
-/// left of the printable part. Fills nothing: the paper is white.
+/// Draws a page in black, as lines and text; emoji as the pictures that their font holds. The
+/// painter's unit is the twip, its origin the top left of the printable part. Fills nothing: the
+/// paper is white.
 void PaintPage(QPainter& painter, const PrintedPage& page);
 
 /// Draws all pages on a printer or into a document. False where that cannot be begun.

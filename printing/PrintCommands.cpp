@@ -1,24 +1,39 @@
 #include "PrintCommands.h"
 
 #include "FormReader.h"
+#include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
 #include "PrinterDoor.h"
+#include "ProgramPart.h"
+#include "TextNumbers.h"
 
 #include <QAction>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QEventLoop>
 
 #include <exception>
 #include <utility>
 
 namespace {
 
-/// No error of printing is ever told.
-template <class Handler>
-void Quietly(Handler&& handler) {
-    try {
-        handler();
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
+QString TextOf(const PrintOutcome& outcome) {
+    switch (outcome.fault) {
+    case PrintFault::None:
+        break;
+    case PrintFault::NoPrinter:
+        return GetResourceText(TextNumber::NoPrinter);
+    case PrintFault::NoServer:
+        return GetResourceText(TextNumber::NoPrintServer);
+    case PrintFault::Gone:
+        return GetResourceText(TextNumber::PrinterGone).arg(outcome.detail);
+    case PrintFault::Rejects:
+        return GetResourceText(TextNumber::PrinterRejects).arg(outcome.detail);
+    case PrintFault::Failed:
+        return GetResourceText(TextNumber::NotPrinted) + QStringLiteral("\n\n") + outcome.detail;
     }
+    return {};
 }
 
 } // namespace
@@ -27,17 +42,48 @@ PrintCommands::PrintCommands(Loan& window, PrinterDoor& printer, frmPrint::Pace 
     : m_window(&window), m_printer(&printer), m_pace(std::move(pace)) {
     const Ui::Loan& form = window.Form();
     connect(form.mnuFilePrint, &QAction::triggered, this,
-            [this] { Quietly([this] { mnuFilePrint_Click(); }); });
+            [this] { Guarded([this] { mnuFilePrint_Click(); }); });
     connect(form.mnuFilePrintSetup, &QAction::triggered, this,
-            [this] { Quietly([this] { mnuFilePrintSetup_Click(); }); });
+            [this] { Guarded([this] { mnuFilePrintSetup_Click(); }); });
+    QCoreApplication::instance()->installEventFilter(this);
     EnableEntries(true);
 }
 
 PrintCommands::~PrintCommands() {
     if (m_job) {
-        m_job->disconnect(this);
-        m_job->EndNow();
+        m_quits = false;
+        m_job->EndSoon();
+        while (m_job) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        m_window->GetMessages().ShowRest();
     }
+}
+
+/// An installation without the part that prints is told of; what else fails is a dialog, and
+/// silent.
+template <class Handler>
+void PrintCommands::Guarded(Handler&& handler) const {
+    try {
+        handler();
+    } catch (const ComponentFailure& failure) {
+        m_window->GetMessages().Post(
+            GetResourceText(TextNumber::PartMissing)
+                .arg(ProgramPartFile(QString::fromStdString(failure.Source()))));
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
+    }
+}
+
+/// Quitting would close the progress window, which is not what a user means by Cancel: it waits
+/// until the report is on its way.
+bool PrintCommands::eventFilter(QObject* watched, QEvent* event) {
+    if (m_job && event->type() == QEvent::Quit && watched == QCoreApplication::instance()) {
+        m_quits = true;
+        m_job->EndSoon();
+        event->ignore();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void PrintCommands::EnableEntries(bool enabled) {
@@ -45,17 +91,30 @@ void PrintCommands::EnableEntries(bool enabled) {
     m_window->Form().mnuFilePrintSetup->setEnabled(enabled);
 }
 
+/// Tells what went wrong, if anything did.
+bool PrintCommands::MayGoOn(const PrintOutcome& outcome) const {
+    if (outcome.fault == PrintFault::None) {
+        return true;
+    }
+    m_window->GetMessages().Post(TextOf(outcome));
+    return false;
+}
+
 /// A field that is refused stops the command: what it shows is not what the offers were computed
 /// from.
 void PrintCommands::mnuFilePrint_Click() {
-    if (!m_job && m_window->Commit() && m_printer->AskHowToPrint(*m_window)) {
+    if (m_job || !m_window->Commit()) {
+        return;
+    }
+    const auto answer = m_printer->AskHowToPrint(*m_window);
+    if (answer && MayGoOn(*answer)) {
         StartJob();
     }
 }
 
 void PrintCommands::mnuFilePrintSetup_Click() {
     if (!m_job) {
-        m_printer->AskSetUp(*m_window);
+        MayGoOn(m_printer->AskSetUp(*m_window));
     }
 }
 
@@ -63,10 +122,15 @@ void PrintCommands::StartJob() {
     const QSizeF space = m_printer->PageSpace();
     const double widest =
         Report::WidestWindow(space.width(), LabelPoints(*m_window), PixelsPerPoint(*m_window));
+    Report report(ReadForm(*m_window, widest), space, m_metrics);
+    if (!report.HasRoomForARow()) {
+        m_window->GetMessages().Post(GetResourceText(TextNumber::MarginsTooWide));
+        return;
+    }
     m_job = std::make_unique<frmPrint>(
         *m_window,
         frmPrint::Job{.loanName = m_window->Form().cboLoanName->currentText(),
-                      .report = Report(ReadForm(*m_window, widest), space, m_metrics)},
+                      .report = std::move(report)},
         *m_printer, m_pace);
     connect(m_job.get(), &frmPrint::Unloaded, this, &PrintCommands::EndJob, Qt::QueuedConnection);
     EnableEntries(false);
@@ -74,6 +138,12 @@ void PrintCommands::StartJob() {
 }
 
 void PrintCommands::EndJob() {
+    const PrintOutcome outcome = m_job->Outcome();
     m_job.reset();
     EnableEntries(true);
+    MayGoOn(outcome);
+    if (std::exchange(m_quits, false)) {
+        m_window->GetMessages().ShowRest(); // nobody shows them once the program has ended
+        QCoreApplication::quit();
+    }
 }

@@ -8,10 +8,12 @@
 /// put to them; where it is missing, each question throws ComponentFailure.
 class PrinterOfPart : public PrinterDoor {
 public:
-    bool AskHowToPrint(QWidget& parent) override { return Door().AskHowToPrint(parent); }
-    void AskSetUp(QWidget& parent) override { Door().AskSetUp(parent); }
+    std::optional<PrintOutcome> AskHowToPrint(QWidget& parent) override {
+        return Door().AskHowToPrint(parent);
+    }
+    PrintOutcome AskSetUp(QWidget& parent) override { return Door().AskSetUp(parent); }
     QSizeF PageSpace() override { return Door().PageSpace(); }
-    void Print(const PrintedPages& pages) override { Door().Print(pages); }
+    HandOver Document(const PrintedPages& pages) override { return Door().Document(pages); }
 
 private:
     PrinterDoor& Door();

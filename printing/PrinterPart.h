@@ -26,5 +26,5 @@ public:
 };
 
 // A macro, because the meta-object compiler reads it.
-#define PrinterPart_iid "quend.loan.PrinterPart/1"
+#define PrinterPart_iid "quend.loan.PrinterPart/2"
 Q_DECLARE_INTERFACE(PrinterPart, PrinterPart_iid)

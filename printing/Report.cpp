@@ -87,6 +87,14 @@ void Report::PrintEntries(const std::vector<FormEntry>& entries) {
     }
 }
 
+/// A column that is too narrow for a few letters would break a lender's text into one line each.
+bool Report::HasRoomForARow() const {
+    const double lender = m_page.RoomInBox(m_form.columns.back().width + m_form.scrollBarWidth);
+    return m_page.ScaleFactor() > 0 &&
+           lender - LenderGap >= m_page.TextWidth(QStringLiteral("mmm")) &&
+           m_form.offersTop + HeightOf(1) <= RowLimit();
+}
+
 void Report::PrintLoanHeader() {
     PrintCaption(m_form.current, m_form.current.place.top());
     PrintEntries(m_form.header);

@@ -14,6 +14,9 @@ public:
     /// `space`: the printable part of a page in twips. The metrics outlive the report.
     Report(PrintedForm form, QSizeF space, const TextMetrics& metrics);
 
+    /// Whether the first page has room for the loan and, below it, for the row of an offer.
+    bool HasRoomForARow() const;
+
     // The sections, to be drawn once each and in this order.
     void PrintLoanHeader();
     void PrintCurrentLoanFirstHalf();

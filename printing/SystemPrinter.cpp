@@ -1,13 +1,17 @@
 #include "SystemPrinter.h"
 
+#include "ChosenPage.h"
 #include "PagePainter.h"
+#include "PrintQueue.h"
 #include "TextNumbers.h"
-#include "UserPrinter.h"
 #include "VersionRecord.h"
 
+#include <QBuffer>
 #include <QDialogButtonBox>
 #include <QLocale>
+#include <QPdfWriter>
 #include <QPrintDialog>
+#include <QPrintEngine>
 #include <QPrinterInfo>
 #include <QPushButton>
 
@@ -62,6 +66,78 @@ bool IsThere(const QPrinter& printer) {
     return QPrinterInfo::availablePrinterNames().contains(printer.printerName());
 }
 
+/// A server that hangs would hang the dialog, too, and one without printers has nothing to choose.
+PrintOutcome ObstacleToAsking() {
+    const PrintOutcome server = AskServer();
+    if (server.fault == PrintFault::None && QPrinterInfo::availablePrinterNames().isEmpty()) {
+        return {PrintFault::NoPrinter};
+    }
+    return server;
+}
+
+/// The queue's own name: the toolkit knows it together with that of a set of options.
+QString QueueOf(const QPrinter& printer) { return printer.printerName().section(u'/', 0, 0); }
+
+QByteArray SidesOf(const QPrinter& printer) {
+    const bool upright = printer.pageLayout().orientation() == QPageLayout::Portrait;
+    switch (printer.duplex()) {
+    case QPrinter::DuplexNone:
+        break;
+    case QPrinter::DuplexAuto:
+        return upright ? "two-sided-long-edge" : "two-sided-short-edge";
+    case QPrinter::DuplexLongSide:
+        return "two-sided-long-edge";
+    case QPrinter::DuplexShortSide:
+        return "two-sided-short-edge";
+    }
+    return "one-sided";
+}
+
+using ServerOptions = decltype(QueuedDocument::options);
+
+/// What the dialog asks of the print server alone, such as pages per sheet: the toolkit keeps it
+/// under a number that has no name, names and values in turn.
+void AddDialogOptions(const QPrinter& printer, ServerOptions& options) {
+    constexpr auto key = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00);
+    const QStringList chosen = printer.printEngine()->property(key).toStringList();
+    for (qsizetype at = 0; at + 1 < chosen.size(); at += 2) {
+        options.emplace_back(chosen.at(at).toUtf8(), chosen.at(at + 1).toUtf8());
+    }
+}
+
+/// The server's words for what the toolkit's dialogs ask.
+ServerOptions OptionsOf(const QPrinter& printer, int copies) {
+    ServerOptions options{{"media", printer.pageLayout().pageSize().key().toUtf8()},
+                          {"sides", SidesOf(printer)}};
+    if (copies > 1) {
+        options.emplace_back("copies", QByteArray::number(copies));
+        if (printer.collateCopies()) {
+            options.emplace_back("Collate", "True");
+        }
+    }
+    if (printer.pageLayout().orientation() == QPageLayout::Landscape) {
+        options.emplace_back("landscape", "");
+    }
+    AddDialogOptions(printer, options);
+    return options;
+}
+
+/// Empty where it cannot be painted.
+QByteArray PdfOf(const PrintedPages& pages, const QPrinter& printer) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setTitle(printer.docName());
+    writer.setCreator(printer.creator());
+    writer.setResolution(printer.resolution());
+    writer.setPageLayout(printer.pageLayout());
+    return PaintPages(writer, pages) ? buffer.data() : QByteArray();
+}
+
+HandOver Finished(const PrintOutcome& outcome) {
+    return [outcome](const std::stop_token& /*stop*/) { return outcome; };
+}
+
 } // namespace
 
 void PrepareDocument(QPrinter& printer) {
@@ -85,35 +161,62 @@ QPrinter& SystemPrinter::Chosen() {
 
 bool SystemPrinter::Ask(QPrintDialog& dialog) {
     Limit(dialog);
-    const QString before = m_printer->printerName();
-    const QPageSize size = m_printer->pageLayout().pageSize();
+    const ChosenPage page(*m_printer);
     if (dialog.exec() != QDialog::Accepted) {
         return false;
     }
-    if (m_printer->printerName() != before && m_printer->pageLayout().pageSize() == size) {
-        m_printer->setPageSize(OwnPageSize(*m_printer));
-    }
-    ChooseUserPrinter(m_printer->printerName());
+    page.Settle();
+    ChooseUserPrinter(QueueOf(*m_printer));
     return true;
 }
 
-bool SystemPrinter::AskHowToPrint(QWidget& parent) {
+/// The number of copies is one job's: nobody wants five of the next.
+std::optional<PrintOutcome> SystemPrinter::AskHowToPrint(QWidget& parent) {
+    const PrintOutcome obstacle = ObstacleToAsking();
+    if (obstacle.fault != PrintFault::None) {
+        return obstacle;
+    }
     QPrintDialog dialog(&Chosen(), &parent);
-    return Ask(dialog);
+    if (!Ask(dialog)) {
+        return std::nullopt;
+    }
+    m_copies = m_printer->copyCount();
+    m_printer->setCopyCount(1);
+    return AskQueue(QueueOf(*m_printer));
 }
 
-void SystemPrinter::AskSetUp(QWidget& parent) {
+PrintOutcome SystemPrinter::AskSetUp(QWidget& parent) {
+    const PrintOutcome obstacle = ObstacleToAsking();
+    if (obstacle.fault != PrintFault::None) {
+        return obstacle;
+    }
     QPrintDialog dialog(&Chosen(), &parent);
     dialog.setWindowTitle(m_words(TextNumber::PrintSetUpTitle));
     NameOk(dialog, m_words(TextNumber::Ok));
     Ask(dialog);
+    return {};
 }
 
 QSizeF SystemPrinter::PageSpace() { return PageSpaceOf(m_printer ? *m_printer : Chosen()); }
 
-/// The toolkit would print on another printer instead of one that is gone.
-void SystemPrinter::Print(const PrintedPages& pages) {
-    if (m_printer && IsThere(*m_printer)) {
-        PaintPages(*m_printer, pages);
+/// The toolkit would print in the window's thread, tell of no fault, and print on another printer
+/// instead of one that is gone.
+HandOver SystemPrinter::Document(const PrintedPages& pages) {
+    QPrinter& printer = m_printer ? *m_printer : Chosen();
+    if (!HasPrintServer()) {
+        printer.setCopyCount(m_copies);
+        const bool printed = PaintPages(printer, pages);
+        printer.setCopyCount(1);
+        return Finished({printed ? PrintFault::None : PrintFault::Failed});
     }
+    QueuedDocument document{.queue = QueueOf(printer),
+                            .title = printer.docName(),
+                            .pdf = PdfOf(pages, printer),
+                            .options = OptionsOf(printer, m_copies)};
+    if (document.pdf.isEmpty()) {
+        return Finished({PrintFault::Failed});
+    }
+    return [document = std::move(document)](const std::stop_token& stop) {
+        return Send(document, stop);
+    };
 }

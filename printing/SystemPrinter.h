@@ -10,19 +10,20 @@
 
 class QPrintDialog;
 
-/// The printers of this system through the toolkit, with its dialogs. What the user chose last is
-/// kept for as long as the program runs. Files are not offered for printing into.
+/// The printers of this system through the toolkit, with its dialogs; documents go straight to the
+/// print server, where there is one. What the user chose last is kept for as long as the program
+/// runs, but for the number of copies. Files are not offered for printing into.
 class SystemPrinter : public PrinterDoor {
 public:
-    /// The words of the language in use, by number. They come in, because this class stands in a
+    /// The words of the language in use, by number. They come in, because this class is in a
     /// library of its own, where no language is in use.
     using Words = std::function<QString(int number)>;
     explicit SystemPrinter(Words words) : m_words(std::move(words)) {}
 
-    bool AskHowToPrint(QWidget& parent) override;
-    void AskSetUp(QWidget& parent) override;
+    std::optional<PrintOutcome> AskHowToPrint(QWidget& parent) override;
+    PrintOutcome AskSetUp(QWidget& parent) override;
     QSizeF PageSpace() override;
-    void Print(const PrintedPages& pages) override;
+    HandOver Document(const PrintedPages& pages) override;
 
 private:
     QPrinter& Chosen();
@@ -31,6 +32,7 @@ private:
     Words m_words;
     // Made when first asked for: looking for printers takes its time.
     std::unique_ptr<QPrinter> m_printer;
+    int m_copies = 1; ///< of the next document
 };
 
 /// Sets up whatever prints: the document's name, and the page that the printer itself has.

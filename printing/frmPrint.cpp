@@ -3,14 +3,15 @@
 #include "CMouse.h"
 #include "Captions.h"
 #include "Language.h"
-#include "PrinterDoor.h"
 #include "TextNumbers.h"
 #include "ui_frmPrint.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QTimer>
 
+#include <exception>
 #include <utility>
 
 namespace {
@@ -19,6 +20,29 @@ std::unique_ptr<Ui::frmPrint> FormOf(frmPrint& window) {
     auto form = std::make_unique<Ui::frmPrint>();
     form->setupUi(&window);
     return form;
+}
+
+/// A name on one line; of a long one both ends, which is where names differ.
+QString Shortened(const QString& name, const QFontMetrics& metrics) {
+    constexpr int longest = 60; // characters of middling width
+    return metrics.elidedText(name, Qt::ElideMiddle, longest * metrics.averageCharWidth());
+}
+
+bool IsReturn(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+PrintOutcome FailureOf(const std::exception& failure) {
+    return {PrintFault::Failed, QString::fromUtf8(failure.what())};
+}
+
+/// Whatever the printing system throws, it must not end the thread and the program with it.
+PrintOutcome Run(const HandOver& handOver, const std::stop_token& stop) {
+    try {
+        return handOver(stop);
+    } catch (const std::exception& failure) {
+        return FailureOf(failure);
+    }
 }
 
 } // namespace
@@ -30,18 +54,35 @@ frmPrint::frmPrint(QWidget& owner, Job job, PrinterDoor& printer, Pace pace)
     m_tmrPrint->setInterval(m_pace.shownAtLeast);
     connect(m_tmrPrint, &QTimer::timeout, this, &frmPrint::tmrPrint_Timer);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmPrint::cmdCancel_Click);
+    m_ui->cmdCancel->installEventFilter(this);
     Form_Load();
 }
 
 frmPrint::~frmPrint() = default;
 
 void frmPrint::Form_Load() {
-    m_ui->lblPrintingText->setText(GetResourceText(TextNumber::Printing) + m_job.loanName +
-                                   QStringLiteral("..."));
+    QLabel& message = *m_ui->lblPrintingText;
+    message.setText(GetResourceText(TextNumber::Printing) +
+                    Shortened(m_job.loanName, message.fontMetrics()) + QStringLiteral("..."));
     adjustSize();
     const QRect main = m_owner->frameGeometry();
     move(main.left() + (main.width() - width()) / 2, main.top() + (main.height() - height()) / 2);
     m_printCancelled = false;
+}
+
+/// The Return that pressed Print may be pressed twice or held, and this window opens below it: no
+/// Return is Cancel, whatever a desktop thinks of Return on a button.
+bool frmPrint::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress && IsReturn(static_cast<const QKeyEvent&>(*event))) {
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void frmPrint::keyPressEvent(QKeyEvent* event) {
+    if (!IsReturn(*event)) {
+        QDialog::keyPressEvent(event);
+    }
 }
 
 /// Once it is on the screen, however the desktop gives it the keyboard.
@@ -60,7 +101,9 @@ void frmPrint::Form_Activate() {
     mouse.SetPointer(MousePointer::Hourglass);
     ApplyPrintCaptions();
     m_printFinished = false;
-    m_tmrPrint->start();
+    if (!m_endsSoon) {
+        m_tmrPrint->start();
+    }
     m_drawing = true;
     const bool finished = DrawReport();
     m_drawing = false;
@@ -69,7 +112,7 @@ void frmPrint::Form_Activate() {
     } else if (finished) {
         m_printFinished = true;
         if (!m_tmrPrint->isActive()) {
-            Unload();
+            Form_Unload();
         }
     }
 }
@@ -99,7 +142,7 @@ void frmPrint::Yield() const {
 void frmPrint::tmrPrint_Timer() {
     m_tmrPrint->stop();
     if (m_printFinished) {
-        Unload();
+        Form_Unload();
     }
 }
 
@@ -108,7 +151,7 @@ void frmPrint::cmdCancel_Click() {
         return;
     }
     m_printCancelled = true;
-    Unload();
+    Form_Unload();
 }
 
 void frmPrint::closeEvent(QCloseEvent* event) {
@@ -116,31 +159,58 @@ void frmPrint::closeEvent(QCloseEvent* event) {
     cmdCancel_Click();
 }
 
-void frmPrint::EndNow() {
-    if (m_printFinished) {
-        Unload();
-    } else {
-        cmdCancel_Click();
+void frmPrint::EndSoon() {
+    m_endsSoon = true;
+    if (m_tmrPrint->isActive()) {
+        tmrPrint_Timer();
     }
 }
 
-/// While the report is being drawn the end is told only when that has come back.
+/// What was drawn for a cancelled job goes no further.
+void frmPrint::Form_Unload() {
+    if (m_printCancelled) {
+        Unload();
+    } else if (!m_handingOver.joinable()) {
+        m_job.report.PrintPageFooter();
+        GiveToPrinter();
+    }
+}
+
+void frmPrint::GiveToPrinter() {
+    HandOver handOver;
+    try {
+        handOver = m_printer->Document(m_job.report.Pages());
+    } catch (const std::exception& failure) {
+        Arrived(FailureOf(failure));
+        return;
+    }
+    m_handingOver = std::jthread([this, handOver = std::move(handOver)](std::stop_token stop) {
+        const PrintOutcome outcome = Run(handOver, stop);
+        QMetaObject::invokeMethod(
+            this, [this, outcome] { Arrived(outcome); }, Qt::QueuedConnection);
+    });
+}
+
+/// A cancelled job has its end here, too, for only now nothing of it runs any more.
+void frmPrint::Arrived(const PrintOutcome& outcome) {
+    m_handingOver = {};
+    if (m_printCancelled) {
+        Q_EMIT Unloaded();
+    } else {
+        m_outcome = outcome;
+        Unload();
+    }
+}
+
+/// While the report is being drawn or handed over, the end is told only when that has come back.
 void frmPrint::Unload() {
     if (std::exchange(m_unloaded, true)) {
         return;
     }
     m_tmrPrint->stop();
     hide();
-    Form_Unload();
-    if (!m_drawing) {
+    m_handingOver.request_stop();
+    if (!m_drawing && !m_handingOver.joinable()) {
         Q_EMIT Unloaded();
-    }
-}
-
-/// What was drawn for a cancelled job goes no further.
-void frmPrint::Form_Unload() {
-    if (!m_printCancelled) {
-        m_job.report.PrintPageFooter();
-        m_printer->Print(m_job.report.Pages());
     }
 }

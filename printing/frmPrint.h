@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PrinterDoor.h"
 #include "Report.h"
 
 #include <QDialog>
@@ -7,17 +8,17 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <thread>
 
 namespace Ui {
 class frmPrint;
 }
 
-class PrinterDoor;
-
 /// The job of printing one report, and the window that shows it at work. Draws the report section
-/// by section and lets Cancel be pressed in between; stays up for three seconds at least; hands the
-/// pages to the printer once it closes uncancelled, and then only. Does not know what the report
-/// looks like.
+/// by section and lets Cancel be pressed in between; stays up for three seconds at least; then
+/// hands the pages to the printer, in a thread of their own because a print server may take
+/// minutes, and closes when they have arrived. Does not know what the report looks like and does
+/// not tell what went wrong: that is in the outcome.
 ///
 /// Closing the window by other means than the job's end is Cancel.
 class frmPrint : public QDialog {
@@ -47,9 +48,12 @@ public:
     /// The whole report has been drawn.
     bool PrintFinished() const { return m_printFinished; }
 
-    /// The program ends: a report that is all drawn is printed without waiting any longer, one that
-    /// is not never will be.
-    void EndNow();
+    /// What became of the document; nothing is wrong with one that was cancelled.
+    const PrintOutcome& Outcome() const { return m_outcome; }
+
+    /// The program is about to end: the report is printed as soon as it is drawn. Cancel goes on
+    /// working meanwhile.
+    void EndSoon();
 
     void reject() override { cmdCancel_Click(); }
 
@@ -58,6 +62,8 @@ Q_SIGNALS:
     void Unloaded();
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -71,6 +77,8 @@ private:
     void ApplyPrintCaptions();
     bool DrawReport();
     void Yield() const;
+    void GiveToPrinter();
+    void Arrived(const PrintOutcome& outcome);
     void Unload();
 
     std::unique_ptr<Ui::frmPrint> m_ui;
@@ -84,4 +92,7 @@ private:
     bool m_unloaded = false;
     bool m_printCancelled = false;
     bool m_printFinished = false;
+    bool m_endsSoon = false;
+    PrintOutcome m_outcome;
+    std::jthread m_handingOver; // the last member: it ends before what it uses
 };

@@ -17,7 +17,7 @@ _DOORS = frozenset({
     "extras/InstalledSystemInfo.cpp",
     "language/ComponentFile.cpp",
     "language/LanguageIdentifier.cpp",
-    "printing/UserPrinter.cpp",
+    "printing/PrintQueue.cpp",
     "storage/registry/StoreFile.cpp",
     "storage/registry/StoreTrouble.cpp",
     "storage/registry/UserStore.cpp",

@@ -19,10 +19,16 @@ public:
         m_printer.setOutputFileName(file);
     }
 
-    bool AskHowToPrint(QWidget& /*parent*/) override { return true; }
-    void AskSetUp(QWidget& /*parent*/) override {}
+    std::optional<PrintOutcome> AskHowToPrint(QWidget& /*parent*/) override {
+        return PrintOutcome();
+    }
+    PrintOutcome AskSetUp(QWidget& /*parent*/) override { return {}; }
     QSizeF PageSpace() override { return PageSpaceOf(m_printer); }
-    void Print(const PrintedPages& pages) override { PaintPages(m_printer, pages); }
+    HandOver Document(const PrintedPages& pages) override {
+        Print(pages);
+        return [](const std::stop_token& /*stop*/) { return PrintOutcome(); };
+    }
+    void Print(const PrintedPages& pages) { PaintPages(m_printer, pages); }
 
 private:
     QPrinter m_printer{QPrinter::HighResolution};

@@ -121,6 +121,30 @@ TEST_P(Fitting, SmallerThenShorter) {
     EXPECT_NEAR(Page().Font().points, GetParam().points, 0.06);
 }
 
+/// A character is 100 twips wide; 20 twips at each side stay free.
+TEST_F(PageDrawingTest, TheRoomBesideATextGivesWayBeforeItsType) {
+    struct {
+        const char* text;
+        double width; // twips
+        bool right;
+        double x;
+        double points;
+    } const table[]{
+        {"ab", 292, false, 72, 10}, // the text and all the room
+        {"ab", 292, true, 20, 10},   {"ab", 260, false, 40, 10},
+        {"ab", 260, true, 20, 10},   {"ab", 240, false, 20, 10}, // the least of it
+        {"ab", 190, false, 20, 7.5}, {"ab", 1000, true, 728, 10},
+        {"x", 120, false, 10, 10}, // a single one stays as large
+        {"x", 80, true, -10, 10},
+    };
+    for (const auto& row : table) {
+        Page().PrintTextInBox(0, 0, row.width / 2, 100, QString::fromUtf8(row.text), row.right);
+        const PrintedText drawn = Texts().back();
+        EXPECT_NEAR(drawn.place.x(), row.x, 0.01) << row.width;
+        EXPECT_NEAR(drawn.font.points, row.points, 0.06) << row.width;
+    }
+}
+
 TEST_F(PageDrawingTest, ATextMadeSmallerStaysInTheMiddleAndChangesNoOther) {
     Page().PrintTextInBox(50, 100, 500, 200, QStringLiteral("abcdefghijklmnopqr"), true);
     Page().PrintTextInBox(50, 100, 500, 200, QStringLiteral("abc"), true);

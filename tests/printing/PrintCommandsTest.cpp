@@ -6,9 +6,12 @@
 #include "FakePrinter.h"
 #include "Language.h"
 #include "LoanForm.h"
+#include "PrinterOfPart.h"
 #include "WindowFixture.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -168,6 +171,188 @@ TEST_F(PrintCommandsTest, TheProgramEndsWithAFinishedReportOnItsWay) {
     EXPECT_TRUE(Window().close());
     End();
     EXPECT_EQ(Printer().printed.size(), 1U);
+}
+
+struct EndOfProgram {
+    const char* name;
+    void (*end)(Loan& window);
+};
+
+void PrintTo(const EndOfProgram& end, std::ostream* out) { *out << end.name; }
+
+/// The program as it really runs: quitting closes every window there is, the progress window, too.
+class EndsOfProgram : public PrintCommandsTest, public testing::WithParamInterface<EndOfProgram> {
+protected:
+    /// Until the program has ended by itself.
+    void RunProgram() {
+        QTimer::singleShot(0, &Window(), [this] { GetParam().end(Window()); });
+        QApplication::exec();
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Ways, EndsOfProgram,
+    testing::Values(EndOfProgram{"Closed", [](Loan& window) { window.close(); }},
+                    EndOfProgram{"FileExit",
+                                 [](Loan& window) { window.Form().mnuFileExit->trigger(); }},
+                    EndOfProgram{"Quit", [](Loan&) { QCoreApplication::quit(); }},
+                    EndOfProgram{"EndOfSession",
+                                 [](Loan&) {
+                                     QEvent quit(QEvent::Quit);
+                                     QCoreApplication::sendEvent(qApp, &quit);
+                                 }}),
+    [](const auto& end) { return end.param.name; });
+
+TEST_P(EndsOfProgram, PrintTheReportThatWaits) {
+    Begin(1h);
+    Print();
+    ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
+    RunProgram();
+    EXPECT_EQ(Job(), nullptr);
+    EXPECT_FALSE(Window().isVisible());
+    EXPECT_EQ(Printer().printed.size(), 1U);
+    EXPECT_TRUE(Door().Texts().isEmpty());
+}
+
+TEST_P(EndsOfProgram, PrintTheReportThatIsNotYetDrawn) {
+    Begin(1h);
+    Print();
+    RunProgram();
+    EXPECT_EQ(Printer().printed.size(), 1U);
+}
+
+TEST_P(EndsOfProgram, TellOfAReportThatCannotBePrinted) {
+    Begin(1h);
+    Printer().outcome = {PrintFault::NoServer};
+    Print();
+    RunProgram();
+    EXPECT_EQ(Door().Texts(), QStringList{GetResourceText(661)});
+}
+
+/// A server that hangs does not keep the program from ending for good.
+TEST_P(EndsOfProgram, LeaveCancelAtWork) {
+    Begin(1h);
+    Printer().whileHandingOver = [this](const std::stop_token& stop) {
+        QMetaObject::invokeMethod(
+            qApp, [this] { Job()->reject(); }, Qt::QueuedConnection);
+        Hang(stop);
+    };
+    Print();
+    RunProgram();
+    EXPECT_EQ(Job(), nullptr);
+    EXPECT_TRUE(Printer().printed.empty());
+    EXPECT_TRUE(Door().Texts().isEmpty());
+}
+
+struct Fault {
+    PrintOutcome outcome;
+    int text;
+    QString named;
+};
+
+const std::vector<Fault>& Faults() {
+    static const std::vector<Fault> faults{
+        {{PrintFault::NoPrinter}, 660, {}},
+        {{PrintFault::NoServer}, 661, {}},
+        {{PrintFault::Gone, QStringLiteral("Lab")}, 662, QStringLiteral("Lab")},
+        {{PrintFault::Rejects, QStringLiteral("Lab")}, 663, QStringLiteral("Lab")},
+    };
+    return faults;
+}
+
+QString Told(const Fault& fault) {
+    const QString text = GetResourceText(fault.text);
+    return fault.named.isEmpty() ? text : text.arg(fault.named);
+}
+
+TEST_F(PrintCommandsTest, WhereNothingCanPrintNoJobStarts) {
+    Begin();
+    for (const Fault& fault : Faults()) {
+        Printer().chance = fault.outcome;
+        Print();
+        EXPECT_EQ(Job(), nullptr);
+        EXPECT_EQ(SettledMessages(), QStringList{Told(fault)});
+        Door().Clear();
+        SetUpPrinter();
+        EXPECT_EQ(SettledMessages(), QStringList{Told(fault)});
+        Door().Clear();
+    }
+    EXPECT_TRUE(Printer().printed.empty());
+}
+
+TEST_F(PrintCommandsTest, ALostDocumentIsToldOnce) {
+    Begin();
+    for (const Fault& fault : Faults()) {
+        Printer().outcome = fault.outcome;
+        Print();
+        ASSERT_TRUE(WaitForEnd());
+        EXPECT_EQ(SettledMessages(), QStringList{Told(fault)});
+        Door().Clear();
+    }
+    Printer().outcome = {PrintFault::Failed, QStringLiteral("Too hot.")};
+    Print();
+    ASSERT_TRUE(WaitForEnd());
+    EXPECT_EQ(SettledMessages(),
+              QStringList{GetResourceText(664) + QStringLiteral("\n\nToo hot.")});
+}
+
+TEST_F(PrintCommandsTest, MarginsWithoutRoomForARowAreRefused) {
+    struct {
+        QSizeF space; // inches
+        bool prints;
+    } const table[]{
+        {{8, 10.5}, true},                                            // Letter
+        {{10.5, 8}, true},  {{5.5, 7.9}, true},                       // A5
+        {{3.8, 5.5}, true},                                           // A6
+        {{8, 1}, false},                                              // no row
+        {{8, 0.1}, false},  {{8, 0}, false},    {{0.5, 10.5}, false}, // no column
+        {{0, 10.5}, false}, {{0, 0}, false},
+    };
+    Begin();
+    SheetToWrite().StoreWho(Row{0}, QStringLiteral("Bank of the far prairie ").repeated(40));
+    SheetToWrite().ShowOffer(Row{0});
+    for (const auto& row : table) {
+        Printer().space = row.space * TwipsPerInch;
+        Printer().printed.clear();
+        Print();
+        ASSERT_TRUE(WaitForEnd());
+        const QStringList told = row.prints ? QStringList() : QStringList{GetResourceText(665)};
+        EXPECT_EQ(SettledMessages(), told) << row.space.width() << ' ' << row.space.height();
+        ASSERT_EQ(Printer().printed.size(), row.prints ? 1U : 0U);
+        if (row.prints) {
+            EXPECT_LE(Printer().printed.front().pages.size(), 5U) << row.space.width();
+        }
+        Door().Clear();
+    }
+}
+
+TEST_F(PrintCommandsTest, ATickIsAsLargeAsOtherText) {
+    Begin();
+    FillFirstOffer();
+    Get<QCheckBox>(u"chkPoints(0)").click();
+    for (const double width : {8.0, 7.5, 5.3, 3.8}) {
+        Printer().space.setWidth(width * TwipsPerInch);
+        Printer().printed.clear();
+        Print();
+        ASSERT_TRUE(WaitForEnd());
+        const PrintedPage& page = Printer().printed.at(0).pages.at(0);
+        const PrintFont tick = TextNamed(page, QStringLiteral("x")).font;
+        EXPECT_GE(tick.points, TextNamed(page, QStringLiteral("6.000%")).font.points) << width;
+        EXPECT_GE(tick.points, 6) << width;
+    }
+}
+
+TEST_F(PrintCommandsTest, AMissingLibraryIsNamed) {
+    Open();
+    PrinterOfPart missing; // the tests' own folder has none of the program's
+    const PrintCommands commands(Window(), missing);
+    const QString file =
+        QCoreApplication::applicationDirPath() + QStringLiteral("/Loan.Printers.so");
+    for (QAction* entry : {Window().Form().mnuFilePrint, Window().Form().mnuFilePrintSetup}) {
+        entry->trigger();
+        EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(666).arg(file)});
+        Door().Clear();
+    }
 }
 
 TEST_F(PrintCommandsTest, SpeakTheLanguageInUse) {

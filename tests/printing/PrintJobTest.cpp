@@ -24,10 +24,11 @@ class PrintJobTest : public WindowTest {
 protected:
     void SetUp() override { Open(); }
 
-    void Start(std::chrono::milliseconds shownAtLeast, std::function<void()> yield = {}) {
+    void Start(std::chrono::milliseconds shownAtLeast, std::function<void()> yield = {},
+               const QString& loanName = QStringLiteral("Home")) {
         m_job = std::make_unique<frmPrint>(
             Window(),
-            frmPrint::Job{.loanName = QStringLiteral("Home"),
+            frmPrint::Job{.loanName = loanName,
                           .report = Report(SampleForm(1), QSizeF(20000, 20000), m_metrics)},
             m_printer, frmPrint::Pace{.shownAtLeast = shownAtLeast, .yield = std::move(yield)});
         m_ended = std::make_unique<QSignalSpy>(m_job.get(), &frmPrint::Unloaded);
@@ -151,8 +152,13 @@ INSTANTIATE_TEST_SUITE_P(
                                    Qt::LeftButton);
                            }},
                     WayOut{"Escape", [](frmPrint& job) { QTest::keyClick(&job, Qt::Key_Escape); }},
-                    WayOut{"CloseBox", [](frmPrint& job) { job.close(); }},
-                    WayOut{"Return", [](frmPrint& job) { QTest::keyClick(&job, Qt::Key_Return); }}),
+                    WayOut{"Space",
+                           [](frmPrint& job) {
+                               QTest::keyClick(
+                                   job.findChild<QPushButton*>(QStringLiteral("cmdCancel")),
+                                   Qt::Key_Space);
+                           }},
+                    WayOut{"CloseBox", [](frmPrint& job) { job.close(); }}),
     [](const auto& way) { return way.param.name; });
 
 TEST_P(CancelledWhileWaiting, PrintsNothingAlthoughAllIsDrawn) {
@@ -165,6 +171,71 @@ TEST_P(CancelledWhileWaiting, PrintsNothingAlthoughAllIsDrawn) {
     EXPECT_FALSE(Job().isVisible());
     EXPECT_FALSE(Timer().isActive());
     EXPECT_TRUE(Printer().printed.empty());
+}
+
+/// Pressed once too often in the dialog before, it falls on this window.
+TEST_F(PrintJobTest, ReturnIsNotCancel) {
+    Start(1h);
+    ASSERT_TRUE(WaitForFinish());
+    auto& button = *Job().findChild<QPushButton*>(QStringLiteral("cmdCancel"));
+    button.setFocus();
+    for (QWidget* target : {static_cast<QWidget*>(&Job()), static_cast<QWidget*>(&button)}) {
+        QTest::keyClick(target, Qt::Key_Return);
+        QTest::keyClick(target, Qt::Key_Enter);
+    }
+    EXPECT_FALSE(Job().PrintCancelled());
+    EXPECT_TRUE(Job().isVisible());
+    EXPECT_FALSE(button.autoDefault() || button.isDefault());
+}
+
+TEST_F(PrintJobTest, ALongNameShowsBothItsEnds) {
+    for (const QString& piece : {QStringLiteral("long"), QStringLiteral("long name ")}) {
+        Start(1h, {}, QStringLiteral("Begin") + piece.repeated(60) + QStringLiteral("End"));
+        ASSERT_TRUE(WaitForFinish());
+        const auto& label = *Job().findChild<QLabel*>(QStringLiteral("lblPrintingText"));
+        const QString name = label.text().mid(GetResourceText(101).size());
+        EXPECT_TRUE(name.startsWith(u"Begin")) << name.toStdString();
+        EXPECT_TRUE(name.endsWith(u"End...")) << name.toStdString();
+        EXPECT_GE(label.width(), label.fontMetrics().horizontalAdvance(name));
+        EXPECT_LE(Job().width(), Window().width());
+        Cancel();
+    }
+}
+
+TEST_F(PrintJobTest, TheWindowLivesWhileADocumentIsHandedOver) {
+    Printer().whileHandingOver = Hang;
+    Start(0ms);
+    ASSERT_TRUE(WaitForFinish());
+    ASSERT_TRUE(WaitFor([this] { return !Timer().isActive(); }));
+    Settle();
+    EXPECT_FALSE(Ended());
+    EXPECT_TRUE(Job().isVisible());
+    Cancel();
+    EXPECT_FALSE(Job().isVisible());
+    ASSERT_TRUE(WaitForEnd());
+    EXPECT_TRUE(Job().PrintCancelled());
+    EXPECT_TRUE(Printer().printed.empty());
+    EXPECT_EQ(Job().Outcome().fault, PrintFault::None);
+}
+
+TEST_F(PrintJobTest, EveryFaultIsItsOutcome) {
+    for (const PrintFault fault : {PrintFault::None, PrintFault::NoPrinter, PrintFault::NoServer,
+                                   PrintFault::Gone, PrintFault::Rejects, PrintFault::Failed}) {
+        Printer().outcome = {fault, QStringLiteral("Lab")};
+        Start(0ms);
+        ASSERT_TRUE(WaitForEnd());
+        EXPECT_EQ(Job().Outcome().fault, fault);
+        EXPECT_FALSE(Job().PrintCancelled());
+    }
+    EXPECT_EQ(Printer().printed.size(), 1U);
+}
+
+TEST_F(PrintJobTest, AnExceptionOfThePrinterIsAFault) {
+    Printer().whileHandingOver = [](const std::stop_token&) { throw std::runtime_error("torn"); };
+    Start(0ms);
+    ASSERT_TRUE(WaitForEnd());
+    EXPECT_EQ(Job().Outcome().fault, PrintFault::Failed);
+    EXPECT_EQ(Job().Outcome().detail, u"torn");
 }
 
 TEST_F(PrintJobTest, CancelAfterTheEndChangesNothing) {
@@ -211,15 +282,27 @@ TEST_F(PrintJobTest, CancelledBeforeItsFirstLineDrawsNone) {
 TEST_F(PrintJobTest, TheEndOfTheProgramPrintsWhatIsFinished) {
     Start(1h);
     ASSERT_TRUE(WaitForFinish());
-    Job().EndNow();
-    EXPECT_TRUE(Ended());
+    Job().EndSoon();
+    ASSERT_TRUE(WaitForEnd());
     EXPECT_EQ(Printer().printed.size(), 1U);
 }
 
-TEST_F(PrintJobTest, TheEndOfTheProgramDropsWhatIsNot) {
-    Start(1h, [this] { Job().EndNow(); });
+TEST_F(PrintJobTest, TheEndOfTheProgramDrawsToTheEndFirst) {
+    int yields = 0;
+    Start(1h, [&] {
+        ++yields;
+        Job().EndSoon();
+    });
     ASSERT_TRUE(WaitForEnd());
-    EXPECT_TRUE(Printer().printed.empty());
+    EXPECT_EQ(yields, 4);
+    EXPECT_EQ(Printer().printed.size(), 1U);
+}
+
+TEST_F(PrintJobTest, TheEndOfTheProgramMayComeBeforeTheFirstLine) {
+    Start(1h);
+    Job().EndSoon();
+    ASSERT_TRUE(WaitForEnd());
+    EXPECT_EQ(Printer().printed.size(), 1U);
 }
 
 } // namespace

@@ -3,10 +3,24 @@
 #include "SealedLibrary.h"
 
 #include <QCoreApplication>
+#include <QLatin1String>
 #include <QPluginLoader>
 
+namespace {
+
+#ifdef _WIN32
+constexpr QLatin1String Ending(".dll");
+#else
+constexpr QLatin1String Ending(".so");
+#endif
+
+} // namespace
+
+QString ProgramPartFile(const QString& name) {
+    return QCoreApplication::applicationDirPath() + u'/' + name + Ending;
+}
+
 QObject* LoadProgramPart(const QString& name) {
-    const QString folder = QCoreApplication::applicationDirPath();
-    QPluginLoader library(folder + u'/' + name);
-    return IsSealed(library.fileName()) ? library.instance() : nullptr;
+    const QString file = ProgramPartFile(name);
+    return IsSealed(file) ? QPluginLoader(file).instance() : nullptr;
 }

@@ -9,6 +9,9 @@
 /// missing, damaged or does not fit.
 QObject* LoadProgramPart(const QString& name);
 
+/// The file of such a library, with its path.
+QString ProgramPartFile(const QString& name);
+
 /// What few sittings need, such as printing, stands in a library of its own with much else behind
 /// it, and is loaded when first asked for. Such a part shares no variables with the program: it has
 /// no language and no window but those it is given. Throws ComponentFailure where it is missing.

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "PrintCommands.h"
+#include "PrintServer.h"
+#include "PrinterDoor.h"
+#include "WindowFixture.h"
+
+#include <QObject>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+class QPrintDialog;
+
+/// Null where none is installed. It lives as long as the test program.
+PrintServer* Server();
+
+/// Answers the next print dialog as a user would.
+class DialogAnswer : public QObject {
+public:
+    explicit DialogAnswer(std::function<void(QPrintDialog&)> answer);
+    int Count() const { return m_count; }
+
+private:
+    QTimer m_timer;
+    int m_count = 0;
+};
+
+/// By the dialog's own button.
+void Accept(QPrintDialog& dialog);
+
+/// A second printer, which takes every document and keeps none.
+void AddOther();
+
+/// A path in the server's own folder.
+QString InServerFolder(const QString& path);
+
+/// The window before a print server or, where none is installed, before a file.
+class PrintServerTest : public WindowTest {
+protected:
+    void Begin(std::chrono::milliseconds shownAtLeast = {}, std::function<void()> yield = {});
+    void FillRows(int count);
+    void Print(const std::function<void(QPrintDialog&)>& answer = Accept);
+    frmPrint* Job() const { return m_commands->Job(); }
+    QTimer& JobTimer() const;
+    void HurryJob() const { JobTimer().setInterval(std::chrono::milliseconds(0)); }
+    bool WaitForEnd();
+    QStringList Printed() const;
+    /// Documents come out of the printer some time after they were handed over.
+    bool WaitForPaper(int count);
+    void ExpectNoTrace(const QStringList& told = {});
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<PrinterDoor> m_printer;
+    std::unique_ptr<PrintCommands> m_commands;
+};
+
+/// What only a print server can be asked.
+class ServerOnlyTest : public PrintServerTest {
+protected:
+    void SetUp() override;
+};

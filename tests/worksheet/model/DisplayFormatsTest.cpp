@@ -181,7 +181,9 @@ TEST(DisplayFormats, ThreeDecimalsDropsTheZeroInFront) {
         {u"de_DE"_qs, -0.5,      u"-,500"_qs},
         {u"de_DE"_qs, 1.5,       u"1,500"_qs},
         {u"C"_qs,     0.5,       u".500"_qs},
-        {u"ar_EG"_qs, 1.5,       u"1\u066b500"_qs},
+        {u"ar_EG"_qs, 1.5,       u"١\u066b٥٠٠"_qs},
+        {u"fa_IR"_qs, -0.25,     u"-\u066b۲۵۰"_qs},
+        {u"ff_Adlm_GN"_qs, 12.5, u"𞥑𞥒.𞥕𞥐𞥐"_qs},
     };
     // clang-format on
     for (const auto& [locale, value, text] : cases) {
@@ -202,6 +204,8 @@ TEST(DisplayFormats, PercentShowsAFraction) {
         {u"en_US"_qs, 12.5,    u"1250.000%"_qs},
         {u"es_ES"_qs, 0.065,   u"6,500%"_qs},
         {u"de_DE"_qs, 0.005,   u",500%"_qs},
+        {u"ar_EG"_qs, 0.065,   u"٦\u066b٥٠٠%"_qs},
+        {u"fa_IR"_qs, 0.065,   u"۶\u066b۵۰۰%"_qs},
     };
     // clang-format on
     for (const auto& [locale, value, text] : cases) {

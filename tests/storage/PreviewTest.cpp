@@ -3,6 +3,7 @@
 #include "OptionsFixture.h"
 #include "PictureDialog.h"
 #include "PicturePreview.h"
+#include "QuietToolkit.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -117,6 +118,7 @@ TEST_F(Preview, SaysWhenThereIsNothingToShow) {
 }
 
 TEST_F(Preview, SaysWhenThePictureIsCutOff) {
+    const QuietToolkit quiet;
     for (const QStringView file : {u"cut.bmp", u"cut.jpg"}) {
         SCOPED_TRACE(file.toString().toStdString());
         QFile whole(Picture(file, {300, 200}));

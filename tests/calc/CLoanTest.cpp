@@ -12,6 +12,8 @@
 #include <utility>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 static_assert(std::is_nothrow_move_constructible_v<CLoan>); // so that a growing vector moves it
@@ -28,7 +30,7 @@ protected:
         m_loan.SetStartingAmount(Units(100'000.0));
         m_loan.SetTerm(360);
         m_loan.SetInterestRate(0.06);
-        m_loan.SetFrequencyCode(u"M"_qs);
+        m_loan.SetFrequencyCode(u"M"_s);
         m_context.dirtied = 0;
     }
 
@@ -68,12 +70,12 @@ TEST_F(CLoanTest, AddsTheEscrowShareToThePayment) {
     // clang-format off
     const std::vector<PaymentCase> cases{
         // code     principalAndInterest  payment
-        {  u"M"_qs,               599.55,  849.55 },
-        {  u"B"_qs,               299.64,  424.64 },
-        {  u"W"_qs,               276.58,  401.58 },
-        {  u"Q"_qs,               553.39,  803.39 },
-        {  u"X"_qs,                  0.0,     0.0 },
-        {  u""_qs,                   0.0,     0.0 },
+        {  u"M"_s,               599.55,  849.55 },
+        {  u"B"_s,               299.64,  424.64 },
+        {  u"W"_s,               276.58,  401.58 },
+        {  u"Q"_s,               553.39,  803.39 },
+        {  u"X"_s,                  0.0,     0.0 },
+        {  u""_s,                   0.0,     0.0 },
     };
     // clang-format on
     for (const auto& [code, principalAndInterest, payment] : cases) {
@@ -132,10 +134,10 @@ TEST_F(CLoanTest, MarksTheWorksheetDirtyWhenAValueChanges) {
         {"ClosingCosts", [](CLoan& loan) { loan.SetClosingCosts(Units(1.0)); }},
         {"Term", [](CLoan& loan) { loan.SetTerm(180); }},
         {"InterestRate", [](CLoan& loan) { loan.SetInterestRate(0.07); }},
-        {"FrequencyCode", [](CLoan& loan) { loan.SetFrequencyCode(u"B"_qs); }},
+        {"FrequencyCode", [](CLoan& loan) { loan.SetFrequencyCode(u"B"_s); }},
         {"Frequency", [&weekly](CLoan& loan) { loan.SetFrequency(weekly); }},
         {"ActualPayment", [](CLoan& loan) { loan.SetActualPayment(Units(5'000.0)); }},
-        {"Who", [](CLoan& loan) { loan.SetWho(u"First Bank"_qs); }},
+        {"Who", [](CLoan& loan) { loan.SetWho(u"First Bank"_s); }},
     };
     for (const auto& [property, set] : cases) {
         m_context.dirtied = 0;
@@ -186,12 +188,12 @@ TEST_F(CLoanTest, TakesTheDefaultTermEvenWhenTheRateStaysTheSame) {
 
 TEST_F(CLoanTest, KnowsItsFrequencyByTextAndByCode) {
     m_loan.SetFrequency(GetResourceText(115));
-    EXPECT_EQ(m_loan.FrequencyCode(), u"Q"_qs);
+    EXPECT_EQ(m_loan.FrequencyCode(), u"Q"_s);
     EXPECT_EQ(m_loan.Frequency(), GetResourceText(115));
-    m_loan.SetFrequencyCode(u"x1"_qs);
-    EXPECT_EQ(m_loan.FrequencyCode(), u"x1"_qs);
+    m_loan.SetFrequencyCode(u"x1"_s);
+    EXPECT_EQ(m_loan.FrequencyCode(), u"x1"_s);
     EXPECT_EQ(m_loan.Frequency(), QString());
-    m_loan.SetFrequency(u"now and then"_qs);
+    m_loan.SetFrequency(u"now and then"_s);
     EXPECT_EQ(m_loan.FrequencyCode(), QString());
     EXPECT_EQ(m_loan.PandI(), Money());
     EXPECT_EQ(m_loan.Payment(), Money());
@@ -294,7 +296,7 @@ TEST_F(CLoanTest, PaysOffFromTodayOn) {
 }
 
 TEST_F(CLoanTest, PaysOffAnUnknownFrequencyWithoutInterestOrTime) {
-    m_loan.SetFrequencyCode(u"X"_qs);
+    m_loan.SetFrequencyCode(u"X"_s);
     m_loan.SetActualPayment(Units(1'000.0));
     EXPECT_EQ(m_loan.PayoffDate(), m_context.today);
     EXPECT_EQ(m_loan.Interest(), Money());
@@ -344,7 +346,7 @@ TEST_F(CLoanTest, ForgetsItsInterestWhenThePayoffFails) {
 
 TEST_F(CLoanTest, PassesOverflowOnAndKeepsWhatWasStored) {
     m_loan.SetActualPayment(Units(900.0));
-    m_loan.SetFrequencyCode(u"B"_qs);
+    m_loan.SetFrequencyCode(u"B"_s);
     m_loan.SetTerm(std::numeric_limits<int>::max());
     EXPECT_THROW(m_loan.PandI(), OverflowFailure);
     EXPECT_THROW(m_loan.Payment(), OverflowFailure);

@@ -9,6 +9,8 @@
 #include <ostream>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 void PrintTo(const QString& text, std::ostream* out) { *out << '"' << text.toStdString() << '"'; }
 
 namespace {
@@ -37,10 +39,10 @@ const std::vector<FrequencyCase>& Cases() {
     // clang-format off
     static const std::vector<FrequencyCase> cases{
         // code     listIndex  textNumber  periodsOf360  periodsOf100     escrowOf250  escrowOf1  escrowOf8333
-        {  u"M"_qs,         0,        114,        360.0, 100.0,             2'500'000,         1,      833'300 },
-        {  u"B"_qs,         1,        111,        720.0, 200.0,             1'250'000,         0,      416'650 },
-        {  u"W"_qs,         2,        112,        780.0, 100 / 12.0 * 26,   1'250'000,         0,      416'650 },
-        {  u"Q"_qs,         3,        115,        390.0, 100 / 12.0 * 13,   2'500'000,         1,      833'300 },
+        {  u"M"_s,         0,        114,        360.0, 100.0,             2'500'000,         1,      833'300 },
+        {  u"B"_s,         1,        111,        720.0, 200.0,             1'250'000,         0,      416'650 },
+        {  u"W"_s,         2,        112,        780.0, 100 / 12.0 * 26,   1'250'000,         0,      416'650 },
+        {  u"Q"_s,         3,        115,        390.0, 100 / 12.0 * 13,   2'500'000,         1,      833'300 },
     };
     // clang-format on
     return cases;
@@ -89,15 +91,15 @@ TEST(Frequency, CountsPaymentsTwiceAMonthInWholeNumbersOnly) {
     // clang-format off
     const std::vector<TermLimitCase> cases{
         // code     months           overflows
-        {  u"B"_qs, Longest / 2,     false },
-        {  u"B"_qs, Longest / 2 + 1, true },
-        {  u"B"_qs, Longest,         true },
-        {  u"B"_qs, Shortest / 2,    false },
-        {  u"B"_qs, Shortest,        true },
-        {  u"M"_qs, Longest,         false },
-        {  u"M"_qs, Shortest,        false },
-        {  u"W"_qs, Longest,         false },
-        {  u"Q"_qs, Shortest,        false },
+        {  u"B"_s, Longest / 2,     false },
+        {  u"B"_s, Longest / 2 + 1, true },
+        {  u"B"_s, Longest,         true },
+        {  u"B"_s, Shortest / 2,    false },
+        {  u"B"_s, Shortest,        true },
+        {  u"M"_s, Longest,         false },
+        {  u"M"_s, Shortest,        false },
+        {  u"W"_s, Longest,         false },
+        {  u"Q"_s, Shortest,        false },
     };
     // clang-format on
     for (const auto& [code, months, overflows] : cases) {

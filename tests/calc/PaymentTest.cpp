@@ -8,6 +8,8 @@
 #include <optional>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct PaymentCase {
@@ -24,29 +26,29 @@ TEST(Payment, RepaysALoanWithinItsTerm) {
     // clang-format off
     const std::vector<PaymentCase> cases{
         //  principal  rate      term             code            cents
-        {   100'000.0, 0.06,     360,             u"M"_qs,       59'955 },
-        {   100'000.0, 0.06,     360,             u"B"_qs,       29'964 },
-        {   100'000.0, 0.06,     360,             u"W"_qs,       27'658 },
-        {   100'000.0, 0.06,     360,             u"Q"_qs,       55'339 },
-        {     1'000.0, 0.12,     2,               u"M"_qs,       50'751 },
-        {         0.0, 0.06,     360,             u"M"_qs,            0 },
-        {   100'000.0, 0.0,      360,             u"M"_qs,            0 },
-        {   100'000.0, -0.0,     360,             u"M"_qs,            0 },
-        {   100'000.0, 0.06,     0,               u"M"_qs,            0 },
-        {   100'000.0, 0.06,     360,             u""_qs,             0 },
-        {   100'000.0, 0.06,     360,             u"X"_qs,            0 },
-        {   100'000.0, 0.06,     360,             u"m"_qs,            0 },
-        {   100'000.0, NoNumber, 360,             u"X"_qs,            0 },
-        {  -100'000.0, 0.06,     360,             u"M"_qs,      -59'955 },
-        {   100'000.0, 0.06,     Longest,         u"M"_qs,       50'000 }, // interest alone
-        {   100'000.0, 0.06,     Longest / 2,     u"B"_qs,       25'000 },
-        {   100'000.0, 0.06,     Longest / 2 + 1, u"B"_qs, std::nullopt },
-        {         0.0, 0.06,     Longest,         u"B"_qs,            0 }, // a missing input comes first
-        {   100'000.0, 0.06,     Longest,         u"X"_qs,            0 },
-        {   100'000.0, NoNumber, 360,             u"M"_qs, std::nullopt },
-        {   100'000.0, -30.0,    100,             u"W"_qs, std::nullopt }, // a broken power of a negative number
-        {   100'000.0, 1e-17,    360,             u"M"_qs, std::nullopt }, // vanishes beside 1
-        {        9e14, 10.0,     1,               u"M"_qs, std::nullopt },
+        {   100'000.0, 0.06,     360,             u"M"_s,       59'955 },
+        {   100'000.0, 0.06,     360,             u"B"_s,       29'964 },
+        {   100'000.0, 0.06,     360,             u"W"_s,       27'658 },
+        {   100'000.0, 0.06,     360,             u"Q"_s,       55'339 },
+        {     1'000.0, 0.12,     2,               u"M"_s,       50'751 },
+        {         0.0, 0.06,     360,             u"M"_s,            0 },
+        {   100'000.0, 0.0,      360,             u"M"_s,            0 },
+        {   100'000.0, -0.0,     360,             u"M"_s,            0 },
+        {   100'000.0, 0.06,     0,               u"M"_s,            0 },
+        {   100'000.0, 0.06,     360,             u""_s,             0 },
+        {   100'000.0, 0.06,     360,             u"X"_s,            0 },
+        {   100'000.0, 0.06,     360,             u"m"_s,            0 },
+        {   100'000.0, NoNumber, 360,             u"X"_s,            0 },
+        {  -100'000.0, 0.06,     360,             u"M"_s,      -59'955 },
+        {   100'000.0, 0.06,     Longest,         u"M"_s,       50'000 }, // interest alone
+        {   100'000.0, 0.06,     Longest / 2,     u"B"_s,       25'000 },
+        {   100'000.0, 0.06,     Longest / 2 + 1, u"B"_s, std::nullopt },
+        {         0.0, 0.06,     Longest,         u"B"_s,            0 }, // a missing input comes first
+        {   100'000.0, 0.06,     Longest,         u"X"_s,            0 },
+        {   100'000.0, NoNumber, 360,             u"M"_s, std::nullopt },
+        {   100'000.0, -30.0,    100,             u"W"_s, std::nullopt }, // a broken power of a negative number
+        {   100'000.0, 1e-17,    360,             u"M"_s, std::nullopt }, // vanishes beside 1
+        {        9e14, 10.0,     1,               u"M"_s, std::nullopt },
     };
     // clang-format on
     for (const auto& [principal, rate, term, code, cents] : cases) {

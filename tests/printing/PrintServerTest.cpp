@@ -25,6 +25,8 @@
 #include <iostream>
 #include <span>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -259,12 +261,12 @@ TEST_F(ServerOnlyTest, TheDialogsSpeakTheLanguageInUse) {
         QStringView landscape;
     } const table[]{
         {English,
-         {u"Print"_qs, u"&Print"_qs, u"Cancel"_qs},
-         {u"Print Setup"_qs, u"OK"_qs, u"Cancel"_qs},
+         {u"Print"_s, u"&Print"_s, u"Cancel"_s},
+         {u"Print Setup"_s, u"OK"_s, u"Cancel"_s},
          u"Landscape"},
         {Spanish,
-         {u"Imprimir"_qs, u"Im&primir"_qs, u"Cancelar"_qs},
-         {u"Configurar impresión"_qs, u"Aceptar"_qs, u"Cancelar"_qs},
+         {u"Imprimir"_s, u"Im&primir"_s, u"Cancelar"_s},
+         {u"Configurar impresión"_s, u"Aceptar"_s, u"Cancelar"_s},
          u"Apaisado"},
     };
     Begin();

@@ -144,7 +144,7 @@ QString Book::FailureOf(Field field, const QString& text) const {
     try {
         Read(field.id, text);
     } catch (const TooLarge&) {
-        return u"errn=6  src="_qs;
+        return u"errn=6  src="_s;
     } catch (const Forms::NoNumber&) {
         return refused;
     }
@@ -275,8 +275,8 @@ void Book::StoreWho(int row, const QString& who) { Put(OfferIn(row).who, who); }
 bool Book::Drop(Field field, const QString& text) {
     if (field.id == Who) {
         QString lines = text;
-        lines.replace(u"\r\n"_qs, u"\n"_qs).replace(u'\r', u'\n');
-        StoreWho(field.row.value, lines.replace(u'\n', u"\r\n"_qs));
+        lines.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+        StoreWho(field.row.value, lines.replace(u'\n', u"\r\n"_s));
         return true;
     }
     bool isRead = false;

@@ -34,7 +34,7 @@ QStringList Checks::Complaints(RandomUser& user) {
         const qsizetype before = m_complaints.size();
         (this->*check.look)(user);
         for (qsizetype i = before; i < m_complaints.size(); ++i) {
-            m_complaints[i].prepend(QLatin1String(check.name) + u": "_qs);
+            m_complaints[i].prepend(QLatin1String(check.name) + u": "_s);
         }
         if (check.look == &Checks::RowsAreThere && before != m_complaints.size()) {
             break; // the others would look for what is not there
@@ -51,12 +51,12 @@ void Checks::Messages(RandomUser& user) {
     for (const QString& text : shown) {
         const auto begins = [&](const QString& start) { return text.startsWith(start); };
         if (!std::ranges::any_of(user.TheBook().expected, begins)) {
-            Say(u"not called for: “%1”"_qs.arg(text));
+            Say(u"not called for: “%1”"_s.arg(text));
         }
         waiting.removeIf(begins);
     }
     if (!waiting.isEmpty()) {
-        Say(u"did not come: “%1”"_qs.arg(waiting.join(u"”, “")));
+        Say(u"did not come: “%1”"_s.arg(waiting.join(u"”, “")));
     }
 }
 
@@ -66,8 +66,8 @@ void Checks::Questions(RandomUser& user) {
         asked.append(question.text);
     }
     if (asked != user.ExpectedQuestions()) {
-        Say(u"asked “%1” instead of “%2”"_qs.arg(asked.join(u'|'),
-                                                 user.ExpectedQuestions().join(u'|')));
+        Say(u"asked “%1” instead of “%2”"_s.arg(asked.join(u'|'),
+                                                user.ExpectedQuestions().join(u'|')));
     }
 }
 
@@ -76,7 +76,7 @@ void Checks::RowsAreThere(RandomUser& user) {
     const QWidget* last = user.Control({FieldId::Who, ::Row{rows - 1}});
     const int highest = user.TheProgram().Window().GetWorksheet().HighestOfferRow().value;
     if (last == nullptr || highest != rows - 1) {
-        Say(u"there are %1 rows instead of %2"_qs.arg(highest + 1).arg(rows));
+        Say(u"there are %1 rows instead of %2"_s.arg(highest + 1).arg(rows));
     }
 }
 
@@ -90,10 +90,10 @@ void Checks::Compare(RandomUser& user, Field field, const QString& expected) {
     } else if (const auto* picker = qobject_cast<const QDateEdit*>(control)) {
         shown = user.TheBook().forms.Day(picker->date());
     } else if (const auto* box = qobject_cast<const QCheckBox*>(control)) {
-        shown = box->isChecked() ? u"ticked"_qs : QString();
+        shown = box->isChecked() ? u"ticked"_s : QString();
     }
     if (shown != expected) {
-        Say(u"%1(%2) shows “%3” instead of “%4”"_qs.arg(QString(RuleOf(field.id).control))
+        Say(u"%1(%2) shows “%3” instead of “%4”"_s.arg(QString(RuleOf(field.id).control))
                 .arg(field.row.value)
                 .arg(shown, expected));
     }
@@ -124,7 +124,7 @@ const std::vector<QString>& Checks::TextsOf(const Book& book, int row) {
     for (const FieldRule& rule : OfferFields()) {
         switch (rule.id) {
         case FieldId::FinancePoints:
-            known.texts.push_back(offer.financed ? u"ticked"_qs : QString());
+            known.texts.push_back(offer.financed ? u"ticked"_s : QString());
             break;
         case FieldId::PandI:
             known.texts.push_back(book.forms.Currency(results.pAndI));
@@ -167,9 +167,9 @@ void Checks::Marks(RandomUser& user) {
     const auto compare = [&](Field field, QColor expected, const QColor& colour) {
         const bool shown = user.Control(field)->palette().color(QPalette::Base) == colour;
         if (shown != expected.isValid()) {
-            Say(u"%1(%2) is %3"_qs.arg(QString(RuleOf(field.id).control))
+            Say(u"%1(%2) is %3"_s.arg(QString(RuleOf(field.id).control))
                     .arg(field.row.value)
-                    .arg(shown ? u"marked"_qs : u"not marked"_qs));
+                    .arg(shown ? u"marked"_s : u"not marked"_s));
         }
     };
     for (const FieldId id :
@@ -183,14 +183,13 @@ void Checks::Marks(RandomUser& user) {
     const auto* box = qobject_cast<QComboBox*>(user.Control({FieldId::LoanName}));
     const bool marked = box->lineEdit()->palette().color(QPalette::Base) == Colours::Missing;
     if (marked != book.nameMissing) {
-        Say(u"the name is %1"_qs.arg(marked ? u"marked"_qs : u"not marked"_qs));
+        Say(u"the name is %1"_s.arg(marked ? u"marked"_s : u"not marked"_s));
     }
 }
 
 void Checks::Dirty(RandomUser& user) {
     if (user.TheProgram().Window().GetWorksheet().Dirty() != user.TheBook().dirty) {
-        Say(user.TheBook().dirty ? u"there is something to save"_qs
-                                 : u"there is nothing to save"_qs);
+        Say(user.TheBook().dirty ? u"there is something to save"_s : u"there is nothing to save"_s);
     }
 }
 
@@ -198,11 +197,11 @@ void Checks::Focus(RandomUser& user) {
     const QWidget* focus = QApplication::focusWidget();
     const Loan& window = user.TheProgram().Window();
     if (focus == nullptr) {
-        Say(u"nothing has the focus"_qs);
+        Say(u"nothing has the focus"_s);
     } else if (!window.isAncestorOf(focus) || !focus->isVisible()) {
-        Say(u"the focus is at %1, out of sight"_qs.arg(focus->objectName()));
+        Say(u"the focus is at %1, out of sight"_s.arg(focus->objectName()));
     } else if (user.Edited() && user.Control(*user.Edited()) != focus) {
-        Say(u"the focus is at %1"_qs.arg(focus->objectName()));
+        Say(u"the focus is at %1"_s.arg(focus->objectName()));
     }
 }
 
@@ -214,22 +213,22 @@ void Checks::Order(RandomUser& user) {
         seen.insert(sheet.OfferIndexOfRow(row).value);
     }
     if (seen.size() != user.TheBook().offers.size()) {
-        Say(u"%1 offers are in the rows"_qs.arg(seen.size()));
+        Say(u"%1 offers are in the rows"_s.arg(seen.size()));
     }
 }
 
 void Checks::Scrolling(RandomUser& user) {
     const Loan& window = user.TheProgram().Window();
-    const auto* bar = window.findChild<QScrollBar*>(u"vsbLoans"_qs);
-    const auto* canvas = window.findChild<QWidget*>(u"picCanvas"_qs);
+    const auto* bar = window.findChild<QScrollBar*>(u"vsbLoans"_s);
+    const auto* canvas = window.findChild<QWidget*>(u"picCanvas"_s);
     const int height = bar->singleStep();
     if (bar->value() % height != 0 || bar->maximum() % height != 0) {
-        Say(u"stands at %1 of %2 between rows of %3"_qs.arg(bar->value())
+        Say(u"stands at %1 of %2 between rows of %3"_s.arg(bar->value())
                 .arg(bar->maximum())
                 .arg(height));
     }
     if (canvas->y() != -bar->value() || bar->isEnabled() != (bar->maximum() > 0)) {
-        Say(u"the rows do not follow the bar"_qs);
+        Say(u"the rows do not follow the bar"_s);
     }
 }
 
@@ -255,7 +254,7 @@ void Checks::NamesKept(RandomUser& user) {
         }
     }
     if (kept != user.TheBook().Names()) {
-        Say(u"the store holds %1 instead of %2"_qs.arg(kept.join(u'|'),
-                                                       user.TheBook().Names().join(u'|')));
+        Say(u"the store holds %1 instead of %2"_s.arg(kept.join(u'|'),
+                                                      user.TheBook().Names().join(u'|')));
     }
 }

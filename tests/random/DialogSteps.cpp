@@ -32,7 +32,7 @@ namespace {
 QString PathFor(unsigned number, const QString& picture) {
     switch (number % 5) {
     case 0:
-        return u"/no/such/picture.bmp"_qs;
+        return u"/no/such/picture.bmp"_s;
     case 1:
     case 2:
         return picture;
@@ -67,8 +67,8 @@ void RandomUser::OpenOptions(unsigned a, unsigned b) {
                      }
                  };
                  edit("txtWallpaper", path);
-                 auto* option = dialog.findChild<QRadioButton*>(inMonths ? u"optTerm(0)"_qs
-                                                                         : u"optTerm(1)"_qs);
+                 auto* option =
+                     dialog.findChild<QRadioButton*>(inMonths ? u"optTerm(0)"_s : u"optTerm(1)"_s);
                  option->click();
                  edit("txtLoans", number);
                  if (a % 7 == 0) {
@@ -110,15 +110,15 @@ void RandomUser::Print(unsigned a, unsigned /*b*/) {
     Trigger("mnuFilePrint");
     const bool starts = Commit(before) && cancelAt != 0;
     if ((m_program.Job() != nullptr) != starts) {
-        Complain(u"a job is %1"_qs.arg(starts ? u"missing"_qs : u"there"_qs));
+        Complain(u"a job is %1"_s.arg(starts ? u"missing"_s : u"there"_s));
     }
     if (!QTest::qWaitFor([this] { return m_program.Job() == nullptr; })) {
-        Complain(u"the job does not end"_qs);
+        Complain(u"the job does not end"_s);
     }
     m_program.whilePrinting = [] {};
     const std::size_t printed = starts && cancelAt > 4 ? 1 : 0;
     if (m_program.printer.printed.size() != printed) {
-        Complain(u"%1 documents were printed"_qs.arg(m_program.printer.printed.size()));
+        Complain(u"%1 documents were printed"_s.arg(m_program.printer.printed.size()));
     }
     m_program.printer.printed.clear();
 }
@@ -127,7 +127,7 @@ void RandomUser::OpenAbout(unsigned a, unsigned /*b*/) {
     InDialog([this] { Trigger("mnuHelpAbout"); },
              [&](QDialog& dialog) {
                  if (a % 3 == 0) {
-                     dialog.findChild<QPushButton*>(u"cmdSysInfo"_qs)->click();
+                     dialog.findChild<QPushButton*>(u"cmdSysInfo"_s)->click();
                      m_book.Expect(TextNumber::NoSystemInfo);
                  }
                  QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
@@ -159,18 +159,18 @@ void RandomUser::AskWhatsThis(unsigned a, unsigned /*b*/) {
     const Field field = AnyInput(a);
     Press(Qt::Key_F1, Qt::ShiftModifier);
     if (!m_program.Help().IsAsking()) {
-        Complain(u"What's This does not begin"_qs);
+        Complain(u"What's This does not begin"_s);
     }
     if (!Click(*Control(field))) {
         Press(Qt::Key_Escape);
     }
     Settle();
     if (m_program.Help().IsAsking()) {
-        Complain(u"What's This does not end"_qs);
+        Complain(u"What's This does not end"_s);
     }
     Press(Qt::Key_Escape);
     if (FocusField() != m_edited) {
-        Complain(u"What's This has moved the focus"_qs);
+        Complain(u"What's This has moved the focus"_s);
     }
 }
 
@@ -178,12 +178,12 @@ void RandomUser::Share(unsigned a, unsigned /*b*/) {
     const View before = Look();
     const int sent = m_program.mail.sent;
     m_program.mail.signsOn = a % 2 == 0;
-    if (!Click(*Named(u"cmdShare"_qs))) {
+    if (!Click(*Named(u"cmdShare"_s))) {
         return;
     }
     const bool shared = Follow(before) && m_program.mail.signsOn;
     if (m_program.mail.sent != sent + (shared ? 1 : 0)) {
-        Complain(u"a recommendation is %1"_qs.arg(shared ? u"missing"_qs : u"sent"_qs));
+        Complain(u"a recommendation is %1"_s.arg(shared ? u"missing"_s : u"sent"_s));
     }
 }
 

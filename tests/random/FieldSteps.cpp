@@ -22,7 +22,7 @@ namespace {
 
 bool HoldsValue() {
     const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-    return data != nullptr && data->hasFormat(u"application/x-quend-loan-value"_qs);
+    return data != nullptr && data->hasFormat(u"application/x-quend-loan-value"_s);
 }
 
 /// The keys that a field lets through.
@@ -117,7 +117,7 @@ void RandomUser::EditText(unsigned a, unsigned /*b*/) {
 /// What a value looks like on its way.
 QString RandomUser::CopiedText(Field field, const QString& shown) const {
     const BookOffer& offer = m_book.OfferIn(field.row.value);
-    const auto orZero = [](const QString& text) { return text.isEmpty() ? u"0"_qs : text; };
+    const auto orZero = [](const QString& text) { return text.isEmpty() ? u"0"_s : text; };
     switch (field.id) {
     case FieldId::Points:
         return orZero(m_book.forms.Number(offer.points));
@@ -148,7 +148,7 @@ void RandomUser::UseClipboard(unsigned a, unsigned /*b*/) {
         Press(Qt::Key_C, Qt::ControlModifier);
         if (!part && !copied.isEmpty() && QGuiApplication::clipboard()->text() != copied) {
             Complain(
-                u"copied %1 instead of %2"_qs.arg(QGuiApplication::clipboard()->text(), copied));
+                u"copied %1 instead of %2"_s.arg(QGuiApplication::clipboard()->text(), copied));
         }
         return;
     }
@@ -223,7 +223,7 @@ void RandomUser::Arrow(unsigned a, unsigned /*b*/) {
         return;
     }
     if (Follow(before) && canMove && m_edited != Field{field.id, Row{target}}) {
-        Complain(u"the arrow key did not go to the row beside"_qs);
+        Complain(u"the arrow key did not go to the row beside"_s);
     }
 }
 
@@ -243,7 +243,7 @@ void RandomUser::ChooseFrom(Field field, unsigned b) {
     }
     Settle();
     if (QApplication::activePopupWidget() == nullptr) {
-        return Complain(u"no list opens"_qs);
+        return Complain(u"no list opens"_s);
     }
     if (b % 5 == 0) {
         return Press(Qt::Key_Escape);
@@ -256,7 +256,7 @@ void RandomUser::ChooseFrom(Field field, unsigned b) {
     Press(Qt::Key_Return);
     Settle();
     if (list->currentIndex() != entry) {
-        Complain(u"another entry was picked"_qs);
+        Complain(u"another entry was picked"_s);
     }
     m_book.StoreChoice(field, list->currentText());
 }
@@ -272,7 +272,7 @@ void RandomUser::TypeDay(unsigned a, unsigned b) {
     if (a % 4 != 0) {
         return Press(keys.at(b % keys.size()));
     }
-    TypeText(b % 2 == 0 ? QString::number(b % 10'000) : u"12/30/2031"_qs);
+    TypeText(b % 2 == 0 ? QString::number(b % 10'000) : u"12/30/2031"_s);
     Press(Qt::Key_Return);
 }
 

@@ -147,7 +147,7 @@ void RandomUser::PickName(unsigned a, unsigned b) {
         shown.append(box.itemText(i));
     }
     if (shown != entries || box.currentText() != typed) {
-        Complain(u"the list shows %1 instead of %2"_qs.arg(shown.join(u'|'), entries.join(u'|')));
+        Complain(u"the list shows %1 instead of %2"_s.arg(shown.join(u'|'), entries.join(u'|')));
     }
     if (a % 6 == 0) {
         return Press(Qt::Key_Escape);
@@ -162,7 +162,7 @@ void RandomUser::PickName(unsigned a, unsigned b) {
     PickInBook(entries.at(entry), answer);
     Settle();
     if (box.currentText() != m_book.loan.name) {
-        Complain(u"the box shows %1 instead of %2"_qs.arg(box.currentText(), m_book.loan.name));
+        Complain(u"the box shows %1 instead of %2"_s.arg(box.currentText(), m_book.loan.name));
     }
 }
 
@@ -221,7 +221,7 @@ void RandomUser::CloseAndStart(unsigned a, unsigned b) {
     const bool closed = Window().close();
     const bool mayClose = Commit(before) && MayDrop(answer);
     if (closed != mayClose) {
-        Complain(closed ? u"closed, although it must not"_qs : u"does not close"_qs);
+        Complain(closed ? u"closed, although it must not"_s : u"does not close"_s);
     }
     Settle();
     if (!closed) {

@@ -117,7 +117,7 @@ QString Forms::Number(Plain::Count amount) const {
     }
     const Digits digits = DigitsOf(amount);
     const QString decimals = WithoutEndingZeros(digits.decimals);
-    return (amount < 0 ? u"-"_qs : QString()) + digits.whole +
+    return (amount < 0 ? u"-"_s : QString()) + digits.whole +
            (decimals.isEmpty() ? QString() : m_point + decimals);
 }
 

@@ -51,7 +51,7 @@ void RandomUser::Intend(unsigned a, unsigned b) {
     }
     constexpr Plain::Count cent = 100;
     const Plain::Count cents = Plain::ToCents(m_book.PaymentOf(row->value));
-    const std::array texts{u"0"_qs, u"1"_qs, m_book.forms.Number(cents),
+    const std::array texts{u"0"_s, u"1"_s, m_book.forms.Number(cents),
                            m_book.forms.Number(cents - cent), m_book.forms.Number(cents + cent)};
     Retype({FieldId::ActualPayment, *row}, texts.at(b % texts.size()));
 }
@@ -81,7 +81,7 @@ void RandomUser::EnterAgain(unsigned a, unsigned b) {
     case 2:
         return again({FieldId::LoanAmount});
     case 3:
-        return Retype({FieldId::ActualPayment, *row}, u"1"_qs);
+        return Retype({FieldId::ActualPayment, *row}, u"1"_s);
     default: // over the tick box, and back
         Enter({FieldId::Points, *row});
         Tab(3, 0);

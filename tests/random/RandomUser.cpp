@@ -55,7 +55,7 @@ void RandomUser::Take(const Step& step) {
     Window().setUpdatesEnabled(++m_taken % 64 == 0);
     ObserveDay();
     // The notice comes when the user lets the time pass, and never by the clock.
-    if (auto* timer = Window().findChild<QTimer*>(u"Timer1"_qs); timer && timer->isActive()) {
+    if (auto* timer = Window().findChild<QTimer*>(u"Timer1"_s); timer && timer->isActive()) {
         timer->start(1h);
     }
 }
@@ -124,7 +124,7 @@ void RandomUser::InDialog(const std::function<void()>& open,
     open();
     Settle();
     if (!opened) {
-        Complain(u"no dialog opens"_qs);
+        Complain(u"no dialog opens"_s);
     }
 }
 
@@ -232,7 +232,7 @@ bool RandomUser::Follow(const View& before) {
     if (IsRefused(before)) {
         m_book.expected.append(m_book.FailureOf(*m_edited, before.text));
         if (now != m_edited) {
-            Complain(u"left a field whose text cannot be taken"_qs);
+            Complain(u"left a field whose text cannot be taken"_s);
         }
         return false;
     }

@@ -59,7 +59,7 @@ void RandomUser::Drop(unsigned a, unsigned b) {
     send(move);
     const bool may = data.hasText() && m_book.MayDrop(target.id, text);
     if (move.isAccepted() != may) {
-        Complain(u"a drop of “%1” is %2"_qs.arg(text, may ? u"refused"_qs : u"taken"_qs));
+        Complain(u"a drop of “%1” is %2"_s.arg(text, may ? u"refused"_s : u"taken"_s));
     }
     if (!move.isAccepted()) {
         QDragLeaveEvent leave;
@@ -76,7 +76,7 @@ void RandomUser::Drop(unsigned a, unsigned b) {
 void RandomUser::Sort(unsigned a, unsigned /*b*/) {
     const bool byPayoff = a % 2 == 0;
     const View before = Look();
-    if (!Click(*Named(byPayoff ? u"cmdPayoffDate"_qs : u"cmdInterest"_qs)) || !Follow(before)) {
+    if (!Click(*Named(byPayoff ? u"cmdPayoffDate"_s : u"cmdInterest"_s)) || !Follow(before)) {
         return;
     }
     if (byPayoff) {
@@ -89,7 +89,7 @@ void RandomUser::Sort(unsigned a, unsigned /*b*/) {
 /// Over the rows, which scroll, or over the field being edited.
 void RandomUser::Wheel(unsigned a, unsigned b) {
     const bool overField = m_edited && a % 3 == 0;
-    const QWidget& control = overField ? *Control(*m_edited) : *Named(u"picScroll"_qs);
+    const QWidget& control = overField ? *Control(*m_edited) : *Named(u"picScroll"_s);
     if (!IsVisible(control)) {
         return;
     }
@@ -107,7 +107,7 @@ void RandomUser::Wheel(unsigned a, unsigned b) {
 }
 
 void RandomUser::ClickBar(unsigned a, unsigned b) {
-    const auto& bar = *qobject_cast<QScrollBar*>(Named(u"vsbLoans"_qs));
+    const auto& bar = *qobject_cast<QScrollBar*>(Named(u"vsbLoans"_s));
     if (!bar.isVisible() || !bar.isEnabled()) {
         return;
     }
@@ -162,7 +162,7 @@ void RandomUser::OpenLender(unsigned a, unsigned b) {
             }
             QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
             if (entered != loaded) {
-                entered.replace(QChar::ParagraphSeparator, u"\r\n"_qs);
+                entered.replace(QChar::ParagraphSeparator, u"\r\n"_s);
                 m_book.StoreWho(field.row.value, entered);
             }
         });
@@ -170,10 +170,10 @@ void RandomUser::OpenLender(unsigned a, unsigned b) {
 
 /// The notice of raised payments has its time by a timer, which only this step lets run out.
 void RandomUser::LetSecondPass(unsigned /*a*/, unsigned /*b*/) {
-    auto* timer = Window().findChild<QTimer*>(u"Timer1"_qs);
+    auto* timer = Window().findChild<QTimer*>(u"Timer1"_s);
     if (timer->isActive() != m_book.noticeComes) {
-        Complain(u"the notice of a raised payment is %1"_qs.arg(
-            timer->isActive() ? u"on its way for nothing"_qs : u"not on its way"_qs));
+        Complain(u"the notice of a raised payment is %1"_s.arg(
+            timer->isActive() ? u"on its way for nothing"_s : u"not on its way"_s));
     }
     if (timer->isActive()) {
         QTimerEvent event(timer->timerId());

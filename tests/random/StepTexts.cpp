@@ -7,56 +7,56 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const std::array BadTexts{
-    u"1.2.3"_qs,  u"1,2,3"_qs,      u"12abc"_qs,      u"-"_qs,        u"+"_qs,    u"."_qs,
-    u","_qs,      u"5-"_qs,         u"--5"_qs,        u" 5"_qs,       u"5 "_qs,   u"$5"_qs,
-    u"5%"_qs,     u"1e3"_qs,        u"nan"_qs,        u"inf"_qs,      u"0x10"_qs, u"1.2345"_qs,
-    u"1,2345"_qs, u"1'000"_qs,      u"1,000.00"_qs,   u"1.000,00"_qs, u"٣٤"_qs,   u"½"_qs,
-    u"−5"_qs,     u"11/21/2026"_qs, u"21.11.2026"_qs,
+    u"1.2.3"_s,  u"1,2,3"_s,      u"12abc"_s,      u"-"_s,        u"+"_s,    u"."_s,
+    u","_s,      u"5-"_s,         u"--5"_s,        u" 5"_s,       u"5 "_s,   u"$5"_s,
+    u"5%"_s,     u"1e3"_s,        u"nan"_s,        u"inf"_s,      u"0x10"_s, u"1.2345"_s,
+    u"1,2345"_s, u"1'000"_s,      u"1,000.00"_s,   u"1.000,00"_s, u"٣٤"_s,   u"½"_s,
+    u"−5"_s,     u"11/21/2026"_s, u"21.11.2026"_s,
 };
 
 const std::array OddNumbers{
-    u"-5"_qs,
-    u"+5"_qs,
-    u"-0"_qs,
-    u"0"_qs,
-    u"000"_qs,
-    u"-100000"_qs,
-    u"99999999999999"_qs,
-    u"922337203685477"_qs,
-    u"922337203685477.58"_qs,
-    u"922337203685478"_qs,
-    u"-922337203685477.58"_qs,
-    u"2147483647"_qs,
-    u"2147483648"_qs,
-    u"178956971"_qs,
-    u"1073741824"_qs,
-    u"99999999999999999999999999999999"_qs,
-    u"0.01"_qs,
-    u"0.001"_qs,
-    u".5"_qs,
-    u"5."_qs,
-    u"30.5"_qs,
-    u"12.5"_qs,
-    u"0.5"_qs,
+    u"-5"_s,
+    u"+5"_s,
+    u"-0"_s,
+    u"0"_s,
+    u"000"_s,
+    u"-100000"_s,
+    u"99999999999999"_s,
+    u"922337203685477"_s,
+    u"922337203685477.58"_s,
+    u"922337203685478"_s,
+    u"-922337203685477.58"_s,
+    u"2147483647"_s,
+    u"2147483648"_s,
+    u"178956971"_s,
+    u"1073741824"_s,
+    u"99999999999999999999999999999999"_s,
+    u"0.01"_s,
+    u"0.001"_s,
+    u".5"_s,
+    u"5."_s,
+    u"30.5"_s,
+    u"12.5"_s,
+    u"0.5"_s,
 };
 
 const std::array FreeTexts{
-    u"First Savings Bank"_qs,
-    u"%1 %2 %n &x && <b>bold</b>"_qs,
-    u"'; DROP TABLE loans; --"_qs,
-    u"Ñandú & Söhne"_qs,
-    u"שלום العالم"_qs,
-    u"e\u0301\u0302 👩‍👩‍👧 🏦"_qs,
-    u"line one\nline two\r\nline three"_qs,
-    u"tab\there"_qs,
-    u"  "_qs,
-    u"\\\\server\\share"_qs,
+    u"First Savings Bank"_s,
+    u"%1 %2 %n &x && <b>bold</b>"_s,
+    u"'; DROP TABLE loans; --"_s,
+    u"Ñandú & Söhne"_s,
+    u"שלום العالم"_s,
+    u"e\u0301\u0302 👩‍👩‍👧 🏦"_s,
+    u"line one\nline two\r\nline three"_s,
+    u"tab\there"_s,
+    u"  "_s,
+    u"\\\\server\\share"_s,
 };
 
 const std::array NameTexts{
-    u"Home"_qs, u"home"_qs,   u"Car"_qs,    u"Straße"_qs,      u"ñandú"_qs,
-    u"  "_qs,   u" "_qs,      u"a\\b"_qs,   u"(new loan)"_qs,  u"%1"_qs,
-    u"🏦"_qs,    u"Loan 1"_qs, u"Zweite"_qs, u"Tercera vez"_qs, u"'x' \"y\""_qs,
+    u"Home"_s, u"home"_s,   u"Car"_s,    u"Straße"_s,      u"ñandú"_s,
+    u"  "_s,   u" "_s,      u"a\\b"_s,   u"(new loan)"_s,  u"%1"_s,
+    u"🏦"_s,    u"Loan 1"_s, u"Zweite"_s, u"Tercera vez"_s, u"'x' \"y\""_s,
 };
 
 template <class Texts>
@@ -66,7 +66,7 @@ QString OneOf(const Texts& texts, unsigned number) {
 
 QString VeryLong(unsigned number) {
     constexpr std::array lengths{200, 1'000, 1'023, 1'024, 1'500, 5'000};
-    const QString letter = OneOf(std::array{u"9"_qs, u"x"_qs, u"ü"_qs, u" "_qs}, number);
+    const QString letter = OneOf(std::array{u"9"_s, u"x"_s, u"ü"_s, u" "_s}, number);
     return letter.repeated(lengths.at(number / 4 % lengths.size()));
 }
 
@@ -116,7 +116,7 @@ QString AnyText(unsigned number, QChar point) {
     case 3:
         return which % 7 == 0 ? VeryLong(which / 7) : QString();
     case 4:
-        return u"0"_qs + point + QString::number(which % 100); // a rate as a fraction
+        return u"0"_s + point + QString::number(which % 100); // a rate as a fraction
     default:
         return Fraction(which, which % 2'000, static_cast<int>(which % 4), point);
     }

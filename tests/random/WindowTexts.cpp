@@ -71,7 +71,7 @@ QString Description(const QObject& object) { return AsWidget(object).accessibleD
 
 /// The date and the interest of a payoff have a tip only at times.
 bool MayBeAway(const QString& name) {
-    return name.contains(u"PayoffDate"_qs) || name.startsWith(u"txtInterest("_qs);
+    return name.contains(u"PayoffDate"_s) || name.startsWith(u"txtInterest("_s);
 }
 
 } // namespace
@@ -88,7 +88,7 @@ QStringList WindowTexts::Complaints(const QWidget& window, const Book& book, boo
     const auto compare = [&](const Seen& seen) {
         const QString shown = seen.read(*seen.object);
         if (shown != seen.text && !(shown.isEmpty() && seen.mayBeAway)) {
-            complaints.append(u"%1 of %2 is “%3” instead of “%4”"_qs.arg(
+            complaints.append(u"%1 of %2 is “%3” instead of “%4”"_s.arg(
                 QLatin1String(seen.what), seen.object->objectName(), shown, seen.text));
         }
     };
@@ -139,7 +139,7 @@ void WindowTexts::ListLoan(const QWidget& window) {
 
 void WindowTexts::ListRow(int row) {
     for (const TextsOfControl& texts : TextsOfAnOffer) {
-        const QString name = QString::fromLatin1(texts.control) + u"(%1)"_qs.arg(row);
+        const QString name = QString::fromLatin1(texts.control) + u"(%1)"_s.arg(row);
         ListTold(Named(name), texts.tip, texts.name, row + 1);
     }
 }
@@ -155,7 +155,7 @@ void WindowTexts::ListTold(const QObject& object, int tip, int name, int ordinal
         m_told.push_back({&object, "tip", Tip, Text(tip), MayBeAway(object.objectName())});
     }
     if (name != 0) {
-        const QString told = Text(name).replace(u"%1"_qs, QString::number(ordinal));
+        const QString told = Text(name).replace(u"%1"_s, QString::number(ordinal));
         m_told.push_back({&object, "name", Name, told});
         if (object.inherits("QComboBox")) {
             m_told.push_back({&object, "description", Description, told});
@@ -173,7 +173,7 @@ void WindowTexts::ListUnaccounted(const QWidget& window) {
         const QString text = CaptionReader(*object)(*object);
         if (HasLetters(text) && !known.contains(object)) {
             m_unaccounted.append(
-                u"nobody accounts for “%1” of “%2”"_qs.arg(text, object->objectName()));
+                u"nobody accounts for “%1” of “%2”"_s.arg(text, object->objectName()));
         }
     }
 }
@@ -185,13 +185,13 @@ QStringList WindowTexts::ComplaintsOfSorting(char sorted) const {
         char by;
         int text;
     };
-    static const std::array headings{Heading{u"cmdPayoffDate"_qs, 'P', 346},
-                                     Heading{u"cmdInterest"_qs, 'I', 347}};
+    static const std::array headings{Heading{u"cmdPayoffDate"_s, 'P', 346},
+                                     Heading{u"cmdInterest"_s, 'I', 347}};
     QStringList complaints;
     for (const Heading& heading : headings) {
         const QString told = Description(Named(heading.name));
         if (told != (sorted == heading.by ? Text(heading.text) : QString())) {
-            complaints.append(u"%1 tells “%2”"_qs.arg(heading.name, told));
+            complaints.append(u"%1 tells “%2”"_s.arg(heading.name, told));
         }
     }
     return complaints;
@@ -201,11 +201,11 @@ QStringList WindowTexts::ComplaintsOfSorting(char sorted) const {
 QStringList WindowTexts::ComplaintsOfLists(const QWidget& window) const {
     QStringList complaints;
     for (const auto* list : window.findChildren<QComboBox*>()) {
-        if (list->objectName() == u"cboLoanName"_qs) {
+        if (list->objectName() == u"cboLoanName"_s) {
             continue;
         }
         QStringList expected;
-        for (const int number : list->objectName() == u"cboLoanType"_qs ? Types : Frequencies) {
+        for (const int number : list->objectName() == u"cboLoanType"_s ? Types : Frequencies) {
             expected.append(Text(number));
         }
         QStringList shown;
@@ -213,7 +213,7 @@ QStringList WindowTexts::ComplaintsOfLists(const QWidget& window) const {
             shown.append(list->itemText(entry));
         }
         if (shown != expected) {
-            complaints.append(u"%1 offers %2 instead of %3"_qs.arg(
+            complaints.append(u"%1 offers %2 instead of %3"_s.arg(
                 list->objectName(), shown.join(u'|'), expected.join(u'|')));
         }
     }

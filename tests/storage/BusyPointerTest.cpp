@@ -12,6 +12,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::optional<Qt::CursorShape> Pointer() {
@@ -27,9 +29,9 @@ TEST_F(BusyPointerOfTheStore, StandsWhileAWorksheetIsLoaded) {
     const FileCommands files(Window(), LoanStore(folder.Store()));
     Window().Rows().GrowTo(Row{7});
     for (Row row{0}; row <= Row{7}; ++row.value) {
-        SheetToWrite().StoreWho(row, u"Bank"_qs);
+        SheetToWrite().StoreWho(row, u"Bank"_s);
     }
-    SheetToWrite().SetLoanName(u"Home"_qs);
+    SheetToWrite().SetLoanName(u"Home"_s);
     LoanStore(folder.Store()).Save(SheetToWrite());
 
     Open(); // six rows: two are made while the worksheet is loaded
@@ -37,7 +39,7 @@ TEST_F(BusyPointerOfTheStore, StandsWhileAWorksheetIsLoaded) {
     std::optional<Qt::CursorShape> meanwhile;
     QObject::connect(&Window().Rows(), &OfferRows::RowCreated, &Window(),
                      [&] { meanwhile = Pointer(); });
-    Q_EMIT Get<LoanNameBox>(u"cboLoanName").Picked(u"Home"_qs);
+    Q_EMIT Get<LoanNameBox>(u"cboLoanName").Picked(u"Home"_s);
     EXPECT_EQ(RowCount(), 8);
     EXPECT_EQ(meanwhile, Qt::WaitCursor);
     EXPECT_EQ(Pointer(), std::nullopt);

@@ -18,6 +18,8 @@
 
 #include <fstream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class FileCommandsTest : public WindowTest {
@@ -112,10 +114,10 @@ TEST_F(FileCommandsTest, SavingTakesTheNameBeingTyped) {
     Fill(u"txtLoanAmount", u"7");
     TypeName(u"Typed");
     Trigger(u"mnuFileSave");
-    EXPECT_EQ(Kept(), QStringList(u"Typed"_qs));
+    EXPECT_EQ(Kept(), QStringList(u"Typed"_s));
     TypeName(u"Renamed");
     Trigger(u"mnuFileSave");
-    EXPECT_EQ(Kept(), QStringList({u"Renamed"_qs, u"Typed"_qs}));
+    EXPECT_EQ(Kept(), QStringList({u"Renamed"_s, u"Typed"_s}));
 }
 
 TEST_F(FileCommandsTest, SavingWithoutANameMarksItsBoxUntilThereIsOne) {
@@ -142,7 +144,7 @@ TEST_F(FileCommandsTest, ARefusedFieldStopsEveryCommand) {
         Paste(u"1.2.3");
         Door().Clear();
         Trigger(entry);
-        EXPECT_EQ(SettledMessages(), QStringList(u"Please enter a number of the form nnnn.nn"_qs));
+        EXPECT_EQ(SettledMessages(), QStringList(u"Please enter a number of the form nnnn.nn"_s));
         EXPECT_TRUE(Door().Questions().empty());
         EXPECT_EQ(FocusName(), u"txtLoanAmount");
         EXPECT_EQ("7", KeptText("Home", "LoanAmount"));
@@ -156,12 +158,12 @@ struct RefusedName {
 
 TEST_F(FileCommandsTest, NamesThatCannotBeKeptAreRefusedAndNothingIsLost) {
     const QString notPossible = u"A worksheet cannot be saved under this name. Please choose "
-                                "another one, without a backslash (\\) and not too long."_qs;
+                                "another one, without a backslash (\\) and not too long."_s;
     for (const RefusedName& row : {
-             RefusedName{u"a\\b"_qs, notPossible},
+             RefusedName{u"a\\b"_s, notPossible},
              RefusedName{QString(256, u'x'), notPossible},
-             RefusedName{u"(new loan)"_qs, notPossible},
-             RefusedName{u" "_qs, u"Please give the loan a name before you save it."_qs},
+             RefusedName{u"(new loan)"_s, notPossible},
+             RefusedName{u" "_s, u"Please give the loan a name before you save it."_s},
          }) {
         Door().Clear();
         Window().GetWorksheet().SetLoanAmount(Money::FromDouble(7));
@@ -207,16 +209,16 @@ TEST_F(FileCommandsTest, TheListIsMadeAnewEachTimeItDropsDown) {
     KeepLoan(u"Beta", u"7");
     EXPECT_EQ(NameBox().count(), 0);
     Pick(0);
-    EXPECT_EQ(Entries(), QStringList({u"(new loan)"_qs, u"Beta"_qs}));
+    EXPECT_EQ(Entries(), QStringList({u"(new loan)"_s, u"Beta"_s}));
     KeepLoan(u"alpha", u"8");
     Pick(0);
-    EXPECT_EQ(Entries(), QStringList({u"(new loan)"_qs, u"alpha"_qs, u"Beta"_qs}));
+    EXPECT_EQ(Entries(), QStringList({u"(new loan)"_s, u"alpha"_s, u"Beta"_s}));
 }
 
 TEST_F(FileCommandsTest, NamesLongerThanTheBoxAreSeenWholeInTheList) {
-    const QString begin = u"The offer of the savings bank at the corner of our street, "_qs;
-    KeepLoan(begin + u"refused"_qs, u"7");
-    KeepLoan(begin + u"accepted"_qs, u"8");
+    const QString begin = u"The offer of the savings bank at the corner of our street, "_s;
+    KeepLoan(begin + u"refused"_s, u"7");
+    KeepLoan(begin + u"accepted"_s, u"8");
     Click(u"cboLoanName");
     Press(Qt::Key_Down);
     ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
@@ -245,7 +247,7 @@ TEST_F(FileCommandsTest, PickingTheNewLoanClears) {
     EXPECT_EQ(Text(u"cboLoanName"), u"");
     EXPECT_EQ(Text(u"txtLoanAmount"), u"");
     EXPECT_FALSE(Sheet().Dirty());
-    EXPECT_EQ(Kept(), QStringList(u"Beta"_qs));
+    EXPECT_EQ(Kept(), QStringList(u"Beta"_s));
 }
 
 /// A list that drops down takes the keyboard for a while; what is typed in its box is not yet
@@ -283,7 +285,7 @@ TEST_F(FileCommandsTest, APickOfWhatAnotherProgramDeletedOnlySetsTheName) {
     Click(u"cboLoanName");
     Press(Qt::Key_Down);
     ASSERT_TRUE(WaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
-    LoanStore(m_folder.Store()).Delete(u"Beta"_qs);
+    LoanStore(m_folder.Store()).Delete(u"Beta"_s);
     Settle();
     Press(Qt::Key_End);
     Press(Qt::Key_Return);
@@ -317,7 +319,7 @@ protected:
     void Change(bool named) {
         KeepLoan(u"Other", u"9");
         Trigger(u"mnuFileNew");
-        TypeName(named ? u"Mine"_qs : QString());
+        TypeName(named ? u"Mine"_s : QString());
         Fill(u"txtLoanAmount", u"123");
         Door().Clear();
     }
@@ -346,19 +348,19 @@ TEST_P(Unsaved, ChangesAreNeverDroppedWithoutAQuestion) {
         ASSERT_EQ(Door().Questions().size(), 1U);
         const Question& asked = Door().Questions().front();
         EXPECT_EQ(asked.title, u"Save changes?");
-        EXPECT_EQ(asked.text, row.named ? u"Do you want to save the changes to “Mine”?"_qs
-                                        : u"Save changes?"_qs);
+        EXPECT_EQ(asked.text,
+                  row.named ? u"Do you want to save the changes to “Mine”?"_s : u"Save changes?"_s);
         EXPECT_TRUE(asked.mayCancel);
-        EXPECT_EQ(Kept().contains(u"Mine"_qs), row.saved);
+        EXPECT_EQ(Kept().contains(u"Mine"_s), row.saved);
         const bool stays = Sheet().LoanAmount() == Money::FromDouble(123) && Window().isVisible();
         EXPECT_EQ(stays, !row.goesOn);
         if (!row.goesOn) {
-            EXPECT_EQ(Text(u"cboLoanName"), row.named ? u"Mine"_qs : QString());
+            EXPECT_EQ(Text(u"cboLoanName"), row.named ? u"Mine"_s : QString());
             EXPECT_EQ(IsMarked(), row.answer == Answer::Yes);
             EXPECT_TRUE(Sheet().Dirty());
         }
         EXPECT_TRUE(SettledMessages().isEmpty());
-        LoanStore(m_folder.Store()).Delete(u"Mine"_qs);
+        LoanStore(m_folder.Store()).Delete(u"Mine"_s);
     }
 }
 
@@ -375,14 +377,14 @@ TEST_F(FileCommandsTest, DeletingAsksAndStartsAnew) {
     KeepLoan(u"Beta", u"70000");
     Door().WillAnswer({Answer::No, Answer::Yes});
     Trigger(u"mnuFileDelete");
-    EXPECT_EQ(Kept(), QStringList(u"Beta"_qs));
+    EXPECT_EQ(Kept(), QStringList(u"Beta"_s));
     EXPECT_EQ(Sheet().LoanName(), u"Beta");
     Trigger(u"mnuFileDelete");
     EXPECT_TRUE(Kept().isEmpty());
     EXPECT_EQ(Sheet().LoanName(), u"");
     EXPECT_EQ(Sheet().LoanAmount(), Money());
     EXPECT_EQ(FocusName(), u"cboLoanName");
-    EXPECT_EQ(Entries(), QStringList(u"(new loan)"_qs));
+    EXPECT_EQ(Entries(), QStringList(u"(new loan)"_s));
     ASSERT_EQ(Door().Questions().size(), 2U);
     EXPECT_EQ(Door().Questions()[0].text, u"Do you want to delete the worksheet “Beta”?");
     EXPECT_EQ(Door().Questions()[0].title, u"Delete worksheet");
@@ -401,7 +403,7 @@ TEST_F(FileCommandsTest, DeletingAnUnnamedWorksheet) {
     Trigger(u"mnuFileDelete"); // without changes: asked, then told
     ASSERT_EQ(Door().Questions().size(), 1U);
     EXPECT_EQ(SettledMessages(),
-              QStringList(u"There is no worksheet to delete: the loan has no name."_qs));
+              QStringList(u"There is no worksheet to delete: the loan has no name."_s));
 }
 
 TEST_F(FileCommandsTest, BadValuesAreToldInOneMessage) {
@@ -453,7 +455,7 @@ TEST_F(FileCommandsTest, ARepairInTheMiddleOfASaveIsToldOnce) {
         KeepLoan(u"Gamma", u"3000");
         EXPECT_EQ(SettledMessages().size(), 1);
         EXPECT_EQ(LoanStore(folder.Store()).Names(),
-                  (QStringList{u"Alpha"_qs, u"Beta"_qs, u"Gamma"_qs}));
+                  (QStringList{u"Alpha"_s, u"Beta"_s, u"Gamma"_s}));
         Door().Clear();
     }
 }

@@ -13,6 +13,8 @@
 #include <map>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QLocale UnitedStates(QLocale::English, QLocale::UnitedStates);
@@ -25,8 +27,8 @@ Money Units(double units) { return Money::FromDouble(units); }
 
 /// Everything that a worksheet keeps has a value of its own.
 void Fill(Worksheet& w) {
-    w.SetLoanName(u"Our new home"_qs);
-    w.SetLoanType(u"M"_qs);
+    w.SetLoanName(u"Our new home"_s);
+    w.SetLoanType(u"M"_s);
     w.SetLoanAmount(Units(250'000.5));
     w.SetLoanTerm(360);
     w.SetEscrowTaxes(Units(3'600));
@@ -34,9 +36,9 @@ void Fill(Worksheet& w) {
     w.SetCurrentLoanAmount(Units(230'000));
     w.SetCurrentTerm(342);
     w.SetCurrentInterestRate(0.07125);
-    w.SetCurrentFrequency(FrequencyCodeToText(u"B"_qs));
+    w.SetCurrentFrequency(FrequencyCodeToText(u"B"_s));
     w.SetCurrentBalance(Units(198'450.75));
-    w.SetCurrentActualFrequency(FrequencyCodeToText(u"W"_qs));
+    w.SetCurrentActualFrequency(FrequencyCodeToText(u"W"_s));
     w.SetCurrentNextPayment(Date::FromCalendar(2026, 12, 3));
     w.SetCurrentPayment(Units(1'186.35));
     w.SetCurrentActualPayment(Units(2'050));
@@ -48,7 +50,7 @@ void FillOffer(Worksheet& w, Row row, const QString& who) {
     offer.SetPoints(1.125);
     offer.SetTerm(186);
     offer.SetInterestRate(0.0625);
-    offer.SetFrequencyCode(u"Q"_qs);
+    offer.SetFrequencyCode(u"Q"_s);
     offer.SetActualPayment(Units(5'000));
     offer.SetWho(who);
 }
@@ -56,13 +58,13 @@ void FillOffer(Worksheet& w, Row row, const QString& who) {
 class LoanStoreTest : public testing::Test {
 protected:
     LoanStoreTest() {
-        Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), u"Loan"_qs);
+        Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), u"Loan"_s);
         Language::Instance().LoadLanguage(English);
     }
 
     LoanStore Loans() const { return LoanStore(m_folder.Store()); }
     void Save(Sheet& sheet) const { Loans().Save(sheet.worksheet); }
-    std::vector<Failure> Load(Sheet& sheet, const QString& name = u"Our new home"_qs) const {
+    std::vector<Failure> Load(Sheet& sheet, const QString& name = u"Our new home"_s) const {
         return Loans().Load(sheet.worksheet, name, [&](Row last) {
             sheet.worksheet.GrowOfferArrays(sheet.worksheet.HighestOfferRow(), last);
         });
@@ -111,7 +113,7 @@ TEST_F(LoanStoreTest, WritesEachValueUnderItsName) {
          {std::pair{UnitedStates, &KeptText::inEnglish}, std::pair{Germany, &KeptText::inGerman}}) {
         Sheet sheet(locale);
         Fill(sheet.worksheet);
-        FillOffer(sheet.worksheet, Row{0}, u"First\r\nPrairie Bank"_qs);
+        FillOffer(sheet.worksheet, Row{0}, u"First\r\nPrairie Bank"_s);
         Save(sheet);
         EXPECT_FALSE(sheet.worksheet.Dirty());
         for (const KeptText& kept : KeptTexts) {
@@ -124,7 +126,7 @@ TEST_F(LoanStoreTest, WritesEachValueUnderItsName) {
 
 TEST_F(LoanStoreTest, AnEmptyWorksheetIsKeptAsZeros) {
     Sheet sheet;
-    sheet.worksheet.SetLoanName(u"Our new home"_qs);
+    sheet.worksheet.SetLoanName(u"Our new home"_s);
     Save(sheet);
     for (const char* value : {"LoanAmount", "LoanTerm", "EscrowTaxes", "CurrentInterestRate"}) {
         EXPECT_EQ("0", Kept(value)) << value;
@@ -139,7 +141,7 @@ TEST_F(LoanStoreTest, AnEmptyWorksheetIsKeptAsZeros) {
 /// What a worksheet would keep, as it stands.
 std::map<std::string, std::string> ValuesOf(Worksheet& worksheet) {
     const StoreFolder folder;
-    worksheet.SetLoanName(u"same"_qs);
+    worksheet.SetLoanName(u"same"_s);
     LoanStore(folder.Store()).Save(worksheet);
     std::map<std::string, std::string> values;
     const std::string key = StoreFolder::LoanKey("same");
@@ -154,7 +156,7 @@ std::map<std::string, std::string> ValuesOf(Worksheet& worksheet) {
 TEST_F(LoanStoreTest, WhatWasKeptComesBackEqual) {
     Sheet written;
     Fill(written.worksheet);
-    FillOffer(written.worksheet, Row{0}, u"First\r\nPrairie Bank"_qs);
+    FillOffer(written.worksheet, Row{0}, u"First\r\nPrairie Bank"_s);
     Save(written);
     Sheet read;
     EXPECT_TRUE(Load(read).empty());
@@ -183,7 +185,7 @@ TEST_F(LoanStoreTest, NoFigureChangesUnderAnotherLocaleOrLanguage) {
         Sheet written(abroad.writer);
         Language::Instance().LoadLanguage(abroad.writerLanguage);
         Fill(written.worksheet);
-        FillOffer(written.worksheet, Row{0}, u"Añil"_qs);
+        FillOffer(written.worksheet, Row{0}, u"Añil"_s);
         Save(written);
         Language::Instance().LoadLanguage(abroad.readerLanguage);
         Sheet read(abroad.reader);
@@ -200,17 +202,17 @@ TEST_F(LoanStoreTest, NoFigureChangesUnderAnotherLocaleOrLanguage) {
 TEST_F(LoanStoreTest, OffersComeBackPacked) {
     Sheet sheet;
     Fill(sheet.worksheet);
-    FillOffer(sheet.worksheet, Row{2}, u"Second"_qs);
-    FillOffer(sheet.worksheet, Row{5}, u"Fifth"_qs);
+    FillOffer(sheet.worksheet, Row{2}, u"Second"_s);
+    FillOffer(sheet.worksheet, Row{5}, u"Fifth"_s);
     Save(sheet);
     EXPECT_EQ(2, m_folder.Number(Key, "LoanCount"));
     EXPECT_EQ("Fifth", Kept("Loan 2 Who"));
     EXPECT_EQ("(missing)", Kept("Loan 3 Who"));
 
     Sheet other;
-    FillOffer(other.worksheet, Row{4}, u"Of before"_qs);
+    FillOffer(other.worksheet, Row{4}, u"Of before"_s);
     EXPECT_TRUE(Load(other).empty());
-    const std::vector<QString> expected{u"Second"_qs, u"Fifth"_qs, {}, {}, {}, {}};
+    const std::vector<QString> expected{u"Second"_s, u"Fifth"_s, {}, {}, {}, {}};
     for (Row row{0}; row <= other.worksheet.HighestOfferRow(); ++row.value) {
         EXPECT_EQ(expected.at(static_cast<std::size_t>(row.value)),
                   other.worksheet.OfferOfRow(row).Who());
@@ -222,11 +224,11 @@ TEST_F(LoanStoreTest, OffersComeBackPacked) {
 TEST_F(LoanStoreTest, AShorterSaveLeavesNoOldOffers) {
     Sheet sheet;
     Fill(sheet.worksheet);
-    FillOffer(sheet.worksheet, Row{0}, u"First"_qs);
-    FillOffer(sheet.worksheet, Row{1}, u"Second"_qs);
+    FillOffer(sheet.worksheet, Row{0}, u"First"_s);
+    FillOffer(sheet.worksheet, Row{1}, u"Second"_s);
     Save(sheet);
     sheet.worksheet.Clear();
-    sheet.worksheet.SetLoanName(u"Our new home"_qs);
+    sheet.worksheet.SetLoanName(u"Our new home"_s);
     Save(sheet);
     EXPECT_EQ("(missing)", Kept("Loan 1 Who"));
     EXPECT_EQ("(missing)", Kept("Loan 2 Who"));
@@ -255,15 +257,15 @@ TEST_F(LoanStoreTest, WhatMakesAnOfferWorthKeeping) {
     for (const Case& row : {
              Case{"nothing", [](CLoan&) {}, false},
              Case{"a term", [](CLoan& offer) { offer.SetTerm(360); }, false},
-             Case{"a frequency", [](CLoan& offer) { offer.SetFrequencyCode(u"M"_qs); }, false},
-             Case{"a lender", [](CLoan& offer) { offer.SetWho(u"x"_qs); }, true},
+             Case{"a frequency", [](CLoan& offer) { offer.SetFrequencyCode(u"M"_s); }, false},
+             Case{"a lender", [](CLoan& offer) { offer.SetWho(u"x"_s); }, true},
              Case{"a payment", [](CLoan& offer) { offer.SetActualPayment(Units(1)); }, true},
              Case{"financed", [](CLoan& offer) { offer.SetFinancePoints(true); }, true},
              Case{"a rate", [](CLoan& offer) { offer.SetInterestRate(0.01); }, true},
              Case{"points", [](CLoan& offer) { offer.SetPoints(-0.5); }, true},
          }) {
         Sheet sheet;
-        sheet.worksheet.SetLoanName(u"Our new home"_qs);
+        sheet.worksheet.SetLoanName(u"Our new home"_s);
         row.enter(sheet.worksheet.OfferOfRow(Row{3}));
         Save(sheet);
         EXPECT_EQ(row.worth ? 1 : 0, m_folder.Number(Key, "LoanCount")) << row.name;
@@ -278,17 +280,17 @@ TEST_F(LoanStoreTest, NamesThatCanAndCannotBeKeys) {
         bool canHold;
     };
     for (const Case& row : {
-             Case{u""_qs, true, true},
-             Case{u" "_qs, true, true},
-             Case{u"  "_qs, false, true},
-             Case{u"Casa de la Ñandú 🏠"_qs, false, true},
-             Case{u"C:\\loans"_qs, false, false},
+             Case{u""_s, true, true},
+             Case{u" "_s, true, true},
+             Case{u"  "_s, false, true},
+             Case{u"Casa de la Ñandú 🏠"_s, false, true},
+             Case{u"C:\\loans"_s, false, false},
              Case{QString(255, u'x'), false, true},
              Case{QString(256, u'x'), false, false},
-             Case{u"(new loan)"_qs, false, false},
-             Case{u"(préstamo nuevo)"_qs, false, false},
-             Case{u"a/b*c?"_qs, false, true},
-             Case{u"a"_qs + QChar(QChar::Null), false, false},
+             Case{u"(new loan)"_s, false, false},
+             Case{u"(préstamo nuevo)"_s, false, false},
+             Case{u"a/b*c?"_s, false, true},
+             Case{u"a"_s + QChar(QChar::Null), false, false},
          }) {
         EXPECT_EQ(row.empty, LoanStore::IsEmptyName(row.name)) << row.name.toStdString();
         EXPECT_EQ(row.canHold, LoanStore::CanHold(row.name)) << row.name.toStdString();
@@ -296,7 +298,7 @@ TEST_F(LoanStoreTest, NamesThatCanAndCannotBeKeys) {
 }
 
 TEST_F(LoanStoreTest, TheLongestNameAndEveryNameWithinItsLimitsAreKept) {
-    for (const QString& name : {QString(255, u'x'), u"  "_qs, u" lead and trail "_qs, u"Ñ🏠é"_qs}) {
+    for (const QString& name : {QString(255, u'x'), u"  "_s, u" lead and trail "_s, u"Ñ🏠é"_s}) {
         Sheet sheet;
         sheet.worksheet.SetLoanName(name);
         sheet.worksheet.SetLoanAmount(Units(7));
@@ -310,25 +312,25 @@ TEST_F(LoanStoreTest, TheLongestNameAndEveryNameWithinItsLimitsAreKept) {
 
 TEST_F(LoanStoreTest, NamesAreListedInAlphabeticalOrder) {
     EXPECT_TRUE(Loans().Names().isEmpty());
-    for (const QString& name : {u"beta"_qs, u"Alpha"_qs, u"gamma"_qs, u"ALPHA 2"_qs}) {
+    for (const QString& name : {u"beta"_s, u"Alpha"_s, u"gamma"_s, u"ALPHA 2"_s}) {
         Sheet sheet;
         sheet.worksheet.SetLoanName(name);
         Save(sheet);
     }
-    EXPECT_EQ(QStringList({u"Alpha"_qs, u"ALPHA 2"_qs, u"beta"_qs, u"gamma"_qs}), Loans().Names());
-    EXPECT_TRUE(Loans().Exists(u"GAMMA"_qs));
-    EXPECT_TRUE(Loans().Delete(u"gamma"_qs));
-    EXPECT_FALSE(Loans().Exists(u"gamma"_qs));
-    EXPECT_TRUE(Loans().Delete(u"never kept"_qs));
+    EXPECT_EQ(QStringList({u"Alpha"_s, u"ALPHA 2"_s, u"beta"_s, u"gamma"_s}), Loans().Names());
+    EXPECT_TRUE(Loans().Exists(u"GAMMA"_s));
+    EXPECT_TRUE(Loans().Delete(u"gamma"_s));
+    EXPECT_FALSE(Loans().Exists(u"gamma"_s));
+    EXPECT_TRUE(Loans().Delete(u"never kept"_s));
 }
 
 TEST_F(LoanStoreTest, LendersAreCountedInCharactersAsUsersCountThem) {
     EXPECT_TRUE(LoanStore::CanHoldLender(QString(1023, u'x')));
     EXPECT_FALSE(LoanStore::CanHoldLender(QString(1024, u'x')));
-    EXPECT_TRUE(LoanStore::CanHoldLender(u"e\u0301"_qs.repeated(1023)));
+    EXPECT_TRUE(LoanStore::CanHoldLender(u"e\u0301"_s.repeated(1023)));
     Sheet sheet;
     Fill(sheet.worksheet);
-    const QString longest = u"e\u0301"_qs.repeated(1023);
+    const QString longest = u"e\u0301"_s.repeated(1023);
     FillOffer(sheet.worksheet, Row{0}, longest);
     Save(sheet);
     Sheet read;
@@ -373,7 +375,7 @@ TEST_F(LoanStoreTest, ABadValueIsReportedAndTheRestIsLoaded) {
         SCOPED_TRACE(std::string(bad.value) + " = " + bad.text);
         Sheet sheet;
         Fill(sheet.worksheet);
-        FillOffer(sheet.worksheet, Row{0}, u"First"_qs);
+        FillOffer(sheet.worksheet, Row{0}, u"First"_s);
         Save(sheet);
         Put(bad.value, bad.text);
         Sheet read;
@@ -401,7 +403,7 @@ TEST_F(LoanStoreTest, ACountThatCannotBeMakesNoEndlessRows) {
           Case{1'000'000, 1, 15, true}, Case{-1, 1, 5, false}, Case{INT32_MIN, 1, 5, false}}) {
         Sheet sheet;
         Fill(sheet.worksheet);
-        FillOffer(sheet.worksheet, Row{0}, u"First"_qs);
+        FillOffer(sheet.worksheet, Row{0}, u"First"_s);
         Save(sheet);
         m_folder.Store().SetValue(StoreFolder::Root, Key, "LoanCount", RegistryType::Number,
                                   row.count);
@@ -417,7 +419,7 @@ TEST_F(LoanStoreTest, MissingValuesTakeTheirDefaults) {
     m_folder.Store().CreateKey(StoreFolder::Root, Key);
     m_folder.Store().SetValue(StoreFolder::Root, Key, "LoanCount", RegistryType::Number, 2);
     Sheet read;
-    FillOffer(read.worksheet, Row{0}, u"Of before"_qs);
+    FillOffer(read.worksheet, Row{0}, u"Of before"_s);
     EXPECT_TRUE(Load(read).empty());
     EXPECT_EQ(Money(), read.worksheet.LoanAmount());
     EXPECT_EQ(u"", read.worksheet.LoanType());
@@ -433,12 +435,12 @@ TEST_F(LoanStoreTest, LoadingOverOtherOffersRefusesNoPayment) {
     CLoan& offer = sheet.worksheet.OfferOfRow(Row{0});
     offer.SetTerm(360);
     offer.SetInterestRate(0.03);
-    offer.SetFrequencyCode(u"M"_qs);
+    offer.SetFrequencyCode(u"M"_s);
     offer.SetActualPayment(Units(1'600));
     Save(sheet);
     Sheet other;
     Fill(other.worksheet);
-    FillOffer(other.worksheet, Row{0}, u"Dear"_qs);
+    FillOffer(other.worksheet, Row{0}, u"Dear"_s);
     other.display.ForgetCalls();
     EXPECT_TRUE(Load(other).empty());
     EXPECT_EQ(0, other.display.PaymentsRefused());

@@ -23,6 +23,8 @@
 #include <functional>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class OptionsOfTheWindow : public WindowTest {
@@ -45,7 +47,7 @@ protected:
                 }
             }
         });
-        Window().findChild<QAction*>(u"mnuToolsOptions"_qs)->trigger();
+        Window().findChild<QAction*>(u"mnuToolsOptions"_s)->trigger();
         Settle();
         return shown;
     }
@@ -76,14 +78,14 @@ protected:
     int RowsInView() const { return Control(u"picScroll").height() / RowHeight(); }
 
     QTemporaryDir m_folder;
-    RegistryAPI m_store{m_folder.filePath(u"Loan.store"_qs).toStdString()};
+    RegistryAPI m_store{m_folder.filePath(u"Loan.store"_s).toStdString()};
     FakePictures m_pictures;
     std::optional<OptionsCommands> m_commands;
 };
 
 TEST_F(OptionsOfTheWindow, EntryIsEnabled) {
     Open();
-    const auto* entry = Window().findChild<QAction*>(u"mnuToolsOptions"_qs);
+    const auto* entry = Window().findChild<QAction*>(u"mnuToolsOptions"_s);
     EXPECT_FALSE(entry->isEnabled()) << "as long as nothing is behind it";
     m_commands.emplace(Window(), m_store, m_pictures);
     EXPECT_TRUE(entry->isEnabled());
@@ -136,7 +138,7 @@ TEST_F(OptionsOfTheWindow, NumberOfOffersIsKeptAndShown) {
 }
 
 TEST_F(OptionsOfTheWindow, PictureIsKeptShownAndDropped) {
-    const QString path = m_folder.filePath(u"tile.bmp"_qs);
+    const QString path = m_folder.filePath(u"tile.bmp"_s);
     QImage tile(8, 8, QImage::Format_RGB32);
     tile.fill(qRgb(10, 200, 30));
     ASSERT_TRUE(tile.save(path));
@@ -159,7 +161,7 @@ TEST_F(OptionsOfTheWindow, PictureThatCannotBeLoadedIsToldAndForgotten) {
     OpenWindow();
     Change([](const frmOptions& options) { SetText(options, u"txtWallpaper", u"/no/such.bmp"); });
     EXPECT_EQ(SettledMessages(),
-              QStringList(u"This background picture could not be loaded: /no/such.bmp"_qs));
+              QStringList(u"This background picture could not be loaded: /no/such.bmp"_s));
     EXPECT_EQ(Window().GetSettings().wallpaper, u"");
     EXPECT_EQ(StoredText("Wallpaper"), u"(absent)") << "tried before it is stored";
     Options([](const frmOptions& options) {

@@ -19,6 +19,8 @@
 #include <functional>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 TEST_F(OptionsDialog, ShowsTheSettings) {
@@ -30,8 +32,8 @@ TEST_F(OptionsDialog, ShowsTheSettings) {
     };
     const std::vector<Case> cases = {
         // last row, months, picture, folder        offers  selected       picture
-        {{0, true, u"/x/a.bmp"_qs, {}}, u"1", u"optTerm(0)", u"/x/a.bmp"},
-        {{14, false, {}, u"/x/"_qs}, u"15", u"optTerm(1)", u""},
+        {{0, true, u"/x/a.bmp"_s, {}}, u"1", u"optTerm(0)", u"/x/a.bmp"},
+        {{14, false, {}, u"/x/"_s}, u"15", u"optTerm(1)", u""},
         {{5, false, {}, {}}, u"6", u"optTerm(1)", u""},
     };
     for (const Case& tested : cases) {
@@ -165,9 +167,9 @@ TEST_F(OptionsDialog, CancelsAlsoWithAWrongNumber) {
     };
     for (const auto& [name, cancel] : ways) {
         SCOPED_TRACE(name);
-        Open({3, false, {}, u"/x/"_qs});
+        Open({3, false, {}, u"/x/"_s});
         Get<QRadioButton>(u"optTerm(0)").setChecked(true);
-        Get<QLineEdit>(u"txtWallpaper").setText(u"/y.bmp"_qs);
+        Get<QLineEdit>(u"txtWallpaper").setText(u"/y.bmp"_s);
         TypeInto(u"txtLoans", u"0");
         cancel();
         EXPECT_TRUE(SettledMessages().isEmpty());
@@ -299,7 +301,7 @@ TEST_F(OptionsDialog, WheelTurnsTheNumberOnlyWhereTheKeyboardIs) {
 
 TEST_F(OptionsDialog, HandsBackWhatWasChosen) {
     const QString picture = Picture(u"house.bmp", {30, 20});
-    Open(WithPicture({}, u"/x/"_qs));
+    Open(WithPicture({}, u"/x/"_s));
     TypeInto(u"txtLoans", u"015");
     Click(u"optTerm(0)");
     TypeInto(u"txtWallpaper", picture);
@@ -330,8 +332,8 @@ TEST_F(OptionsDialog, TabKeyGoesTheWayTheEyeGoes) {
         Tab();
     }
     EXPECT_EQ(visited,
-              (QStringList{u"udLoans"_qs, u"optTerm(1)"_qs, u"txtWallpaper"_qs, u"cmdWallpaper"_qs,
-                           u"OKButton"_qs, u"CancelButton"_qs, u"udLoans"_qs}));
+              (QStringList{u"udLoans"_s, u"optTerm(1)"_s, u"txtWallpaper"_s, u"cmdWallpaper"_s,
+                           u"OKButton"_s, u"CancelButton"_s, u"udLoans"_s}));
 }
 
 } // namespace

@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum Need : unsigned {
@@ -161,7 +163,7 @@ void OptionsTexts::ExpectNothingIsCut() {
     const QString words = Language::Instance().Text(521);
     EXPECT_GE(picture.contentsRect().width(), picture.fontMetrics().horizontalAdvance(words) / 2);
     const int room = Get<QLineEdit>(u"txtLoans").width();
-    EXPECT_GE(room, Dialog().fontMetrics().horizontalAdvance(u"15"_qs) + 4);
+    EXPECT_GE(room, Dialog().fontMetrics().horizontalAdvance(u"15"_s) + 4);
 }
 
 TEST_P(OptionsTexts, NothingIsCut) {

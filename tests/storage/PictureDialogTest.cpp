@@ -12,6 +12,8 @@
 #include <functional>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class LookingForAPicture : public OptionsDialog {
@@ -45,9 +47,9 @@ TEST_F(LookingForAPicture, StartsWhereItShould) {
     };
     const std::vector<Case> cases = {
         // file                    folder          starts in       with
-        {{picture, u"/"_qs}, folder, {picture}},           {{{}, folder + u'/'}, folder, {}},
-        {{u"/no/such.bmp"_qs, folder + u'/'}, folder, {}}, {{{}, {}}, usual, {}},
-        {{u"/no/such.bmp"_qs, u"/no/"_qs}, usual, {}},
+        {{picture, u"/"_s}, folder, {picture}},           {{{}, folder + u'/'}, folder, {}},
+        {{u"/no/such.bmp"_s, folder + u'/'}, folder, {}}, {{{}, {}}, usual, {}},
+        {{u"/no/such.bmp"_s, u"/no/"_s}, usual, {}},
     };
     Open();
     for (const Case& tested : cases) {
@@ -83,10 +85,10 @@ TEST_F(LookingForAPicture, SpeaksTheLanguageOfTheUser) {
         QString all;
     };
     const std::vector<Case> cases = {
-        {English, u"Choose a background picture"_qs, u"Bitmaps (*.bmp)"_qs, u"Pictures ("_qs,
-         u"All files (*)"_qs},
-        {Spanish, u"Elegir una imagen de fondo"_qs, u"Mapas de bits (*.bmp)"_qs, u"Imágenes ("_qs,
-         u"Todos los archivos (*)"_qs},
+        {English, u"Choose a background picture"_s, u"Bitmaps (*.bmp)"_s, u"Pictures ("_s,
+         u"All files (*)"_s},
+        {Spanish, u"Elegir una imagen de fondo"_s, u"Mapas de bits (*.bmp)"_s, u"Imágenes ("_s,
+         u"Todos los archivos (*)"_s},
     };
     for (const Case& tested : cases) {
         Open({}, tested.language);

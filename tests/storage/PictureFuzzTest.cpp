@@ -14,9 +14,11 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString NoPicture = u"This file cannot be shown as a picture."_qs;
+const QString NoPicture = u"This file cannot be shown as a picture."_s;
 
 class PictureFuzz : public OptionsDialog {
 protected:
@@ -44,7 +46,7 @@ protected:
         const QString ending =
             QString::fromUtf16(endings.at(std::hash<std::string>()(bytes) % endings.size()));
         const QString path =
-            File(u"picture"_qs + ending, QByteArray(bytes.data(), qsizetype(bytes.size())));
+            File(u"picture"_s + ending, QByteArray(bytes.data(), qsizetype(bytes.size())));
         Show(path);
         QFile::remove(path);
     }
@@ -92,25 +94,25 @@ TEST_F(PictureFuzz, OnlyAFileWithAPictureInItIsRead) {
     };
     const std::vector<Case> cases = {
         {"a pipe that nobody writes to", Pipe(), false},
-        {"a device without end", u"/dev/zero"_qs, false},
-        {"chance without end", u"/dev/random"_qs, false},
-        {"the terminal", u"/dev/tty"_qs, false},
-        {"the standard input", u"/dev/stdin"_qs, false},
-        {"the system's own notes", u"/proc/kmsg"_qs, false},
-        {"the program's own memory", u"/proc/self/mem"_qs, false},
+        {"a device without end", u"/dev/zero"_s, false},
+        {"chance without end", u"/dev/random"_s, false},
+        {"the terminal", u"/dev/tty"_s, false},
+        {"the standard input", u"/dev/stdin"_s, false},
+        {"the system's own notes", u"/proc/kmsg"_s, false},
+        {"the program's own memory", u"/proc/self/mem"_s, false},
         {"a folder", PathOf(u"."), false},
         {"links in a circle", Link(u"two", PathOf(u"one")), false},
         {"a link to a pipe", Link(u"to-pipe.png", PathOf(u"pipe.png")), false},
-        {"a link to a device", Link(u"to-zero.bmp", u"/dev/zero"_qs), false},
+        {"a link to a device", Link(u"to-zero.bmp", u"/dev/zero"_s), false},
         {"a link that leads nowhere", Link(u"nowhere.bmp", PathOf(u"none.bmp")), false},
         {"a link to a picture", Link(u"to-house", picture), true},
-        {"below a file", picture + u"/house.bmp"_qs, false},
+        {"below a file", picture + u"/house.bmp"_s, false},
         {"a path too long", u'/' + QString(5'000, u'x'), false},
-        {"a path with an end in it", picture + QChar(0) + u".bmp"_qs, false},
-        {"an address", u"file://"_qs + picture, false},
-        {"an address elsewhere", u"https://quend.example/house.bmp"_qs, false},
+        {"a path with an end in it", picture + QChar(0) + u".bmp"_s, false},
+        {"an address", u"file://"_s + picture, false},
+        {"an address elsewhere", u"https://quend.example/house.bmp"_s, false},
         {"half of a character", PathOf(u"\xD83C.bmp"), false},
-        {"an option", u"-x"_qs, false},
+        {"an option", u"-x"_s, false},
         {"a wrong ending", File(u"house.png", bytes), true},
         {"no ending", File(u"house", bytes), true},
         {"blanks, quotes and accents", File(u" Mañana \"'$(id)` %n%1.bmp", bytes), true},

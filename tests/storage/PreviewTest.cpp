@@ -18,10 +18,12 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString None = u"No picture"_qs;
-const QString NotShown = u"This file cannot be shown as a picture."_qs;
+const QString None = u"No picture"_s;
+const QString NotShown = u"This file cannot be shown as a picture."_s;
 
 /// The head of a bitmap that claims this size; the picture itself does not follow.
 QByteArray BitmapHead(int width, int height, int bitsPerPixel) {
@@ -98,8 +100,8 @@ TEST_F(Preview, SaysWhenThereIsNothingToShow) {
         {{}, None},
         {PathOf(u"missing.bmp"), NotShown},
         {PathOf(u"."), NotShown},
-        {u"/dev/zero"_qs, NotShown},
-        {u"no path at all"_qs, NotShown},
+        {u"/dev/zero"_s, NotShown},
+        {u"no path at all"_s, NotShown},
         {File(u"empty.bmp", {}), NotShown},
         {File(u"garbage.bmp", "This is no picture."), NotShown},
         {File(u"truncated.bmp", bytes.left(20)), NotShown},
@@ -190,7 +192,7 @@ TEST_F(Preview, SpeaksTheLanguageOfTheUser) {
 
 TEST_F(Preview, PictureIsLookedForWhereTheLastOneWas) {
     const QString picture = Picture(u"house.bmp", {30, 20});
-    Open(WithPicture(u"/x/old.bmp"_qs, u"/x/"_qs));
+    Open(WithPicture(u"/x/old.bmp"_s, u"/x/"_s));
     Click(u"cmdWallpaper"); // and the user gives up
     EXPECT_EQ(Text(u"txtWallpaper"), u"/x/old.bmp");
     EXPECT_EQ(Text(u"picWallpaper"), NotShown);
@@ -213,7 +215,7 @@ TEST_F(Preview, PictureIsLookedForWhereTheLastOneWas) {
 
 TEST_F(Preview, FolderIsForgottenByCancel) {
     m_pictures.answer = Picture(u"house.bmp", {30, 20});
-    Open(WithPicture({}, u"/x/"_qs));
+    Open(WithPicture({}, u"/x/"_s));
     Click(u"cmdWallpaper");
     Click(u"CancelButton");
     EXPECT_EQ(Dialog().Chosen().wallpaperDirectory, u"/x/");

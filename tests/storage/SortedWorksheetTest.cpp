@@ -9,6 +9,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class SortedWorksheet : public WindowTest {
@@ -23,8 +25,8 @@ protected:
             SheetToWrite().StoreWho(row, QLatin1String(who));
             SheetToWrite().StoreNumber({FieldId::InterestRate, row},
                                        QString::number(7 - row.value));
-            SheetToWrite().StoreNumber({FieldId::Term, row}, u"30"_qs);
-            SheetToWrite().StoreChoice({FieldId::Frequency, row}, u"Monthly"_qs);
+            SheetToWrite().StoreNumber({FieldId::Term, row}, u"30"_s);
+            SheetToWrite().StoreChoice({FieldId::Frequency, row}, u"Monthly"_s);
             ++row.value;
         }
         SheetToWrite().ClearRaisedMarks();
@@ -46,14 +48,14 @@ protected:
         return kept;
     }
     void LoadAgain() {
-        EXPECT_TRUE(LoanStore(m_folder.Store())
-                        .Load(SheetToWrite(), u"Home"_qs,
-                              [this](Row last) { Window().Rows().GrowTo(last); })
-                        .empty());
+        EXPECT_TRUE(
+            LoanStore(m_folder.Store())
+                .Load(SheetToWrite(), u"Home"_s, [this](Row last) { Window().Rows().GrowTo(last); })
+                .empty());
     }
 
-    const QStringList m_entered{u"dear"_qs, u"middle"_qs, u"cheap"_qs};
-    const QStringList m_sorted{u"cheap"_qs, u"middle"_qs, u"dear"_qs};
+    const QStringList m_entered{u"dear"_s, u"middle"_s, u"cheap"_s};
+    const QStringList m_sorted{u"cheap"_s, u"middle"_s, u"dear"_s};
     StoreFolder m_folder;
     std::unique_ptr<FileCommands> m_files;
 };
@@ -118,8 +120,8 @@ TEST_F(SortedWorksheet, StartsAfreshInTheOrderOfEntry) {
 }
 
 TEST_F(SortedWorksheet, LendersOfSeveralLinesComeBackWhole) {
-    for (const QString& who : {u"Bank\r\nMs. Ñandú, 中文 \U0001F3E0\r\n\ttel. 555\u00A00100"_qs,
-                               u"one\ntwo"_qs, u"\u05D0\u05D1 e\u0301"_qs}) {
+    for (const QString& who : {u"Bank\r\nMs. Ñandú, 中文 \U0001F3E0\r\n\ttel. 555\u00A00100"_s,
+                               u"one\ntwo"_s, u"\u05D0\u05D1 e\u0301"_s}) {
         SheetToWrite().StoreWho(Row{1}, who);
         Trigger(u"mnuFileSave");
         LoadAgain();

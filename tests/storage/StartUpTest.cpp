@@ -20,6 +20,8 @@
 #include <array>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::uint16_t MexicanSpanish = 0x080A;
@@ -86,7 +88,7 @@ class PlaceOfTheWindow : public WindowTest {};
 
 TEST_F(PlaceOfTheWindow, IsKeptInAFolderMadeForIt) {
     const QTemporaryDir folder;
-    const QString file = folder.filePath(u"made/for it/window.place"_qs);
+    const QString file = folder.filePath(u"made/for it/window.place"_s);
     Open();
     Window().resize(Window().width() + 60, Window().height() + 40);
     const QSize size = Window().size();
@@ -109,7 +111,7 @@ TEST_F(PlaceOfTheWindow, IsNoLargerThanTheScreenAtFirst) {
 
 TEST_F(PlaceOfTheWindow, UnreadablePlacesAreIgnored) {
     const QTemporaryDir folder;
-    const QString name = folder.filePath(u"window.place"_qs);
+    const QString name = folder.filePath(u"window.place"_s);
     Open();
     const QSize size = Window().size();
     RestorePlace(Window(), name); // there is none yet
@@ -126,7 +128,7 @@ TEST_F(PlaceOfTheWindow, UnreadablePlacesAreIgnored) {
 
 TEST_F(PlaceOfTheWindow, AFileThatNobodyWritesToIsNotWaitedFor) {
     const QTemporaryDir folder;
-    const QString pipe = folder.filePath(u"window.place"_qs);
+    const QString pipe = folder.filePath(u"window.place"_s);
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     Open();
     const QSize size = Window().size();
@@ -136,12 +138,12 @@ TEST_F(PlaceOfTheWindow, AFileThatNobodyWritesToIsNotWaitedFor) {
 
 TEST_F(PlaceOfTheWindow, WhereItCannotBeKeptTheProgramGoesOn) {
     const QTemporaryDir folder;
-    const QString blocked = folder.filePath(u"blocked"_qs);
+    const QString blocked = folder.filePath(u"blocked"_s);
     ASSERT_TRUE(QFile(blocked).open(QIODevice::WriteOnly));
     Open();
-    KeepPlace(Window(), blocked + u"/window.place"_qs);
+    KeepPlace(Window(), blocked + u"/window.place"_s);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-              QStringList(u"blocked"_qs));
+              QStringList(u"blocked"_s));
     EXPECT_EQ(SettledMessages(), QStringList());
 }
 

@@ -104,7 +104,7 @@ protected:
     }
     void ExpectStarts(const Outcome& outcome) const {
         EXPECT_EQ(outcome.exitCode, 0);
-        EXPECT_EQ(outcome.Of("shown"), QStringList(u"Quend Loan"_qs));
+        EXPECT_EQ(outcome.Of("shown"), QStringList(u"Quend Loan"_s));
         EXPECT_EQ(outcome.Of("message"), QStringList());
     }
     bool IsStoreIn(const QString& folder) const {
@@ -118,10 +118,10 @@ private:
 TEST_F(Surroundings, LetTheProgramDoAllItsWork) {
     const Outcome outcome = Start({{"QUEND_VISIT", "work"}, {"LC_ALL", "en_US.UTF-8"}});
     ExpectStarts(outcome);
-    EXPECT_EQ(outcome.Of("payment"), QStringList(u"$599.55"_qs));
+    EXPECT_EQ(outcome.Of("payment"), QStringList(u"$599.55"_s));
     EXPECT_GE(outcome.Of("dialog").size(), 2) << outcome.report.join(u'\n').toStdString();
     EXPECT_EQ(outcome.Of("missing"), QStringList());
-    EXPECT_EQ(Start({}).Of("names"), QStringList(u"2"_qs)) << "the entry of a new loan and Sample";
+    EXPECT_EQ(Start({}).Of("names"), QStringList(u"2"_s)) << "the entry of a new loan and Sample";
 }
 
 TEST_F(Surroundings, OfAnyLocaleAreTaken) {
@@ -138,31 +138,31 @@ TEST_F(Surroundings, OfAnyLocaleAreTaken) {
 }
 
 TEST_F(Surroundings, OfAnyFoldersKeepTheStoreWhereItBelongs) {
-    QDir(PathOf({})).mkpath(u"Año \"de\" $(id) 'x'\n%n"_qs);
-    QFile file(PathOf(u"file"_qs));
+    QDir(PathOf({})).mkpath(u"Año \"de\" $(id) 'x'\n%n"_s);
+    QFile file(PathOf(u"file"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.close();
-    const QString usual = u".local/share"_qs;
+    const QString usual = u".local/share"_s;
     struct Case {
         const char* what;
         std::vector<Variable> variables;
         QString store; ///< where it stands; null where there can be none, and the user is told
     };
-    const QByteArray longPath = BytesOfPath(u"long/"_qs) + QByteArray("folder/").repeated(1'000);
+    const QByteArray longPath = BytesOfPath(u"long/"_s) + QByteArray("folder/").repeated(1'000);
     const std::vector<Case> cases = {
         {"nothing set", {}, usual},
-        {"a data folder", {{"XDG_DATA_HOME", BytesOfPath(u"data"_qs)}}, u"data"_qs},
+        {"a data folder", {{"XDG_DATA_HOME", BytesOfPath(u"data"_s)}}, u"data"_s},
         {"a data folder by a relative path", {{"XDG_DATA_HOME", "data2"}}, usual},
         {"an empty data folder", {{"XDG_DATA_HOME", ""}}, usual},
         {"accents, quotes and line breaks",
-         {{"XDG_DATA_HOME", BytesOfPath(u"Año \"de\" $(id) 'x'\n%n"_qs)}},
-         u"Año \"de\" $(id) 'x'\n%n"_qs},
-        {"a home with accents", {{"HOME", BytesOfPath(u"José"_qs)}}, u"José/.local/share"_qs},
+         {{"XDG_DATA_HOME", BytesOfPath(u"Año \"de\" $(id) 'x'\n%n"_s)}},
+         u"Año \"de\" $(id) 'x'\n%n"_s},
+        {"a home with accents", {{"HOME", BytesOfPath(u"José"_s)}}, u"José/.local/share"_s},
         {"no folder to be made", {{"XDG_DATA_HOME", "/proc/none"}}, {}},
-        {"a file in the way", {{"XDG_DATA_HOME", BytesOfPath(u"file"_qs)}}, {}},
+        {"a file in the way", {{"XDG_DATA_HOME", BytesOfPath(u"file"_s)}}, {}},
         {"a path too long", {{"XDG_DATA_HOME", longPath}}, {}},
         {"a home too long", {{"HOME", longPath}}, {}},
-        {"configuration in the way", {{"XDG_CONFIG_HOME", BytesOfPath(u"file"_qs)}}, usual},
+        {"configuration in the way", {{"XDG_CONFIG_HOME", BytesOfPath(u"file"_s)}}, usual},
         {"configuration nowhere", {{"XDG_CONFIG_HOME", "/proc/none"}}, usual},
         {"configuration too long", {{"XDG_CONFIG_HOME", longPath}}, usual},
         {"no folder for a while",
@@ -211,11 +211,10 @@ TEST_F(Surroundings, OfAnyToolkitSettingsAreTaken) {
 
 TEST_F(Surroundings, OfAnyArgumentsAreTaken) {
     for (const QStringList& arguments : std::vector<QStringList>{
-             {u"--help"_qs, u"-x"_qs, u""_qs, u"%n"_qs, u"a\nb"_qs, u"/dev/zero"_qs,
-              u"-reverse"_qs},
-             {u"-qwindowgeometry"_qs, u"9999999999x-1+%n"_qs, u"-session"_qs, u"../x"_qs},
-             {u"-stylesheet"_qs, PathOf(u"none"_qs), u"-style"_qs, u"nonsense"_qs, u"-style"_qs},
-             {u"ñ\xD83C"_qs, QString(100'000, u'-')}}) {
+             {u"--help"_s, u"-x"_s, u""_s, u"%n"_s, u"a\nb"_s, u"/dev/zero"_s, u"-reverse"_s},
+             {u"-qwindowgeometry"_s, u"9999999999x-1+%n"_s, u"-session"_s, u"../x"_s},
+             {u"-stylesheet"_s, PathOf(u"none"_s), u"-style"_s, u"nonsense"_s, u"-style"_s},
+             {u"ñ\xD83C"_s, QString(100'000, u'-')}}) {
         SCOPED_TRACE(arguments.join(u'|').left(80).toStdString());
         ExpectStarts(Start({}, arguments));
     }

@@ -10,6 +10,8 @@
 #include <limits>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 DisplayFormats FormatsOf(const QString& locale) { return DisplayFormats(QLocale(locale)); }
@@ -34,23 +36,23 @@ struct AmountCase {
 TEST(DisplayFormats, GeneralNumberOfAnAmountIsExact) {
     // clang-format off
     const std::vector<AmountCase> cases{
-        {u"en_US"_qs, 0,           u"0"_qs},
-        {u"en_US"_qs, 10'000,      u"1"_qs},
-        {u"en_US"_qs, 1'000'000,   u"100"_qs}, // zeros in front of the symbol stay
-        {u"en_US"_qs, 12'345'000,  u"1234.5"_qs}, // no grouping, no trailing zeros
-        {u"en_US"_qs, 12'345'600,  u"1234.56"_qs},
-        {u"en_US"_qs, 12'345'678,  u"1234.5678"_qs},
-        {u"en_US"_qs, 1,           u"0.0001"_qs},
-        {u"en_US"_qs, -1,          u"-0.0001"_qs},
-        {u"en_US"_qs, -5'000,      u"-0.5"_qs},
-        {u"en_US"_qs, -12'345'000, u"-1234.5"_qs},
-        {u"en_US"_qs, Largest,     u"922337203685477.5807"_qs},
-        {u"en_US"_qs, Lowest,      u"-922337203685477.5808"_qs},
-        {u"es_MX"_qs, 12'345'000,  u"1234.5"_qs},
-        {u"es_ES"_qs, 12'345'000,  u"1234,5"_qs},
-        {u"de_DE"_qs, -12'345'600, u"-1234,56"_qs},
-        {u"C"_qs,     12'345'000,  u"1234.5"_qs},
-        {u"ar_EG"_qs, 12'345'000,  u"1234\u066b5"_qs},
+        {u"en_US"_s, 0,           u"0"_s},
+        {u"en_US"_s, 10'000,      u"1"_s},
+        {u"en_US"_s, 1'000'000,   u"100"_s}, // zeros in front of the symbol stay
+        {u"en_US"_s, 12'345'000,  u"1234.5"_s}, // no grouping, no trailing zeros
+        {u"en_US"_s, 12'345'600,  u"1234.56"_s},
+        {u"en_US"_s, 12'345'678,  u"1234.5678"_s},
+        {u"en_US"_s, 1,           u"0.0001"_s},
+        {u"en_US"_s, -1,          u"-0.0001"_s},
+        {u"en_US"_s, -5'000,      u"-0.5"_s},
+        {u"en_US"_s, -12'345'000, u"-1234.5"_s},
+        {u"en_US"_s, Largest,     u"922337203685477.5807"_s},
+        {u"en_US"_s, Lowest,      u"-922337203685477.5808"_s},
+        {u"es_MX"_s, 12'345'000,  u"1234.5"_s},
+        {u"es_ES"_s, 12'345'000,  u"1234,5"_s},
+        {u"de_DE"_s, -12'345'600, u"-1234,56"_s},
+        {u"C"_s,     12'345'000,  u"1234.5"_s},
+        {u"ar_EG"_s, 12'345'000,  u"1234\u066b5"_s},
     };
     // clang-format on
     for (const auto& [locale, count, text] : cases) {
@@ -68,23 +70,23 @@ struct RealCase {
 TEST(DisplayFormats, GeneralNumberOfARealHasFifteenDigits) {
     // clang-format off
     const std::vector<RealCase> cases{
-        {u"en_US"_qs, 0,                   u"0"_qs},
-        {u"en_US"_qs, 15.5,                u"15.5"_qs},
-        {u"en_US"_qs, 0.07337 * 100,       u"7.337"_qs}, // not 7.337000000000001
-        {u"en_US"_qs, 0.06875 * 100,       u"6.875"_qs},
-        {u"en_US"_qs, 0.07 * 100,          u"7"_qs},
-        {u"en_US"_qs, 0.1 + 0.2,           u"0.3"_qs},
-        {u"en_US"_qs, -0.125,              u"-0.125"_qs},
-        {u"en_US"_qs, 100,                 u"100"_qs},
-        {u"en_US"_qs, 1.0 / 3,             u"0.333333333333333"_qs},
-        {u"en_US"_qs, 100.0 / 12,          u"8.33333333333333"_qs},
-        {u"en_US"_qs, 0.000001,            u"0.000001"_qs}, // never 1E-06
-        {u"en_US"_qs, 123456789012345678., u"123456789012345680"_qs},
-        {u"en_US"_qs, 1e15,                u"1000000000000000"_qs},
-        {u"es_ES"_qs, 6.5,                 u"6,5"_qs},
-        {u"de_DE"_qs, 1234.5,              u"1234,5"_qs},
-        {u"C"_qs,     6.5,                 u"6.5"_qs},
-        {u"ar_EG"_qs, 6.5,                 u"6\u066b5"_qs},
+        {u"en_US"_s, 0,                   u"0"_s},
+        {u"en_US"_s, 15.5,                u"15.5"_s},
+        {u"en_US"_s, 0.07337 * 100,       u"7.337"_s}, // not 7.337000000000001
+        {u"en_US"_s, 0.06875 * 100,       u"6.875"_s},
+        {u"en_US"_s, 0.07 * 100,          u"7"_s},
+        {u"en_US"_s, 0.1 + 0.2,           u"0.3"_s},
+        {u"en_US"_s, -0.125,              u"-0.125"_s},
+        {u"en_US"_s, 100,                 u"100"_s},
+        {u"en_US"_s, 1.0 / 3,             u"0.333333333333333"_s},
+        {u"en_US"_s, 100.0 / 12,          u"8.33333333333333"_s},
+        {u"en_US"_s, 0.000001,            u"0.000001"_s}, // never 1E-06
+        {u"en_US"_s, 123456789012345678., u"123456789012345680"_s},
+        {u"en_US"_s, 1e15,                u"1000000000000000"_s},
+        {u"es_ES"_s, 6.5,                 u"6,5"_s},
+        {u"de_DE"_s, 1234.5,              u"1234,5"_s},
+        {u"C"_s,     6.5,                 u"6.5"_s},
+        {u"ar_EG"_s, 6.5,                 u"6\u066b5"_s},
     };
     // clang-format on
     for (const auto& [locale, value, text] : cases) {
@@ -95,30 +97,30 @@ TEST(DisplayFormats, GeneralNumberOfARealHasFifteenDigits) {
 TEST(DisplayFormats, CurrencyHasSymbolGroupingAndWholeCents) {
     // clang-format off
     const std::vector<AmountCase> cases{
-        {u"en_US"_qs, 12'345'000,              u"$1,234.50"_qs},
-        {u"en_US"_qs, -12'345'000,             u"($1,234.50)"_qs},
-        {u"en_US"_qs, 12'345'678'900,          u"$1,234,567.89"_qs},
-        {u"en_US"_qs, 0,                       u"$0.00"_qs},
-        {u"en_US"_qs, 50,                      u"$0.00"_qs}, // half a cent goes to the even one
-        {u"en_US"_qs, 150,                     u"$0.02"_qs},
-        {u"en_US"_qs, 250,                     u"$0.02"_qs},
-        {u"en_US"_qs, 251,                     u"$0.03"_qs},
-        {u"en_US"_qs, -50,                     u"$0.00"_qs}, // and no cent at all has no sign
-        {u"en_US"_qs, -150,                    u"($0.02)"_qs},
-        {u"en_US"_qs, 10'050,                  u"$1.00"_qs},
-        {u"en_US"_qs, 10'150,                  u"$1.02"_qs},
-        {u"en_US"_qs, 102'847'917,             u"$10,284.79"_qs},
-        {u"es_MX"_qs, 12'345'000,              u"$1,234.50"_qs},
-        {u"es_MX"_qs, -12'345'000,             u"$-1,234.50"_qs},
-        {u"es_ES"_qs, 12'345'000,              u"1234,50 €"_qs}, // four digits stand ungrouped in Spain
-        {u"es_ES"_qs, 123'450'000,             u"12.345,00 €"_qs},
-        {u"es_ES"_qs, -12'345'000,             u"-1234,50 €"_qs},
-        {u"de_DE"_qs, 12'345'678'900,          u"1.234.567,89 €"_qs},
-        {u"de_DE"_qs, -12'345'000,             u"-1.234,50 €"_qs},
-        {u"C"_qs,     12'345'000,              u"1234.50"_qs},
-        {u"C"_qs,     -12'345'000,             u"-1234.50"_qs},
-        {u"ar_EG"_qs, 12'345'000,              u"١٬٢٣٤٫٥٠ ج.م."_qs},
-        {u"en_US"_qs, 900'719'925'474'099'200, u"$90,071,992,547,409.92"_qs},
+        {u"en_US"_s, 12'345'000,              u"$1,234.50"_s},
+        {u"en_US"_s, -12'345'000,             u"($1,234.50)"_s},
+        {u"en_US"_s, 12'345'678'900,          u"$1,234,567.89"_s},
+        {u"en_US"_s, 0,                       u"$0.00"_s},
+        {u"en_US"_s, 50,                      u"$0.00"_s}, // half a cent goes to the even one
+        {u"en_US"_s, 150,                     u"$0.02"_s},
+        {u"en_US"_s, 250,                     u"$0.02"_s},
+        {u"en_US"_s, 251,                     u"$0.03"_s},
+        {u"en_US"_s, -50,                     u"$0.00"_s}, // and no cent at all has no sign
+        {u"en_US"_s, -150,                    u"($0.02)"_s},
+        {u"en_US"_s, 10'050,                  u"$1.00"_s},
+        {u"en_US"_s, 10'150,                  u"$1.02"_s},
+        {u"en_US"_s, 102'847'917,             u"$10,284.79"_s},
+        {u"es_MX"_s, 12'345'000,              u"$1,234.50"_s},
+        {u"es_MX"_s, -12'345'000,             u"$-1,234.50"_s},
+        {u"es_ES"_s, 12'345'000,              u"1234,50 €"_s}, // four digits stand ungrouped in Spain
+        {u"es_ES"_s, 123'450'000,             u"12.345,00 €"_s},
+        {u"es_ES"_s, -12'345'000,             u"-1234,50 €"_s},
+        {u"de_DE"_s, 12'345'678'900,          u"1.234.567,89 €"_s},
+        {u"de_DE"_s, -12'345'000,             u"-1.234,50 €"_s},
+        {u"C"_s,     12'345'000,              u"1234.50"_s},
+        {u"C"_s,     -12'345'000,             u"-1234.50"_s},
+        {u"ar_EG"_s, 12'345'000,              u"١٬٢٣٤٫٥٠ ج.م."_s},
+        {u"en_US"_s, 900'719'925'474'099'200, u"$90,071,992,547,409.92"_s},
     };
     // clang-format on
     for (const auto& [locale, count, text] : cases) {
@@ -137,15 +139,15 @@ TEST(DisplayFormats, CurrencyGroupsAsTheCountryDoes) {
     // clang-format off
     const std::vector<GroupCase> cases{
         // locale          million                 thousand
-        {u"en_US"_qs,      u"$1,234,567.89"_qs,    u"($1,234.50)"_qs},
-        {u"es_MX"_qs,      u"$1,234,567.89"_qs,    u"$-1,234.50"_qs},
-        {u"es_ES"_qs,      u"1.234.567,89 €"_qs,   u"-1234,50 €"_qs},
-        {u"pt_PT"_qs,      u"1 234 567,89 €"_qs,   u"(1234,50 €)"_qs},
-        {u"pl_PL"_qs,      u"1 234 567,89 zł"_qs,  u"(1234,50 zł)"_qs},
-        {u"hi_IN"_qs,      u"₹12,34,567.89"_qs,    u"₹-1,234.50"_qs},
-        {u"fr_CH"_qs,      u"1 234 567,89 CHF"_qs, u"(1 234,50 CHF)"_qs},
-        {u"C"_qs,          u"1234567.89"_qs,       u"-1234.50"_qs},
-        {u"ff_Adlm_GN"_qs, u"FG 𞥑⹁𞥒𞥓𞥔⹁𞥕𞥖𞥗.𞥘𞥙"_qs,  u"FG -𞥑⹁𞥒𞥓𞥔.𞥕𞥐"_qs},
+        {u"en_US"_s,      u"$1,234,567.89"_s,    u"($1,234.50)"_s},
+        {u"es_MX"_s,      u"$1,234,567.89"_s,    u"$-1,234.50"_s},
+        {u"es_ES"_s,      u"1.234.567,89 €"_s,   u"-1234,50 €"_s},
+        {u"pt_PT"_s,      u"1 234 567,89 €"_s,   u"(1234,50 €)"_s},
+        {u"pl_PL"_s,      u"1 234 567,89 zł"_s,  u"(1234,50 zł)"_s},
+        {u"hi_IN"_s,      u"₹12,34,567.89"_s,    u"₹-1,234.50"_s},
+        {u"fr_CH"_s,      u"1 234 567,89 CHF"_s, u"(1 234,50 CHF)"_s},
+        {u"C"_s,          u"1234567.89"_s,       u"-1234.50"_s},
+        {u"ff_Adlm_GN"_s, u"FG 𞥑⹁𞥒𞥓𞥔⹁𞥕𞥖𞥗.𞥘𞥙"_s,  u"FG -𞥑⹁𞥒𞥓𞥔.𞥕𞥐"_s},
     };
     // clang-format on
     for (const auto& [locale, million, thousand] : cases) {
@@ -156,34 +158,34 @@ TEST(DisplayFormats, CurrencyGroupsAsTheCountryDoes) {
 }
 
 TEST(DisplayFormats, CurrencyIsExactToTheLargestAmount) {
-    const DisplayFormats formats = FormatsOf(u"en_US"_qs);
-    EXPECT_EQ(formats.Currency(Money::FromTenThousandths(Largest)), u"$922,337,203,685,477.58"_qs);
-    EXPECT_EQ(formats.Currency(Money::FromTenThousandths(Lowest)), u"($922,337,203,685,477.58)"_qs);
+    const DisplayFormats formats = FormatsOf(u"en_US"_s);
+    EXPECT_EQ(formats.Currency(Money::FromTenThousandths(Largest)), u"$922,337,203,685,477.58"_s);
+    EXPECT_EQ(formats.Currency(Money::FromTenThousandths(Lowest)), u"($922,337,203,685,477.58)"_s);
 }
 
 TEST(DisplayFormats, ThreeDecimalsDropsTheZeroInFront) {
     // clang-format off
     const std::vector<RealCase> cases{
-        {u"en_US"_qs, 0.5,       u".500"_qs},
-        {u"en_US"_qs, -0.5,      u"-.500"_qs},
-        {u"en_US"_qs, 0,         u".000"_qs},
-        {u"en_US"_qs, 1,         u"1.000"_qs},
-        {u"en_US"_qs, -1.25,     u"-1.250"_qs},
-        {u"en_US"_qs, 10,        u"10.000"_qs},
-        {u"en_US"_qs, 100.5,     u"100.500"_qs},
-        {u"en_US"_qs, 1234.5678, u"1234.568"_qs}, // no grouping
-        {u"en_US"_qs, 0.9994,    u".999"_qs},
-        {u"en_US"_qs, 0.9996,    u"1.000"_qs},
-        {u"en_US"_qs, -0.9996,   u"-1.000"_qs},
-        {u"en_US"_qs, 20.005,    u"20.005"_qs},
-        {u"es_MX"_qs, 0.5,       u".500"_qs},
-        {u"es_ES"_qs, 0.5,       u",500"_qs},
-        {u"de_DE"_qs, -0.5,      u"-,500"_qs},
-        {u"de_DE"_qs, 1.5,       u"1,500"_qs},
-        {u"C"_qs,     0.5,       u".500"_qs},
-        {u"ar_EG"_qs, 1.5,       u"١\u066b٥٠٠"_qs},
-        {u"fa_IR"_qs, -0.25,     u"-\u066b۲۵۰"_qs},
-        {u"ff_Adlm_GN"_qs, 12.5, u"𞥑𞥒.𞥕𞥐𞥐"_qs},
+        {u"en_US"_s, 0.5,       u".500"_s},
+        {u"en_US"_s, -0.5,      u"-.500"_s},
+        {u"en_US"_s, 0,         u".000"_s},
+        {u"en_US"_s, 1,         u"1.000"_s},
+        {u"en_US"_s, -1.25,     u"-1.250"_s},
+        {u"en_US"_s, 10,        u"10.000"_s},
+        {u"en_US"_s, 100.5,     u"100.500"_s},
+        {u"en_US"_s, 1234.5678, u"1234.568"_s}, // no grouping
+        {u"en_US"_s, 0.9994,    u".999"_s},
+        {u"en_US"_s, 0.9996,    u"1.000"_s},
+        {u"en_US"_s, -0.9996,   u"-1.000"_s},
+        {u"en_US"_s, 20.005,    u"20.005"_s},
+        {u"es_MX"_s, 0.5,       u".500"_s},
+        {u"es_ES"_s, 0.5,       u",500"_s},
+        {u"de_DE"_s, -0.5,      u"-,500"_s},
+        {u"de_DE"_s, 1.5,       u"1,500"_s},
+        {u"C"_s,     0.5,       u".500"_s},
+        {u"ar_EG"_s, 1.5,       u"١\u066b٥٠٠"_s},
+        {u"fa_IR"_s, -0.25,     u"-\u066b۲۵۰"_s},
+        {u"ff_Adlm_GN"_s, 12.5, u"𞥑𞥒.𞥕𞥐𞥐"_s},
     };
     // clang-format on
     for (const auto& [locale, value, text] : cases) {
@@ -194,18 +196,18 @@ TEST(DisplayFormats, ThreeDecimalsDropsTheZeroInFront) {
 TEST(DisplayFormats, PercentShowsAFraction) {
     // clang-format off
     const std::vector<RealCase> cases{
-        {u"en_US"_qs, 0.065,   u"6.500%"_qs},
-        {u"en_US"_qs, 0.07337, u"7.337%"_qs},
-        {u"en_US"_qs, 0.005,   u".500%"_qs},
-        {u"en_US"_qs, -0.005,  u"-.500%"_qs},
-        {u"en_US"_qs, 0.00001, u".001%"_qs},
-        {u"en_US"_qs, 0.01,    u"1.000%"_qs},
-        {u"en_US"_qs, 1,       u"100.000%"_qs},
-        {u"en_US"_qs, 12.5,    u"1250.000%"_qs},
-        {u"es_ES"_qs, 0.065,   u"6,500%"_qs},
-        {u"de_DE"_qs, 0.005,   u",500%"_qs},
-        {u"ar_EG"_qs, 0.065,   u"٦\u066b٥٠٠%"_qs},
-        {u"fa_IR"_qs, 0.065,   u"۶\u066b۵۰۰%"_qs},
+        {u"en_US"_s, 0.065,   u"6.500%"_s},
+        {u"en_US"_s, 0.07337, u"7.337%"_s},
+        {u"en_US"_s, 0.005,   u".500%"_s},
+        {u"en_US"_s, -0.005,  u"-.500%"_s},
+        {u"en_US"_s, 0.00001, u".001%"_s},
+        {u"en_US"_s, 0.01,    u"1.000%"_s},
+        {u"en_US"_s, 1,       u"100.000%"_s},
+        {u"en_US"_s, 12.5,    u"1250.000%"_s},
+        {u"es_ES"_s, 0.065,   u"6,500%"_s},
+        {u"de_DE"_s, 0.005,   u",500%"_s},
+        {u"ar_EG"_s, 0.065,   u"٦\u066b٥٠٠%"_s},
+        {u"fa_IR"_s, 0.065,   u"۶\u066b۵۰۰%"_s},
     };
     // clang-format on
     for (const auto& [locale, value, text] : cases) {
@@ -221,14 +223,14 @@ struct TextCase {
 TEST(DisplayFormats, ShortDateFollowsTheLocale) {
     // clang-format off
     const std::vector<TextCase> cases{
-        {u"en_US"_qs, u"3/9/2056"_qs},
-        {u"es_MX"_qs, u"09/03/2056"_qs},
-        {u"es_ES"_qs, u"9/3/2056"_qs},
-        {u"de_DE"_qs, u"09.03.2056"_qs},
-        {u"C"_qs,     u"9 Mar 2056"_qs},
-        {u"ar_EG"_qs, u"٩/٣/٢٠٥٦"_qs},
-        {u"sv_SE"_qs, u"2056-03-09"_qs},
-        {u"ja_JP"_qs, u"2056/03/09"_qs},
+        {u"en_US"_s, u"3/9/2056"_s},
+        {u"es_MX"_s, u"09/03/2056"_s},
+        {u"es_ES"_s, u"9/3/2056"_s},
+        {u"de_DE"_s, u"09.03.2056"_s},
+        {u"C"_s,     u"9 Mar 2056"_s},
+        {u"ar_EG"_s, u"٩/٣/٢٠٥٦"_s},
+        {u"sv_SE"_s, u"2056-03-09"_s},
+        {u"ja_JP"_s, u"2056/03/09"_s},
     };
     // clang-format on
     for (const auto& [locale, text] : cases) {

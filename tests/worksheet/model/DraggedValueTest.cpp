@@ -8,6 +8,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 using enum FieldId;
 
 namespace {
@@ -67,14 +69,14 @@ TEST(DraggedValue, TravelsAsThisText) {
             } else {
                 offer.SetActualPayment(Money::FromDouble(row.value));
             }
-            EXPECT_EQ(DraggedText(sheet.worksheet, {row.field, Third}, u"shown"_qs), text);
+            EXPECT_EQ(DraggedText(sheet.worksheet, {row.field, Third}, u"shown"_s), text);
         }
     }
 }
 
 TEST(DraggedValue, LenderTravelsAsItsFieldShowsIt) {
     const Sheet sheet;
-    EXPECT_EQ(DraggedText(sheet.worksheet, {Who, First}, u" Bank, 5% "_qs), u" Bank, 5% "_qs);
+    EXPECT_EQ(DraggedText(sheet.worksheet, {Who, First}, u" Bank, 5% "_s), u" Bank, 5% "_s);
     EXPECT_EQ(DraggedText(sheet.worksheet, {Who, First}, QString()), QString());
 }
 
@@ -127,8 +129,8 @@ TEST(DraggedValue, MayArriveWhereItsFormFits) {
 
 TEST(DraggedValue, DecimalSymbolIsTheUsers) {
     const Sheet sheet(Germany);
-    EXPECT_TRUE(MayDrop(sheet.worksheet, Points, u"1,5"_qs));
-    EXPECT_FALSE(MayDrop(sheet.worksheet, Points, u"1.5"_qs));
+    EXPECT_TRUE(MayDrop(sheet.worksheet, Points, u"1,5"_s));
+    EXPECT_FALSE(MayDrop(sheet.worksheet, Points, u"1.5"_s));
 }
 
 enum class Fault { None, Conversion, Overflow };
@@ -168,10 +170,10 @@ TEST(DraggedValue, IsReadAsThisValue) {
         {InterestRate,  u".",                     Fault::Conversion, {}},
         {ActualPayment, u"+",                     Fault::Conversion, {}},
         {ActualPayment, u"",                      Fault::Conversion, {}},
-        {Who,           u"-",                     Fault::None,       u"-"_qs},
-        {Who,           u"",                      Fault::None,       u""_qs},
-        {Who,           u" Old  Mill ",           Fault::None,       u" Old  Mill "_qs},
-        {Who,           u"Old Mill\r\nRoom 5\n\rEast",  Fault::None,  u"Old Mill\r\nRoom 5\r\n\r\nEast"_qs},
+        {Who,           u"-",                     Fault::None,       u"-"_s},
+        {Who,           u"",                      Fault::None,       u""_s},
+        {Who,           u" Old  Mill ",           Fault::None,       u" Old  Mill "_s},
+        {Who,           u"Old Mill\r\nRoom 5\n\rEast",  Fault::None,  u"Old Mill\r\nRoom 5\r\n\r\nEast"_s},
     };
     // clang-format on
     for (const IsRead& row : table) {
@@ -189,7 +191,7 @@ struct Filled : Sheet {
         for (const Row row : {First, Third}) {
             CLoan& offer = worksheet.OfferOfRow(row);
             offer.SetTerm(360);
-            offer.SetFrequencyCode(u"M"_qs);
+            offer.SetFrequencyCode(u"M"_s);
             offer.SetInterestRate(0.06);
             worksheet.ShowOffer(row);
         }
@@ -206,7 +208,7 @@ TEST(DraggedValue, PointsAreStoredAndTheRowCalculated) {
     EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).Points(), 1.5);
     EXPECT_EQ(sheet.worksheet.OfferOfRow(First).Points(), 0);
     EXPECT_TRUE(sheet.worksheet.Dirty());
-    EXPECT_EQ(sheet.display.TextOf({Points, Third}), u"1.500"_qs);
+    EXPECT_EQ(sheet.display.TextOf({Points, Third}), u"1.500"_s);
     EXPECT_EQ(sheet.display.TextsInOrder(), (Shown{{Points, Third},
                                                    {PandI, Third},
                                                    {Payment, Third},
@@ -219,15 +221,15 @@ TEST(DraggedValue, RateIsStoredAsTheFractionItIs) {
     StoreDropped(sheet.worksheet, {InterestRate, Third}, 0.065);
     EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).InterestRate(), 0.065);
     EXPECT_TRUE(sheet.worksheet.Dirty());
-    EXPECT_EQ(sheet.display.TextOf({InterestRate, Third}), u"6.500%"_qs);
-    EXPECT_EQ(sheet.display.TextOf({PandI, Third}), u"$632.07"_qs);
+    EXPECT_EQ(sheet.display.TextOf({InterestRate, Third}), u"6.500%"_s);
+    EXPECT_EQ(sheet.display.TextOf({PandI, Third}), u"$632.07"_s);
 }
 
 TEST(DraggedValue, RateBringsTheDefaultTerm) {
     Sheet sheet;
     sheet.worksheet.SetLoanTerm(180);
     StoreDropped(sheet.worksheet, {InterestRate, First}, 0.065);
-    EXPECT_EQ(sheet.display.TextOf({Term, First}), u"15"_qs);
+    EXPECT_EQ(sheet.display.TextOf({Term, First}), u"15"_s);
 }
 
 TEST(DraggedValue, PaymentIsStoredWithoutAFullCalculation) {
@@ -235,7 +237,7 @@ TEST(DraggedValue, PaymentIsStoredWithoutAFullCalculation) {
     StoreDropped(sheet.worksheet, {ActualPayment, Third}, Money::FromDouble(700));
     EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).ActualPayment(), Money::FromDouble(700));
     EXPECT_TRUE(sheet.worksheet.Dirty());
-    EXPECT_EQ(sheet.display.TextOf({ActualPayment, Third}), u"$700.00"_qs);
+    EXPECT_EQ(sheet.display.TextOf({ActualPayment, Third}), u"$700.00"_s);
     EXPECT_EQ(sheet.display.TextsInOrder(),
               (Shown{{ActualPayment, Third}, {PayoffDate, Third}, {Interest, Third}}));
 }
@@ -243,14 +245,14 @@ TEST(DraggedValue, PaymentIsStoredWithoutAFullCalculation) {
 TEST(DraggedValue, PaymentThatIsTooLowIsRefusedAsWhenTyped) {
     Filled sheet;
     StoreDropped(sheet.worksheet, {ActualPayment, Third}, Money::FromDouble(100));
-    EXPECT_EQ(sheet.display.TextOf({ActualPayment, Third}), u"$599.55"_qs);
+    EXPECT_EQ(sheet.display.TextOf({ActualPayment, Third}), u"$599.55"_s);
     EXPECT_EQ(sheet.display.PaymentsRefused(), 1);
 }
 
 TEST(DraggedValue, LenderIsStoredAlone) {
     Filled sheet;
-    StoreDropped(sheet.worksheet, {Who, Third}, u"Old Mill"_qs);
-    EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).Who(), u"Old Mill"_qs);
+    StoreDropped(sheet.worksheet, {Who, Third}, u"Old Mill"_s);
+    EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).Who(), u"Old Mill"_s);
     EXPECT_TRUE(sheet.worksheet.Dirty());
     EXPECT_EQ(sheet.display.TextsInOrder(), (Shown{{Who, Third}}));
 }

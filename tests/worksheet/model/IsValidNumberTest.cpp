@@ -6,6 +6,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Case {
@@ -17,73 +19,73 @@ struct Case {
 // clang-format off
 const std::vector<Case> Forms{
     // text                        decimals  accepted
-    {u""_qs,                       0,        true}, // stands for zero
-    {u""_qs,                       2,        true},
-    {u"0"_qs,                      0,        true},
-    {u"0123456789"_qs,             0,        true},
-    {u"9"_qs.repeated(400),        0,        true}, // no limit of size
-    {u"12345678.9"_qs,             2,        true}, // nor of length
+    {u""_s,                       0,        true}, // stands for zero
+    {u""_s,                       2,        true},
+    {u"0"_s,                      0,        true},
+    {u"0123456789"_s,             0,        true},
+    {u"9"_s.repeated(400),        0,        true}, // no limit of size
+    {u"12345678.9"_s,             2,        true}, // nor of length
     // decimals
-    {u"1234.56"_qs,                2,        true},
-    {u"1234.567"_qs,               2,        false}, // one decimal too many
-    {u"1234.567"_qs,               3,        true},
-    {u"1234.5678"_qs,              3,        false},
-    {u"1.0000"_qs,                 3,        false}, // zeros count
-    {u"1.2"_qs,                    1,        true},
-    {u"1.23"_qs,                   1,        false},
+    {u"1234.56"_s,                2,        true},
+    {u"1234.567"_s,               2,        false}, // one decimal too many
+    {u"1234.567"_s,               3,        true},
+    {u"1234.5678"_s,              3,        false},
+    {u"1.0000"_s,                 3,        false}, // zeros count
+    {u"1.2"_s,                    1,        true},
+    {u"1.23"_s,                   1,        false},
     // the decimal symbol
-    {u"5."_qs,                     2,        true},
-    {u".5"_qs,                     2,        true},
-    {u"."_qs,                      2,        true},
-    {u"5."_qs,                     0,        false}, // forbidden without decimals, even at the end
-    {u"."_qs,                      0,        false},
-    {u"30.5"_qs,                   0,        false},
-    {u"30.5"_qs,                   3,        true},
-    {u"5."_qs,                     -1,       false},
-    {u"5"_qs,                      -1,       true},
-    {u"1.2.3"_qs,                  2,        false},
-    {u"1.2.3"_qs,                  3,        false},
-    {u".."_qs,                     3,        false},
-    {u"1.."_qs,                    3,        false},
+    {u"5."_s,                     2,        true},
+    {u".5"_s,                     2,        true},
+    {u"."_s,                      2,        true},
+    {u"5."_s,                     0,        false}, // forbidden without decimals, even at the end
+    {u"."_s,                      0,        false},
+    {u"30.5"_s,                   0,        false},
+    {u"30.5"_s,                   3,        true},
+    {u"5."_s,                     -1,       false},
+    {u"5"_s,                      -1,       true},
+    {u"1.2.3"_s,                  2,        false},
+    {u"1.2.3"_s,                  3,        false},
+    {u".."_s,                     3,        false},
+    {u"1.."_s,                    3,        false},
     // signs
-    {u"-5"_qs,                     0,        true},
-    {u"+5"_qs,                     0,        true},
-    {u"-"_qs,                      0,        true},
-    {u"+"_qs,                      2,        true},
-    {u"-0"_qs,                     0,        true},
-    {u"+.5"_qs,                    2,        true},
-    {u"-.5"_qs,                    1,        true},
-    {u"-."_qs,                     2,        true},
-    {u"5-"_qs,                     2,        false}, // a sign stands first or nowhere
-    {u"5+"_qs,                     2,        false},
-    {u"--5"_qs,                    2,        false},
-    {u"+-5"_qs,                    2,        false},
-    {u".-5"_qs,                    2,        false},
-    {u"1-2"_qs,                    0,        false},
+    {u"-5"_s,                     0,        true},
+    {u"+5"_s,                     0,        true},
+    {u"-"_s,                      0,        true},
+    {u"+"_s,                      2,        true},
+    {u"-0"_s,                     0,        true},
+    {u"+.5"_s,                    2,        true},
+    {u"-.5"_s,                    1,        true},
+    {u"-."_s,                     2,        true},
+    {u"5-"_s,                     2,        false}, // a sign stands first or nowhere
+    {u"5+"_s,                     2,        false},
+    {u"--5"_s,                    2,        false},
+    {u"+-5"_s,                    2,        false},
+    {u".-5"_s,                    2,        false},
+    {u"1-2"_s,                    0,        false},
     // anything else
-    {u"1,234.56"_qs,               2,        false}, // grouping
-    {u"1,5"_qs,                    3,        false}, // another country's symbol
-    {u" 5"_qs,                     2,        false},
-    {u"5 "_qs,                     2,        false},
-    {u" "_qs,                      2,        false},
-    {u"1 000"_qs,                  2,        false},
-    {u"1\u00a0000"_qs,             2,        false},
-    {u"$5"_qs,                     2,        false},
-    {u"5%"_qs,                     3,        false},
-    {u"(5)"_qs,                    2,        false},
-    {u"1e3"_qs,                    3,        false},
-    {u"0x10"_qs,                   2,        false},
-    {u"nan"_qs,                    3,        false},
-    {u"inf"_qs,                    3,        false},
-    {u"five"_qs,                   2,        false},
-    {u"\u0665"_qs,                 2,        false}, // a digit, but not 0 to 9
-    {u"\uff15"_qs,                 2,        false},
-    {u"\u22125"_qs,                2,        false}, // a minus sign, but not "-"
-    {u"5\n"_qs,                    2,        false},
-    {u"5\t"_qs,                    2,        false},
+    {u"1,234.56"_s,               2,        false}, // grouping
+    {u"1,5"_s,                    3,        false}, // another country's symbol
+    {u" 5"_s,                     2,        false},
+    {u"5 "_s,                     2,        false},
+    {u" "_s,                      2,        false},
+    {u"1 000"_s,                  2,        false},
+    {u"1\u00a0000"_s,             2,        false},
+    {u"$5"_s,                     2,        false},
+    {u"5%"_s,                     3,        false},
+    {u"(5)"_s,                    2,        false},
+    {u"1e3"_s,                    3,        false},
+    {u"0x10"_s,                   2,        false},
+    {u"nan"_s,                    3,        false},
+    {u"inf"_s,                    3,        false},
+    {u"five"_s,                   2,        false},
+    {u"\u0665"_s,                 2,        false}, // a digit, but not 0 to 9
+    {u"\uff15"_s,                 2,        false},
+    {u"\u22125"_s,                2,        false}, // a minus sign, but not "-"
+    {u"5\n"_s,                    2,        false},
+    {u"5\t"_s,                    2,        false},
     {QString(u'5') + QChar(u'\0'), 2,        false},
-    {u"5/"_qs,                     2,        false}, // the neighbours of the digits
-    {u"5:"_qs,                     2,        false},
+    {u"5/"_s,                     2,        false}, // the neighbours of the digits
+    {u"5:"_s,                     2,        false},
 };
 // clang-format on
 
@@ -99,14 +101,14 @@ TEST(IsValidNumber, FollowsTheDecimalSymbol) {
     // clang-format off
     const std::vector<Case> cases{
         // text         decimals  accepted
-        {u"6,5"_qs,     3,        true},
-        {u"6.5"_qs,     3,        false},
-        {u"6,5"_qs,     0,        false},
-        {u"6,5678"_qs,  3,        false},
-        {u"1,2,3"_qs,   3,        false},
-        {u"1.234,5"_qs, 3,        false},
-        {u","_qs,       2,        true},
-        {u"."_qs,       2,        false},
+        {u"6,5"_s,     3,        true},
+        {u"6.5"_s,     3,        false},
+        {u"6,5"_s,     0,        false},
+        {u"6,5678"_s,  3,        false},
+        {u"1,2,3"_s,   3,        false},
+        {u"1.234,5"_s, 3,        false},
+        {u","_s,       2,        true},
+        {u"."_s,       2,        false},
     };
     // clang-format on
     for (const QChar symbol : {QChar(u','), QChar(u'\u066b')}) {

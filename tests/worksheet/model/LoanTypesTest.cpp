@@ -7,6 +7,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Case {
@@ -18,12 +20,12 @@ struct Case {
 const std::vector<Case>& Types() {
     // clang-format off
     static const std::vector<Case> types{
-        {u"A"_qs, u"Auto"_qs,               u"Automóvil"_qs},
-        {u"B"_qs, u"Business"_qs,           u"Negocio"_qs},
-        {u"C"_qs, u"Construction"_qs,       u"Construcción"_qs},
-        {u"D"_qs, u"Debt consolidation"_qs, u"Consolidación de deudas"_qs},
-        {u"H"_qs, u"Home equity"_qs,        u"Valor neto de la vivienda"_qs},
-        {u"M"_qs, u"Mortgage"_qs,           u"Hipoteca"_qs},
+        {u"A"_s, u"Auto"_s,               u"Automóvil"_s},
+        {u"B"_s, u"Business"_s,           u"Negocio"_s},
+        {u"C"_s, u"Construction"_s,       u"Construcción"_s},
+        {u"D"_s, u"Debt consolidation"_s, u"Consolidación de deudas"_s},
+        {u"H"_s, u"Home equity"_s,        u"Valor neto de la vivienda"_s},
+        {u"M"_s, u"Mortgage"_s,           u"Hipoteca"_s},
     };
     // clang-format on
     return types;
@@ -31,7 +33,7 @@ const std::vector<Case>& Types() {
 
 class LoanTypesTest : public testing::Test {
 protected:
-    LoanTypesTest() { Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), u"Loan"_qs); }
+    LoanTypesTest() { Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), u"Loan"_s); }
 };
 
 TEST_F(LoanTypesTest, AreTextsOfTheLanguageInUse) {
@@ -49,23 +51,22 @@ TEST_F(LoanTypesTest, AreTextsOfTheLanguageInUse) {
 }
 
 TEST_F(LoanTypesTest, UnknownOnesAreEmpty) {
-    for (const QString& code :
-         {u""_qs, u"Z"_qs, u"m"_qs, u"MM"_qs, u" M"_qs, u"Mortgage"_qs, u"10"_qs}) {
+    for (const QString& code : {u""_s, u"Z"_s, u"m"_s, u"MM"_s, u" M"_s, u"Mortgage"_s, u"10"_s}) {
         EXPECT_EQ(LoanTypeCodeToText(code), QString()) << code.toStdString();
     }
     for (const QString& text :
-         {u""_qs, u"M"_qs, u"mortgage"_qs, u"Mortgage "_qs, u"Mort"_qs, u"Monthly"_qs}) {
+         {u""_s, u"M"_s, u"mortgage"_s, u"Mortgage "_s, u"Mort"_s, u"Monthly"_s}) {
         EXPECT_EQ(LoanTypeTextToCode(text), QString()) << text.toStdString();
     }
 }
 
 TEST_F(LoanTypesTest, AreOfferedInOneOrder) {
     EXPECT_EQ(LoanTypeTexts(),
-              QStringList({u"Mortgage"_qs, u"Auto"_qs, u"Business"_qs, u"Construction"_qs,
-                           u"Home equity"_qs, u"Debt consolidation"_qs}));
+              QStringList({u"Mortgage"_s, u"Auto"_s, u"Business"_s, u"Construction"_s,
+                           u"Home equity"_s, u"Debt consolidation"_s}));
     Language::Instance().LoadLanguage(2);
-    EXPECT_EQ(LoanTypeTexts().front(), u"Hipoteca"_qs);
-    EXPECT_EQ(LoanTypeTexts().back(), u"Consolidación de deudas"_qs);
+    EXPECT_EQ(LoanTypeTexts().front(), u"Hipoteca"_s);
+    EXPECT_EQ(LoanTypeTexts().back(), u"Consolidación de deudas"_s);
 }
 
 } // namespace

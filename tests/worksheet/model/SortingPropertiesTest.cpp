@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::vector<std::size_t> RowsOf(const OfferOrder& order, std::size_t count) {
@@ -94,12 +96,12 @@ protected:
         case 0:
             return;
         case 1:
-            return offer.SetWho(u"Bank"_qs);
+            return offer.SetWho(u"Bank"_s);
         default:
             offer.SetStartingAmount(Units(10'000));
             offer.SetTerm(12 * random.Int(1, 3));
             offer.SetInterestRate(random.Int(4, 6) / 100.0);
-            offer.SetFrequencyCode(random.OneIn(2) ? u"M"_qs : u"B"_qs);
+            offer.SetFrequencyCode(random.OneIn(2) ? u"M"_s : u"B"_s);
             offer.Payment();
             offer.PayoffDate();
         }

@@ -5,6 +5,8 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr Row Top{0};
@@ -68,16 +70,16 @@ struct KeyCase {
 // clang-format off
 const std::vector<KeyCase> LoneEntries{
     //what        field                    text            counts as an entry
-    {"nothing",   FieldId::Points,         u""_qs,         false},
-    {"points",    FieldId::Points,         u"1.5"_qs,      true},
-    {"term",      FieldId::Term,           u"360"_qs,      true},
-    {"intended",  FieldId::ActualPayment,  u"500"_qs,      true},
-    {"below",     FieldId::ActualPayment,  u"-5"_qs,       true},
-    {"lender",    FieldId::Who,            u"Bank"_qs,     true},
-    {"blank",     FieldId::Who,            u" "_qs,        true},
-    {"rate",      FieldId::InterestRate,   u"6"_qs,        false},
-    {"frequency", FieldId::Frequency,      u"Monthly"_qs,  false},
-    {"tick",      FieldId::FinancePoints,  u""_qs,         false},
+    {"nothing",   FieldId::Points,         u""_s,         false},
+    {"points",    FieldId::Points,         u"1.5"_s,      true},
+    {"term",      FieldId::Term,           u"360"_s,      true},
+    {"intended",  FieldId::ActualPayment,  u"500"_s,      true},
+    {"below",     FieldId::ActualPayment,  u"-5"_s,       true},
+    {"lender",    FieldId::Who,            u"Bank"_s,     true},
+    {"blank",     FieldId::Who,            u" "_s,        true},
+    {"rate",      FieldId::InterestRate,   u"6"_s,        false},
+    {"frequency", FieldId::Frequency,      u"Monthly"_s,  false},
+    {"tick",      FieldId::FinancePoints,  u""_s,         false},
 };
 // clang-format on
 
@@ -98,7 +100,7 @@ TEST_F(SortingTest, KeysOfOffersWithAResultAreTheResults) {
     CLoan& offer = m_worksheet.OfferOfRow(Top);
     EXPECT_EQ(PayoffDateKey(offer), Date::FromCalendar(2056, 3, 10));
     EXPECT_EQ(InterestKey(offer), offer.Interest());
-    EXPECT_EQ(TextOf({FieldId::Interest, Top}), u"$115,838.53"_qs);
+    EXPECT_EQ(TextOf({FieldId::Interest, Top}), u"$115,838.53"_s);
 }
 
 TEST_F(SortingTest, AScheduleWithoutAnEndCountsAsNoDate) {
@@ -126,9 +128,9 @@ TEST_F(SortingTest, PayoffDatesThenPartlyFilledThenBlank) {
     EnterTerms({51, 360, 23, 360});
     m_worksheet.OfferOfRow(Row{1}) = CLoan(m_worksheet);
     m_worksheet.OfferOfRow(Row{3}) = CLoan(m_worksheet);
-    Store({FieldId::InterestRate, Row{1}}, u"6"_qs);
-    EXPECT_EQ(TextOf({FieldId::PayoffDate, Top}), u"5/10/2030"_qs);
-    EXPECT_EQ(TextOf({FieldId::PayoffDate, Row{2}}), u"1/10/2028"_qs);
+    Store({FieldId::InterestRate, Row{1}}, u"6"_s);
+    EXPECT_EQ(TextOf({FieldId::PayoffDate, Top}), u"5/10/2030"_s);
+    EXPECT_EQ(TextOf({FieldId::PayoffDate, Row{2}}), u"1/10/2028"_s);
     m_worksheet.SortByPayoffDate();
     EXPECT_EQ(Rows(), Offers({2, 0, 1, 3}));
     EXPECT_EQ(m_worksheet.Order(), SortOrder::PayoffDate);
@@ -194,7 +196,7 @@ TEST_F(SortingTest, NothingIsChangedOrToldBySorting) {
         EXPECT_EQ(m_display.PaymentsRefused(), 0);
         EXPECT_EQ(Rows(), Offers({2, 0, 1}));
         EXPECT_TRUE(m_worksheet.OfferOfRow(Row{2}).ActualPayment().IsZero());
-        EXPECT_EQ(ResultTexts(Row{2}), (std::vector{u"$599.55"_qs, u"$599.55"_qs, u""_qs, u""_qs}));
+        EXPECT_EQ(ResultTexts(Row{2}), (std::vector{u"$599.55"_s, u"$599.55"_s, u""_s, u""_s}));
     }
 }
 
@@ -217,29 +219,29 @@ TEST_F(SortingTest, EveryRowIsShownInTheOrderOfItsColumns) {
 
 TEST_F(SortingTest, ResultsThatCannotBeComputedStayEmpty) {
     EnterRates({"7", "6"});
-    EXPECT_THROW(Store({FieldId::ActualPayment, Top}, u"-5"_qs), std::exception);
+    EXPECT_THROW(Store({FieldId::ActualPayment, Top}, u"-5"_s), std::exception);
     StartCounting();
     const std::vector before = ResultTexts(Top);
     m_worksheet.SortByPayoffDate();
     EXPECT_NO_THROW(m_worksheet.ShowOffers());
     EXPECT_EQ(Rows(), Offers({1, 0}));
     EXPECT_EQ(ResultTexts(Row{1}), before);
-    EXPECT_EQ(before.back(), u""_qs);
+    EXPECT_EQ(before.back(), u""_s);
     EXPECT_FALSE(m_display.Of({FieldId::PayoffDate, Row{1}}).toolTip);
 }
 
 TEST_F(SortingTest, WhatIsEnteredGoesToTheOfferInTheRow) {
     EnterRates({"7", "6", "5"});
     m_worksheet.SortByInterest();
-    Store({FieldId::Points, Top}, u"1.5"_qs);
-    m_worksheet.StoreWho(Row{1}, u"Middle"_qs);
+    Store({FieldId::Points, Top}, u"1.5"_s);
+    m_worksheet.StoreWho(Row{1}, u"Middle"_s);
     m_worksheet.StoreFinancePoints(Row{2}, true);
-    m_worksheet.StoreChoice({FieldId::Frequency, Top}, u"Every two weeks"_qs);
+    m_worksheet.StoreChoice({FieldId::Frequency, Top}, u"Every two weeks"_s);
     EXPECT_EQ(m_worksheet.Offer({2}).Points(), 1.5);
-    EXPECT_EQ(m_worksheet.Offer({2}).FrequencyCode(), u"W"_qs);
-    EXPECT_EQ(m_worksheet.Offer({1}).Who(), u"Middle"_qs);
+    EXPECT_EQ(m_worksheet.Offer({2}).FrequencyCode(), u"W"_s);
+    EXPECT_EQ(m_worksheet.Offer({1}).Who(), u"Middle"_s);
     EXPECT_TRUE(m_worksheet.Offer({0}).FinancePoints());
-    Store({FieldId::InterestRate, Top}, u"9"_qs);
+    Store({FieldId::InterestRate, Top}, u"9"_s);
     EXPECT_EQ(Rows(), Offers({2, 1, 0})) << "an edit does not sort again";
 }
 
@@ -248,8 +250,8 @@ TEST_F(SortingTest, ARowAddedAfterASortShowsItsOwnOffer) {
     m_worksheet.SortByInterest();
     m_worksheet.GrowOfferArrays(Row{2}, Row{4});
     EXPECT_EQ(Rows(), Offers({2, 1, 0, 3, 4}));
-    m_worksheet.StoreWho(Row{3}, u"New"_qs);
-    EXPECT_EQ(m_worksheet.Offer({3}).Who(), u"New"_qs);
+    m_worksheet.StoreWho(Row{3}, u"New"_s);
+    EXPECT_EQ(m_worksheet.Offer({3}).Who(), u"New"_s);
     m_worksheet.SortByPayoffDate();
     EXPECT_EQ(Rows(), Offers({2, 0, 1, 3, 4})) << "a month apart, by the cents of their payments";
 }
@@ -267,7 +269,7 @@ TEST_F(SortingTest, ClearingBringsTheOrderOfEntryBack) {
 TEST_F(SortingTest, MarksOfRaisedPaymentsGoWithTheirOffers) {
     EnterRates({"7", "6"});
     m_worksheet.ClearRaisedMarks();
-    Store({FieldId::ActualPayment, Top}, u"1"_qs);
+    Store({FieldId::ActualPayment, Top}, u"1"_s);
     const auto markOf = [&](int row) {
         return m_display.Of({FieldId::ActualPayment, Row{row}}).mark;
     };
@@ -284,7 +286,7 @@ TEST_F(SortingTest, MarksOfRaisedPaymentsGoWithTheirOffers) {
 TEST_F(SortingTest, MarksAreTakenFromEveryRow) {
     EnterRates({"7", "6", "5"});
     for (Row row{0}; row <= Row{2}; ++row.value) {
-        Store({FieldId::ActualPayment, row}, u"1"_qs);
+        Store({FieldId::ActualPayment, row}, u"1"_s);
         EXPECT_EQ(m_display.Of({FieldId::ActualPayment, row}).mark, Mark::Raised);
     }
     m_worksheet.ClearRaisedMarks();

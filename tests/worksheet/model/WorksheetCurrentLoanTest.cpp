@@ -1,5 +1,7 @@
 #include "WorksheetTest.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using WorksheetCurrentLoanTest = WorksheetTest;
@@ -19,15 +21,15 @@ TEST_F(WorksheetCurrentLoanTest, MarksWhatIsMissingAndIsMonthlyUnlessToldOtherwi
     // clang-format off
     const std::vector<MarkCase> cases{
         // amount  term  rate  amount    term     rate     frequency (entered, marked, chosen)
-        {0,        0,    0,    None,     None,    None,    u""_qs}, // no loan at all
-        {0,        0,    0.06, Missing,  Missing, None,    u"Monthly"_qs},
-        {0,        360,  0,    Missing,  None,    Missing, u"Monthly"_qs},
-        {0,        360,  0.06, Missing,  None,    None,    u"Monthly"_qs},
-        {120'000,  0,    0,    None,     Missing, Missing, u"Monthly"_qs},
-        {120'000,  0,    0.06, None,     Missing, None,    u"Monthly"_qs},
-        {120'000,  360,  0,    None,     None,    Missing, u"Monthly"_qs},
-        {120'000,  360,  0.06, None,     None,    None,    u"Monthly"_qs},
-        {0,        0,    0,    None,     None,    None,    u""_qs}, // the marks go again
+        {0,        0,    0,    None,     None,    None,    u""_s}, // no loan at all
+        {0,        0,    0.06, Missing,  Missing, None,    u"Monthly"_s},
+        {0,        360,  0,    Missing,  None,    Missing, u"Monthly"_s},
+        {0,        360,  0.06, Missing,  None,    None,    u"Monthly"_s},
+        {120'000,  0,    0,    None,     Missing, Missing, u"Monthly"_s},
+        {120'000,  0,    0.06, None,     Missing, None,    u"Monthly"_s},
+        {120'000,  360,  0,    None,     None,    Missing, u"Monthly"_s},
+        {120'000,  360,  0.06, None,     None,    None,    u"Monthly"_s},
+        {0,        0,    0,    None,     None,    None,    u""_s}, // the marks go again
     };
     // clang-format on
     for (const MarkCase& c : cases) {
@@ -35,7 +37,7 @@ TEST_F(WorksheetCurrentLoanTest, MarksWhatIsMissingAndIsMonthlyUnlessToldOtherwi
         m_worksheet.SetCurrentLoanAmount(Units(c.amount));
         m_worksheet.SetCurrentTerm(c.term);
         m_worksheet.SetCurrentInterestRate(c.rate);
-        m_worksheet.SetCurrentFrequency(u""_qs);
+        m_worksheet.SetCurrentFrequency(u""_s);
         m_worksheet.RecalculateCurrentPayment();
         EXPECT_EQ(m_display.Of({FieldId::CurLoanAmount}).mark, c.amountMark);
         EXPECT_EQ(m_display.Of({FieldId::CurLoanTerm}).mark, c.termMark);
@@ -43,24 +45,24 @@ TEST_F(WorksheetCurrentLoanTest, MarksWhatIsMissingAndIsMonthlyUnlessToldOtherwi
         EXPECT_EQ(m_worksheet.CurrentFrequency(), c.frequency);
         EXPECT_EQ(TextOf({FieldId::CurPaymentFrequency}), c.frequency);
 
-        m_worksheet.SetCurrentFrequency(u"Every two weeks"_qs);
+        m_worksheet.SetCurrentFrequency(u"Every two weeks"_s);
         m_worksheet.RecalculateCurrentPayment();
-        EXPECT_EQ(m_worksheet.CurrentFrequency(), u"Every two weeks"_qs);
+        EXPECT_EQ(m_worksheet.CurrentFrequency(), u"Every two weeks"_s);
     }
 }
 
 TEST_F(WorksheetCurrentLoanTest, ARateAloneMarksTheOthersAndAllThreeShowThePayment) {
-    Store({FieldId::CurInterestRate}, u"6.5"_qs);
+    Store({FieldId::CurInterestRate}, u"6.5"_s);
     EXPECT_EQ(m_display.Of({FieldId::CurLoanAmount}).mark, Mark::Missing);
     EXPECT_EQ(m_display.Of({FieldId::CurLoanTerm}).mark, Mark::Missing);
-    EXPECT_EQ(TextOf({FieldId::CurPaymentFrequency}), u"Monthly"_qs);
+    EXPECT_EQ(TextOf({FieldId::CurPaymentFrequency}), u"Monthly"_s);
     EXPECT_EQ(TextOf({FieldId::CurPayment}), QString());
-    Store({FieldId::CurLoanAmount}, u"120000"_qs);
-    Store({FieldId::CurLoanTerm}, u"360"_qs);
+    Store({FieldId::CurLoanAmount}, u"120000"_s);
+    Store({FieldId::CurLoanTerm}, u"360"_s);
     EXPECT_EQ(m_display.Of({FieldId::CurLoanAmount}).mark, Mark::None);
     EXPECT_EQ(m_display.Of({FieldId::CurLoanTerm}).mark, Mark::None);
-    EXPECT_EQ(TextOf({FieldId::CurPayment}), u"$758.48"_qs);
-    Store({FieldId::CurInterestRate}, u""_qs);
+    EXPECT_EQ(TextOf({FieldId::CurPayment}), u"$758.48"_s);
+    Store({FieldId::CurInterestRate}, u""_s);
     EXPECT_EQ(m_display.Of({FieldId::CurInterestRate}).mark, Mark::Missing);
 }
 
@@ -74,12 +76,12 @@ TEST_F(WorksheetCurrentLoanTest, AnIncompleteLoanHasNoPayment) {
         for (const FieldId entered :
              {FieldId::CurLoanAmount, FieldId::CurLoanTerm, FieldId::CurInterestRate}) {
             if (entered != missing) {
-                sheet.StoreNumber({entered}, u"6"_qs);
+                sheet.StoreNumber({entered}, u"6"_s);
             }
         }
         EXPECT_EQ(display.TextOf({FieldId::CurPayment}), QString());
         EXPECT_EQ(sheet.CurrentPayment(), Money());
-        sheet.StoreNumber({missing}, u"6"_qs);
+        sheet.StoreNumber({missing}, u"6"_s);
         EXPECT_NE(display.TextOf({FieldId::CurPayment}), QString());
         sheet.StoreNumber({missing}, QString());
         EXPECT_EQ(display.TextOf({FieldId::CurPayment}), QString()) << "no longer complete";
@@ -98,10 +100,10 @@ TEST_F(WorksheetCurrentLoanTest, ThePaymentCarriesTheWholeEscrowWhateverTheFrequ
     // clang-format off
     const std::vector<PaymentCase> cases{
         // frequency          taxes  p and i  payment
-        {u"Monthly"_qs,       0,     758.48,  u"$758.48"_qs},
-        {u"Twice a month"_qs, 0,     379.07,  u"$379.07"_qs},
-        {u"Monthly"_qs,       2700,  758.48,  u"$983.48"_qs},
-        {u"Twice a month"_qs, 2700,  379.07,  u"$604.07"_qs}, // 225.00, not half of it
+        {u"Monthly"_s,       0,     758.48,  u"$758.48"_s},
+        {u"Twice a month"_s, 0,     379.07,  u"$379.07"_s},
+        {u"Monthly"_s,       2700,  758.48,  u"$983.48"_s},
+        {u"Twice a month"_s, 2700,  379.07,  u"$604.07"_s}, // 225.00, not half of it
     };
     // clang-format on
     EnterCurrentLoan();
@@ -119,7 +121,7 @@ TEST_F(WorksheetCurrentLoanTest, ThePaymentCarriesTheWholeEscrowWhateverTheFrequ
 
 TEST_F(WorksheetCurrentLoanTest, AComputedPaymentThatChangesIsSaved) {
     EnterCurrentLoan();
-    m_worksheet.SetCurrentFrequency(u"Twice a month"_qs);
+    m_worksheet.SetCurrentFrequency(u"Twice a month"_s);
     StartCounting();
     m_worksheet.RecalculateCurrentPayment();
     EXPECT_TRUE(m_worksheet.Dirty());
@@ -143,14 +145,14 @@ TEST_F(WorksheetCurrentLoanTest, TheScheduleStartsAtTheNextPayment) {
     // clang-format off
     const std::vector<ScheduleCase> cases{
         // balance  payment  frequency               taxes  payoff           left         interest
-        {10'000,    1'000,   u"Monthly"_qs,          0,     u"1/1/2027"_qs,  10'284.7917, 284.7917},
-        {10'000,    1'000,   u"Monthly"_qs,          2700,  u"4/1/2027"_qs,  13'513.4358, 363.4358},
-        {10'000,    1'000,   u"Twice a month"_qs,    2700,  u"8/15/2026"_qs, 11'506.495,  156.495},
-        {10'000,    1'000,   u"Every two weeks"_qs,  2700,  u"8/2/2026"_qs,  11'493.8448, 143.8448},
-        {10'000,    1'000,   u"Every four weeks"_qs, 2700,  u"2/28/2027"_qs, 13'483.3607, 333.3607},
-        {10'000,    1'000,   u""_qs,                 2700,  u"3/1/2026"_qs,  11'350,      0},
-        {0,         1'000,   u"Monthly"_qs,          2700,  u""_qs,          0,           0},
-        {10'000,    0,       u"Monthly"_qs,          2700,  u""_qs,          0,           0},
+        {10'000,    1'000,   u"Monthly"_s,          0,     u"1/1/2027"_s,  10'284.7917, 284.7917},
+        {10'000,    1'000,   u"Monthly"_s,          2700,  u"4/1/2027"_s,  13'513.4358, 363.4358},
+        {10'000,    1'000,   u"Twice a month"_s,    2700,  u"8/15/2026"_s, 11'506.495,  156.495},
+        {10'000,    1'000,   u"Every two weeks"_s,  2700,  u"8/2/2026"_s,  11'493.8448, 143.8448},
+        {10'000,    1'000,   u"Every four weeks"_s, 2700,  u"2/28/2027"_s, 13'483.3607, 333.3607},
+        {10'000,    1'000,   u""_s,                 2700,  u"3/1/2026"_s,  11'350,      0},
+        {0,         1'000,   u"Monthly"_s,          2700,  u""_s,          0,           0},
+        {10'000,    0,       u"Monthly"_s,          2700,  u""_s,          0,           0},
     };
     // clang-format on
     EnterCurrentLoan();
@@ -178,15 +180,15 @@ TEST_F(WorksheetCurrentLoanTest, TheScheduleFollowsWhatItDependsOn) {
     EnterCurrentLoan();
     m_worksheet.SetCurrentInterestRate(0.06);
     EXPECT_EQ(m_worksheet.CurrentPayoffDate(), Date::FromCalendar(2027, 1, 1));
-    EXPECT_EQ(TextOf({FieldId::CurAmountLeft}), u"$10,284.79"_qs);
-    EXPECT_EQ(TextOf({FieldId::CurInterestLeft}), u"$284.79"_qs);
+    EXPECT_EQ(TextOf({FieldId::CurAmountLeft}), u"$10,284.79"_s);
+    EXPECT_EQ(TextOf({FieldId::CurInterestLeft}), u"$284.79"_s);
     m_worksheet.SetCurrentNextPayment(Date::FromCalendar(2026, 4, 15));
-    EXPECT_EQ(TextOf({FieldId::CurPayoffDate}), u"2/15/2027"_qs);
+    EXPECT_EQ(TextOf({FieldId::CurPayoffDate}), u"2/15/2027"_s);
     m_worksheet.SetCurrentInterestRate(0);
     EXPECT_EQ(TextOf({FieldId::CurInterestLeft}), QString());
-    EXPECT_EQ(TextOf({FieldId::CurAmountLeft}), u"$10,000.00"_qs);
+    EXPECT_EQ(TextOf({FieldId::CurAmountLeft}), u"$10,000.00"_s);
     m_worksheet.SetCurrentBalance(Units(2'000));
-    EXPECT_EQ(TextOf({FieldId::CurPayoffDate}), u"6/15/2026"_qs); // the second clears it exactly
+    EXPECT_EQ(TextOf({FieldId::CurPayoffDate}), u"6/15/2026"_s); // the second clears it exactly
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "Failure.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr Row Row1{1};
@@ -36,16 +38,16 @@ struct UnreadableCase {
 TEST_F(WorksheetFailureTest, WhatCannotBeReadChangesNothing) {
     // clang-format off
     const std::vector<UnreadableCase> cases{
-        {{FieldId::LoanAmount},          u"-"_qs,                  false},
-        {{FieldId::LoanAmount},          u"922337203685477.59"_qs, true},
-        {{FieldId::LoanTerm},            u"2147483648"_qs,         true},
-        {{FieldId::AnnualTaxes},         u"."_qs,                  false},
-        {{FieldId::CurLoanTerm},         u"2147483648"_qs,         true},
-        {{FieldId::CurInterestRate},     u"6%"_qs,                 false},
-        {{FieldId::Points, Row1},        u"9"_qs.repeated(400),    true},
-        {{FieldId::InterestRate, Row1},  u"+"_qs,                  false},
-        {{FieldId::Term, Row1},          u"2147483648"_qs,         true},
-        {{FieldId::ActualPayment, Row1}, u"1,000"_qs,              false},
+        {{FieldId::LoanAmount},          u"-"_s,                  false},
+        {{FieldId::LoanAmount},          u"922337203685477.59"_s, true},
+        {{FieldId::LoanTerm},            u"2147483648"_s,         true},
+        {{FieldId::AnnualTaxes},         u"."_s,                  false},
+        {{FieldId::CurLoanTerm},         u"2147483648"_s,         true},
+        {{FieldId::CurInterestRate},     u"6%"_s,                 false},
+        {{FieldId::Points, Row1},        u"9"_s.repeated(400),    true},
+        {{FieldId::InterestRate, Row1},  u"+"_s,                  false},
+        {{FieldId::Term, Row1},          u"2147483648"_s,         true},
+        {{FieldId::ActualPayment, Row1}, u"1,000"_s,              false},
     };
     // clang-format on
     for (const auto& [field, text, tooLarge] : cases) {
@@ -64,7 +66,7 @@ TEST_F(WorksheetFailureTest, WhatCannotBeReadChangesNothing) {
 TEST_F(WorksheetFailureTest, AnEscrowTooLargeCountsAsNone) {
     m_worksheet.SetEscrowInsurance(Units(2700));
     m_worksheet.SetCurrentBalance(Units(9'000));
-    EXPECT_EQ(TextOf({FieldId::Payment, Row1}), u"$824.55"_qs);
+    EXPECT_EQ(TextOf({FieldId::Payment, Row1}), u"$824.55"_s);
     StartCounting();
     EXPECT_THROW(m_worksheet.SetEscrowTaxes(LargestAmount()), OverflowFailure);
     EXPECT_EQ(m_worksheet.EscrowTaxes(), LargestAmount());
@@ -74,30 +76,30 @@ TEST_F(WorksheetFailureTest, AnEscrowTooLargeCountsAsNone) {
     EXPECT_EQ(TextOf({FieldId::MonthlyEscrow}), QString());
     EXPECT_EQ(m_display.Of({FieldId::MonthlyEscrow}).texts, 1);
     for (Row row{0}; row.value < 3; ++row.value) {
-        EXPECT_EQ(TextOf({FieldId::Payment, row}), u"$599.55"_qs);
+        EXPECT_EQ(TextOf({FieldId::Payment, row}), u"$599.55"_s);
     }
-    EXPECT_EQ(TextOf({FieldId::CurPayment}), u"$758.48"_qs);
+    EXPECT_EQ(TextOf({FieldId::CurPayment}), u"$758.48"_s);
     ExpectCurrentSchedule(true);
 
     m_worksheet.SetEscrowTaxes(Money()); // and all is well again
-    EXPECT_EQ(TextOf({FieldId::MonthlyEscrow}), u"$225.00"_qs);
-    EXPECT_EQ(TextOf({FieldId::Payment, Row1}), u"$824.55"_qs);
+    EXPECT_EQ(TextOf({FieldId::MonthlyEscrow}), u"$225.00"_s);
+    EXPECT_EQ(TextOf({FieldId::Payment, Row1}), u"$824.55"_s);
 }
 
 TEST_F(WorksheetFailureTest, OneOfferThatFailsLeavesTheOthersShown) {
     m_worksheet.StoreFinancePoints(Row1, true);
-    Store({FieldId::Points, Row1}, u"5000"_qs); // fifty times the loan, on top of it
+    Store({FieldId::Points, Row1}, u"5000"_s); // fifty times the loan, on top of it
     ASSERT_FALSE(TextOf({FieldId::Interest, Row1}).isEmpty());
     StartCounting();
     EXPECT_THROW(m_worksheet.SetLoanAmount(Units(20e12)), OverflowFailure);
     EXPECT_EQ(m_worksheet.LoanAmount(), Units(20e12));
     EXPECT_TRUE(m_worksheet.Dirty());
     EXPECT_EQ(ResultTexts(Row1), NoTexts);
-    EXPECT_EQ(m_worksheet.EntryText({FieldId::Points, Row1}), u"5000"_qs);
+    EXPECT_EQ(m_worksheet.EntryText({FieldId::Points, Row1}), u"5000"_s);
     EXPECT_TRUE(m_worksheet.OfferOfRow(Row1).FinancePoints());
     for (const Row row : {Row{0}, Row{2}}) {
-        EXPECT_EQ(TextOf({FieldId::PandI, row}), u"$119,910,105,030.55"_qs);
-        EXPECT_EQ(TextOf({FieldId::PayoffDate, row}), u"3/10/2056"_qs);
+        EXPECT_EQ(TextOf({FieldId::PandI, row}), u"$119,910,105,030.55"_s);
+        EXPECT_EQ(TextOf({FieldId::PayoffDate, row}), u"3/10/2056"_s);
     }
     for (const Field field : OfferResults(Row1)) {
         EXPECT_EQ(m_display.Of(field).texts, 1) << testing::PrintToString(field);
@@ -105,15 +107,15 @@ TEST_F(WorksheetFailureTest, OneOfferThatFailsLeavesTheOthersShown) {
 
     m_worksheet.SetLoanAmount(Units(100'000));
     EXPECT_NE(ResultTexts(Row1), NoTexts);
-    EXPECT_EQ(TextOf({FieldId::PandI, Row{0}}), u"$599.55"_qs);
+    EXPECT_EQ(TextOf({FieldId::PandI, Row{0}}), u"$599.55"_s);
 }
 
 TEST_F(WorksheetFailureTest, AnOfferWhosePaymentsAreTooManyKeepsItsFrequency) {
-    EXPECT_NO_THROW(Store({FieldId::Term, Row1}, u"1073741824"_qs));
-    EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_qs),
+    EXPECT_NO_THROW(Store({FieldId::Term, Row1}, u"1073741824"_s));
+    EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_s),
                  OverflowFailure);
-    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"B"_qs);
-    EXPECT_EQ(TextOf({FieldId::Frequency, Row1}), u"Twice a month"_qs);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"B"_s);
+    EXPECT_EQ(TextOf({FieldId::Frequency, Row1}), u"Twice a month"_s);
     EXPECT_EQ(ResultTexts(Row1), NoTexts);
     EXPECT_TRUE(m_worksheet.Dirty());
 }
@@ -121,20 +123,20 @@ TEST_F(WorksheetFailureTest, AnOfferWhosePaymentsAreTooManyKeepsItsFrequency) {
 /// Without a term there is no payment to compare with, so a figure that never repays is taken.
 TEST_F(WorksheetFailureTest, AnIntendedPaymentThatNeverRepaysIsKept) {
     const Field intended{FieldId::ActualPayment, Row1};
-    Store({FieldId::Term, Row1}, u""_qs);
+    Store({FieldId::Term, Row1}, u""_s);
     StartCounting();
-    EXPECT_THROW(Store(intended, u"1"_qs), OverflowFailure);
-    EXPECT_EQ(TextOf(intended), u"$1.00"_qs);
+    EXPECT_THROW(Store(intended, u"1"_s), OverflowFailure);
+    EXPECT_EQ(TextOf(intended), u"$1.00"_s);
     EXPECT_EQ(m_worksheet.OfferOfRow(Row1).ActualPayment(), Units(1));
     EXPECT_TRUE(m_worksheet.Dirty());
     EXPECT_EQ(ResultTexts(Row1), NoTexts);
     EXPECT_THROW(m_worksheet.RecalculateOffer(Row1), OverflowFailure);
     EXPECT_EQ(ResultTexts(Row1), NoTexts);
-    EXPECT_NO_THROW(Store({FieldId::Term, Row1}, u"360"_qs));
-    EXPECT_EQ(TextOf(intended), u"$599.55"_qs);
+    EXPECT_NO_THROW(Store({FieldId::Term, Row1}, u"360"_s));
+    EXPECT_EQ(TextOf(intended), u"$599.55"_s);
 
-    EXPECT_THROW(Store(intended, u"-5"_qs), OverflowFailure); // nothing to refuse below zero
-    EXPECT_EQ(TextOf(intended), u"($5.00)"_qs);
+    EXPECT_THROW(Store(intended, u"-5"_s), OverflowFailure); // nothing to refuse below zero
+    EXPECT_EQ(TextOf(intended), u"($5.00)"_s);
     EXPECT_EQ(TextOf({FieldId::PayoffDate, Row1}), QString());
     EXPECT_EQ(TextOf({FieldId::Interest, Row1}), QString());
     EXPECT_EQ(m_display.PaymentsRefused(), 0);
@@ -143,13 +145,13 @@ TEST_F(WorksheetFailureTest, AnIntendedPaymentThatNeverRepaysIsKept) {
 TEST_F(WorksheetFailureTest, AnIntendedPaymentThatCannotBeCheckedStaysAsItWas) {
     const Field intended{FieldId::ActualPayment, Row1};
     m_worksheet.StoreFinancePoints(Row1, true);
-    EXPECT_THROW(Store({FieldId::Points, Row1}, u"1000000000000"_qs), OverflowFailure);
-    EXPECT_EQ(m_worksheet.EntryText({FieldId::Points, Row1}), u"1000000000000"_qs);
-    EXPECT_EQ(TextOf({FieldId::Points, Row1}), u"1000000000000.000"_qs);
+    EXPECT_THROW(Store({FieldId::Points, Row1}, u"1000000000000"_s), OverflowFailure);
+    EXPECT_EQ(m_worksheet.EntryText({FieldId::Points, Row1}), u"1000000000000"_s);
+    EXPECT_EQ(TextOf({FieldId::Points, Row1}), u"1000000000000.000"_s);
     StartCounting();
-    EXPECT_THROW(Store(intended, u"900"_qs), OverflowFailure);
+    EXPECT_THROW(Store(intended, u"900"_s), OverflowFailure);
     EXPECT_EQ(m_worksheet.OfferOfRow(Row1).ActualPayment(), Units(599.55));
-    EXPECT_EQ(TextOf(intended), u"$599.55"_qs);
+    EXPECT_EQ(TextOf(intended), u"$599.55"_s);
     EXPECT_EQ(m_display.Of(intended).texts, 1);
     EXPECT_FALSE(m_worksheet.Dirty());
     EXPECT_EQ(ResultTexts(Row1), NoTexts);
@@ -158,22 +160,22 @@ TEST_F(WorksheetFailureTest, AnIntendedPaymentThatCannotBeCheckedStaysAsItWas) {
 /// Nothing stands there that a tooltip could explain.
 TEST_F(WorksheetFailureTest, AnOfferThatFailsHasNoToolTipAtItsPayoffDate) {
     ASSERT_TRUE(m_display.Of({FieldId::PayoffDate, Row1}).toolTip);
-    Store({FieldId::Term, Row1}, u"1073741824"_qs);
-    EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_qs),
+    Store({FieldId::Term, Row1}, u"1073741824"_s);
+    EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_s),
                  OverflowFailure);
     EXPECT_FALSE(m_display.Of({FieldId::PayoffDate, Row1}).toolTip);
 
     const Row last{2};
-    Store({FieldId::Term, last}, u""_qs);
+    Store({FieldId::Term, last}, u""_s);
     ASSERT_TRUE(m_display.Of({FieldId::PayoffDate, last}).toolTip);
-    EXPECT_THROW(Store({FieldId::ActualPayment, last}, u"1"_qs), OverflowFailure);
+    EXPECT_THROW(Store({FieldId::ActualPayment, last}, u"1"_s), OverflowFailure);
     EXPECT_FALSE(m_display.Of({FieldId::PayoffDate, last}).toolTip);
 }
 
 /// A tooltip taken away there would never come back.
 TEST_F(WorksheetFailureTest, AnOfferThatFailsKeepsItsOtherToolTipsWhenSorted) {
-    Store({FieldId::Term, Row1}, u"1073741824"_qs);
-    EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_qs),
+    Store({FieldId::Term, Row1}, u"1073741824"_s);
+    EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_s),
                  OverflowFailure);
     m_worksheet.SortByPayoffDate();
     m_worksheet.ShowOffers();
@@ -192,11 +194,11 @@ struct EndlessCase {
 TEST_F(WorksheetFailureTest, ACurrentLoanThatIsNeverRepaidShowsNoSchedule) {
     // clang-format off
     const std::vector<EndlessCase> cases{
-        {FieldId::CurActualPayment, u"1"_qs},
-        {FieldId::CurActualPayment, u"-1000"_qs},
-        {FieldId::CurrentBalance,   u"900000000000"_qs},
-        {FieldId::CurInterestRate,  u"1000"_qs},
-        {FieldId::AnnualTaxes,      u"12000"_qs},
+        {FieldId::CurActualPayment, u"1"_s},
+        {FieldId::CurActualPayment, u"-1000"_s},
+        {FieldId::CurrentBalance,   u"900000000000"_s},
+        {FieldId::CurInterestRate,  u"1000"_s},
+        {FieldId::AnnualTaxes,      u"12000"_s},
     };
     // clang-format on
     for (const auto& [id, typed] : cases) {
@@ -215,10 +217,10 @@ TEST_F(WorksheetFailureTest, ACurrentLoanThatIsNeverRepaidShowsNoSchedule) {
 }
 
 TEST_F(WorksheetFailureTest, ACurrentPaymentTooLargeLeavesTheScheduleShown) {
-    Store({FieldId::CurLoanTerm}, u"1"_qs);
+    Store({FieldId::CurLoanTerm}, u"1"_s);
     StartCounting();
-    EXPECT_THROW(Store({FieldId::CurLoanAmount}, u"922337203685477"_qs), OverflowFailure);
-    EXPECT_EQ(m_worksheet.EntryText({FieldId::CurLoanAmount}), u"922337203685477"_qs);
+    EXPECT_THROW(Store({FieldId::CurLoanAmount}, u"922337203685477"_s), OverflowFailure);
+    EXPECT_EQ(m_worksheet.EntryText({FieldId::CurLoanAmount}), u"922337203685477"_s);
     EXPECT_TRUE(m_worksheet.Dirty());
     EXPECT_EQ(m_worksheet.CurrentPandI(), Money());
     EXPECT_EQ(m_worksheet.CurrentPayment(), Money());
@@ -226,8 +228,8 @@ TEST_F(WorksheetFailureTest, ACurrentPaymentTooLargeLeavesTheScheduleShown) {
     EXPECT_EQ(m_display.Of({FieldId::CurPayment}).texts, 1);
     EXPECT_EQ(m_display.Of({FieldId::CurPayoffDate}).texts, 1);
     ExpectCurrentSchedule(true);
-    Store({FieldId::CurLoanAmount}, u"120000"_qs);
-    EXPECT_EQ(TextOf({FieldId::CurPayment}), u"$120,650.00"_qs);
+    Store({FieldId::CurLoanAmount}, u"120000"_s);
+    EXPECT_EQ(TextOf({FieldId::CurPayment}), u"$120,650.00"_s);
 }
 
 } // namespace

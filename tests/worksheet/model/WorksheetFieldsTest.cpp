@@ -5,6 +5,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr Row Row1{1};
@@ -15,7 +17,7 @@ protected:
     WorksheetFieldsTest() {
         EnterOffers(2);
         for (const Row row : {Row{0}, Row1}) {
-            Store({FieldId::ActualPayment, row}, u"5000"_qs);
+            Store({FieldId::ActualPayment, row}, u"5000"_s);
         }
         EnterCurrentLoan();
         StartCounting();
@@ -43,19 +45,19 @@ const std::vector<NumberCase>& NumberCases() {
     // clang-format off
     static const std::vector<NumberCase> cases{
         // field                typed          entry         shown              others                                        schedules
-        {{FieldId::LoanAmount}, u"200000"_qs,  u"200000"_qs, u"$200,000.00"_qs, BothOffers,                                   2},
-        {{FieldId::LoanTerm},   u"+180"_qs,    u"180"_qs,    u"180"_qs,         {},                                           0},
-        {{AnnualTaxes},         u"1800.50"_qs, u"1800.5"_qs, u"$1,800.50"_qs,   Everything,                                   2},
-        {{AnnualInsurance},     u"900"_qs,     u"900"_qs,    u"$900.00"_qs,     Everything,                                   2},
-        {{CurLoanAmount},       u"130000"_qs,  u"130000"_qs, u"$130,000.00"_qs, CurrentLoan,                                  0},
-        {{CurLoanTerm},         u"180"_qs,     u"180"_qs,    u"180"_qs,         CurrentLoan,                                  0},
-        {{CurInterestRate},     u"7.337"_qs,   u"7.337"_qs,  u"7.337%"_qs,      CurrentLoan,                                  0},
-        {{CurrentBalance},      u"9000"_qs,    u"9000"_qs,   u"$9,000.00"_qs,   CurrentLoan,                                  0},
-        {{CurActualPayment},    u"2000"_qs,    u"2000"_qs,   u"$2,000.00"_qs,   CurrentLoan,                                  0},
-        {{Points, Row1},        u".5"_qs,      u"0.5"_qs,    u".500"_qs,        OfferResults(Row1),                           1},
-        {{InterestRate, Row1},  u"7"_qs,       u"7"_qs,      u"7.000%"_qs,      Sorted({{{Term, Row1}}, OfferResults(Row1)}), 1},
-        {{Term, Row1},          u"180"_qs,     u"180"_qs,    u"180"_qs,         OfferResults(Row1),                           1},
-        {{ActualPayment, Row1}, u"6000"_qs,    u"6000"_qs,   u"$6,000.00"_qs,   {{PayoffDate, Row1}, {Interest, Row1}},       1},
+        {{FieldId::LoanAmount}, u"200000"_s,  u"200000"_s, u"$200,000.00"_s, BothOffers,                                   2},
+        {{FieldId::LoanTerm},   u"+180"_s,    u"180"_s,    u"180"_s,         {},                                           0},
+        {{AnnualTaxes},         u"1800.50"_s, u"1800.5"_s, u"$1,800.50"_s,   Everything,                                   2},
+        {{AnnualInsurance},     u"900"_s,     u"900"_s,    u"$900.00"_s,     Everything,                                   2},
+        {{CurLoanAmount},       u"130000"_s,  u"130000"_s, u"$130,000.00"_s, CurrentLoan,                                  0},
+        {{CurLoanTerm},         u"180"_s,     u"180"_s,    u"180"_s,         CurrentLoan,                                  0},
+        {{CurInterestRate},     u"7.337"_s,   u"7.337"_s,  u"7.337%"_s,      CurrentLoan,                                  0},
+        {{CurrentBalance},      u"9000"_s,    u"9000"_s,   u"$9,000.00"_s,   CurrentLoan,                                  0},
+        {{CurActualPayment},    u"2000"_s,    u"2000"_s,   u"$2,000.00"_s,   CurrentLoan,                                  0},
+        {{Points, Row1},        u".5"_s,      u"0.5"_s,    u".500"_s,        OfferResults(Row1),                           1},
+        {{InterestRate, Row1},  u"7"_s,       u"7"_s,      u"7.000%"_s,      Sorted({{{Term, Row1}}, OfferResults(Row1)}), 1},
+        {{Term, Row1},          u"180"_s,     u"180"_s,    u"180"_s,         OfferResults(Row1),                           1},
+        {{ActualPayment, Row1}, u"6000"_s,    u"6000"_s,   u"$6,000.00"_s,   {{PayoffDate, Row1}, {Interest, Row1}},       1},
     };
     // clang-format on
     return cases;
@@ -88,7 +90,7 @@ TEST_F(WorksheetFieldsTest, AnEmptyTextStoresZero) {
         SCOPED_TRACE(testing::PrintToString(c.field));
         Store(c.field, c.typed);
         StartCounting();
-        Store(c.field, u""_qs);
+        Store(c.field, u""_s);
         EXPECT_TRUE(m_worksheet.Dirty());
         EXPECT_EQ(m_worksheet.EntryText(c.field), QString());
         EXPECT_EQ(TextOf(c.field), QString());
@@ -110,25 +112,25 @@ TEST_F(WorksheetFieldsTest, AcceptsTheFormOfEachField) {
     // clang-format off
     const std::vector<AcceptCase> cases{
         // field                   text              accepted
-        {FieldId::LoanAmount,      u"1234.56"_qs,    true},
-        {FieldId::LoanAmount,      u"1234.567"_qs,   false},
-        {FieldId::LoanAmount,      u"12345678.9"_qs, true},
-        {FieldId::LoanAmount,      u""_qs,           true},
-        {FieldId::LoanAmount,      u"-5"_qs,         true},
-        {FieldId::LoanAmount,      u"5-"_qs,         false},
-        {FieldId::LoanAmount,      u"5."_qs,         true},
-        {FieldId::LoanAmount,      u"-"_qs,          false}, // of the right form, but no number
-        {FieldId::LoanAmount,      u"."_qs,          false},
-        {FieldId::LoanTerm,        u"30.5"_qs,       false},
-        {FieldId::LoanTerm,        u"-"_qs,          false},
-        {FieldId::CurLoanTerm,     u"30.5"_qs,       false},
-        {FieldId::CurInterestRate, u"6.875"_qs,      true},
-        {FieldId::CurInterestRate, u"6.8755"_qs,     false},
-        {FieldId::Points,          u"-5"_qs,         true},
-        {FieldId::InterestRate,    u"6,5"_qs,        false},
-        {FieldId::Term,            u"30.5"_qs,       true},
-        {FieldId::Term,            u"30.5555"_qs,    false},
-        {FieldId::ActualPayment,   u"599.555"_qs,    false},
+        {FieldId::LoanAmount,      u"1234.56"_s,    true},
+        {FieldId::LoanAmount,      u"1234.567"_s,   false},
+        {FieldId::LoanAmount,      u"12345678.9"_s, true},
+        {FieldId::LoanAmount,      u""_s,           true},
+        {FieldId::LoanAmount,      u"-5"_s,         true},
+        {FieldId::LoanAmount,      u"5-"_s,         false},
+        {FieldId::LoanAmount,      u"5."_s,         true},
+        {FieldId::LoanAmount,      u"-"_s,          false}, // of the right form, but no number
+        {FieldId::LoanAmount,      u"."_s,          false},
+        {FieldId::LoanTerm,        u"30.5"_s,       false},
+        {FieldId::LoanTerm,        u"-"_s,          false},
+        {FieldId::CurLoanTerm,     u"30.5"_s,       false},
+        {FieldId::CurInterestRate, u"6.875"_s,      true},
+        {FieldId::CurInterestRate, u"6.8755"_s,     false},
+        {FieldId::Points,          u"-5"_s,         true},
+        {FieldId::InterestRate,    u"6,5"_s,        false},
+        {FieldId::Term,            u"30.5"_s,       true},
+        {FieldId::Term,            u"30.5555"_s,    false},
+        {FieldId::ActualPayment,   u"599.555"_s,    false},
     };
     // clang-format on
     for (const auto& [id, text, accepted] : cases) {
@@ -136,7 +138,7 @@ TEST_F(WorksheetFieldsTest, AcceptsTheFormOfEachField) {
         EXPECT_EQ(m_worksheet.Accepts(field, text), accepted)
             << RuleOf(id).control.latin1() << " \"" << text.toStdString() << '"';
     }
-    EXPECT_THROW(static_cast<void>(m_worksheet.Accepts({FieldId::LoanTerm}, u"2147483648"_qs)),
+    EXPECT_THROW(static_cast<void>(m_worksheet.Accepts({FieldId::LoanTerm}, u"2147483648"_s)),
                  OverflowFailure);
     EXPECT_TRUE(m_display.TextsInOrder().empty());
     EXPECT_FALSE(m_worksheet.Dirty());
@@ -144,20 +146,20 @@ TEST_F(WorksheetFieldsTest, AcceptsTheFormOfEachField) {
 
 TEST_F(WorksheetFieldsTest, TermsAreYearsWhereTheUserWantsYears) {
     RecordingDisplay display;
-    Worksheet sheet(display, FieldTexts(DisplayFormats(QLocale(u"de_DE"_qs)), false),
+    Worksheet sheet(display, FieldTexts(DisplayFormats(QLocale(u"de_DE"_s)), false),
                     [] { return Date(); });
     sheet.GrowOfferArrays(sheet.HighestOfferRow(), Row{0});
     const Field offer{FieldId::Term, Row{0}};
-    sheet.StoreNumber({FieldId::LoanTerm}, u"15"_qs);
-    sheet.StoreNumber(offer, u"12,5"_qs);
-    sheet.StoreNumber({FieldId::CurLoanTerm}, u"12,5"_qs);
+    sheet.StoreNumber({FieldId::LoanTerm}, u"15"_s);
+    sheet.StoreNumber(offer, u"12,5"_s);
+    sheet.StoreNumber({FieldId::CurLoanTerm}, u"12,5"_s);
     EXPECT_EQ(sheet.LoanTerm(), 180);
     EXPECT_EQ(sheet.OfferOfRow(Row{0}).Term(), 144);
     EXPECT_EQ(sheet.CurrentTerm(), 150);
-    EXPECT_EQ(display.TextOf({FieldId::LoanTerm}), u"15"_qs);
-    EXPECT_EQ(display.TextOf(offer), u"12"_qs);
-    EXPECT_EQ(display.TextOf({FieldId::CurLoanTerm}), u"12,5"_qs);
-    EXPECT_EQ(sheet.EntryText({FieldId::CurLoanTerm}), u"12,5"_qs);
+    EXPECT_EQ(display.TextOf({FieldId::LoanTerm}), u"15"_s);
+    EXPECT_EQ(display.TextOf(offer), u"12"_s);
+    EXPECT_EQ(display.TextOf({FieldId::CurLoanTerm}), u"12,5"_s);
+    EXPECT_EQ(sheet.EntryText({FieldId::CurLoanTerm}), u"12,5"_s);
 }
 
 struct ChoiceCase {
@@ -176,10 +178,10 @@ const std::vector<ChoiceCase>& ChoiceCases() {
     // clang-format off
     static const std::vector<ChoiceCase> cases{
         // field                         picked                  stored as                   is                     others
-        {{FieldId::LoanType},            u"Home equity"_qs,      &W::LoanType,               u"H"_qs,               {}},
-        {{FieldId::CurPaymentFrequency}, u"Twice a month"_qs,    &W::CurrentFrequency,       u"Twice a month"_qs,   CurrentLoan},
-        {{FieldId::ActPaymentFrequency}, u"Every two weeks"_qs,  &W::CurrentActualFrequency, u"Every two weeks"_qs, CurrentLoan},
-        {{FieldId::Frequency, Row1},     u"Every four weeks"_qs, OfferCode,                  u"Q"_qs,               OfferResults(Row1)},
+        {{FieldId::LoanType},            u"Home equity"_s,      &W::LoanType,               u"H"_s,               {}},
+        {{FieldId::CurPaymentFrequency}, u"Twice a month"_s,    &W::CurrentFrequency,       u"Twice a month"_s,   CurrentLoan},
+        {{FieldId::ActPaymentFrequency}, u"Every two weeks"_s,  &W::CurrentActualFrequency, u"Every two weeks"_s, CurrentLoan},
+        {{FieldId::Frequency, Row1},     u"Every four weeks"_s, OfferCode,                  u"Q"_s,               OfferResults(Row1)},
     };
     // clang-format on
     return cases;
@@ -204,11 +206,11 @@ TEST_F(WorksheetFieldsTest, AChoiceThatIsNoneIsEmpty) {
     for (const ChoiceCase& c : ChoiceCases()) {
         SCOPED_TRACE(testing::PrintToString(c.field));
         m_worksheet.StoreChoice(c.field, c.picked);
-        m_worksheet.StoreChoice(c.field, u"Nothing of the kind"_qs);
+        m_worksheet.StoreChoice(c.field, u"Nothing of the kind"_s);
         // A loan held today is monthly until told otherwise.
         const bool monthly = c.field.id == FieldId::CurPaymentFrequency;
-        EXPECT_EQ(c.stored(m_worksheet), monthly ? u"Monthly"_qs : QString());
-        EXPECT_EQ(TextOf(c.field), monthly ? u"Monthly"_qs : QString());
+        EXPECT_EQ(c.stored(m_worksheet), monthly ? u"Monthly"_s : QString());
+        EXPECT_EQ(TextOf(c.field), monthly ? u"Monthly"_s : QString());
     }
 }
 
@@ -229,7 +231,7 @@ TEST_F(WorksheetFieldsTest, ATickIsStoredShownAndComputedOnce) {
 
 TEST_F(WorksheetFieldsTest, ALenderIsKeptAsTyped) {
     const Field who{FieldId::Who, Row1};
-    for (const QString& name : {u"  Peña & Söhne "_qs, u"0"_qs, u""_qs}) {
+    for (const QString& name : {u"  Peña & Söhne "_s, u"0"_s, u""_s}) {
         StartCounting();
         m_worksheet.StoreWho(Row1, name);
         EXPECT_EQ(m_worksheet.OfferOfRow(Row1).Who(), name);
@@ -246,7 +248,7 @@ TEST_F(WorksheetFieldsTest, ALenderIsKeptAsTyped) {
 class WorksheetShowTest : public WorksheetFieldsTest {
 protected:
     WorksheetShowTest() {
-        m_worksheet.SetLoanName(u"Home"_qs);
+        m_worksheet.SetLoanName(u"Home"_s);
         for (const NumberCase& c : NumberCases()) {
             Store(c.field, c.typed);
         }
@@ -254,7 +256,7 @@ protected:
             m_worksheet.StoreChoice(c.field, c.picked);
         }
         m_worksheet.StoreFinancePoints(Row1, true);
-        m_worksheet.StoreWho(Row1, u"First Bank"_qs);
+        m_worksheet.StoreWho(Row1, u"First Bank"_s);
     }
 
     void ExpectShown(Field field) {
@@ -291,10 +293,10 @@ TEST_F(WorksheetFieldsTest, ChoicesStayTheSameInAnotherLanguage) {
                                                 {FieldId::Frequency, Row{0}},
                                                 {FieldId::Frequency, Row1}}});
     const std::vector<std::vector<QString>> expected{
-        {u"Home equity"_qs, u"Twice a month"_qs, u"Every two weeks"_qs, u"Monthly"_qs,
-         u"Every four weeks"_qs},
-        {u"Valor neto de la vivienda"_qs, u"Dos veces al mes"_qs, u"Cada dos semanas"_qs,
-         u"Mensual"_qs, u"Cada cuatro semanas"_qs},
+        {u"Home equity"_s, u"Twice a month"_s, u"Every two weeks"_s, u"Monthly"_s,
+         u"Every four weeks"_s},
+        {u"Valor neto de la vivienda"_s, u"Dos veces al mes"_s, u"Cada dos semanas"_s, u"Mensual"_s,
+         u"Cada cuatro semanas"_s},
     };
     for (const int language : {2, 1, 2}) {
         Language::Instance().LoadLanguage(language);
@@ -302,13 +304,13 @@ TEST_F(WorksheetFieldsTest, ChoicesStayTheSameInAnotherLanguage) {
         m_worksheet.ShowChoices();
         EXPECT_EQ(Sorted({m_display.TextsInOrder()}), choices);
         EXPECT_EQ(TextsOf(choices), expected.at(static_cast<std::size_t>(language - 1)));
-        EXPECT_EQ(m_worksheet.LoanType(), u"H"_qs);
-        EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"Q"_qs);
+        EXPECT_EQ(m_worksheet.LoanType(), u"H"_s);
+        EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"Q"_s);
         EXPECT_FALSE(m_worksheet.Dirty());
     }
     // And what is picked now is picked in Spanish.
-    m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Mensual"_qs);
-    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"M"_qs);
+    m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Mensual"_s);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"M"_s);
 }
 
 } // namespace

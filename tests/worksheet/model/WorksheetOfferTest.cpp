@@ -1,5 +1,7 @@
 #include "WorksheetTest.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr Row Row0{0};
@@ -11,7 +13,7 @@ protected:
 
     /// Nothing intended yet, as in a row just typed.
     void ClearIntended() {
-        Store(Intended, u""_qs);
+        Store(Intended, u""_s);
         StartCounting();
     }
 };
@@ -29,16 +31,16 @@ TEST_F(WorksheetOfferTest, ComputesEveryFrequencyWithItsShareOfTheEscrow) {
     // clang-format off
     const std::vector<OfferCase> cases{
         // frequency             taxes  P and I        payment        payoff           interest
-        {u"Monthly"_qs,          0,     u"$599.55"_qs, u"$599.55"_qs, u"3/10/2056"_qs, u"$115,838.53"_qs},
-        {u"Twice a month"_qs,    0,     u"$299.64"_qs, u"$299.64"_qs, u"3/10/2056"_qs, u"$115,744.53"_qs},
-        {u"Every two weeks"_qs,  0,     u"$276.58"_qs, u"$276.58"_qs, u"12/7/2055"_qs, u"$114,681.82"_qs},
-        {u"Every four weeks"_qs, 0,     u"$553.39"_qs, u"$553.39"_qs, u"12/7/2055"_qs, u"$114,769.78"_qs},
-        {u"Monthly"_qs,          3000,  u"$599.55"_qs, u"$849.55"_qs, u"3/10/2056"_qs, u"$115,838.53"_qs},
-        {u"Twice a month"_qs,    3000,  u"$299.64"_qs, u"$424.64"_qs, u"3/10/2056"_qs, u"$115,744.53"_qs},
-        {u"Every two weeks"_qs,  3000,  u"$276.58"_qs, u"$401.58"_qs, u"12/7/2055"_qs, u"$114,681.82"_qs},
-        {u"Every four weeks"_qs, 3000,  u"$553.39"_qs, u"$803.39"_qs, u"12/7/2055"_qs, u"$114,769.78"_qs},
-        {u""_qs,                 3000,  u""_qs,        u""_qs,        u""_qs,          u""_qs},
-        {u"Yearly"_qs,           3000,  u""_qs,        u""_qs,        u""_qs,          u""_qs},
+        {u"Monthly"_s,          0,     u"$599.55"_s, u"$599.55"_s, u"3/10/2056"_s, u"$115,838.53"_s},
+        {u"Twice a month"_s,    0,     u"$299.64"_s, u"$299.64"_s, u"3/10/2056"_s, u"$115,744.53"_s},
+        {u"Every two weeks"_s,  0,     u"$276.58"_s, u"$276.58"_s, u"12/7/2055"_s, u"$114,681.82"_s},
+        {u"Every four weeks"_s, 0,     u"$553.39"_s, u"$553.39"_s, u"12/7/2055"_s, u"$114,769.78"_s},
+        {u"Monthly"_s,          3000,  u"$599.55"_s, u"$849.55"_s, u"3/10/2056"_s, u"$115,838.53"_s},
+        {u"Twice a month"_s,    3000,  u"$299.64"_s, u"$424.64"_s, u"3/10/2056"_s, u"$115,744.53"_s},
+        {u"Every two weeks"_s,  3000,  u"$276.58"_s, u"$401.58"_s, u"12/7/2055"_s, u"$114,681.82"_s},
+        {u"Every four weeks"_s, 3000,  u"$553.39"_s, u"$803.39"_s, u"12/7/2055"_s, u"$114,769.78"_s},
+        {u""_s,                 3000,  u""_s,        u""_s,        u""_s,          u""_s},
+        {u"Yearly"_s,           3000,  u""_s,        u""_s,        u""_s,          u""_s},
     };
     // clang-format on
     for (const auto& [frequency, taxes, pAndI, payment, payoff, interest] : cases) {
@@ -87,9 +89,9 @@ TEST_F(WorksheetOfferTest, ShowsNothingWhereAnInputIsMissing) {
         SCOPED_TRACE(testing::PrintToString(field));
         StartCounting();
         if (missing == FieldId::Frequency) {
-            m_worksheet.StoreChoice(field, u""_qs);
+            m_worksheet.StoreChoice(field, u""_s);
         } else {
-            Store(field, u""_qs);
+            Store(field, u""_s);
         }
         EXPECT_EQ(TextOf({FieldId::PandI, Row0}), QString());
         EXPECT_EQ(TextOf({FieldId::Payment, Row0}), QString());
@@ -97,7 +99,7 @@ TEST_F(WorksheetOfferTest, ShowsNothingWhereAnInputIsMissing) {
         EXPECT_EQ(m_display.Of({FieldId::PayoffDate, Row0}).toolTip, paysOff);
         EXPECT_EQ(TextOf({FieldId::Interest, Row0}).isEmpty(), !paysOff);
         EXPECT_FALSE(m_display.Of({FieldId::Interest, Row0}).toolTip);
-        EXPECT_EQ(TextOf(Intended), u"$599.55"_qs);
+        EXPECT_EQ(TextOf(Intended), u"$599.55"_s);
         EXPECT_EQ(m_display.PaymentsRaised(), 0);
     }
 }
@@ -105,7 +107,7 @@ TEST_F(WorksheetOfferTest, ShowsNothingWhereAnInputIsMissing) {
 TEST_F(WorksheetOfferTest, RaisesAnIntendedPaymentThatIsMissing) {
     ClearIntended();
     m_worksheet.RecalculateOffer(Row0);
-    EXPECT_EQ(TextOf(Intended), u"$599.55"_qs);
+    EXPECT_EQ(TextOf(Intended), u"$599.55"_s);
     EXPECT_EQ(m_display.Of(Intended).mark, Mark::Raised);
     EXPECT_EQ(m_display.PaymentsRaised(), 1);
     EXPECT_EQ(m_display.PaymentsRefused(), 0);
@@ -122,14 +124,14 @@ TEST_F(WorksheetOfferTest, RaisesAnIntendedPaymentThatIsMissing) {
 
 TEST_F(WorksheetOfferTest, RaisesAnIntendedPaymentThatHasBecomeTooLow) {
     StartCounting();
-    Store({FieldId::Term, Row0}, u"180"_qs);
-    EXPECT_EQ(TextOf(Intended), u"$843.86"_qs);
+    Store({FieldId::Term, Row0}, u"180"_s);
+    EXPECT_EQ(TextOf(Intended), u"$843.86"_s);
     EXPECT_EQ(m_display.Of(Intended).mark, Mark::Raised);
     EXPECT_EQ(m_display.PaymentsRaised(), 1);
 
     StartCounting();
-    Store({FieldId::Term, Row0}, u"360"_qs); // a lower payment lowers nothing
-    EXPECT_EQ(TextOf(Intended), u"$843.86"_qs);
+    Store({FieldId::Term, Row0}, u"360"_s); // a lower payment lowers nothing
+    EXPECT_EQ(TextOf(Intended), u"$843.86"_s);
     EXPECT_EQ(m_display.Of(Intended).marks, 0);
     EXPECT_EQ(m_display.PaymentsRaised(), 0);
 }
@@ -146,17 +148,17 @@ TEST_F(WorksheetOfferTest, TakesAnIntendedPaymentFromThePaymentUpwards) {
     // clang-format off
     const std::vector<IntendedCase> cases{
         // typed       shown          refused  payoff           interest
-        {u"900"_qs,    u"$900.00"_qs, false,   u"9/10/2039"_qs, u"$46,332.60"_qs},
-        {u"599.55"_qs, u"$599.55"_qs, false,   u"3/10/2056"_qs, u"$115,838.53"_qs},
-        {u"599.54"_qs, u"$599.55"_qs, true,    u"3/10/2056"_qs, u"$115,838.53"_qs},
-        {u".01"_qs,    u"$599.55"_qs, true,    u"3/10/2056"_qs, u"$115,838.53"_qs},
-        {u""_qs,       u""_qs,        false,   u""_qs,          u""_qs},
-        {u"0"_qs,      u""_qs,        false,   u""_qs,          u""_qs},
+        {u"900"_s,    u"$900.00"_s, false,   u"9/10/2039"_s, u"$46,332.60"_s},
+        {u"599.55"_s, u"$599.55"_s, false,   u"3/10/2056"_s, u"$115,838.53"_s},
+        {u"599.54"_s, u"$599.55"_s, true,    u"3/10/2056"_s, u"$115,838.53"_s},
+        {u".01"_s,    u"$599.55"_s, true,    u"3/10/2056"_s, u"$115,838.53"_s},
+        {u""_s,       u""_s,        false,   u""_s,          u""_s},
+        {u"0"_s,      u""_s,        false,   u""_s,          u""_s},
     };
     // clang-format on
     for (const auto& [typed, shown, refused, payoff, interest] : cases) {
         SCOPED_TRACE(typed.toStdString());
-        Store(Intended, u"700"_qs);
+        Store(Intended, u"700"_s);
         m_display.ShowMark(Intended, Mark::None);
         m_worksheet.SetPaymentNoticeShown(false);
         StartCounting();
@@ -180,31 +182,31 @@ TEST_F(WorksheetOfferTest, TakesAnIntendedPaymentFromThePaymentUpwards) {
 /// Checking a new figure raises the missing old one on the way; nobody is to be told of that.
 TEST_F(WorksheetOfferTest, AFigureTypedIntoAnEmptyFieldIsNotMarked) {
     ClearIntended();
-    Store(Intended, u"900"_qs);
+    Store(Intended, u"900"_s);
     m_worksheet.RecalculateOffer(Row0);
-    EXPECT_EQ(TextOf(Intended), u"$900.00"_qs);
+    EXPECT_EQ(TextOf(Intended), u"$900.00"_s);
     EXPECT_EQ(m_display.Of(Intended).marks, 0);
     EXPECT_EQ(m_display.PaymentsRaised(), 0);
 }
 
 TEST_F(WorksheetOfferTest, AClearedIntendedPaymentIsRaisedByTheNextRecalculation) {
-    Store(Intended, u""_qs);
+    Store(Intended, u""_s);
     EXPECT_EQ(m_worksheet.OfferOfRow(Row0).ActualPayment(), Money());
     StartCounting();
     m_worksheet.RecalculateOffer(Row0);
-    EXPECT_EQ(TextOf(Intended), u"$599.55"_qs);
+    EXPECT_EQ(TextOf(Intended), u"$599.55"_s);
     EXPECT_EQ(m_display.PaymentsRaised(), 1);
 }
 
 TEST_F(WorksheetOfferTest, FinancedPointsAreBorrowed) {
-    Store({FieldId::Points, Row0}, u"1.25"_qs);
-    EXPECT_EQ(TextOf({FieldId::PandI, Row0}), u"$599.55"_qs) << "paid up front";
+    Store({FieldId::Points, Row0}, u"1.25"_s);
+    EXPECT_EQ(TextOf({FieldId::PandI, Row0}), u"$599.55"_s) << "paid up front";
     m_worksheet.StoreFinancePoints(Row0, true);
     EXPECT_EQ(ResultTexts(Row0),
-              (std::vector{u"$607.04"_qs, u"$607.04"_qs, u"3/10/2056"_qs, u"$117,289.36"_qs}));
-    EXPECT_EQ(TextOf(Intended), u"$607.04"_qs);
+              (std::vector{u"$607.04"_s, u"$607.04"_s, u"3/10/2056"_s, u"$117,289.36"_s}));
+    EXPECT_EQ(TextOf(Intended), u"$607.04"_s);
     m_worksheet.StoreFinancePoints(Row0, false);
-    EXPECT_EQ(TextOf({FieldId::PandI, Row0}), u"$599.55"_qs);
+    EXPECT_EQ(TextOf({FieldId::PandI, Row0}), u"$599.55"_s);
 }
 
 struct DefaultTermCase {
@@ -218,23 +220,23 @@ TEST_F(WorksheetOfferTest, ARateFillsAMissingTermWithTheDefault) {
     // clang-format off
     const std::vector<DefaultTermCase> cases{
         // default  term       rate     shown
-        {180,       u""_qs,    u"6"_qs, u"180"_qs},
-        {180,       u""_qs,    u"0"_qs, u""_qs},
-        {180,       u"360"_qs, u"6"_qs, u"360"_qs},
-        {0,         u""_qs,    u"6"_qs, u""_qs},
+        {180,       u""_s,    u"6"_s, u"180"_s},
+        {180,       u""_s,    u"0"_s, u""_s},
+        {180,       u"360"_s, u"6"_s, u"360"_s},
+        {0,         u""_s,    u"6"_s, u""_s},
     };
     // clang-format on
     const Field term{FieldId::Term, Row0};
     for (const DefaultTermCase& c : cases) {
         m_worksheet.SetLoanTerm(c.defaultTerm);
-        Store({FieldId::InterestRate, Row0}, u""_qs);
+        Store({FieldId::InterestRate, Row0}, u""_s);
         Store(term, c.term);
         StartCounting();
         Store({FieldId::InterestRate, Row0}, c.rate);
         EXPECT_EQ(TextOf(term), c.shown) << c.defaultTerm << ", " << c.rate.toStdString();
         EXPECT_EQ(m_worksheet.EntryText(term), c.shown);
         EXPECT_LE(m_display.Of(term).texts, 1);
-        EXPECT_EQ(m_worksheet.Dirty(), c.rate != u"0"_qs);
+        EXPECT_EQ(m_worksheet.Dirty(), c.rate != u"0"_s);
     }
 }
 
@@ -244,9 +246,9 @@ TEST_F(WorksheetOfferTest, EveryRowFollowsTheLoanAmountAndTheEscrow) {
     m_worksheet.SetEscrowTaxes(Units(1800));
     m_worksheet.SetEscrowInsurance(Units(900));
     for (Row row{0}; row.value < 3; ++row.value) {
-        EXPECT_EQ(TextOf({FieldId::PandI, row}), u"$599.55"_qs);
-        EXPECT_EQ(TextOf({FieldId::Payment, row}), u"$824.55"_qs);
-        EXPECT_EQ(TextOf({FieldId::ActualPayment, row}), u"$824.55"_qs);
+        EXPECT_EQ(TextOf({FieldId::PandI, row}), u"$599.55"_s);
+        EXPECT_EQ(TextOf({FieldId::Payment, row}), u"$824.55"_s);
+        EXPECT_EQ(TextOf({FieldId::ActualPayment, row}), u"$824.55"_s);
         EXPECT_EQ(m_display.Of({FieldId::ActualPayment, row}).mark, Mark::Raised);
     }
     EXPECT_EQ(m_display.PaymentsRaised(), 6); // taxes, then insurance
@@ -254,17 +256,17 @@ TEST_F(WorksheetOfferTest, EveryRowFollowsTheLoanAmountAndTheEscrow) {
 
     m_worksheet.SetLoanAmount(Units(200'000));
     for (Row row{0}; row.value < 3; ++row.value) {
-        EXPECT_EQ(TextOf({FieldId::PandI, row}), u"$1,199.10"_qs);
+        EXPECT_EQ(TextOf({FieldId::PandI, row}), u"$1,199.10"_s);
     }
 }
 
 TEST_F(WorksheetOfferTest, GrowingKeepsWhatIsThere) {
-    Store(Intended, u"900"_qs);
-    m_worksheet.StoreWho(Row0, u"First Bank"_qs);
+    Store(Intended, u"900"_s);
+    m_worksheet.StoreWho(Row0, u"First Bank"_s);
     StartCounting();
     m_worksheet.GrowOfferArrays(Row0, Row{15});
     EXPECT_EQ(m_worksheet.HighestOfferRow(), Row{15});
-    EXPECT_EQ(m_worksheet.OfferOfRow(Row0).Who(), u"First Bank"_qs);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row0).Who(), u"First Bank"_s);
     EXPECT_EQ(m_worksheet.OfferOfRow(Row0).ActualPayment(), Units(900));
     EXPECT_FALSE(m_worksheet.Dirty());
     EXPECT_TRUE(m_display.TextsInOrder().empty());
@@ -278,11 +280,11 @@ TEST_F(WorksheetOfferTest, GrowingKeepsWhatIsThere) {
     // A new row lends the same amount, and an old one still knows its worksheet.
     const Row last{15};
     m_worksheet.SetLoanTerm(360);
-    m_worksheet.StoreChoice({FieldId::Frequency, last}, u"Monthly"_qs);
-    Store({FieldId::InterestRate, last}, u"6"_qs);
-    EXPECT_EQ(TextOf({FieldId::PandI, last}), u"$599.55"_qs);
+    m_worksheet.StoreChoice({FieldId::Frequency, last}, u"Monthly"_s);
+    Store({FieldId::InterestRate, last}, u"6"_s);
+    EXPECT_EQ(TextOf({FieldId::PandI, last}), u"$599.55"_s);
     StartCounting();
-    m_worksheet.StoreWho(Row0, u"Second Bank"_qs);
+    m_worksheet.StoreWho(Row0, u"Second Bank"_s);
     EXPECT_TRUE(m_worksheet.Dirty());
 }
 

@@ -3,6 +3,8 @@
 #include <functional>
 #include <type_traits>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A property of the worksheet with a value to write.
@@ -43,21 +45,21 @@ const std::vector<Case>& Properties() {
     // clang-format off
     static const std::vector<Case> cases{
         // setter and getter, value                                                           dirty  field                text               results
-        {Property(&W::SetLoanName, &W::LoanName, u"Home"_qs),                                 false, FieldId::LoanName,            u"Home"_qs,        {}},
-        {Property(&W::SetLoanType, &W::LoanType, u"M"_qs),                                    true,  FieldId::LoanType,            u"Mortgage"_qs,    {}},
-        {Property(&W::SetLoanType, &W::LoanType, u"Z"_qs),                                    true,  FieldId::LoanType,            u""_qs,            {}},
-        {Property(&W::SetLoanAmount, &W::LoanAmount, Units(1234.5)),                          true,  FieldId::LoanAmount,          u"$1,234.50"_qs,   {}},
-        {Property(&W::SetLoanTerm, &W::LoanTerm, 360),                                        true,  FieldId::LoanTerm,            u"360"_qs,         {}},
-        {Property(&W::SetEscrowTaxes, &W::EscrowTaxes, Units(1800)),                          true,  AnnualTaxes,         u"$1,800.00"_qs,   EscrowAndSchedule},
-        {Property(&W::SetEscrowInsurance, &W::EscrowInsurance, Units(900)),                   true,  AnnualInsurance,     u"$900.00"_qs,     EscrowAndSchedule},
-        {Property(&W::SetCurrentLoanAmount, &W::CurrentLoanAmount, Units(120'000)),           true,  CurLoanAmount,       u"$120,000.00"_qs, Schedule},
-        {Property(&W::SetCurrentTerm, &W::CurrentTerm, 186),                                  true,  CurLoanTerm,         u"186"_qs,         Schedule},
-        {Property(&W::SetCurrentInterestRate, &W::CurrentInterestRate, 0.065),                true,  CurInterestRate,     u"6.500%"_qs,      Schedule},
-        {Property(&W::SetCurrentFrequency, &W::CurrentFrequency, u"Every two weeks"_qs),      true,  CurPaymentFrequency, u"Every two weeks"_qs, {}},
-        {Property(&W::SetCurrentPayment, &W::CurrentPayment, Units(758.48)),                  true,  CurPayment,          u"$758.48"_qs,     Schedule},
-        {Property(&W::SetCurrentBalance, &W::CurrentBalance, Units(-10)),                     true,  CurrentBalance,      u"($10.00)"_qs,    Schedule},
-        {Property(&W::SetCurrentActualPayment, &W::CurrentActualPayment, Units(0.5)),         true,  CurActualPayment,    u"$0.50"_qs,       Schedule},
-        {Property(&W::SetCurrentActualFrequency, &W::CurrentActualFrequency, u"Monthly"_qs),  true,  ActPaymentFrequency, u"Monthly"_qs,     {}},
+        {Property(&W::SetLoanName, &W::LoanName, u"Home"_s),                                 false, FieldId::LoanName,            u"Home"_s,        {}},
+        {Property(&W::SetLoanType, &W::LoanType, u"M"_s),                                    true,  FieldId::LoanType,            u"Mortgage"_s,    {}},
+        {Property(&W::SetLoanType, &W::LoanType, u"Z"_s),                                    true,  FieldId::LoanType,            u""_s,            {}},
+        {Property(&W::SetLoanAmount, &W::LoanAmount, Units(1234.5)),                          true,  FieldId::LoanAmount,          u"$1,234.50"_s,   {}},
+        {Property(&W::SetLoanTerm, &W::LoanTerm, 360),                                        true,  FieldId::LoanTerm,            u"360"_s,         {}},
+        {Property(&W::SetEscrowTaxes, &W::EscrowTaxes, Units(1800)),                          true,  AnnualTaxes,         u"$1,800.00"_s,   EscrowAndSchedule},
+        {Property(&W::SetEscrowInsurance, &W::EscrowInsurance, Units(900)),                   true,  AnnualInsurance,     u"$900.00"_s,     EscrowAndSchedule},
+        {Property(&W::SetCurrentLoanAmount, &W::CurrentLoanAmount, Units(120'000)),           true,  CurLoanAmount,       u"$120,000.00"_s, Schedule},
+        {Property(&W::SetCurrentTerm, &W::CurrentTerm, 186),                                  true,  CurLoanTerm,         u"186"_s,         Schedule},
+        {Property(&W::SetCurrentInterestRate, &W::CurrentInterestRate, 0.065),                true,  CurInterestRate,     u"6.500%"_s,      Schedule},
+        {Property(&W::SetCurrentFrequency, &W::CurrentFrequency, u"Every two weeks"_s),      true,  CurPaymentFrequency, u"Every two weeks"_s, {}},
+        {Property(&W::SetCurrentPayment, &W::CurrentPayment, Units(758.48)),                  true,  CurPayment,          u"$758.48"_s,     Schedule},
+        {Property(&W::SetCurrentBalance, &W::CurrentBalance, Units(-10)),                     true,  CurrentBalance,      u"($10.00)"_s,    Schedule},
+        {Property(&W::SetCurrentActualPayment, &W::CurrentActualPayment, Units(0.5)),         true,  CurActualPayment,    u"$0.50"_s,       Schedule},
+        {Property(&W::SetCurrentActualFrequency, &W::CurrentActualFrequency, u"Monthly"_s),  true,  ActPaymentFrequency, u"Monthly"_s,     {}},
     };
     // clang-format on
     return cases;
@@ -132,9 +134,9 @@ TEST_F(WorksheetPropertiesTest, TheNextPaymentIsShownAsADate) {
 }
 
 TEST_F(WorksheetPropertiesTest, FrequenciesOfNoKnownTextAreNone) {
-    for (const QString& text : {u"monthly"_qs, u"M"_qs, u"Yearly"_qs, u""_qs}) {
-        m_worksheet.SetCurrentFrequency(u"Monthly"_qs);
-        m_worksheet.SetCurrentActualFrequency(u"Monthly"_qs);
+    for (const QString& text : {u"monthly"_s, u"M"_s, u"Yearly"_s, u""_s}) {
+        m_worksheet.SetCurrentFrequency(u"Monthly"_s);
+        m_worksheet.SetCurrentActualFrequency(u"Monthly"_s);
         m_worksheet.SetCurrentFrequency(text);
         m_worksheet.SetCurrentActualFrequency(text);
         EXPECT_EQ(m_worksheet.CurrentFrequency(), QString());
@@ -165,15 +167,15 @@ TEST_F(WorksheetPropertiesTest, TheMonthlyEscrowIsATwelfthInWholeCents) {
     // clang-format off
     const std::vector<EscrowCase> cases{
         // taxes  insurance  monthly  text
-        {1800,    900,       225.00,  u"$225.00"_qs},
-        {1000,    0,         83.33,   u"$83.33"_qs},
-        {0,       1000,      83.33,   u"$83.33"_qs},
-        {0.18,    0,         0.02,    u"$0.02"_qs}, // one and a half cents: halves to even
-        {0.30,    0,         0.02,    u"$0.02"_qs}, // two and a half
-        {0.06,    0,         0,       u""_qs}, // half a cent
-        {100,     -100,      0,       u""_qs},
-        {-1200,   0,         -100,    u"($100.00)"_qs},
-        {0,       0,         0,       u""_qs},
+        {1800,    900,       225.00,  u"$225.00"_s},
+        {1000,    0,         83.33,   u"$83.33"_s},
+        {0,       1000,      83.33,   u"$83.33"_s},
+        {0.18,    0,         0.02,    u"$0.02"_s}, // one and a half cents: halves to even
+        {0.30,    0,         0.02,    u"$0.02"_s}, // two and a half
+        {0.06,    0,         0,       u""_s}, // half a cent
+        {100,     -100,      0,       u""_s},
+        {-1200,   0,         -100,    u"($100.00)"_s},
+        {0,       0,         0,       u""_s},
     };
     // clang-format on
     for (const auto& [taxes, insurance, monthly, text] : cases) {

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 std::vector<Field> OfferResults(Row row) {
     return {{FieldId::PandI, row},
             {FieldId::Payment, row},
@@ -21,30 +23,30 @@ std::vector<Field> Sorted(std::initializer_list<std::vector<Field>> lists) {
 }
 
 WorksheetTest::WorksheetTest()
-    : m_worksheet(m_display, FieldTexts(DisplayFormats(QLocale(u"en_US"_qs)), true), [this] {
+    : m_worksheet(m_display, FieldTexts(DisplayFormats(QLocale(u"en_US"_s)), true), [this] {
           ++m_offerSchedules;
           return Date::FromCalendar(2026, 3, 10);
       }) {
-    Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), u"Loan"_qs);
+    Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), u"Loan"_s);
 }
 
 void WorksheetTest::EnterOffers(int count) {
     m_worksheet.SetLoanAmount(Units(100'000));
     m_worksheet.GrowOfferArrays(m_worksheet.HighestOfferRow(), Row{count - 1});
     for (Row row{0}; row.value < count; ++row.value) {
-        Store({FieldId::InterestRate, row}, u"6"_qs);
-        Store({FieldId::Term, row}, u"360"_qs);
-        m_worksheet.StoreChoice({FieldId::Frequency, row}, u"Monthly"_qs);
+        Store({FieldId::InterestRate, row}, u"6"_s);
+        Store({FieldId::Term, row}, u"360"_s);
+        m_worksheet.StoreChoice({FieldId::Frequency, row}, u"Monthly"_s);
     }
 }
 
 void WorksheetTest::EnterCurrentLoan() {
-    Store({FieldId::CurLoanAmount}, u"120000"_qs);
-    Store({FieldId::CurLoanTerm}, u"360"_qs);
-    Store({FieldId::CurInterestRate}, u"6.5"_qs);
-    Store({FieldId::CurrentBalance}, u"10000"_qs);
-    Store({FieldId::CurActualPayment}, u"1000"_qs);
-    m_worksheet.StoreChoice({FieldId::ActPaymentFrequency}, u"Monthly"_qs);
+    Store({FieldId::CurLoanAmount}, u"120000"_s);
+    Store({FieldId::CurLoanTerm}, u"360"_s);
+    Store({FieldId::CurInterestRate}, u"6.5"_s);
+    Store({FieldId::CurrentBalance}, u"10000"_s);
+    Store({FieldId::CurActualPayment}, u"1000"_s);
+    m_worksheet.StoreChoice({FieldId::ActPaymentFrequency}, u"Monthly"_s);
     m_worksheet.SetCurrentNextPayment(Date::FromCalendar(2026, 3, 1));
 }
 

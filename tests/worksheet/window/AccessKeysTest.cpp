@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Appearance {
@@ -109,17 +111,16 @@ TEST_P(AccessKeys, LeadToTheControlOfTheirLabel) {
     EXPECT_GE(tried, 10);
 }
 
-const QStringList UpperBand = {u"cboLoanName"_qs, u"cboLoanType"_qs,    u"txtLoanAmount"_qs,
-                               u"txtLoanTerm"_qs, u"txtAnnualTaxes"_qs, u"txtAnnualInsurance"_qs};
-const QStringList CurrentBand = {u"txtCurLoanAmount"_qs,    u"txtCurLoanTerm"_qs,
-                                 u"txtCurInterestRate"_qs,  u"cboCurPaymentFrequency"_qs,
-                                 u"txtCurActualPayment"_qs, u"cboActPaymentFrequency"_qs,
-                                 u"dtNextPayment"_qs,       u"txtCurrentBalance"_qs};
-const QStringList Headings = {u"cmdPayoffDate"_qs, u"cmdInterest"_qs};
-const QStringList RowBand = {u"chkPoints(%1)"_qs,       u"txtPoints(%1)"_qs,
-                             u"txtInterestRate(%1)"_qs, u"txtTerm(%1)"_qs,
-                             u"cboFrequency(%1)"_qs,    u"txtActualPayment(%1)"_qs,
-                             u"txtWho(%1)"_qs};
+const QStringList UpperBand = {u"cboLoanName"_s, u"cboLoanType"_s,    u"txtLoanAmount"_s,
+                               u"txtLoanTerm"_s, u"txtAnnualTaxes"_s, u"txtAnnualInsurance"_s};
+const QStringList CurrentBand = {u"txtCurLoanAmount"_s,    u"txtCurLoanTerm"_s,
+                                 u"txtCurInterestRate"_s,  u"cboCurPaymentFrequency"_s,
+                                 u"txtCurActualPayment"_s, u"cboActPaymentFrequency"_s,
+                                 u"dtNextPayment"_s,       u"txtCurrentBalance"_s};
+const QStringList Headings = {u"cmdPayoffDate"_s, u"cmdInterest"_s};
+const QStringList RowBand = {u"chkPoints(%1)"_s, u"txtPoints(%1)"_s,    u"txtInterestRate(%1)"_s,
+                             u"txtTerm(%1)"_s,   u"cboFrequency(%1)"_s, u"txtActualPayment(%1)"_s,
+                             u"txtWho(%1)"_s};
 
 class TabOrder : public WindowTest {
 protected:

@@ -8,6 +8,8 @@
 #include <QDateEdit>
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Commit : public WindowTest, public ::testing::WithParamInterface<NumberField> {
@@ -54,7 +56,7 @@ TEST_P(Commit, ARefusedFieldKeepsTheLanguage) {
     Paste(u"12abc");
     SwitchLanguage(Spanish);
     EXPECT_EQ(Language::Instance().CurrentLanguage(), English);
-    EXPECT_TRUE(Window().findChild<QAction*>(u"mnuToolsLanguageOpt(1)"_qs)->isChecked());
+    EXPECT_TRUE(Window().findChild<QAction*>(u"mnuToolsLanguageOpt(1)"_s)->isChecked());
     EXPECT_EQ(Text(u"lblLoanName"), u"Loan &Name:");
     EXPECT_EQ(SettledMessages().size(), 1);
     EXPECT_EQ(FocusName(), GetParam().name);
@@ -119,11 +121,11 @@ TEST_F(CommitOfOthers, ExitOfTheMenuStopsOnARefusedField) {
     Open();
     Click(u"txtLoanAmount");
     Paste(u"12abc");
-    Window().findChild<QAction*>(u"mnuFileExit"_qs)->trigger();
+    Window().findChild<QAction*>(u"mnuFileExit"_s)->trigger();
     EXPECT_TRUE(Window().isVisible());
     EXPECT_EQ(SettledMessages().size(), 1);
     Press(Qt::Key_Delete);
-    Window().findChild<QAction*>(u"mnuFileExit"_qs)->trigger();
+    Window().findChild<QAction*>(u"mnuFileExit"_s)->trigger();
     EXPECT_FALSE(Window().isVisible());
 }
 

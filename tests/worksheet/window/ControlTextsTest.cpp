@@ -25,6 +25,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Appearance {
@@ -174,7 +176,7 @@ TEST_P(ControlTexts, EveryTextIsShown) {
 }
 
 TEST_P(ControlTexts, EveryFieldOfARowIsNamedWithItsRow) {
-    const QString offer = GetParam().language == English ? u"Offer %1, "_qs : u"Oferta %1, "_qs;
+    const QString offer = GetParam().language == English ? u"Offer %1, "_s : u"Oferta %1, "_s;
     Click(u"txtPoints(5)");
     Press(Qt::Key_Down);
     SwitchLanguage(English + Spanish - GetParam().language);

@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// As accessibility guides compute it: 1 is none, 21 is black on white.
@@ -33,7 +35,7 @@ double Contrast(const QColor& one, const QColor& other) {
 class DarkPalette : public WindowTest {
 protected:
     DarkPalette() {
-        QApplication::setStyle(u"fusion"_qs);
+        QApplication::setStyle(u"fusion"_s);
         QPalette dark(QColor(53, 53, 53), QColor(53, 53, 53));
         dark.setColor(QPalette::Base, QColor(25, 25, 25));
         dark.setColor(QPalette::Text, Qt::white);
@@ -47,7 +49,7 @@ protected:
     ~DarkPalette() override {
         Shut();
         QApplication::setPalette(m_before);
-        QApplication::setStyle(u"fusion"_qs);
+        QApplication::setStyle(u"fusion"_s);
     }
 
     /// The best contrast that the outermost pixels of a control's left edge make with the window.

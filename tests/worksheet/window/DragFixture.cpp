@@ -6,6 +6,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 std::unique_ptr<QMimeData> DataOf(QStringView text) {
@@ -61,10 +63,10 @@ void DragTest::FillOffers() {
         CLoan& offer = sheet.OfferOfRow(row);
         offer.SetPoints(points.at(index));
         offer.SetTerm(360);
-        offer.SetFrequencyCode(u"M"_qs);
+        offer.SetFrequencyCode(u"M"_s);
         offer.SetInterestRate(rates.at(index));
         offer.SetActualPayment(Money::FromDouble(payments.at(index)));
-        offer.SetWho(u"Bank %1"_qs.arg(row.value + 1));
+        offer.SetWho(u"Bank %1"_s.arg(row.value + 1));
         sheet.ShowOffer(row);
     }
     sheet.ClearDirty();

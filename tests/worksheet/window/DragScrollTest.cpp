@@ -10,6 +10,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class DragScrolling : public DragTest {
@@ -20,10 +22,10 @@ protected:
         Window().Rows().GrowTo(Row{15});
         Bar().setValue(0);
         Settle();
-        m_data.setText(u"1.5"_qs);
+        m_data.setText(u"1.5"_s);
     }
 
-    QTimer& Timer() { return *Window().findChild<QTimer*>(u"tmrDragScroll"_qs); }
+    QTimer& Timer() { return *Window().findChild<QTimer*>(u"tmrDragScroll"_s); }
     int TopRow() const { return Bar().value() / RowHeight(); }
     /// Holds a value at a height of the frame, over the points or another column.
     Offered Hold(int y, QStringView column = u"txtPoints(0)") {
@@ -105,7 +107,7 @@ TEST_F(DragScrolling, ADropGoesToTheRowThatHasComeUnderTheMouse) {
 }
 
 TEST_F(DragScrolling, ADropIsRefusedWhereWhatHasComeTakesNone) {
-    m_data.setText(u"0.0625"_qs);
+    m_data.setText(u"0.0625"_s);
     EXPECT_EQ(Hold(Bottom(), u"txtWho(0)"), Copied);
     m_held.setX(Control(u"txtTerm(0)").mapTo(&Control(u"picScroll"), QPoint(5, 0)).x());
     EXPECT_EQ(LetGo(), Refused);

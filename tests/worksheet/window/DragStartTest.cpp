@@ -11,6 +11,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What a drag takes along when it begins.
@@ -153,7 +155,7 @@ TEST_F(DragStart, WhatIsRefusedDoesNotTravel) {
     Press(Qt::Key_A, Qt::ControlModifier);
     EXPECT_TRUE(Drag(u"txtPoints(0)").empty());
     EXPECT_TRUE(WaitFor([this] { return !Door().Texts().isEmpty(); })); // once the button is up
-    EXPECT_EQ(SettledMessages(), QStringList{u"Please enter a number of the form nnnn.nnn"_qs});
+    EXPECT_EQ(SettledMessages(), QStringList{u"Please enter a number of the form nnnn.nnn"_s});
     EXPECT_EQ(Text(u"txtPoints(0)"), u"1.2.3");
 }
 

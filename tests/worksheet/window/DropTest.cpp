@@ -5,6 +5,8 @@
 #include <QLineEdit>
 #include <QScrollBar>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class DropOnFields : public DragTest {
@@ -54,7 +56,7 @@ TEST_F(DropOnFields, GoesToTheOfferThatTheRowShowsAfterASort) {
 
 // A lender of several lines travels whole, though the field shows it in one.
 TEST_F(DropOnFields, LenderOfSeveralLinesKeepsThem) {
-    const QString lender = u"Old Mill Bank\r\nMs. Ito, 555-0100\r\nÑandú 💶"_qs;
+    const QString lender = u"Old Mill Bank\r\nMs. Ito, 555-0100\r\nÑandú 💶"_s;
     EXPECT_EQ(Drop(u"txtWho(1)", lender), Copied);
     EXPECT_EQ(Sheet().OfferOfRow(Row{1}).Who(), lender);
     Click(u"txtWho(1)");
@@ -110,7 +112,7 @@ TEST_F(DropOnFields, IsAnnouncedOnlyWherePossible) {
 
 TEST_F(DropOnFields, WhatIsNoTextIsRefused) {
     QMimeData picture;
-    picture.setData(u"image/png"_qs, "no text");
+    picture.setData(u"image/png"_s, "no text");
     for (const QStringView field :
          {u"txtPoints(1)", u"txtInterestRate(1)", u"txtActualPayment(1)", u"txtWho(1)"}) {
         EXPECT_EQ(Over(field, picture), Refused) << field.toString().toStdString();
@@ -206,7 +208,7 @@ TEST_F(DropOnFields, NothingIsTakenWhileTheRowHoldsWhatIsRefused) {
     Enter(u"txtTerm(0)");
     Paste(u"1.2.3");
     EXPECT_EQ(Drop(u"txtPoints(0)", u"2"), Refused);
-    EXPECT_EQ(SettledMessages(), QStringList{u"Please enter a number of the form nnnn.nnn"_qs});
+    EXPECT_EQ(SettledMessages(), QStringList{u"Please enter a number of the form nnnn.nnn"_s});
     EXPECT_EQ(Text(u"txtTerm(0)"), u"1.2.3");
     EXPECT_EQ(Text(u"txtPoints(0)"), u"1.500");
 }

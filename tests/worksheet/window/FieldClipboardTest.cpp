@@ -12,6 +12,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString Clipped() { return QApplication::clipboard()->text(); }
@@ -136,7 +138,7 @@ TEST_F(FieldClipboard, TheRefusalSpeaksTheUsersLanguage) {
     PasteClipped();
     EXPECT_EQ(
         SettledMessages(),
-        QStringList{u"No se puede pegar «0.0625» aquí. Pegue un número de la forma nnnn.nnn"_qs});
+        QStringList{u"No se puede pegar «0.0625» aquí. Pegue un número de la forma nnnn.nnn"_s});
 }
 
 TEST_F(FieldClipboard, NothingSelectedInANumberIsAllOfIt) {
@@ -208,7 +210,7 @@ TEST_F(FieldClipboard, WhatIsBeingTypedIsText) {
 }
 
 TEST_F(FieldClipboard, TheMenuStoresWhatIsBeingTypedBeforeItIsCopied) {
-    const auto copy = [](const QMenu& menu) { Entry(menu, u"Copy &Value"_qs).trigger(); };
+    const auto copy = [](const QMenu& menu) { Entry(menu, u"Copy &Value"_s).trigger(); };
     Enter(u"txtInterestRate(0)");
     Type(u"7");
     InMenu(u"txtInterestRate(0)", copy);
@@ -219,20 +221,20 @@ TEST_F(FieldClipboard, TheMenuStoresWhatIsBeingTypedBeforeItIsCopied) {
     Clip(u"as before");
     InMenu(u"txtInterestRate(0)", copy);
     EXPECT_EQ(Clipped(), u"as before");
-    EXPECT_EQ(SettledMessages(), QStringList{u"Please enter a number of the form nnnn.nnn"_qs});
+    EXPECT_EQ(SettledMessages(), QStringList{u"Please enter a number of the form nnnn.nnn"_s});
 }
 
 TEST_F(FieldClipboard, TheMenuSpeaksTheUsersLanguage) {
     InMenu(u"txtPoints(0)", [](const QMenu& menu) {
-        EXPECT_EQ(Entries(menu), (QStringList{u"&Undo"_qs, u"&Redo"_qs, u"Cu&t"_qs, u"&Copy"_qs,
-                                              u"&Paste"_qs, u"Delete"_qs, u"Select All"_qs,
-                                              u"Copy &Value"_qs, u"Paste Va&lue"_qs}));
+        EXPECT_EQ(Entries(menu),
+                  (QStringList{u"&Undo"_s, u"&Redo"_s, u"Cu&t"_s, u"&Copy"_s, u"&Paste"_s,
+                               u"Delete"_s, u"Select All"_s, u"Copy &Value"_s, u"Paste Va&lue"_s}));
     });
     SwitchLanguage(Spanish);
-    const QStringList text{u"&Deshacer"_qs, u"&Rehacer"_qs, u"Cor&tar"_qs,         u"&Copiar"_qs,
-                           u"&Pegar"_qs,    u"Borrar"_qs,   u"Seleccionar todo"_qs};
+    const QStringList text{u"&Deshacer"_s, u"&Rehacer"_s, u"Cor&tar"_s,         u"&Copiar"_s,
+                           u"&Pegar"_s,    u"Borrar"_s,   u"Seleccionar todo"_s};
     InMenu(u"txtPoints(0)", [&](const QMenu& menu) {
-        EXPECT_EQ(Entries(menu), text + QStringList({u"Copiar &valor"_qs, u"Pegar va&lor"_qs}));
+        EXPECT_EQ(Entries(menu), text + QStringList({u"Copiar &valor"_s, u"Pegar va&lor"_s}));
     });
     InMenu(u"txtTerm(0)", [&](const QMenu& menu) { EXPECT_EQ(Entries(menu), text); });
 }
@@ -260,9 +262,9 @@ TEST_F(FieldClipboard, TheMenuOffersWhatIsPossible) {
             Clip(row.clipped);
         }
         InMenu(row.field, [&](const QMenu& menu) {
-            EXPECT_EQ(Entry(menu, u"Copy &Value"_qs).isEnabled(), row.copies)
+            EXPECT_EQ(Entry(menu, u"Copy &Value"_s).isEnabled(), row.copies)
                 << row.field.toString().toStdString();
-            EXPECT_EQ(Entry(menu, u"Paste Va&lue"_qs).isEnabled(), row.pastes)
+            EXPECT_EQ(Entry(menu, u"Paste Va&lue"_s).isEnabled(), row.pastes)
                 << row.field.toString().toStdString();
         });
     }
@@ -270,15 +272,15 @@ TEST_F(FieldClipboard, TheMenuOffersWhatIsPossible) {
 
 TEST_F(FieldClipboard, TheMenuPastesAsADropDoes) {
     InMenu(u"txtInterestRate(0)",
-           [](const QMenu& menu) { Entry(menu, u"Copy &Value"_qs).trigger(); });
+           [](const QMenu& menu) { Entry(menu, u"Copy &Value"_s).trigger(); });
     EXPECT_EQ(Clipped(), u"0.065");
     Clip(u"0.07"); // from elsewhere
     InMenu(u"txtInterestRate(1)",
-           [](const QMenu& menu) { Entry(menu, u"Paste Va&lue"_qs).trigger(); });
+           [](const QMenu& menu) { Entry(menu, u"Paste Va&lue"_s).trigger(); });
     EXPECT_EQ(Sheet().OfferOfRow(Row{1}).InterestRate(), 0.07);
     Clip(u"-");
-    InMenu(u"txtPoints(1)", [](const QMenu& menu) { Entry(menu, u"Paste Va&lue"_qs).trigger(); });
-    EXPECT_EQ(SettledMessages(), QStringList{u"errn=13  src=Loan  desc=Type mismatch"_qs});
+    InMenu(u"txtPoints(1)", [](const QMenu& menu) { Entry(menu, u"Paste Va&lue"_s).trigger(); });
+    EXPECT_EQ(SettledMessages(), QStringList{u"errn=13  src=Loan  desc=Type mismatch"_s});
 }
 
 } // namespace

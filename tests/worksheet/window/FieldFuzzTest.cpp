@@ -17,6 +17,8 @@
 #include <QScreen>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class FieldFuzz : public DragTest {
@@ -33,8 +35,8 @@ protected:
         m_refusal = GetParamText(number % starts.size() == 2);
     }
     static QString GetParamText(bool spanish) {
-        return spanish ? u"Escriba un número de la forma"_qs
-                       : u"Please enter a number of the form"_qs;
+        return spanish ? u"Escriba un número de la forma"_s
+                       : u"Please enter a number of the form"_s;
     }
 
     /// The field that a text goes into, and how.
@@ -110,15 +112,15 @@ private:
     static void Clip(const QString& text, bool asValue, const NumberField& field) {
         auto data = std::make_unique<QMimeData>();
         data->setText(text);
-        data->setHtml(u"<b>"_qs + text);
+        data->setHtml(u"<b>"_s + text);
         if (asValue) {
-            data->setData(u"application/x-quend-loan-value"_qs, field.name.toLatin1());
+            data->setData(u"application/x-quend-loan-value"_s, field.name.toLatin1());
         }
         QApplication::clipboard()->setMimeData(data.release());
     }
 
-    const QString Overflow = u"errn=6  src=Loan  desc=Overflow"_qs;
-    const QString NoNumber = u"errn=13  src=Loan  desc=Type mismatch"_qs;
+    const QString Overflow = u"errn=6  src=Loan  desc=Overflow"_s;
+    const QString NoNumber = u"errn=13  src=Loan  desc=Type mismatch"_s;
     std::optional<DisplayFormats> m_formats;
     QString m_refusal;
 };

@@ -13,6 +13,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class FieldRefusal : public WindowTest, public ::testing::WithParamInterface<NumberField> {
@@ -108,7 +110,7 @@ TEST_F(LimitsOfFields, TheLargestAmountIsTakenAndTheNextIsNot) {
     BackTab();
     EXPECT_EQ(Text(u"txtCurLoanAmount"), u"922337203685477.58");
     Fill(u"txtCurLoanAmount", u"922337203685477.59");
-    EXPECT_EQ(SettledMessages(), QStringList(u"errn=6  src=Loan  desc=Overflow"_qs));
+    EXPECT_EQ(SettledMessages(), QStringList(u"errn=6  src=Loan  desc=Overflow"_s));
     EXPECT_EQ(FocusName(), u"txtCurLoanAmount");
 }
 
@@ -117,7 +119,7 @@ TEST_F(LimitsOfFields, ATermOfTooManyMonthsIsRefusedInYears) {
     for (const QStringView field : {u"txtLoanTerm", u"txtCurLoanTerm", u"txtTerm(0)"}) {
         Door().Clear();
         Fill(field, u"178956971"); // times twelve: 2^31 + 4
-        EXPECT_EQ(SettledMessages(), QStringList(u"errn=6  src=Loan  desc=Overflow"_qs));
+        EXPECT_EQ(SettledMessages(), QStringList(u"errn=6  src=Loan  desc=Overflow"_s));
         EXPECT_EQ(FocusName(), field);
         Type(u"1");
         Tab();

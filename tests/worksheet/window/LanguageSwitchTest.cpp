@@ -10,13 +10,15 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class LanguageSwitch : public WindowTest {
 protected:
     bool IsMarked(int language) {
         return Window()
-            .findChild<QAction*>(u"mnuToolsLanguageOpt(%1)"_qs.arg(language))
+            .findChild<QAction*>(u"mnuToolsLanguageOpt(%1)"_s.arg(language))
             ->isChecked();
     }
     static QStringList Entries(const QComboBox& list) {
@@ -29,15 +31,15 @@ protected:
 };
 
 const std::vector<QStringList> Frequencies = {
-    {u"Monthly"_qs, u"Twice a month"_qs, u"Every two weeks"_qs, u"Every four weeks"_qs},
-    {u"Mensual"_qs, u"Dos veces al mes"_qs, u"Cada dos semanas"_qs, u"Cada cuatro semanas"_qs},
+    {u"Monthly"_s, u"Twice a month"_s, u"Every two weeks"_s, u"Every four weeks"_s},
+    {u"Mensual"_s, u"Dos veces al mes"_s, u"Cada dos semanas"_s, u"Cada cuatro semanas"_s},
 };
 
 const std::vector<QStringList> LoanTypes = {
-    {u"Mortgage"_qs, u"Auto"_qs, u"Business"_qs, u"Construction"_qs, u"Home equity"_qs,
-     u"Debt consolidation"_qs},
-    {u"Hipoteca"_qs, u"Automóvil"_qs, u"Negocio"_qs, u"Construcción"_qs,
-     u"Valor neto de la vivienda"_qs, u"Consolidación de deudas"_qs},
+    {u"Mortgage"_s, u"Auto"_s, u"Business"_s, u"Construction"_s, u"Home equity"_s,
+     u"Debt consolidation"_s},
+    {u"Hipoteca"_s, u"Automóvil"_s, u"Negocio"_s, u"Construcción"_s, u"Valor neto de la vivienda"_s,
+     u"Consolidación de deudas"_s},
 };
 
 TEST_F(LanguageSwitch, RefillsEveryListAndKeepsItsChoice) {
@@ -76,13 +78,13 @@ TEST_F(LanguageSwitch, KeepsEveryValueAndTheResults) {
     Fill(u"txtCurInterestRate", u"6");
     FillFirstOffer();
     Fill(u"txtWho(0)", u"Bank");
-    const QStringList shown = {u"cboLoanName"_qs,        u"txtLoanAmount"_qs,
-                               u"txtAnnualTaxes"_qs,     u"txtMonthlyEscrow"_qs,
-                               u"txtCurInterestRate"_qs, u"txtInterestRate(0)"_qs,
-                               u"txtTerm(0)"_qs,         u"txtPandI(0)"_qs,
-                               u"txtPayment(0)"_qs,      u"txtActualPayment(0)"_qs,
-                               u"txtPayoffDate(0)"_qs,   u"txtInterest(0)"_qs,
-                               u"txtWho(0)"_qs};
+    const QStringList shown = {u"cboLoanName"_s,        u"txtLoanAmount"_s,
+                               u"txtAnnualTaxes"_s,     u"txtMonthlyEscrow"_s,
+                               u"txtCurInterestRate"_s, u"txtInterestRate(0)"_s,
+                               u"txtTerm(0)"_s,         u"txtPandI(0)"_s,
+                               u"txtPayment(0)"_s,      u"txtActualPayment(0)"_s,
+                               u"txtPayoffDate(0)"_s,   u"txtInterest(0)"_s,
+                               u"txtWho(0)"_s};
     QStringList before;
     for (const QString& name : shown) {
         before.append(Text(name));
@@ -129,12 +131,12 @@ TEST_F(LanguageSwitch, ReachesEveryKindOfText) {
     EXPECT_EQ(Text(u"lblPandI"), u"C && I");
     EXPECT_EQ(Control(u"txtPoints(3)").toolTip(), u"Puntos que se pagan al cierre");
     EXPECT_EQ(Control(u"mnuFile").property("title").toString(), u"&Archivo");
-    EXPECT_EQ(Window().findChild<QAction*>(u"mnuFileExit"_qs)->text(), u"&Salir");
+    EXPECT_EQ(Window().findChild<QAction*>(u"mnuFileExit"_s)->text(), u"&Salir");
     EXPECT_EQ(Window().windowTitle(), u"Quend Loan");
     Click(u"txtLoanAmount");
     Paste(u"1.2.3");
     Tab();
-    EXPECT_EQ(SettledMessages(), QStringList(u"Escriba un número de la forma nnnn.nn"_qs));
+    EXPECT_EQ(SettledMessages(), QStringList(u"Escriba un número de la forma nnnn.nn"_s));
 }
 
 TEST_F(LanguageSwitch, BringsNoTooltipBackThatIsAway) {
@@ -186,7 +188,7 @@ class MissingComponent : public LanguageSwitch {
 protected:
     MissingComponent() {
         const QDir folder(QStringLiteral(QUEND_PROGRAM_DIR));
-        for (const QString& file : folder.entryList({u"Loan000*"_qs}, QDir::Files)) {
+        for (const QString& file : folder.entryList({u"Loan000*"_s}, QDir::Files)) {
             EXPECT_TRUE(QFile::copy(folder.filePath(file), m_program.filePath(file)));
         }
         Language::Instance().SetUp(m_program.path(), QStringLiteral("Loan"));

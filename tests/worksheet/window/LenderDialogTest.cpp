@@ -18,10 +18,12 @@
 #include <stdexcept>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString Contact =
-    u"First Prairie Bank\r\nMs. Ñandú – 中文 \U0001F3E0\r\n\ttel. 555\u00A00100"_qs;
+    u"First Prairie Bank\r\nMs. Ñandú – 中文 \U0001F3E0\r\n\ttel. 555\u00A00100"_s;
 
 class LenderDialog : public WindowTest {
 protected:
@@ -60,7 +62,7 @@ protected:
             user);
     }
     static QPlainTextEdit& TextOf(const dlgWho& dialog) {
-        return *dialog.findChild<QPlainTextEdit*>(u"txtWho"_qs);
+        return *dialog.findChild<QPlainTextEdit*>(u"txtWho"_s);
     }
     static QPushButton& Button(const dlgWho& dialog, QStringView name) {
         return *dialog.findChild<QPushButton*>(name.toString());
@@ -86,12 +88,12 @@ struct DialogEnd {
 
 const std::vector<DialogEnd>& DialogEnds() {
     static const std::vector<DialogEnd> ways{
-        {"OK", [](dlgWho& d) { d.findChild<QPushButton*>(u"cmdOK"_qs)->click(); }, true},
+        {"OK", [](dlgWho& d) { d.findChild<QPushButton*>(u"cmdOK"_s)->click(); }, true},
         {"return", [](dlgWho& d) { QTest::keyClick(d.windowHandle(), Qt::Key_Return); }, true},
         {"enter",
          [](dlgWho& d) { QTest::keyClick(d.windowHandle(), Qt::Key_Enter, Qt::KeypadModifier); },
          true},
-        {"Cancel", [](dlgWho& d) { d.findChild<QPushButton*>(u"cmdCancel"_qs)->click(); }, false},
+        {"Cancel", [](dlgWho& d) { d.findChild<QPushButton*>(u"cmdCancel"_s)->click(); }, false},
         {"escape", [](dlgWho& d) { QTest::keyClick(d.windowHandle(), Qt::Key_Escape); }, false},
         {"close", [](dlgWho& d) { d.close(); }, false},
     };
@@ -101,15 +103,15 @@ const std::vector<DialogEnd>& DialogEnds() {
 TEST_F(LenderDialog, EveryWayOutStoresOrDoesNot) {
     for (const DialogEnd& way : DialogEnds()) {
         SCOPED_TRACE(way.name);
-        SheetToWrite().StoreWho(Row{1}, u"Old Bank"_qs);
+        SheetToWrite().StoreWho(Row{1}, u"Old Bank"_s);
         SheetToWrite().ClearDirty();
         EXPECT_TRUE(DoubleClick(u"txtWho(1)", [&](dlgWho& dialog) {
             EXPECT_EQ(TextOf(dialog).toPlainText(), u"Old Bank");
-            Replace(dialog, u"New Bank"_qs);
+            Replace(dialog, u"New Bank"_s);
             way.leave(dialog);
             EXPECT_FALSE(dialog.isVisible());
         }));
-        EXPECT_EQ(Who(1), way.stores ? u"New Bank"_qs : u"Old Bank"_qs);
+        EXPECT_EQ(Who(1), way.stores ? u"New Bank"_s : u"Old Bank"_s);
         EXPECT_EQ(Text(u"txtWho(1)"), Who(1));
         EXPECT_EQ(Sheet().Dirty(), way.stores);
         EXPECT_EQ(FocusName(), u"txtWho(1)");
@@ -118,7 +120,7 @@ TEST_F(LenderDialog, EveryWayOutStoresOrDoesNot) {
 }
 
 TEST_F(LenderDialog, AnEmptyTextClearsTheLender) {
-    SheetToWrite().StoreWho(Row{0}, u"Bank"_qs);
+    SheetToWrite().StoreWho(Row{0}, u"Bank"_s);
     EXPECT_TRUE(DoubleClick(u"txtWho(0)", [](dlgWho& dialog) {
         Replace(dialog, {});
         Button(dialog, u"cmdOK").click();
@@ -128,12 +130,12 @@ TEST_F(LenderDialog, AnEmptyTextClearsTheLender) {
 }
 
 TEST_F(LenderDialog, AfterASortTheOfferInTheRowIsEdited) {
-    SheetToWrite().StoreWho(Row{2}, u"Third"_qs); // the only offer with an entry
+    SheetToWrite().StoreWho(Row{2}, u"Third"_s); // the only offer with an entry
     Click(u"cmdPayoffDate");
     ASSERT_EQ(Text(u"txtWho(0)"), u"Third");
     EXPECT_TRUE(DoubleClick(u"txtWho(0)", [](dlgWho& dialog) {
         EXPECT_EQ(TextOf(dialog).toPlainText(), u"Third");
-        Replace(dialog, u"Changed"_qs);
+        Replace(dialog, u"Changed"_s);
         Button(dialog, u"cmdOK").click();
     }));
     EXPECT_EQ(Who(2), u"Changed");
@@ -147,7 +149,7 @@ TEST_F(LenderDialog, F2OpensItWithWhatIsBeingTyped) {
     EXPECT_TRUE(InDialog([&] { Press(Qt::Key_F2); },
                          [](dlgWho& dialog) {
                              EXPECT_EQ(TextOf(dialog).toPlainText(), u"Bank");
-                             QTest::keyClicks(&TextOf(dialog), u"s"_qs);
+                             QTest::keyClicks(&TextOf(dialog), u"s"_s);
                              Key(dialog, Qt::Key_Return);
                          }));
     EXPECT_EQ(Who(3), u"Banks") << "typed at the end";
@@ -171,8 +173,8 @@ TEST_F(LenderDialog, ARefusedFieldKeepsItClosed) {
 
 TEST_F(LenderDialog, LinesAndCharactersSurvive) {
     for (const QString& text :
-         {Contact, u"one\ntwo"_qs, u"one\rtwo"_qs, u"a\u2028b\u2029c"_qs, u"  blanks  "_qs,
-          u"\u05D0\u05D1 e\u0301 \U0001D11E"_qs, QString(40'000, u'x')}) {
+         {Contact, u"one\ntwo"_s, u"one\rtwo"_s, u"a\u2028b\u2029c"_s, u"  blanks  "_s,
+          u"\u05D0\u05D1 e\u0301 \U0001D11E"_s, QString(40'000, u'x')}) {
         SheetToWrite().StoreWho(Row{0}, text);
         SheetToWrite().ClearDirty();
         // Looked at in the row and in the dialog.
@@ -192,16 +194,16 @@ TEST_F(LenderDialog, EditedLinesKeepTheirCharacters) {
     EXPECT_TRUE(DoubleClick(u"txtWho(0)", [](dlgWho& dialog) {
         Key(dialog, Qt::Key_Return, Qt::ShiftModifier);
         Key(dialog, Qt::Key_Return, Qt::ControlModifier);
-        QTest::keyClicks(&TextOf(dialog), u"end"_qs);
+        QTest::keyClicks(&TextOf(dialog), u"end"_s);
         Key(dialog, Qt::Key_Return);
     }));
-    EXPECT_EQ(Who(0), Contact + u"\r\n\r\nend"_qs);
+    EXPECT_EQ(Who(0), Contact + u"\r\n\r\nend"_s);
     // The row's field keeps the breaks of what is edited there.
     Enter(u"txtWho(0)");
     Press(Qt::Key_End);
     Type(u"s");
     Tab();
-    EXPECT_EQ(Who(0), Contact + u"\r\n\r\nends"_qs);
+    EXPECT_EQ(Who(0), Contact + u"\r\n\r\nends"_s);
 }
 
 TEST_F(LenderDialog, SpeaksTheLanguage) {

@@ -12,6 +12,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ResultsByKeyboard : public WindowTest {
@@ -142,7 +144,7 @@ TEST_F(WideFigures, AreWholeInTheToolTip) {
     EXPECT_TRUE(ToolTipOver(u"txtLoanAmount").contains(Control(u"txtLoanAmount").toolTip()));
     Fill(u"txtLoanAmount", u"100000");
     EXPECT_EQ(ToolTipOver(u"txtLoanAmount"), Control(u"txtLoanAmount").toolTip());
-    const QString lender = u"A bank with a <b>very</b> long name & a longer one behind it"_qs;
+    const QString lender = u"A bank with a <b>very</b> long name & a longer one behind it"_s;
     Fill(u"txtWho(0)", lender);
     EXPECT_TRUE(ToolTipOver(u"txtWho(0)").contains(lender.toHtmlEscaped()));
 }

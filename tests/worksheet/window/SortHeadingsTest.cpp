@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int Offers = 3;
@@ -70,7 +72,7 @@ TEST_F(SortHeadings, SortByOneAndByTheOther) {
 
 TEST_F(SortHeadings, EveryFieldOfTheRowGoesAlong) {
     SheetToWrite().StoreFinancePoints(Row{2}, true);
-    SheetToWrite().StoreNumber({FieldId::Points, Row{2}}, u"1.5"_qs);
+    SheetToWrite().StoreNumber({FieldId::Points, Row{2}}, u"1.5"_s);
     SheetToWrite().StoreChoice({FieldId::Frequency, Row{2}}, GetResourceText(112));
     std::vector<QString> before;
     for (const FieldRule& field : OfferFields()) {

@@ -7,6 +7,8 @@
 #include <QDateEdit>
 #include <QLineEdit>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct StartCase {
@@ -92,10 +94,10 @@ TEST_F(Closing, ByTheKeysOfTheMenu) {
 TEST_F(Closing, WhatStillWaitsIsShownOnce) {
     Open();
     Door().WhileOpen([] { Settle(); }); // a box lets other events happen
-    Window().GetMessages().Post(u"one"_qs);
-    Window().GetMessages().Post(u"two"_qs);
+    Window().GetMessages().Post(u"one"_s);
+    Window().GetMessages().Post(u"two"_s);
     Window().GetMessages().ShowRest();
-    EXPECT_EQ(Door().Texts(), (QStringList{u"one"_qs, u"two"_qs}));
+    EXPECT_EQ(Door().Texts(), (QStringList{u"one"_s, u"two"_s}));
     EXPECT_EQ(SettledMessages().size(), 2);
     EXPECT_FALSE(Window().GetMessages().Waiting());
 }

@@ -21,6 +21,8 @@
 #include <string>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString Plain(QString text) { return text.remove(u'&'); }
@@ -62,22 +64,22 @@ protected:
 };
 
 const std::array<QStringList, 2> EditEntries{
-    QStringList{u"&Undo\tCtrl+Z"_qs, u"&Redo\tCtrl+Y"_qs, u"Cu&t\tCtrl+X"_qs, u"&Copy\tCtrl+C"_qs,
-                u"&Paste\tCtrl+V"_qs, u"Delete"_qs},
-    QStringList{u"&Deshacer\tCtrl+Z"_qs, u"&Rehacer\tCtrl+Y"_qs, u"Cor&tar\tCtrl+X"_qs,
-                u"&Copiar\tCtrl+C"_qs, u"&Pegar\tCtrl+V"_qs, u"Borrar"_qs}};
+    QStringList{u"&Undo\tCtrl+Z"_s, u"&Redo\tCtrl+Y"_s, u"Cu&t\tCtrl+X"_s, u"&Copy\tCtrl+C"_s,
+                u"&Paste\tCtrl+V"_s, u"Delete"_s},
+    QStringList{u"&Deshacer\tCtrl+Z"_s, u"&Rehacer\tCtrl+Y"_s, u"Cor&tar\tCtrl+X"_s,
+                u"&Copiar\tCtrl+C"_s, u"&Pegar\tCtrl+V"_s, u"Borrar"_s}};
 
 TEST_F(ToolkitDialogs, MenuOfAField) {
     InEveryLanguage([this] { return MenuOf(u"txtLoanAmount"); },
-                    {EditEntries[0] + QStringList{u"Select All\tCtrl+A"_qs},
-                     EditEntries[1] + QStringList{u"Seleccionar todo\tCtrl+A"_qs}});
+                    {EditEntries[0] + QStringList{u"Select All\tCtrl+A"_s},
+                     EditEntries[1] + QStringList{u"Seleccionar todo\tCtrl+A"_s}});
 }
 
 TEST_F(ToolkitDialogs, MenuOfTheDatePicker) {
     InEveryLanguage(
         [this] { return MenuOf(u"dtNextPayment"); },
-        {EditEntries[0] + QStringList{u"&Select All"_qs, u"&Step up"_qs, u"Step &down"_qs},
-         EditEntries[1] + QStringList{u"&Seleccionar todo"_qs, u"&Aumentar"_qs, u"Re&ducir"_qs}});
+        {EditEntries[0] + QStringList{u"&Select All"_s, u"&Step up"_s, u"Step &down"_s},
+         EditEntries[1] + QStringList{u"&Seleccionar todo"_s, u"&Aumentar"_s, u"Re&ducir"_s}});
 }
 
 TEST_F(ToolkitDialogs, FileDialogWithItsTooltips) {
@@ -101,21 +103,21 @@ TEST_F(ToolkitDialogs, FileDialogWithItsTooltips) {
     InEveryLanguage(
         read,
         {QStringList{
-             u"Look in:"_qs, u"File name:"_qs, u"Files of type:"_qs, u"Open"_qs, u"Cancel"_qs,
-             u"Back"_qs, u"Go back"_qs,
-             u"Forward"_qs, u"Go forward"_qs,
-             u"Parent Directory"_qs, u"Go to the parent directory"_qs,
-             u"Create New Folder"_qs, u"Create a New Folder"_qs,
-             u"List View"_qs, u"Change to list view mode"_qs,
-             u"Detail View"_qs, u"Change to detail view mode"_qs},
+             u"Look in:"_s, u"File name:"_s, u"Files of type:"_s, u"Open"_s, u"Cancel"_s,
+             u"Back"_s, u"Go back"_s,
+             u"Forward"_s, u"Go forward"_s,
+             u"Parent Directory"_s, u"Go to the parent directory"_s,
+             u"Create New Folder"_s, u"Create a New Folder"_s,
+             u"List View"_s, u"Change to list view mode"_s,
+             u"Detail View"_s, u"Change to detail view mode"_s},
          QStringList{
-             u"Ver en:"_qs, u"Nombre de archivo:"_qs, u"Archivos de tipo:"_qs, u"Abrir"_qs, u"Cancelar"_qs,
-             u"Atrás"_qs, u"Ir atrás"_qs,
-             u"Siguiente"_qs, u"Ir hacia delante"_qs,
-             u"Directorio superior"_qs, u"Ir al directorio superior"_qs,
-             u"Crear nueva carpeta"_qs, u"Crear una nueva carpeta"_qs,
-             u"Vista de lista"_qs, u"Cambiar a modo de vista de lista"_qs,
-             u"Vista detallada"_qs, u"Cambiar a modo de vista detallada"_qs}});
+             u"Ver en:"_s, u"Nombre de archivo:"_s, u"Archivos de tipo:"_s, u"Abrir"_s, u"Cancelar"_s,
+             u"Atrás"_s, u"Ir atrás"_s,
+             u"Siguiente"_s, u"Ir hacia delante"_s,
+             u"Directorio superior"_s, u"Ir al directorio superior"_s,
+             u"Crear nueva carpeta"_s, u"Crear una nueva carpeta"_s,
+             u"Vista de lista"_s, u"Cambiar a modo de vista de lista"_s,
+             u"Vista detallada"_s, u"Cambiar a modo de vista detallada"_s}});
     // clang-format on
 }
 
@@ -132,10 +134,10 @@ TEST_F(ToolkitDialogs, PrintDialog) {
         }
         return texts;
     };
-    InEveryLanguage(read, {QStringList{u"Print"_qs, u"&Print"_qs, u"Cancel"_qs, u"Location:"_qs,
-                                       u"Type:"_qs, u"to"_qs},
-                           QStringList{u"Imprimir"_qs, u"Im&primir"_qs, u"Cancelar"_qs,
-                                       u"Ubicación:"_qs, u"Tipo:"_qs, u"a"_qs}});
+    InEveryLanguage(read, {QStringList{u"Print"_s, u"&Print"_s, u"Cancel"_s, u"Location:"_s,
+                                       u"Type:"_s, u"to"_s},
+                           QStringList{u"Imprimir"_s, u"Im&primir"_s, u"Cancelar"_s,
+                                       u"Ubicación:"_s, u"Tipo:"_s, u"a"_s}});
 }
 
 /// Notes what the toolkit asks for.
@@ -192,13 +194,13 @@ TEST_F(ToolkitDialogs, MessageButtons) {
             }
         };
         QTimer::singleShot(0, qApp, look);
-        MessageBoxes().Show(u"Text"_qs);
+        MessageBoxes().Show(u"Text"_s);
         QTimer::singleShot(0, qApp, look);
-        MessageBoxes().Ask({.text = u"Text"_qs, .title = u"Title"_qs, .mayCancel = true});
+        MessageBoxes().Ask({.text = u"Text"_s, .title = u"Title"_s, .mayCancel = true});
         return texts;
     };
-    InEveryLanguage(read, {QStringList{u"OK"_qs, u"&Yes"_qs, u"&No"_qs, u"Cancel"_qs},
-                           QStringList{u"Aceptar"_qs, u"&Sí"_qs, u"&No"_qs, u"Cancelar"_qs}});
+    InEveryLanguage(read, {QStringList{u"OK"_s, u"&Yes"_s, u"&No"_s, u"Cancel"_s},
+                           QStringList{u"Aceptar"_s, u"&Sí"_s, u"&No"_s, u"Cancelar"_s}});
 }
 
 } // namespace

@@ -9,6 +9,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class WallpaperOfTheWindow : public WindowTest {
@@ -46,7 +48,7 @@ TEST_F(WallpaperOfTheWindow, IsTiledUnscaledFromTheCorner) {
     const std::vector<Case> sizes = {{37, 23}, {5, 200}, {2000, 3}};
     for (const auto& size : sizes) {
         const QImage picture = Picture(size.width, size.height);
-        const QString path = PathOf(u"tile.bmp"_qs);
+        const QString path = PathOf(u"tile.bmp"_s);
         ASSERT_TRUE(picture.save(path));
         Open({.wallpaper = path});
         Settle();
@@ -74,7 +76,7 @@ TEST_F(WallpaperOfTheWindow, IsTiledUnscaledFromTheCorner) {
 TEST_F(WallpaperOfTheWindow, LeavesTheCaptionsReadable) {
     QImage dark(16, 16, QImage::Format_RGB32);
     dark.fill(QApplication::palette().color(QPalette::WindowText));
-    const QString path = PathOf(u"dark.bmp"_qs);
+    const QString path = PathOf(u"dark.bmp"_s);
     ASSERT_TRUE(dark.save(path));
     Open({.wallpaper = path});
     Settle();
@@ -105,20 +107,20 @@ TEST_F(WallpaperOfTheWindow, ThatCannotBeLoadedIsToldOnceAndForgotten) {
     QByteArray whole;
     {
         const QImage picture = Picture(37, 23);
-        ASSERT_TRUE(picture.save(PathOf(u"whole.bmp"_qs)));
-        QFile file(PathOf(u"whole.bmp"_qs));
+        ASSERT_TRUE(picture.save(PathOf(u"whole.bmp"_s)));
+        QFile file(PathOf(u"whole.bmp"_s));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         whole = file.readAll();
     }
-    Write(u"empty.bmp"_qs, {});
-    Write(u"garbage.bmp"_qs, "This is no picture.");
-    Write(u"truncated.bmp"_qs, whole.left(20));
+    Write(u"empty.bmp"_s, {});
+    Write(u"garbage.bmp"_s, "This is no picture.");
+    Write(u"truncated.bmp"_s, whole.left(20));
     for (const QString& file :
-         {u"missing.bmp"_qs, u"empty.bmp"_qs, u"garbage.bmp"_qs, u"truncated.bmp"_qs, u"."_qs}) {
+         {u"missing.bmp"_s, u"empty.bmp"_s, u"garbage.bmp"_s, u"truncated.bmp"_s, u"."_s}) {
         Door().Clear();
         Open({.wallpaper = PathOf(file)});
         EXPECT_EQ(SettledMessages(),
-                  QStringList(u"This background picture could not be loaded: "_qs + PathOf(file)));
+                  QStringList(u"This background picture could not be loaded: "_s + PathOf(file)));
         EXPECT_EQ(Window().GetSettings().wallpaper, u"");
         EXPECT_EQ(RowCount(), 6) << "the rest of the window is there";
         EXPECT_FALSE(Sheet().Dirty());
@@ -127,9 +129,9 @@ TEST_F(WallpaperOfTheWindow, ThatCannotBeLoadedIsToldOnceAndForgotten) {
 }
 
 TEST_F(WallpaperOfTheWindow, ThatCannotBeLoadedIsToldInTheLanguageOfTheUser) {
-    Open({.language = Spanish, .wallpaper = PathOf(u"nada.bmp"_qs)});
+    Open({.language = Spanish, .wallpaper = PathOf(u"nada.bmp"_s)});
     EXPECT_EQ(SettledMessages(),
-              QStringList(u"No se pudo cargar esta imagen de fondo: "_qs + PathOf(u"nada.bmp"_qs)));
+              QStringList(u"No se pudo cargar esta imagen de fondo: "_s + PathOf(u"nada.bmp"_s)));
 }
 
 } // namespace

@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QWheelEvent>
 #include <QWindow>
+#include <QtTest/qtestspontaneevent.h>
 
 #include <chrono>
 #include <ostream>
@@ -87,10 +88,14 @@ void WindowTest::Choose(QStringView name, int index) {
 }
 
 void WindowTest::Wheel(const QWidget& control, int notches) {
-    const QPoint at = PlaceInWindow(control, control.rect().center());
-    QWheelEvent event(at, m_window->mapToGlobal(at), QPoint(), QPoint(0, notches * 120),
+    TurnWheel(PlaceInWindow(control, control.rect().center()), notches * 120);
+}
+
+void WindowTest::TurnWheel(QPoint at, int eighthsOfDegree) {
+    QWheelEvent event(at, m_window->mapToGlobal(at), QPoint(), QPoint(0, eighthsOfDegree),
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(m_window->windowHandle(), &event);
+    QSpontaneKeyEvent::setSpontaneous(&event); // only a wheel that a hand turns can give the focus
+    qApp->notify(m_window->windowHandle(), &event);
 }
 
 void WindowTest::SwitchLanguage(int number) {

@@ -78,6 +78,8 @@ protected:
     void Choose(QStringView name, int index);
     /// One notch of the wheel over this control; down is negative.
     void Wheel(const QWidget& control, int notches);
+    /// The same at a place of the window, for parts of a notch.
+    void TurnWheel(QPoint at, int eighthsOfDegree);
     /// A language entry of the menu, 1 and up.
     void SwitchLanguage(int number);
 

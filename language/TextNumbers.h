@@ -117,6 +117,9 @@ inline constexpr int HelpMore = 590;
 /// A blank and the numbers follow it.
 inline constexpr int Version = 592;
 inline constexpr int NoSystemInfo = 593;
+inline constexpr int LoanNameEdit = 640;
+inline constexpr int OffersEdit = 641;
+inline constexpr int PictureCutOff = 642;
 
 /// Every one of them: a text without a use, or a use without a text, shows up in the tests.
 inline constexpr std::array All{
@@ -212,6 +215,9 @@ inline constexpr std::array All{
     HelpMore,
     Version,
     NoSystemInfo,
+    LoanNameEdit,
+    OffersEdit,
+    PictureCutOff,
 };
 
 } // namespace TextNumber

@@ -8,6 +8,7 @@
 
 #include <QFontInfo>
 #include <QLayout>
+#include <QScrollArea>
 
 #include <algorithm>
 #include <array>
@@ -222,8 +223,10 @@ PrintedForm Read(const Loan& window, int highestRow) {
 /// Holds the window's controls at another width, unseen, for as long as it lives.
 class OtherWidth {
 public:
-    OtherWidth(QWidget& controls, int width) : m_controls(&controls), m_before(controls.size()) {
+    OtherWidth(QScrollArea& frame, int width)
+        : m_frame(&frame), m_controls(frame.widget()), m_before(m_controls->size()) {
         m_controls->setUpdatesEnabled(false);
+        m_frame->setWidgetResizable(false);
         Resize(QSize(width, m_before.height()));
     }
     OtherWidth(const OtherWidth&) = delete;
@@ -232,6 +235,7 @@ public:
     OtherWidth& operator=(OtherWidth&&) = delete;
     ~OtherWidth() {
         Resize(m_before);
+        m_frame->setWidgetResizable(true);
         m_controls->setUpdatesEnabled(true);
     }
 
@@ -241,6 +245,7 @@ private:
         m_controls->layout()->activate();
     }
 
+    QScrollArea* m_frame;
     QWidget* m_controls;
     QSize m_before;
 };
@@ -271,7 +276,7 @@ PrintedForm ReadForm(Loan& window, double widest) {
     const int width = std::max(controls.minimumSizeHint().width(), static_cast<int>(widest));
     PrintedForm form;
     if (controls.width() > width) {
-        const OtherWidth narrower(controls, width);
+        const OtherWidth narrower(*window.Form().scrWindow, width);
         form = Read(window, highestRow);
     } else {
         form = Read(window, highestRow);

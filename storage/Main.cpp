@@ -2,6 +2,7 @@
 
 #include "AboutCommands.h"
 #include "CalendarDate.h"
+#include "ClearEdges.h"
 #include "DesktopMail.h"
 #include "FileCommands.h"
 #include "HelpCommands.h"
@@ -101,6 +102,7 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
         window.GetMessages().ShowRest(); // with the window gone, nobody would wait for an answer
         return true;
     });
+    FitToScreen(window);
     RestorePlace(window, UserPlace());
     TellAboutStore(window.GetMessages(), store, condition, refused);
     window.show();
@@ -126,6 +128,7 @@ int main(int argc, char* argv[]) {
         QStringLiteral("%1.%2.%3").arg(Major).arg(Minor).arg(Revision));
     QGuiApplication::setDesktopFileName(QString::fromUtf8(ApplicationId));
     QApplication::setWindowIcon(ProgramIcon());
+    ClearEdges::Install();
     SetUpLanguage();
     MessageBoxes messages;
     const StoreCondition condition = look.get();

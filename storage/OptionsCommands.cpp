@@ -24,11 +24,11 @@ void OptionsCommands::mnuToolsOptions_Click() {
     if (!m_window->Commit()) {
         return;
     }
-    const std::optional<Settings> chosen = AskUser();
-    SaveSettings(m_store, chosen.value_or(m_window->GetSettings()));
-    if (chosen) {
+    if (const std::optional<Settings> chosen = AskUser()) {
         m_window->ApplySettings(*chosen);
     }
+    // Afterwards: a picture that cannot be loaded is not to trouble the next start.
+    SaveSettings(m_store, m_window->GetSettings());
 }
 
 /// Nothing when the user gave up.

@@ -6,6 +6,7 @@
 
 #include <QEvent>
 #include <QImageReader>
+#include <QPainter>
 #include <QPixmap>
 
 namespace {
@@ -67,13 +68,29 @@ void PicturePreview::ShowFile(const QString& path) {
     const Sample sample = path.isEmpty() ? Sample() : ReadSample(path);
     m_picture = sample.picture;
     m_ownSize = sample.ownSize;
+    const bool isCutOff = !m_picture.isNull() && PictureFile::IsCutOff(path);
+    m_note = isCutOff ? GetResourceText(TextNumber::PictureCutOff) : QString();
     if (m_picture.isNull()) {
         setText(
             GetResourceText(path.isEmpty() ? TextNumber::NoPicture : TextNumber::PictureNotShown));
     } else {
         ShowPicture();
     }
-    setAccessibleDescription(text());
+    setAccessibleDescription(text() + m_note);
+}
+
+/// The note stands on the colour of a window, so that it can be read over any picture.
+void PicturePreview::paintEvent(QPaintEvent* event) {
+    QLabel::paintEvent(event);
+    if (!m_note.isEmpty()) {
+        QPainter painter(this);
+        const int flags = static_cast<int>(Qt::AlignHCenter) | static_cast<int>(Qt::TextWordWrap);
+        QRect place = painter.boundingRect(contentsRect(), flags, m_note);
+        place = QRect(contentsRect().left(), contentsRect().bottom() - place.height(),
+                      contentsRect().width(), place.height() + 1);
+        painter.fillRect(place, palette().window());
+        painter.drawText(place, flags, m_note);
+    }
 }
 
 void PicturePreview::resizeEvent(QResizeEvent* event) {

@@ -4,8 +4,8 @@
 #include <QLabel>
 
 /// A sample of a picture file: the whole picture, in its proportions, never larger than it is. Says
-/// in words when there is none, or when the file cannot be shown. A damaged or enormous file costs
-/// neither time nor memory.
+/// in words when there is none, when the file cannot be shown, or when it is cut off. A damaged or
+/// enormous file costs neither time nor memory.
 class PicturePreview : public QLabel {
     Q_OBJECT
 
@@ -21,10 +21,12 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void ShowPicture();
 
     QImage m_picture; ///< no finer than any preview needs
     QSize m_ownSize;
+    QString m_note; ///< what is to be said of a picture that is shown
 };

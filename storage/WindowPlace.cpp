@@ -6,6 +6,7 @@
 #include <QSaveFile>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QWidget>
 
 namespace {
@@ -36,13 +37,24 @@ QString UserPlace() {
            QStringLiteral("/window.place");
 }
 
+void FitToScreen(QWidget& window) {
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QSize most = window.screen()->availableGeometry().size() - QSize(0, title);
+    QSize size = window.sizeHint();
+    if (size.height() > most.height()) { // scrolled, and the scroll bar takes room
+        size.rwidth() += window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    }
+    window.resize(size.boundedTo(most));
+}
+
 void RestorePlace(QWidget& window, const QString& file) {
     // The toolkit sees to it that the window lies on a screen that is still there, but for a place
     // and a size that no window can have had.
     window.restoreGeometry(KeptPlace(file));
     const QRect screens = window.screen()->virtualGeometry();
     if (!CanBe(window.geometry(), screens)) {
-        window.setGeometry({screens.topLeft(), window.sizeHint()});
+        FitToScreen(window);
+        window.move(screens.topLeft());
     }
 }
 

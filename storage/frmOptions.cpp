@@ -22,6 +22,7 @@ std::unique_ptr<Ui::frmOptions> FormOf(frmOptions& dialog) {
     form->setupUi(&dialog);
     // Names that cannot stand in a form.
     form->udLoans->Edit().setObjectName(QStringLiteral("txtLoans"));
+    form->udLoans->Edit().setProperty("accessibleText", TextNumber::OffersEdit);
     form->optTermMonths->setObjectName(QStringLiteral("optTerm(0)"));
     form->optTermYears->setObjectName(QStringLiteral("optTerm(1)"));
     return form;

@@ -173,6 +173,29 @@ TEST_F(FormReaderTest, AVeryWideWindowIsReadNarrower) {
     EXPECT_EQ(Read(10).width, Control(u"centralWidget").minimumSizeHint().width());
 }
 
+/// What the window shows between headings and rows is printed there.
+TEST_F(FormReaderTest, AHighWindowLeavesNoHole) {
+    Open();
+    Window().resize(Window().width(), 3 * Window().height());
+    Settle();
+    const PrintedForm form = Read();
+    EXPECT_LT(form.offersTop - form.headings.front().place.bottom(), 20);
+    EXPECT_LT(form.headings.front().place.top() - form.currentSecondHalf.back().field.bottom(), 60);
+}
+
+TEST_F(FormReaderTest, AWindowThatScrollsIsReadWhole) {
+    Open();
+    const PrintedForm before = Read();
+    const int whole = Control(u"centralWidget").minimumSizeHint().width();
+    Window().resize(500, 300);
+    Settle();
+    Control(u"txtWho(5)").setFocus(Qt::TabFocusReason);
+    const PrintedForm form = Read();
+    EXPECT_EQ(form.width, whole);
+    EXPECT_EQ(form.offersTop, before.offersTop);
+    EXPECT_EQ(form.header.front().field.topLeft(), before.header.front().field.topLeft());
+}
+
 TEST_F(FormReaderTest, BreaksAndStrayCharactersAreCleaned) {
     Open();
     struct {

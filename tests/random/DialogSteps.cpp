@@ -188,7 +188,7 @@ void RandomUser::Share(unsigned a, unsigned /*b*/) {
 }
 
 void RandomUser::Resize(unsigned a, unsigned b) {
-    const QSize least = Window().minimumSizeHint();
+    const QSize least = Window().sizeHint(); // a click needs its control in sight
     Window().resize(least.width() + static_cast<int>(a % 600),
                     least.height() + static_cast<int>(b % 400));
 }

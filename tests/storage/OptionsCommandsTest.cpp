@@ -163,10 +163,10 @@ TEST_F(OptionsOfTheWindow, PictureThatCannotBeLoadedIsToldAndForgotten) {
     EXPECT_EQ(SettledMessages(),
               QStringList(u"This background picture could not be loaded: /no/such.bmp"_s));
     EXPECT_EQ(Window().GetSettings().wallpaper, u"");
+    EXPECT_EQ(StoredText("Wallpaper"), u"(absent)") << "tried before it is stored";
     Options([](const frmOptions& options) {
         EXPECT_EQ(Child<QLineEdit>(options, u"txtWallpaper").text(), u"");
     });
-    EXPECT_EQ(StoredText("Wallpaper"), u"(absent)") << "at the next save";
 }
 
 TEST_F(OptionsOfTheWindow, CancelChangesNothingButKeepsTheSettings) {

@@ -44,6 +44,7 @@ TEST_F(OptionsDialog, ShowsTheSettings) {
         EXPECT_EQ(Get<QRadioButton>(u"optTerm(1)").isChecked(), tested.selected == u"optTerm(1)");
         EXPECT_EQ(Text(u"txtWallpaper"), tested.picture);
         EXPECT_EQ(FocusName(), u"udLoans");
+        EXPECT_EQ(Control(u"txtLoans").accessibleName(), u"Offers displayed");
         EXPECT_TRUE(Control(u"txtLoans").hasFocus());
         EXPECT_EQ(Get<QLineEdit>(u"txtLoans").selectedText(), tested.offers);
     }

@@ -3,6 +3,7 @@
 #include "OptionsFixture.h"
 #include "PictureDialog.h"
 #include "PicturePreview.h"
+#include "QuietToolkit.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -115,6 +116,35 @@ TEST_F(Preview, SaysWhenThereIsNothingToShow) {
         EXPECT_EQ(Text(u"picWallpaper"), tested.text);
         EXPECT_EQ(Control(u"picWallpaper").accessibleDescription(), tested.text);
         EXPECT_TRUE(SettledMessages().isEmpty());
+    }
+}
+
+TEST_F(Preview, SaysWhenThePictureIsCutOff) {
+    const QuietToolkit quiet;
+    for (const QStringView file : {u"cut.bmp", u"cut.jpg"}) {
+        SCOPED_TRACE(file.toString().toStdString());
+        QFile whole(Picture(file, {300, 200}));
+        Open(WithPicture(whole.fileName()));
+        EXPECT_EQ(Control(u"picWallpaper").accessibleDescription(), u"");
+        const QPixmap bare = Control(u"picWallpaper").grab();
+        ASSERT_TRUE(whole.resize(whole.size() * 9 / 10));
+        Open(WithPicture(whole.fileName()));
+        EXPECT_EQ(Control(u"picWallpaper").accessibleDescription(),
+                  u"The file is cut off: a part of this picture is missing.");
+        EXPECT_EQ(ShownSize(), QSize(300, 200).boundedTo(ShownSize())) << "what is there is shown";
+        EXPECT_NE(Control(u"picWallpaper").grab().toImage(), bare.toImage());
+    }
+}
+
+TEST_F(Preview, TakesAWholePictureForWhole) {
+    QFile longer(Picture(u"longer.jpg", {300, 200}));
+    ASSERT_TRUE(longer.open(QIODevice::Append));
+    longer.write(QByteArray(100, '\0'));
+    longer.close();
+    for (const QString& path : {longer.fileName(), Picture(u"a.png", {30, 20}),
+                                Picture(u"odd.bmp", {3, 5}), Picture(u"dot.jpg", {1, 1})}) {
+        Open(WithPicture(path));
+        EXPECT_EQ(Control(u"picWallpaper").accessibleDescription(), u"") << path.toStdString();
     }
 }
 

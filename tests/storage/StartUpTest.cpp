@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
+#include <QScreen>
 
 #include <sys/stat.h>
 
@@ -101,6 +102,16 @@ TEST_F(PlaceOfTheWindow, IsKeptInAFolderMadeForIt) {
     EXPECT_NE(Window().size(), size);
     RestorePlace(Window(), file);
     EXPECT_EQ(Window().size(), size);
+}
+
+TEST_F(PlaceOfTheWindow, IsNoLargerThanTheScreenAtFirst) {
+    for (const int last : {0, 14}) {
+        Open({.language = Spanish, .loansDisplayed = last});
+        FitToScreen(Window());
+        const QSize screen = Window().screen()->availableGeometry().size();
+        EXPECT_EQ(Window().size().boundedTo(screen), Window().size());
+        EXPECT_EQ(Window().width(), std::min(Window().sizeHint().width(), screen.width()));
+    }
 }
 
 TEST_F(PlaceOfTheWindow, UnreadablePlacesAreIgnored) {

@@ -32,12 +32,16 @@ QString DigitGroups::Grouped(const QString& digits) const {
     return grouped;
 }
 
-QString DigitGroups::Localized(const QString& digits) const {
+QString DigitGroups::Localized(const QString& number) const {
     if (m_zero == u'0') {
-        return digits;
+        return number;
     }
     QString localized;
-    for (const QChar digit : digits) {
+    for (const QChar digit : number) {
+        if (digit < u'0' || digit > u'9') {
+            localized += digit;
+            continue;
+        }
         // The digits of a script stand side by side, a few of them beyond the first plane.
         const char32_t zero = m_zero.toUcs4().first();
         const char32_t shown = zero + static_cast<char32_t>(digit.unicode() - u'0');

@@ -12,8 +12,8 @@ public:
 
     /// Digits 0 to 9 in the locale's own, with its group separators.
     QString Grouped(const QString& digits) const;
-    /// Digits 0 to 9 in the locale's own.
-    QString Localized(const QString& digits) const;
+    /// A number with its digits 0 to 9 in the locale's own; symbols and signs stay.
+    QString Localized(const QString& number) const;
 
 private:
     QString m_separator;

@@ -89,7 +89,7 @@ QString DisplayFormats::ThreeDecimals(double value) const {
     if (std::abs(value) < 1 && number.contains(QLatin1String("0."))) {
         number.remove(number.indexOf(u'0'), 1);
     }
-    return WithSeparator(number);
+    return InOwnDigits(WithSeparator(number));
 }
 
 QString DisplayFormats::Percent(double fraction) const {

@@ -18,10 +18,14 @@ public:
     /// The decimal symbol, one character. No grouping is ever read.
     QChar DecimalSeparator() const { return m_separator; }
 
-    /// "general number": no grouping, no more decimals than the value has.
+    /// "general number": no grouping, no more decimals than the value has. In digits 0 to 9, as
+    /// they are typed and kept, whatever the locale's own are.
     QString GeneralNumber(Money amount) const;
     /// The same for a real number, to fifteen digits: 0.07337 × 100 reads 7.337.
     QString GeneralNumber(double value) const;
+
+    /// A general number as it is shown among the other formats: in the locale's own digits.
+    QString InOwnDigits(const QString& number) const { return m_groups.Localized(number); }
 
     /// "currency": rounded to the cent (halves to even), with symbol and grouping.
     QString Currency(Money amount) const;

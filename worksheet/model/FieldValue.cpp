@@ -52,7 +52,7 @@ QString FieldTexts::DisplayText(ValueKind kind, const FieldNumber& number) const
     case ValueKind::Decimal:
         return m_formats.ThreeDecimals(std::get<double>(number));
     default:
-        return EntryText(kind, number);
+        return m_formats.InOwnDigits(EntryText(kind, number));
     }
 }
 

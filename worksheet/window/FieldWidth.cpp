@@ -3,6 +3,9 @@
 #include "DisplayFormats.h"
 
 #include <QFontMetrics>
+#include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionFrame>
 
 namespace {
 
@@ -17,7 +20,7 @@ QString SampleOf(FieldId field, const DisplayFormats& formats) {
         return formats.ThreeDecimals(88.888);
     case ValueKind::WholeTerm:
     case ValueKind::FractionalTerm:
-        return formats.GeneralNumber(88.5);
+        return formats.InOwnDigits(formats.GeneralNumber(88.5));
     case ValueKind::Date:
         return formats.ShortDate(Date::FromCalendar(2058, 12, 28));
     case ValueKind::Text:
@@ -36,4 +39,13 @@ int LeastFieldWidth(FieldId field, const QFontMetrics& metrics, const DisplayFor
     // Frame, inner margins and the caret.
     const int around = metrics.averageCharWidth() * 2 + 8;
     return metrics.horizontalAdvance(SampleOf(field, formats)) + around;
+}
+
+int TextRoomOf(const QLineEdit& edit) {
+    QStyleOptionFrame option;
+    option.initFrom(&edit);
+    option.lineWidth = edit.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &edit);
+    constexpr int marginsOfTheText = 2 * 2; // the toolkit's own, on both sides
+    return edit.style()->subElementRect(QStyle::SE_LineEditContents, &option, &edit).width() -
+           marginsOfTheText;
 }

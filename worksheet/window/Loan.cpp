@@ -16,14 +16,30 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPainter>
+#include <QScreen>
 
 #include <utility>
 
 namespace {
 
+/// Screen readers come across the edits inside some controls, too.
+void NameInnerEdits(const Ui::Loan& form) {
+    constexpr const char* number = "accessibleText";
+    form.cboLoanName->lineEdit()->setProperty(number, TextNumber::LoanNameEdit);
+    form.dtNextPayment->findChild<QLineEdit*>()->setProperty(number,
+                                                             form.dtNextPayment->property(number));
+}
+
 std::unique_ptr<Ui::Loan> FormOf(Loan& window) {
     auto form = std::make_unique<Ui::Loan>();
     form->setupUi(&window);
+    NameInnerEdits(*form);
+    // Its place stays when it goes, so that the window keeps its shape.
+    QSizePolicy policy = form->lblHint->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    form->lblHint->setSizePolicy(policy);
+    // The window behind it paints the background picture; a scroll area would have it filled.
+    form->centralWidget->setAutoFillBackground(false);
     return form;
 }
 
@@ -58,7 +74,8 @@ Loan::Loan(const World& world, Settings settings)
       m_report(m_messages), m_controls(ControlsOf(*this)),
       m_display(m_controls, {.raised = [this] { m_notice.Start(); },
                              .refused = [this] { m_notice.TellRefused(); },
-                             .sorted = [this](SortOrder order) { m_offers.ShowSortOrder(order); }}),
+                             .sorted = [this](SortOrder order) { m_offers.ShowSortOrder(order); },
+                             .offerShown = [this] { ShowHint(); }}),
       m_worksheet(m_display, {DisplayFormats(world.locale), m_settings.termInMonths}, world.today),
       m_columns(*m_ui->picHeadings, m_controls),
       m_rows({m_ui->picScroll, m_ui->picCanvas, m_ui->vsbLoans}, m_worksheet, m_controls,
@@ -73,7 +90,8 @@ Loan::Loan(const World& world, Settings settings)
       m_languages(*m_ui->mnuToolsLanguage, {m_ui->mnuToolsLanguageOpt1, m_ui->mnuToolsLanguageOpt2},
                   {.commit = [this] { return m_focus.Commit(); },
                    .guard = [this](const auto& handler) { m_report.Guard(handler); },
-                   .renew = [this] { RenewLanguage(); }}) {
+                   .renew = [this] { RenewLanguage(); }}),
+      m_resultKeys(*this, m_controls, m_rows) {
     WireFields();
     m_report.Guard([this] { Form_Load(); });
 }
@@ -95,6 +113,7 @@ void Loan::Form_Load() {
     RefillLists();
     m_loaded = true;
     MeasureFields();
+    resize(sizeHint());
     LoadWallpaper();
     m_ui->dtNextPayment->SetWriting(WritingOf(m_worksheet));
     m_worksheet.SetCurrentNextPayment(m_worksheet.Today());
@@ -111,6 +130,8 @@ void Loan::closeEvent(QCloseEvent* event) { event->setAccepted(Form_Unload()); }
 
 void Loan::WireFields() {
     m_focus.Watch(*this);
+    m_resultKeys.Watch(*this);
+    m_wholeText.Watch(*this);
     for (const FieldRule& rule : LoanFields()) {
         WireChoice({rule.id});
     }
@@ -122,6 +143,8 @@ void Loan::WireFields() {
 
 void Loan::WireRow(int row, const QWidget* controls) {
     m_focus.Watch(*controls);
+    m_resultKeys.Watch(*controls);
+    m_wholeText.Watch(*controls);
     m_dragging.Watch(Row{row});
     m_clipboard.Watch(Row{row});
     WireChoice({FieldId::Frequency, Row{row}});
@@ -165,7 +188,17 @@ void Loan::RenewLanguage() {
     m_toolkitTexts.Renew();
     ApplyCaptions();
     RefillLists();
+    MeasureAgain();
+}
+
+/// A window that showed everything goes on to do so.
+void Loan::MeasureAgain() {
+    const bool showedAll = m_ui->scrWindow->ShowsAll();
     MeasureFields();
+    if (showedAll) {
+        const QSize missing = m_ui->scrWindow->Missing();
+        ResizeBy(missing.expandedTo(QSize(0, 0)));
+    }
 }
 
 void Loan::MeasureFields() {
@@ -182,16 +215,40 @@ void Loan::MeasureFields() {
     m_columns.Measure(formats);
     const int shown = m_rows.LoansDisplayed().value + 1;
     m_ui->picScroll->setMinimumSize(m_columns.MinimumWidth(), shown * m_columns.RowHeight());
+    // Of both: the one that may be higher would take room above and below the other.
     m_ui->picScroll->setMaximumHeight(shown * m_columns.RowHeight() * 3 / 2);
+    m_ui->vsbLoans->setMaximumHeight(m_ui->picScroll->maximumHeight());
     m_rows.Layout();
+    m_ui->scrWindow->updateGeometry();
 }
 
-/// Another number of rows takes or gives room; a window that fills the screen keeps its size.
-void Loan::FitHeight() {
+/// Another number of rows takes or gives room.
+void Loan::FitHeight() { ResizeBy({0, m_ui->scrWindow->Missing().height()}); }
+
+/// Not beyond the screen, unless it is so large already. A window that fills the screen keeps its
+/// size.
+void Loan::ResizeBy(QSize change) {
     if (!isMaximized() && !isFullScreen()) {
-        m_ui->centralWidget->layout()->activate();
-        resize(width(), minimumSizeHint().height());
+        const QSize frame = frameGeometry().size() - size();
+        const QSize most = (screen()->availableGeometry().size() - frame).expandedTo(size());
+        resize((size() + change).boundedTo(most));
     }
+}
+
+/// The hint below the rows goes once every offer that has been begun is complete.
+void Loan::ShowHint() {
+    bool anyComplete = false;
+    bool anyLacking = false;
+    for (Row row{0}; row <= m_rows.HighestOfferRow(); ++row.value) {
+        const auto isEmpty = [&](FieldId field) {
+            return m_controls.ControlOf<QLineEdit>({field, row})->text().isEmpty();
+        };
+        const bool isComplete = !isEmpty(FieldId::PandI);
+        const bool isBegun = !isEmpty(FieldId::InterestRate) || !isEmpty(FieldId::Term);
+        anyComplete = anyComplete || isComplete;
+        anyLacking = anyLacking || (isBegun && !isComplete);
+    }
+    m_ui->lblHint->setVisible(anyLacking || !anyComplete);
 }
 
 void Loan::ShowEdited() const {
@@ -223,7 +280,7 @@ void Loan::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (m_loaded && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
         // Once every control has learned of it.
-        QMetaObject::invokeMethod(this, &Loan::MeasureFields, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &Loan::MeasureAgain, Qt::QueuedConnection);
     }
 }
 

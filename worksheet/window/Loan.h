@@ -15,10 +15,12 @@
 #include "OfferDragging.h"
 #include "OfferRows.h"
 #include "PaymentNotice.h"
+#include "ResultKeys.h"
 #include "Settings.h"
 #include "ToolkitTexts.h"
 #include "ValueExchange.h"
 #include "Wallpaper.h"
+#include "WholeText.h"
 #include "WindowDisplay.h"
 #include "Worksheet.h"
 
@@ -95,7 +97,10 @@ private:
     void RefillLists();
     void RenewLanguage();
     void MeasureFields();
+    void ShowHint();
+    void MeasureAgain();
     void FitHeight();
+    void ResizeBy(QSize change);
     void LoadWallpaper();
 
     // First, because making the form raises events that ask for it.
@@ -123,4 +128,6 @@ private:
     ToolkitTexts m_toolkitTexts;
     LanguageMenu m_languages;
     Wallpaper m_wallpaper;
+    ResultKeys m_resultKeys;
+    WholeText m_wholeText;
 };

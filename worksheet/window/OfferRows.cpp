@@ -156,11 +156,21 @@ void OfferRows::ScrollBy(int rows) const {
     m_place.vsbLoans->setValue(m_place.vsbLoans->value() + rows * m_rowHeight);
 }
 
+bool OfferRows::CanScrollByWheel(int eighthsOfDegree) const {
+    const QScrollBar& bar = *m_place.vsbLoans;
+    return eighthsOfDegree > 0 ? bar.value() > bar.minimum() : bar.value() < bar.maximum();
+}
+
 /// The wheel scrolls the rows by one a notch wherever it turns over them or their scroll bar: a
-/// list under the pointer must not change its choice unseen.
+/// list under the pointer must not change its choice unseen. At the first and the last row it is
+/// left to what is around them, which may be scrolled, too.
 bool OfferRows::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Wheel) {
-        ScrollByWheel(static_cast<QWheelEvent*>(event)->angleDelta().y());
+        const int turned = static_cast<QWheelEvent*>(event)->angleDelta().y();
+        event->setAccepted(CanScrollByWheel(turned));
+        if (event->isAccepted()) {
+            ScrollByWheel(turned);
+        }
         return true;
     }
     if (watched == m_place.picScroll && event->type() == QEvent::Resize) {

@@ -63,6 +63,7 @@ private:
     void PlaceRow(Row row);
     void SetMaximum() const;
     void MoveCanvas() const;
+    bool CanScrollByWheel(int eighthsOfDegree) const;
     void ScrollByWheel(int eighthsOfDegree);
     void vsbLoans_Change() const;
     void vsbLoans_Scroll() const;

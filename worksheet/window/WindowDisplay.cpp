@@ -30,6 +30,9 @@ void WindowDisplay::ShowText(Field field, const QString& text) {
             list->setCurrentIndex(text.isEmpty() ? -1 : list->findText(text));
         }
     }
+    if (field.id == FieldId::PandI) {
+        m_notices.offerShown();
+    }
 }
 
 void WindowDisplay::ShowTicked(Field field, bool ticked) {

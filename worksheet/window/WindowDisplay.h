@@ -13,6 +13,7 @@ public:
         std::function<void()> raised;          ///< an intended payment has been raised
         std::function<void()> refused;         ///< an intended payment was refused
         std::function<void(SortOrder)> sorted; ///< the rows are in this order
+        std::function<void()> offerShown;      ///< an offer has been computed anew, or could not be
     };
     WindowDisplay(const ControlMap& controls, Notices notices);
 

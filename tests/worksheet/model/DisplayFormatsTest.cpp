@@ -183,7 +183,9 @@ TEST(DisplayFormats, ThreeDecimalsDropsTheZeroInFront) {
         {u"de_DE"_s, -0.5,      u"-,500"_s},
         {u"de_DE"_s, 1.5,       u"1,500"_s},
         {u"C"_s,     0.5,       u".500"_s},
-        {u"ar_EG"_s, 1.5,       u"1\u066b500"_s},
+        {u"ar_EG"_s, 1.5,       u"١\u066b٥٠٠"_s},
+        {u"fa_IR"_s, -0.25,     u"-\u066b۲۵۰"_s},
+        {u"ff_Adlm_GN"_s, 12.5, u"𞥑𞥒.𞥕𞥐𞥐"_s},
     };
     // clang-format on
     for (const auto& [locale, value, text] : cases) {
@@ -204,6 +206,8 @@ TEST(DisplayFormats, PercentShowsAFraction) {
         {u"en_US"_s, 12.5,    u"1250.000%"_s},
         {u"es_ES"_s, 0.065,   u"6,500%"_s},
         {u"de_DE"_s, 0.005,   u",500%"_s},
+        {u"ar_EG"_s, 0.065,   u"٦\u066b٥٠٠%"_s},
+        {u"fa_IR"_s, 0.065,   u"۶\u066b۵۰۰%"_s},
     };
     // clang-format on
     for (const auto& [locale, value, text] : cases) {

@@ -103,7 +103,8 @@ private:
     static void Collect(const QObject& around, QList<QObject*>& objects) {
         for (QObject* object : around.children()) {
             const bool needs = NeedsOf(*object) != None;
-            if (object->objectName().startsWith(u"qt_")) {
+            if (object->objectName().startsWith(u"qt_") &&
+                object->objectName() != u"qt_scrollarea_viewport") {
                 continue;
             }
             if (needs) {

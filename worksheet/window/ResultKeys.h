@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Field.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <vector>
+
+class ControlMap;
+class OfferRows;
+
+/// Reading and copying results by keyboard, though the tab key passes them by: F6 goes from a field
+/// to the results of its band or row, and from there back to the field. Among the results the arrow
+/// keys walk; Up and Down go to the same result of the next row. Changes no value.
+class ResultKeys : public QObject {
+    Q_OBJECT
+
+public:
+    ResultKeys(QWidget& window, const ControlMap& controls, const OfferRows& rows);
+
+    /// The results among these controls have been made.
+    void Watch(const QWidget& parent);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void OnF6();
+    void Enter(Field result);
+    void Walk(Field result, Qt::Key arrow);
+    std::vector<FieldId> ResultsBeside(Field field) const;
+    Field FieldWithFocus() const;
+
+    QWidget* m_window;
+    const ControlMap* m_controls;
+    const OfferRows* m_rows;
+    QPointer<QWidget> m_cameFrom;
+};

@@ -1,0 +1,58 @@
+#include "WindowScroll.h"
+
+#include <QApplication>
+#include <QLayout>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace {
+
+/// So small that the window fits on any screen beside another one.
+constexpr QSize Least(480, 270);
+
+} // namespace
+
+WindowScroll::WindowScroll(QWidget* parent) : QScrollArea(parent) {
+    setFocusPolicy(Qt::NoFocus);
+    // The window behind it paints the background picture.
+    viewport()->setAutoFillBackground(false);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget* /*from*/, QWidget* to) { BringIntoSight(to); });
+}
+
+/// Children emit focus signals while they are destroyed.
+WindowScroll::~WindowScroll() { disconnect(qApp, nullptr, this, nullptr); }
+
+QSize WindowScroll::sizeHint() const { return SizeOfAll(0); }
+
+QSize WindowScroll::minimumSizeHint() const { return widget()->minimumSizeHint().boundedTo(Least); }
+
+bool WindowScroll::ShowsAll() const {
+    return horizontalScrollBar()->maximum() == 0 && verticalScrollBar()->maximum() == 0;
+}
+
+QSize WindowScroll::Missing() const {
+    const QSize room = maximumViewportSize();
+    return SizeOfAll(room.width()) - room;
+}
+
+/// The least size of what is in it, where it has at least this width to spread in.
+QSize WindowScroll::SizeOfAll(int leastWidth) const {
+    QLayout& controls = *widget()->layout();
+    controls.activate(); // the layouts in it still have the sizes of before
+    const int width = controls.totalMinimumSize().width();
+    return {width, controls.totalMinimumHeightForWidth(std::max(width, leastWidth))};
+}
+
+/// Not under a pressed button, which would come up over something else.
+void WindowScroll::BringIntoSight(QWidget* control) {
+    if (control != nullptr && widget()->isAncestorOf(control) &&
+        QGuiApplication::mouseButtons() == Qt::NoButton) {
+        // All of it: the toolkit's own way is content with the caret.
+        constexpr int around = 8;
+        const QSize half = control->size() / 2 + QSize(around, around);
+        const QPoint centre = control->mapTo(widget(), control->rect().center());
+        ensureVisible(centre.x(), centre.y(), half.width(), half.height());
+    }
+}

@@ -73,7 +73,7 @@ void FileCommands::mnuFileNew_Click() {
 }
 
 void FileCommands::mnuFileSave_Click() {
-    if (m_cboLoanName->currentText().isEmpty()) {
+    if (Worksheet::IsEmptyName(m_cboLoanName->currentText())) {
         m_window->MarkNameMissing();
         return;
     }
@@ -86,7 +86,8 @@ bool FileCommands::MayDrop() {
     }
     const QString name = m_worksheet->LoanName();
     const QString title = GetResourceText(TextNumber::SaveTitle);
-    const QString text = name.isEmpty() ? title : WithName(TextNumber::SaveQuestion, name);
+    const QString text =
+        Worksheet::IsEmptyName(name) ? title : WithName(TextNumber::SaveQuestion, name);
     switch (m_window->GetMessages().Ask({text, title, true})) {
     case Answer::Yes:
         return SaveOrMark();
@@ -99,7 +100,7 @@ bool FileCommands::MayDrop() {
 
 /// On the way to something else: a worksheet without a name stays, and its name is asked for.
 bool FileCommands::SaveOrMark() {
-    if (!LoanStore::IsEmptyName(m_worksheet->LoanName())) {
+    if (!Worksheet::IsEmptyName(m_worksheet->LoanName())) {
         return SaveLoan();
     }
     m_window->MarkNameMissing();
@@ -177,7 +178,7 @@ void FileCommands::LoadLoan(const QString& name) {
 
 void FileCommands::mnuFileDelete_Click() {
     const QString name = m_worksheet->LoanName();
-    if (LoanStore::IsEmptyName(name) && m_worksheet->Dirty()) {
+    if (Worksheet::IsEmptyName(name) && m_worksheet->Dirty()) {
         ClearWorksheet();
     } else if (LoanStore::FaultOf(name) == NameFault::NoKey) {
         Tell(GetResourceText(TextNumber::NoSuchNameToDelete));
@@ -197,7 +198,7 @@ void FileCommands::mnuFileDelete_Click() {
 
 /// False when the worksheet is still kept.
 bool FileCommands::DeleteLoan() {
-    if (LoanStore::IsEmptyName(m_worksheet->LoanName())) {
+    if (Worksheet::IsEmptyName(m_worksheet->LoanName())) {
         Tell(GetResourceText(TextNumber::NoNameToDelete));
         return true;
     }

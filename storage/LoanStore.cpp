@@ -55,17 +55,13 @@ void Write(const RegistryAPI& store, const std::string& key, const Worksheet& wo
 
 } // namespace
 
-bool LoanStore::IsEmptyName(const QString& name) {
-    return name.isEmpty() || name == QStringLiteral(" ");
-}
-
 bool LoanStore::CanBeKept(const QString& name) {
-    return !IsEmptyName(name) && name.size() <= static_cast<qsizetype>(LongestKeyName) &&
+    return !Worksheet::IsEmptyName(name) && name.size() <= static_cast<qsizetype>(LongestKeyName) &&
            name.isValidUtf16() && !name.contains(u'\\') && !name.contains(QChar::Null);
 }
 
 NameFault LoanStore::FaultOf(const QString& name) {
-    if (IsEmptyName(name)) {
+    if (Worksheet::IsEmptyName(name)) {
         return NameFault::Empty;
     }
     if (!CanBeKept(name)) {

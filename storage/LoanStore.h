@@ -33,8 +33,6 @@ class LoanStore {
 public:
     explicit LoanStore(RegistryAPI store) : m_store(std::move(store)) {}
 
-    /// A name counts as empty when it is one blank, too.
-    static bool IsEmptyName(const QString& name);
     /// What keeps a worksheet from being saved under the name.
     static NameFault FaultOf(const QString& name);
     /// Whether a worksheet can be kept under the name at all. The others name none: nothing exists,

@@ -225,7 +225,7 @@ TEST_F(ServerOnlyTest, ThePageChosenInSetUpIsPrinted) {
     });
     ASSERT_TRUE(WaitForEnd());
     ASSERT_TRUE(WaitForPaper(1));
-    EXPECT_EQ(PageSizeOf(Printed().front()), u"595 x 842"); // a sheet of A4
+    EXPECT_EQ(PageSizeOf(Printed().front()), u"842 x 595"); // A4 lying
 }
 
 TEST_F(ServerOnlyTest, ThePageOfTheLastDialogIsThatOfTheNext) {

@@ -146,6 +146,7 @@ public:
     std::set<std::size_t> raised;
     std::set<FieldId> missing;
     bool nameMissing = false;
+    bool IsUnnamed() const { return loan.name.isEmpty() || loan.name == u" "; }
     bool dirty = false;
     bool noticeShown = false;
     bool noticeComes = false;

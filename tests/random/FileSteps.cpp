@@ -15,8 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool IsEmptyName(const QString& name) { return name.isEmpty() || name == u" "; }
-
 bool CanBeKey(const QString& name) {
     return name.size() <= 255 && !name.contains(u'\\') && !name.contains(QChar::Null);
 }
@@ -44,7 +42,7 @@ Answer RandomUser::PrepareAnswer(unsigned number, bool mayCancel) {
 }
 
 bool RandomUser::SaveInBook() {
-    if (IsEmptyName(m_book.loan.name)) {
+    if (m_book.IsUnnamed()) {
         m_book.Expect(TextNumber::NoNameToSave);
         return false;
     }
@@ -69,12 +67,12 @@ bool RandomUser::MayDrop(Answer answer) {
     if (!m_book.dirty) {
         return true;
     }
-    m_questions.append(m_book.loan.name.isEmpty() ? GetResourceText(TextNumber::SaveTitle)
-                                                  : WithName(TextNumber::SaveQuestion));
+    m_questions.append(m_book.IsUnnamed() ? GetResourceText(TextNumber::SaveTitle)
+                                          : WithName(TextNumber::SaveQuestion));
     if (answer != Answer::Yes) {
         return answer == Answer::No;
     }
-    if (!IsEmptyName(m_book.loan.name)) {
+    if (!m_book.IsUnnamed()) {
         return SaveInBook();
     }
     m_book.nameMissing = true;
@@ -126,7 +124,7 @@ void RandomUser::Save(unsigned a, unsigned /*b*/) {
     if (!Commit(before)) {
         return;
     }
-    if (m_book.loan.name.isEmpty()) {
+    if (m_book.IsUnnamed()) {
         m_book.nameMissing = true;
     } else {
         SaveInBook();
@@ -199,7 +197,7 @@ void RandomUser::Delete(unsigned a, unsigned /*b*/) {
     if (!Commit(before)) {
         return;
     }
-    const bool unnamed = IsEmptyName(m_book.loan.name);
+    const bool unnamed = m_book.IsUnnamed();
     if (!CanBeKey(m_book.loan.name)) {
         return m_book.Expect(TextNumber::NoSuchNameToDelete);
     }
@@ -252,7 +250,7 @@ void RandomUser::CloseAndStart(unsigned a, unsigned b) {
 
 /// Closing with a worksheet to be saved that has no name: the window stays, and asks for it.
 void RandomUser::CloseUnnamed(unsigned /*a*/, unsigned b) {
-    if (!m_book.loan.name.isEmpty()) {
+    if (!m_book.IsUnnamed()) {
         TypeName(0, 0); // takes it away
     } else if (m_book.dirty) {
         CloseAndStart(0, b);

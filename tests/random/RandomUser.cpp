@@ -267,7 +267,7 @@ void RandomUser::LeaveInBook(const View& before) {
     switch (field.id) {
     case FieldId::LoanName:
         m_book.loan.name = before.text;
-        m_book.nameMissing = m_book.nameMissing && before.text.isEmpty();
+        m_book.nameMissing = m_book.nameMissing && m_book.IsUnnamed();
         break;
     case FieldId::FinancePoints:
         if (before.ticked || m_book.OfferIn(field.row.value).financed) {

@@ -36,6 +36,7 @@ protected:
     void TypeName(QStringView name) {
         Click(u"cboLoanName");
         Press(Qt::Key_A, Qt::ControlModifier);
+        Press(Qt::Key_Delete);
         Type(name);
     }
     void KeepLoan(QStringView name, QStringView amount) {

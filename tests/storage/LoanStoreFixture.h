@@ -19,8 +19,8 @@ inline Money Units(double units) { return Money::FromDouble(units); }
 
 /// Everything that a worksheet keeps has a value of its own.
 inline void Fill(Worksheet& w) {
-    w.SetLoanName(u"Our new home"_s);
-    w.SetLoanType(u"M"_s);
+    w.SetLoanName(QStringLiteral("Our new home"));
+    w.SetLoanType(QStringLiteral("M"));
     w.SetLoanAmount(Units(250'000.5));
     w.SetLoanTerm(360);
     w.SetEscrowTaxes(Units(3'600));
@@ -28,9 +28,9 @@ inline void Fill(Worksheet& w) {
     w.SetCurrentLoanAmount(Units(230'000));
     w.SetCurrentTerm(342);
     w.SetCurrentInterestRate(0.07125);
-    w.SetCurrentFrequency(FrequencyCodeToText(u"B"_s));
+    w.SetCurrentFrequency(FrequencyCodeToText(QStringLiteral("B")));
     w.SetCurrentBalance(Units(198'450.75));
-    w.SetCurrentActualFrequency(FrequencyCodeToText(u"W"_s));
+    w.SetCurrentActualFrequency(FrequencyCodeToText(QStringLiteral("W")));
     w.SetCurrentNextPayment(Date::FromCalendar(2026, 12, 3));
     w.SetCurrentPayment(Units(1'186.35));
     w.SetCurrentActualPayment(Units(2'050));
@@ -42,7 +42,7 @@ inline void FillOffer(Worksheet& w, Row row, const QString& who) {
     offer.SetPoints(1.125);
     offer.SetTerm(186);
     offer.SetInterestRate(0.0625);
-    offer.SetFrequencyCode(u"Q"_s);
+    offer.SetFrequencyCode(QStringLiteral("Q"));
     offer.SetActualPayment(Units(5'000));
     offer.SetWho(who);
 }
@@ -51,16 +51,17 @@ inline void FillOffer(Worksheet& w, Row row, const QString& who) {
 class LoanStoreTest : public testing::Test {
 protected:
     LoanStoreTest() {
-        Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), u"Loan"_s);
+        Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
         Language::Instance().LoadLanguage(English);
     }
 
     LoanStore Loans() const { return LoanStore(m_folder.Store()); }
     void Save(Sheet& sheet) const { Loans().Save(sheet.worksheet); }
-    std::vector<Failure> Load(Sheet& sheet, const QString& name = u"Our new home"_s) const {
+    std::vector<Failure> Load(Sheet& sheet,
+                              const QString& name = QStringLiteral("Our new home")) const {
         return Outcome(sheet, name).failures;
     }
-    LoadOutcome Outcome(Sheet& sheet, const QString& name = u"Our new home"_s) const {
+    LoadOutcome Outcome(Sheet& sheet, const QString& name = QStringLiteral("Our new home")) const {
         return Loans().Load(sheet.worksheet, name, [&](Row last) {
             sheet.worksheet.GrowOfferArrays(sheet.worksheet.HighestOfferRow(), last);
         });

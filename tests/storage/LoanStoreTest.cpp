@@ -227,7 +227,7 @@ TEST_F(LoanStoreTest, NamesThatCanAndCannotBeKeys) {
              Case{u"half "_s + QChar(0xD83C), Fault::NoKey},
          }) {
         EXPECT_EQ(row.fault, LoanStore::FaultOf(row.name)) << row.name.toStdString();
-        EXPECT_EQ(row.fault == Fault::Empty, LoanStore::IsEmptyName(row.name));
+        EXPECT_EQ(row.fault == Fault::Empty, Worksheet::IsEmptyName(row.name));
     }
 }
 

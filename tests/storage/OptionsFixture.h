@@ -66,5 +66,6 @@ inline Settings WithPicture(const QString& picture, const QString& folder = {}) 
 }
 
 /// What text 88 says.
-inline const QString RefusedInEnglish = u"Please enter a number of offers from 1 to 15."_s;
-inline const QString RefusedInSpanish = u"Escriba un número de ofertas del 1 al 15."_s;
+inline const QString RefusedInEnglish =
+    QStringLiteral("Please enter a number of offers from 1 to 15.");
+inline const QString RefusedInSpanish = QStringLiteral("Escriba un número de ofertas del 1 al 15.");

@@ -53,12 +53,12 @@ std::string Repaired(const std::string& words, const std::string& number) {
            number + "\n";
 }
 
-const std::string RepairedInEnglish =
-    "The file with your saved worksheets was damaged. What could be read is in a new file: 1 "
-    "worksheets. The damaged file has been kept as ";
+const std::string RepairedInEnglish = "The file with your saved worksheets was damaged. What could "
+                                      "be read is in a new file: 1 complete "
+                                      "worksheet. The damaged file has been kept as ";
 const std::string RepairedInSpanish =
     "El archivo con sus hojas de trabajo guardadas estaba dañado. Lo que se pudo leer está en un "
-    "archivo nuevo: 1 hojas de trabajo. El archivo dañado se conservó como ";
+    "archivo nuevo: 1 hoja de trabajo completa. El archivo dañado se conservó como ";
 
 /// Damaged before a save, and again before the settings are saved on the way out.
 const std::string Damaged = R"(

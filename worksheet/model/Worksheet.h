@@ -32,6 +32,8 @@ public:
 
     // The loan wanted. Types and frequencies are codes; their texts pass through ChoiceText.
     QString LoanName() const { return m_loan.name; }
+    /// One blank counts as no name, too.
+    static bool IsEmptyName(const QString& name) { return name.isEmpty() || name == u" "; }
     void SetLoanName(const QString& name);
     QString LoanType() const { return m_loan.type; }
     void SetLoanType(const QString& code);

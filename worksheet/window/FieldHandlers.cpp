@@ -185,7 +185,7 @@ void FieldHandlers::cboLoanName_GotFocus() {
 /// The mark of a missing name goes once there is one.
 void FieldHandlers::cboLoanName_LostFocus() {
     m_worksheet->SetLoanName(ChosenText({LoanName}));
-    if (!m_worksheet->LoanName().isEmpty()) {
+    if (!Worksheet::IsEmptyName(m_worksheet->LoanName())) {
         m_controls->ControlOf<LoanNameBox>({LoanName})->SetMark(Mark::None);
     }
 }

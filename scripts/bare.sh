@@ -16,6 +16,7 @@ inside() {
 }
 
 apt() {
+    # shellcheck disable=SC2154 # from scripts/lib.sh
     quietly "$log_dir/bare-apt.log" inside apt-get -q -y --no-install-recommends "$@"
 }
 

@@ -39,7 +39,8 @@ std::string Shown(const LanguageEntry& entry, const QString& folder) {
 
 std::vector<std::string> EntriesShown(const ProgramFolder& folder) {
     std::vector<std::string> shown;
-    const Language& language = SetUpIn(folder.Path());
+    const QString path = folder.Path();
+    const Language& language = SetUpIn(path);
     for (const LanguageEntry& entry : language.Entries()) {
         shown.push_back(Shown(entry, folder.Path()));
     }

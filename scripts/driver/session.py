@@ -168,7 +168,10 @@ class Session:
         self.tools.mkdir()
         environment.update(HOME=str(home), LC_ALL=self._locale,
                            PATH=f"{self.tools}:{environment['PATH']}",
-                           XAUTHORITY=str(self.folder / "xauthority"))
+                           XAUTHORITY=str(self.folder / "xauthority"),
+                           # Newer versions of Qt warn when a screen reader asks for a control that
+                           # has just gone.
+                           QT_LOGGING_RULES="qt.accessibility.atspi.warning=false")
         return environment
 
     def _start_display(self) -> None:

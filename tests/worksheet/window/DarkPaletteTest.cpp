@@ -22,7 +22,8 @@ namespace {
 /// As accessibility guides compute it: 1 is none, 21 is black on white.
 double Contrast(const QColor& one, const QColor& other) {
     const auto luminance = [](const QColor& colour) {
-        const auto linear = [](double part) {
+        const auto linear = [](float channel) {
+            const auto part = static_cast<double>(channel);
             return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
         };
         return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +

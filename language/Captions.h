@@ -14,7 +14,7 @@ enum class TermUnit { Months, Years };
 ///     toolTipText         tooltip
 ///     accessibleText      name for screen readers
 ///     hintText            text in an empty field
-///     activeText          description of an active control for screen readers, instead of the tooltip
+///     activeText          screen-reader description while active, instead of the tooltip
 ///     toolTipAway         true while the control shows no tooltip, in any language
 ///     activeTextAway      true while the control is not active
 ///

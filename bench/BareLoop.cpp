@@ -29,7 +29,7 @@ inline void NextMonth(BareDay& date) {
 
 inline std::int64_t Rounded(double units) { return std::llrint(units * 10'000.0); }
 
-/// Inlined into each of the four below, with their constants.
+/// Inlined into each of the four functions below, with their constants.
 template <typename Interest, typename Step>
 inline BarePayoff Repay(const BareLoan& loan, Interest interestOf, Step step) {
     BarePayoff payoff{0, loan.days, 0};

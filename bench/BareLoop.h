@@ -4,10 +4,10 @@
 
 #include <cstdint>
 
-/// The arithmetic of the schedule and nothing else, as the yardstick of its cost: one hand-written
-/// loop a frequency, no check, no table, plain integers. Wrong for anything but a healthy loan.
+/// Only the arithmetic of the schedule, as the baseline of its cost: one hand-written loop per
+/// frequency, no checks, no table, plain integers. Correct only for a valid loan that is repaid.
 struct BareLoan {
-    std::int64_t balance; ///< ten-thousandths, as all amounts here
+    std::int64_t balance; ///< ten-thousandths, like all amounts here
     std::int64_t payment;
     std::int64_t escrowShare;
     double rate;
@@ -17,7 +17,7 @@ struct BareLoan {
     int days; ///< the same day counted since 30 December 1899
 };
 
-/// A schedule without escrow that begins on 21 July 2026, as the benchmarks have it.
+/// A schedule without escrow that starts on 21 July 2026, as in the benchmarks.
 inline BareLoan BareLoanOf(const ScheduleTerms& terms) {
     return {terms.balance.TenThousandths(),
             terms.payment.TenThousandths(),

@@ -24,7 +24,7 @@ struct BareCase {
     BarePayoff (*run)(const BareLoan&);
 };
 
-/// Beside the four rows of the table of frequencies.
+/// In the order of the table of frequencies.
 constexpr std::array<BareCase, 4> BareCases{{
     {"Monthly", BareMonthly},
     {"TwiceAMonth", BareTwiceAMonth},
@@ -36,7 +36,7 @@ double Nanoseconds(Clock::duration duration) {
     return std::chrono::duration<double, std::nano>(duration).count();
 }
 
-/// How long one call takes: the mean of a hundred, after which it is called again and again.
+/// The time of one call: the mean of 100 repeated calls.
 template <typename Call>
 double NanosecondsOf(Call call) {
     constexpr int Calls = 100;
@@ -57,7 +57,8 @@ ScheduleTerms TermsFor(const Frequency& frequency) {
             .start = Date::FromCalendar(2026, 7, 21)};
 }
 
-/// The schedule beside the bare loop of the same arithmetic, in turns, each at its best.
+/// The schedule compared with the bare loop of the same arithmetic, alternating, the best time of
+/// each.
 void SchedulePeriod(benchmark::State& state, std::size_t row) {
     const ScheduleTerms terms = TermsFor(Frequencies.at(row));
     const BareLoan bare = BareLoanOf(terms);
@@ -80,7 +81,7 @@ void SchedulePeriod(benchmark::State& state, std::size_t row) {
     state.counters["ratio"] = best / bestBare;
 }
 
-/// What an edit that touches every offer costs: up to sixteen offers, their five results each.
+/// Cost of an edit that affects every offer: up to sixteen offers, five results each.
 void RecalculateOffers(benchmark::State& state, std::size_t row) {
     RecordingLoanContext context;
     context.escrowMonthly = Money::FromDouble(250.0);
@@ -106,8 +107,8 @@ void RecalculateOffers(benchmark::State& state, std::size_t row) {
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
-/// How long one answer to a loan takes, be it a result or a failure: the best of three, so that the
-/// system's own interruptions do not count.
+/// The time of one result or failure of a loan: the best of three, so that interruptions by the
+/// system do not count.
 template <typename Question>
 double MillisecondsOf(Question question) {
     double best = std::numeric_limits<double>::max();
@@ -128,7 +129,7 @@ double SlowestAnswerTo(const HostileLoan& loan) {
     context.escrowMonthly = loan.escrowMonthly;
     context.today = loan.start;
     CLoan offer(context);
-    // While everything else is missing the payment is taken as it is, however low.
+    // While the other inputs are missing, any payment is accepted, however low.
     offer.SetActualPayment(loan.actualPayment);
     offer.SetStartingAmount(loan.amount);
     offer.SetPoints(loan.points);

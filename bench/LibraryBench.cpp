@@ -1,5 +1,6 @@
-// A whole loan paid off period by period: the schedule beside the same arithmetic as a bare loop,
-// and beside a bond of the same terms of a library for quantitative finance. By months of the loan.
+// A whole loan repaid period by period: the schedule compared with the same arithmetic as a bare
+// loop, and with a bond of the same terms in a library for quantitative finance. Argument: months
+// of the loan.
 
 #include "BareLoop.h"
 #include "Payment.h"
@@ -46,7 +47,7 @@ void BareLoop(benchmark::State& state) {
     }
 }
 
-/// The bond is built and its interest summed, which is what the schedule answers.
+/// Builds the bond and sums its interest, as the schedule does.
 double InterestOfBond(int months) {
     using namespace QuantLib;
     const QuantLib::Date start(21, July, 2026);
@@ -70,7 +71,7 @@ void LibraryBond(benchmark::State& state) {
     }
     const double own =
         static_cast<double>(RunToPayoff(TermsOf(months)).interest.TenThousandths()) / 10'000;
-    // Payments are whole cents here and are not there.
+    // Payments are whole cents here, but not in the library.
     if (std::abs(InterestOfBond(months) - own) > own / 1'000) {
         state.SkipWithError("the library has another result");
     }

@@ -1,7 +1,7 @@
-// What the user waits for when worksheets are kept: a full one of sixteen offers saved and loaded,
-// ten thousand listed, and their list dropped down in the window. "flushes" are the system's calls
-// that wait for the disk, for each save, "flush_ms" is how long they wait, and "rest_ms" is what
-// remains for everything else. A figure that misses its aim ends in an error.
+// What the user waits for with stored worksheets: saving and loading a full one of sixteen offers,
+// listing ten thousand, and opening their list in the window. Per save, "flushes" counts the system
+// calls that wait for the disk, "flush_ms" is their time and "rest_ms" the remaining time. A figure
+// that misses its target is an error.
 
 #include "FileCommands.h"
 #include "FlushCount.h"
@@ -32,7 +32,7 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 constexpr int Rows = 16;
 constexpr int ManyWorksheets = 10'000;
 
-/// Every value that a worksheet keeps, of so many offers.
+/// Sets every stored value of a worksheet with this many offers.
 void FillSheet(Worksheet& worksheet, int offers = Rows) {
     FillSampleLoans(worksheet);
     worksheet.SetCurrentActualFrequency(FrequencyCodeToText(QStringLiteral("M")));
@@ -48,7 +48,7 @@ void FillSheet(Worksheet& worksheet, int offers = Rows) {
     }
 }
 
-/// The mean of the rounds counts against the aim.
+/// The mean of the rounds is compared with the target.
 class Rounds {
 public:
     explicit Rounds(benchmark::State& state) : m_state(&state) {}
@@ -146,8 +146,8 @@ BENCHMARK(LoadOfAWorksheet)
     ->Unit(benchmark::kMillisecond)
     ->UseManualTime();
 
-/// Ten thousand worksheets that hold a name: what else is in them makes no difference to their
-/// list, nor to another one that is saved or loaded.
+/// Ten thousand worksheets with a name only: other values affect neither their list nor the saving
+/// or loading of another worksheet.
 void MakeMany(const RegistryAPI& store) {
     store.InOneStep([](const RegistryAPI& step) {
         for (int i = 0; i < ManyWorksheets; ++i) {
@@ -198,7 +198,7 @@ public:
     Answer Ask(const Question& /*question*/) override { return Answer::No; }
 };
 
-/// From the key that opens the list to the list standing there, painted.
+/// From the key that opens the list to the painted list.
 void DropDownOfTenThousandWorksheets(benchmark::State& state) {
     const StoreFolder folder;
     MakeMany(folder.Store());

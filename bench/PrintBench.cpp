@@ -1,5 +1,5 @@
-// What a report costs: reading the window, drawing the pages, and handing them over as a finished
-// document; without the time that the progress window stays up.
+// Cost of a report: reading the window, drawing the pages, and delivering the finished document;
+// without the time that the progress window stays open.
 
 #include "FakeMessages.h"
 #include "FormReader.h"
@@ -20,7 +20,7 @@ namespace {
 
 const QSizeF Letter(8 * TwipsPerInch, 10.5 * TwipsPerInch);
 
-/// So many offers, each with a lender's text of so many words.
+/// Fills this many offers, each with a lender's text of this many words.
 void Fill(Loan& window, int offers, int words) {
     window.Rows().GrowTo(Row{offers - 1});
     Worksheet& sheet = window.GetWorksheet();
@@ -60,7 +60,7 @@ std::size_t PrintOnce(Loan& window) {
     return pages.pages.size();
 }
 
-/// The window whose worksheet is printed.
+/// A window with the worksheet to print.
 class Office {
 public:
     Office(int offers, int words) {
@@ -86,13 +86,13 @@ void PrintedReport(benchmark::State& state) {
     }
     state.counters["pages"] = static_cast<double>(pages);
 }
-// Two words a lender, and lenders that fill twenty pages and more.
+// Two words per lender, and lenders that fill twenty pages and more.
 BENCHMARK(PrintedReport)
     ->ArgsProduct({{1, 2, 4, 8, 16}, {2}})
     ->Args({16, 180})
     ->Unit(benchmark::kMillisecond);
 
-/// What the print server of CUPS_SERVER is given: only the last step waits for it.
+/// Delivery to the print server of CUPS_SERVER; only the last step waits for it.
 void HandOver(benchmark::State& state) {
     if (qEnvironmentVariableIsEmpty("CUPS_SERVER")) {
         state.SkipWithError("there is no print server");

@@ -1,6 +1,6 @@
-// What the store costs: a worksheet saved and loaded, ten thousand listed, and the look at it when
-// the program starts. "flushes" are the system's calls that wait for the disk, for each round;
-// "disk_ms" is what one such call costs here, so that the rest of a save can be seen.
+// Cost of the store: saving and loading a worksheet, listing ten thousand, and the check at program
+// start. "flushes" counts the system calls per round that wait for the disk; "disk_ms" is the time
+// of one such call on this machine, so that the rest of a save can be computed.
 #include "FlushCount.h"
 #include "RegistryAPI.h"
 #include "StoreCheck.h"
@@ -17,9 +17,9 @@ namespace {
 
 constexpr RegistryRoot User = RegistryRoot::CurrentUser;
 const std::string Base = "Software\\Quend Halverworks\\Loan";
-constexpr int Values = 130; // of a worksheet with sixteen offers
+constexpr int Values = 130; // in a worksheet with sixteen offers
 
-/// A store in a folder of its own, removed at the end.
+/// A store in a temporary folder.
 class Store {
 public:
     Store() { registry.CreateKey(User, Base); }
@@ -56,7 +56,7 @@ private:
     }
 };
 
-/// Milliseconds that a page written to a file takes to reach the disk.
+/// Milliseconds to write a page to a file and flush it to the disk.
 double FlushTime(const std::filesystem::path& beside) {
     std::filesystem::path file = beside;
     file += ".flush";

@@ -1,6 +1,6 @@
-// What the user sees: from a key sent to the window to the end of the paint that shows what came of
-// it, with so many offers in the worksheet. Offscreen, or on the display that QT_QPA_PLATFORM=xcb
-// leads to; bench/measure times the same from outside.
+// What the user sees: the time from a key sent to the window to the end of the paint that shows the
+// result. Argument: offers in the worksheet. Offscreen, or on the display with QT_QPA_PLATFORM=xcb;
+// bench/measure times the same from outside.
 
 #include "ControlMap.h"
 #include "FakeMessages.h"
@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Counts what is painted below a window.
+/// Counts paint events below a window.
 class Paints : public QObject {
 public:
     explicit Paints(QObject& window) { window.installEventFilter(this); }
@@ -43,7 +43,7 @@ void Fill(Loan& window, int offers) {
     }
 }
 
-/// The key that stores the loan amount; every offer is calculated and shown anew.
+/// The key that stores the loan amount; every offer is recalculated and repainted.
 void KeyToPaintedResult(benchmark::State& state) {
     FakeMessages messages;
     Settings settings;

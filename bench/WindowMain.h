@@ -6,8 +6,8 @@
 
 #include <benchmark/benchmark.h>
 
-/// Runs the benchmarks of a program that shows the window, in English, without a screen unless the
-/// environment names one.
+/// Runs benchmarks that show the window, in English, offscreen unless the environment names a
+/// platform.
 inline int RunWindowBenchmarks(int argc, char* argv[]) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");

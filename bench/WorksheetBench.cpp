@@ -1,5 +1,5 @@
-// What one edit costs: everything that a full window of sixteen offers shows, computed anew, with
-// its texts; without painting.
+// Cost of one edit: recomputing everything that a full window of sixteen offers shows, including
+// texts, without painting.
 
 #include "Frequency.h"
 #include "Worksheet.h"
@@ -20,7 +20,7 @@ public:
     void PaymentRefused() override {}
 };
 
-/// So many offers over thirty years, in turns of the four frequencies, and a loan held today.
+/// Fills this many offers over thirty years, with the four frequencies in turn, and a current loan.
 void Fill(Worksheet& worksheet, int offers = 16) {
     worksheet.GrowOfferArrays(Row{-1}, Row{offers - 1});
     worksheet.SetLoanAmount(Money::FromDouble(250'000));
@@ -40,7 +40,7 @@ void Fill(Worksheet& worksheet, int offers = 16) {
     worksheet.StoreChoice({FieldId::ActPaymentFrequency}, FrequencyCodeToText(QStringLiteral("M")));
 }
 
-/// Changes the annual taxes back and forth: the escrow, every offer and the loan held today follow.
+/// Changes the annual taxes back and forth: the escrow, every offer and the current loan change.
 void EverythingTheWindowShows(benchmark::State& state) {
     NoDisplay display;
     const QLocale locale(QLocale::English, QLocale::UnitedStates);
@@ -58,7 +58,7 @@ BENCHMARK(EverythingTheWindowShows)
     ->Range(1, 16)
     ->Unit(benchmark::kMicrosecond);
 
-/// The headings of the columns, one after the other: every row is shown anew each time.
+/// Sorts by each heading in turn: every row is updated each time.
 void BothSorts(benchmark::State& state) {
     NoDisplay display;
     const QLocale locale(QLocale::English, QLocale::UnitedStates);

@@ -62,7 +62,7 @@ void CLoan::SetActualPayment(Money payment) {
 }
 
 Date CLoan::PayoffDate() {
-    m_interest = Money(); // stands if the schedule fails
+    m_interest = Money(); // remains if the schedule fails
     const Money principal = StartingPrinciple();
     if (principal.IsZero() || m_interestRate == 0.0 || m_frequencyCode.isEmpty() ||
         m_actualPayment.IsZero()) {

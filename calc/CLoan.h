@@ -5,7 +5,7 @@
 
 #include <QString>
 
-/// What an offer asks of the worksheet it stands in, and what it reports to it.
+/// What an offer needs from its worksheet, and what it reports to it.
 class LoanContext {
 public:
     LoanContext() = default;
@@ -22,24 +22,24 @@ public:
 
     /// A value that is saved with the loan has changed.
     virtual void MarkDirty() = 0;
-    /// A positive actual payment below the computed payment was turned down. The user is to be
-    /// told.
+    /// A positive actual payment below the computed payment was refused. The worksheet informs the
+    /// user.
     virtual void PaymentRefused() = 0;
 };
 
 /// One loan offer: its inputs, and the payment, payoff date and interest that follow from them.
-/// It neither shows a message nor knows its row, and results are computed when read, never kept up
-/// to date. The context must outlive it. Points are in percent, the rate is annual and a fraction,
-/// the term is in months.
+/// It shows no message and does not know its row. Results are computed when read, not cached. The
+/// context must outlive it. Points are in percent, the rate is annual and a fraction, the term is
+/// in months.
 ///
-/// A missing input (zero, or no frequency) gives zero results or no date, never a failure. What
-/// leaves the range of money, or of a date, raises OverflowFailure from the reading function.
+/// A missing input (zero, or no frequency) gives zero results or no date, never a failure. A result
+/// outside the range of money or of a date raises OverflowFailure from the reading function.
 class CLoan {
 public:
     explicit CLoan(LoanContext& context) : m_context(&context) {}
 
     // Every setter marks the worksheet dirty when its value differs from the stored one, except for
-    // the starting amount, which is the worksheet's own.
+    // the starting amount, which belongs to the worksheet.
     bool FinancePoints() const { return m_financePoints; }
     void SetFinancePoints(bool finance) { Change(m_financePoints, finance); }
     double Points() const { return m_points; }
@@ -52,40 +52,42 @@ public:
     int Term() const { return m_term; }
     void SetTerm(int months) { Change(m_term, months); }
     double InterestRate() const { return m_interestRate; }
-    /// A rate other than zero gives a missing term the worksheet's default one.
+    /// A nonzero rate sets a missing term to the worksheet's default term.
     void SetInterestRate(double rate);
     const QString& FrequencyCode() const { return m_frequencyCode; }
-    /// Any text is kept as it is; an unknown code is no failure.
+    /// Any text is stored unchanged; an unknown code is not a failure.
     void SetFrequencyCode(const QString& code) { Change(m_frequencyCode, code); }
-    /// The frequency's name in the language of the moment; empty for an unknown code.
+    /// The frequency's name in the current language; empty for an unknown code.
     QString Frequency() const;
     /// A text that names no frequency clears the code.
     void SetFrequency(const QString& text);
     const QString& Who() const { return m_who; }
     void SetWho(const QString& lender) { Change(m_who, lender); }
 
-    /// What the payments repay: the starting amount with financed points (to the nearest
+    /// The amount that the payments repay: the starting amount plus financed points (to the nearest
     /// ten-thousandth) and financed closing costs.
     Money StartingPrinciple() const;
     /// Principal and interest of one payment, in whole cents.
     Money PandI() const;
-    /// One payment with its share of the escrow. Raises a lower actual payment to itself, marks the
-    /// worksheet dirty then and sets Forced. Zero, and nothing raised, while PandI is zero.
+    /// One payment with its share of the escrow. If the actual payment is lower, raises it to this
+    /// value, marks the worksheet dirty and sets Forced. While PandI is zero, returns zero and
+    /// raises nothing.
     Money Payment();
-    /// The same without raising or marking anything.
+    /// As Payment, but raises and marks nothing.
     Money LeastPayment() const;
     /// True once after Payment has raised the actual payment; reading it clears it.
     bool Forced();
 
     Money ActualPayment() const { return m_actualPayment; }
-    /// Reads Payment first. A positive value below it is refused: the context is told once, and the
-    /// computed payment is stored instead. Zero and less are accepted.
+    /// Reads Payment first. A positive value below it is refused: the context is notified once, and
+    /// the computed payment is stored instead. Zero and less are accepted.
     void SetActualPayment(Money payment);
 
     /// The day on which the actual payment, made from today on, has repaid the loan. No date while
     /// principal, rate, frequency code or actual payment is missing.
     Date PayoffDate();
-    /// The whole interest of the last PayoffDate; zero before the first and after one that failed.
+    /// The total interest of the last PayoffDate call; zero before the first call and after a
+    /// failed one.
     Money Interest() const { return m_interest; }
 
 private:

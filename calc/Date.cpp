@@ -9,7 +9,7 @@ constexpr std::chrono::sys_days DayZero = std::chrono::year(1899) / std::chrono:
 } // namespace
 
 Date Date::FromCalendar(int year, int month, int day) {
-    // The calendar type holds a month or day of up to 255 and would cut a larger one short.
+    // std::chrono's month and day hold at most 255 and would truncate larger values.
     if (year < 1 || year > 9999 || month < 1 || month > 12 || day < 1 || day > 31) {
         RaiseOverflow();
     }

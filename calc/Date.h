@@ -4,8 +4,8 @@
 #include <compare>
 
 /// A calendar day: whole days since 30 December 1899. Zero, the default, means no date.
-/// The days run from 1 January of the year 1 to 31 December 9999; whatever would lie outside raises
-/// OverflowFailure. It knows neither the clock nor any format.
+/// The range is 1 January of the year 1 to 31 December 9999; a date outside raises OverflowFailure.
+/// Does not read the clock and does not format.
 class Date {
 public:
     constexpr Date() = default;
@@ -16,12 +16,12 @@ public:
         }
         return Date(days);
     }
-    /// Raises OverflowFailure for a day that no calendar has, such as 31 April, too.
+    /// Raises OverflowFailure also for a day that does not exist, such as 31 April.
     static Date FromCalendar(int year, int month, int day);
 
     constexpr int Days() const { return m_days; }
     constexpr bool IsNone() const { return m_days == 0; }
-    /// Of no date: 30 December 1899.
+    /// No date gives 30 December 1899.
     std::chrono::year_month_day Calendar() const;
 
     /// No date counts as 30 December 1899 in both.

@@ -2,8 +2,8 @@
 
 #include "Date.h"
 
-/// A day that walks the calendar month by month. It keeps the calendar beside the day count, so
-/// that a step converts nothing. A day cut to a short month's end stays cut.
+/// A date that advances month by month. It keeps the calendar fields beside the day count, so that
+/// a step needs no conversion. A day reduced to a short month's end stays reduced.
 class MonthlyDates {
 public:
     explicit MonthlyDates(Date start)

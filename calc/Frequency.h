@@ -16,19 +16,20 @@ enum class DateStep {
     Days,      ///< a fixed number of days, the frequency's interestParts
 };
 
-/// One of the four ways to repay a loan. Everywhere a frequency is held and saved as its code, a
-/// text of one capital letter; the empty text is no frequency.
+/// One of the four payment frequencies. A frequency is always held and saved as its code, a text of
+/// one capital letter; the empty text means no frequency.
 struct Frequency {
     char16_t code;
-    int textNumber;           ///< the language text that names it to the user
+    int textNumber;           ///< the text with its name
     int periodsPerYear;       ///< in the payment formula
     int wholePeriodsPerMonth; ///< 0 where a month holds no whole number of periods
-    /// One period of the schedule bears balance * rate / interestYear * interestParts. Periods of
-    /// days count them against 365, on purpose not against the periods of the payment formula.
+    /// The interest of one schedule period is balance * rate / interestYear * interestParts.
+    /// Periods of days are relative to 365 days, intentionally not to the periods of the payment
+    /// formula.
     double interestYear;
     int interestParts;
     DateStep step;
-    bool halvesEscrow; ///< a payment carries half the monthly escrow, however many a year has
+    bool halvesEscrow; ///< half the monthly escrow per payment, whatever periodsPerYear is
 
     QString Code() const { return {QChar(code)}; }
 };
@@ -44,22 +45,23 @@ inline constexpr std::array<Frequency, 4> Frequencies{{
 }};
 // clang-format on
 
-/// Null for no frequency and for an unknown code. The row lives as long as the program.
+/// Null for no frequency and for an unknown code. The row has static lifetime.
 const Frequency* FindFrequency(QStringView code);
 
-/// How many payments a term holds; not rounded, so that 100 months hold 216.67 payments of two
-/// weeks. Raises OverflowFailure where a whole number of payments leaves the 32-bit range.
+/// The number of payments in a term; not rounded: 100 months have 216.67 payments every two weeks.
+/// Raises OverflowFailure if a whole number of payments is outside the 32-bit range.
 double PeriodsOfTerm(const Frequency& frequency, int termMonths);
 
-/// What one payment carries of the monthly escrow: all of it for M and Q, half of it (in double
-/// precision, then as Money::FromDouble rounds) for every other code, unknown and empty included.
+/// The part of the monthly escrow in one payment: all of it for M and Q, half of it (computed in
+/// double, rounded as Money::FromDouble does) for every other code, including unknown and empty
+/// ones.
 Money EscrowShare(QStringView code, Money monthlyEscrow);
 
-/// The code's text in the language of the moment; empty for any other code.
+/// The code's text in the current language; empty for an unknown code.
 QString FrequencyCodeToText(const QString& code);
 
-/// The code whose text, in the language of the moment, is exactly the given one; otherwise empty.
-/// The empty text has no code, even where a language lacks a text.
+/// The code whose text in the current language equals the given one; otherwise empty. The empty
+/// text has no code, even if the language lacks a text.
 QString FrequencyTextToCode(const QString& text);
 
 /// The four texts in list order.

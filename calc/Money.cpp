@@ -18,7 +18,7 @@ Money Money::FromDoubleInCents(double units) {
 
 Money Money::RoundedToCents() const {
     const std::int64_t cents = m_count / PerCent;
-    const std::int64_t rest = m_count % PerCent; // of the amount's own sign
+    const std::int64_t rest = m_count % PerCent; // has the sign of the amount
     const std::int64_t beyondHalf = (rest < 0 ? -rest : rest) * 2 - PerCent;
     const bool awayFromZero = beyondHalf > 0 || (beyondHalf == 0 && cents % 2 != 0);
     const std::int64_t step = rest < 0 ? -1 : 1;

@@ -6,8 +6,8 @@
 
 /// An amount of money: whole ten-thousandths of the currency unit.
 /// Sums and differences raise OverflowFailure outside the 64-bit range; nothing wraps or saturates.
-/// It does not multiply: what is proportional (interest, points, a share) is computed in double
-/// precision and comes back through a factory that names its rounding. It does not format itself.
+/// No multiplication: proportional amounts (interest, points, a share) are computed in double and
+/// converted back by a factory whose name states the rounding. Does not format.
 class Money {
 public:
     constexpr Money() = default;
@@ -16,14 +16,14 @@ public:
     /// Nearest ten-thousandth, halves to even. Raises OverflowFailure outside the range and for
     /// NaN.
     static Money FromDouble(double units) { return Money(Rounded(units * PerUnit)); }
-    /// Nearest cent, halves to even, straight from the double and as units * 100 shows them.
-    /// Raises as FromDouble does.
+    /// Nearest cent, halves to even, rounded once from the double units * 100. Raises as FromDouble
+    /// does.
     static Money FromDoubleInCents(double units);
 
     constexpr std::int64_t TenThousandths() const { return m_count; }
-    /// In currency units. Exact to the ten-thousandth up to 2^53 ten-thousandths (900 milliard).
+    /// In currency units. Exact to the ten-thousandth up to 2^53 ten-thousandths (9 * 10^11 units).
     constexpr double ToDouble() const { return static_cast<double>(m_count) / PerUnit; }
-    /// Nearest cent, halves to even. Never fails: both ends of the range round towards zero.
+    /// Nearest cent, halves to even. Never fails: both limits of the range round towards zero.
     Money RoundedToCents() const;
     constexpr bool IsZero() const { return m_count == 0; }
 
@@ -55,7 +55,7 @@ private:
 
     explicit constexpr Money(std::int64_t count) : m_count(count) {}
 
-    /// The nearest whole number, halves to even. The comparison is false for NaN too.
+    /// The nearest whole number, halves to even. The range check also rejects NaN.
     static std::int64_t Rounded(double count) {
         constexpr double End = 9'223'372'036'854'775'808.0; // 2^63, the first count too large
         if (!(count >= -End && count < End)) {

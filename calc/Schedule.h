@@ -7,83 +7,83 @@
 
 #include <cstdint>
 
-/// What a loan is repaid from, at the moment its schedule starts.
+/// The inputs of a schedule.
 struct ScheduleTerms {
     Money balance;
     double rate = 0.0; ///< annual, as a fraction
-    Money payment;     ///< of one period, its escrow share included
+    Money payment;     ///< of one period, including its escrow share
     Money escrowShare; ///< of one period
-    /// Null for a code that is none of the four: no interest is borne and no date moves.
+    /// Null for an unknown code: no interest accrues and the date does not advance.
     const Frequency* frequency = nullptr;
     Date start; ///< no date counts as 30 December 1899
 };
 
-/// What one period of the schedule does, or several equal ones.
+/// The result of one schedule period, or of several equal ones.
 struct SchedulePeriod {
-    Date date;      ///< after the period's step
+    Date date;      ///< after the date step
     Money interest; ///< to the nearest ten-thousandth
     Money principal;
     Money balance;            ///< after the period, or after the last of the equal ones
-    std::int64_t repeats = 1; ///< how many periods bear this interest and principal each
+    std::int64_t repeats = 1; ///< number of periods with this interest and principal each
 };
 
-/// When a loan is repaid, and the interest it bears until then.
+/// The payoff date, and the interest until then.
 struct Payoff {
     Date date;
     Money interest;
     std::int64_t periods = 0;
-    Money lastPrincipal; ///< of the last period, which alone may differ from the payment
+    Money lastPrincipal; ///< of the last period, the only one that may differ from the payment
     Money lastInterest;
 };
 
 struct ScheduleTotals {
     Date payoff;
     Money interest;
-    Money paid; ///< escrow share, principal part and interest of every period
+    Money paid; ///< escrow share, principal and interest of all periods
     std::int64_t periods = 0;
 };
 
-/// The amortization schedule, the one of offers and of the loan held today. In every period the
-/// balance bears interest, and what the payment leaves after escrow share and interest repays
-/// principal. A principal part greater than the balance is cut to it and does not advance the date;
-/// one that exactly clears the balance does. A zero balance has no period and no date.
+/// The amortization schedule of offers and of the current loan. In every period interest accrues on
+/// the balance, and the rest of the payment after escrow share and interest repays principal. A
+/// principal part greater than the balance is reduced to it and does not advance the date; one that
+/// equals the balance does. A zero balance has no period and no date.
 ///
-/// It always ends: with the payoff, or with OverflowFailure. That is raised
-/// - at once, as NeverRepaidFailure, when a positive balance can never fall again: its principal
-/// part is zero, or it is
-///   below zero and the rate is not, so that each period adds at least as much as the last;
-/// - when a payment date would lie past the last date, which bounds whatever still may fall, as a
-///   balance may that grows under a negative rate;
-/// - when an amount leaves the range of money, or a rate makes no number.
+/// It always terminates: with the payoff, or with OverflowFailure, which is raised
+/// - immediately, as NeverRepaidFailure, if a positive balance can never fall again: the principal
+/// part is zero, or it is negative and the rate is not, so that each period adds at least as much
+/// as the last;
+/// - if a payment date would be past the last date; this bounds the cases where the balance may
+/// still fall, such as a balance that grows under a negative rate;
+/// - if an amount is outside the range of money, or the rate leads to NaN.
 ///
-/// The watch is called with a SchedulePeriod after each period; the schedule itself keeps none.
-/// With a code that moves no date, equal periods come as one record, and the last as another.
+/// The watch is called with a SchedulePeriod after each period; the schedule stores none. For an
+/// unknown code, all equal periods are reported as one record, and the last as another.
 template <typename Watch>
 Payoff RunToPayoff(const ScheduleTerms& terms, Watch watch);
 Payoff RunToPayoff(const ScheduleTerms& terms);
 
-/// The same with the sum of all payments, which raises OverflowFailure on its own account.
+/// As RunToPayoff, with the sum of all payments, which may also raise OverflowFailure.
 template <typename Watch>
 ScheduleTotals RunSchedule(const ScheduleTerms& terms, Watch watch);
 ScheduleTotals RunSchedule(const ScheduleTerms& terms);
 
-// How it runs. Nobody outside this header calls what follows.
+// Implementation. Not for use outside this header.
 
 namespace ScheduleLoop {
 
 /// The balance can never fall again.
 [[noreturn]] void RaiseEndless();
-/// Sums what was paid: the payment in every period but the last.
+/// Sums what was paid: the full payment in every period except the last.
 ScheduleTotals Totals(const ScheduleTerms& terms, const Payoff& payoff);
 
-/// Is a balance whose period repays this principal above zero for good? From a principal part of
-/// zero on nothing changes. Below zero the balance grows, and with it the interest; only under a
-/// negative rate does that help to repay.
+/// Whether a balance whose period repays this principal can never reach zero. With a zero principal
+/// part nothing changes any more. With a negative one the balance grows, and the interest with it,
+/// which helps to repay only under a negative rate.
 inline bool IsEndless(Money balance, Money principal, double rate) {
     return principal <= Money() && balance > Money() && (principal.IsZero() || !(rate < 0.0));
 }
 
-/// The frequency is resolved by the caller: the loop knows only its dates and two numbers.
+/// The caller resolves the frequency; the loop needs only its dates and two numbers.
 template <typename Dates, typename Watch>
 Payoff RunPeriods(const ScheduleTerms& terms, Dates dates, Watch& watch) {
     const double year = terms.frequency->interestYear;
@@ -115,7 +115,7 @@ Payoff RunPeriods(const ScheduleTerms& terms, Dates dates, Watch& watch) {
     }
 }
 
-/// No interest and no date: as many equal periods as the balance holds, then what is left of it.
+/// Without interest and dates: as many equal periods as fit into the balance, then the remainder.
 template <typename Watch>
 Payoff Divide(const ScheduleTerms& terms, Watch& watch) {
     const Money available = terms.payment - terms.escrowShare;

@@ -1,18 +1,18 @@
 # add_floor(<name> HEADERS … SOURCES … USES …)
-# One floor of the house: a static library that shows its users its own folder and nothing else,
-# so that an include against the direction of the arrows does not compile.
+# One layer: a static library that exposes only its own folder to its users, so that an include in the wrong
+# direction does not compile.
 function(add_floor name)
   cmake_parse_arguments(FLOOR "" "" "HEADERS;SOURCES;USES" ${ARGN})
   add_library(${name} STATIC ${FLOOR_SOURCES})
   target_sources(${name} PUBLIC FILE_SET HEADERS BASE_DIRS ${CMAKE_CURRENT_SOURCE_DIR} FILES ${FLOOR_HEADERS})
-  # Headers are compiled alone, too, and by those who use the floor.
+  # Public, because headers are also compiled alone and by users of the layer.
   target_compile_features(${name} PUBLIC cxx_std_20)
   target_link_libraries(${name} PUBLIC ${FLOOR_USES} PRIVATE strictness)
 endfunction()
 
 # seal(<library>)
-# Appends a seal whenever the library has been linked. It is stripped while it is linked, because stripping
-# it later, in a package, would take the seal away.
+# Appends a seal after each link. The linker strips the library, because stripping it later, in a package,
+# would remove the seal.
 function(seal library)
   target_link_options(${library} PRIVATE $<$<CONFIG:Release>:-s>)
   add_custom_command(TARGET ${library} POST_BUILD VERBATIM
@@ -20,8 +20,8 @@ function(seal library)
 endfunction()
 
 # add_program_part(<name> NAME <file> SOURCES … USES …)
-# A library beside the program, loaded when it is first needed (ProgramPart.h). Its floors must know
-# neither the language nor a window: it would get copies of its own.
+# A plugin beside the program, loaded on first use (ProgramPart.h). Its layers must not link the language or
+# a window: the plugin would contain separate copies of them.
 function(add_program_part name)
   cmake_parse_arguments(PART "" "NAME" "SOURCES;USES" ${ARGN})
   add_library(${name} MODULE ${PART_SOURCES})
@@ -33,14 +33,15 @@ function(add_program_part name)
 endfunction()
 
 # compile_alone(<source>…)
-# Sources whose own names would clash with their neighbours' in a build that joins sources.
+# Excludes sources from unity builds if their names would clash with those of other sources.
 function(compile_alone)
   set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 endfunction()
 
 # add_loan_test(<name> LABEL <folder> SOURCES … USES … [MAIN <library with main>] [EACH_ALONE])
-# A GoogleTest program whose tests carry their folder's name as label. A program starts slowly under the
-# sanitizers, so there it runs all its tests at one go, but for those that need a run of their own each.
+# A GoogleTest program; its tests have the folder's name as label. Programs start slowly under the
+# sanitizers, so there one process runs all tests, except with EACH_ALONE, for tests that need a process
+# each.
 function(add_loan_test name)
   cmake_parse_arguments(TEST "EACH_ALONE" "LABEL;MAIN" "SOURCES;USES" ${ARGN})
   if(NOT TEST_MAIN)
@@ -60,7 +61,7 @@ function(add_loan_test name)
   endif()
   include(GoogleTest)
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${TEST_LABEL} TIMEOUT 120)
-  # In a file of its own: of a list among the properties above, the first entry alone arrives.
+  # In a separate file, because of a list in the properties above only the first entry arrives.
   set(file "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
   file(CONFIGURE OUTPUT "${file}" @ONLY CONTENT [[
 if(@name@_TESTS)

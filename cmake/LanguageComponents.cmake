@@ -1,10 +1,10 @@
 set(QUEND_LANGUAGE_DIR "${CMAKE_CURRENT_LIST_DIR}/../language")
 
 # configure_texts(<texts.txt> <template> <source> <check variable>)
-# Writes a source from a template that takes a table of texts as @texts@, and the language and tag of
-# the table's head as @language@ and @tag@ into the Component.json beside it. The file named by the
-# check variable belongs into the sources of the target: making it checks the table, so that a table
-# at fault stops the build with the number of the line.
+# Generates a source from a template, with the table of texts as @texts@, and a Component.json beside it,
+# with the language and tag of the table's head as @language@ and @tag@. Add the file named by the check
+# variable to the target's sources: making it checks the table, so that an invalid table stops the build
+# with the line number.
 function(configure_texts table template source check)
   get_filename_component(texts_file "${table}" ABSOLUTE)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${texts_file}")
@@ -27,9 +27,9 @@ function(configure_texts table template source check)
 endfunction()
 
 # add_language_components(<target> FOLDER <folder> PROGRAM <name> DESTINATION <folder>)
-# Builds each <FOLDER>/<identifier>/texts.txt into a loadable library of its own,
-# <DESTINATION>/<PROGRAM><identifier>.Resources.so. A new folder is a new language: nothing else needs
-# to be changed. The target builds them all, and its property QUEND_COMPONENTS names them.
+# Builds each <FOLDER>/<identifier>/texts.txt into a separate plugin,
+# <DESTINATION>/<PROGRAM><identifier>.Resources.so. A new folder is a new language; nothing else needs to be
+# changed. The target builds all of them; its property QUEND_COMPONENTS lists them.
 function(add_language_components target)
   cmake_parse_arguments(LANGUAGES "" "FOLDER;PROGRAM;DESTINATION" "" ${ARGN})
   add_custom_target(${target} ALL)

@@ -1,4 +1,4 @@
-# What every target of the house is compiled with. Linked privately, so that no flag leaks.
+# Compiler flags of every target. Linked privately, so that no flag propagates.
 add_library(strictness INTERFACE)
 target_compile_features(strictness INTERFACE cxx_std_20)
 target_compile_definitions(strictness INTERFACE
@@ -9,9 +9,9 @@ target_compile_options(strictness INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wdouble-promotion
   -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Wcast-align -Wformat=2
   -Wnull-dereference -Wimplicit-fallthrough -Wextra-semi
-  # The arithmetic of a loan has one right answer: no fused operations that round differently.
+  # Results must be the same everywhere: no fused operations, which round differently.
   -ffp-contract=off
-  # Rounding a double is then one instruction; nobody here reads errno after it.
+  # Rounding a double then takes one instruction; the program never reads errno after it.
   -fno-math-errno)
 
 if(QUEND_SANITIZE)

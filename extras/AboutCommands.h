@@ -12,7 +12,7 @@ class AboutCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// The window outlives the commands. Enables the entry.
+    /// The window must outlive the commands. Enables the entry.
     AboutCommands(Loan& window, RegistryAPI store, SystemInfoDoors doors);
 
 private:

@@ -10,7 +10,7 @@ QString Client() { return QStandardPaths::findExecutable(QStringLiteral("xdg-ema
 
 QByteArray Encoded(QString text) {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    text.replace(QLatin1String("\n"), QLatin1String("\r\n")); // the line end of mail
+    text.replace(QLatin1String("\n"), QLatin1String("\r\n")); // line end in mail
     return QUrl::toPercentEncoding(text);
 }
 
@@ -29,7 +29,7 @@ void DesktopMail::Send(int /*session*/, const MailMessage& message) {
 }
 
 void DesktopMail::SignOff(int /*session*/) {
-    // Nothing is open: each message is a client of its own.
+    // There is no session to close: each message starts a separate client.
 }
 
 QByteArray DesktopMail::AddressOf(const MailMessage& message) {

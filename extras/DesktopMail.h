@@ -4,16 +4,16 @@
 
 #include <QByteArray>
 
-/// The mail client that the desktop names, asked through xdg-email. It runs apart from the program,
-/// which neither waits for it nor learns how it ended.
+/// The desktop's mail client, started through xdg-email. It runs separately: the program neither
+/// waits for it nor knows its result.
 class DesktopMail : public MailDoor {
 public:
-    /// 0 where xdg-email is not installed.
+    /// 0 if xdg-email is not installed.
     int SignOn() override;
     void Send(int session, const MailMessage& message) override;
     void SignOff(int session) override;
 
-    /// The message as an address. Every byte but letters, digits and "-._~" is written as a percent
-    /// sign and two digits: xdg-email is a shell script, and so no shell sees a text.
+    /// The message as a mailto address. Every byte except letters, digits and "-._~" is
+    /// percent-encoded: xdg-email is a shell script, and no shell may interpret a text.
     static QByteArray AddressOf(const MailMessage& message);
 };

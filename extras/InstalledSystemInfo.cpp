@@ -7,7 +7,7 @@
 
 namespace {
 
-/// In order of preference: those that only inform come before those that also change settings.
+/// In order of preference: tools that only show information before those that also change settings.
 constexpr std::array Tools{"kinfocenter", "hardinfo2", "hardinfo",
                            "cpu-x",       "lshw-gtk",  "gnome-control-center"};
 

@@ -2,6 +2,5 @@
 
 #include "SystemInfo.h"
 
-/// The doors of the real world: the tools that Linux desktops come with, and the start of a program
-/// that goes on by itself.
+/// The real implementation: the tools of Linux desktops, and the start of a detached program.
 SystemInfoDoors InstalledSystemInfo();

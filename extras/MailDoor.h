@@ -2,14 +2,14 @@
 
 #include <QString>
 
-/// What is put into a new message before its writer sees it.
+/// The initial content of a new message.
 struct MailMessage {
     QString subject;
     QString body; ///< lines end in "\n"
 };
 
-/// The user's mail client. The one door for messages; nothing goes out through it that the user has
-/// not seen and sent.
+/// The user's mail client, the only interface for messages. Nothing is sent that the user has not
+/// seen and sent.
 class MailDoor {
 public:
     MailDoor() = default;
@@ -19,7 +19,7 @@ public:
     MailDoor& operator=(MailDoor&&) = delete;
     virtual ~MailDoor() = default;
 
-    /// The number of a session, 0 when there is none.
+    /// The number of the session; 0 if there is none.
     virtual int SignOn() = 0;
     /// Shows the message to the user, who edits, sends or discards it.
     virtual void Send(int session, const MailMessage& message) = 0;

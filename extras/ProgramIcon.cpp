@@ -2,8 +2,8 @@
 
 #include <QDir>
 
-// The pictures stand in a library, which leaves out what nobody asks for. The macro does not work
-// inside a namespace.
+// The pictures are in a static library, and the linker drops unreferenced resources. The macro does
+// not work inside a namespace.
 static void LoadPictures() { Q_INIT_RESOURCE(icon); }
 
 QIcon ProgramIcon() {

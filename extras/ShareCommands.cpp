@@ -13,7 +13,8 @@ namespace {
 
 const QLatin1String Marker("?ID");
 
-/// Its value is not 0. "12abc" has none, and "nan" and "inf", which the toolkit reads, are none.
+/// Whether its value is a number other than 0. "12abc" is not a number; "nan" and "inf", which Qt
+/// accepts, do not count either.
 bool IsKnown(const QString& referral) {
     const double value = referral.toDouble();
     return std::isfinite(value) && value != 0.0;
@@ -37,7 +38,7 @@ ShareCommands::ShareCommands(Loan& window, MailDoor& mail, QString referral)
     connect(button, &QPushButton::clicked, this, &ShareCommands::cmdShare_Click);
 }
 
-/// No mail client, or one that fails, is no matter for a message box.
+/// A missing or failing mail client is not reported.
 void ShareCommands::cmdShare_Click() {
     try {
         const int session = m_mail->SignOn();
@@ -47,6 +48,6 @@ void ShareCommands::cmdShare_Click() {
         const QString body = ShareBody(GetResourceText(TextNumber::MailBody), m_referral);
         m_mail->Send(session, {GetResourceText(TextNumber::MailSubject), body});
         m_mail->SignOff(session);
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): silence is what is wanted
+    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): intentionally silent
     }
 }

@@ -6,17 +6,17 @@
 class Loan;
 class MailDoor;
 
-/// The body of the recommendation: the first "?ID" becomes "?ref=" and the referral identifier, or
-/// nothing where that is no number other than 0.
+/// The body of the recommendation: the first "?ID" is replaced by "?ref=" and the referral
+/// identifier, or removed if that is not a number other than 0.
 QString ShareBody(const QString& text, const QString& referral);
 
-/// The Share button: a message that recommends the program, in the language in use, for the user to
-/// send. Where no mail client answers nothing happens, and nobody is told.
+/// The Share button: a message that recommends the program, in the current language, for the user
+/// to send. Does nothing, without a message, if there is no mail client.
 class ShareCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// Window and mail outlive the commands. Enables the button. `referral` is empty for none.
+    /// Window and mail must outlive the commands. Enables the button. `referral` is empty for none.
     ShareCommands(Loan& window, MailDoor& mail, QString referral = {});
 
 private:

@@ -15,8 +15,8 @@ constexpr const char* FolderKey = R"(SOFTWARE\Microsoft\Shared Tools Location)";
 constexpr const char* FolderValue = "MSINFO";
 constexpr const char* ToolInFolder = R"(\MSINFO32.EXE)";
 
-/// The value read as this type; nothing where the read falls back on its default, which two
-/// different ones show.
+/// The value read as this type. No value if the read returns its default; two reads with different
+/// defaults show this.
 template <class Value>
 std::optional<Value> Read(const std::function<RegistryValue(const RegistryValue&)>& read,
                           const Value& one, const Value& other) {

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// A layout leaves a wrapped text too little height where letters are large.
+/// Layouts give wrapped text too little height with large fonts.
 void ShowLines(QLabel& label, const char* text) {
     constexpr int letters = 44;
     label.setText(QString::fromUtf8(text));

@@ -9,8 +9,8 @@ namespace Ui {
 class frmAbout;
 }
 
-/// The About box: what the version record says of the program. What its System Info button does is
-/// told it.
+/// The About box: shows the version record. The caller supplies the action of its System Info
+/// button.
 class frmAbout : public QDialog {
     Q_OBJECT
 

@@ -4,11 +4,11 @@
 #include <string>
 #include <utility>
 
-/// The source of a failure that arose in the program itself.
+/// The source of a failure raised by the program itself.
 inline constexpr const char* ProgramSource = "Loan";
 
-/// A failure that a user is told about: its number, where it arose, and what went wrong.
-/// The description is a fixed English text, the same in every language.
+/// A failure that is reported to the user: its number, its source, and a description. The
+/// description is a fixed English text, the same in every language.
 class Failure : public std::runtime_error {
 public:
     Failure(int number, std::string source, const std::string& description)
@@ -23,25 +23,25 @@ private:
     std::string m_source;
 };
 
-/// A result lies outside its type: an amount, a whole number of months, or a date.
+/// A result is outside the range of its type: an amount, a whole number of months, or a date.
 class OverflowFailure : public Failure {
 public:
     explicit OverflowFailure(const std::string& source) : Failure(6, source, "Overflow") {}
 };
 
-/// A payment that never repays its loan: the balance would grow, or stay, for ever.
+/// A payment that never repays its loan: the balance would grow or stay the same forever.
 class NeverRepaidFailure : public OverflowFailure {
 public:
     using OverflowFailure::OverflowFailure;
 };
 
-/// A text is no number, amount or date.
+/// A text is not a number, amount or date.
 class ConversionFailure : public Failure {
 public:
     explicit ConversionFailure(const std::string& source) : Failure(13, source, "Type mismatch") {}
 };
 
-/// A component that was asked for by name cannot be made.
+/// A component requested by name cannot be created.
 class ComponentFailure : public Failure {
 public:
     explicit ComponentFailure(const std::string& source)

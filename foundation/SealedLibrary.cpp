@@ -6,7 +6,7 @@
 bool IsSealed(const QString& library) {
     constexpr qsizetype sealSize = 32; // MD5 in hexadecimal digits, which cmake/Seal.cmake appends
     QFile file(library);
-    // The name is empty where the toolkit found no library, and it complains of opening that.
+    // The name is empty if Qt found no library; opening an empty name makes Qt print a warning.
     if (library.isEmpty() || !file.open(QIODevice::ReadOnly)) {
         return false;
     }

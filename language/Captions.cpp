@@ -34,8 +34,8 @@ constexpr std::array ShownTexts{
     ShownText{"hintText", "placeholderText"},
 };
 
-/// The dynamic properties of an object. Most objects of a form have none, and to ask an object for
-/// one that it does not have takes long: it compares the names of all that its class has.
+/// The dynamic properties of an object. Most objects of a form have none, and reading a missing one
+/// is slow: Qt compares the names of all properties of the class.
 using Given = QList<QByteArray>;
 
 bool IsShownBy(const ShownText& shown, const QObject& object, const Given& given) {
@@ -45,8 +45,8 @@ bool IsShownBy(const ShownText& shown, const QObject& object, const Given& given
              object.property(shown.unless).toBool());
 }
 
-/// In order of preference: what a group box or label shows comes before the title of a window,
-/// which every widget has.
+/// In order of preference: the text of a group box or label comes before the window title, which
+/// every widget has.
 constexpr std::array CaptionProperties{"title", "text", "windowTitle"};
 
 bool HasProperty(const QObject& object, const char* property) {
@@ -62,7 +62,7 @@ const char* CaptionPropertyOf(const QObject& object) {
     return nullptr;
 }
 
-/// The form's own text, read before the first text of a language takes its place.
+/// The form's own text, read before the first text of a language replaces it.
 QString DesignText(QObject& object, const char* property) {
     const QByteArray keptAs = QByteArray("_design_") + property;
     QVariant kept = object.property(keptAs.constData());
@@ -73,8 +73,8 @@ QString DesignText(QObject& object, const char* property) {
     return kept.toString();
 }
 
-/// What stands where the language has no text: the form's own, or English where the form left it
-/// open.
+/// The text to use if the language has none: the form's own, or English if the form has none
+/// either.
 QString TextInstead(int number, const QString& designText) {
     const QString english = Language::Instance().DefaultText(number);
     return designText.isEmpty() && !english.isNull() ? english : designText;
@@ -92,7 +92,7 @@ void Show(QObject& object, const char* property, int number, int ordinal) {
     object.setProperty(property, text);
 }
 
-/// A form's caption speaks of months: in years, English is nearer than a caption of the wrong unit.
+/// The form's caption is in months; English is better than a caption with the wrong unit.
 void ShowInYears(QObject& object, const char* property, int number) {
     const QString designText = DesignText(object, property);
     const QString text = GetResourceText(number);

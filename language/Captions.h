@@ -2,27 +2,29 @@
 
 class QObject;
 
-/// What terms are typed in.
+/// The unit in which terms are typed.
 enum class TermUnit { Months, Years };
 
-/// Gives a window and everything in it (controls, menus, actions) the texts of the language in use.
-/// Which texts, the Designer form says by dynamic properties, all of them text numbers:
+// clang-format off
+/// Applies the texts of the current language to a window and everything in it (controls, menus,
+/// actions). Dynamic properties of the Designer form hold the numbers of the texts:
 ///
-///     captionText         the caption: title, text or window title, the first the object has
+///     captionText         caption: title, text or window title, the first it has
 ///     captionTextInYears  instead of captionText where terms are typed in years
-///     toolTipText         the tooltip
-///     accessibleText      the name for screen readers
-///     hintText            the text in an empty field
-///     activeText          what screen readers hear of a control that is active, instead of the
-///     tooltip toolTipAway         true while the control shows no tooltip, whatever the language
+///     toolTipText         tooltip
+///     accessibleText      name for screen readers
+///     hintText            text in an empty field
+///     activeText          screen-reader description while active, instead of the tooltip
+///     toolTipAway         true while the control shows no tooltip, in any language
 ///     activeTextAway      true while the control is not active
 ///
-/// A list goes by its name for screen readers and, because the toolkit tells them its value instead
-/// as soon as it has one, by the same words as description.
+/// A combo box has its accessible name also as description, because Qt reports its value instead of
+/// the name as soon as it has one.
 ///
-/// Where the language has no text of a number, the form's own text stands, also after a switch from
-/// a language that had one; where the form has none either, and for captions in years, English.
+/// If the language lacks a text, the form's own text is shown, also after a switch from a language
+/// that had it. If the form has none either, and for captions in years, the text is English.
 ///
-/// `ordinal` above 0 stands for "%1" in names for screen readers, and is kept with `window`: a
-/// later call for a window around it finds it again.
+/// An `ordinal` above 0 replaces "%1" in accessible names. It is stored in `window`, so that a
+/// later call for an enclosing window finds it.
 void ApplyTexts(QObject& window, TermUnit unit, int ordinal = 0);
+// clang-format on

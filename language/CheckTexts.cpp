@@ -1,5 +1,4 @@
-// Run while building: says what is wrong with a table of texts, in the form in which compilers say
-// it.
+// Run by the build: reports faults of a table of texts in the format of compiler errors.
 
 #include "TextTable.h"
 

@@ -17,7 +17,7 @@ const QString& Resources() {
     return resources;
 }
 
-/// Takes the folder's files of this pattern, whatever their case, with a library's ending or none.
+/// Matches file names of this pattern in any case, with or without a library's extension.
 QRegularExpression FileNamed(const QString& pattern) {
     return QRegularExpression(
         QRegularExpression::anchoredPattern(pattern + QStringLiteral("(\\.(so|dll|dylib))?")),
@@ -25,7 +25,7 @@ QRegularExpression FileNamed(const QString& pattern) {
 }
 
 QStringList FilesIn(const QString& folder) {
-    // An empty path would be the working folder, in which anybody may have put a library.
+    // An empty path would mean the working folder, where anybody may have put a library.
     return folder.isEmpty() ? QStringList() : QDir(folder).entryList(QDir::Files, QDir::Name);
 }
 

@@ -7,31 +7,31 @@
 
 class LanguageComponent;
 
-/// What a component says of itself without being loaded.
+/// The metadata of a component, readable without loading it.
 struct LanguageLabel {
     QString name; ///< such as "Español"
     QString tag;  ///< such as "span"
 };
 
-/// Finding and loading component files. Which language they stand for is not decided here.
+/// Finds and loads component files. Does not decide which language to use.
 namespace ComponentFile {
 
-/// The name under which a program asks for a component: "Loan", "40a" make "Loan40a.Resources".
+/// The name of a component of a program: "Loan" and "40a" give "Loan40a.Resources".
 QString ComponentName(const QString& programName, const QString& identifier);
 
-/// The full path of the component's file in this folder, with a library's ending or without one and
-/// in any case; the file in the very case asked for wins. Empty when there is none.
+/// The full path of the component's file in this folder, with or without a library's extension and
+/// in any case; an exact match takes precedence. Empty if there is none.
 QString Find(const QString& folder, const QString& component);
 
-/// The hexadecimal identifiers, small letters, of all the program's component files in this folder,
+/// The hexadecimal identifiers, in lower case, of all the program's component files in this folder,
 /// lowest first.
 QStringList Identifiers(const QString& folder, const QString& programName);
 
-/// No value when the file is damaged or no language component. Runs none of the file's code.
+/// No value if the file is damaged or not a language component. Runs none of the file's code.
 std::optional<LanguageLabel> Label(const QString& file);
 
-/// The component's texts, which stay in memory to the end of the process; nullptr when the file is
-/// missing, damaged or no language component.
+/// The component's texts, which stay in memory until the process ends; nullptr if the file is
+/// missing, damaged or not a language component.
 const LanguageComponent* Load(const QString& file);
 
 } // namespace ComponentFile

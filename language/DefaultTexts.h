@@ -3,8 +3,8 @@
 #include "LanguageComponent.h"
 #include "TextTable.h"
 
-/// The English texts that are part of the program itself, so that a lookup never fails for want of
-/// a loaded component. They come from the same table as the English component.
+/// The built-in English texts, so that a lookup works without a loaded component. They come from
+/// the same table as the English component.
 class DefaultTexts final : public LanguageComponent {
 public:
     DefaultTexts();

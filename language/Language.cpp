@@ -16,8 +16,8 @@ constexpr int Spanish = 2;
 constexpr std::uint16_t PrimaryLanguage = 0xFF;
 constexpr std::uint16_t PrimarySpanish = 0x0A;
 
-/// A language that is offered even while its component is missing, under a component name that does
-/// not follow the executable's.
+/// A language that is listed even if its component is missing; its component name does not depend
+/// on the executable's name.
 struct KnownLanguage {
     int number;
     const char* identifier;
@@ -101,7 +101,7 @@ void Language::DetectLanguage(std::uint16_t languageId) {
     const unsigned primary = languageId & PrimaryLanguage;
     m_currentLanguage = primary == PrimarySpanish ? -Spanish : -English;
     m_namesTried.clear();
-    // First the very country's component, then that of the language whatever the country.
+    // First the component for the language and country, then the one for the language alone.
     for (const QString& identifier :
          {Hexadecimal(languageId, 1), QStringLiteral("4") + Hexadecimal(primary, 2)}) {
         const QString name = ComponentFile::ComponentName(m_programName, identifier);

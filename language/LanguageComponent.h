@@ -3,8 +3,8 @@
 #include <QString>
 #include <QtPlugin>
 
-/// What a language component is asked: one text by its number.
-/// A component does not know which window shows a text, nor which language is in use.
+/// The interface of a language component: texts by number. A component does not know which window
+/// shows a text or which language is current.
 class LanguageComponent {
 public:
     LanguageComponent() = default;
@@ -14,12 +14,12 @@ public:
     LanguageComponent& operator=(LanguageComponent&&) = delete;
     virtual ~LanguageComponent() = default;
 
-    /// The text of this number, with "&" before its access key; a null QString when the component
-    /// does not know the number. Never throws.
+    /// The text of this number, with "&" before its access key; a null QString if the component
+    /// lacks the number. Never throws.
     virtual QString Text(int id) const = 0;
 };
 
-// A macro, because the meta-object compiler reads it. A changed interface takes a new number:
-// components built for another one are then not loaded.
+// A macro, because moc reads it. Change the number with the interface, so that components built for
+// another version are not loaded.
 #define LanguageComponent_iid "quend.loan.LanguageComponent/1"
 Q_DECLARE_INTERFACE(LanguageComponent, LanguageComponent_iid)

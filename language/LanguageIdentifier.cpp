@@ -32,12 +32,12 @@ std::uint16_t LanguageIdentifierOf(const QString& localeName) {
     if (name.isEmpty() || name == u"C" || name == u"POSIX") {
         return 0;
     }
-    // The upper half of the answer is a sort order, which is no matter of the language.
+    // The upper half of the result is a sort order, which does not belong to the language.
     return static_cast<std::uint16_t>(uloc_getLCID(name.toLatin1().constData()) & 0xFFFFU);
 }
 
 std::uint16_t UserDefaultLanguageIdentifier() {
-    // The first variable that is set decides, whether or not its locale is installed here.
+    // The first variable that is set decides, even if its locale is not installed.
     for (const char* variable : std::array{"LC_ALL", "LC_MESSAGES", "LANG"}) {
         const QString locale = qEnvironmentVariable(variable);
         if (!locale.isEmpty()) {

@@ -2,7 +2,7 @@
 
 #include <array>
 
-/// The texts that code asks for by number. Those that a form names are not listed here.
+/// The numbers of the texts that code uses. Numbers that forms use are not listed here.
 namespace TextNumber {
 
 inline constexpr int PaymentRaised = 3;
@@ -19,7 +19,7 @@ inline constexpr int NoNameToDelete = 45;
 inline constexpr int NoNameToSave = 46;
 inline constexpr int PictureTitle = 49;
 inline constexpr int NewLoan = 52;
-/// A menu entry, and without its first character the title of the About box.
+/// A menu entry; without its first character, the title of the About box.
 inline constexpr int About = 64;
 inline constexpr int LoanTypeMortgage = 83;
 /// A picture such as " nnnn.nn" follows it.
@@ -28,15 +28,15 @@ inline constexpr int OffersRefused = 88;
 inline constexpr int Ok = 90;
 /// The loan's name and "..." follow it.
 inline constexpr int Printing = 101;
-/// Ends a question about a loan behind its name.
+/// The end of a question, after the loan's name.
 inline constexpr int NameEnd = 102;
-/// The title of the question about unsaved changes, and all of it for a loan without a name.
+/// The title of the question about unsaved changes; also its whole text for a loan without a name.
 inline constexpr int SaveTitle = 103;
 /// The loan's name and NameEnd follow it.
 inline constexpr int SaveQuestion = 104;
-/// %1: the patterns of the pictures that can be shown.
+/// %1: the patterns of the supported image formats.
 inline constexpr int PictureFilter = 105;
-/// Holds "?ID" where the query of the web address goes.
+/// Contains "?ID" in place of the query of the web address.
 inline constexpr int MailBody = 107;
 inline constexpr int MailSubject = 108;
 inline constexpr int FrequencyTwiceAMonth = 111;
@@ -47,7 +47,7 @@ inline constexpr int FrequencyEveryFourWeeks = 115;
 inline constexpr int PictureNotLoaded = 124;
 inline constexpr int Yes = 125;
 inline constexpr int No = 126;
-/// What the store cannot do; the failure follows it on a line of its own.
+/// What the store cannot do; the failure follows it on a separate line.
 inline constexpr int NotSaved = 127;
 inline constexpr int NameNotPossible = 128;
 inline constexpr int LenderTooLong = 129;   ///< %1 takes the number of the offer
@@ -60,13 +60,13 @@ inline constexpr int NotDeleted = 134;
 inline constexpr int StoreUnusable = 135; ///< %1: the file
 inline constexpr int NoSuchNameToDelete = 600;
 inline constexpr int NameOfNewLoan = 601;
-inline constexpr int NotLoaded = 602; ///< why, where that is known, follows it
+inline constexpr int NotLoaded = 602; ///< the reason follows it, if known
 inline constexpr int StoreDiskFull = 603;
 inline constexpr int StoreReadOnly = 604;
 inline constexpr int StoreInUse = 605;
 inline constexpr int StoreNotAllowed = 606;
 inline constexpr int OneWholeLoan = 607;
-inline constexpr int WholeLoans = 608; ///< %1: how many, but for one
+inline constexpr int WholeLoans = 608; ///< %1: how many, not used for one
 /// Follows StoreRepaired; %1: their names
 inline constexpr int LoansIncomplete = 609;
 inline constexpr int LoanIncomplete = 610;
@@ -83,8 +83,8 @@ inline constexpr int NotPrinted = 664;
 inline constexpr int MarginsTooWide = 665;
 /// %1 becomes the name of the file.
 inline constexpr int PartMissing = 666;
-/// No text to be shown: the file of the toolkit's own texts in this language. ToolkitTexts puts the
-/// following ones in their place.
+/// Not shown: the name of Qt's own translation file in this language. ToolkitTexts overrides Qt's
+/// texts with the following ones.
 inline constexpr int ToolkitTexts = 562;
 inline constexpr int FileName = 563;
 inline constexpr int FileType = 564;
@@ -107,7 +107,7 @@ inline constexpr int PasteValue = 541;
 inline constexpr int ValueRefused = 542;
 /// %1: what was typed, %2: a date as it is written, %3, %4: the first and the last year.
 inline constexpr int DateRefused = 620;
-inline constexpr int NeverRepaid = 621;    ///< the failure follows it on a line of its own
+inline constexpr int NeverRepaid = 621;    ///< the failure follows it on a separate line
 inline constexpr int NumberTooLarge = 622; ///< the same
 inline constexpr int HelpContents = 581;
 inline constexpr int HelpIndex = 582;
@@ -121,7 +121,7 @@ inline constexpr int LoanNameEdit = 640;
 inline constexpr int OffersEdit = 641;
 inline constexpr int PictureCutOff = 642;
 
-/// Every one of them: a text without a use, or a use without a text, shows up in the tests.
+/// All of them, so that tests find texts without a use and uses without a text.
 inline constexpr std::array All{
     PaymentRaised,
     LoanTypeAuto,

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int WholeTable = 0;
 
-/// The text with its escapes resolved; no value when a backslash stands before anything else.
+/// The text with its escapes resolved; no value for an unknown escape.
 std::optional<QString> Unescaped(QStringView text) {
     QString result;
     result.reserve(text.size());
@@ -90,7 +90,7 @@ void TextTable::ReadHeader(int line, QStringView key, const QString& value) {
 }
 
 void TextTable::ReadText(int line, QStringView key, const QString& text) {
-    const qulonglong number = key.toULongLong(); // 0 also for what is too great
+    const qulonglong number = key.toULongLong(); // 0 also if too large
     if (number == 0 || number > std::numeric_limits<int>::max()) {
         AddFault(line, QStringLiteral("the number %1 is out of range").arg(key));
     } else if (!m_texts.emplace(static_cast<int>(number), text).second) {

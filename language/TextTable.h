@@ -8,34 +8,34 @@
 
 /// What is wrong with a table of texts, and where.
 struct TextTableFault {
-    int line; ///< counted from 1; 0 when the fault is of the table as a whole
+    int line; ///< counted from 1; 0 for a fault of the whole table
     QString description;
 
     friend bool operator==(const TextTableFault&, const TextTableFault&) = default;
 };
 
-/// A table of numbered texts as the translators write it:
+/// A table of numbered texts as translators write it:
 ///
 ///     # a note
 ///     language = English
 ///     tag = engl
 ///     201 = Loan &Name:
 ///
-/// In a text "\n" is a new line and "\\" one backslash; blanks around the text do not count.
-/// The table does not look into its texts: access keys and "%1" mean nothing to it.
+/// In a text "\n" is a new line and "\\" one backslash; blanks around the text are ignored. The
+/// table does not interpret access keys or "%1".
 class TextTable {
 public:
-    /// Reads a whole table. Never throws: a line at fault is left out and named in Faults().
+    /// Reads a whole table. Never throws: an invalid line is skipped and listed in Faults().
     static TextTable Parse(QStringView source);
 
-    /// In order of their lines, faults of the whole table last; empty for a sound table.
+    /// In order of their lines, faults of the whole table last; empty for a valid table.
     const std::vector<TextTableFault>& Faults() const { return m_faults; }
 
-    /// The language's own name for itself, such as "Español".
+    /// The language's name in the language itself, such as "Español".
     const QString& LanguageName() const { return m_languageName; }
     /// The language's short mark, such as "span".
     const QString& Tag() const { return m_tag; }
-    /// The text of this number; a null QString when the table does not know it.
+    /// The text of this number; a null QString if the table lacks it.
     QString Text(int id) const;
     /// All texts by their numbers, which are 1 or more.
     const std::map<int, QString>& Texts() const { return m_texts; }

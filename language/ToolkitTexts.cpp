@@ -12,7 +12,7 @@
 
 namespace {
 
-/// A text as the toolkit's sources have it, and the number of ours.
+/// A source text of Qt, and the number of the program's own text for it.
 struct OwnText {
     std::string_view context;
     std::string_view source;
@@ -39,7 +39,7 @@ constexpr std::array OwnTexts{
 };
 
 bool Load(QTranslator& texts, const QString& catalogue) {
-    // An empty path would be the working folder.
+    // An empty path would mean the working folder.
     const QString beside = Language::Instance().ProgramFolder();
     return (!beside.isEmpty() && texts.load(catalogue, beside)) ||
            texts.load(catalogue, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
@@ -51,10 +51,11 @@ void ToolkitTexts::Renew() {
     QCoreApplication::removeTranslator(this);
     const QString catalogue = GetResourceText(TextNumber::ToolkitTexts);
     if (catalogue != Language::Instance().DefaultText(TextNumber::ToolkitTexts)) {
-        static_cast<void>(Load(*this, catalogue)); // the texts of ours serve without it, too
+        static_cast<void>(Load(*this, catalogue)); // the program's own texts work without it
         QCoreApplication::installTranslator(this);
     }
-    // Told later, the buttons of a dialog opened meanwhile would take the toolkit's captions again.
+    // Deliver now: otherwise the buttons of a dialog opened meanwhile would get Qt's captions
+    // again.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
 }
 
@@ -66,7 +67,7 @@ QString ToolkitTexts::translate(const char* context, const char* source, const c
     if (found != OwnTexts.end()) {
         return GetResourceText(found->number);
     }
-    // The catalogue keeps the kinds of files where the toolkit had them before.
+    // The catalogue has the file types under an older context of Qt.
     const bool moved = std::string_view(context) == "QAbstractFileIconProvider";
     return QTranslator::translate(moved ? "QFileDialog" : context, source, comment, count);
 }

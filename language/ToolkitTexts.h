@@ -2,15 +2,15 @@
 
 #include <QTranslator>
 
-/// The toolkit's own texts (menus of fields, dialogs for files and printers, names of keys) in the
-/// language in use: from the toolkit's catalogue for that language, looked for beside the program
-/// and then where the toolkit keeps them, and from our own table where the catalogue has them wrong
-/// or not. In English, and in a language that names no catalogue, the toolkit speaks for itself and
-/// nothing is read. Without the catalogue's file the toolkit's texts stay English, but for those of
-/// ours.
+/// Translates Qt's own texts (context menus of fields, dialogs for files and printers, names of
+/// keys) into the current language. They come from Qt's catalogue for that language, searched
+/// beside the program and then in Qt's folder, and from the program's own table where the catalogue
+/// is wrong or incomplete. For English, and for a language that names no catalogue, nothing is read
+/// and Qt's texts stay. If the catalogue's file is missing, Qt's texts stay English, except for
+/// those in the program's table.
 class ToolkitTexts : public QTranslator {
 public:
-    /// Takes up the language in use; for the start and each switch.
+    /// Applies the current language. Call at start and after each switch.
     void Renew();
 
     QString translate(const char* context, const char* source, const char* comment,

@@ -1,10 +1,10 @@
-# The Debian package. Its tools are needed when it is made, not when the program is built.
+# The Debian package. Its tools are needed for packaging, not for building the program.
 set(doc "${data}/doc/quend-loan")
 pack("${log}" "${made}/changelog.gz")
 install(FILES debian/copyright "${made}/changelog.gz" DESTINATION "${doc}")
 
-# What the linker cannot know: scripts/packages names what is loaded by name. The libraries that are
-# linked are found in the program itself, because their packages' names differ between releases of Debian.
+# Dependencies that the linker cannot know: scripts/packages lists what is loaded by name. Linked libraries
+# are read from the program itself, because their packages' names differ between Debian releases.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/scripts/packages")
 foreach(how loaded recommended)
   file(STRINGS "${CMAKE_SOURCE_DIR}/scripts/packages" ${how} REGEX "^running .* ${how}$")

@@ -1,4 +1,4 @@
-# What a desktop on the free systems wants besides: command, menu entry, icon, description, manual page.
+# Desktop integration on free systems: command, menu entry, icon, description, manual page.
 set(made "${CMAKE_CURRENT_BINARY_DIR}")
 set(data "${CMAKE_INSTALL_DATADIR}")
 
@@ -6,7 +6,7 @@ file(RELATIVE_PATH from_command "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_
 file(CREATE_LINK "${from_command}" "${made}/quend-loan" SYMBOLIC)
 install(FILES "${made}/quend-loan" DESTINATION "${CMAKE_INSTALL_BINDIR}")
 
-# Its last entry is this version's, or the number was changed in one place only.
+# The last entry must be for this version; otherwise the number was changed in one place only.
 set(log "${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog")
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${log}")
 file(STRINGS "${log}" newest LIMIT_COUNT 1)
@@ -35,7 +35,7 @@ foreach(picture IN LISTS pictures)
   install(FILES "${picture}" DESTINATION "${icons}/${size}x${size}/apps" RENAME "${QUEND_APPLICATION_ID}.png")
 endforeach()
 
-# pack(<file> <packed>): compressed the way packages want it, the same on each day.
+# pack(<file> <packed>): compresses as packages require, reproducibly.
 find_program(GZIP gzip REQUIRED)
 function(pack file packed)
   add_custom_command(OUTPUT "${packed}" COMMAND "${GZIP}" -9nc "${file}" > "${packed}" DEPENDS "${file}" VERBATIM)

@@ -1,7 +1,7 @@
-"""Checks that the platform is spoken to through the narrow doors only.
+"""Checks that only the listed interfaces call the platform.
 
-Takes source files as arguments, by their paths from the root of the tree. Prints what is wrong, one
-finding a line, and ends with 1 where there is something.
+Arguments: source files, by path from the root of the tree. Prints one finding per line; the exit code is 1
+if there are any.
 """
 
 from __future__ import annotations
@@ -11,7 +11,7 @@ import sys
 from collections.abc import Iterator
 from pathlib import Path
 
-# Another platform needs its own answer to each of these; docs/porting.md says which.
+# Another platform needs its own implementation of each of these; see docs/porting.md.
 _DOORS = frozenset({
     "extras/DesktopMail.cpp",
     "extras/InstalledSystemInfo.cpp",
@@ -27,24 +27,24 @@ _DOORS = frozenset({
 
 _GUIDE = Path("docs/porting.md")
 
-# What stands outside the house may know the platform it runs on.
+# Folders outside the program may use the platform.
 _OUTSIDE = ("tests", "bench")
 
 _PLATFORM = re.compile(
-    # headers of the system, the window system, the printing system and the locale tables
+    # headers of the operating system, the window system, the printing system and the locale tables
     r"#\s*include\s*[<\"](sys/|netinet/|arpa/|linux/|X11/|xcb/|cups/|unicode/|qpa/|QtDBus|QDBus|QX11|QNative"
     r"|(unistd|fcntl|pwd|grp|dirent|dlfcn|signal|poll|termios|spawn|pthread|windows|win\w+|io|direct)\.h[>\"])"
-    # which system it is
+    # platform macros
     r"|\bQ_OS_\w+|\b_WIN32\b|\b__(linux|APPLE|unix)__\b"
     # other programs, loaded libraries, the environment
     r"|\bQProcess\b|\bQPluginLoader\b|\bQLibrary\b|\bstd::system\b|\bpopen\b|\bdlopen\b"
     r"|\bgetenv\b|\bqgetenv\b|\bqEnvironmentVariable|\bQProcessEnvironment\b|\bxdg-\w"
-    # places
+    # paths
     r"|\"/(proc|etc|usr|tmp|var|dev|home)\b|\bXDG_\w+")
 
 
 def _speech(file: Path) -> Iterator[tuple[int, str]]:
-    """Line number and word of whatever speaks to the platform."""
+    """Line number and word of each use of the platform."""
     for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), start=1):
         found = _PLATFORM.search(line)
         if found and not line.lstrip().startswith("//"):

@@ -1,7 +1,7 @@
-"""Checks the direction of the includes: a floor knows only the floors below it.
+"""Checks the direction of the includes: a layer may use only the layers below it.
 
-Takes source files as arguments, by their paths from the root of the tree. Prints what is wrong, one
-finding a line, and ends with 1 where there is something.
+Arguments: source files, by path from the root of the tree. Prints one finding per line; the exit code is 1
+if there are any.
 """
 
 from __future__ import annotations
@@ -12,8 +12,8 @@ from collections import defaultdict
 from collections.abc import Iterator
 from pathlib import Path
 
-# The floors from the ground up, and the folders whose headers each may include besides its own.
-# A floor that is not named here, like tests or bench, stands outside the house and may use all.
+# The layers, lowest first, and the folders whose headers each may include besides its own. Folders not
+# listed here, like tests or bench, are outside the program and may use all.
 _FLOORS: dict[str, tuple[str, ...]] = {
     "foundation":       (),
     "language":         ("foundation",),
@@ -29,10 +29,10 @@ _FLOORS: dict[str, tuple[str, ...]] = {
                          "storage/registry"),
 }
 
-# Builds everything and wires it, so it may use all.
+# Creates and connects everything, so it may use all.
 _COMPOSITION_ROOT = Path("storage/Main.cpp")
 
-# Floors that know no window system.
+# Layers without a window system.
 _WITHOUT_WIDGETS = ("foundation", "language", "storage/registry", "calc", "worksheet/model")
 
 _INCLUDE = re.compile(r'\s*#\s*include\s+([<"])([^>"]+)[>"]')
@@ -53,7 +53,7 @@ def _widget_headers() -> frozenset[str]:
 
 
 def _includes(file: Path) -> Iterator[tuple[int, bool, str]]:
-    """Line number, whether it stands in quotes, and name of each include."""
+    """Line number, whether it is in quotes, and name of each include."""
     for number, line in enumerate(file.read_text(encoding="utf-8").splitlines(), start=1):
         found = _INCLUDE.match(line)
         if found:

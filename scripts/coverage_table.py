@@ -1,7 +1,7 @@
-"""Lines and branches reached, a row for each folder; started by scripts/coverage.
+"""Covered lines and branches, one row per folder; started by scripts/coverage.
 
-The branches are those that the source writes down: the two sides of each condition. The compiler
-counts none for an exception that a called function might throw."""
+Branches are the two sides of each condition in the source. The compiler counts none for exceptions thrown
+by called functions."""
 
 import collections
 import json
@@ -12,7 +12,7 @@ import sys
 import quality_table
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-HELD = ("calc", "worksheet/model", "storage")  # to the least
+HELD = ("calc", "worksheet/model", "storage")  # the minimum applies to these
 LEAST = 95.0
 FOLDERS = HELD + ("foundation", "language", "worksheet/window", "printing", "extras")
 
@@ -22,7 +22,7 @@ def folder_of(path):
 
 
 def add_lines(lines, segments):
-    """The lines of a file that hold code, each with whether it was run."""
+    """The lines of a file that contain code, each with whether it was executed."""
     for (line, _, count, counted, _, gap), following in zip(segments, segments[1:]):
         if counted and not gap:
             for number in range(line, following[0] + 1):
@@ -30,8 +30,8 @@ def add_lines(lines, segments):
 
 
 def add_branches(sides, branches, source):
-    """Each side of each condition, with whether it was taken. Instances of a template count as one,
-    and what is always true is no condition."""
+    """Each side of each condition, with whether it was taken. Template instances count as one, and constant
+    true is not a condition."""
     for line, column, _, end, taken, not_taken, *_ in branches:
         if source[line - 1][column - 1:end - 1] == "true":
             continue
@@ -47,7 +47,7 @@ def percent(reached, all_of_them):
 def main(report, missed_file, *arguments):
     reached = {}
     for file in json.loads(pathlib.Path(report).read_text())["data"][0]["files"]:
-        # A header goes by as many names as there are folders that include it.
+        # A header has a different path for each folder that includes it.
         path = pathlib.Path(os.path.normpath(file["filename"]))
         if folder_of(path) is None:
             continue

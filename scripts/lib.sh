@@ -1,11 +1,11 @@
 # shellcheck shell=bash
-# What the scripts share. Sourced, not run: a script sources it right after "set -euo pipefail".
+# Common functions of the scripts. Source it right after "set -euo pipefail".
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 readonly root
 cd "$root" || exit
 
-# Debian's own interpreter: the one that python3-gi belongs to.
+# Debian's interpreter, because python3-gi is installed for it.
 # shellcheck disable=SC2034 # read by the scripts that source this file
 readonly python=/usr/bin/python3
 
@@ -14,7 +14,7 @@ die() {
     exit 1
 }
 
-# packages_of GROUP…: the packages of those groups, one a line.
+# packages_of GROUP…: the packages of those groups, one per line.
 packages_of() {
     awk -v groups=" $* " '!/^#/ && index(groups, " " $1 " ") { print $2 }' scripts/packages
 }
@@ -28,7 +28,7 @@ missing_of() {
             sed -n 's/^installed //p' | sort -u)
 }
 
-# install GROUP…: installs what is missing of those groups; quick when nothing is.
+# install GROUP…: installs the missing packages of those groups; quick if there are none.
 install() {
     local missing as_root=()
     command -v dpkg-query >/dev/null || die "needs a Debian system, or install by hand: $(packages_of "$@" | tr '\n' ' ')"
@@ -44,7 +44,7 @@ install() {
         apt-get -q install -y --no-install-recommends "${missing[@]}"
 }
 
-# quietly LOG COMMAND…: runs the command into the log, and shows the log only when it fails.
+# quietly LOG COMMAND…: runs the command with output to the log, and shows the log only on failure.
 log_dir=$root/build/logs
 quietly() {
     local log=$1

@@ -1,4 +1,4 @@
-"""Keeps a result in docs/quality.md, between two comments with the result's name."""
+"""Writes a result into docs/quality.md, between two comments with the result's name."""
 
 import pathlib
 

@@ -1,5 +1,5 @@
-"""Measures the program beside its peers, and writes what it finds into docs/performance.md (or another
-such file). scripts/bench runs it."""
+"""Measures the program and its peers, and writes the results into docs/performance.md (or another such
+file). scripts/bench runs it."""
 
 from __future__ import annotations
 
@@ -64,7 +64,7 @@ def _starts_with_worksheets(starter: start_up.Starter, program: Program) -> str:
 
 
 def _screens(folder: pathlib.Path) -> dict[str, str]:
-    """A toolkit may leave notes on a screen for the next program that uses it."""
+    """New screens, because a toolkit may leave data on a screen for the next program."""
     _say("starts on new screens")
     programs = [own(_BUILD / "bin"), *PEERS]
     measured: dict[str, list[start_up.Start]] = {program.name: [] for program in programs}
@@ -76,7 +76,7 @@ def _screens(folder: pathlib.Path) -> dict[str, str]:
                     start_up.Starter(screen, folder).start_unanswered(program))
             finally:
                 screen.close()
-        del measured[program.name][0]  # its first in this home
+        del measured[program.name][0]  # the first in this home folder
     return {"first starts": report.memory(programs, measured)}
 
 
@@ -178,7 +178,7 @@ def _arguments() -> argparse.Namespace:
 
 
 def main() -> int:
-    """A section that fails leaves its old tables, and the others are measured all the same."""
+    """If a section fails, its old tables stay and the others are still measured."""
     arguments = _arguments()
     failed = []
     tables.write(arguments.file, {"machine": report.machine()})
@@ -186,7 +186,7 @@ def main() -> int:
         for name in arguments.sections or _SECTIONS:
             try:
                 tables.write(arguments.file, _SECTIONS[name](pathlib.Path(folder)))
-            except Exception:  # whatever it is, it is told
+            except Exception:  # any failure is reported
                 traceback.print_exc()
                 failed.append(name)
     _say(f"failed: {', '.join(failed)}" if failed else f"written to {arguments.file}")

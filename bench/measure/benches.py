@@ -1,4 +1,4 @@
-"""The benchmarks of bench/, run and read."""
+"""Runs the benchmarks of bench/ and reads their results."""
 
 from __future__ import annotations
 
@@ -13,8 +13,8 @@ _TO_MILLISECONDS = {"ns": 1e-6, "us": 1e-3, "ms": 1.0, "s": 1e3}
 
 @dataclass(frozen=True)
 class Figure:
-    """What one benchmark took, in milliseconds: the median of its rounds, and how far the longest and
-    the shortest are apart, in percent of it."""
+    """The time of one benchmark in milliseconds: the median of its rounds, and the difference between the
+    longest and the shortest, in percent of the median."""
 
     median: float
     spread: float
@@ -23,8 +23,8 @@ class Figure:
 
 def run(program: pathlib.Path, pattern: str = ".", rounds: int = 7, seconds: float = 0.05,
         clock: str = "real_time", **environment: str) -> dict[str, Figure]:
-    """All benchmarks of that pattern by name. Their rounds take turns: a machine that is busy for a
-    while is so for all of them. The clock is "real_time" or, for what only computes, "cpu_time"."""
+    """All benchmarks that match the pattern, by name. Their rounds alternate, so that load on the machine
+    affects all of them alike. The clock is "real_time" or, for pure computation, "cpu_time"."""
     answer = subprocess.run(
         [program, f"--benchmark_filter={pattern}", f"--benchmark_repetitions={rounds}",
          f"--benchmark_min_time={seconds}", "--benchmark_enable_random_interleaving=true",
@@ -39,7 +39,7 @@ def run(program: pathlib.Path, pattern: str = ".", rounds: int = 7, seconds: flo
 
 
 def _name(name: str) -> str:
-    """Without what says how it was measured."""
+    """The name without the parts that describe the measurement."""
     return "/".join(part for part in name.split("/")
                     if not part.startswith("iterations:") and part not in ("manual_time", "real_time"))
 

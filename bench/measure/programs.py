@@ -1,5 +1,5 @@
-"""What is measured beside what: the program and its peers, which are general calculators and a finance
-program as Debian packages them, run as they come."""
+"""The measured programs: this one and its peers, general calculators and a finance program as packaged by
+Debian, with default settings."""
 
 from __future__ import annotations
 
@@ -13,7 +13,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 
 @dataclass(frozen=True)
 class Program:
-    """A program, and a key that it answers at once."""
+    """A program, and a key that it responds to at once."""
 
     name: str
     command: tuple[str, ...]
@@ -37,7 +37,7 @@ class Program:
 
 
 def environment(home: pathlib.Path, screen: str) -> dict[str, str]:
-    """The same for all: a home of their own, no message bus, and nothing of the caller's desktop."""
+    """The same for all: a separate home folder, no message bus, and nothing of the caller's desktop."""
     kept = {name: value for name, value in os.environ.items() if name in ("PATH", "USER", "LOGNAME")}
     return {**kept, "DISPLAY": screen, "LC_ALL": "C.UTF-8", "HOME": str(home),
             "XDG_CONFIG_HOME": str(home / ".config"), "XDG_DATA_HOME": str(home / ".local/share"),
@@ -45,7 +45,7 @@ def environment(home: pathlib.Path, screen: str) -> dict[str, str]:
             "DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent", "GSETTINGS_BACKEND": "keyfile"}
 
 
-# Without its questions and tips for those who start it for the first time.
+# Disables the questions and tips at first start.
 _GNUCASH_SETTINGS = {".config/glib-2.0/settings/keyfile": """\
 [org/gnucash/GnuCash/dialogs/new-user]
 first-startup=false

@@ -1,4 +1,4 @@
-"""What was measured, as the tables of docs/performance.md."""
+"""The results as the tables of docs/performance.md."""
 
 from __future__ import annotations
 
@@ -79,7 +79,7 @@ def growth(sizes: Sequence[int], unit: str, rows: dict[str, dict[int, Figure]],
 
 
 def by_size(figures: dict[str, Figure], name: str) -> dict[int, Figure]:
-    """Of "name/16" or "name/16/2" the figure of 16."""
+    """The figures by the first argument: 16 for "name/16" or "name/16/2"."""
     found = {}
     for key, figure in figures.items():
         rest = key.removeprefix(name + "/")

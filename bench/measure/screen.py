@@ -1,5 +1,5 @@
-"""A screen of its own without a window manager, and what can be seen on it: which window shows when,
-when anything is painted, and when a key is answered."""
+"""A separate screen without a window manager, and what happens on it: when windows appear, when anything is
+painted, and when a key has an effect."""
 
 from __future__ import annotations
 
@@ -52,14 +52,14 @@ class Screen:
         self._server.wait()
 
     def forget(self) -> None:
-        """What was seen so far is of no interest."""
+        """Discards the events so far."""
         self._display.sync()
         while self._display.pending_events():
             self._display.next_event()
 
     def events(self, quiet: float, enough=lambda: True, patience: float = 20.0):
-        """Yields the time and what has just happened, as a list, until nothing more has happened for
-        that many seconds and what has is enough, or until patience ends."""
+        """Yields the time and the list of new events until enough has happened and then nothing for that
+        many seconds, or until patience ends."""
         end = time.perf_counter() + patience
         while True:
             if not self._display.pending_events():
@@ -73,7 +73,8 @@ class Screen:
                 yield moment, happened
 
     def is_main_window(self, event) -> bool:
-        """Not a splash, a dialog or one of those small ones that a toolkit keeps for itself."""
+        """Whether it is a main window: not a splash screen, a dialog or a small internal window of a
+        toolkit."""
         if event.type != X.MapNotify or event.override:
             return False
         try:
@@ -96,7 +97,7 @@ class Screen:
         window.set_input_focus(X.RevertToParent, X.CurrentTime)
 
     def press(self, *keys: str) -> float:
-        """The keys, pressed together; the time when they were sent."""
+        """Presses the keys together; returns the time when they were sent."""
         codes = [self._display.keysym_to_keycode(XK.string_to_keysym(key)) for key in keys]
         begin = time.perf_counter()
         for code in codes:
@@ -107,7 +108,7 @@ class Screen:
         return begin
 
     def last_paint(self, quiet: float) -> float | None:
-        """When something was painted last, once it has been quiet for so long."""
+        """The time of the last paint, once nothing was painted for so long."""
         last = None
         for moment, happened in self.events(quiet):
             last = moment if any(self.is_paint(event) for event in happened) else last

@@ -1,4 +1,4 @@
-"""From the start of a program to a window that can be used, and the memory it then takes."""
+"""The time from the start of a program to a usable window, and its memory use then."""
 
 from __future__ import annotations
 
@@ -11,11 +11,11 @@ from dataclasses import dataclass
 from .programs import Program, environment
 from .screen import Box, Screen, difference
 
-# A caret blinks every half second: a window that is painted no more for so long is finished.
+# A caret blinks every half second: a window that is not painted for this time is finished.
 _QUIET = 0.3
 _QUIET_TO_LEARN = 0.45
 _PATIENCE = 20.0
-_ATTEMPTS = 3  # for a start that the rest of the machine got in the way of
+_ATTEMPTS = 3  # for starts disturbed by other load
 DROP_CACHES = pathlib.Path("/proc/sys/vm/drop_caches")
 
 
@@ -23,20 +23,20 @@ DROP_CACHES = pathlib.Path("/proc/sys/vm/drop_caches")
 class Start:
     """Milliseconds since the start, and MB."""
 
-    window: float  # the first window of any kind shows
-    main: float  # the main window shows
-    usable: float  # the key sent when the main window showed has been answered on the screen
-    finished: float  # nothing is painted any more
-    processor: float  # time of all threads together
+    window: float  # the first window of any kind appears
+    main: float  # the main window appears
+    usable: float  # the key sent when the main window appeared has its effect on the screen
+    finished: float  # the last paint
+    processor: float  # CPU time of all threads
     peak: float
     resident: float
-    share: float  # resident, what other programs use, too, counted in part
-    own: float  # resident and nobody else's
+    share: float  # proportional set size: memory shared with other programs counts in part
+    own: float  # resident and not shared
 
 
 @dataclass(frozen=True)
 class Answer:
-    """Where on the screen the answer to the key is seen, and what it looks like."""
+    """Where on the screen the effect of the key appears, and what it looks like."""
 
     box: Box
     pixels: bytes
@@ -55,7 +55,7 @@ def _processor(process: pathlib.Path) -> float:
 
 
 class Starter:
-    """Starts programs on a screen, each in a home of its own."""
+    """Starts programs on a screen, each with a separate home folder."""
 
     def __init__(self, screen: Screen, folder: pathlib.Path) -> None:
         self._screen = screen
@@ -63,10 +63,10 @@ class Starter:
         self._answers: dict[str, Answer] = {}
 
     def learn(self, program: Program) -> None:
-        """Finds out what the answer to the program's key looks like: what is otherwise after a start
-        with the key than after one without."""
+        """Learns what the effect of the program's key looks like: the difference between a start with the
+        key and one without."""
         self._answers.pop(program.name, None)
-        self._run(program, (), lambda *_: None)  # its first start in this home
+        self._run(program, (), lambda *_: None)  # the first start in this home folder
         for _ in range(_ATTEMPTS):
             without, answered, again = (
                 self._run(program, keys, lambda *_: self._screen.pixels())
@@ -90,7 +90,7 @@ class Starter:
         raise RuntimeError(f"{program.name} did not answer its key")
 
     def start_unanswered(self, program: Program) -> Start:
-        """Its key is sent, but whether it answers is not looked at."""
+        """Sends the key, but does not check its effect."""
         for _ in range(_ATTEMPTS):
             start = self._run(program, program.keys, lambda seen, process: self._measure(
                 {"usable": seen.get("finished"), **seen} if "finished" in seen else {}, process))
@@ -132,8 +132,8 @@ class Starter:
             self._screen.last_paint(0.05)
 
     def _watch(self, program: Program, keys: tuple[str, ...], begin: float) -> dict[str, float]:
-        """The moments of a start, in milliseconds since then. The keys are sent when the main window
-        shows: they wait for the program as those of an impatient user would."""
+        """The events of a start, in milliseconds since it. The keys are sent when the main window appears
+        and wait for the program like those of an impatient user."""
         seen: dict[str, float] = {}
         answer = self._answers.get(program.name) if keys else None
         quiet = _QUIET if answer else _QUIET_TO_LEARN
@@ -157,14 +157,14 @@ class Starter:
 
 
 def drop_caches() -> None:
-    """Nothing of any file is in memory afterwards."""
+    """Drops all cached files from memory."""
     subprocess.run(["sync"], check=True)
     DROP_CACHES.write_text("3", encoding="ascii")
 
 
 def measure(starter: Starter, programs: list[Program], rounds: int,
             cold: bool = False) -> dict[str, list[Start]]:
-    """The programs take turns, so that whatever else the machine does meets all alike."""
+    """The programs alternate, so that other load on the machine affects all of them alike."""
     starts: dict[str, list[Start]] = {program.name: [] for program in programs}
     for _ in range(rounds):
         for program in programs:

@@ -1,4 +1,4 @@
-"""Tables of figures in a text that is otherwise written by hand."""
+"""Tables of figures in a hand-written document."""
 
 from __future__ import annotations
 
@@ -8,7 +8,7 @@ from collections.abc import Iterable, Sequence
 
 
 def number(value: float) -> str:
-    """With three digits that mean something."""
+    """Three significant digits."""
     if value == 0:
         return "0"
     if abs(value) >= 100:
@@ -23,7 +23,7 @@ def table(head: Sequence[str], rows: Iterable[Sequence[str]]) -> str:
 
 
 def write(file: pathlib.Path, parts: dict[str, str]) -> None:
-    """Puts each part between the markers of its name, "<!-- name -->" and "<!-- end -->"."""
+    """Writes each part between the markers of its name, "<!-- name -->" and "<!-- end -->"."""
     text = file.read_text(encoding="utf-8")
     for name, part in parts.items():
         place = re.compile(rf"(<!-- {re.escape(name)} -->\n).*?(<!-- end -->)", re.DOTALL)

@@ -1,4 +1,4 @@
-"""From a key to the painted result, in the real window."""
+"""The time from a key to the painted result, in the real window."""
 
 from __future__ import annotations
 
@@ -17,7 +17,7 @@ _NAMES = {".": "period"}
 
 
 class Sitting:
-    """The program in use: a worksheet of sixteen offers, typed in. The keyboard is in the loan amount."""
+    """The running program with a typed worksheet of sixteen offers. The focus is in the loan amount."""
 
     def __init__(self, screen: Screen, program: Program, folder: pathlib.Path) -> None:
         self._screen = screen
@@ -30,7 +30,7 @@ class Sitting:
         self._fill()
 
     def close(self) -> None:
-        self._process.kill()  # it would ask whether to save
+        self._process.kill()  # closing would ask whether to save
         self._process.wait()
 
     def type(self, text: str) -> None:
@@ -62,7 +62,7 @@ class Sitting:
         self._to_amount()
 
     def _close_notice(self) -> None:
-        """The first payment that is filled in is told."""
+        """The program reports the first payment that it fills in; closes that message."""
         self._next_window(self._screen.is_window)
         self._screen.press("Return")
         self._screen.last_paint(0.3)
@@ -80,7 +80,7 @@ class Sitting:
         return 1000 * (last - begin)
 
     def store_amount(self, amount: int) -> float:
-        """From Return to the end of the paint that shows sixteen offers calculated anew."""
+        """From Return to the end of the paint that shows sixteen recalculated offers."""
         self.type(str(amount))
         self._screen.last_paint(_QUIET)
         time.sleep(0.01)
@@ -89,7 +89,7 @@ class Sitting:
         return taken
 
     def key(self) -> float:
-        """From a digit to its paint in the field."""
+        """From a digit key to its paint in the field."""
         return self.milliseconds_to_paint("1")
 
 

@@ -1,15 +1,15 @@
-"""Worksheets put into a store from outside, as many as one likes."""
+"""Adds any number of worksheets to a store from outside."""
 
 from __future__ import annotations
 
 import pathlib
 import sqlite3
 
-_VALUES = 130  # of a worksheet with sixteen offers
+_VALUES = 130  # in a worksheet with sixteen offers
 
 
 def fill(home: pathlib.Path, count: int) -> None:
-    """Into the store that the program has made in this home."""
+    """Adds to the store that the program created in this home folder."""
     store = sqlite3.connect(home / ".local/share/Quend Halverworks/Loan.store")
     with store:
         (base,) = store.execute("SELECT id FROM Keys WHERE name='Loan'").fetchone()

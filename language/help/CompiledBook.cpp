@@ -51,7 +51,7 @@ void CompiledBook::Listen() {
     });
 }
 
-/// The toolkit's engine must not go while its thread is about to begin.
+/// Qt's help engine must not be destroyed while its thread is about to start.
 CompiledBook::~CompiledBook() {
     m_reader = {};
     m_next.clear();
@@ -102,7 +102,7 @@ void CompiledBook::OnIdle() {
 void CompiledBook::Open() {
     m_engine.setReadOnly(false);
     if (!m_engine.setupData() || !m_engine.registerDocumentation(m_file)) {
-        const QString why = m_engine.error(); // none for some kinds of damage
+        const QString why = m_engine.error(); // empty for some kinds of damage
         throw Damaged(why.isEmpty() ? QStringLiteral("The help file %1 is damaged").arg(m_file)
                                     : why);
     }

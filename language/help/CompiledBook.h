@@ -5,11 +5,11 @@
 #include <QTemporaryDir>
 #include <QtHelp/QHelpEngine>
 
-/// A help file as the toolkit compiles it, read by the toolkit's engine. What the engine has to
-/// write, it writes to a folder that goes with the book.
+/// A compiled Qt help file, read by Qt's help engine. The engine writes to a temporary folder that
+/// is removed with the book.
 class CompiledBook : public HelpBook {
 public:
-    /// Throws Failure with the toolkit's description when the file is missing or damaged.
+    /// Throws Failure with Qt's description if the file is missing or damaged.
     explicit CompiledBook(const QString& file);
     CompiledBook(const CompiledBook&) = delete;
     CompiledBook& operator=(const CompiledBook&) = delete;
@@ -40,6 +40,6 @@ private:
     QHelpEngine m_engine;
     QString m_space;
     Reader m_reader;
-    bool m_busy = false; ///< reading or looking for pages, in a thread of the toolkit's own
+    bool m_busy = false; ///< indexing or searching, in a thread of Qt
     QString m_next;
 };

@@ -19,7 +19,7 @@ public:
     explicit WindowAccess(QWidget& window) : QAccessibleWidget(&window, QAccessible::Window) {}
 };
 
-/// The page as a document that can be read by character, word, line and sentence.
+/// The page as an accessible document, readable by character, word, line and sentence.
 class PageAccess final : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
     explicit PageAccess(HelpView& view)
@@ -63,7 +63,7 @@ public:
     void scrollToSubstring(int start, int end) override;
 
 private:
-    /// A place of the text, the nearest there is.
+    /// A cursor at the offset, clamped to the text.
     QTextCursor At(int offset) const {
         QTextCursor cursor(m_view->document());
         cursor.setPosition(std::clamp(offset, 0, characterCount()));
@@ -80,7 +80,7 @@ private:
     HelpView* m_view;
 };
 
-/// The toolkit knows lines of a text field only, not those that a page is broken into.
+/// Qt knows only the lines of a text field, not the wrapped lines of a page.
 QString PageAccess::Line(int offset, int* start, int* end) const {
     QTextCursor cursor = At(offset);
     cursor.movePosition(QTextCursor::StartOfLine);
@@ -120,7 +120,7 @@ QString PageAccess::textAfterOffset(int offset, QAccessible::TextBoundaryType bo
     return *end < characterCount() ? Line(*end + 1, start, end) : None(start, end);
 }
 
-/// Of the type, only what tells headings and names of fields from the text.
+/// Only the font attributes that distinguish headings and field names from the text.
 QString PageAccess::attributes(int offset, int* start, int* end) const {
     const QTextBlock block = At(offset).block();
     for (auto part = block.begin(); part != block.end(); ++part) {
@@ -178,7 +178,7 @@ void PageAccess::scrollToSubstring(int start, int /*end*/) {
     bar.setValue(bar.value() + m_view->cursorRect(At(start)).top());
 }
 
-/// The toolkit owns what is made.
+/// Qt owns the result.
 QAccessibleInterface* MakeHelpAccess(const QString& className, QObject* object) {
     if (className == u"HelpWindow") {
         return std::make_unique<WindowAccess>(*qobject_cast<QWidget*>(object)).release();

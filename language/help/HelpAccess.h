@@ -1,5 +1,5 @@
 #pragma once
 
-/// What screen readers are told of the help: the toolkit takes its window for a mere container and
-/// its page for a label. To be called before either is made; again, it does nothing.
+/// Accessibility of the help: by default Qt reports its window as a container and its page as a
+/// label. Call before either is created; further calls do nothing.
 void InstallHelpAccess();

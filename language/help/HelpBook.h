@@ -11,15 +11,15 @@
 
 class QAbstractItemModel;
 
-/// One help file, opened: its pages, their topics, and models of its contents and index. Shows
-/// nothing itself, and does not know what reads the file: CompiledBook does.
+/// An open help file: its pages, their topics, and models of its contents and index. Shows nothing,
+/// and does not read the file: CompiledBook does.
 class HelpBook {
 public:
     struct FoundPage {
         QString title;
         QUrl page;
     };
-    /// Who is told what is done behind the scenes. Either may be empty.
+    /// Callbacks for background work. Either may be empty.
     struct Reader {
         std::function<void()> contentsListed;
         std::function<void()> searched;
@@ -33,36 +33,36 @@ public:
     virtual ~HelpBook() = default;
 
     virtual const QString& File() const = 0;
-    /// There is one reader at a time; an empty one is told nothing.
+    /// One reader; pass {} to unsubscribe.
     virtual void TellReader(Reader reader) = 0;
 
-    /// Both stay the book's own.
+    /// The book owns both models.
     virtual QAbstractItemModel* Contents() = 0;
     virtual QAbstractItemModel* Keywords() = 0;
-    /// The page of an entry of the contents.
+    /// The page of an entry in the contents.
     virtual QUrl PageOfChapter(const QModelIndex& chapter) const = 0;
 
-    /// Where a page is, named as in a link, such as "points.html#t1030".
+    /// The URL of a page, named as in a link, such as "points.html#t1030".
     virtual QUrl Page(const QString& name) const = 0;
-    /// The place of a topic; empty for a number that has none.
+    /// The URL of a topic; empty for an unknown number.
     virtual QUrl PageOfTopic(int topic) const = 0;
     /// The page that a keyword of the index leads to.
     virtual QUrl PageOfKeyword(const QString& keyword) const = 0;
-    /// Empty for what is not in the book.
+    /// Empty for pages that are not in the book.
     virtual QByteArray Data(const QUrl& page) const = 0;
 
     QUrl FirstPage() const;
     bool Has(const QUrl& page) const;
-    /// A topic by itself, as HTML: its heading and what stands under it, up to the next heading.
+    /// One topic as HTML: its heading and the text below it, up to the next heading.
     QString TopicText(int topic) const;
 
-    /// Reads the whole book for Find.
+    /// Indexes the whole book for Find.
     virtual void PrepareToFind() = 0;
-    /// Looks for pages; the last query asked for while the book is busy is the one that counts.
+    /// Searches pages; of the queries made while the book is busy, only the last one runs.
     virtual void Find(const QString& query) = 0;
-    /// Of the last search, the best first.
+    /// Results of the last search, best first.
     virtual QList<FoundPage> Found(int most) = 0;
 };
 
-/// Opens a help file. Throws Failure in words of its own when it is missing or damaged.
+/// Opens a help file. Throws Failure with its own description if the file is missing or damaged.
 using BookOpener = std::function<std::shared_ptr<HelpBook>(const QString& file)>;

@@ -20,7 +20,7 @@
 
 namespace {
 
-/// What the user is at: the entry marked in an open menu, else the control with the keyboard.
+/// The object that help is requested for: the active entry of an open menu, else the focus widget.
 const QObject* AskedAbout() {
     const QWidget* popup = QApplication::activePopupWidget();
     if (const auto* menu = qobject_cast<const QMenu*>(popup)) {
@@ -31,7 +31,7 @@ const QObject* AskedAbout() {
     return popup ? popup : focus ? focus : QApplication::activeWindow();
 }
 
-/// The window that help is shown beside.
+/// The window to show help beside.
 QWidget& ActiveWindow(Loan& loan) {
     QWidget* active = QApplication::activeWindow();
     return active ? *active : loan;
@@ -49,7 +49,7 @@ HelpCommands::HelpCommands(Loan& window, BookOpener open)
     connect(form.mnuHelpSearch, &QAction::triggered, this, &HelpCommands::mnuHelpSearch_Click);
     connect(form.cmdWhatsThis, &QPushButton::clicked, this, &HelpCommands::cmdWhatsThis_Click);
     connect(&m_whatsThis, &WhatsThisMode::Asked, this, &HelpCommands::ShowWhatsThis);
-    // Queued: the entry is chosen before the language has changed.
+    // Queued, because the signal arrives before the language has changed.
     connect(form.mnuToolsLanguage, &QMenu::triggered, this, &HelpCommands::FollowLanguage,
             Qt::QueuedConnection);
     qApp->installEventFilter(this);
@@ -101,7 +101,7 @@ void HelpCommands::OnHelpKey() {
     ShowTopic(topic);
 }
 
-/// A control without a topic is explained by the beginning.
+/// For a control without a topic, shows the first page.
 void HelpCommands::ShowTopic(int topic) {
     Try([this, topic] {
         const QUrl page = Book().PageOfTopic(topic);
@@ -131,7 +131,7 @@ void HelpCommands::FollowLink(const QString& link) {
     Try([this, &link] { Window().Open(Book().Page(link), ActiveWindow(*m_loan)); });
 }
 
-/// Help that is not in view follows when it is asked for next.
+/// Help that is not visible follows when it is opened next.
 void HelpCommands::FollowLanguage() {
     if (m_help && m_help->isVisible()) {
         Try([this] { Window(); });

@@ -15,14 +15,14 @@ class QUrl;
 class QWidget;
 
 /// The Help menu's Contents and Search, the F1 key, and what's-this help, all from the help file of
-/// the language in use. A file that is missing or damaged is told in its own words, and nothing
+/// the current language. A missing or damaged file is reported with its description, and nothing
 /// else happens.
 class HelpCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// The window outlives the commands. Enables the entries and the button. A book is opened when
-    /// it is first asked for.
+    /// The window must outlive the commands. Enables the entries and the button. Opens a book on
+    /// first use.
     HelpCommands(Loan& window, BookOpener open);
     HelpCommands(const HelpCommands&) = delete;
     HelpCommands& operator=(const HelpCommands&) = delete;
@@ -30,12 +30,12 @@ public:
     HelpCommands& operator=(HelpCommands&&) = delete;
     ~HelpCommands() override;
 
-    /// Null until the help was shown for the first time.
+    /// Null until the help is first shown.
     HelpWindow* Shown() const { return m_help.get(); }
     bool IsAsking() const { return m_whatsThis.IsOn(); }
 
 protected:
-    /// The keys of help, in every window of the program, and the links in what's-this help.
+    /// Handles the help keys in every window of the program, and the links in what's-this help.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -11,7 +11,7 @@ QVariant HelpContents::Model::headerData(int /*section*/, Qt::Orientation /*orie
 
 HelpContents::HelpContents(QWidget* parent) : QTreeView(parent) {
     setModel(&m_model);
-    // Titles wider than their side are scrolled to, not cut.
+    // Titles wider than the pane can be scrolled instead of being cut off.
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     connect(this, &QTreeView::activated, this, &HelpContents::Choose);

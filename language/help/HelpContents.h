@@ -6,38 +6,38 @@
 
 class HelpBook;
 
-/// The contents of a help book as a tree, unfolded. Its mark follows the page in view; it shows no
-/// page itself.
+/// The contents of a help book as an expanded tree. The selection follows the current page; the
+/// tree does not show pages.
 class HelpContents : public QTreeView {
     Q_OBJECT
 
 public:
     explicit HelpContents(QWidget* parent = nullptr);
 
-    /// The book outlives the tree, or is replaced before it goes. Null: no contents.
+    /// The book must outlive the tree or be replaced before it is destroyed. Null: no contents.
     void SetBook(HelpBook* book);
-    /// To be called again once the book has listed its contents.
+    /// Call again when the book has listed its contents.
     void Unfold();
-    /// Marks the chapter of this page. Where several lead to it, a mark that is on one of them
-    /// stays, and else the innermost has it.
+    /// Selects the chapter of this page. If several chapters link to it, keeps a selection that is
+    /// one of them, else selects the innermost.
     void MarkPage(const QUrl& page);
 
 Q_SIGNALS:
     void PageChosen(const QUrl& page);
 
 private:
-    /// The tree is one column without a heading. Unnamed, because the toolkit shows screen readers
-    /// the column's number as a heading even where the headings are hidden.
+    /// The tree is one column without a heading. The heading is empty, because Qt reports the
+    /// column's number to screen readers even if headings are hidden.
     class Model : public QIdentityProxyModel {
     public:
         QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     };
 
     void Choose(const QModelIndex& chapter);
-    /// Without the place in the page.
+    /// Without the fragment.
     QUrl PageOf(const QModelIndex& chapter) const;
 
     HelpBook* m_book = nullptr;
     Model m_model;
-    QUrl m_page; ///< the page in view
+    QUrl m_page; ///< the current page
 };

@@ -4,7 +4,7 @@
 
 #include <QtPlugin>
 
-/// The part of the program that reads help files, a library of its own.
+/// The plugin that reads help files.
 class HelpPart {
 public:
     HelpPart() = default;
@@ -14,14 +14,14 @@ public:
     HelpPart& operator=(HelpPart&&) = delete;
     virtual ~HelpPart() = default;
 
-    /// Throws Failure as a BookOpener does.
+    /// Throws Failure like a BookOpener.
     virtual std::shared_ptr<HelpBook> Open(const QString& file) const = 0;
 };
 
-// A macro, because the meta-object compiler reads it.
+// A macro, because moc reads it.
 #define HelpPart_iid "quend.loan.HelpPart/1"
 Q_DECLARE_INTERFACE(HelpPart, HelpPart_iid)
 
-/// A BookOpener that loads the part when the first book is opened. Throws ComponentFailure where
-/// the part is missing.
+/// A BookOpener that loads the plugin when the first book is opened. Throws ComponentFailure if the
+/// plugin is missing.
 std::shared_ptr<HelpBook> OpenByPart(const QString& file);

@@ -2,8 +2,8 @@
 
 #include <QRect>
 
-/// Where the help window opens: in 1024ths of the screen, so that it stands beside the main window
-/// and covers the lower right of any screen.
+/// The initial geometry of the help window in 1024ths of the screen, so that it is beside the main
+/// window and covers the lower right of any screen.
 struct HelpPlace {
     static constexpr int Units = 1024;
 

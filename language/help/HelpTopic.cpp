@@ -18,7 +18,7 @@ int TopicOf(const QObject* object) {
         if (const int topic = OwnTopicOf(*object)) {
             return topic;
         }
-        // The entry that opens a menu is explained by the menu.
+        // An entry that opens a menu has the menu's topic.
         const auto* entry = qobject_cast<const QAction*>(object);
         if (entry && entry->menu()) {
             return TopicOf(entry->menu());

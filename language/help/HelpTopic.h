@@ -5,14 +5,14 @@ class QObject;
 class QPoint;
 class QWidget;
 
-/// Which topic of the help explains what: the forms name it by the dynamic property "helpTopic".
+/// The help topics of controls. Forms set them by the dynamic property "helpTopic".
 
-/// The topic of a control, menu or entry; without one of its own, that of what it stands in. 0 for
-/// none at all.
+/// The topic of a control, menu or entry; if it has none, that of its nearest parent with one. 0 if
+/// there is none.
 int TopicOf(const QObject* object);
 
-/// The entry at a place of a menu or menu bar; null where there is none.
+/// The entry at a position of a menu or menu bar; null if there is none.
 QAction* EntryAt(const QWidget& widget, QPoint at);
 
-/// The topic of what is at this place of a widget: in menus and menu bars that of the entry there.
+/// The topic at this position of a widget; in menus and menu bars, that of the entry there.
 int TopicAt(const QWidget& widget, QPoint at);

@@ -40,19 +40,19 @@ void SetRoomBelow(const QTextDocument& page, double room) {
 
 HelpView::HelpView(QWidget* parent) : QTextBrowser(parent) {
     setOpenExternalLinks(false);
-    setTabChangesFocus(false); // the tab key goes from link to link
-    // Pictures are made to fit before it is known whether the page is longer than the view.
+    setTabChangesFocus(false); // Tab moves between links
+    // Images are scaled before it is known whether the page needs a scroll bar.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     ColourLinks();
     connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& page) {
-        m_section = page.fragment(); // source() is still the page of before
+        m_section = page.fragment(); // source() is still the previous page
         FitSection(true);
     });
 }
 
 bool HelpView::IsAtSection() const { return verticalScrollBar()->value() == m_sectionTop; }
 
-/// A page scrolls to its end and no further, so the last sections need room below them.
+/// A page cannot scroll past its end, so add space for the last sections below it.
 void HelpView::FitSection(bool scroll) {
     const double margin = document()->documentMargin();
     const auto top = SectionTop(*document(), m_section);

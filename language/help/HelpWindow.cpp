@@ -23,8 +23,8 @@ namespace {
 
 constexpr int MostFound = 100;
 
-/// Every word, begun or whole. In quotes, because AND, OR, NOT and NEAR are commands of the search
-/// engine, as are the characters between words.
+/// Matches every word, also as a prefix. Words are quoted, because AND, OR, NOT, NEAR and the
+/// characters between words are operators of the search engine.
 QString QueryOf(const QString& typed) {
     const QRegularExpression gap(QStringLiteral("[\\W_]+"),
                                  QRegularExpression::UseUnicodePropertiesOption);
@@ -52,7 +52,7 @@ HelpWindow::HelpWindow(const HelpPlace& place)
     Wire();
 }
 
-/// Views and models of the book go before the book.
+/// Detach views and models before the book is destroyed.
 HelpWindow::~HelpWindow() {
     if (m_book) {
         m_book->TellReader({});
@@ -125,7 +125,7 @@ void HelpWindow::SetBook(std::shared_ptr<HelpBook> book) {
         {.contentsListed = [this] { UnfoldContents(); }, .searched = [this] { ListFound(); }});
     UnfoldContents();
     m_book->PrepareToFind();
-    Find(); // the words of before, in the new book
+    Find(); // repeat the search in the new book
 
     ShowTexts();
     QUrl same = m_book->Page(before.fileName());
@@ -133,7 +133,7 @@ void HelpWindow::SetBook(std::shared_ptr<HelpBook> book) {
     ShowPage(!before.isEmpty() && m_book->Has(same) ? same : m_book->FirstPage());
 }
 
-/// A third of the window, and where the titles of the contents need it up to half of it.
+/// A third of the window, or up to half if the titles of the contents need it.
 void HelpWindow::FitSide() {
     if (m_sideSet) {
         return;
@@ -173,7 +173,7 @@ void HelpWindow::ShowKeyword(const QModelIndex& keyword) {
     ShowPage(m_book->PageOfKeyword(keyword.data().toString()));
 }
 
-/// Topics are in the index of the file, too, but have no words to show.
+/// The index of the file also contains topics, which have no text to show.
 void HelpWindow::ListKeywords(const QString& start) {
     const QString any = start.isEmpty() ? QStringLiteral(".") : QRegularExpression::escape(start);
     m_keywords.setFilterRegularExpression(
@@ -193,7 +193,7 @@ void HelpWindow::Find() {
     }
 }
 
-/// The answer to a search that the user has left since is dropped.
+/// Discards the results if the user has left the search meanwhile.
 void HelpWindow::ListFound() {
     ClearFound();
     if (QueryOf(m_ui->txtWords->text()).isEmpty()) {
@@ -222,7 +222,7 @@ void HelpWindow::Open(Side side, QWidget& beside) {
     EnterSide();
 }
 
-/// Puts the keyboard on the side in view, into its field where it has one.
+/// Moves the focus to the visible pane, to its field if it has one.
 void HelpWindow::EnterSide() {
     QWidget* side = m_ui->tabHelp->currentWidget();
     if (auto* field = side->findChild<QLineEdit*>()) {
@@ -248,9 +248,9 @@ void HelpWindow::Raise(QWidget& beside) {
     activateWindow();
 }
 
-/// A window is judged to be blocked by a dialog when it is shown.
+/// Qt decides when the window is shown whether a dialog blocks it.
 void HelpWindow::BelongTo(const QWidget* dialog) {
-    winId(); // makes the window
+    winId(); // creates the native window
     QWindow* owner = dialog ? dialog->windowHandle() : nullptr;
     if (windowHandle()->transientParent() != owner) {
         hide();
@@ -258,7 +258,7 @@ void HelpWindow::BelongTo(const QWidget* dialog) {
     }
 }
 
-/// Once: where the user puts it afterwards, it stays.
+/// Only once: afterwards the window stays where the user puts it.
 void HelpWindow::Place(const QWidget& beside) {
     if (!std::exchange(m_placed, true)) {
         const QRect place = m_place.On(beside.screen()->geometry());

@@ -16,16 +16,16 @@ class HelpWindow;
 class HelpBook;
 class QModelIndex;
 
-/// The window that shows a help book: its contents, its index and a search beside the page. It
-/// stands beside the main window and does not keep the program alive. It neither chooses the book
-/// nor knows the language but for its own captions.
+/// The window that shows a help book: its contents, its index and a search beside the page. It is
+/// independent of the main window and does not keep the program running. It does not choose the
+/// book and uses the language only for its own captions.
 class HelpWindow : public QWidget {
     Q_OBJECT
 
 public:
     enum class Side { Contents, Index, Search };
 
-    /// Opens at this place of the screen that it is shown on.
+    /// Opens at this place on its screen.
     explicit HelpWindow(const HelpPlace& place);
     HelpWindow(const HelpWindow&) = delete;
     HelpWindow& operator=(const HelpWindow&) = delete;
@@ -33,18 +33,18 @@ public:
     HelpWindow& operator=(HelpWindow&&) = delete;
     ~HelpWindow() override;
 
-    /// Takes another book and renews the captions. The page of the same name stays in view; in a
-    /// book that has none, its first page.
+    /// Replaces the book and updates the captions. Keeps the page of the same name, or shows the
+    /// first page if the new book has none.
     void SetBook(std::shared_ptr<HelpBook> book);
 
-    /// Brings the window to the front, on the screen of `beside`, with the keyboard on that side.
-    /// Contents shows the book's first page, too; a search begins without words.
-    /// A dialog that waits for its answer would block it, so it then belongs to the dialog.
+    /// Brings the window to the front, on the screen of `beside`, with the focus on that pane.
+    /// Contents also shows the book's first page; a search starts empty.
+    /// A modal dialog would block the window, so it then becomes transient for the dialog.
     void Open(Side side, QWidget& beside);
-    /// The same with this page, its side staying as it is.
+    /// The same with this page; the pane does not change.
     void Open(const QUrl& page, QWidget& beside);
 
-    /// The page in view.
+    /// The current page.
     QUrl PageInView() const;
 
 protected:

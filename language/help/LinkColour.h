@@ -4,8 +4,8 @@
 #include <QPalette>
 #include <QString>
 
-/// The colour of links on a background of this palette. Few dark palettes name one of their own,
-/// and the toolkit's blue cannot be read there.
+/// The colour of links on a background of this palette. Few dark palettes define one, and Qt's
+/// default blue is unreadable there.
 inline QColor LinkColour(const QPalette& palette, QPalette::ColorRole background) {
     constexpr int half = 128;
     const QColor link = palette.color(QPalette::Link);

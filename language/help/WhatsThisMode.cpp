@@ -13,7 +13,7 @@
 
 namespace {
 
-/// What is there of this widget, itself where it is bare; null when it is elsewhere.
+/// The child of this widget at the position, or the widget itself; null if the position is outside.
 QWidget* PartAt(QWidget* widget, const QPoint& at) {
     if (widget == nullptr || !widget->rect().contains(widget->mapFromGlobal(at))) {
         return nullptr;
@@ -31,8 +31,8 @@ QWidget* WidgetOf(const QObject* window) {
     return nullptr;
 }
 
-/// What is there on the screen. A menu or list that is open comes first, then the window that was
-/// told of the click, which may stand in for another one while a menu is open. Null beside them.
+/// The widget at a screen position: first in an open menu or list, then in the window that received
+/// the click, which may not be the one below the mouse while a menu is open. Null outside both.
 QWidget* WidgetAt(const QObject* window, const QPoint& at) {
     if (QWidget* part = PartAt(QApplication::activePopupWidget(), at)) {
         return part;
@@ -41,7 +41,7 @@ QWidget* WidgetAt(const QObject* window, const QPoint& at) {
     return part != nullptr ? part : QApplication::widgetAt(at);
 }
 
-/// An entry whose press opens a menu that is still closed.
+/// Whether a press on the entry opens a menu that is still closed.
 bool Opens(const QAction* entry) {
     return entry != nullptr && entry->menu() != nullptr && !entry->menu()->isVisible();
 }
@@ -57,8 +57,7 @@ void ClosePopups() {
     }
 }
 
-/// The entry of an open menu that this key would set off; null for none, and for one that opens a
-/// menu.
+/// The entry of an open menu that this key would trigger; null if there is none or it opens a menu.
 QAction* EntryOfKey(const QMenu& menu, const QKeyEvent& event) {
     QAction* entry = nullptr;
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter ||
@@ -73,7 +72,7 @@ QAction* EntryOfKey(const QMenu& menu, const QKeyEvent& event) {
     return entry != nullptr && entry->menu() == nullptr ? entry : nullptr;
 }
 
-/// A widget whose window stays when menus close.
+/// A widget whose window remains when menus close.
 QWidget& Lasting(QWidget& widget) {
     QWidget* window = widget.window();
     while (window->windowType() == Qt::Popup && window->parentWidget()) {
@@ -106,7 +105,7 @@ void WhatsThisMode::End() {
 
 bool WhatsThisMode::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
-    // Windows get these before they choose the control, and before the focus follows.
+    // Windows receive these events before the control does and before the focus changes.
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         return watched->isWindowType() && OnPress(watched, *static_cast<QMouseEvent*>(event));
@@ -143,7 +142,7 @@ bool WhatsThisMode::OnPress(const QObject* told, const QMouseEvent& event) {
 bool WhatsThisMode::OnRelease(const QObject* told, const QMouseEvent& event) {
     const QPoint at = event.globalPosition().toPoint();
     QWidget* widget = WidgetAt(told, at);
-    // A menu may be opened and an entry chosen in one move, with the button held down.
+    // A menu may be opened and an entry chosen in one gesture, with the button held down.
     const auto* menu = qobject_cast<const QMenu*>(widget);
     const QAction* entry = menu != nullptr ? EntryAt(*menu, menu->mapFromGlobal(at)) : nullptr;
     const bool draggedTo = entry != nullptr && !Opens(entry);
@@ -178,7 +177,7 @@ bool WhatsThisMode::OnKey(QObject* watched, const QKeyEvent& event) {
     return presses;
 }
 
-/// The access key of a button, or the keys of a menu entry, such as Ctrl+S.
+/// The access key of a button, or the shortcut of a menu entry, such as Ctrl+S.
 bool WhatsThisMode::OnShortcut(QObject* watched) {
     const auto* entry = qobject_cast<QAction*>(watched);
     const bool acts = IsButton(watched) || (entry != nullptr && entry->menu() == nullptr);

@@ -8,13 +8,13 @@ class QMouseEvent;
 class QPoint;
 class QWidget;
 
-/// The mode in which the next control clicked is asked about instead of used: read-only and
-/// disabled ones, headings, menus and their entries. It does not know the answers.
+/// The mode in which a click on a control asks for its help instead of using it; this includes
+/// read-only and disabled controls, headings, menus and their entries. Does not show the help.
 ///
-/// A click is caught before any control sees it, so neither the focus moves nor a field is left. A
-/// menu opens as always, and the click on its entry, or on the name of the open menu, is the one
-/// that asks. From the keyboard: a button's access key or the space bar, an entry's access or
-/// return key. Escape, a click beside the windows, and leaving the program call the mode off.
+/// Clicks are intercepted before any control receives them, so the focus does not move and no field
+/// is left. A menu opens as usual; a click on its entry, or on the title of the open menu, asks. On
+/// the keyboard, a button's access key or Space, and an entry's access key or Return, ask. Escape,
+/// a click outside the windows, and switching to another program cancel the mode.
 class WhatsThisMode : public QObject {
     Q_OBJECT
 
@@ -31,8 +31,8 @@ public:
     bool IsOn() const { return m_on; }
 
 Q_SIGNALS:
-    /// The mode is over and menus are closed. `topic` is 0 where nothing is explained; `window` is
-    /// one that stays open.
+    /// The mode has ended and menus are closed. `topic` is 0 if there is no help; `window` is one
+    /// that stays open.
     void Asked(int topic, const QPoint& at, QWidget* window);
 
 protected:
@@ -48,5 +48,5 @@ private:
     void Ask(int topic, const QPoint& at, QWidget& asked);
 
     bool m_on = false;
-    bool m_pressed = false; ///< the press was caught, its release is still to come
+    bool m_pressed = false; ///< the press was intercepted; its release is still to come
 };

@@ -1,7 +1,7 @@
-"""Starts the program on a desktop of its own and plays a scenario in its window.
+"""Starts the program on a separate desktop and plays a scenario in its window.
 
-What the scenario reads is printed as "control<TAB>text"; the exit code is 0 when every step went
-well, 1 when the window did not do as it should, 2 when the scenario is at fault.
+Prints what the scenario reads as "control<TAB>text". The exit code is 0 if every step succeeded, 1 if the
+window behaved wrongly, 2 if the scenario is invalid.
 """
 
 from __future__ import annotations
@@ -47,7 +47,7 @@ def _show(reading: Reading) -> None:
 
 
 def _complaints(log: Path) -> str:
-    """What the program said, without the note of newer versions of Qt that a locale is not installed."""
+    """The program's output, without the message of newer Qt versions that a locale is not installed."""
     said = log.read_text(errors="replace") if log.exists() else ""
     return _LOCALE_NOTE.sub("", said)
 

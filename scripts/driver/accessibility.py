@@ -1,7 +1,7 @@
 """The accessibility bus as the driver sees it: a tree of controls with roles, names and texts.
 
-Nothing is cached: every question goes to the running program, so that what is read is what the
-window shows at that moment. Knows nothing of loans and moves no mouse.
+Nothing is cached: every query goes to the running program, so that results match what the window shows at
+that moment. Knows nothing about loans and does not move the mouse.
 """
 
 from __future__ import annotations
@@ -14,10 +14,10 @@ from gi.repository import Gio, GLib
 
 _PREFIX = "org.a11y.atspi."
 _ROOT = "/org/a11y/atspi/accessible/root"
-_SCREEN = 0  # coordinates counted from the corner of the screen
+_SCREEN = 0  # coordinates relative to the screen
 _TIMEOUT_MS = 10_000
 
-# Bits of a control's state, as the accessibility protocol numbers them.
+# Bits of a control's state in the accessibility protocol.
 ACTIVE = 1
 CHECKED = 4
 EXPANDED = 10
@@ -26,12 +26,12 @@ SHOWING = 25
 
 
 class BusError(Exception):
-    """The bus or the program behind it gave no answer."""
+    """The bus or the program did not respond."""
 
 
 @dataclass(frozen=True)
 class Box:
-    """Where a control stands on the screen, in pixels."""
+    """The geometry of a control on the screen, in pixels."""
 
     x: int
     y: int
@@ -56,7 +56,7 @@ class Bus:
 
     def call(self, owner: str, path: str, interface: str, method: str,
              arguments: GLib.Variant | None = None) -> Any:
-        """The first value of the answer. Raises BusError."""
+        """Returns the first value of the reply. Raises BusError."""
         try:
             answer = self._connection.call_sync(
                 owner, path, interface, method, arguments, None,
@@ -66,7 +66,7 @@ class Bus:
         return answer.unpack()[0]
 
     def programs(self) -> list[Node]:
-        """The programs that have said they can be read; the newest last."""
+        """The registered accessible programs, the newest last."""
         children = self.call(_PREFIX + "Registry", _ROOT, _PREFIX + "Accessible", "GetChildren")
         return [Node(self, owner, path) for owner, path in children]
 
@@ -115,11 +115,11 @@ class Node:
         return Box(x, y, width, height)
 
     def text(self) -> str:
-        """What an entry field shows. Raises BusError for a control without text."""
+        """The text of an entry field. Raises BusError for a control without text."""
         return str(self._ask(_PREFIX + "Text", "GetText", GLib.Variant("(ii)", (0, -1))))
 
     def walk(self) -> Iterator[Node]:
-        """This node and all below it, parents first; what goes away meanwhile is left out."""
+        """This node and all its descendants, parents first; nodes that disappear meanwhile are skipped."""
         yield self
         try:
             below = self.children()

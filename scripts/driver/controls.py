@@ -1,9 +1,8 @@
-"""Which accessible name each control of the window goes by.
+"""The accessible names of the window's controls.
 
-The window tells a screen reader a control's name in the language shown, never the name it has in
-the source. So a control is looked up here by the numbers of the texts it may be called by, and the
-texts are read from the language components themselves: whatever language the window shows, one of
-the names fits.
+The accessibility bus reports a control's name in the current language, not its name in the source. So
+controls are identified here by the numbers of their possible names, and the texts are read from the
+language components: one of the names matches in any language.
 """
 
 from __future__ import annotations
@@ -23,7 +22,7 @@ _MENU = frozenset({"menu item", "menu", "check menu item", "radio menu item"})
 
 @dataclass(frozen=True)
 class Kind:
-    """Roles that a control may have on the bus, and the numbers of the texts it may be called."""
+    """The roles that a control may have on the bus, and the text numbers of its possible names."""
 
     roles: frozenset[str]
     texts: tuple[int, ...]
@@ -73,7 +72,7 @@ _SINGLE = {
     "mnuHelpAbout":         (_MENU,   64),
 }
 
-# The controls of an offer row; their texts take the number of the offer, counted from one.
+# The controls of an offer row; "%1" in their texts is the number of the offer, from 1.
 _ROW = {
     "chkPoints":        (_CHECK, 420),
     "txtPoints":        (_ENTRY, 421),
@@ -88,7 +87,7 @@ _ROW = {
     "txtWho":           (_ENTRY, 430),
 }
 
-# What a heading is described by while the offers are sorted by it.
+# The description of a heading while the offers are sorted by it.
 _ACTIVE = {"cmdPayoffDate": 346, "cmdInterest": 347}
 
 _MOST_ROWS = 16
@@ -97,7 +96,7 @@ _TEXT_LINE = re.compile(r"(\d+)\s*=\s?(.*)")
 
 
 def kind_of(control: str) -> tuple[Kind, int | None]:
-    """What the control is, and the row it stands in where it has one. Raises KeyError."""
+    """The kind of the control, and its row if it has one. Raises KeyError."""
     if control in _SINGLE:
         roles, *texts = _SINGLE[control]
         return Kind(roles, tuple(texts)), None
@@ -109,15 +108,15 @@ def kind_of(control: str) -> tuple[Kind, int | None]:
 
 
 def active_text_of(control: str) -> int:
-    """The number of the text that describes a heading that is active. Raises KeyError."""
+    """The text number of an active heading's description. Raises KeyError."""
     return _ACTIVE[control]
 
 
 class Texts:
-    """The names of the controls in every language, read from the components' own files."""
+    """The names of the controls in every language, read from the components' source files."""
 
     def __init__(self, components: Path) -> None:
-        """The folder that holds one folder for each language. Raises OSError."""
+        """`components` contains one folder per language. Raises OSError."""
         files = sorted(components.glob("*/texts.txt"))
         if not files:
             raise FileNotFoundError(f"no texts.txt below {components}")
@@ -126,19 +125,19 @@ class Texts:
                           for name in self.names(control) for role in kind_of(control)[0].roles}
 
     def names(self, control: str) -> frozenset[str]:
-        """The names that the control may go by, in any language. Raises KeyError."""
+        """The possible names of the control in all languages. Raises KeyError."""
         kind, row = kind_of(control)
         offer = "%1" if row is None else str(row + 1)
         return frozenset(text.replace("%1", offer)
                          for number in kind.texts for text in self.shown(number))
 
     def shown(self, number: int) -> frozenset[str]:
-        """What a text looks like on the screen, in every language."""
+        """The text as shown on the screen, in every language."""
         return frozenset(_shown(language[number]) for language in self._languages
                          if number in language)
 
     def control_of(self, role: str, name: str) -> str | None:
-        """The control that goes by that name, if there is one."""
+        """The control with that name, if there is one."""
         return self._controls.get((role, name))
 
 
@@ -152,5 +151,5 @@ def _read(file: Path) -> dict[int, str]:
 
 
 def _shown(text: str) -> str:
-    """A caption as a screen reader says it: without the marks of its access key."""
+    """A caption as screen readers get it: without the access key marks."""
     return text.replace("&&", "\0").replace("&", "").replace("\0", "&")

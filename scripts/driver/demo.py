@@ -1,7 +1,7 @@
-"""Shows the program at work: fills its window with a sample, takes pictures, prints what it reads,
-and prints the worksheet on a printer that writes files.
+"""Demonstrates the program: fills its window with a sample, takes screenshots, prints what it reads, and
+prints the worksheet on a printer that writes files.
 
-Nothing printed is computed here: every figure is what the window shows.
+Nothing is computed here: every printed figure is read from the window.
 """
 
 from __future__ import annotations
@@ -26,7 +26,7 @@ _SAMPLE = Path(__file__).with_name("sample.scenario")
 _OFFERS = 6
 
 _COLUMNS = {
-    # heading     control of the row   to the right
+    # heading     control of the row   align right
     "F?":         ("chkPoints", False),
     "Points":     ("txtPoints", True),
     "Rate":       ("txtInterestRate", True),
@@ -63,20 +63,20 @@ def _arguments() -> argparse.Namespace:
 
 
 def _speak(window: Window, language: int, file: Path) -> None:
-    """Chooses a language in the menu and takes a picture of the window in it."""
+    """Chooses a language in the menu and takes a screenshot of the window."""
     window.menu(["mnuTools", "mnuToolsLanguage", f"mnuToolsLanguageOpt({language})"])
     window.screenshot(file)
     print(f"picture: {file}")
 
 
 def _offers(window: Window) -> list[list[str]]:
-    """What the rows of the offers show."""
+    """The texts of the offer rows."""
     return [[window.read(f"{control}({row})") for control, _ in _COLUMNS.values()]
             for row in range(_OFFERS)]
 
 
 def _current(window: Window) -> dict[str, str]:
-    """What the band of the loan held today shows, and the escrow."""
+    """The texts of the current loan, and the escrow."""
     controls = {**_CURRENT, "Monthly escrow": "txtMonthlyEscrow"}
     return {heading: window.read(control) for heading, control in controls.items()}
 
@@ -98,7 +98,7 @@ def _print_current(shown: dict[str, str]) -> None:
 
 
 def _open_again(window: Window, locale: str) -> None:
-    """Ends the program and opens the saved worksheet in a new run of it."""
+    """Ends the program and opens the saved worksheet in a new process."""
     name = window.read("cboLoanName")
     window.menu(["mnuFile", "mnuFileSave"])
     before = (_offers(window), _current(window))
@@ -111,7 +111,7 @@ def _open_again(window: Window, locale: str) -> None:
 
 
 def _print(window: Window, lab: PrintLab, file: Path) -> None:
-    """Prints the worksheet as a user does, and keeps what comes out of the printer."""
+    """Prints the worksheet like a user, and saves the printed document."""
     window.menu(["mnuFile", "mnuFilePrint"])
     window.answer("Print")
     window.progress()
@@ -120,7 +120,7 @@ def _print(window: Window, lab: PrintLab, file: Path) -> None:
 
 
 def _print_lab(session: Session, ending: ExitStack) -> PrintLab | str:
-    """A printer for this run, or why none can be had."""
+    """A printer for this run, or the reason why there is none."""
     try:
         return ending.enter_context(PrintLab(session))
     except subprocess.CalledProcessError as error:
@@ -130,7 +130,7 @@ def _print_lab(session: Session, ending: ExitStack) -> PrintLab | str:
 
 
 def _sort(window: Window, heading: str, file: Path) -> None:
-    """Sorts the offers by a column, prints them and takes a picture from the first row on."""
+    """Sorts the offers by a column, prints them and takes a screenshot with the first row visible."""
     window.sort(heading)
     window.focus("txtWho(0)")
     print(f"\n{window.describe(heading)}:")

@@ -1,7 +1,7 @@
-"""What a user does in the dialogs and other windows that stand before the main one.
+"""User actions in dialogs and other windows in front of the main one.
 
-Their controls are the toolkit's as often as the program's, so they go by what they show: a text, or
-@ and the number of a text of the program, whatever the language.
+Many of their controls are Qt's, so they are identified by what they show: a text, or @ and the number of a
+text of the program in any language.
 """
 
 from __future__ import annotations
@@ -16,11 +16,11 @@ from waiting import wait_for
 _PRESSED = frozenset({"push button", "button", "radio button", "page tab", "check box"})
 _COUNTS = frozenset({"spin button", "spin box"})
 _MAIN = "frame"  # the role of the main window
-_HELP_PAGE = 597  # the text that a page of the help is named by
+_HELP_PAGE = 597  # the accessible name of a help page
 
 
 class Dialogs:
-    """Works whatever dialog or window is active; `active` gives it, or None."""
+    """Operates the active dialog or window; `active` returns it, or None."""
 
     def __init__(self, hands: Hands, texts: Texts, active: Callable[[], Node | None],
                  seconds: float) -> None:
@@ -30,18 +30,18 @@ class Dialogs:
         self._seconds = seconds
 
     def push(self, wanted: str) -> None:
-        """Clicks on a button, a choice or a tab, and waits for nothing."""
+        """Clicks on a button, a choice or a tab, without waiting."""
         self._hands.click(*self._find(wanted, _PRESSED).box().middle())
 
     def end(self, wanted: str) -> None:
-        """Clicks on a button and waits until the dialog that had it is not in front any more."""
+        """Clicks on a button and waits until its dialog is no longer in front."""
         button = self._find(wanted, _PRESSED)
         dialog = self._active()
         self._hands.click(*button.box().middle())
         wait_for("the dialog to close", lambda: self._active() not in (None, dialog), self._seconds)
 
     def leave(self) -> None:
-        """Closes the window in front, which is not the main one, by Escape."""
+        """Closes the window in front (not the main one) by Escape."""
         window = self._active()
         self._hands.keys("Escape")
         wait_for("the window in front to close", lambda: self._active() not in (None, window),
@@ -56,7 +56,7 @@ class Dialogs:
         return words_of(wait_for("a dialog", dialog, self._seconds))
 
     def helped(self) -> str:
-        """Waits for the help window, closes it and gives its title."""
+        """Waits for the help window, closes it and returns its title."""
         self.page()
         window = self._active()
         title = window.name() if window else ""
@@ -64,7 +64,7 @@ class Dialogs:
         return title
 
     def count(self, wanted: str, number: str) -> None:
-        """Puts a number in place of the one that a field of the dialog holds."""
+        """Replaces the number in a field of the dialog."""
         field = self._find(wanted, _COUNTS)
         self._hands.click(*field.box().middle())
         self._hands.keys("ctrl+a")
@@ -72,7 +72,7 @@ class Dialogs:
         wait_for(f"{wanted!r} to show {number}", lambda: field.text() == number, self._seconds)
 
     def page(self) -> str:
-        """Waits until the help is in front, and gives the first line of its page."""
+        """Waits until the help is in front, and returns the first line of its page."""
         def first_line() -> str:
             window = self._active()
             names = self._texts.shown(_HELP_PAGE)

@@ -1,4 +1,4 @@
-"""Dragging by the mouse, within the window and to and from another program (neighbour.py)."""
+"""Dragging with the mouse, within the window and to and from another program (neighbour.py)."""
 
 from __future__ import annotations
 
@@ -13,13 +13,13 @@ from session import Session
 from waiting import wait_for
 
 _NEIGHBOUR = Path(__file__).with_name("neighbour.py")
-_ROUNDS = 10  # of question and answer, after which a program has seen what came before them
-_BESIDE = 8   # pixels: a press so far from the one before is no double click
-_START = 24   # pixels, more than any toolkit wants before a press becomes a drag
+_ROUNDS = 10  # round trips, after which a program has processed all earlier events
+_BESIDE = 8   # pixels: a press at this distance from the previous one is not a double click
+_START = 24   # pixels, more than the drag distance of any toolkit
 
 
 class Neighbour:
-    """The other program, started beside the window; the session ends it."""
+    """The other program, started next to the window; the session ends it."""
 
     def __init__(self, session: Session, text: str, seconds: float) -> None:
         self._seconds = seconds
@@ -32,16 +32,16 @@ class Neighbour:
         self.place("gives")
 
     def lines(self) -> list[str]:
-        """What has been said so far, but for a line that is still being written."""
+        """The output so far, without an incomplete last line."""
         said = self._said.read_text(encoding="utf-8", errors="replace")
         return said[:said.rfind("\n") + 1].splitlines()
 
     def listen(self) -> None:
-        """What has been said so far does not count any more."""
+        """Ignores the output so far."""
         self._heard = len(self.lines())
 
     def last(self, word: str) -> str | None:
-        """What followed that word the last time it was said."""
+        """The text after the last occurrence of that word."""
         found = [line[len(word) + 1:] for line in self.lines()[self._heard:]
                  if line.split(" ")[0] == word]
         return found[-1] if found else None
@@ -52,7 +52,7 @@ class Neighbour:
         return self.last(word) or ""
 
     def catch_up(self) -> None:
-        """Waits until it has seen all that has happened."""
+        """Waits until it has processed all events."""
         for _ in range(2):
             before = self.lines().count("here")
             self._process.send_signal(signal.SIGUSR1)
@@ -60,7 +60,7 @@ class Neighbour:
                      self._seconds)
 
     def place(self, what: str) -> tuple[int, int]:
-        """The middle of what "gives" or "takes"."""
+        """The centre of the widget that "gives" or "takes"."""
         wait_for(f"the place that {what}", lambda: self._places().get(what), self._seconds)
         return self._places()[what]
 
@@ -70,12 +70,12 @@ class Neighbour:
 
 
 class Drag:
-    """One drag, step by step. Each step waits until the window has seen it."""
+    """One drag, step by step. Each step waits until the window has processed it."""
 
     _side = 1
 
     def __init__(self, hands: Hands, answer: Callable[[], object], seconds: float) -> None:
-        """`answer` asks the window something, whatever it is."""
+        """`answer` makes any query to the window."""
         self._hands = hands
         self._answer = answer
         self._seconds = seconds
@@ -93,7 +93,7 @@ class Drag:
             self._settle()
 
     def has_begun(self) -> bool:
-        """Whether the slip that goes along with the mouse is there."""
+        """Whether the drag image that follows the mouse is visible."""
         return bool(self._hands.windows() - self._before)
 
     def must_begin(self) -> None:

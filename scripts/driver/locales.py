@@ -1,6 +1,6 @@
-"""How the locales that scenarios are played in write numbers and dates.
+"""Number and date formats of the locales that scenarios use.
 
-Known here from outside, so that the driver takes nothing from the program it watches.
+Defined independently, so that the driver takes nothing from the program that it tests.
 """
 
 from __future__ import annotations
@@ -14,6 +14,6 @@ def decimal_sign(locale: str) -> str:
 
 
 def typed_date(locale: str, day: str) -> str:
-    """A date given as year-month-day, written in the order in which the locale shows it."""
+    """Formats a date given as year-month-day in the locale's order."""
     year, month, date = (str(int(part)) for part in day.split("-"))
     return "/".join([month, date, year] if locale.startswith(_MONTH_FIRST) else [date, month, year])

@@ -1,14 +1,14 @@
-"""Another program on the same desktop, of another toolkit: it gives a text to be dragged, and shows
-what is dropped on it.
+"""Another program on the same desktop, using another toolkit: it provides a text to drag, and shows what is
+dropped on it.
 
-Started with the text it gives. Each thing that happens is a line on its output:
+Argument: the text to provide. Prints one line per event:
 
-    at <what> <x> <y>       where "gives" and "takes" have their middle on the screen
-    action <none|copy|move> what the field under its drag would do with its text
-    over                    a drag has come over it
+    at <what> <x> <y>       the centre of "gives" and "takes" on the screen
+    action <none|copy|move> what the target field would do with its text
+    over                    a drag has entered it
     got <text>              what was dropped on it
-    begin, end              its drag has begun, is over
-    here                    the answer to the signal USR1, once all that came before it is done
+    begin, end              its drag has begun, has ended
+    here                    the reply to the signal USR1, once all earlier events are processed
 """
 
 from __future__ import annotations
@@ -45,7 +45,7 @@ def _answer() -> bool:
 
 
 def _giver(text: str) -> Gtk.Widget:
-    """A label to drag by."""
+    """A label to drag from."""
     giver = Gtk.EventBox()
     giver.add(Gtk.Label(label=text))
     giver.drag_source_set(Gdk.ModifierType.BUTTON1_MASK, [], Gdk.DragAction.COPY)
@@ -57,7 +57,7 @@ def _giver(text: str) -> Gtk.Widget:
 
 
 def _taker() -> Gtk.Widget:
-    """A field to drop on, with all that the toolkit does for one."""
+    """A field to drop on, with the toolkit's standard behaviour."""
     taker = Gtk.Entry()
     taker.connect("drag-motion", lambda *_: _say("over"))
     taker.connect("changed", lambda entry: _say("got", entry.get_text()))
@@ -65,7 +65,7 @@ def _taker() -> Gtk.Widget:
 
 
 def _corner(window: Gtk.Window) -> tuple[int, int]:
-    """Where the window is to stand: in the corner of the screen, out of the way."""
+    """The position of the window: in the corner of the screen, out of the way."""
     screen = window.get_screen()
     return screen.get_width() - _WIDTH, screen.get_height() - _HEIGHT
 
@@ -73,7 +73,7 @@ def _corner(window: Gtk.Window) -> tuple[int, int]:
 def _tell_places(window: Gtk.Window, giver: Gtk.Widget, taker: Gtk.Widget) -> bool:
     _, left, top = window.get_window().get_origin()
     if (left, top) != _corner(window):
-        return False  # on its way
+        return False  # still moving
     for name, widget in (("gives", giver), ("takes", taker)):
         place = widget.get_allocation()
         _say("at", name, left + place.x + place.width // 2, top + place.y + place.height // 2)
@@ -81,7 +81,7 @@ def _tell_places(window: Gtk.Window, giver: Gtk.Widget, taker: Gtk.Widget) -> bo
 
 
 def main() -> None:
-    # No focus: the program it stands beside stays the active one.
+    # No focus, so that the program under test stays active.
     window = Gtk.Window(title="Neighbour", decorated=False, accept_focus=False,
                         focus_on_map=False, default_width=_WIDTH, default_height=_HEIGHT)
     window.set_keep_above(True)

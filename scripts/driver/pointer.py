@@ -1,13 +1,13 @@
-"""Mouse and keyboard of one X server, as a user's hands would work them. Reads nothing back."""
+"""Mouse and keyboard of one X server, used like a user does. Does not read the controls."""
 
 from __future__ import annotations
 
 import subprocess
 from collections.abc import Mapping, Sequence
 
-# Some programs lose key events that follow one another without any pause.
+# Some programs lose key events without a pause between them.
 _KEY_PAUSE_MS = "8"
-_POPUP_MARGIN = 24  # pixels from the edge of a pop-up, shadow and all, into its text
+_POPUP_MARGIN = 24  # pixels from the edge of a pop-up, including its shadow, into its text
 
 
 class Hands:
@@ -21,13 +21,13 @@ class Hands:
                        stdin=subprocess.DEVNULL)
 
     def window_in_hand(self) -> bool:
-        """Whether the window manager has given some window the keyboard."""
+        """Whether any window has the keyboard focus."""
         return subprocess.run(["xdotool", "getactivewindow"], env=self._environment, check=False,
                               timeout=60, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                               stderr=subprocess.DEVNULL).returncode == 0
 
     def class_in_hand(self) -> str:
-        """The class that the window with the keyboard gives itself."""
+        """The WM_CLASS of the window with the keyboard focus."""
         window = self._answer("xdotool", "getactivewindow")
         return self._answer("xprop", "-id", window.strip(), "WM_CLASS").split('"')[-2]
 
@@ -43,14 +43,14 @@ class Hands:
                    "click", "--repeat", "2", "--delay", "40", "1"])
 
     def windows(self) -> frozenset[str]:
-        """All that stands on the desktop, tooltips and the like among it."""
+        """All visible top-level windows, including tooltips."""
         return frozenset(subprocess.run(
             ["xdotool", "search", "--onlyvisible", "--maxdepth", "1", "--name", ".*"],
             env=self._environment, check=False, timeout=60, stdin=subprocess.DEVNULL,
             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True).stdout.split())
 
     def last_line(self, window: str) -> tuple[int, int]:
-        """Where the last line of a pop-up begins."""
+        """The start of the last line of a pop-up."""
         said = subprocess.run(["xdotool", "getwindowgeometry", "--shell", window],
                               env=self._environment, check=True, timeout=60,
                               stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True).stdout
@@ -68,7 +68,7 @@ class Hands:
         self._run(["mouseup", str(button)])
 
     def rest(self) -> None:
-        """Takes the mouse out of the way, so that no tooltip covers the window."""
+        """Moves the mouse away, so that no tooltip covers the window."""
         self._run(["mousemove", "1", "1"])
 
     def keys(self, *names: str) -> None:

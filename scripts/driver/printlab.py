@@ -1,4 +1,4 @@
-"""A print server with a printer for the programs of a session (scripts/printlab)."""
+"""A print server and printer for the programs of a session (scripts/printlab)."""
 
 from __future__ import annotations
 
@@ -17,10 +17,10 @@ _PRINT_SECONDS = 30
 
 
 class PrintLab:
-    """Programs that the session starts meanwhile print there.
+    """Programs that the session starts during its lifetime print there.
 
-    Not below the session's folder, which is its user's alone: a print server reads what it prints as
-    another one.
+    Its folder is not below the session's private folder, because a print server reads documents as another
+    user.
     """
 
     def __init__(self, session: Session) -> None:
@@ -41,10 +41,9 @@ class PrintLab:
         self._end()
 
     def printed(self) -> str:
-        """What has been printed: copies, and the document's pages, their orientation and words.
+        """The printed job: copies, and the document's pages, their orientation and words.
 
-        The printer gets its pages upright; the server's copy of the document lies as it was sent.
-        """
+        The printer receives upright pages; the server's copy has the original orientation. """
         document = self.document()
         job = wait_for("the server's note of the job", lambda: _only(self._jobs()), _PRINT_SECONDS)
         sent = wait_for("the document sent", lambda: _only(self._jobs("d")), _PRINT_SECONDS)
@@ -53,20 +52,20 @@ class PrintLab:
         return f"{_copies(job)} copies, {pages} page, {side}: {_first_words(document)}"
 
     def must_be_empty(self) -> None:
-        """Raises Expired when a job has come to the server, or a document to the printer."""
+        """Raises Expired if the server has a job, or the printer a document."""
         found = [file.name for file in [*self._jobs(), *(self._folder / "jobs").iterdir()]]
         if found:
             raise Expired(f"there are {found}")
 
     def _jobs(self, kind: str = "c") -> list[Path]:
-        """What the server remembers of its jobs, one file each; "d" for their documents.
+        """The server's job files, one per job; "d" for their documents.
 
-        The server writes a job's file anew beside the old one (c00001.N), and then renames it.
+        The server rewrites a job's file beside the old one (c00001.N), and then renames it.
         """
         return sorted((self._folder / "spool").glob(f"{kind}[0-9]*[0-9]"))
 
     def document(self) -> Path:
-        """The one document that has been printed; waits until the printer is done with it."""
+        """The only printed document; waits until the printer has finished it."""
         return wait_for("the printed document", self._whole_document, _PRINT_SECONDS)
 
     def _whole_document(self) -> Path | None:
@@ -93,7 +92,7 @@ def _only(files: list[Path]) -> Path | None:
 
 
 def _copies(job: Path) -> int:
-    """From the attributes of a job as the protocol writes them: a tag, the name, a number."""
+    """Reads the protocol's encoding of a job attribute: a tag, the name, a number."""
     found = re.search(rb"\x21\x00\x06copies\x00\x04(.{4})", job.read_bytes(), re.DOTALL)
     return int.from_bytes(found[1], "big") if found else 1
 
@@ -103,7 +102,7 @@ def _ask(*words: str) -> str:
 
 
 def _pages(document: Path) -> tuple[int, float, float]:
-    """How many, and the first one's width and height as it is read."""
+    """The number of pages, and the width and height of the first page as displayed."""
     said = _ask("pdfinfo", str(document))
     size = re.search(r"Page size:\s+([\d.]+) x ([\d.]+)", said)
     pages = re.search(r"Pages:\s+(\d+)", said)

@@ -1,61 +1,61 @@
-"""Scenarios: what a user does, line by line.
+"""Scenarios: user actions, one per line.
 
     # a note
     type <control> <text>           replaces what the field holds and leaves it by Tab
-    number <control> <number>       the same with the locale's own decimal sign in place of a point
+    number <control> <number>       the same with the locale's decimal sign instead of a point
     date <control> <yyyy-mm-dd>     the same in a date picker
     choose <control> <text>|@<n>    picks an entry of a list, by text or by the text's number
     check <control>, clear <control>
     press <control>                 clicks on a button
     sort <heading>                  clicks on the heading of a column and waits for the new order
-    lender <control> <text>         edits a lender in its dialog; a bar stands for a new line
+    lender <control> <text>         edits a lender in its dialog; a bar means a new line
     menu <entry> <entry> ...        opens the menus and clicks on the last entry
     key <control> <key> ...         presses keys by their X names, such as Down or shift+Tab
-    keystrokes <control> <text>     types, and neither empties the field nor leaves it
-    meet <text>                     starts another program, "neighbour", that gives this text
-    drag <from> <to>                drags by the mouse from a field to another, or to the neighbour
+    keystrokes <control> <text>     types without emptying or leaving the field
+    meet <text>                     starts another program, "neighbour", that provides this text
+    drag <from> <to>                drags with the mouse from one field to another, or to the neighbour
     dragescape <from> <to>          the same, and presses Escape before letting go
     dragon <from> <edge> <to>       drags to an edge of the rows, holds there until the last row has
                                     scrolled there, and drops on it
-    dragnothing <from> <to>         the same, where no drag may begin
+    dragnothing <from> <to>         the same, but no drag may begin
     dragright <from> <to>           the same with the right button
-    dragin <to>                     drags the neighbour's text to a field; prints what the neighbour
-                                    is told that would be done with it: copy, move or none
+    dragin <to>                     drags the neighbour's text to a field; prints the action that is
+                                    reported to the neighbour: copy, move or none
     got                             prints what has been dropped on the neighbour
     dialog                          waits for a message box, prints its text and closes it
     answer <text>|@<n>              waits for a question, prints it and presses that button
     progress                        waits for a window that closes by itself, prints its text
-    look                            prints the text of the dialog that stands open
+    look                            prints the text of the open dialog
     push <text>|@<n>                clicks on a button, choice or tab of the dialog in front
-    end <text>|@<n>                 clicks on a button that closes that dialog, and waits until it has
+    end <text>|@<n>                 clicks on a button that closes that dialog, and waits for that
     count <number> <text>|@<n>      types a number into the field of that name in the dialog
     page                            waits for the help, prints the first line of its page
     leave                           closes the window in front by Escape
     ask <control>                   asks What's this? of a control, follows the link in the answer
                                     and prints the first line of that page
-    tool <name>                     installs a tool that notes that it was started
+    tool <name>                     installs a tool that records its start
     started                         waits until it was started
-    printed                         waits for a document from the printer, prints what it is like
-    unprinted                       makes sure that the printer has got nothing
+    printed                         waits for a printed document and prints its properties
+    unprinted                       checks that nothing was printed
     expect <control> <text>         waits until the control shows the text
     read <control> ...              prints what each control shows
-    name <control> ...              prints what a screen reader calls each control
-    describe <control> ...          prints what a screen reader adds to that
+    name <control> ...              prints the accessible name of each control
+    describe <control> ...          prints the accessible description of each control
     helped                          waits for the help window, prints its title and closes it
-    components                      prints the language components in use: those that stand beside the
-                                    program by their names, others by their paths
-    class                           prints the class by which desktops tell which program's it is
+    components                      prints the language components in use: by name if they are beside
+                                    the program, else by path
+    class                           prints the window class by which desktops identify the program
     title                           prints the title of the window
-    screenshot <file>               takes a picture of the window
-    tree                            prints all controls there are
+    screenshot <file>               takes a screenshot of the window
+    tree                            prints all controls
     damage                          damages the store under the running program
-    quit                            closes the window and waits for a good end
+    quit                            closes the window and waits for exit code 0
     close                           closes the window; a question may follow
-    ended                           waits for a good end
-    kill                            ends the program at once, without a chance to do anything
-    start <locale>                  starts the program again, with what it has kept
+    ended                           waits for exit code 0
+    kill                            kills the program at once
+    start <locale>                  starts the program again, with its saved data
 
-Printed is a line for each thing read: the control, a tab, the text.
+Prints one line per result: the control, a tab, the text.
 """
 
 from __future__ import annotations
@@ -68,12 +68,12 @@ from window import Refused, Window
 
 
 class Malformed(Exception):
-    """A line that is no step of a scenario."""
+    """A line is not a valid step."""
 
 
 @dataclass(frozen=True)
 class Reading:
-    """What one control showed."""
+    """The text of one control."""
 
     control: str
     text: str
@@ -92,7 +92,7 @@ Handler = Callable[[Window, str], list[Reading]]
 
 
 def parse(lines: Iterable[str]) -> list[Step]:
-    """The steps of a scenario. Raises Malformed for a command that there is not."""
+    """The steps of a scenario. Raises Malformed for an unknown command."""
     steps = []
     for number, line in enumerate(lines, start=1):
         command, _, rest = line.strip().partition(" ")
@@ -110,7 +110,7 @@ def prints(steps: Iterable[Step]) -> bool:
 
 
 def play(window: Window, steps: Iterable[Step]) -> Iterator[Reading]:
-    """Carries the steps out, giving each reading as it is made. Raises Refused."""
+    """Executes the steps and yields each reading. Raises Refused."""
     for step in steps:
         try:
             yield from _HANDLERS[step.command](window, step.rest)

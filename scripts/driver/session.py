@@ -1,7 +1,7 @@
-"""A desktop of its own for one run of the program: X server, window manager, message bus.
+"""A separate desktop for one run of the program: X server, window manager, message bus.
 
-Everything started here ends here, also after a failure or a signal: the driver adopts what its
-children leave behind and ends it by process id. Knows nothing of the program's controls.
+Everything started here ends here, also after a failure or a signal: the driver adopts orphaned descendants
+and ends them by process id. Knows nothing about the program's controls.
 """
 
 from __future__ import annotations
@@ -30,7 +30,7 @@ _GRACE_SECONDS = 3.0
 
 
 def _die_with_parent() -> None:
-    """Runs in a child before its program starts: no child outlives a driver that was killed."""
+    """Runs in a child before its program starts, so that no child outlives a killed driver."""
     _LIBC.prctl(_PR_SET_PDEATHSIG, signal.SIGTERM, 0, 0, 0)
 
 
@@ -39,7 +39,7 @@ def _stop(_number: int, _frame: FrameType | None) -> None:
 
 
 def _children() -> list[int]:
-    """Process ids of the children of this process that have not been waited for."""
+    """Process ids of the children of this process that were not waited for."""
     found: list[int] = []
     for task in Path("/proc/self/task").iterdir():
         try:
@@ -67,7 +67,7 @@ def _reap() -> None:
 
 
 def _end_children() -> None:
-    """Ends the children, and theirs as they become ours, first gently and then by force."""
+    """Ends the children and their adopted descendants, first by SIGTERM and then by SIGKILL."""
     start = time.monotonic()
     asked: set[int] = set()
     while True:
@@ -96,7 +96,7 @@ class Session:
         self._cleanup = ExitStack()
         self.environment: dict[str, str] = {}
         self.folder = Path()
-        self.tools = Path()  # programs of the session's own, before all others
+        self.tools = Path()  # programs of this session, first in PATH
 
     def __enter__(self) -> Session:
         _LIBC.prctl(_PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0)
@@ -118,7 +118,7 @@ class Session:
 
     def start(self, command: Sequence[str], extra: Mapping[str, str] | None = None,
               output: int | None = None, pass_fds: Sequence[int] = ()) -> subprocess.Popen[bytes]:
-        """A child in this session's environment; it need not be ended by the caller."""
+        """Starts a child in this session's environment; the caller need not end it."""
         return subprocess.Popen(
             command, env={**self.environment, **(extra or {})}, stdin=subprocess.DEVNULL,
             stdout=self._output if output is None else output,
@@ -126,18 +126,18 @@ class Session:
             pass_fds=pass_fds, preexec_fn=_die_with_parent)
 
     def install(self, tool: str) -> None:
-        """Puts a program of that name where programs are looked for first; it notes its start."""
+        """Installs a program of that name first in PATH; it records its start."""
         file = self.tools / tool
         file.write_text(f"#!/bin/sh\necho '{tool}' >>'{self.folder}/started'\n", encoding="utf-8")
         file.chmod(0o755)
 
     def started(self) -> str:
-        """Which tools were started; empty when none was."""
+        """The names of the started tools; empty if there are none."""
         file = self.folder / "started"
         return file.read_text(encoding="utf-8").strip() if file.exists() else ""
 
     def damage(self) -> None:
-        """Writes over the first page of the store that the program keeps."""
+        """Overwrites the first page of the program's store."""
         store = next(Path(self.environment["XDG_DATA_HOME"]).rglob("Loan.store"))
         with closing(sqlite3.connect(store)) as connection:
             connection.execute("PRAGMA wal_checkpoint(TRUNCATE)")
@@ -146,7 +146,8 @@ class Session:
 
     @staticmethod
     def components(process: int) -> list[str]:
-        """The language components that a process uses: by name where they stand beside its program."""
+        """The language components that a process has loaded: by name if they are beside its program, else
+        by path."""
         place = Path("/proc", str(process))
         folder = (place / "exe").resolve().parent
         used = {line.split(maxsplit=5)[-1] for line in (place / "maps").read_text().splitlines()}
@@ -154,7 +155,7 @@ class Session:
                       for file in used if file.endswith(".Resources.so"))
 
     def _fresh_environment(self) -> dict[str, str]:
-        """The caller's environment with this locale and folders that nobody has used before."""
+        """The caller's environment with this locale and new, empty folders."""
         left_out = ("LC_", "LANG", "XDG_", "DBUS_", "WAYLAND_", "QT_", "AT_SPI")
         environment = {key: value for key, value in os.environ.items()
                        if not key.startswith(left_out)}
@@ -202,10 +203,10 @@ class Session:
         wait_for("the message bus", (self.folder / "bus").exists, 10)
 
     def _start_window_manager(self) -> None:
-        """A window that is mapped before its manager is there would never become active.
+        """A window that is mapped before the window manager runs would never become active.
 
-        At the first key from a new keyboard the manager takes up its shortcuts anew and may miss
-        that key, so one without a meaning comes first.
+        At the first key from a new keyboard the manager reloads its shortcuts and may miss that key, so
+        send one without effect first.
         """
         self.start(["openbox"])
 

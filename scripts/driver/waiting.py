@@ -1,4 +1,4 @@
-"""Waiting for a condition with a deadline: the driver's only way to keep step with the program."""
+"""Waiting for a condition with a deadline: the driver's only way to synchronise with the program."""
 
 from __future__ import annotations
 
@@ -12,11 +12,11 @@ _PAUSE_SECONDS = 0.02
 
 
 class Expired(Exception):
-    """A condition did not come true in time."""
+    """A condition was not met in time."""
 
 
 def wait_for(what: str, condition: Callable[[], Found], seconds: float) -> Found:
-    """The first answer of the condition that counts as true. Raises Expired, naming what."""
+    """The first truthy result of the condition. Raises Expired with `what`."""
     deadline = time.monotonic() + seconds
     while True:
         answer = condition()

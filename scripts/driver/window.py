@@ -1,8 +1,7 @@
-"""The running program's window, worked the way its user works it.
+"""The running program's window, operated like a user does.
 
-A control is found by its accessible name, gets the focus by a click where it stands on the screen,
-and is typed into; what it shows is read back from the screen reader's side. No method sets a value
-behind the window's back.
+A control is found by its accessible name, focused by a click at its position on the screen, and typed into;
+its text is read through the accessibility bus. No method sets a value by another way.
 """
 
 from __future__ import annotations
@@ -23,17 +22,17 @@ from printlab import PrintLab
 from session import Session
 from waiting import Expired, Found, wait_for
 
-_EDGE = 5  # pixels below the middle of a row's field: nearer to the edge, and still in the field
+_EDGE = 5  # pixels below the middle of a row's field: nearer to the edge, but still in the field
 _DIALOG_ROLES = frozenset({"alert", "alert message", "dialog"})
 _WINDOW_ROLES = frozenset({"frame", "window"})
 
 
 class Refused(Exception):
-    """The window did something else than a user would expect here."""
+    """The window did something that a user would not expect."""
 
 
 class Window:
-    """The main window of one run of the program; it does not start or stop anything but that."""
+    """The main window of one run of the program; starts and stops nothing else."""
 
     def __init__(self, session: Session, program: Path, texts: Texts, seconds: float,
                  lab: PrintLab | None = None) -> None:
@@ -49,7 +48,7 @@ class Window:
         self.start(session.environment["LC_ALL"])
 
     def start(self, locale: str) -> None:
-        """Starts the program, on what earlier runs of the session have left in its folders."""
+        """Starts the program with the data of earlier runs in the session's folders."""
         self._locale = locale
         self._known: dict[str, Node] = {}
         with self._log.open("ab") as log:
@@ -63,7 +62,7 @@ class Window:
         self._wait("the window manager to know that", self._hands.window_in_hand)
         self._look_around()
 
-    # What stands on the screen
+    # What is on the screen
 
     def _alive(self) -> None:
         code = self._process.poll()
@@ -71,7 +70,7 @@ class Window:
             raise Refused(f"the program ended by itself (exit code {code})")
 
     def _top(self, roles: frozenset[str] | None, state: int) -> Node | None:
-        """The window of those roles, or of any, that is in that state, if there is one."""
+        """A window with one of those roles, or any role, and that state; None if there is none."""
         self._alive()
         try:
             tops = [top for program in self._bus.programs() for top in program.children()]
@@ -84,7 +83,7 @@ class Window:
         return self._top(None, ACTIVE)
 
     def _dialog_now(self) -> Node | None:
-        """Of several dialogs the one in front."""
+        """The dialog in front, if there are several."""
         dialog = self._top(_DIALOG_ROLES, SHOWING)
         return dialog and (self._top(_DIALOG_ROLES, ACTIVE) or dialog)
 
@@ -94,10 +93,10 @@ class Window:
             raise Refused(f"a message box stands in the way: {words_of(dialog)!r}")
 
     def _look_around(self) -> list[str]:
-        """Notes each control that goes by a known name, and gives all the names there are.
+        """Records each control with a known name, and returns all names.
 
-        A list that holds a value goes by that value instead of its own name, so a control is
-        remembered from the first time it is seen.
+        A list with a value reports that value instead of its name, so controls are recorded when first
+        seen.
         """
         seen = []
         for node in self._frame.walk():
@@ -112,7 +111,7 @@ class Window:
         return seen
 
     def find(self, control: str) -> Node:
-        """The control of that name. Raises Refused, listing the names there are."""
+        """The control with that name. Raises Refused with the existing names."""
         kind_of(control)
         self._alive()
         if not (control in self._known and _is_there(self._known[control])):
@@ -134,7 +133,7 @@ class Window:
         return node
 
     def type(self, control: str, text: str) -> None:
-        """Replaces what the field holds and leaves it by Tab."""
+        """Replaces the text of the field and leaves it by Tab."""
         node = _field_of(self.focus(control))
         self._hands.keys("ctrl+a", "Delete")
         self._hands.text(text)
@@ -144,7 +143,7 @@ class Window:
                    lambda: self._dialog_now() or not _has_focus(node))
 
     def number(self, control: str, text: str) -> None:
-        """Types a number given with a decimal point as the locale writes it."""
+        """Types a number, given with a decimal point, in the locale's format."""
         self.type(control, text.replace(".", decimal_sign(self._locale)))
 
     def key(self, control: str, names: list[str]) -> None:
@@ -153,13 +152,13 @@ class Window:
         self._hands.keys(*names)
 
     def keystrokes(self, control: str, text: str) -> None:
-        """Types into the control without emptying, checking or leaving it."""
+        """Types into the control without clearing, checking or leaving it."""
         self.focus(control)
         self._hands.text(text)
 
     def choose(self, control: str, wanted: str) -> None:
-        """Opens a list and picks an entry by keys: by its text, or by @ and the number of its
-        text, whatever the language."""
+        """Opens a list and selects an entry by keys: by its text, or by @ and the number of its text in any
+        language."""
         node = self.find(control)
         items = self._open_list(control)
         index = self._index_of(wanted, [item.name() for item in items])
@@ -169,7 +168,7 @@ class Window:
         self._wait(f"the list of {control} to close", lambda: not node.has(EXPANDED))
 
     def meet(self, text: str) -> None:
-        """Starts another program beside the window, which gives this text to be dragged."""
+        """Starts another program next to the window that provides this text to drag."""
         self._neighbour = Neighbour(self.session, text, self._seconds)
 
     def drag(self, start: str, end: str, escape: bool = False) -> None:
@@ -187,8 +186,8 @@ class Window:
         drag.end()
 
     def drag_on(self, start: str, edge: str, end: str) -> None:
-        """Drags to a field at an edge of the rows, holds there until they have scrolled another field,
-        the last one there is, under the mouse, and drops on that."""
+        """Drags to a field at an edge of the rows, holds there until scrolling has moved the last field
+        under the mouse, and drops on that."""
         drag = self._begin(start)
         drag.must_begin()
         x, y = self._place(edge, "takes")
@@ -197,7 +196,7 @@ class Window:
         drag.end()
 
     def drag_nothing(self, start: str, end: str, button: int = 1) -> None:
-        """Does the same where nothing may begin. The right button brings a menu up, which is left."""
+        """The same where no drag may begin. The right button opens a menu, which is then closed."""
         drag = self._begin(start, button)
         drag.over(self._place(end, "takes"))
         begun = button == 1 and drag.has_begun()
@@ -208,11 +207,11 @@ class Window:
             raise Refused(f"{start} can be dragged")
 
     def drag_in(self, end: str) -> str:
-        """Drags the neighbour's text to a field, and gives what the neighbour was told that would be
-        done with it."""
+        """Drags the neighbour's text to a field, and returns the action that was reported to the
+        neighbour."""
         self._neighbour.listen()
         drag = wait_for("the neighbour to drag", self._begin_at_neighbour, self._seconds)
-        # It is told of changes only, so it comes by a field that takes any text.
+        # Only changes are reported, so first move over a field that accepts any text.
         drag.over(self._place("txtWho(0)", "takes"))
         self._neighbour.wait_for("action")
         drag.over(self._place(end, "takes"))
@@ -223,7 +222,7 @@ class Window:
         return told
 
     def _begin_at_neighbour(self) -> Drag | None:
-        """A press that comes while the neighbour still puts its last drag away begins none."""
+        """A press while the neighbour still finishes its last drag starts no drag; returns None then."""
         drag = self._begin("neighbour")
         self._neighbour.catch_up()
         if self._neighbour.last("begin") is None:
@@ -238,7 +237,7 @@ class Window:
         return drag
 
     def got(self) -> str:
-        """What has been dropped on the neighbour."""
+        """The text dropped on the neighbour."""
         return self._neighbour.wait_for("got")
 
     def _place(self, control: str, what: str) -> tuple[int, int]:
@@ -246,7 +245,7 @@ class Window:
                 else self.find(control).box().middle())
 
     def check(self, control: str, wanted: bool = True) -> None:
-        """Clicks on a check box unless it stands as wanted."""
+        """Clicks on a check box unless it has the wanted state."""
         node = self.find(control)
         if node.has(CHECKED) != wanted:
             self._must_be_free()
@@ -261,8 +260,8 @@ class Window:
         self._hands.click(*self.find(control).box().middle())
 
     def ask(self, control: str) -> str:
-        """Asks what a control is by the What's-this button, follows the link in the answer and gives
-        the first line of the page that it leads to."""
+        """Asks for a control's help with the What's-this button, follows the link in the answer and returns
+        the first line of the linked page."""
         self.press("cmdWhatsThis")
         before = self._hands.windows()
         self._hands.click(*self.find(control).box().middle())
@@ -271,15 +270,16 @@ class Window:
         return self.dialogs.page()
 
     def sort(self, control: str) -> None:
-        """Clicks on the heading of a column and waits until it says that the offers are sorted."""
+        """Clicks on the heading of a column and waits until its description says that the offers are
+        sorted."""
         self.press(control)
         sorted_by = self._texts.shown(active_text_of(control))
         self._wait(f"{control} to say {sorted_by}",
                    lambda: self.find(control).description() in sorted_by)
 
     def lender(self, control: str, text: str) -> None:
-        """Double-clicks on a lender, replaces what the dialog holds and presses its OK button. A
-        bar in the text stands for a new line, made by Shift and the return key."""
+        """Double-clicks on a lender, replaces the text in the dialog and presses its OK button. A bar in
+        the text means a new line, typed as Shift+Return."""
         self._must_be_free()
         self._hands.double_click(*self.find(control).box().middle())
         box = self._wait("the dialog of the lender", self._dialog_now)
@@ -292,7 +292,7 @@ class Window:
         self._wait_gone(box)
 
     def menu(self, path: list[str]) -> None:
-        """Opens one menu after another and clicks on the last entry."""
+        """Opens the menus in turn and clicks on the last entry."""
         self._must_be_free()
         for entry in path:
             node = self.find(entry)
@@ -303,7 +303,7 @@ class Window:
             self._wait("the menu to close", lambda: not last.has(SHOWING))
 
     def date(self, control: str, day: str) -> None:
-        """Types a date given as year-month-day, in the order the locale shows it; leaves by Tab."""
+        """Types a date given as year-month-day, in the locale's order; leaves by Tab."""
         node = self.focus(control)
         self._hands.keys("ctrl+a")  # it may have been entered before
         self._hands.text(typed_date(self._locale, day))
@@ -311,8 +311,8 @@ class Window:
         self._wait(f"{control} to be left", lambda: not _has_focus(node))
 
     def dialog(self, seconds: float | None = None) -> str:
-        """Waits for a message box, closes it by its button's key and gives its text, in which places
-        are named from the session's folder on."""
+        """Waits for a message box, closes it by Return and returns its text, with paths relative to the
+        session's folder."""
         box = wait_for("a message box", self._dialog_now, seconds or self._seconds)
         wait_for("the message box to become active", lambda: box.has(ACTIVE), self._seconds)
         words = words_of(box)
@@ -321,7 +321,7 @@ class Window:
         return words.replace(f"{self.session.folder}/", "")
 
     def answer(self, wanted: str) -> str:
-        """Waits for a question, clicks on the button of that text, and gives the question's."""
+        """Waits for a question, clicks on the button with that text, and returns the question's text."""
         box = wait_for("a question", self._dialog_now, self._seconds)
         wait_for("the question to become active", lambda: box.has(ACTIVE), self._seconds)
         words = words_of(box)
@@ -335,18 +335,18 @@ class Window:
         return words
 
     def started(self) -> str:
-        """Which tool was started; waits until one was."""
+        """Waits until a tool was started, and returns which."""
         return self._wait("a tool to be started", self.session.started)
 
     def progress(self) -> str:
-        """Waits for a window that closes by itself, gives its text, and waits until it has."""
+        """Waits for a window that closes by itself, waits until it has closed, and returns its text."""
         box = wait_for("a window to open", self._dialog_now, self._seconds)
         words = words_of(box)
         self._wait_gone(box)
         return words
 
     def _wait_gone(self, box: Node) -> None:
-        """Waits until a dialog is gone, be it with the whole program."""
+        """Waits until a dialog is closed or the program has ended."""
         wait_for("the dialog to close",
                  lambda: self._process.poll() is not None or self._dialog_now() != box,
                  self._seconds)
@@ -354,7 +354,7 @@ class Window:
     # What the user reads
 
     def read(self, control: str) -> str:
-        """What the control shows: its text, the entry of a list, "yes" or "no" of a check box."""
+        """The value of the control: its text, the entry of a list, "yes" or "no" for a check box."""
         node = self.find(control)
         roles = kind_of(control)[0].roles
         if "check box" in roles:
@@ -364,7 +364,7 @@ class Window:
         return node.text() if "text" in roles else node.name()
 
     def _read_list(self, control: str, node: Node) -> str:
-        """What a list shows: its field's text, or the entry it goes by instead of its own name."""
+        """The value of a list: its field's text, or the entry that it reports instead of its name."""
         field = _field_of(node)
         if field is not node:
             return field.text()
@@ -372,7 +372,7 @@ class Window:
         return "" if name in self._texts.names(control) else name
 
     def describe(self, control: str) -> str:
-        """What a screen reader adds to the control's name."""
+        """The accessible description of the control."""
         return self.find(control).description()
 
     def expect(self, control: str, text: str) -> None:
@@ -393,11 +393,11 @@ class Window:
         return self._frame.name()
 
     def desktop_class(self) -> str:
-        """By what desktops tell which program's window it is."""
+        """The window class by which desktops identify the program."""
         return self._hands.class_in_hand()
 
     def tree(self) -> str:
-        """Every control with its role, name and place: for whoever looks for one in vain."""
+        """Every control with its role, name and position, to debug a failing search."""
         lines = []
         for node in self._frame.walk():
             try:
@@ -407,45 +407,45 @@ class Window:
         return "\n".join(lines)
 
     def screenshot(self, file: Path) -> None:
-        """A picture of the window with its frame, with the mouse out of the way."""
+        """Takes a screenshot of the window with its frame; moves the mouse away first."""
         file.parent.mkdir(parents=True, exist_ok=True)
         self._hands.rest()
         subprocess.run(["scrot", "--overwrite", "--focused", "--border", str(file)], check=True, timeout=60,
                        env=self.session.environment, stdin=subprocess.DEVNULL)
 
     def close(self) -> None:
-        """Closes the window as its frame's cross does. A question may follow."""
+        """Closes the window by Alt+F4. A question may follow."""
         self._hands.keys("alt+F4")
 
     def ended(self) -> None:
-        """Waits for the program to end well."""
+        """Waits for the program to end with exit code 0."""
         wait_for("the program to end", lambda: self._process.poll() is not None, self._seconds)
         if self._process.returncode != 0:
             raise Refused(f"the program ended with exit code {self._process.returncode}")
 
     def quit(self) -> None:
-        """Closes the window where nothing is to be asked, and waits for the program to end well."""
+        """Closes the window when no question is expected, and waits for exit code 0."""
         self.close()
         self.ended()
 
     def damage(self) -> None:
-        """Damages the store once the program has done all that it was told."""
+        """Damages the store after the program has processed all input."""
         self.title()
         self.session.damage()
 
     def components(self) -> list[str]:
-        """The language components in use, as the session tells them."""
+        """The loaded language components, as reported by the session."""
         return self.session.components(self._process.pid)
 
     def kill(self) -> None:
-        """Ends the program as a failure of power does."""
+        """Kills the program, like a power failure."""
         self._process.kill()
         self._process.wait()
 
     # Lists
 
     def _open_list(self, control: str) -> list[Node]:
-        """Clicks on the arrow at the right end of a list and gives the entries it then shows."""
+        """Clicks on the arrow at the right end of a list and returns the entries that it shows."""
         node = self.find(control)
         self._must_be_free()
         box = node.box()
@@ -481,7 +481,7 @@ def _is_shown(node: Node) -> bool:
 
 
 def _field_of(node: Node) -> Node:
-    """The entry field within a list that has one; otherwise the control itself."""
+    """The entry field inside an editable list; otherwise the control itself."""
     return next((child for child in node.children() if child.role() == "text"), node)
 
 
@@ -490,7 +490,7 @@ def _has_focus(node: Node) -> bool:
 
 
 def _open_items(node: Node) -> list[Node]:
-    """The entries of a list that is open; none while it is closed or marks no entry."""
+    """The entries of an open list; none while it is closed or has no current entry."""
     if not node.has(EXPANDED):
         return []
     return [item for part in node.children() if part.role() == "list" for item in part.children()]

@@ -1,4 +1,4 @@
-"""Tries every change of the rules on the tests; started by scripts/mutate."""
+"""Runs the tests with every change of the rules; started by scripts/mutate."""
 
 import collections
 import concurrent.futures
@@ -28,14 +28,14 @@ def all_changes(files, tree):
     constants = set().union(*(changes.constants_of(tree.source(file)) for file in SOURCES))
     found = [change for file in files
              for change in changes.changes_of(file, tree.source(file), constants)]
-    # Those of one body follow one another, so that a run finds its own by two comparisons.
+    # Changes of one body have consecutive numbers, so that a run finds its own by two comparisons.
     for number, change in enumerate(found, 1):
         change.number = number
     return found
 
 
 def verdicts(found, tree):
-    """What became of each change: killed, timeout, rejected (by the compiler) or survived."""
+    """The result of each change: killed, timeout, rejected (by the compiler) or survived."""
     rejected = tree.build_joined(found)
     for target in {SOURCES[change.file] for change in found}:
         tree.measure(target)
@@ -52,7 +52,7 @@ def verdicts(found, tree):
 
 
 def judge(found, result):
-    """Survivors that make no difference are named as such; what is wrong with their table."""
+    """Marks the survivors that are equivalent; returns the faults of their table."""
     faults = []
     for row in equivalent.CHANGES:
         file, line, what, _ = row[:4]

@@ -1,4 +1,4 @@
-"""The changes that are tried on a source: each constant, comparison, operator, rounding and step."""
+"""The mutations of a source: each constant, comparison, operator, rounding and step."""
 
 import dataclasses
 import re
@@ -13,8 +13,8 @@ TOKEN = re.compile(
     re.VERBOSE | re.MULTILINE | re.DOTALL,
 )
 
-# Signs with a blank on either side, as the house's format writes them between two operands; a sign
-# of a template or of a reference has none.
+# Operators with a space on both sides, as .clang-format writes them between two operands; a sign of a
+# template or of a reference has none.
 BETWEEN = {
     "<": ("<=", ">="), "<=": ("<", ">"), ">": (">=", "<="), ">=": (">", "<"),
     "==": ("!=",), "!=": ("==",), "&&": ("||",), "||": ("&&",),
@@ -40,14 +40,15 @@ ENUMERATORS = {
 CONDITION = re.compile(r"(?<=if \()(?P<all>[^\n]+)(?=\) \{$)"
                        r"|(?P<pick>(?:(?<=\()|(?<= = )|(?<=return ))[a-z]\w*)(?= \? )",
                        re.MULTILINE)
-# A whole step on a line: a call, an assignment to what is there already, a count, a throw.
+# A complete statement on one line: a call, an assignment to an existing variable, an increment or
+# decrement, a throw.
 STEP = re.compile(r"^ +(?P<step>(?:(?:\w+(?:\.|->|::))*\w+\([^\n]*\)|\*?[\w.>-]+ [-+|]?= [^\n]+"
                   r"|(?:\+\+|--)[\w.]+|throw [^\n]+);)(?: *//[^\n]*)?$", re.MULTILINE)
 
 
 @dataclasses.dataclass
 class Change:
-    """One change of a file. The body is the function's that it is in; None stands outside of all."""
+    """One change of a file. The body is that of the enclosing function; None outside functions."""
     file: str
     start: int
     end: int
@@ -71,7 +72,7 @@ def other_numbers(text):
     digits = re.match(r"(0x[0-9A-Fa-f']+|[\d'.]+(?:e-?\d+)?)(.*)", text)
     plain, suffix = digits.group(1).replace("'", ""), digits.group(2)
     if "." in plain or "e" in plain and not plain.startswith("0x"):
-        if float(plain) > 1e15:  # one more would be the same number
+        if float(plain) > 1e15:  # adding one would not change the number
             return f"{float(plain) * 2!r}", f"{float(plain) / 2!r}"
         return (f"{float(plain) + 1!r}", f"{float(plain) - 1!r}") if float(plain) else ("1.0",)
     value = int(plain, 0)
@@ -79,7 +80,7 @@ def other_numbers(text):
 
 
 def regions(text, all_tokens):
-    """The bodies of functions, and the enumerations, whose numbers are but names."""
+    """The bodies of functions, and the enumerations, whose numbers are only identifiers."""
     bodies, enumerations = [], []
     stack, statement, parentheses = [], [], 0
     for kind, token, start in all_tokens:
@@ -114,7 +115,7 @@ def regions(text, all_tokens):
 
 
 def replacements(text, all_tokens):
-    """Start, end and new text of whatever a single token can become."""
+    """Start, end and new text of each change of a single token."""
     for at, (kind, token, start) in enumerate(all_tokens):
         end = start + len(token)
         blank_before, blank_after = text[start - 1].isspace(), text[end:end + 1].isspace()
@@ -141,12 +142,12 @@ def replacements(text, all_tokens):
 
 
 def constants_of(text):
-    """The constants of classes: their users are changed, one after the other, instead of them."""
+    """The constants of classes: their uses are changed instead, one after the other."""
     return set(re.findall(r"^ +static constexpr [\w:]+ (\w+) = ", text, re.MULTILINE))
 
 
 def changes_of(file, text, constants=()):
-    """Every change of a source, those of one function body together."""
+    """Every change of a source, grouped by function body."""
     all_tokens = tokens(text)
     bodies, enumerations = regions(text, all_tokens)
     found = [(start, end, new) for start, end, new in replacements(text, all_tokens)]
@@ -155,7 +156,7 @@ def changes_of(file, text, constants=()):
     code = {start: before for (_, _, start), (_, before, _) in
             zip(all_tokens, [(None, ";", None)] + all_tokens)}
     for match in CONDITION.finditer(text):
-        # A single comparison or negation is turned round by its own sign.
+        # A single comparison or negation is covered by the change of its operator.
         single = not re.search("&&|[|][|]", match.group())
         if match.start() in code and not (single and re.search("[<>=!]=| [<>] |^!", match.group())):
             found.append((match.start(), match.end(), f"!({match.group()})"))
@@ -169,7 +170,7 @@ def changes_of(file, text, constants=()):
         if body is None and text[start:end] == "0" and "virtual" in text[text.rfind("\n", 0, start):start]:
             continue  # a function without a body
         line = text[text.rfind("\n", 0, start) + 1:text.find("\n", start)].strip()
-        # Outside of functions: an operator between constants, a number of types, a class's constant.
+        # Outside functions: an operator between constants, a template argument, a class's constant.
         by_the_compiler = not text[start].isalnum() or text[end] == ">" or "static constexpr" in line
         if body is None and by_the_compiler or any(span[0] <= start < span[1] for span in enumerations):
             continue

@@ -1,6 +1,6 @@
-"""Changes that make no difference, each with the reason. A row names the file, the line's text, the
-change, why no test can notice it, and how many such changes of the line there are, if several. A row
-that a test does notice, or that names no change any more, is a fault."""
+"""Equivalent changes, each with the reason. A row has the file, the line's text, the change, why no test
+can detect it, and the number of such changes in the line, if several. A row that a test detects, or that
+matches no change any more, is a fault."""
 
 OVERWRITTEN = "The built-in function stores its result there, whether it overflows or not."
 NO_ZERO = "A balance of zero never comes here: a schedule has no period then, and ends with it."
@@ -19,7 +19,7 @@ CHANGES = [
      "0 -> 1", "Twice the rest less a hundred is even: above 0 it is above 1."),
     ("calc/Money.cpp", STEP, "< -> <=", "Whole cents take no step."),
     ("calc/Money.cpp", STEP, "0 -> 1", "Whole cents take no step."),
-    ("calc/Date.cpp", RANGE, "1 -> 0", NO_DAY, 2),  # of the month and of the day
+    ("calc/Date.cpp", RANGE, "1 -> 0", NO_DAY, 2),  # for the month and for the day
     ("calc/Date.cpp", RANGE, "12 -> 13", NO_DAY),
     ("calc/Date.cpp", RANGE, "31 -> 32", NO_DAY),
     ("calc/Date.cpp", "int sum = 0;", "0 -> 1", OVERWRITTEN),

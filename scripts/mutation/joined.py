@@ -1,11 +1,11 @@
-"""One source with all its changes in it: the environment variable QUEND_MUTANT chooses one.
+"""One source that contains all its changes: the environment variable QUEND_MUTANT selects one.
 
-A function's body is repeated once for each change in it; a value outside of functions is picked when
-it is made. So the tests are compiled once, not once for each change."""
+A function's body is repeated once per change; a value outside functions is selected at initialisation. So
+the tests are compiled once, not once per change."""
 
 import bisect
 
-# Included before everything else. What the compiler computes itself is left as it is.
+# Included before everything else. Constant expressions are not changed.
 CHOICE = """\
 #pragma once
 #include <cstdlib>
@@ -18,7 +18,7 @@ constexpr int Mutant() { return __builtin_is_constant_evaluated() ? 0 : ChosenMu
 
 
 class Joined:
-    """The text, and whose change each of its lines is."""
+    """The text, and which change each line belongs to."""
 
     def __init__(self, text, changes):
         self._starts, self._owners = [], []
@@ -42,7 +42,7 @@ class Joined:
         return "".join(self._text)
 
     def owner(self, line):
-        """The change that this line is for, or None."""
+        """The change that this line belongs to, or None."""
         return self._owners[bisect.bisect_right(self._starts, line) - 1]
 
     def _write(self, text, owner=None):
@@ -61,7 +61,7 @@ class Joined:
         self._write("}\n")
 
     def _write_value(self, value, owners):
-        # The compiler would make a value of its own for what lives as long as the program.
+        # The compiler would evaluate objects with static lifetime at compile time.
         choice = "ChosenMutant()" if self._undo_constexpr() else "Mutant()"
         text = value
         for change in owners:
@@ -70,8 +70,7 @@ class Joined:
         self._write(text + "\n", owners[0])
 
     def _undo_constexpr(self):
-        """The declaration just being written gets its value at run time. False for one that does so
-        anyway."""
+        """Makes the current declaration initialise at run time. False if it does so anyway."""
         undone = "const /* at run time */ "
         for at in range(len(self._text) - 1, -1, -1):
             part = self._text[at]

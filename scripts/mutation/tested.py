@@ -1,4 +1,4 @@
-"""A copy of the tree with changed sources in it, and the runs of its tests."""
+"""A copy of the tree with changed sources, and the runs of its tests."""
 
 import os
 import pathlib
@@ -15,7 +15,7 @@ WORK = ROOT / "build/mutation"
 COPY, BUILD = WORK / "tree", WORK / "build"
 CHOICE_FILE = WORK / "Mutant.h"
 
-# The quick tests first: they notice most.
+# Quick tests first: they detect most changes.
 ORDER = ("-HostileLoans.*:*Properties.*", "HostileLoans.*:*Properties.*")
 MEMORY = 4 << 30
 
@@ -31,12 +31,12 @@ class Tree:
                 (COPY / name).parent.mkdir(parents=True, exist_ok=True)
                 shutil.copy2(source, COPY / name)
         CHOICE_FILE.write_text(CHOICE)
-        self._sources = {}  # as they are before any change, whatever happens to the tree meanwhile
+        self._sources = {}  # the original text, even if the tree changes meanwhile
         self._seconds = {}
         self._joined = {}
         environment = dict(os.environ)
-        environment.pop("CMAKE_CXX_COMPILER_LAUNCHER", None)  # nothing here is compiled twice
-        # Warnings say nothing of a changed source.
+        environment.pop("CMAKE_CXX_COMPILER_LAUNCHER", None)  # nothing is compiled twice here
+        # Warnings about a changed source are irrelevant.
         subprocess.run(
             ["cmake", "-S", COPY, "-B", BUILD, "-G", "Ninja", "-DCMAKE_CXX_COMPILER=clang++",
              f"-DCMAKE_CXX_FLAGS=-O1 -w -ferror-limit=0 -include {CHOICE_FILE}",
@@ -50,10 +50,10 @@ class Tree:
         return self._sources[file]
 
     def build_joined(self, changes):
-        """Builds the tests with all changes in them. Gives back those that do not compile."""
+        """Builds the tests with all changes. Returns the changes that do not compile."""
         floors = ["calc"] if all(change.file.startswith("calc/") for change in changes) \
             else ["calc", "worksheet_model"]
-        # The floors first: they find nearly all of those, and are compiled sooner.
+        # The layers first: they reveal nearly all of those, and compile sooner.
         stages = [[floor] for floor in floors] + [[f"{floor}_tests" for floor in floors]]
         rejected = []
         for _ in range(12):
@@ -71,7 +71,7 @@ class Tree:
         raise SystemExit("The changed sources still cannot be built.")
 
     def measure(self, target):
-        """The tests without a change: they must pass, and show how long a run may take."""
+        """Runs the tests without a change: they must pass, and their time sets the timeout."""
         before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
         if self._run(target, 0, 1200) != "survived":
             raise SystemExit(f"{target} fails without any change.")
@@ -100,15 +100,15 @@ class Tree:
 
     @staticmethod
     def _build(*targets):
-        """None, or what the compiler said."""
+        """None, or the compiler's output."""
         built = subprocess.run(["ninja", "-C", BUILD, "-j2", "-k0", *targets], capture_output=True,
                                text=True, check=False)
         return None if built.returncode == 0 else built.stdout + built.stderr
 
     @staticmethod
     def _run(target, number, seconds):
-        """Runs to the first failure. The time counts what the processor spends, so that a busy
-        machine makes no difference."""
+        """Runs until the first failure. The limit is CPU time, so that load on the machine does not
+        matter."""
         def limit():
             resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds))
             resource.setrlimit(resource.RLIMIT_AS, (MEMORY, MEMORY))

@@ -14,7 +14,7 @@ bool IsDigit(QChar character) { return character >= u'0' && character <= u'9'; }
 } // namespace
 
 CountSpin::CountSpin(QWidget* parent) : QAbstractSpinBox(parent) {
-    setFocusPolicy(Qt::StrongFocus); // not by the wheel
+    setFocusPolicy(Qt::StrongFocus); // but not by the mouse wheel
     setAlignment(Qt::AlignRight | Qt::AlignTrailing | Qt::AlignVCenter);
     setInputMethodHints(Qt::ImhDigitsOnly);
     connect(lineEdit(), &QLineEdit::textChanged, this, &CountSpin::OnTextChanged);
@@ -36,7 +36,8 @@ std::optional<int> CountSpin::Number() const {
                                                                   : std::nullopt;
 }
 
-/// Where the buttons start from: too many digits are more than the most, none are nothing.
+/// The starting value of the buttons: the maximum when there are too many digits, 0 when there are
+/// none.
 int CountSpin::NearestNumber() const {
     bool isNumber = false;
     const int number = text().toInt(&isNumber);
@@ -62,7 +63,7 @@ QValidator::State CountSpin::validate(QString& text, int& /*caret*/) const {
     return std::ranges::all_of(text, IsDigit) ? QValidator::Acceptable : QValidator::Invalid;
 }
 
-/// Other characters are dropped before they replace what is selected.
+/// Drops other characters before they replace the selection.
 void CountSpin::keyPressEvent(QKeyEvent* event) {
     const QString typed = event->text();
     const bool isShortcut =
@@ -73,7 +74,7 @@ void CountSpin::keyPressEvent(QKeyEvent* event) {
     QAbstractSpinBox::keyPressEvent(event);
 }
 
-/// The wheel must not change a number that the user is not looking at.
+/// The wheel must not change a number that does not have the focus.
 void CountSpin::wheelEvent(QWheelEvent* event) {
     if (hasFocus()) {
         QAbstractSpinBox::wheelEvent(event);
@@ -82,7 +83,7 @@ void CountSpin::wheelEvent(QWheelEvent* event) {
     }
 }
 
-/// The base leaves room for no number, because it does not know what will stand here.
+/// The base class reserves no width for the number, because it does not know the range.
 QSize CountSpin::sizeHint() const {
     const int number = fontMetrics().horizontalAdvance(QString::number(m_maximum) + u'0');
     return QAbstractSpinBox::sizeHint() + QSize(number, 0);
@@ -91,7 +92,7 @@ QSize CountSpin::sizeHint() const {
 QSize CountSpin::minimumSizeHint() const { return sizeHint(); }
 
 void CountSpin::OnTextChanged() {
-    update(); // of the buttons, which may have come to an end
+    update(); // a button may have reached its limit and be disabled
     QAccessibleValueChangeEvent changed(this, ValueOrZero());
     QAccessible::updateAccessibility(&changed);
 }

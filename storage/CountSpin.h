@@ -4,12 +4,12 @@
 
 #include <optional>
 
-/// A number of things that is typed or counted up and down with the spin buttons. Takes digits
-/// alone, typed or pasted, and leaves them as they are: a number out of range can stand in it, and
-/// is judged by whoever asks. The buttons stay within the range.
+/// A spin box for a count. Accepts only digits, typed or pasted, and does not correct them: the
+/// field can hold a number out of range, which the caller checks. The buttons stay within the
+/// range.
 class CountSpin : public QAbstractSpinBox {
     Q_OBJECT
-    // What screen readers ask a spin box for.
+    // Screen readers query these properties of a spin box.
     Q_PROPERTY(int value READ ValueOrZero WRITE SetNumber)
     Q_PROPERTY(int minimum READ Minimum)
     Q_PROPERTY(int maximum READ Maximum)
@@ -22,10 +22,9 @@ public:
     int Maximum() const { return m_maximum; }
 
     void SetNumber(int number);
-    /// The number in the field; none when the field is empty, or when the number is out of range.
+    /// The number in the field; no value when the field is empty or the number is out of range.
     std::optional<int> Number() const;
 
-    /// The field itself.
     QLineEdit& Edit() const { return *lineEdit(); }
 
     QSize sizeHint() const override;

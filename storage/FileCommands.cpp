@@ -15,7 +15,7 @@
 
 namespace {
 
-/// The question about a loan by its name: what to do, the name, the end.
+/// The question about a loan: the text before the name, the name, the text after it.
 QString WithName(int question, const QString& name) {
     return GetResourceText(question) + name + GetResourceText(TextNumber::NameEnd);
 }
@@ -49,13 +49,13 @@ FileCommands::FileCommands(Loan& window, LoanStore store)
     });
 }
 
-/// The name typed is the one that is asked about and saved under, whatever is picked then.
+/// The question and the save use the name typed, even if another is selected afterwards.
 void FileCommands::cboLoanName_DropDown() {
     m_window->Commit();
     RefreshLoanList();
 }
 
-/// What is typed in the box stays.
+/// Keeps the text typed in the box.
 void FileCommands::RefreshLoanList() {
     const QString typed = m_cboLoanName->currentText();
     m_cboLoanName->clear();
@@ -98,7 +98,8 @@ bool FileCommands::MayDrop() {
     }
 }
 
-/// On the way to something else: a worksheet without a name stays, and its name is asked for.
+/// Saves before another action: if the worksheet has no name it is kept, and the user is asked for
+/// a name.
 bool FileCommands::SaveOrMark() {
     if (!Worksheet::IsEmptyName(m_worksheet->LoanName())) {
         return SaveLoan();
@@ -151,8 +152,8 @@ bool FileCommands::SaveLoan() {
     return true;
 }
 
-/// A name that no worksheet has any more is only set. While the store cannot be read, that is not
-/// known, and everything stays.
+/// If no worksheet has the name any more, only the name is set. If the store cannot be read, that
+/// is unknown and nothing changes.
 void FileCommands::LoadLoan(const QString& name) {
     CMouse mouse;
     mouse.SetPointer(MousePointer::Hourglass);
@@ -196,7 +197,7 @@ void FileCommands::mnuFileDelete_Click() {
     m_window->Reenter();
 }
 
-/// False when the worksheet is still kept.
+/// False when the worksheet still exists.
 bool FileCommands::DeleteLoan() {
     if (Worksheet::IsEmptyName(m_worksheet->LoanName())) {
         Tell(GetResourceText(TextNumber::NoNameToDelete));

@@ -8,17 +8,17 @@
 class Loan;
 class LoanNameBox;
 
-/// The File menu's New, Save and Delete, and the box of the loan's name: worksheets are picked,
-/// kept, deleted and started anew, and nothing unsaved goes without a question.
+/// The File menu's New, Save and Delete, and the loan name box: selects, saves, deletes and clears
+/// worksheets. Asks before unsaved changes are dropped.
 class FileCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// The window outlives the commands. Enables the entries.
+    /// The window must outlive the commands. Enables the menu entries.
     FileCommands(Loan& window, LoanStore store);
 
-    /// Asks about unsaved changes and saves them if wanted. False when everything is to stay as it
-    /// is: the user wants it so, or the worksheet could not be saved.
+    /// Asks about unsaved changes and saves them on request. False when the worksheet must stay:
+    /// the user cancelled, or it could not be saved.
     bool MayDrop();
 
 private:

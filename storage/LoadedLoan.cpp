@@ -54,7 +54,7 @@ void LoadedLoan::CheckCount() {
 
 std::vector<Failure> LoadedLoan::Put(Worksheet& worksheet, const QString& name,
                                      const std::function<void(Row)>& growTo) {
-    // An offer of before must not be calculated with an amount of now.
+    // An old offer must not be calculated with a new amount.
     worksheet.Clear();
     worksheet.SetLoanName(name);
     const StoredTexts texts(m_formats, m_dateFormat);
@@ -62,8 +62,8 @@ std::vector<Failure> LoadedLoan::Put(Worksheet& worksheet, const QString& name,
     for (std::size_t i = 0; i < values.size(); ++i) {
         const bool isPayment = values[i]->name == std::string_view(CurrentPaymentName);
         if (isPayment) {
-            // What it is computed from has come; what is missing of that is marked. The payment
-            // itself stays the one that was kept until something of it is entered anew.
+            // Its inputs are loaded by now, and missing ones get marked. The payment itself keeps
+            // the saved value until one of its inputs is entered again.
             Try(CurrentPaymentName, [&] { worksheet.RecalculateCurrentPayment(); });
         }
         const bool isMissing = m_loan.at(i) == values[i]->Missing();
@@ -82,7 +82,7 @@ std::vector<Failure> LoadedLoan::Put(Worksheet& worksheet, const QString& name,
     return m_failures;
 }
 
-/// They come back packed into the first rows.
+/// The offers fill the first rows without gaps.
 void LoadedLoan::PutOffers(Worksheet& worksheet) {
     const StoredTexts texts(m_formats, m_dateFormat);
     const auto values = InOrderOfReading(KeptOfferValues());

@@ -12,43 +12,43 @@
 #include <string>
 #include <vector>
 
-/// The most offers that are ever kept; a count beyond it is damage.
+/// The largest number of offers that is ever saved; a larger count is damage.
 inline constexpr std::int32_t MostOffers = 16;
 
 inline constexpr const char* LoanCountName = "LoanCount";
-/// The one value that is both kept and computed.
+/// The only value that is both saved and calculated.
 inline constexpr const char* CurrentPaymentName = "CurrentPayment";
-/// The form in which the worksheet's date was written. Not a property: it only tells how to read.
+/// The format of the worksheet's date. Not a property: only needed for reading.
 inline constexpr const char* DateFormatName = "DateFormat";
-/// Set by a repair that could not find all values of the worksheet. No property either.
+/// Set by a recovery that could not find all values of the worksheet. Not a property.
 inline constexpr const char* IncompleteName = "Incomplete";
 
-/// What the names of an offer's values begin with: "Loan 3". Offers are numbered from 1.
+/// The prefix of the names of an offer's values, such as "Loan 3". Offers are numbered from 1.
 std::string OfferPrefix(int number);
 
-/// A kept worksheet on its way from the store: first read whole, then put into a worksheet value by
-/// value, so that the store is not held while anything is calculated.
+/// Loads a saved worksheet in two phases: reads all values, then assigns them to a worksheet one by
+/// one. This way the store is not held open during calculation.
 class LoadedLoan {
 public:
     explicit LoadedLoan(DisplayFormats formats) : m_formats(std::move(formats)) {}
 
     void Read(const RegistryAPI& store, const std::string& key);
 
-    /// Replaces what the worksheet holds, and clears Dirty. Gives the failures of the values that
-    /// could not be put, their sources the values' names.
+    /// Replaces the contents of the worksheet and clears Dirty. Returns the failures of values that
+    /// could not be assigned; their sources are the names of the values.
     std::vector<Failure> Put(Worksheet& worksheet, const QString& name,
                              const std::function<void(Row)>& growTo);
 
 private:
     using Values = std::vector<RegistryValue>;
-    /// Runs a step; a failure is kept under the name of the value.
+    /// Runs a step; records a failure under the name of the value.
     template <class Step>
     void Try(const std::string& value, Step step);
     void CheckCount();
     void PutOffers(Worksheet& worksheet);
 
     DisplayFormats m_formats;
-    Values m_loan; // in the order of reading, as below
+    Values m_loan; // in reading order, as is m_offers
     std::vector<Values> m_offers;
     std::int32_t m_count = 0;
     std::string m_dateFormat;

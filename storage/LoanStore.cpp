@@ -13,14 +13,14 @@
 
 namespace {
 
-/// No value for a name that no worksheet can have: it would lead to another key than was meant.
+/// No value for an invalid name: it would address a different key.
 std::optional<std::string> KeyOf(const QString& name) {
     return LoanStore::CanBeKept(name)
                ? std::optional(std::string(BaseKey) + '\\' + name.toStdString())
                : std::nullopt;
 }
 
-/// As a user counts: a letter with its accents is one.
+/// Counts as users do: a letter with its accents is one character.
 qsizetype CharactersOf(const QString& text) {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
     qsizetype count = 0;
@@ -88,7 +88,7 @@ QStringList LoanStore::Names() const {
     for (const std::string& key : keys) {
         names.append(QString::fromStdString(key));
     }
-    // What stands for "none" are more blanks than any name holds.
+    // The placeholder for "none" has more blanks than any name can have.
     constexpr qsizetype none = 260;
     if (names.size() == 1 && names.front() == QString(none, u' ')) {
         names.clear();
@@ -107,7 +107,7 @@ void LoanStore::Save(Worksheet& worksheet) const {
         throw StoreFailure(StoreTrouble::Unknown);
     }
     m_store.InOneStep([&](const RegistryAPI& store) {
-        // The whole key first, so that no offer of an earlier, longer save survives.
+        // Delete the whole key first, so that no offer of an earlier, longer save remains.
         store.DeleteKey(StoreRoot, *key);
         store.CreateKey(StoreRoot, *key);
         Write(store, *key, worksheet);
@@ -134,7 +134,7 @@ LoadOutcome LoanStore::Load(Worksheet& worksheet, const QString& name,
     return outcome;
 }
 
-/// What cannot be read looks as if it were gone: only a step that was kept says that it is.
+/// A store that cannot be read looks empty, so only a committed transaction proves the deletion.
 void LoanStore::Delete(const QString& name) const {
     const auto key = KeyOf(name);
     if (!key) {

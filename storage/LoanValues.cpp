@@ -16,7 +16,7 @@ QString TextOf(const RegistryValue& value) {
     return QString::fromStdString(std::get<std::string>(value));
 }
 
-// What a property looks like as a text, and back. Each kind of value has both.
+// Converters between a property and its text; each kind of value has both directions.
 
 struct PlainText {
     static std::string Write(const QString& text, const StoredTexts&) { return text.toStdString(); }
@@ -48,7 +48,7 @@ struct Real {
     }
 };
 
-/// A fraction, kept in percent.
+/// A fraction, saved in percent.
 struct Percent {
     static constexpr double Whole = 100;
     static std::string Write(double fraction, const StoredTexts& texts) {
@@ -66,7 +66,7 @@ struct Day {
     }
 };
 
-/// The text of a loan type in the language of the moment; read back whatever the language was.
+/// A loan type, written as text in the current language; accepted in any language.
 struct LoanTypeText {
     static std::string Write(const QString& code, const StoredTexts&) {
         return LoanTypeCodeToText(code).toStdString();
@@ -77,7 +77,7 @@ struct LoanTypeText {
     }
 };
 
-/// The code of a frequency. One that no frequency has would silently make the results empty.
+/// A frequency code. An unknown code is rejected, because it would silently empty the results.
 struct FrequencyCode {
     static std::string Write(const QString& code, const StoredTexts&) { return code.toStdString(); }
     static QString Read(const QString& code, const StoredTexts&) {
@@ -87,7 +87,7 @@ struct FrequencyCode {
     }
 };
 
-/// The same for a property that speaks in the frequency's display text.
+/// The same for a property that holds the display text of the frequency.
 struct FrequencyShown {
     static std::string Write(const QString& text, const StoredTexts&) {
         return FrequencyTextToCode(text).toStdString();

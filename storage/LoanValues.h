@@ -10,14 +10,14 @@
 #include <string>
 #include <vector>
 
-/// One value of a kept worksheet: its name, and the way between it and the property that it keeps.
-/// Reading throws Failure for a value that cannot be one.
+/// One value of a saved worksheet: its name, and the conversion from and to its property. Reading
+/// throws Failure for an invalid value.
 template <class Owner>
 struct KeptValue {
     const char* name = "";
     std::int16_t type = RegistryType::Text;
-    const char* missing = ""; ///< the text that stands for a missing one; a missing number is 0
-    int readPlace = 0;        ///< its place in the order of reading, from 1; 0: not read back
+    const char* missing = ""; ///< the text used when the value is missing; a missing number is 0
+    int readPlace = 0;        ///< its position in the reading order, from 1; 0: not read back
     RegistryValue (*write)(const Owner&, const StoredTexts&) = nullptr;
     void (*read)(Owner&, const RegistryValue&, const StoredTexts&) = nullptr;
 
@@ -27,12 +27,12 @@ struct KeptValue {
     }
 };
 
-/// The values of the loan and of one offer, in the order of writing. The names of an offer's values
-/// stand behind the prefix of the offer and begin with a blank of their own.
+/// The values of the loan and of one offer, in writing order. The names of an offer's values follow
+/// the offer's prefix and include the blank after it.
 std::span<const KeptValue<Worksheet>> KeptLoanValues();
 std::span<const KeptValue<CLoan>> KeptOfferValues();
 
-/// Those that are read back, in the order of reading.
+/// The values that are read back, in reading order.
 template <class Owner>
 std::vector<const KeptValue<Owner>*> InOrderOfReading(std::span<const KeptValue<Owner>> values) {
     std::vector<const KeptValue<Owner>*> ordered;

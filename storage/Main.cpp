@@ -1,4 +1,4 @@
-// The composition root: makes everything, wires it, starts it.
+// The composition root: creates, connects and starts all objects.
 
 #include "AboutCommands.h"
 #include "CalendarDate.h"
@@ -40,7 +40,7 @@ namespace {
 
 Date Today() { return FromCalendar(QDate::currentDate()); }
 
-/// As it stands in the name of a damaged file.
+/// The form used in the name of a damaged file.
 std::string TodayInWords() { return QDate::currentDate().toString(Qt::ISODate).toStdString(); }
 
 void SetUpLanguage() {
@@ -48,13 +48,13 @@ void SetUpLanguage() {
     Language::Instance().SetUp(program.absolutePath(), program.completeBaseName());
 }
 
-/// A text about the store itself, before the store has told the language.
+/// A text about the store itself, before the language has been read from the store.
 QString StoreText(int number) {
     Language::Instance().DetectLanguage(UserDefaultLanguageIdentifier());
     return GetResourceText(number).arg(QString::fromStdString(RegistryAPI::UserStore().string()));
 }
 
-/// What keeps the program from starting, in words; nothing when it can start.
+/// The message that explains why the program cannot start; no value when it can.
 std::optional<QString> Obstacle(const RegistryAPI& store, const StoreCondition& condition) {
     if (condition.state == StoreCondition::State::Newer) {
         return StoreText(TextNumber::StoreNewer);
@@ -99,7 +99,7 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
         }
         SaveSettings(store, window.GetSettings());
         KeepPlace(window, UserPlace());
-        window.GetMessages().ShowRest(); // with the window gone, nobody would wait for an answer
+        window.GetMessages().ShowRest(); // nobody answers after the window has closed
         return true;
     });
     FitToScreen(window);
@@ -109,7 +109,7 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
     return QApplication::exec();
 }
 
-/// Looks at the store while the toolkit gets ready.
+/// Checks the store while Qt initializes.
 std::future<StoreCondition> BeginLook(const std::filesystem::path& place) {
     return std::async(
         [place, today = TodayInWords()] { return PrepareStore(place, today, NamedLoans()); });

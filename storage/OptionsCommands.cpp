@@ -18,8 +18,8 @@ OptionsCommands::OptionsCommands(Loan& window, RegistryAPI store, PictureChooser
             [this] { m_window->Report().Guard([this] { mnuToolsOptions_Click(); }); });
 }
 
-/// Does nothing where the field being edited cannot be stored: its new text would be lost when the
-/// fields are written anew.
+/// Does nothing when the field being edited cannot be stored: its new text would be lost when the
+/// fields are refreshed.
 void OptionsCommands::mnuToolsOptions_Click() {
     if (!m_window->Commit()) {
         return;
@@ -27,11 +27,11 @@ void OptionsCommands::mnuToolsOptions_Click() {
     if (const std::optional<Settings> chosen = AskUser()) {
         m_window->ApplySettings(*chosen);
     }
-    // Afterwards: a picture that cannot be loaded is not to trouble the next start.
+    // Save after applying: a picture that cannot be loaded must not be saved for the next start.
     SaveSettings(m_store, m_window->GetSettings());
 }
 
-/// Nothing when the user gave up.
+/// No value when the user cancelled.
 std::optional<Settings> OptionsCommands::AskUser() {
     frmOptions dialog(m_window->GetSettings(), m_window->GetMessages(), *m_pictures, m_window);
     return dialog.exec() == QDialog::Accepted ? std::optional(dialog.Chosen()) : std::nullopt;

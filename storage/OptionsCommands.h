@@ -10,13 +10,13 @@
 class Loan;
 class PictureChooser;
 
-/// The Options entry of the Tools menu: runs the dialog, keeps the settings, and hands them to the
+/// The Options entry of the Tools menu: runs the dialog, saves the settings and passes them to the
 /// main window.
 class OptionsCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// Window and pictures outlive the commands. Enables the entry.
+    /// Window and pictures must outlive the commands. Enables the menu entry.
     OptionsCommands(Loan& window, RegistryAPI store, PictureChooser& pictures);
 
 private:

@@ -4,16 +4,16 @@
 
 class QWidget;
 
-/// Where looking for a picture starts. Neither the file nor the folder need exist.
+/// Where the search for a picture starts. The file and the folder need not exist.
 struct PictureRequest {
     QString file;
     QString folder;
 };
 
-/// Lets the user look for a picture file.
+/// Lets the user select a picture file.
 class PictureChooser {
 public:
     virtual ~PictureChooser() = default;
-    /// The full path of an existing file; empty when the user gave up.
+    /// The full path of an existing file; empty when the user cancelled.
     virtual QString Choose(QWidget& parent, const PictureRequest& request) = 0;
 };

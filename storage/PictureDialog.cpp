@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The folder asked for; where that is not there, the user's pictures or home.
+/// The requested folder; if it does not exist, the user's pictures folder or home.
 QString ExistingFolder(const QString& folder) {
     for (const QString& candidate :
          {folder, QStandardPaths::writableLocation(QStandardPaths::PicturesLocation)}) {

@@ -4,11 +4,11 @@
 
 #include <QStringList>
 
-/// The toolkit's dialog for opening a file, or the desktop's own where there is one.
+/// Qt's dialog for opening a file, or the native one of the desktop where available.
 class PictureDialog : public PictureChooser {
 public:
     QString Choose(QWidget& parent, const PictureRequest& request) override;
 
-    /// The kinds of files offered, bitmaps first.
+    /// The file name filters, bitmaps first.
     static QStringList Filters();
 };

@@ -11,11 +11,12 @@
 
 namespace {
 
-/// No sample on any screen is finer than this.
+/// No preview on any screen is larger than this, in pixels.
 constexpr QSize FinestSample(1600, 1200);
 
-/// As many as the toolkit's limit of memory lets a whole picture have. A format that can be read at
-/// the size of the sample would pass that limit, though the window could not show the picture.
+/// The number of pixels that fit into Qt's memory limit for one image. A format that can be read at
+/// the size of the preview would bypass that limit, though the window could not display the
+/// picture.
 constexpr qint64 MostPixels = qint64{128} * 1024 * 1024 / 4;
 
 QSize ShrunkInto(const QSize& box, const QSize& size) {
@@ -24,7 +25,7 @@ QSize ShrunkInto(const QSize& box, const QSize& size) {
 }
 
 struct Sample {
-    QImage picture; ///< null when the file cannot be shown
+    QImage picture; ///< null when the file cannot be displayed
     QSize ownSize;
 };
 
@@ -55,7 +56,7 @@ PicturePreview::PicturePreview(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     setMargin(4);
-    // Its size decides about the picture, never the picture about its size.
+    // The widget's size determines the picture's size, never the other way round.
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -79,7 +80,7 @@ void PicturePreview::ShowFile(const QString& path) {
     setAccessibleDescription(text() + m_note);
 }
 
-/// The note stands on the colour of a window, so that it can be read over any picture.
+/// Draw the note on the window colour, so that it is readable over any picture.
 void PicturePreview::paintEvent(QPaintEvent* event) {
     QLabel::paintEvent(event);
     if (!m_note.isEmpty()) {

@@ -3,9 +3,9 @@
 #include <QImage>
 #include <QLabel>
 
-/// A sample of a picture file: the whole picture, in its proportions, never larger than it is. Says
-/// in words when there is none, when the file cannot be shown, or when it is cut off. A damaged or
-/// enormous file costs neither time nor memory.
+/// A preview of a picture file: the whole picture in its proportions, never enlarged. Shows a text
+/// when there is no picture, when the file cannot be displayed, or when the picture is cut off. A
+/// damaged or huge file costs neither time nor memory.
 class PicturePreview : public QLabel {
     Q_OBJECT
 
@@ -26,7 +26,7 @@ protected:
 private:
     void ShowPicture();
 
-    QImage m_picture; ///< no finer than any preview needs
+    QImage m_picture; ///< no larger than any preview needs
     QSize m_ownSize;
-    QString m_note; ///< what is to be said of a picture that is shown
+    QString m_note; ///< the message about a picture that is shown
 };

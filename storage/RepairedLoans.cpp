@@ -57,7 +57,7 @@ RepairedLoans FindIncomplete(const RegistryAPI& store) {
             }
         });
     } catch (const Failure&) { // NOLINT(bugprone-empty-catch)
-        // The names are told all the same.
+        // The names are reported anyway.
     }
     return found;
 }

@@ -4,13 +4,13 @@
 
 class RegistryAPI;
 
-/// The worksheets of a store that has been repaired.
+/// The worksheets of a store after recovery.
 struct RepairedLoans {
     int whole = 0;
-    QStringList incomplete; ///< their names: values are missing that every save writes
+    QStringList incomplete; ///< names of worksheets that lack values that every save writes
 };
 
-/// Looks at every worksheet, and marks those that lack a value, so that opening one says so. Its
-/// next save takes the mark away. Values that are there are not judged. A store that cannot be
-/// written to is left without marks.
+/// Checks every worksheet and marks those that lack a value, so that a message appears when one is
+/// opened. The next save of the worksheet removes the mark. The contents of values are not checked.
+/// A read-only store gets no marks.
 RepairedLoans FindIncomplete(const RegistryAPI& store);

@@ -15,12 +15,12 @@
 
 namespace {
 
-/// One value of the base key. Number 0 and the empty text stand for a value that is missing.
+/// One value of the base key. Number 0 and the empty text mean that the value is missing.
 struct StoredValue {
     const char* name;
     std::int16_t type;
     RegistryValue (*of)(const Settings& settings);
-    /// Null for what is read elsewhere. Throws a Failure for what cannot be.
+    /// Null for a value that is read elsewhere. Throws Failure for an invalid value.
     void (*take)(Settings& settings, const RegistryValue& value, const char* name);
 };
 
@@ -54,7 +54,7 @@ RegistryValue TextOf(const Settings& settings) {
     return (settings.*Member).toStdString();
 }
 
-/// A path that nobody can have typed is of another kind than text.
+/// A path with control characters or invalid UTF-8 counts as the wrong type.
 template <QString Settings::*Member>
 void TakeText(Settings& settings, const RegistryValue& value, const char* name) {
     const auto& bytes = std::get<std::string>(value);
@@ -69,7 +69,7 @@ void TakeText(Settings& settings, const RegistryValue& value, const char* name) 
     settings.*Member = text;
 }
 
-/// In the order in which they are written; they are read in the same order.
+/// In writing order; they are read in the same order.
 constexpr std::array StoredValues{
     StoredValue{"LoansDisplayed", RegistryType::Number, OffersOf, TakeOffers},
     StoredValue{"CurrentLanguage", RegistryType::Number, LanguageInUse, nullptr},
@@ -124,6 +124,6 @@ void SaveSettings(const RegistryAPI& store, const Settings& settings) {
             }
         });
     } catch (const Failure&) { // NOLINT(bugprone-empty-catch)
-        // Options that are not kept are set again; nobody is stopped on the way out for them.
+        // Settings that were not saved can be set again; they must not block closing the program.
     }
 }

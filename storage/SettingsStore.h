@@ -11,18 +11,18 @@ class RegistryAPI;
 inline constexpr int FewestOffersDisplayed = 1;
 inline constexpr int MostOffersDisplayed = 15;
 
-/// What the store holds, as far as it can be used.
+/// The contents of the store, as far as they are usable.
 struct StoredSettings {
     Settings settings;
-    std::vector<Failure> failures; ///< the source is the name of the value that was refused
+    std::vector<Failure> failures; ///< the source is the name of the rejected value
 };
 
-/// Reads the settings but the language, which is needed earlier. A value that is missing has its
-/// default, without a failure: 6 offers, terms in years, no picture, no folder. So has one that
-/// cannot be, with a failure: 6 for a number of offers out of range, 13 for a text that is none.
-/// Whether the picture exists is not looked at.
+/// Reads the settings except the language, which is needed earlier. A missing value gets its
+/// default without a failure: 6 offers, terms in years, no picture, no folder. An invalid value
+/// gets its default with a failure: number 6 for a number of offers out of range, 13 for an invalid
+/// text. Does not check whether the picture exists.
 StoredSettings LoadSettings(const RegistryAPI& store);
 
-/// Writes the settings and the language in use, all in one step. Texts that are empty are deleted.
-/// The key must exist. A store that cannot be written to keeps what it has; that is no failure.
+/// Writes the settings and the current language in one transaction. Empty texts are deleted. The
+/// key must exist. A read-only store stays unchanged; that is not a failure.
 void SaveSettings(const RegistryAPI& store, const Settings& settings);

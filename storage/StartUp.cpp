@@ -6,7 +6,7 @@
 
 namespace {
 
-/// 0 or less when none was ever set: below 0 stands for one that was only detected.
+/// 0 or less when none was ever set; below 0 means that the language was only detected.
 int ChosenLanguage(const RegistryAPI& store) {
     if (!store.KeyExists(StoreRoot, BaseKey)) {
         store.CreateKey(StoreRoot, BaseKey);

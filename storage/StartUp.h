@@ -6,7 +6,6 @@
 
 class RegistryAPI;
 
-/// Makes sure of the program's key in the store, and chooses the language: the one that the user
-/// has set, otherwise by the user's language identifier. Throws Failure 1001 when the key cannot be
-/// made.
+/// Creates the program's key in the store if missing, and selects the language: the user's setting,
+/// otherwise by the user's language identifier. Throws Failure 1001 when the key cannot be created.
 void PrepareKeyAndLanguage(const RegistryAPI& store, std::uint16_t languageIdentifier);

@@ -24,7 +24,7 @@ QString Names(const QStringList& names) {
 
 } // namespace
 
-/// The names are put in last: what stands in them is no place for anything.
+/// Insert the names last, because they may contain placeholders.
 QString RepairNotice(const RepairedLoans& loans, const std::filesystem::path& keptAs) {
     const QString whole = loans.whole == 1
                               ? GetResourceText(TextNumber::OneWholeLoan)

@@ -10,18 +10,18 @@
 class Messages;
 struct RepairedLoans;
 
-/// What the user is told of a repair: where the damaged file is, how many whole worksheets there
-/// are in the new one, and which are not whole (of many, the first ones and their number), in the
-/// language in use.
+/// The message about a recovery, in the current language: where the damaged file is, how many
+/// worksheets of the new store are complete, and which are not (if many: the first ones and their
+/// number).
 QString RepairNotice(const RepairedLoans& loans, const std::filesystem::path& keptAs);
 
-/// Why the store could not be used, in the language in use; empty where that is not known.
+/// Why the store could not be used, in the current language; empty when unknown.
 QString TroubleText(StoreTrouble trouble);
 
-/// A failure of the store as the user is told of it: the reason, then the failure.
+/// The message about a store failure: the reason, then the failure.
 QString StoreFailureText(const Failure& failure);
 
-/// The store at this place. A repair that a save makes is told once that save is over; `messages`
-/// outlives the store and its copies. `today` is as in RepairDoor.
+/// The store at this path. A recovery during a save is reported after that save; `messages` must
+/// outlive the store and its copies. `today` is as in RepairDoor.
 RegistryAPI StoreThatTells(const std::filesystem::path& place, Messages& messages,
                            std::function<std::string()> today);

@@ -32,7 +32,7 @@ std::string StoredTexts::Write(Date date) const {
 
 std::string StoredTexts::DateFormat() const { return m_formats.ShortDateFormat().toStdString(); }
 
-/// A second symbol is left standing: then it is no number.
+/// Leaves a second symbol in place, so that the text is not a valid number.
 QString StoredTexts::InOwnSymbol(const std::string& number) const {
     QString text = QString::fromStdString(number);
     for (QChar& c : text) {

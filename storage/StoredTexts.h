@@ -7,26 +7,25 @@
 #include <string>
 #include <utility>
 
-/// How numbers, dates and texts are written into a kept worksheet, and read back: plain numbers
-/// without grouping ("general number") in the user's decimal symbol, dates in the user's short
-/// form.
+/// Converts numbers, dates and texts to and from the form in which a worksheet is saved: plain
+/// numbers without grouping ("general number") with the user's decimal symbol, dates in the user's
+/// short format.
 ///
 /// A worksheet may come from another locale. A number never has more than one symbol between its
-/// digits, so whatever stands there is the decimal symbol of whoever wrote it. Dates cannot be told
-/// apart that way (3/1 and 1/3), so the form they were written in is kept beside them.
+/// digits, so that symbol is the decimal symbol of the locale that wrote it. Dates are ambiguous
+/// (3/1 and 1/3), so the date format is saved with them.
 ///
-/// Reading throws ConversionFailure for what is no number or date, OverflowFailure for what is out
+/// Reading throws ConversionFailure for an invalid number or date, OverflowFailure for a value out
 /// of range.
 class StoredTexts {
 public:
-    /// `dateFormat` is what DateFormat() was when the worksheet was written; empty when that is not
-    /// known.
+    /// `dateFormat` is what DateFormat() was when the worksheet was written; empty when unknown.
     explicit StoredTexts(DisplayFormats formats, const std::string& dateFormat = {})
         : m_formats(std::move(formats)), m_writtenDateFormat(QString::fromStdString(dateFormat)) {}
 
     std::string Write(Money amount) const;
     std::string Write(double number) const;
-    /// No date is the empty text.
+    /// An empty text means no date.
     std::string Write(Date date) const;
     std::string DateFormat() const;
 

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr qint64 LongestPlace = 1'000; // bytes; the toolkit writes 66
+constexpr qint64 LongestPlace = 1'000; // bytes; Qt writes 66
 
 QByteArray KeptPlace(const QString& name) {
     QFile file(name);
@@ -19,8 +19,8 @@ QByteArray KeptPlace(const QString& name) {
     return opened ? file.read(LongestPlace) : QByteArray();
 }
 
-/// A place that a window can have had. In wider numbers than the toolkit's, which a damaged file
-/// takes beyond their end.
+/// Whether a window can have this geometry. Uses wider integers than Qt, because a damaged file can
+/// overflow them.
 bool CanBe(const QRect& place, const QRect& screens) {
     const auto isLength = [](qint64 first, qint64 last, qint64 screen) {
         const qint64 length = last - first + 1;
@@ -41,15 +41,14 @@ void FitToScreen(QWidget& window) {
     const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
     const QSize most = window.screen()->availableGeometry().size() - QSize(0, title);
     QSize size = window.sizeHint();
-    if (size.height() > most.height()) { // scrolled, and the scroll bar takes room
+    if (size.height() > most.height()) { // it gets a scroll bar, which needs space
         size.rwidth() += window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     }
     window.resize(size.boundedTo(most));
 }
 
 void RestorePlace(QWidget& window, const QString& file) {
-    // The toolkit sees to it that the window lies on a screen that is still there, but for a place
-    // and a size that no window can have had.
+    // Qt moves the window onto an existing screen, except for an impossible position or size.
     window.restoreGeometry(KeptPlace(file));
     const QRect screens = window.screen()->virtualGeometry();
     if (!CanBe(window.geometry(), screens)) {

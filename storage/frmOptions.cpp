@@ -20,7 +20,7 @@ namespace {
 std::unique_ptr<Ui::frmOptions> FormOf(frmOptions& dialog) {
     auto form = std::make_unique<Ui::frmOptions>();
     form->setupUi(&dialog);
-    // Names that cannot stand in a form.
+    // Object names that are not possible in a form.
     form->udLoans->Edit().setObjectName(QStringLiteral("txtLoans"));
     form->udLoans->Edit().setProperty("accessibleText", TextNumber::OffersEdit);
     form->optTermMonths->setObjectName(QStringLiteral("optTerm(0)"));
@@ -28,7 +28,7 @@ std::unique_ptr<Ui::frmOptions> FormOf(frmOptions& dialog) {
     return form;
 }
 
-/// The folder of a file, its separator included.
+/// The folder of a file, including the separator.
 QString FolderOf(const QString& file) { return file.chopped(QFileInfo(file).fileName().size()); }
 
 } // namespace
@@ -41,7 +41,7 @@ frmOptions::frmOptions(Settings settings, Messages& messages, PictureChooser& pi
     Wire();
 }
 
-/// The focus still moves while the controls go, and they tell of it.
+/// Controls emit focus signals while they are destroyed; disconnect first.
 frmOptions::~frmOptions() {
     disconnect(qApp, nullptr, this, nullptr);
     for (const QObject* control : findChildren<QObject*>()) {
@@ -60,7 +60,7 @@ void frmOptions::Form_Load() {
     ShowPreview();
 }
 
-/// The tab key goes to the option that is selected; the toolkit sees to it only from then on.
+/// The tab key goes to the selected option; Qt does this only after the first selection.
 void frmOptions::SelectTermUnit(QRadioButton& selected) {
     for (QRadioButton* option : {m_ui->optTermMonths, m_ui->optTermYears}) {
         option->setFocusPolicy(option == &selected ? Qt::StrongFocus : Qt::ClickFocus);
@@ -116,14 +116,14 @@ void frmOptions::ShowPreview() {
     m_ui->picWallpaper->ShowFile(m_previewed);
 }
 
-/// False when the number is refused: the user is told, and is back in the field.
+/// False when the number is rejected: a message appears and the focus returns to the field.
 bool frmOptions::txtLoans_Validate() {
     if (m_ui->udLoans->Number()) {
         return true;
     }
     ReturnToLoans();
     m_messages->Post(GetResourceText(TextNumber::OffersRefused), [dialog = QPointer(this)] {
-        if (dialog) { // which Cancel may have closed meanwhile
+        if (dialog) { // Cancel may have closed it meanwhile
             dialog->ReturnToLoans();
         }
     });
@@ -135,18 +135,18 @@ void frmOptions::ReturnToLoans() {
     m_ui->udLoans->selectAll();
 }
 
-/// Menus, message boxes and other programs are no controls of this dialog: going there is not
-/// leaving the field.
+/// Menus, message boxes and other programs are not controls of this dialog: moving the focus there
+/// does not leave the field.
 void frmOptions::OnFocusChanged(const QWidget* /*from*/, const QWidget* to) {
     const bool leaves =
         to != nullptr && to->window() == this && to != m_ui->udLoans && to != m_ui->CancelButton;
     if (leaves && !txtLoans_Validate() && QGuiApplication::mouseButtons() != Qt::NoButton) {
-        // The press that moved the focus is still to be delivered to the control it hit.
+        // The click that moved the focus has not reached its control yet.
         m_clicks.SwallowNext();
     }
 }
 
-/// An access key presses its button without the focus having left the field.
+/// An access key presses its button without moving the focus.
 bool frmOptions::eventFilter(QObject* watched, QEvent* event) {
     return event->type() == QEvent::Shortcut && watched != m_ui->CancelButton &&
            !txtLoans_Validate();

@@ -16,10 +16,10 @@ class Messages;
 class PictureChooser;
 class QRadioButton;
 
-/// The dialog for the settings. Works on a copy of them: neither keeps them nor changes the main
-/// window. Where OK closed it the copy holds what the user chose, else what it was made with.
+/// The settings dialog. Works on a copy: it neither saves the settings nor changes the main window.
+/// After OK the copy holds the user's choices, otherwise the initial settings.
 ///
-/// A number of offers out of range is refused when its field is left, or by OK; Cancel and the
+/// A number of offers out of range is rejected when its field loses focus, or by OK. Cancel and the
 /// close box always work.
 class frmOptions : public QDialog {
     Q_OBJECT

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-/// The keys and values of one open store, inside the caller's transaction. Keys are known by their
-/// number; a root has a number below zero and is always there. Everything throws StoreError.
-/// It knows no texts, numbers or defaults: a value is its type code and its bytes.
+/// The keys and values of an open store, inside the caller's transaction. Keys are identified by
+/// number; a root has a negative number and always exists. All functions throw StoreError. Knows no
+/// texts, numbers or defaults: a value is a type code and bytes.
 class KeyTree {
 public:
     using Path = std::vector<std::string>;
@@ -25,7 +25,7 @@ public:
     static std::int64_t RootKey(std::uint32_t root) { return -static_cast<std::int64_t>(root); }
 
     std::optional<std::int64_t> Find(std::int64_t root, const Path& path);
-    /// The key of the path, with all that was missing of it made.
+    /// The key of the path; missing keys are created.
     std::int64_t Create(std::int64_t root, const Path& path);
     /// Deletes the key and its values unless it has subkeys.
     void Delete(std::int64_t key);
@@ -39,7 +39,7 @@ private:
     std::optional<std::int64_t> Child(std::int64_t parent, const std::string& folded);
     Statement& Prepared(const char* command);
 
-    /// The key that was looked for last: a worksheet is read and written value by value.
+    /// The last key found, cached because a worksheet is read and written value by value.
     struct Found {
         std::int64_t root;
         Path path;

@@ -10,7 +10,7 @@ namespace {
 
 using StoreLayout::State;
 
-/// Whether a store that cannot be opened may still be read as a plain file.
+/// Whether a store that cannot be opened may still be readable as a plain file.
 bool IsOutOfReach(const StoreError& error) {
     switch (error.Code()) {
     case SQLITE_CANTOPEN:

@@ -7,13 +7,13 @@
 #include <filesystem>
 #include <memory>
 
-/// The store file opened for one step: reading of one moment, or writing that is kept as a whole by
-/// Keep() or not at all. Every function throws StoreError; a store of a newer version, an empty one
-/// and a foreign file cannot be opened.
+/// The store file, opened for one transaction: a read snapshot, or writes that Keep() commits as a
+/// whole. All functions throw StoreError. A store of a newer version, an empty store and a foreign
+/// file cannot be opened.
 class OpenStore {
 public:
-    /// Where the store or its folder cannot be written to, so that SQLite cannot set up its log, a
-    /// copy in memory is read instead.
+    /// Reads a copy in memory when the store or its folder is not writable, because SQLite cannot
+    /// create its log then.
     static std::unique_ptr<OpenStore> ToRead(const std::filesystem::path& store,
                                              std::chrono::milliseconds wait);
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// For a reason that can be mended.
+/// Damage, which a recovery may repair.
 class DamageMet : public StoreFailure {
 public:
     DamageMet() : StoreFailure(StoreTrouble::Unknown) {}
@@ -16,13 +16,13 @@ public:
 
 std::int64_t KeyOf(RegistryRoot root) { return KeyTree::RootKey(static_cast<std::uint32_t>(root)); }
 
-/// What a reader of any type gets of a value.
+/// The bytes of a value before conversion to a type.
 std::string ReadBytes(const KeyTree::Value& value) {
     const bool text = value.type == RegistryType::Text && !value.bytes.empty();
     return text ? value.bytes + '\0' : value.bytes;
 }
 
-/// Calls `action` with the number of the key if there is one.
+/// Calls `action` with the number of the key if the key exists.
 template <typename Action>
 std::function<void(KeyTree&)> OnKey(RegistryRoot root, const std::vector<std::string>& path,
                                     const Action& action) {
@@ -55,7 +55,7 @@ std::shared_ptr<StoreStep> StartReading(const std::filesystem::path& store,
     }
 }
 
-/// Also of a step that was over when it was used.
+/// Also covers a transaction that was used after its end.
 StoreTrouble TroubleOfStep(const StoreStep& step, const std::filesystem::path& store) {
     return step.Error() ? TroubleOf(*step.Error(), store) : StoreTrouble::Unknown;
 }
@@ -97,7 +97,7 @@ StoreTrouble RegistryAPI::Write(const std::function<void(KeyTree&)>& writing,
 
 bool RegistryAPI::KeyExists(RegistryRoot keyRoot, const std::string& keyName) const {
     const auto path = PathElements(keyName);
-    bool exists = path && path->empty(); // a root is there without a store, too
+    bool exists = path && path->empty(); // a root exists even without a store
     if (path && !exists) {
         Read(OnKey(keyRoot, *path, [&exists](KeyTree&, std::int64_t) { exists = true; }));
     }
@@ -114,7 +114,8 @@ bool RegistryAPI::CreateKey(RegistryRoot keyRoot, const std::string& keyName) co
     }
     bool existed = false;
     const auto create = [&](KeyTree& keys) {
-        existed = keys.Find(KeyOf(keyRoot), *path).has_value(); // made by another program just now
+        existed = keys.Find(KeyOf(keyRoot), *path)
+                      .has_value(); // another program may just have created it
         keys.Create(KeyOf(keyRoot), *path);
     };
     const StoreTrouble trouble = Write(create, true);
@@ -238,7 +239,7 @@ void RegistryAPI::TryStep(const std::function<void(const RegistryAPI&)>& steps) 
             throw StoreFailure(TroubleOfStep(step, m_store));
         }
     } catch (...) {
-        step.Break(); // an inner step takes the outer one with it
+        step.Break(); // a failed nested call also aborts the outer transaction
         if (step.MetDamage()) {
             throw DamageMet();
         }

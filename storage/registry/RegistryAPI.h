@@ -12,52 +12,53 @@
 #include <variant>
 #include <vector>
 
-/// The top of a tree of keys, by the platform's own handle.
+/// The root of a tree of keys; the values are the platform's own handles.
 enum class RegistryRoot : std::uint32_t {
     CurrentUser = 0x80000001,
     LocalMachine = 0x80000002,
 };
 
-/// The store's own type codes. Others can be asked for, and are then refused or ignored.
+/// The type codes of the store. Other codes can be requested, and are rejected or ignored.
 namespace RegistryType {
 inline constexpr std::int16_t Text = 1;
 inline constexpr std::int16_t Binary = 3;
 inline constexpr std::int16_t Number = 4; ///< 32 bits, signed; true is -1
 } // namespace RegistryType
 
-/// Text (UTF-8), bytes or a number. A flag is a number: RegistryFlag makes it.
+/// Text (UTF-8), bytes or a number. A flag is a number: see RegistryFlag.
 using RegistryValue = std::variant<std::string, std::vector<std::byte>, std::int32_t>;
 
 constexpr std::int32_t RegistryFlag(bool set) { return set ? -1 : 0; }
 
-/// Which keys a repair can find again by their values alone: those below `parent` that repeat their
-/// name in a text value. Without the name of that value none.
+/// Which keys a recovery can restore from their values alone: those below `parent` that repeat
+/// their name in the text value `nameValue`. None when `nameValue` is empty.
 struct NamedKeys {
     RegistryRoot root = RegistryRoot::CurrentUser;
     std::string parent;
     std::string nameValue;
 };
 
-/// What a repair of the store in the middle of a step asks of the world outside, and tells it.
+/// The interface through which a recovery during a transaction asks for the date and reports its
+/// result.
 struct RepairDoor {
-    /// Stands in the name of the damaged file, as in 2026-11-21. Without it nothing is repaired.
+    /// Used in the name of the damaged file, such as 2026-11-21. Without it nothing is recovered.
     std::function<std::string()> today;
-    /// Called once for each repair, before the step is made again; may be empty.
+    /// Called once for each recovery, before the transaction is repeated; may be empty.
     std::function<void(const std::filesystem::path& keptAs)> repaired;
     NamedKeys named = {};
 };
 
-/// Why the store could not be read or written, as far as that can be made out.
+/// Why the store could not be read or written, as far as known.
 enum class StoreTrouble {
     None,
     Unknown,
     DiskFull,
-    ReadOnly,   ///< the file system takes no writing
-    NotAllowed, ///< the user has no right to the file or its folder
-    InUse       ///< another program was writing for longer than the wait
+    ReadOnly,   ///< the file system is read-only
+    NotAllowed, ///< the user lacks permission for the file or its folder
+    InUse       ///< another program was writing for longer than the timeout
 };
 
-/// The failure of a key or a step that could not be made, with the reason.
+/// A key could not be created or a transaction not completed; holds the reason.
 class StoreFailure : public Failure {
 public:
     explicit StoreFailure(StoreTrouble trouble)
@@ -72,74 +73,73 @@ private:
 class KeyTree;
 class StoreStep;
 
-/// The user's store: a tree of keys, each with named values. Paths are relative to a root, with
-/// backslashes between their elements; names are kept as written and compared without regard to
-/// case. An empty value name addresses the key's default value.
+/// The user's store: a tree of keys with named values. Paths are relative to a root, with
+/// backslashes between the elements. Names keep their case and are compared without regard to case.
+/// An empty value name addresses the default value of the key.
 ///
-/// Stateless: every procedure opens what it needs and closes it again. It remembers the place of
-/// the store and the door of its repair and nothing else, so copies are equal. Reads of what is
-/// missing or out of reach give the caller's default, writes that cannot be made do nothing; the
-/// two failures raised are named below.
+/// Stateless: every function opens what it needs and closes it again. Remembers only the path of
+/// the store and its recovery interface, so copies are equal. A read of a missing or inaccessible
+/// value returns the caller's default; a write that is not possible does nothing. The two failures
+/// thrown are named below.
 class RegistryAPI {
 public:
-    /// The length of the one blank name that stands for no subkeys.
+    /// The length of the single blank name that means "no subkeys".
     static constexpr std::size_t NoSubkeysLength = 260;
     /// How long a write waits for another program that is writing.
     static constexpr std::chrono::milliseconds UsualWait{5'000};
 
-    /// `store` is the full path of the file that holds the store where the platform has no registry
-    /// of its own; it and its folders need not exist, CreateKey and InOneStep make them.
+    /// `store` is the full path of the store file, used where the platform has no registry. The
+    /// file and its folders need not exist: CreateKey and InOneStep create them.
     explicit RegistryAPI(std::filesystem::path store, std::chrono::milliseconds wait = UsualWait,
                          RepairDoor door = {});
 
-    /// Where the store of this user lives by the rules of the platform.
+    /// The path of this user's store, by the rules of the platform.
     static std::filesystem::path UserStore();
 
     bool KeyExists(RegistryRoot keyRoot, const std::string& keyName) const;
 
-    /// Makes every missing key of the path. True when the key existed already. Throws StoreFailure.
+    /// Creates all missing keys of the path. True when the key already existed. Throws
+    /// StoreFailure.
     bool CreateKey(RegistryRoot keyRoot, const std::string& keyName) const;
 
     /// Deletes a key with its values. A key that has subkeys stays.
     void DeleteKey(RegistryRoot keyRoot, const std::string& keyName) const;
 
-    /// The value, or the default when it is missing, too long (a text of more than 1,023
-    /// characters as the user counts them, more than 4,096 bytes) or out of reach. The type is that
-    /// of the answer; what type was written is not checked. Throws Failure 1001 "Unsupported value
-    /// type" for any other type, where the key exists.
+    /// The value, or the default when it is missing, inaccessible or too long (a text of more than
+    /// 1,023 user-perceived characters, or more than 4,096 bytes). `type` is the type of the
+    /// result; the type that was written is not checked. Throws Failure 1001 "Unsupported value
+    /// type" for an unknown type, if the key exists.
     RegistryValue GetValue(RegistryRoot keyRoot, const std::string& keyName,
                            const std::string& valueName, std::int16_t type,
                            const RegistryValue& defaultValue) const;
 
-    /// The type code that the value was written with; 0 when it is missing or out of reach.
+    /// The type code that the value was written with; 0 when it is missing or inaccessible.
     std::int64_t GetValueType(RegistryRoot keyRoot, const std::string& keyName,
                               const std::string& valueName) const;
 
-    /// Writes a value of an existing key; does nothing where there is no such key, and for an
-    /// unknown type.
+    /// Writes a value of an existing key. Does nothing when the key does not exist or the type is
+    /// unknown.
     void SetValue(RegistryRoot keyRoot, const std::string& keyName, const std::string& valueName,
                   std::int16_t type, const RegistryValue& value) const;
 
     void DeleteValue(RegistryRoot keyRoot, const std::string& keyName,
                      const std::string& valueName) const;
 
-    /// The names of the direct subkeys, alphabetical without regard to case; of the root itself for
-    /// an empty path. One element of 260 blanks means that there are none, no element that the key
-    /// could not be opened.
+    /// The names of the direct subkeys, sorted alphabetically without regard to case; of the root
+    /// for an empty path. One element of 260 blanks means that there are none; no element means
+    /// that the key could not be opened.
     std::vector<std::string> GetSubKeys(RegistryRoot keyRoot, const std::string& keyName) const;
 
-    /// Runs `steps` on the store as one step: either all that it writes is kept or nothing, and all
-    /// that it reads is of one moment. Waits a few seconds for another program that is writing.
-    /// When it meets damage the store is repaired, if it was given a door for that, and `steps` run
-    /// once more from the beginning.
-    /// Throws what `steps` throws, with nothing kept; and StoreFailure when the step could not be
-    /// made, because the store cannot be written to, the disk is full, or the wait was in vain.
-    /// Where the platform's registry knows no such steps the writes are made one by one.
+    /// Runs `steps` in one transaction: either all writes are committed or none, and all reads see
+    /// the same snapshot. Waits a few seconds for another program that is writing. On damage the
+    /// store is recovered, if a recovery interface was given, and `steps` runs once more from the
+    /// beginning. Throws what `steps` throws, with nothing committed, and StoreFailure when the
+    /// transaction is not possible: the store is not writable, the disk is full, or the wait timed
+    /// out. Where the platform's registry has no transactions, the writes are made one by one.
     void InOneStep(const std::function<void(const RegistryAPI&)>& steps) const;
 
-    /// The same for reading alone: nothing is written, nothing is waited for, and a store that
-    /// cannot be read gives defaults. What kept it from being read is returned; a store that is not
-    /// there holds nothing, and is no trouble.
+    /// The same for reading only: writes nothing and waits for nothing. An unreadable store gives
+    /// defaults, and the reason is returned. A missing store is empty, which is not an error.
     StoreTrouble ReadInOneStep(const std::function<void(const RegistryAPI&)>& steps) const;
 
 private:
@@ -151,5 +151,5 @@ private:
     std::filesystem::path m_store;
     std::chrono::milliseconds m_wait;
     RepairDoor m_door;
-    std::shared_ptr<StoreStep> m_step; ///< the step that this one belongs to, if any
+    std::shared_ptr<StoreStep> m_step; ///< the transaction that this object belongs to, if any
 };

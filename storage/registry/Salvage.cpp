@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Whether the name can be one, and is the one that was sorted in.
+/// Whether the name is valid and matches its folded form.
 bool IsNamed(std::string_view name, std::string_view folded, std::size_t longest) {
     return IsUtf8(name) && name.find('\0') == std::string_view::npos &&
            Utf16Length(name) <= longest && Folded(std::string(name)) == folded;
@@ -27,7 +27,7 @@ bool IsKeyName(std::string_view name, std::string_view folded) {
            IsNamed(name, folded, LongestKeyName);
 }
 
-/// Marks the free pages; false when their chain is broken.
+/// Marks the free pages; false when the free list is broken.
 bool MarkFreePages(const StoreImage& image, std::vector<bool>& free) {
     const auto mark = [&free](std::uint64_t number) {
         const bool fits = number > 1 && number < free.size() && !free[number];
@@ -54,7 +54,7 @@ bool MarkFreePages(const StoreImage& image, std::vector<bool>& free) {
     return true;
 }
 
-/// By their numbers; none when it cannot be made out which they are.
+/// Indexed by page number; none are free when the free list is broken.
 std::vector<bool> FreePages(const StoreImage& image) {
     std::vector<bool> free(image.PageCount() + 1, false);
     if (!MarkFreePages(image, free)) {
@@ -131,7 +131,7 @@ Salvage::Salvage(const StoreImage& image) {
     }
 }
 
-/// The name that the values of a key repeat, or none.
+/// The name repeated in the values of a key; empty when there is none.
 std::string Salvage::NameOf(std::int64_t key, const NamedKeys& named) const {
     const auto value = m_values.find({key, Folded(named.nameValue)});
     const bool fits = !named.nameValue.empty() && value != m_values.end() &&
@@ -146,7 +146,7 @@ public:
         : m_salvage(salvage), m_keys(keys), m_named(named) {}
 
     void WriteRoots() {
-        // The roots have the numbers below zero.
+        // Roots have negative numbers.
         std::set<std::int64_t> roots;
         const auto& children = m_salvage.m_children;
         for (auto child = children.begin(); child != children.lower_bound(0); ++child) {
@@ -161,7 +161,7 @@ public:
         }
     }
 
-    /// The newest first: of two of one name the older one may have been deleted long ago.
+    /// Newest first: of two keys with the same name, the older may have been deleted long ago.
     void WriteLost() {
         const auto parent = PathElements(m_named.parent);
         const std::int64_t root = KeyTree::RootKey(static_cast<std::uint32_t>(m_named.root));

@@ -10,9 +10,9 @@ struct NamedKeys;
 class KeyTree;
 class StoreImage;
 
-/// All that can still be read of a damaged store: every page is looked at by itself, whether or not
-/// anything leads to it, and every row on it that has the form of one is taken. Pages that the file
-/// itself holds to be free are left out, as long as that can be made out.
+/// All data that is still readable in a damaged store. Scans every page, even if nothing refers to
+/// it, and takes every row with a valid format. Pages on the file's free list are left out if that
+/// list is intact.
 class Salvage {
 public:
     explicit Salvage(const StoreImage& image);
@@ -22,16 +22,16 @@ public:
         std::size_t values = 0;
     };
 
-    /// Writes it all below the roots of an empty store. What belonged to a key whose name and place
-    /// are lost is left out, but for named keys: their values say both. Where a key of that name is
-    /// there already, it stays as it is. Throws StoreError.
+    /// Writes everything below the roots of an empty store. Data of a key whose name and parent are
+    /// lost is left out, except for named keys, whose values give both. An existing key of that
+    /// name stays unchanged. Throws StoreError.
     Counts WriteTo(KeyTree& keys, const NamedKeys& named) const;
 
 private:
     struct Key {
         std::int64_t parent = 0;
         std::string name;
-        bool nameInUpperCase = false; ///< all that was left of it
+        bool nameInUpperCase = false; ///< only its upper-case form is left
     };
     struct Value {
         std::string name;

@@ -21,8 +21,8 @@ bool IsThere(const char* file) {
     return std::filesystem::exists(file, error);
 }
 
-/// SQLite flushes the folder when it makes a log file. It thinks that it makes one whenever it may,
-/// so it may only where there is none: that halves the flushes of a save.
+/// SQLite flushes the folder when it creates a log file. It assumes so whenever creation is
+/// allowed, so allow it only when the log is missing: that halves the flushes of a save.
 int OpenFile(sqlite3_vfs* system, sqlite3_filename name, sqlite3_file* file, int flags,
              int* outFlags) {
     auto* const base = static_cast<sqlite3_vfs*>(system->pAppData);
@@ -61,7 +61,7 @@ Statement::Statement(sqlite3* connection, const char* command) {
 }
 
 void Statement::Reset() {
-    sqlite3_reset(m_statement.get()); // answers with the failure of the last run, told already
+    sqlite3_reset(m_statement.get()); // returns the failure of the last run, already reported
 }
 
 void Statement::Bind(int position, std::int64_t number) {
@@ -120,12 +120,12 @@ Connection::Connection(const std::filesystem::path& file, std::chrono::milliseco
     m_connection.reset(connection);
     Check(code, connection);
     Check(sqlite3_busy_timeout(connection, static_cast<int>(wait.count())), connection);
-    // A file from elsewhere must not run anything of its own here.
+    // A foreign file must not run code of its own here.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
-    // The log is folded into the file at the program's start and end, not with every save.
+    // Checkpoint the log at program start and end, not with every save.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
 }
 
@@ -169,7 +169,7 @@ Transaction::Transaction(const Connection& connection, Kind kind) : m_connection
 
 Transaction::~Transaction() {
     if (m_open) {
-        // Where SQLite has rolled back by itself there is nothing left to roll back.
+        // Fails when SQLite has already rolled back, which is harmless.
         sqlite3_exec(m_connection->Handle(), "ROLLBACK", nullptr, nullptr, nullptr);
     }
 }

@@ -11,7 +11,7 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-/// The store cannot be reached, read or written, for the reason that SQLite gives.
+/// The store cannot be opened, read or written, for the reason that SQLite gives.
 class StoreError : public std::runtime_error {
 public:
     explicit StoreError(int code);
@@ -20,9 +20,9 @@ public:
 
     /// SQLite's primary result code.
     int Code() const { return m_code & 0xFF; }
-    /// Whether what is in the file is the reason.
+    /// Whether the file's content is the reason.
     bool IsDamage() const;
-    /// What the system gave as its reason (errno); 0 when that is not known.
+    /// The errno of the operating system; 0 when unknown.
     int SystemError() const { return m_systemError; }
 
 private:
@@ -30,12 +30,12 @@ private:
     int m_systemError = 0;
 };
 
-/// A command with its bound values, kept to be run again. All failures throw StoreError.
+/// A prepared statement, reused between runs. All failures throw StoreError.
 class Statement {
 public:
     Statement(sqlite3* connection, const char* command);
 
-    /// Starts anew, with the values in the order of their question marks.
+    /// Restarts the statement and binds the values to its question marks in order.
     template <typename... Values>
     Statement& With(const Values&... values) {
         Reset();
@@ -43,11 +43,11 @@ public:
         (Bind(++position, values), ...);
         return *this;
     }
-    /// The next row; false when there is none, which also ends the run.
+    /// Steps to the next row; false at the end, which also ends the run.
     bool Next();
     /// Runs to the end.
     void Run();
-    /// Ends the run where it is, so that nothing is held open for it.
+    /// Ends the run early, so that it holds no lock.
     void Reset();
 
     std::int64_t Number(int column) const;
@@ -65,23 +65,23 @@ private:
     std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
 };
 
-/// One open store file. It makes no file and knows nothing of what is in it.
+/// An open store file. Creates no file and knows nothing of its schema.
 class Connection {
 public:
-    /// Opens an existing file, waiting `wait` whenever another program is in the way. Nothing of it
-    /// is read yet.
+    /// Opens an existing file; every access waits up to `wait` for other programs. Reads nothing
+    /// yet.
     Connection(const std::filesystem::path& file, std::chrono::milliseconds wait);
 
     /// An empty store in memory.
     static Connection InMemory();
-    /// A store in memory, from the bytes of a file; for reading.
+    /// A read-only store in memory, from the bytes of a file.
     static Connection OfBytes(const std::string& bytes);
 
     sqlite3* Handle() const { return m_connection.get(); }
 
-    /// Runs one command, or several between semicolons.
+    /// Runs one or several commands, separated by semicolons.
     void Execute(const char* commands) const;
-    /// The number that a command answers with.
+    /// The number that a command returns.
     std::int64_t Ask(const char* command) const;
 
 private:
@@ -94,12 +94,12 @@ private:
     std::unique_ptr<sqlite3, Close> m_connection;
 };
 
-/// What is written between here and Keep() is kept as a whole; without Keep() nothing is.
+/// An SQLite transaction. Keep() commits it; otherwise it is rolled back.
 class Transaction {
 public:
     enum class Kind {
-        Read, ///< sees one moment of the store
-        Write ///< keeps others from writing, from the start
+        Read, ///< sees one snapshot of the store
+        Write ///< excludes other writers from the start
     };
 
     Transaction(const Connection& connection, Kind kind);

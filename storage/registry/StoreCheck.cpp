@@ -16,10 +16,10 @@ namespace fs = std::filesystem;
 using Condition = StoreCondition::State;
 
 constexpr std::chrono::milliseconds Wait{2'000};
-/// Above it a store, of hundreds of thousands of worksheets, is taken for sound: looking at it all
-/// would keep the user waiting.
+/// A larger store, with hundreds of thousands of worksheets, is assumed intact: the check would
+/// keep the user waiting.
 constexpr std::uintmax_t LargestChecked = std::uintmax_t{1} << 28;
-/// Reading a log costs every step some time; at this size it is a millisecond.
+/// The log slows every transaction down; at this size by a millisecond.
 constexpr std::uintmax_t LongLog = std::uintmax_t{1} << 20;
 constexpr std::uintmax_t LogWorthFolding = std::uintmax_t{1} << 14;
 
@@ -36,7 +36,7 @@ void FoldLogIfLonger(const fs::path& store, std::uintmax_t size) {
     try {
         StoreFile::FoldLog(Connection(store, std::chrono::milliseconds(0)));
     } catch (const StoreError&) {
-        return; // another program has it open and can do it later
+        return; // another program has it open and can do this later
     }
 }
 
@@ -47,23 +47,23 @@ Finding FindingOf(const StoreImage& image) {
     case StoreKind::Newer:
         return Finding::Newer;
     case StoreKind::Older:
-        return Finding::Sound; // the next write brings it to this version
+        return Finding::Sound; // the next write migrates it to this version
     default:
         return IsSound(image) ? Finding::Sound : Finding::Damaged;
     }
 }
 
-/// What looks like damage may be another program's writing: looked at again while nobody writes.
+/// Apparent damage may be a write in progress: check again while nobody writes.
 Finding SecondLook(const fs::path& store) {
     if (SizeOf(store) == 0) {
-        return Finding::Damaged; // SQLite would throw away the log of an empty file
+        return Finding::Damaged; // SQLite would delete the log of an empty file
     }
     try {
         const Connection connection(store, Wait);
         const Transaction nobodyWrites(connection, Transaction::Kind::Write);
         return FindingOf(StoreImage(store));
     } catch (const StoreError& error) {
-        // Somebody who writes has found it sound enough for that.
+        // A program that writes has already found the store usable.
         return error.Code() == SQLITE_BUSY ? Finding::Sound : FindingOf(StoreImage(store));
     }
 }
@@ -80,7 +80,7 @@ fs::path FreeNameFor(const fs::path& store, const std::string& today) {
     return free;
 }
 
-/// A second name for a file, or where the file system knows no such thing a copy.
+/// Creates a hard link, or a copy where the file system has no hard links.
 void KeepAs(const fs::path& file, const fs::path& name) {
     std::error_code error;
     fs::create_hard_link(file, name, error);
@@ -102,7 +102,7 @@ Salvage::Counts WriteNew(const fs::path& made, const Salvage& salvage, const Nam
     return counts;
 }
 
-/// At no moment is there less on the disk than the damaged store and its log.
+/// The damaged store and its log stay on the disk at every moment.
 StoreCondition Repair(const fs::path& store, const std::string& today, const NamedKeys& named) {
     const fs::path made = StoreFile::NewOf(store);
     try {
@@ -126,7 +126,7 @@ StoreCondition Repair(const fs::path& store, const std::string& today, const Nam
 StoreCondition RepairIfStillDamaged(const fs::path& store, const std::string& today,
                                     const NamedKeys& named) {
     try {
-        // Of two programs that start at once the second finds what the first has repaired.
+        // When two programs start at once, the second finds the store recovered by the first.
         const StoreFile::FolderLock lock(store.parent_path(), Wait);
         const Finding finding = SecondLook(store);
         return finding == Finding::Damaged

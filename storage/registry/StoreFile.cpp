@@ -17,7 +17,7 @@ namespace StoreFile {
 
 namespace {
 
-constexpr int PagesOfLongLog = 2'000; // 8 MB, some two hundred saves
+constexpr int PagesOfLongLog = 2'000; // 8 MB, about two hundred saves
 
 std::filesystem::path Beside(const std::filesystem::path& store, const char* ending) {
     std::filesystem::path path = store;
@@ -26,15 +26,15 @@ std::filesystem::path Beside(const std::filesystem::path& store, const char* end
 }
 
 void MakeFolder(const std::filesystem::path& folder) {
-    std::error_code unknown; // what cannot even be looked for is not made
+    std::error_code unknown; // if the folder cannot be checked, it is not created
     if (folder.empty() || std::filesystem::exists(folder, unknown) || unknown) {
         return;
     }
     MakeFolder(folder.parent_path());
-    mkdir(folder.c_str(), S_IRWXU); // whether it is there is seen when the file is made
+    mkdir(folder.c_str(), S_IRWXU); // a failure shows when the file is created
 }
 
-/// For the user alone, where there was none.
+/// Creates the file for this user only; fails when it exists.
 void MakeEmptyFile(const std::filesystem::path& store) {
     const int file = open(store.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (file < 0) {
@@ -95,13 +95,13 @@ void Make(const std::filesystem::path& store, std::chrono::milliseconds wait) {
         throw;
     }
     std::error_code error;
-    std::filesystem::remove(LogOf(store), error); // empty now
+    std::filesystem::remove(LogOf(store), error); // it is empty now
     std::filesystem::remove(SharedOf(store), error);
 }
 
 void PutInPlace(const std::filesystem::path& made, const std::filesystem::path& store) {
     std::error_code error;
-    // The log of another file would be laid over this one.
+    // Otherwise the old log would be applied to the new file.
     std::filesystem::remove(LogOf(store), error);
     if (!error) {
         std::filesystem::remove(SharedOf(store), error);
@@ -120,7 +120,7 @@ void MakeWhereMissing(const std::filesystem::path& store, std::chrono::milliseco
     MakeFolder(store.parent_path());
     const FolderLock lock(store.parent_path(), wait);
     switch (Look(store)) {
-    case Found::Something: // made by another program just now
+    case Found::Something: // another program has just created it
         return;
     case Found::Empty:
         throw StoreError(SQLITE_NOTADB);
@@ -143,10 +143,10 @@ void FoldLog(const Connection& connection) {
     }
     SetUpForWriting(connection);
     connection.Execute("PRAGMA wal_checkpoint(TRUNCATE)");
-    // The first write to a log costs a flush more: it is made here and not by a save.
+    // The first write to a log needs one more flush: do it here and not in a save.
     Transaction first(connection, Transaction::Kind::Write);
     const std::string mark = "PRAGMA application_id=" + std::to_string(StoreLayout::ApplicationId);
-    connection.Execute(mark.c_str()); // what it is already
+    connection.Execute(mark.c_str()); // the value is unchanged
     first.Keep();
 }
 

@@ -5,46 +5,47 @@
 
 class Connection;
 
-/// The store as a file: made readable by its user alone, and its log kept short. What is in it is
-/// StoreLayout's and KeyTree's.
+/// File operations on the store: creates it readable only by its user, and keeps its log short. The
+/// content belongs to StoreLayout and KeyTree.
 namespace StoreFile {
 
-/// The names of the files that SQLite keeps beside a store: the log of what was written last, and
-/// what programs that have it open share.
+/// The files that SQLite keeps beside a store: the write-ahead log, and the memory shared by
+/// programs that have it open.
 std::filesystem::path LogOf(const std::filesystem::path& store);
 std::filesystem::path SharedOf(const std::filesystem::path& store);
 
-/// Whether this user may read the file; false where there is none.
+/// Whether this user may read the file; false when it does not exist.
 bool CanRead(const std::filesystem::path& file);
 
-/// The place beside a store where a new one is made, under the lock of their folder.
+/// The path beside a store where a new one is created, under the lock of their folder.
 std::filesystem::path NewOf(const std::filesystem::path& store);
 
-/// Makes an empty store, in place of what a making that was cut short has left; the folder must be
-/// there. It is one file. Throws StoreError, with nothing left.
+/// Creates an empty store as a single file and replaces the remains of an interrupted attempt. The
+/// folder must exist. Throws StoreError and leaves no file then.
 void Make(const std::filesystem::path& store, std::chrono::milliseconds wait);
 
-/// Gives a store that is one file the place of another, with the log of that one gone. Throws
-/// StoreError, with the other one untouched or without its log.
+/// Moves the single-file store `made` to the path of `store` and removes the old log. Throws
+/// StoreError; the old store is then untouched or lacks its log.
 void PutInPlace(const std::filesystem::path& made, const std::filesystem::path& store);
 
-/// Removes a store with all that stands beside it.
+/// Removes a store and the files beside it.
 void Remove(const std::filesystem::path& store);
 
-/// Makes the store with its folders unless there is a file. It appears whole or not at all, so that
-/// an empty file is damage: StoreError says so. Throws StoreError, with no file left.
+/// Creates the store and its folders unless the file exists. The store appears as a whole or not at
+/// all, so an empty file is damage and throws StoreError. Throws StoreError and leaves no file
+/// then.
 void MakeWhereMissing(const std::filesystem::path& store, std::chrono::milliseconds wait);
 
-/// Each step that is kept is then on the disk, at the cost of one flush.
+/// Makes every commit durable, at the cost of one flush.
 void SetUpForWriting(const Connection& connection);
 
-/// Folds the log into the file and begins a new one, so that the next save costs its one flush
-/// only. Takes three flushes or so. Does nothing to a store of another version. Throws StoreError,
-/// also when other programs are in the way.
+/// Checkpoints the log into the file and starts a new log, so that the next save needs only one
+/// flush. Takes about three flushes. Does nothing to a store of another version. Throws StoreError,
+/// also when other programs hold locks.
 void FoldLog(const Connection& connection);
 
-/// Keeps other programs from making or repairing the stores of a folder while it lives; reading and
-/// writing goes on. Throws StoreError after the wait, or when the folder cannot be opened.
+/// While it exists, no other program can create or recover stores in the folder; reads and writes
+/// continue. Throws StoreError after the wait, or when the folder cannot be opened.
 class FolderLock {
 public:
     FolderLock(const std::filesystem::path& folder, std::chrono::milliseconds wait);

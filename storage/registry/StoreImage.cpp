@@ -14,7 +14,7 @@ constexpr std::size_t UsualPageSize = 4'096;
 constexpr std::size_t FileHeaderSize = 100;
 constexpr std::size_t LogHeaderSize = 32;
 constexpr std::size_t FrameHeaderSize = 24;
-/// A damaged page number must not ask for all the memory there is.
+/// A damaged page number must not allocate all memory.
 constexpr std::size_t MostBytes = std::size_t{1} << 31;
 
 std::string BytesOf(const std::filesystem::path& file) {
@@ -44,7 +44,7 @@ std::size_t PageSizeOf(std::string_view bytes) {
                                                       : UsualPageSize;
 }
 
-/// The running check sum of a log, over pairs of 32-bit words in the order of its magic number.
+/// The running checksum of a log, over pairs of 32-bit words in the byte order of its magic number.
 class LogSum {
 public:
     explicit LogSum(bool bigEndian) : m_bigEndian(bigEndian) {}
@@ -77,7 +77,7 @@ bool IsLogHeader(std::string_view log) {
     return log.size() >= LogHeaderSize && (BigEndian(log, 0, 4) | 1) == 0x377F'0683;
 }
 
-/// The pages of all steps in the log that were kept, and how many pages the file then had.
+/// The pages of all committed transactions in the log, and the page count of the file after them.
 struct LogContent {
     std::map<std::uint32_t, std::string_view> pages;
     std::uint32_t pageCount = 0;
@@ -159,7 +159,7 @@ std::string_view StoreImage::Page(std::uint32_t number) const {
 std::string StoreImage::AsPlainFile() const {
     std::string bytes = m_bytes;
     if (bytes.size() >= FileHeaderSize) {
-        bytes[18] = 1; // the versions that write and read: 2 would ask for a log
+        bytes[18] = 1; // the write and read versions: 2 would require a log
         bytes[19] = 1;
     }
     return bytes;

@@ -6,23 +6,23 @@
 #include <string>
 #include <string_view>
 
-/// The bytes of a store file as they are, with what its log holds laid over them: the state after
-/// the last step that was kept. Needs no right but to read, and copes with any damage; a file that
-/// is missing or cannot be read is empty. It knows nothing of what is on the pages.
+/// The bytes of a store file with its log applied: the state after the last commit. Needs only read
+/// permission and tolerates any damage; a missing or unreadable file is empty. Does not interpret
+/// the pages.
 class StoreImage {
 public:
     explicit StoreImage(const std::filesystem::path& store);
 
-    /// Bytes; a power of two from 512 to 65,536. A damaged header is taken for that of a store.
+    /// In bytes; a power of two from 512 to 65,536. A damaged header is treated as that of a store.
     std::size_t PageSize() const { return m_pageSize; }
-    /// Whole pages.
+    /// Counts whole pages only.
     std::size_t PageCount() const { return m_bytes.size() / m_pageSize; }
-    /// Counted from 1. Nothing for a page that there is not.
+    /// Numbered from 1. Empty for a page that does not exist.
     std::string_view Page(std::uint32_t number) const;
-    /// All that was read, also a last page that is cut short.
+    /// All bytes read, including a truncated last page.
     const std::string& Bytes() const { return m_bytes; }
 
-    /// The same as a file that needs no log.
+    /// The same content as a file that needs no log.
     std::string AsPlainFile() const;
 
 private:
@@ -32,6 +32,5 @@ private:
     std::string m_bytes;
 };
 
-/// The number in `count` bytes of the text from `position` on, the highest byte first. The bytes
-/// must be there.
+/// The number in `count` bytes of the text from `position`, high byte first. The bytes must exist.
 std::uint64_t BigEndian(std::string_view bytes, std::size_t position, std::size_t count);

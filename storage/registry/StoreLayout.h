@@ -8,14 +8,14 @@
 
 class Connection;
 
-/// What is in a store file, and which versions of it there are. docs/store.md describes it.
+/// The schema of the store file and its versions, described in docs/store.md.
 namespace StoreLayout {
 
-/// "Loan", in the file's header: the file is one of this program's stores.
+/// "Loan", in the file's header: identifies the program's stores.
 inline constexpr std::int64_t ApplicationId = 0x4C6F'616E;
 
-/// Each row brings a store to the next version; the first makes an empty file one. A new layout is
-/// a row more, and no row is ever changed.
+/// Each row migrates a store to the next version; the first row fills an empty file. A new schema
+/// adds a row; existing rows never change.
 inline constexpr std::array<const char*, 1> Steps{
     "CREATE TABLE Keys(id INTEGER PRIMARY KEY, parent INTEGER NOT NULL, "
     "folded BLOB NOT NULL, name TEXT NOT NULL) STRICT;"
@@ -27,21 +27,21 @@ inline constexpr std::array<const char*, 1> Steps{
 inline constexpr std::int64_t Version = Steps.size();
 
 enum class State {
-    Empty, ///< a file without anything in it yet
-    Older, ///< can be brought to this version
+    Empty, ///< a file without content
+    Older, ///< can be migrated to this version
     Current,
     Newer,   ///< from a later version of the program: neither read nor written
-    Foreign, ///< no store of this program
+    Foreign, ///< not a store of this program
 };
 
 /// Throws StoreError when the file cannot be read.
 State StateOf(const Connection& connection);
 
-/// Brings an empty or older store to the version that the steps end at, within the caller's
-/// transaction: kept with it as a whole or, when a step fails with StoreError, not at all.
+/// Migrates an empty or older store to the version after the last step, within the caller's
+/// transaction. When a step fails with StoreError, nothing of it is committed.
 void Migrate(const Connection& connection, std::span<const char* const> steps = Steps);
 
-/// A table or an index as SQLite notes it in a store of this version.
+/// A table or an index, as in SQLite's schema table of a store of this version.
 struct Object {
     std::string kind;
     std::string name;

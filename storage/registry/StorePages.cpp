@@ -9,8 +9,8 @@ constexpr std::size_t FileHeader = 100;
 constexpr std::size_t LinkSize = 4;
 constexpr std::size_t SmallestCell = 4;
 
-/// A number of one to nine bytes, seven bits each and eight in the ninth; the position moves behind
-/// it. No value at the end of the bytes.
+/// A number of one to nine bytes: seven bits each, eight in the ninth. Moves the position past it.
+/// No value when the bytes end early.
 std::optional<std::uint64_t> Varint(std::string_view bytes, std::size_t& position) {
     std::uint64_t number = 0;
     for (int i = 0; i < 9; ++i) {
@@ -29,7 +29,7 @@ std::optional<std::uint64_t> Varint(std::string_view bytes, std::size_t& positio
     return number;
 }
 
-/// How much of a content of that length stands on the page itself.
+/// How much of a content of that length is on the page itself.
 std::size_t LocalLength(std::size_t length, std::size_t page, bool table) {
     const std::size_t most = table ? page - 35 : (page - 12) * 64 / 255 - 23;
     if (length <= most) {
@@ -40,8 +40,8 @@ std::size_t LocalLength(std::size_t length, std::size_t page, bool table) {
     return wanted <= most ? wanted : least;
 }
 
-/// The bytes that are free between the cells: a chain of blocks, each with the place of the next
-/// and its own size. No value when the chain is broken.
+/// The number of free bytes between the cells. They form a chain of blocks, each with the offset of
+/// the next and its own size. No value when the chain is broken.
 std::optional<std::size_t> FreeBytes(std::string_view page, std::size_t first) {
     std::size_t sum = 0;
     std::size_t end = 0;
@@ -66,7 +66,7 @@ std::int64_t SignedNumber(std::string_view bytes) {
     return static_cast<std::int64_t>(number << unused) >> unused;
 }
 
-/// The length that a column's type code stands for. No value for a code without a meaning.
+/// The length for a column's type code; no value for an undefined code.
 std::optional<std::size_t> LengthOf(std::uint64_t code) {
     constexpr std::array<std::size_t, 10> Lengths{0, 1, 2, 3, 4, 6, 8, 8, 0, 0};
     if (code < Lengths.size()) {

@@ -14,17 +14,17 @@ struct Field {
 
     Kind kind = Kind::Null;
     std::int64_t number = 0;
-    std::string_view bytes; ///< of a text or blob, inside the row that was read
+    std::string_view bytes; ///< of a text or blob; points into the row that was read
 };
 
-/// A row or an entry of an index, or on an inner page the way to a child.
+/// A table row or an index entry; on an inner page, the link to a child page.
 struct Cell {
-    std::uint32_t child = 0;    ///< the page with what comes before it; 0 on a leaf
-    std::int64_t row = 0;       ///< of a table: its number
-    std::size_t size = 0;       ///< bytes that it takes on its page
-    std::string_view local;     ///< what stands of its content on its page
-    std::size_t length = 0;     ///< of its content
-    std::uint32_t overflow = 0; ///< the page on which the content goes on, or 0
+    std::uint32_t child = 0;    ///< the page of the entries before this one; 0 on a leaf
+    std::int64_t row = 0;       ///< the row number, in tables
+    std::size_t size = 0;       ///< bytes used on its page
+    std::string_view local;     ///< the part of the content on its page
+    std::size_t length = 0;     ///< of the whole content
+    std::uint32_t overflow = 0; ///< the page where the content continues, or 0
 };
 
 struct TreePage {
@@ -35,25 +35,25 @@ struct TreePage {
 
     Kind kind = Kind::LeafTable;
     std::uint32_t lastChild = 0; ///< of an inner page
-    std::vector<Cell> cells;     ///< those that can be read
-    bool whole = true;           ///< all can be read, and every byte of the page is accounted for
+    std::vector<Cell> cells;     ///< those that are readable
+    bool whole = true;           ///< all are readable, and every byte of the page is accounted for
 };
 
-/// Reads the pages of a store without trusting anything on them. It reads what is there and does
-/// not say whether it makes sense.
+/// Reads the pages of a store without trusting their content. Does not check whether the data makes
+/// sense.
 class StorePages {
 public:
     explicit StorePages(const StoreImage& image) : m_image(&image) {}
 
-    /// No value for a page that is none of a tree.
+    /// No value when the page is not part of a tree.
     std::optional<TreePage> Read(std::uint32_t number) const;
 
-    /// All of a cell's content; `whole` holds it where it goes over several pages, and `used`, if
-    /// given, gets their numbers. No value when the pages are not there.
+    /// The whole content of a cell. `whole` is the buffer for content on several pages; `used`, if
+    /// given, receives the numbers of the overflow pages. No value when pages are missing.
     std::optional<std::string_view> Content(const Cell& cell, std::string& whole,
                                             std::vector<std::uint32_t>* used = nullptr) const;
 
-    /// Splits the content of a cell into its columns. False when it is none.
+    /// Splits the content of a cell into columns. False when the content is invalid.
     static bool Split(std::string_view content, std::vector<Field>& fields);
 
 private:

@@ -8,14 +8,14 @@
 #include <string_view>
 #include <vector>
 
-/// What the rows of a store look like, so that they are known wherever they are found.
+/// The formats of the rows of a store, so that they are recognized wherever they are found.
 
-/// The name of a key, from the table of keys or, without its case, from their index.
+/// The name of a key, from the table of keys or, in upper case only, from its index.
 struct KeyRow {
     std::int64_t id;
     std::int64_t parent;
     std::string_view folded;
-    std::string_view name; ///< empty from the index
+    std::string_view name; ///< empty when read from the index
 };
 
 struct ValueRow {
@@ -26,8 +26,7 @@ struct ValueRow {
     std::string_view data;
 };
 
-/// An object of the store: a table or an index of one, the page of its root and the command that
-/// made it.
+/// An object of the schema: a table or an index, its root page and the command that created it.
 struct SchemaRow {
     std::string_view kind;
     std::string_view name;
@@ -36,7 +35,7 @@ struct SchemaRow {
     std::string_view command;
 };
 
-/// The row that the columns are, or no value when they are none of its kind.
+/// The row that the columns form; no value when they do not match its format.
 std::optional<KeyRow> AsKeyRow(std::int64_t row, const std::vector<Field>& fields);
 std::optional<KeyRow> AsKeyIndexRow(const std::vector<Field>& fields);
 std::optional<ValueRow> AsValueRow(const std::vector<Field>& fields);

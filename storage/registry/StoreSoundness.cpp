@@ -17,13 +17,13 @@ namespace {
 constexpr std::size_t HeaderSize = 100;
 constexpr std::string_view Magic{"SQLite format 3\0", 16};
 constexpr int DeepestTree = 20;
-/// Versions far above are no versions but damage.
+/// A version far above is damage.
 constexpr std::uint64_t LastVersion = 9'999;
 
-/// Rows in the order of their number, or entries in the order of the key and name before them.
+/// The sort key of rows (row number) or of entries (key and name).
 using Order = std::tuple<std::int64_t, std::string>;
 
-/// Where a row stands in the order of its tree; no value when it is none of that tree.
+/// The sort key of a row in its tree; no value when it does not belong to the tree.
 using Ranking = std::function<std::optional<Order>(std::int64_t row, const std::vector<Field>&)>;
 
 std::optional<Order> RankValue(std::int64_t, const std::vector<Field>& fields) {
@@ -31,13 +31,13 @@ std::optional<Order> RankValue(std::int64_t, const std::vector<Field>& fields) {
     return value ? std::optional<Order>({value->key, std::string(value->folded)}) : std::nullopt;
 }
 
-/// Of what the table of keys and their index both say.
+/// Covers what both the table of keys and its index contain.
 std::size_t HashOf(const KeyRow& key) {
     const std::string numbers = std::to_string(key.id) + ' ' + std::to_string(key.parent) + ' ';
     return std::hash<std::string>()(numbers + std::string(key.folded));
 }
 
-/// To the letter, since SQLite opens no store in which any of it is otherwise.
+/// Exact comparison: SQLite opens no store in which any of this differs.
 bool IsOfLayout(const SchemaRow& row) {
     return std::ranges::any_of(StoreLayout::Objects(), [&row](const StoreLayout::Object& object) {
         return row.kind == object.kind && row.name == object.name && row.table == object.table &&
@@ -57,7 +57,7 @@ public:
 private:
     bool HeaderFits() const {
         const std::string_view bytes = m_image.Bytes();
-        const std::uint64_t modes = BigEndian(bytes, 18, 2); // with a log or without
+        const std::uint64_t modes = BigEndian(bytes, 18, 2); // with or without a log
         return (modes == 0x0202 || modes == 0x0101) &&
                BigEndian(bytes, 16, 2) == m_image.PageSize() % 65'535 &&
                BigEndian(bytes, 28, 4) == m_image.PageCount() &&
@@ -68,7 +68,7 @@ private:
                BigEndian(bytes, 56, 4) == 1;
     }
 
-    /// False when the page has a place already, or is none.
+    /// False when the page does not exist or is already used.
     bool Use(std::uint32_t number) {
         if (number == 0 || number > m_image.PageCount() || m_used[number]) {
             return false;
@@ -113,7 +113,7 @@ private:
     }
 
     bool WalkTrees() {
-        // What the table says of each key and what the index says cancel each other out.
+        // The hashes of the keys in the table and in the index cancel each other out.
         std::size_t sum = 0;
         const auto rankKey = [&sum](std::int64_t row, const std::vector<Field>& fields) {
             const auto key = AsKeyRow(row, fields);
@@ -157,7 +157,7 @@ private:
         return !page->IsInner() || WalkPage(page->lastChild, ranking, depth + 1);
     }
 
-    /// What came before an inner page's number is not above it, and what comes is.
+    /// Rows before an inner page's number are not above it, and rows after it are.
     bool PassBound(std::int64_t row) {
         const bool fits = std::get<0>(m_last) <= row;
         m_last = {row, {}};

@@ -4,9 +4,9 @@
 
 class StoreImage;
 
-/// What the first page says that the file is.
+/// The type of the file, according to its first page.
 enum class StoreKind {
-    NoStore, ///< no store of this program, or the page is damaged
+    NoStore, ///< not a store of this program, or the page is damaged
     Older,
     Current,
     Newer,
@@ -14,7 +14,7 @@ enum class StoreKind {
 
 StoreKind KindOf(const StoreImage& image);
 
-/// Whether a store of this version is whole: every page has its one place, every row its form and
-/// its order. Damage inside a text or a number that leaves its length as it was cannot be seen.
-/// Takes some microseconds for each worksheet. It is strict: what it finds sound is.
+/// Whether a store of this version is intact: every page is used exactly once, every row has its
+/// format and its order. Damage inside a text or number that keeps its length is not detected.
+/// Takes some microseconds per worksheet. The check is strict: a store that passes is intact.
 bool IsSound(const StoreImage& image);

@@ -6,29 +6,29 @@
 #include <memory>
 #include <optional>
 
-/// A store that is open while a step runs. After its first failure, and after its end, it does
-/// nothing more, so that nothing is kept of a step that is broken.
+/// An open store during a transaction. After its first failure, and after its end, all calls do
+/// nothing, so that nothing of a failed transaction is committed.
 class StoreStep {
 public:
     enum class Kind { Reads, Writes };
 
     StoreStep(std::unique_ptr<OpenStore> store, Kind kind)
         : m_store(std::move(store)), m_kind(kind) {}
-    /// One for a store that could not be opened.
+    /// For a store that could not be opened.
     StoreStep(StoreError error, Kind kind) : m_kind(kind), m_error(std::move(error)) {}
 
     bool Writes() const { return m_kind == Kind::Writes; }
     bool IsWhole() const { return m_store != nullptr; }
-    /// What broke it, if anything did.
+    /// The failure that broke the transaction, if any.
     const std::optional<StoreError>& Error() const { return m_error; }
-    /// Whether that is damage of the store.
+    /// Whether that failure is damage of the store.
     bool MetDamage() const { return m_error && m_error->IsDamage(); }
 
-    /// False when the action failed, now or before.
+    /// False when this action or an earlier one failed.
     bool Run(const std::function<void(KeyTree&)>& action);
-    /// Keeps what was written and ends the step; false when it could not be kept.
+    /// Commits and ends the transaction; false when the commit failed.
     bool Keep();
-    /// Ends the step and gives up what was written.
+    /// Ends the transaction and discards its writes.
     void Break() { m_store.reset(); }
 
 private:

@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What a store needs at the least to be made or changed.
+/// The least space needed to create or change a store, in bytes.
 constexpr std::uintmax_t LeastSpace = 64 * 1'024;
 
 StoreTrouble TroubleOfSystem(int error) {
@@ -36,7 +36,7 @@ StoreTrouble TroubleOfRights(const fs::path& path, int rights) {
     return access(path.c_str(), rights) == 0 ? StoreTrouble::Unknown : TroubleOfSystem(errno);
 }
 
-/// The folder of the store, or the one in which it would have to be made.
+/// The folder of the store, or the nearest existing one above it.
 fs::path NearestFolder(const fs::path& store) {
     fs::path folder = store.parent_path();
     std::error_code error;

@@ -6,6 +6,6 @@
 
 class StoreError;
 
-/// Why the store at this place could not be read or written: what SQLite says and, where it says
-/// only that it could not, what the file system says of the place now.
+/// Why the store at this path could not be read or written: SQLite's reason or, if SQLite gives
+/// none, the current state of the file system.
 StoreTrouble TroubleOf(const StoreError& error, const std::filesystem::path& store);

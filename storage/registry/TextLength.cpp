@@ -5,7 +5,7 @@
 
 bool IsReadableLength(const std::string& text) {
     if (text.size() <= LongestText) {
-        return true; // a character takes a byte at least
+        return true; // a character has at least one byte
     }
     const QString characters = QString::fromStdString(text);
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, characters);

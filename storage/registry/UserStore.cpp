@@ -6,7 +6,7 @@
 
 namespace {
 
-// A relative folder is to be ignored: it would be another one wherever the program is started.
+// Relative folders are ignored: they would depend on the working directory.
 
 std::filesystem::path HomeFolder() {
     const char* const home = std::getenv("HOME");

@@ -7,10 +7,10 @@ namespace {
 constexpr std::string_view Replacement = "\xEF\xBF\xBD";
 
 struct Form {
-    unsigned char mask; ///< the bits of the first byte that tell the form
-    unsigned char mark; ///< and what they are
+    unsigned char mask; ///< the bits of the first byte that identify the form
+    unsigned char mark; ///< the value of those bits
     std::size_t length;
-    char32_t least; ///< the first character that is not written shorter
+    char32_t least; ///< the first character that has no shorter form
 };
 
 constexpr std::array<Form, 4> Forms{{
@@ -38,7 +38,7 @@ bool IsCharacter(char32_t character, const Form& form) {
     return character >= form.least && character <= 0x10FFFF && !surrogate;
 }
 
-/// The length of the form at `position` and its character, or no length when there is none.
+/// The length of the form at `position` and its character; length 0 when it is invalid.
 struct Decoded {
     std::size_t length = 0;
     char32_t character = ReplacementCharacter;

@@ -6,20 +6,20 @@
 #include <optional>
 #include <string>
 
-/// The bytes behind a value, the same on every platform: the characters of a text, the bytes of a
-/// binary value, the four bytes of a number with the lowest first. A text is kept without an end
-/// mark, and read with one NUL behind it.
+/// The bytes of a value, the same on every platform: the characters of a text, the bytes of a
+/// binary value, the four bytes of a number, low byte first. A text is stored without a terminator
+/// and read with one NUL after it.
 
-/// The longest binary value that is read back.
+/// The longest binary value that can be read back.
 inline constexpr std::size_t LongestBinary = 4'096;
 
 bool IsKnownType(std::int16_t type);
 
-/// The bytes to keep for a value of that type, the value converted where it is of another: a number
-/// to a text in decimal, a text of decimal digits to a number. No bytes, and nothing to write, for
-/// what cannot be converted and for an unknown type.
+/// The bytes to store for a value of that type. Converts other types: a number to a decimal text, a
+/// text of decimal digits to a number. No value when the conversion fails or the type is unknown;
+/// nothing is written then.
 std::optional<std::string> BytesOfValue(std::int16_t type, const RegistryValue& value);
 
-/// What the bytes mean to a reader who asks for that type, whatever type they were written with. A
-/// text loses one NUL at its end. No value when they are too long for a reader of that type.
+/// Interprets the bytes as that type, whatever type was written. A text loses one NUL at its end.
+/// No value when there are too many bytes for the type.
 std::optional<RegistryValue> ValueOfBytes(std::int16_t type, const std::string& bytes);

@@ -1,5 +1,5 @@
-// The seven procedures on the platform's own registry. Its calls take texts in the program's code
-// page, which the program's manifest makes UTF-8.
+// The seven functions on the platform's own registry. Its calls take texts in the program's code
+// page, which the program's manifest sets to UTF-8.
 #include "RegistryAPI.h"
 
 #include "KeyPath.h"
@@ -15,11 +15,11 @@
 
 namespace {
 
-constexpr std::size_t MostBytesOfCharacter = 3; // of each unit of UTF-16
+constexpr std::size_t MostBytesOfCharacter = 3; // for each UTF-16 unit
 constexpr DWORD MostSubkeys = 1'000'000;
 
 HKEY HandleOf(RegistryRoot root) {
-    // The predefined handles are negative numbers of 32 bits.
+    // The predefined handles are negative 32-bit numbers.
     const auto number = static_cast<std::int32_t>(static_cast<std::uint32_t>(root));
     return reinterpret_cast<HKEY>(static_cast<LONG_PTR>(number));
 }
@@ -29,7 +29,7 @@ StoreFailure NotMade(LSTATUS status = ERROR_SUCCESS) {
                                                       : StoreTrouble::Unknown);
 }
 
-/// A key that is open while this lives, or none. The predefined keys are never closed.
+/// An open key, closed on destruction, or none. Predefined keys are never closed.
 class OpenKey {
 public:
     OpenKey() = default;
@@ -54,8 +54,8 @@ private:
     HKEY m_key = nullptr;
 };
 
-/// A path cut into parts that the calls can take, each of one element or more: they hold no more
-/// than a name's length at once. A usual path is one part. No value when no key can have the path.
+/// A path split into parts of one or more elements each, because a call takes no more than the
+/// length of one name. A usual path is one part. No value for an invalid path.
 std::optional<std::vector<std::string>> PartsOf(const std::string& keyName) {
     const auto elements = PathElements(keyName);
     if (!elements) {
@@ -73,8 +73,8 @@ std::optional<std::vector<std::string>> PartsOf(const std::string& keyName) {
     return parts;
 }
 
-/// Opens the parts one below the other, all but the last only to get there. None at all is the
-/// root. No key when one of them is missing or may not be opened so.
+/// Opens the parts one below the other; only the last one with `rights`. No parts: the root. No key
+/// when one of them is missing or cannot be opened with these rights.
 OpenKey Open(RegistryRoot root, const std::vector<std::string>& parts, REGSAM rights) {
     OpenKey key;
     HKEY parent = HandleOf(root);
@@ -98,7 +98,7 @@ OpenKey Open(RegistryRoot root, const std::string& keyName, REGSAM rights) {
 
 BYTE* BytesIn(std::string& buffer) { return reinterpret_cast<BYTE*>(buffer.data()); }
 
-/// The bytes of a value, however many there are; no value when there is none.
+/// All bytes of a value, however many; no value when it does not exist.
 std::optional<std::string> Query(HKEY key, const std::string& name) {
     std::string buffer(LongestBinary, ' ');
     for (;;) {
@@ -148,9 +148,9 @@ bool RegistryAPI::CreateKey(RegistryRoot keyRoot, const std::string& keyName) co
     }
     OpenKey key;
     HKEY parent = HandleOf(keyRoot);
-    DWORD disposition = REG_OPENED_EXISTING_KEY; // as the root does
+    DWORD disposition = REG_OPENED_EXISTING_KEY; // the root always exists
     for (std::size_t i = 0; i < parts->size(); ++i) {
-        // Nothing is asked of the last one, which is closed at once.
+        // The last key needs no rights, because it is closed at once.
         const REGSAM rights = i + 1 < parts->size() ? KEY_CREATE_SUB_KEY : 0;
         HKEY opened = nullptr;
         const LSTATUS status = RegCreateKeyExA(parent, (*parts)[i].c_str(), 0, nullptr, 0, rights,
@@ -213,7 +213,7 @@ void RegistryAPI::SetValue(RegistryRoot keyRoot, const std::string& keyName,
         return;
     }
     if (type == RegistryType::Text && bytes->ends_with('\0')) {
-        *bytes += '\0'; // the platform takes the last one for the end mark
+        *bytes += '\0'; // the platform treats the last NUL as the terminator
     }
     RegSetValueExA(key.Handle(), name->c_str(), 0, static_cast<DWORD>(type), BytesIn(*bytes),
                    static_cast<DWORD>(bytes->size()));

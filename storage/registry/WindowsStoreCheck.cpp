@@ -1,6 +1,6 @@
 #include "StoreCheck.h"
 
-// The platform looks after its registry itself.
+// The platform maintains its registry itself.
 
 StoreCondition PrepareStore(const std::filesystem::path&, const std::string&, const NamedKeys&) {
     return {};

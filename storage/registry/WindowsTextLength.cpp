@@ -14,8 +14,8 @@ struct Range {
     char32_t last;
 };
 
-/// What belongs to the character before it: accents, marks of the scripts read here, variants, skin
-/// tones, tags.
+/// Code points that belong to the character before them: accents, marks of the scripts read here,
+/// variants, skin tones, tags.
 constexpr std::array<Range, 13> Extending{{
     {0x0300, 0x036F},
     {0x0483, 0x0489},
@@ -46,7 +46,7 @@ bool IsReadableLength(const std::string& text) {
     char32_t before = 0;
     for (std::size_t position = 0; position < text.size();) {
         const char32_t character = NextCharacter(text, position);
-        // A joiner ties the picture that follows to the one before it.
+        // A joiner connects the next emoji to the previous one.
         if (!Extends(character) && before != Joiner) {
             ++count;
         }

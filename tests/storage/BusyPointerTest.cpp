@@ -1,4 +1,4 @@
-// The hourglass stands while something takes its time, and is gone afterwards.
+// The hourglass is shown during a long action and disappears afterwards.
 
 #include "FileCommands.h"
 #include "LoanNameBox.h"
@@ -34,7 +34,7 @@ TEST_F(BusyPointerOfTheStore, StandsWhileAWorksheetIsLoaded) {
     SheetToWrite().SetLoanName(u"Home"_s);
     LoanStore(folder.Store()).Save(SheetToWrite());
 
-    Open(); // six rows: two are made while the worksheet is loaded
+    Open(); // six rows: two are created while the worksheet loads
     const FileCommands again(Window(), LoanStore(folder.Store()));
     std::optional<Qt::CursorShape> meanwhile;
     QObject::connect(&Window().Rows(), &OfferRows::RowCreated, &Window(),

@@ -11,7 +11,7 @@
 
 #include <memory>
 
-/// The window with its File menu on a store of its own, and what a user does with it.
+/// The window with its File menu on a separate store, and user actions on it.
 class FileCommandsTest : public WindowTest {
 protected:
     FileCommandsTest() { Begin({}, m_folder.Store()); }
@@ -22,7 +22,7 @@ protected:
         Open(start);
         Take(store);
     }
-    /// Goes on with this store.
+    /// Continues with this store.
     void Take(const RegistryAPI& store) {
         m_files.reset();
         m_files = std::make_unique<FileCommands>(Window(), LoanStore(store));
@@ -45,7 +45,7 @@ protected:
         Trigger(u"mnuFileSave");
         ASSERT_FALSE(Sheet().Dirty());
     }
-    /// Opens the list of names by its key and takes an entry.
+    /// Opens the list of names by its key and selects an entry.
     void Pick(int index) {
         Click(u"cboLoanName");
         Press(Qt::Key_Down);

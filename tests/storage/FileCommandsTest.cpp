@@ -1,4 +1,4 @@
-// The File menu and the box of the loan's name, worked by a user in the real window.
+// The File menu and the loan name box, operated by a user in the real window.
 
 #include "FileCommandsFixture.h"
 
@@ -200,7 +200,7 @@ TEST_F(FileCommandsTest, DroppingTheListDownTakesTheNameTyped) {
     EXPECT_EQ(FocusName(), u"cboLoanName");
 }
 
-/// A copy under a new name, and another worksheet picked before it is saved.
+/// A copy under a new name; another worksheet is selected before the copy is saved.
 TEST_F(FileCommandsTest, TheNameTypedIsAskedAboutAndSavedUnder) {
     KeepLoan(u"AA", u"1000");
     KeepLoan(u"BB", u"2000");
@@ -278,7 +278,7 @@ const std::vector<UnsavedCase> UnsavedCases{
     {"unnamed, dropped", false, Answer::No, true, false},
 };
 
-/// What asks before it drops unsaved changes.
+/// The actions that ask before unsaved changes are dropped.
 enum class Leaving { ByPick, ByNew, ByClosing };
 
 class Unsaved : public FileCommandsTest, public testing::WithParamInterface<Leaving> {
@@ -361,13 +361,13 @@ TEST_F(FileCommandsTest, DeletingAsksAndStartsAnew) {
 
 TEST_F(FileCommandsTest, DeletingAnUnnamedWorksheet) {
     Fill(u"txtLoanAmount", u"7");
-    Trigger(u"mnuFileDelete"); // with changes: cleared, without a question
+    Trigger(u"mnuFileDelete"); // with changes: cleared without a question
     EXPECT_TRUE(Door().Questions().empty());
     EXPECT_EQ(Sheet().LoanAmount(), Money());
     EXPECT_FALSE(Sheet().Dirty());
     EXPECT_EQ(FocusName(), u"cboLoanName");
     Door().WillAnswer({Answer::Yes});
-    Trigger(u"mnuFileDelete"); // without changes: asked, then told
+    Trigger(u"mnuFileDelete"); // without changes: a question, then a message
     ASSERT_EQ(Door().Questions().size(), 1U);
     EXPECT_EQ(SettledMessages(),
               QStringList(u"There is no worksheet to delete: the loan has no name."_s));

@@ -1,4 +1,4 @@
-// What the File menu tells of names that cannot be, and of a store that fails or was repaired.
+// The messages of the File menu about invalid names, and about a store that fails or was recovered.
 
 #include "FileCommandsFixture.h"
 
@@ -15,7 +15,7 @@ namespace {
 
 class FileTrouble : public FileCommandsTest {
 protected:
-    /// Writes over the first page of a store.
+    /// Overwrites the first page of a store.
     static void Damage(const std::filesystem::path& file) {
         sqlite3* connection = nullptr;
         ASSERT_EQ(sqlite3_open(file.c_str(), &connection), SQLITE_OK);
@@ -83,7 +83,7 @@ TEST_F(FileTrouble, APickFromAStoreOutOfReachChangesNothing) {
     EXPECT_EQ(Sheet().LoanAmount(), Money::FromDouble(2'000));
 }
 
-/// Another program writes: what it holds up says so, before the line that can be looked up.
+/// Another program is writing: the message gives this reason first, then the failure.
 TEST_F(FileTrouble, AStoreInUseIsToldInBothLanguages) {
     struct {
         int language;
@@ -138,7 +138,7 @@ TEST_F(FileTrouble, BadValuesAreToldInOneMessage) {
     EXPECT_EQ(Text(u"txtLoanAmount"), u"$70,000.00");
 }
 
-/// The store is damaged while the program runs; the next save repairs it and is made.
+/// The store is damaged while the program runs; the next save recovers it and succeeds.
 TEST_F(FileTrouble, ARepairInTheMiddleOfASaveIsToldOnce) {
     struct {
         int language;

@@ -1,7 +1,7 @@
-// Kept worksheets with anything in them: nothing crashes, nothing hangs, no endless rows, and what
-// came in can be kept and read again without another change.
+// Saved worksheets with arbitrary content: no crash, no hang, no endless rows. What was loaded can
+// be saved and loaded again unchanged.
 //
-// A worksheet is written as lines of "name = text", as those in tests/data/loan-corpus are.
+// A worksheet is written as lines of "name = text", like those in tests/data/loan-corpus.
 
 #include "LoanStore.h"
 
@@ -164,7 +164,7 @@ protected:
             sheet.worksheet.GrowOfferArrays(sheet.worksheet.HighestOfferRow(), last);
         });
     }
-    /// What a figure of the worksheet is, whatever its text.
+    /// The numeric values of the worksheet, independent of their texts.
     static std::vector<std::int64_t> FiguresOf(const Worksheet& sheet) {
         std::vector<std::int64_t> figures{
             sheet.LoanAmount().TenThousandths(),        sheet.LoanTerm(),

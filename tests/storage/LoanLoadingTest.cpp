@@ -1,4 +1,4 @@
-// Worksheets brought back of which something is missing, wrong or computed; a store that fails.
+// Loading worksheets with missing, invalid or calculated values, and from a store that fails.
 
 #include "LoanStoreFixture.h"
 
@@ -121,12 +121,12 @@ TEST_F(LoanLoading, ThePaymentOfTheLoanHeldTodayIsTheOneThatWasKept) {
         EXPECT_EQ(row.loaded, read.worksheet.CurrentPayment());
         EXPECT_EQ(row.shown, read.display.TextOf({FieldId::CurPayment}));
         EXPECT_FALSE(read.worksheet.Dirty());
-        read.worksheet.RecalculateCurrentPayment(); // as when one of its inputs is left
+        read.worksheet.RecalculateCurrentPayment(); // as when one of its inputs loses focus
         EXPECT_EQ(computed, read.worksheet.CurrentPayment());
     }
 }
 
-/// What is missing of the loan held today is marked at once.
+/// Missing values of the current loan are marked at once.
 TEST_F(LoanLoading, WhatIsMissingOfTheLoanHeldTodayIsMarked) {
     Sheet sheet;
     sheet.worksheet.SetLoanName(u"Our new home"_s);
@@ -139,7 +139,7 @@ TEST_F(LoanLoading, WhatIsMissingOfTheLoanHeldTodayIsMarked) {
     EXPECT_EQ(FrequencyCodeToText(u"M"_s), read.worksheet.CurrentFrequency());
 }
 
-/// The intended payment is assigned before the rate: an offer of before must not refuse it.
+/// The intended payment is assigned before the rate, so an old offer must not reject it.
 TEST_F(LoanLoading, LoadingOverOtherOffersRefusesNoPayment) {
     Sheet sheet;
     Fill(sheet.worksheet);

@@ -1,5 +1,5 @@
-// Any text as the name of a worksheet or about a lender: what the store says it can hold comes back
-// the same, to the letter.
+// Any text as a worksheet name or as a text about a lender: what the store accepts is read back
+// unchanged.
 
 #include "Fuzzing.h"
 #include "HostileTexts.h"
@@ -19,7 +19,7 @@ protected:
     }
 
     void Try(const std::string& input) const {
-        // Half of a character becomes the mark for one that is unknown, as anywhere.
+        // Half of a surrogate pair becomes U+FFFD.
         const QString text = QString::fromUtf8(TextOf(input).toUtf8());
         const LoanStore store(m_folder.Store());
         Sheet sheet;

@@ -17,7 +17,7 @@ inline constexpr int Spanish = 2;
 
 inline Money Units(double units) { return Money::FromDouble(units); }
 
-/// Everything that a worksheet keeps has a value of its own.
+/// Gives every saved value a different content.
 inline void Fill(Worksheet& w) {
     w.SetLoanName(QStringLiteral("Our new home"));
     w.SetLoanType(QStringLiteral("M"));
@@ -47,7 +47,7 @@ inline void FillOffer(Worksheet& w, Row row, const QString& who) {
     offer.SetWho(who);
 }
 
-/// A store of its own for worksheets without a window.
+/// A separate store for worksheets without a window.
 class LoanStoreTest : public testing::Test {
 protected:
     LoanStoreTest() {

@@ -1,4 +1,4 @@
-// Worksheets kept and brought back: every value by its name, whatever language and locale.
+// Worksheets saved and loaded: every value by its name, in any language and locale.
 
 #include "LoanStoreFixture.h"
 
@@ -68,7 +68,7 @@ TEST_F(LoanStoreTest, AnEmptyWorksheetIsKeptAsZeros) {
     EXPECT_EQ("(missing)", Kept("Loan 1 Who"));
 }
 
-/// What a worksheet would keep, as it stands.
+/// The values that this worksheet would save.
 std::map<std::string, std::string> ValuesOf(Worksheet& worksheet) {
     const StoreFolder folder;
     worksheet.SetLoanName(u"same"_s);
@@ -234,7 +234,7 @@ TEST_F(LoanStoreTest, NamesThatCanAndCannotBeKeys) {
 TEST_F(LoanStoreTest, ANameThatNoWorksheetCanHaveReachesNoOther) {
     m_folder.Store().SetValue(StoreFolder::Root, BaseKey, "TermInMonths", RegistryType::Number, 5);
     Sheet nothing;
-    Loans().Delete(u"\\"_s); // with nothing saved, the settings would go
+    Loans().Delete(u"\\"_s); // must not delete the base key with the settings
     EXPECT_EQ(5, m_folder.Number(BaseKey, "TermInMonths"));
     for (const QString& saved : {u"Alpha"_s, u"half \uFFFD"_s}) {
         Sheet sheet;

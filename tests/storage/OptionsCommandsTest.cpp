@@ -1,4 +1,4 @@
-// Tools, Options: the dialog over the main window, the store and what the window shows afterwards.
+// Tools, Options: the dialog over the main window, the store, and the window afterwards.
 
 #include "OptionsCommands.h"
 #include "FakeMessages.h"
@@ -35,7 +35,7 @@ protected:
         Open(start);
         m_commands.emplace(Window(), m_store, m_pictures);
     }
-    /// Chooses the menu entry, and does this in the dialog. False when no dialog came up.
+    /// Triggers the menu entry and runs this in the dialog. False when no dialog appeared.
     bool Options(const std::function<void(frmOptions&)>& user) {
         bool shown = false;
         QTimer::singleShot(0, &Window(), [&] {

@@ -16,7 +16,7 @@
 
 class QImage;
 
-/// Stands in for the user looking for a picture: answers with `answer` and keeps what was asked.
+/// Replaces the picture dialog: returns `answer` and records the request.
 class FakePictures : public PictureChooser {
 public:
     QString Choose(QWidget& /*parent*/, const PictureRequest& request) override {
@@ -27,7 +27,7 @@ public:
     std::vector<PictureRequest> requests;
 };
 
-/// The dialog as a user meets it: on the screen, active, in a fixed language.
+/// The dialog as a user sees it: on the screen, active, in a fixed language.
 class OptionsDialog : public ::testing::Test, protected UserHands {
 protected:
     OptionsDialog();
@@ -35,14 +35,14 @@ protected:
     void Open(const Settings& settings = {}, int language = English);
     frmOptions& Dialog() { return *m_dialog; }
 
-    /// Into the field, whose text is replaced.
+    /// Replaces the text of the field.
     void TypeInto(QStringView name, QStringView text);
-    /// The messages there are once everything has happened.
+    /// The messages after all pending events.
     QStringList SettledMessages();
 
-    /// A file of this name in a folder of the test's own.
+    /// The path of this file name in the test's folder.
     QString PathOf(QStringView file) const { return m_folder.filePath(file.toString()); }
-    /// A picture of one colour, written in the format of its ending.
+    /// A picture of one colour, in the format of its extension.
     QString Picture(QStringView file, QSize size) const;
     QString File(QStringView file, const QByteArray& bytes) const;
 
@@ -57,7 +57,7 @@ private:
     std::unique_ptr<frmOptions> m_dialog;
 };
 
-/// The defaults, but for a picture and the folder where the next is looked for.
+/// The defaults, except for a picture and the folder where the next search starts.
 inline Settings WithPicture(const QString& picture, const QString& folder = {}) {
     Settings settings;
     settings.wallpaper = picture;
@@ -65,7 +65,7 @@ inline Settings WithPicture(const QString& picture, const QString& folder = {}) 
     return settings;
 }
 
-/// What text 88 says.
+/// The content of text 88.
 inline const QString RefusedInEnglish =
     QStringLiteral("Please enter a number of offers from 1 to 15.");
 inline const QString RefusedInSpanish = QStringLiteral("Escriba un número de ofertas del 1 al 15.");

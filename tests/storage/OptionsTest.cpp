@@ -1,4 +1,4 @@
-// The Options dialog by itself: what it takes, what it refuses, what it hands back.
+// The Options dialog on its own: input, rejected input, result.
 
 #include "CountSpin.h"
 #include "OptionsFixture.h"
@@ -50,7 +50,7 @@ TEST_F(OptionsDialog, ShowsTheSettings) {
     }
 }
 
-/// What is typed or pasted over the number, and what becomes of it when the field is left.
+/// Text typed or pasted over the number, and the result when the field loses focus.
 struct Entry {
     QStringView keys;
     QStringView shown;
@@ -68,7 +68,7 @@ const std::vector<Entry> TypedEntries = {
     {u"0", u"0", false},
     {u"16", u"16", false},
     {u"00", u"00", false},
-    {u"4294967297", u"4294967297", false}, // 1, were it cut to 32 bits
+    {u"4294967297", u"4294967297", false}, // would be 1 if truncated to 32 bits
     {u"99999999999999999999999", u"99999999999999999999999", false},
     {u"", u"", false},
     {u"abc+-., ", u"", false},
@@ -121,7 +121,7 @@ TEST_F(OptionsDialog, LetterLeavesTheSelectedNumberSelected) {
     EXPECT_EQ(Text(u"txtLoans"), u"") << "editing keys pass";
 }
 
-/// Ways of leaving the field, and what they would do were the number right.
+/// Ways of leaving the field, and their effect if the number were valid.
 TEST_F(OptionsDialog, RefusesHoweverTheFieldIsLeft) {
     const std::vector<std::pair<const char*, std::function<void()>>> ways = {
         {"tab key", [this] { Tab(); }},
@@ -198,7 +198,7 @@ TEST_F(OptionsDialog, IsClosedUnderItsMessage) {
     Open();
     TypeInto(u"txtLoans", u"16");
     Tab();
-    Press(Qt::Key_Escape); // before the message has come up
+    Press(Qt::Key_Escape); // before the message appears
     Open();
     EXPECT_EQ(SettledMessages().size(), 1);
     EXPECT_EQ(Text(u"txtLoans"), u"6");
@@ -209,7 +209,7 @@ TEST_F(OptionsDialog, StaysInTheFieldForMenusAndOtherWindows) {
     TypeInto(u"txtLoans", u"16");
     QWidget& field = Control(u"txtLoans");
     QContextMenuEvent menu(QContextMenuEvent::Keyboard, {}, field.mapToGlobal(QPoint()));
-    // The menu runs until it is closed.
+    // The context menu blocks until it is closed.
     bool shown = false;
     QTimer closer;
     QObject::connect(&closer, &QTimer::timeout, &closer, [&] {
@@ -291,7 +291,7 @@ TEST_F(OptionsDialog, WheelTurnsTheNumberOnlyWhereTheKeyboardIs) {
         const QPoint at = field.rect().center();
         QWheelEvent event(at, field.mapToGlobal(at), QPoint(), QPoint(0, 120), Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
-        QSpontaneKeyEvent::setSpontaneous(&event); // or it could never give the focus
+        QSpontaneKeyEvent::setSpontaneous(&event); // otherwise it could never move the focus
         qApp->notify(&field, &event);
         return Text(u"txtLoans");
     };

@@ -1,4 +1,4 @@
-// The words of the Options dialog: all there, in every language, none cut off, access keys clear.
+// The texts of the Options dialog: complete in every language, not cut off, unique access keys.
 
 #include "CountSpin.h"
 #include "Language.h"
@@ -26,7 +26,7 @@ enum Need : unsigned {
     Name = 4,
 };
 
-/// The controls, and which words each must have by number. All have a help topic.
+/// The controls, and which texts each needs by number. All have a help topic.
 struct Expected {
     QStringView name;
     unsigned needs;

@@ -1,4 +1,4 @@
-// The toolkit's dialog in which a picture is looked for.
+// Qt's dialog for selecting a picture.
 
 #include "PictureDialog.h"
 #include "OptionsFixture.h"
@@ -18,7 +18,7 @@ namespace {
 
 class LookingForAPicture : public OptionsDialog {
 protected:
-    /// What comes of the dialog when the user does this in it.
+    /// The result of the dialog after these user actions.
     QString Choose(const PictureRequest& request, const std::function<void(QFileDialog&)>& user) {
         int shown = 0;
         QTimer::singleShot(0, &Dialog(), [&] {

@@ -1,5 +1,5 @@
-// Files that are named as a background picture and are anything but: each is shown or refused, and
-// none holds the program up or takes its memory.
+// Invalid background picture files: each is shown or rejected, and none blocks the program or uses
+// up its memory.
 
 #include "Fuzzing.h"
 #include "OptionsFixture.h"
@@ -24,7 +24,7 @@ class PictureFuzz : public OptionsDialog {
 protected:
     PictureFuzz() { Open(); }
 
-    /// Shows the file as the window's background and as the sample; whether it is shown.
+    /// Shows the file as the window's background and as the preview. True when it is shown.
     bool Show(const QString& path) {
         const QuietToolkit quiet;
         Wallpaper wallpaper;
@@ -39,7 +39,7 @@ protected:
         EXPECT_TRUE(preview.pixmap().size().boundedTo(preview.size()) == preview.pixmap().size());
         return loaded;
     }
-    /// A picture under a name with this ending, or none.
+    /// Tries the bytes as a file with one of these extensions, or without one.
     void TryBytes(const std::string& bytes) {
         constexpr std::array<const char16_t*, 6> endings{u"",     u".bmp", u".png",
                                                          u".jpg", u".gif", u".txt"};
@@ -67,7 +67,7 @@ protected:
 };
 
 TEST_F(PictureFuzz, TheCorpusIsShownOrRefused) {
-    // The first of all readings makes the toolkit load its decoders.
+    // The first read makes Qt load its decoders.
     Show(Picture(u"first.bmp", {2, 2}));
     QElapsedTimer clock;
     clock.start();
@@ -123,7 +123,7 @@ TEST_F(PictureFuzz, OnlyAFileWithAPictureInItIsRead) {
     };
     for (const Case& tested : cases) {
         SCOPED_TRACE(tested.what);
-        alarm(20); // what hangs ends here
+        alarm(20); // ends a test that hangs
         EXPECT_EQ(Show(tested.path), tested.shown);
         EXPECT_EQ(Get<PicturePreview>(u"picWallpaper").pixmap().isNull(), !tested.shown);
     }

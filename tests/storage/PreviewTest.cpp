@@ -1,4 +1,4 @@
-// The sample of the background picture, and looking for one.
+// The preview of the background picture, and selecting a picture.
 
 #include "OptionsFixture.h"
 #include "PictureDialog.h"
@@ -25,7 +25,7 @@ namespace {
 const QString None = u"No picture"_s;
 const QString NotShown = u"This file cannot be shown as a picture."_s;
 
-/// The head of a bitmap that claims this size; the picture itself does not follow.
+/// The header of a bitmap that claims this size, without the pixel data.
 QByteArray BitmapHead(int width, int height, int bitsPerPixel) {
     QByteArray head(bitsPerPixel == 1 ? 62 : 54, '\0');
     const auto put = [&](int at, int value) { qToLittleEndian(qint32(value), head.data() + at); };
@@ -64,7 +64,7 @@ TEST_F(Preview, ShowsTheWholePictureInItsProportions) {
         EXPECT_TRUE(fits ? shown == tested.size : shown.boundedTo(Room()) == shown);
         EXPECT_LE(shown.width(), tested.size.width()) << "never larger than it is";
         EXPECT_LE(shown.height(), tested.size.height());
-        // By the longer side: the shorter one has at least a pixel, however small its share.
+        // Scale by the longer side: the shorter one is at least one pixel.
         const double scale = tested.size.width() >= tested.size.height()
                                  ? double(shown.width()) / tested.size.width()
                                  : double(shown.height()) / tested.size.height();
@@ -149,7 +149,7 @@ TEST_F(Preview, TakesAWholePictureForWhole) {
 }
 
 TEST_F(Preview, OfAnEnormousPictureCostsNeitherTimeNorMemory) {
-    // The files are really as large as their heads say, though not on the disk.
+    // The files have the size that their headers claim, but are sparse on the disk.
     for (const int bitsPerPixel : {1, 24}) {
         const int width = 20'000;
         const QString path = File(u"enormous.bmp", BitmapHead(width, width, bitsPerPixel));
@@ -193,7 +193,7 @@ TEST_F(Preview, SpeaksTheLanguageOfTheUser) {
 TEST_F(Preview, PictureIsLookedForWhereTheLastOneWas) {
     const QString picture = Picture(u"house.bmp", {30, 20});
     Open(WithPicture(u"/x/old.bmp"_s, u"/x/"_s));
-    Click(u"cmdWallpaper"); // and the user gives up
+    Click(u"cmdWallpaper"); // and the user cancels
     EXPECT_EQ(Text(u"txtWallpaper"), u"/x/old.bmp");
     EXPECT_EQ(Text(u"picWallpaper"), NotShown);
     m_pictures.answer = picture;

@@ -1,5 +1,5 @@
-// Settings and the place of the window, kept as anything: what cannot be is told or left out, and
-// the window stands on the screen.
+// Arbitrary saved settings and window geometry: invalid values are reported or left out, and the
+// window is on the screen.
 
 #include "Fuzzing.h"
 #include "HostileTexts.h"
@@ -54,7 +54,7 @@ protected:
         EXPECT_LT(settings.loansDisplayed, 15);
         SaveSettings(store, settings);
         const auto [again, refused] = LoadSettings(store);
-        EXPECT_TRUE(refused.empty()); // what was kept is sound
+        EXPECT_TRUE(refused.empty()); // what was saved is valid
         EXPECT_EQ(again.loansDisplayed, settings.loansDisplayed);
         EXPECT_EQ(again.termInMonths, settings.termInMonths);
         EXPECT_EQ(again.wallpaper, settings.wallpaper);

@@ -1,4 +1,4 @@
-// The settings in the store: what is read, what is refused, what is written.
+// The settings in the store: reading, rejected values, writing.
 
 #include "Language.h"
 #include "RegistryAPI.h"
@@ -41,7 +41,7 @@ protected:
         return std::get<std::string>(
             m_store.GetValue(Root, BaseKey, name, RegistryType::Text, std::string("(absent)")));
     }
-    /// The numbers of the failures, each of this value.
+    /// The failure numbers; every failure must be of this value.
     static std::vector<int> Failures(const StoredSettings& loaded, const char* name) {
         std::vector<int> numbers;
         for (const Failure& failure : loaded.failures) {
@@ -72,7 +72,7 @@ TEST_F(SettingsInTheStore, NumberOfOffers) {
     };
     const std::vector<Case> cases = {
         // stored    last row  failures
-        {1, 0, {}},   {6, 5, {}},   {15, 14, {}},        {0, 5, {}}, // stands for none
+        {1, 0, {}},   {6, 5, {}},   {15, 14, {}},        {0, 5, {}}, // missing
         {16, 5, {6}}, {-1, 5, {6}}, {1'000'000, 5, {6}}, {Lowest, 5, {6}}, {Highest, 5, {6}},
     };
     for (const Case& tested : cases) {
@@ -127,9 +127,9 @@ TEST_F(SettingsInTheStore, Texts) {
 }
 
 TEST_F(SettingsInTheStore, OfAnotherKindAreRefusedOneByOne) {
-    Put("LoansDisplayed", std::string("abc")); // four bytes, which make a number
+    Put("LoansDisplayed", std::string("abc")); // four bytes, which form a number
     Put("TermInMonths", -1);
-    Put("Wallpaper", 6); // bytes that are no text
+    Put("Wallpaper", 6); // bytes that are not a text
     Put("WallpaperDirectory", std::string("/home/ana/"));
     const StoredSettings loaded = LoadSettings(m_store);
     EXPECT_EQ(loaded.settings.loansDisplayed, 5);

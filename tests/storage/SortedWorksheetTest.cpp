@@ -1,4 +1,4 @@
-// Worksheets and their sorted rows: what is kept is the order of entry.
+// Worksheets with sorted rows: offers are saved in the order of entry.
 
 #include "FileCommands.h"
 #include "SortButton.h"

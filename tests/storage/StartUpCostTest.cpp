@@ -1,5 +1,5 @@
-// Why the program starts as fast with many worksheets as with none: it asks the store the same few
-// things whatever is kept there, and reads the file once. Counted, not timed.
+// The program starts as fast with many worksheets as with none: its queries do not depend on the
+// content of the store, and it reads the file once. Counted, not timed.
 
 #include "FileCommands.h"
 #include "Language.h"
@@ -39,7 +39,7 @@ int Watch(sqlite3* connection, const char** /*error*/, const sqlite3_api_routine
     return sqlite3_trace_v2(connection, SQLITE_TRACE_STMT | SQLITE_TRACE_ROW, Note, nullptr);
 }
 
-/// Notes what every store that is opened while it lives is asked.
+/// Counts the queries to every store that is opened during its lifetime.
 class Watcher {
 public:
     Watcher() {
@@ -51,11 +51,11 @@ public:
     ~Watcher() { sqlite3_cancel_auto_extension(Entry()); }
 
 private:
-    // The library's own way of naming a function whose arguments it knows better.
+    // SQLite's interface requires this cast.
     static void (*Entry())() { return reinterpret_cast<void (*)()>(Watch); } // NOLINT
 };
 
-/// What this process has read so far, in bytes, from files and elsewhere.
+/// The bytes that this process has read so far, from files and elsewhere.
 std::uintmax_t BytesRead() {
     std::ifstream counts("/proc/self/io");
     std::string name;
@@ -80,7 +80,7 @@ protected:
         TidyStore(folder.File());
     }
 
-    /// The start as the program makes it, up to the window on the screen.
+    /// Starts like the program, up to the window on the screen.
     Asked AskedAtStart(const StoreFolder& folder) {
         const Watcher watcher;
         const RegistryAPI store = folder.Store();
@@ -90,7 +90,7 @@ protected:
         Open();
         const FileCommands files(Window(), LoanStore(store));
         Settle();
-        EXPECT_EQ(Get<LoanNameBox>(u"cboLoanName").count(), 0); // listed when it drops down
+        EXPECT_EQ(Get<LoanNameBox>(u"cboLoanName").count(), 0); // filled when it drops down
         return Count();
     }
 };
@@ -100,7 +100,7 @@ TEST_F(StartUpCost, AsksTheStoreTheSameHoweverManyWorksheets) {
     const StoreFolder hundred;
     Keep(none, 0);
     Keep(hundred, 100);
-    AskedAtStart(none); // what is asked once in a process
+    AskedAtStart(none); // excludes queries made once per process
     const Asked asked = AskedAtStart(none);
     EXPECT_GT(asked.commands, 5);
     EXPECT_LT(asked.commands, 100);
@@ -110,7 +110,7 @@ TEST_F(StartUpCost, AsksTheStoreTheSameHoweverManyWorksheets) {
     {
         const Watcher watcher;
         EXPECT_EQ(LoanStore(hundred.Store()).Names().size(), 100);
-        EXPECT_GE(Count().rows, 100); // the listing would be seen
+        EXPECT_GE(Count().rows, 100); // listing the worksheets is visible in the count
     }
 }
 
@@ -123,18 +123,18 @@ TEST_F(StartUpCost, LooksAtTheFileOnceAndAtNothingElse) {
         (std::filesystem::exists(log) ? std::filesystem::file_size(log) : 0);
     ASSERT_GT(size, 100'000U);
     const Watcher watcher;
-    PrepareStore(hundred.File(), "today"); // what is asked once in a process
+    PrepareStore(hundred.File(), "today"); // excludes what is done once per process
     Count() = {};
     const std::uintmax_t before = BytesRead();
     ASSERT_GT(before, 0U);
     EXPECT_EQ(PrepareStore(hundred.File(), "today").state, StoreCondition::State::Sound);
     const std::uintmax_t read = BytesRead() - before;
     EXPECT_GE(read, size);
-    EXPECT_LE(read, size + 8'192); // the count itself is read, too
+    EXPECT_LE(read, size + 8'192); // includes reading the counter itself
     EXPECT_EQ(Count(), Asked{});
 }
 
-/// What the system loads with the program before its first line runs, by the system's own answer.
+/// The libraries that the operating system loads before main(), as its loader reports them.
 QStringList LibrariesOfProgram() {
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -148,7 +148,7 @@ QStringList LibrariesOfProgram() {
 TEST(StartUpLibraries, AreThoseOfTheFirstWindowOnly) {
     const QStringList libraries = LibrariesOfProgram();
     ASSERT_FALSE(libraries.filter(QStringLiteral("libQt6Widgets")).isEmpty());
-    // The help's reader, what it brings along, and the printing system.
+    // The help viewer, its dependencies, and printing.
     for (const char* late : {"Qt6Help", "Qt6Sql", "Qt6Network", "Qt6PrintSupport", "libcups",
                              "gnutls", "Qt6Svg", "Qt6Test"}) {
         EXPECT_TRUE(libraries.filter(QLatin1String(late)).isEmpty()) << late;

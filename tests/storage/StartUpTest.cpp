@@ -1,4 +1,4 @@
-// The program's key and language at the start, the place of the window, the busy pointer.
+// The program's key and language at the start, the window geometry, the busy pointer.
 
 #include "StartUp.h"
 
@@ -67,7 +67,7 @@ TEST_F(StartUp, TheLanguageThatWasSetWins) {
                          row.kept);
         Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
         PrepareKeyAndLanguage(m_store, MexicanSpanish);
-        // What was detected speaks already; what was set is loaded with the window.
+        // A detected language is loaded already; one that was set is loaded with the window.
         EXPECT_EQ(GetResourceText(TextNumber::NewLoan) == u"(préstamo nuevo)", row.language < 0);
         EXPECT_EQ(row.language, Language::Instance().CurrentLanguage()) << row.kept;
     }
@@ -119,7 +119,7 @@ TEST_F(PlaceOfTheWindow, UnreadablePlacesAreIgnored) {
     const QString name = folder.filePath(u"window.place"_s);
     Open();
     const QSize size = Window().size();
-    RestorePlace(Window(), name); // there is none yet
+    RestorePlace(Window(), name); // the file does not exist yet
     EXPECT_EQ(Window().size(), size);
     for (const QByteArray& bytes : {QByteArray(), QByteArray("garbage"), QByteArray(500, '\xFF')}) {
         QFile file(name);
@@ -152,7 +152,7 @@ TEST_F(PlaceOfTheWindow, WhereItCannotBeKeptTheProgramGoesOn) {
     EXPECT_EQ(SettledMessages(), QStringList());
 }
 
-// The pointer
+// The mouse pointer
 
 Qt::CursorShape Shown() {
     const QCursor* cursor = QGuiApplication::overrideCursor();

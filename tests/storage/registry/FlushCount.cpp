@@ -25,7 +25,7 @@ int Flush(long call, int file) {
 
 } // namespace
 
-// The program's own functions come before the system's, for the libraries it uses too.
+// The program's own functions take precedence over the system's, also in the libraries it uses.
 // NOLINTBEGIN(readability-inconsistent-declaration-parameter-name): the system's name is reserved.
 extern "C" int fsync(int file) { return Flush(SYS_fsync, file); }
 extern "C" int fdatasync(int file) { return Flush(SYS_fdatasync, file); }

@@ -1,4 +1,4 @@
-// Damage at random, as much as fits into the time: nothing may crash, hang or trust what it reads.
+// Random damage, as much as fits into the time: nothing may crash, hang or trust its input.
 #include "StoreCheck.h"
 
 #include "Fuzzing.h"
@@ -25,7 +25,7 @@ struct Input {
 
 class FuzzStore : public StoreFixture {
 protected:
-    /// In memory where there is such a place: a flush to the disk would take most of the time.
+    /// In memory if possible, because disk flushes would take most of the time.
     const fs::path fuzzed =
         (access("/dev/shm", W_OK) == 0 ? fs::path("/dev/shm") / folder.filename()
                                        : folder / "fuzz") /
@@ -44,13 +44,13 @@ protected:
         }
     }
 
-    /// Everything that a program may do with the store that it finds.
+    /// Everything that a program can do with an existing store.
     void Try(const Input& input) const;
     RegistryAPI Registry() const;
     void UseUnprepared() const;
 };
 
-/// What SQLite itself finds in the file: "ok" or what is wrong.
+/// SQLite's own finding about the file: "ok" or the error.
 std::string SqliteFinding(const fs::path& store) {
     try {
         const Connection connection(store, std::chrono::milliseconds(0));
@@ -79,7 +79,7 @@ void FuzzStore::Try(const Input& input) const {
     Lay(input);
     const bool sound = IsSound(StoreImage(fuzzed));
     if (sound) {
-        EXPECT_EQ(SqliteFinding(fuzzed), "ok"); // ours may be the stricter one only
+        EXPECT_EQ(SqliteFinding(fuzzed), "ok"); // only our check may be the stricter one
     }
     UseUnprepared();
     Lay(input);
@@ -113,7 +113,7 @@ public:
 private:
     std::size_t Below(std::size_t end) { return m_random() % end; }
 
-    /// Mostly where pages begin: what stands there leads on to everything else.
+    /// Mostly the start of a page, because its header leads to everything else.
     std::size_t Position(const std::string& bytes) {
         const std::size_t anywhere = Below(bytes.size());
         const std::size_t page = anywhere / 4'096 * 4'096;
@@ -151,7 +151,7 @@ private:
     std::mt19937 m_random;
 };
 
-/// A small store that has everything in it: inner pages, long texts, free pages, a log.
+/// A small store with all features: inner pages, long texts, free pages, a log.
 Input ValidInput(const fs::path& store) {
     const RegistryAPI registry(store);
     SaveWorksheets(registry, 4);
@@ -174,7 +174,7 @@ TEST_F(FuzzStore, SurvivesWhatIsKeptInTheCorpus) {
         }
     }
     EXPECT_GE(count, 10);
-    // The damaged ones are made from it.
+    // The damaged stores are made from this one.
     EXPECT_TRUE(IsSound(StoreImage(fs::path(QUEND_TEST_DATA) / "store-corpus" / "whole.store")));
 }
 
@@ -187,7 +187,7 @@ TEST_F(FuzzStore, SurvivesDamageAtRandom) {
     auto seed = static_cast<unsigned>(FuzzDoor::FromEnvironment("QUEND_FUZZ_SEED", 1));
     for (; std::chrono::steady_clock::now() < end && !HasFailure(); ++seed) {
         SCOPED_TRACE(testing::Message() << "QUEND_FUZZ_SEED=" << seed);
-        alarm(20); // a store that makes the program hang ends it here
+        alarm(20); // ends a test that hangs
         Input input = valid;
         Mutation(seed).Apply(input);
         Try(input);

@@ -1,4 +1,4 @@
-// A store of an earlier layout, with what is in it, brought to a later one through all between.
+// Migration of a store with data from an earlier schema through all versions to a later one.
 #include "Sqlite.h"
 #include "StoreFile.h"
 #include "StoreFixture.h"
@@ -12,7 +12,7 @@ using Steps = std::vector<const char*>;
 
 constexpr std::chrono::milliseconds NoWait{0};
 
-/// Two layouts that could follow: the values get a time, and the keys a table of their own names.
+/// Two possible later schemas: values get a time, and the names of keys get a separate table.
 constexpr const char* AddTime =
     "ALTER TABLE KeyValues ADD COLUMN written INTEGER NOT NULL DEFAULT 0";
 constexpr const char* NamesApart =
@@ -27,7 +27,7 @@ protected:
         return steps;
     }
 
-    /// Three worksheets in the layout of today.
+    /// Three worksheets in the current schema.
     void Build() const {
         SaveWorksheets(RegistryAPI(store), 3);
         MakeOneFile(store);
@@ -55,12 +55,12 @@ TEST_F(MigrationTest, KeepsEverythingThroughAllTheSteps) {
     MigrateTo(Chain({AddTime, NamesApart}));
     EXPECT_EQ(Number("PRAGMA user_version"), 3);
     EXPECT_EQ(Number("PRAGMA application_id"), StoreLayout::ApplicationId);
-    EXPECT_EQ(Number("SELECT count(*) FROM Names"), 6); // three above the worksheets
+    EXPECT_EQ(Number("SELECT count(*) FROM Names"), 6); // three keys above the worksheets
     EXPECT_EQ(Number("SELECT count(*) FROM KeyValues WHERE written=0"), 3 * ValuesOfWorksheet);
     EXPECT_EQ(FirstText("SELECT name FROM Names ORDER BY key DESC"), "2");
     EXPECT_EQ(Number("SELECT count(*) FROM KeyValues JOIN Names USING(key) "
                      "WHERE CAST(data AS TEXT)=Names.name"),
-              3 * ValuesOfWorksheet); // each worksheet has its own mark still
+              3 * ValuesOfWorksheet); // each worksheet still has its own mark
     EXPECT_EQ(FirstText("PRAGMA integrity_check"), "ok");
 }
 
@@ -80,7 +80,7 @@ TEST_F(MigrationTest, ThatFailsInTheMiddleLeavesTheOldStore) {
     // clang-format off
     const std::array<Steps, 3> failing{
         Chain({"no command at all"}),
-        Chain({AddTime, NamesApart, "SELECT name FROM Keys"}),             // gone by then
+        Chain({AddTime, NamesApart, "SELECT name FROM Keys"}),             // dropped by then
         Chain({AddTime, "DROP TABLE KeyValues; INSERT INTO Nowhere VALUES(1)"}),
     };
     // clang-format on

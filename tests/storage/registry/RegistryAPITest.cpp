@@ -1,5 +1,5 @@
-// The seven procedures as every platform does them: on the store's own file, and compiled for the
-// platform that has a registry, on that.
+// The seven functions, the same on every platform: tested on the store file and, cross-compiled for
+// the platform that has a registry, on that registry.
 #include "RegistryAPI.h"
 
 #include "Failure.h"
@@ -52,7 +52,7 @@ std::vector<std::byte> Bytes(std::size_t count) {
     return bytes;
 }
 
-/// The number and description of the failure, or nothing.
+/// The number and description of the failure; empty when there is none.
 std::string FailureOf(const std::function<void()>& action) {
     try {
         action();
@@ -70,7 +70,7 @@ TEST_F(RegistryAPITest, TextsComeBackAsTheyWereWritten) {
     // clang-format off
     const std::vector<std::string> texts{
         "", " ", "  both  ", "plain", "Préstamo de José €1.234,56", "line\nline\r\n\ttab", "\\\"'%_?*",
-        "e\xCC\x81 as two", "\xC3\xA9 as one",                      // not made one form
+        "e\xCC\x81 as two", "\xC3\xA9 as one",                      // not normalized
         "\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xA7 family", "\xF0\x9F\x8F\xA0", "עברית العربية 日本語 हिन्दी",
         "\xEF\xBB\xBFmark first", "\xEF\xBF\xBD", "\xF4\x8F\xBF\xBF",
         std::string("nul\0inside", 10), std::string("nul last\0", 9), std::string("\0", 1), std::string("two\0\0", 5),
@@ -143,7 +143,7 @@ TEST_F(RegistryAPITest, OtherTypesAreRefusedOnReadingAndIgnoredOnWriting) {
         };
         EXPECT_EQ(read(BaseKey, "Kept"), Unsupported);
         EXPECT_EQ(read(BaseKey, "Absent"), Unsupported);
-        EXPECT_EQ(read(Absent, "Kept"), ""); // the key is opened before the type is looked at
+        EXPECT_EQ(read(Absent, "Kept"), ""); // the key is opened before the type is checked
         registry.SetValue(User, BaseKey, "Kept", code, "changed");
         EXPECT_EQ(Text("Kept"), "kept");
     }
@@ -158,7 +158,6 @@ struct ConversionCase {
     RegistryValue asBytes;
 };
 
-/// Those bytes.
 RegistryValue Raw(std::initializer_list<int> bytes) {
     std::vector<std::byte> raw;
     for (const int byte : bytes) {
@@ -236,7 +235,7 @@ TEST_F(RegistryAPITest, SubkeysComeAlphabeticallyWithoutRegardToCase) {
     // clang-format off
     const std::vector<std::string> sorted{
         " blank", "10", "2", "A house", "a horse", "B", "b2", "Zoo", "é", "Ÿ", "я", "日本",
-        "\xF0\x9F\x8F\xA0", "\xEF\xBC\xA1 wide", // by units of UTF-16
+        "\xF0\x9F\x8F\xA0", "\xEF\xBC\xA1 wide", // in order of UTF-16 units
     };
     // clang-format on
     std::vector<std::string> created = sorted;
@@ -245,7 +244,7 @@ TEST_F(RegistryAPITest, SubkeysComeAlphabeticallyWithoutRegardToCase) {
         EXPECT_FALSE(registry.CreateKey(User, KeyOf(name))) << name;
     }
     std::vector<std::string> expected = sorted;
-    std::swap(expected[3], expected[4]); // "a horse" stands before "A house"
+    std::swap(expected[3], expected[4]); // "a horse" comes before "A house"
     EXPECT_EQ(registry.GetSubKeys(User, BaseKey), expected);
 }
 
@@ -285,7 +284,7 @@ struct PathCase {
 };
 
 TEST_F(RegistryAPITest, PathsThatNoKeyCanHaveAreRefused) {
-    const std::string home = "\xF0\x9F\x8F\xA0"; // two units of UTF-16
+    const std::string home = "\xF0\x9F\x8F\xA0"; // two UTF-16 units
     // clang-format off
     const std::vector<PathCase> cases{
         // what                     path                           holds  listedAs
@@ -379,7 +378,7 @@ TEST_F(RegistryAPITest, KeysAreDeletedWithTheirValuesUnlessTheyHaveSubkeys) {
     registry.CreateKey(User, KeyOf("Parent"));
     EXPECT_EQ(registry.GetValue(User, KeyOf("Parent"), "Name", RegistryType::Text, ""),
               RegistryValue(""));
-    registry.DeleteKey(User, Absent); // nothing to delete is nothing to report
+    registry.DeleteKey(User, Absent); // deleting a missing key is not an error
 }
 
 TEST_F(RegistryAPITest, ValuesAreDeletedByName) {

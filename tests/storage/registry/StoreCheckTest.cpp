@@ -1,4 +1,4 @@
-// A store that is damaged, foreign or from a later version, as the program finds it at its start.
+// A store that is damaged, foreign or from a later version, as the program finds it at the start.
 #include "StoreCheck.h"
 
 #include "Sqlite.h"
@@ -27,7 +27,7 @@ constexpr std::size_t AllValues = std::size_t{Worksheets} * ValuesOfWorksheet;
 
 class StoreCheckTest : public StoreFixture {
 protected:
-    std::vector<fs::path> told; ///< the damaged files of repairs in the middle of a step
+    std::vector<fs::path> told; ///< the damaged files of recoveries during a transaction
     const RegistryAPI registry{
         store,
         RegistryAPI::UsualWait,
@@ -50,7 +50,7 @@ protected:
         return whole;
     }
 
-    /// What must be so after any repair: the damaged file is kept, the new one works.
+    /// What holds after every recovery: the damaged file is kept, the new store works.
     void ExpectRepaired(const StoreCondition& condition, const std::string& damaged) const {
         ASSERT_EQ(condition.state, State::Repaired);
         EXPECT_EQ(BytesOf(condition.keptAs), damaged);
@@ -142,9 +142,9 @@ TEST_F(StoreCheckTest, NoiseOverAnyPageCostsThatPageOnly) {
         const StoreCondition condition = PrepareStore(store, Today);
         ExpectRepaired(condition, damaged);
         keysLost += condition.keys < AllKeys ? 1 : 0;
-        EXPECT_GE(condition.values + 120, AllValues); // a page holds no more
+        EXPECT_GE(condition.values + 120, AllValues); // the most values on one page
     }
-    EXPECT_EQ(keysLost, 0); // their names stand on two pages
+    EXPECT_EQ(keysLost, 0); // their names are on two pages
 }
 
 TEST_F(StoreCheckTest, DamageWhileTheProgramRunsIsRepairedByTheNextSave) {
@@ -219,7 +219,7 @@ TEST_F(StoreCheckTest, AValueThatRepeatsTheNameGivesBackItsLetters) {
 
 struct LostKeyCase {
     const char* what;
-    const char* name; ///< that the values of the lost key repeat, as SQL
+    const char* name; ///< as repeated in the values of the lost key, as SQL
     std::vector<std::string> listed;
 };
 
@@ -259,7 +259,7 @@ TEST_F(StoreCheckTest, ValuesWhoseKeyIsLostComeBackUnderTheNameTheyRepeat) {
     }
 }
 
-/// No key is left, not even those on the way to the worksheets.
+/// No key row is left, not even those above the worksheets.
 TEST_F(StoreCheckTest, OfAFileCutInHalfTheWorksheetsComeBackWhoseNamesAreThere) {
     constexpr int Many = 300;
     registry.InOneStep([](const RegistryAPI& step) {
@@ -430,7 +430,7 @@ TEST_F(StoreCheckTest, LongTextsAndDeletedKeysAreSoundAndComeBack) {
     WriteBytes(store, bytes.replace(100, 8, 8, 'x')); // the first page's tree
     const StoreCondition condition = PrepareStore(store, Today);
     EXPECT_EQ(condition.state, State::Repaired);
-    EXPECT_EQ(condition.keys, AllKeys - Worksheets / 2); // what was deleted stays deleted
+    EXPECT_EQ(condition.keys, AllKeys - Worksheets / 2); // deleted keys stay deleted
     EXPECT_EQ(condition.values, AllValues / 2 + 1);
     EXPECT_TRUE(IsSound(StoreImage(store)));
 }

@@ -1,5 +1,5 @@
-// One wrong number at a time, in a store large enough to have every kind of page: none is taken for
-// sound, and all of it that can be read comes back.
+// One wrong number at a time, in a store that has every kind of page: all damage is detected, and
+// all readable data is recovered.
 #include "StoreCheck.h"
 
 #include "StoreFixture.h"
@@ -14,8 +14,8 @@ namespace {
 
 constexpr std::size_t PageSize = 4'096;
 constexpr std::size_t Worksheets = 300;
-constexpr std::size_t AllKeys = Worksheets + 3; // the way to them
-constexpr std::size_t KeysOfPage = 120;         // are lost with it, and found again by their index
+constexpr std::size_t AllKeys = Worksheets + 3; // the keys above them
+constexpr std::size_t KeysOfPage = 120;         // are lost with it, and recovered from their index
 
 enum Kind : std::uint8_t { InnerIndex = 2, InnerTable = 5, LeafIndex = 10, LeafTable = 13 };
 
@@ -65,8 +65,8 @@ protected:
 struct HeaderCase {
     const char* what;
     std::size_t at;
-    std::size_t count; ///< of bytes
-    std::int64_t more; ///< than there was
+    std::size_t count; ///< in bytes
+    std::int64_t more; ///< added to the number
 };
 
 TEST_F(StoreDamageTest, AWrongNumberInTheHeaderIsNoticed) {
@@ -106,10 +106,10 @@ TEST_F(StoreDamageTest, AWrongNumberInTheHeaderIsNoticed) {
     }
 }
 
-/// Where the first page of a kind begins, the very first page apart.
+/// The offset of the first page of a kind, not counting page 1.
 std::optional<std::size_t> FirstPage(const std::string& bytes, Kind kind) {
     for (std::size_t at = PageSize; at < bytes.size(); at += PageSize) {
-        // A page of a tree says how many bytes it wastes: 60 at most. Others begin with a number.
+        // A tree page states its wasted bytes: 60 at most. Other pages begin with a number.
         if (bytes[at] == static_cast<char>(kind) && BigEndian(bytes, at + 3, 2) > 1 &&
             BigEndian(bytes, at + 7, 1) <= 60 && BigEndian(bytes, at + 5, 2) > 100) {
             return at;
@@ -167,8 +167,9 @@ struct RowCase {
     std::uint8_t byte;
 };
 
-/// A row is its length, its number where it is of a table, the length of its head and in it a code
-/// for each column; on an inner page of a table only the page below and the largest number on it.
+/// A row has its length, its number (in tables), the length of its header and in the header a code
+/// for each column. On an inner page of a table it has only the child page and the largest number
+/// there.
 TEST_F(StoreDamageTest, AWrongByteInARowIsNoticed) {
     const std::string whole = Build();
     // clang-format off
@@ -198,9 +199,8 @@ TEST_F(StoreDamageTest, AWrongByteInARowIsNoticed) {
     }
 }
 
-/// What stands on the first page is compared to the letter; a row there is its length, in two
-/// bytes, its number, the length of its head and the codes of its columns, of which the first is a
-/// text.
+/// The first page is compared exactly. A row there has its length in two bytes, its number, the
+/// length of its header and the codes of its columns; the first column is a text.
 TEST_F(StoreDamageTest, AWrongByteInTheLayoutIsNoticed) {
     const std::string whole = Build();
     const std::size_t row = BigEndian(whole, 108, 2);
@@ -213,7 +213,7 @@ TEST_F(StoreDamageTest, AWrongByteInTheLayoutIsNoticed) {
     ExpectNoticed(letter, AllKeys);
 }
 
-/// A row of the same length whose columns are of other kinds.
+/// A row of the same length whose columns have other types.
 TEST_F(StoreDamageTest, ATextWhereBytesBelongIsNoticed) {
     const std::string whole = Build();
     std::size_t pages = 0;
@@ -241,11 +241,11 @@ void Rename(std::string& bytes, const std::string& from, const std::string& to) 
     EXPECT_GE(found, 1U) << from;
 }
 
-/// A key's name stands in the store as it was typed and as it is sorted. One that cannot have been
-/// typed is replaced by the sorted one.
+/// The store has each key's name as typed and as sorted. A name that cannot have been typed is
+/// replaced by the sorted one.
 TEST_F(StoreDamageTest, AKeyWhoseNameIsNoneGetsTheSortedOne) {
     std::string damaged = Build();
-    Add(damaged, 36, 4, 1); // so that it is repaired
+    Add(damaged, 36, 4, 1); // so that recovery runs
     Rename(damaged, "Worksheet number 150", "Worksheet\\number 150");
     Rename(damaged, "Worksheet number 151", "Worksheet numbex 151");
     Rename(damaged, "Worksheet number 152", "Worksheet \xFFumber 152");

@@ -1,4 +1,4 @@
-// Faults that are really made: processes killed, disks filled, folders closed, locks held.
+// Real faults: killed processes, full disks, locked folders, held locks.
 #include "StoreCheck.h"
 #include "StoreFile.h"
 #include "StoreFixture.h"
@@ -28,7 +28,7 @@ protected:
     }
 };
 
-/// Two ends of a pipe: one process waits until the other says so or is gone.
+/// A pipe: one process waits until the other signals or has ended.
 class Signal {
 public:
     Signal() { EXPECT_EQ(pipe(m_ends.data()), 0); }
@@ -55,7 +55,7 @@ private:
     std::array<int, 2> m_ends{-1, -1};
 };
 
-/// This process is killed without a warning after that time.
+/// Kills this process after that time, without warning.
 void KillAfter(std::chrono::microseconds time) {
     sigevent event{};
     event.sigev_notify = SIGEV_SIGNAL;
@@ -69,8 +69,8 @@ void KillAfter(std::chrono::microseconds time) {
     }
 }
 
-/// On a slow machine the time may be over before anything is saved, so that in each fourth round it
-/// begins after the first save.
+/// On a slow machine the time may end before anything is saved. In every fourth round it therefore
+/// starts after the first save.
 constexpr int RoundsWithoutHaste = 4;
 
 [[noreturn]] void SaveUntilKilled(const RegistryAPI& registry, int round,
@@ -107,13 +107,13 @@ TEST_F(StoreFaultTest, AProcessKilledWhileSavingLeavesTheOldWorksheetOrTheNewOne
         changed += mark == before ? 0 : 1;
         before = mark;
     }
-    EXPECT_GE(changed, Rounds / RoundsWithoutHaste); // the test saved at all
+    EXPECT_GE(changed, Rounds / RoundsWithoutHaste); // the test has saved at all
     EXPECT_EQ(MarkOf(registry, "Other"), "other");
     EXPECT_EQ(PrepareStore(store, "today").state, State::Sound);
 }
 
-/// On a slow machine the other program may have its turn again and again until this one gives up,
-/// and the user tries once more.
+/// On a slow machine the other program may win the lock until this one times out; the user would
+/// try again.
 bool Insist(const std::function<void()>& action) {
     constexpr int tries = 20;
     for (int i = 0; i < tries; ++i) {
@@ -155,7 +155,7 @@ TEST_F(StoreFaultTest, TwoProgramsSavingAtOnceBothLandWhole) {
     EXPECT_EQ(PrepareStore(store, "today").state, State::Sound);
 }
 
-/// However early a first start ends, the next one finds a whole store or none, and no damage.
+/// However early a first start ends, the next one finds a complete store or none, and no damage.
 TEST_F(StoreFaultTest, AProcessKilledWhileMakingTheStoreLeavesItWholeOrNone) {
     std::mt19937 random(2027);
     std::uniform_int_distribution<int> microseconds(1, 6'000);
@@ -178,7 +178,7 @@ TEST_F(StoreFaultTest, AProcessKilledWhileMakingTheStoreLeavesItWholeOrNone) {
         EXPECT_EQ(MarkOf(registry, "A"), "a");
         EXPECT_FALSE(fs::exists(StoreFile::NewOf(store)));
     }
-    EXPECT_GT(none, 0); // the test killed at all
+    EXPECT_GT(none, 0); // the test has killed at all
 }
 
 TEST_F(StoreFaultTest, AStoreThatCannotBeMadeLeavesNothing) {
@@ -231,7 +231,7 @@ TEST_F(StoreFaultTest, AProgramThatWritesTooLongMakesTheOtherGiveUp) {
             step.SetValue(User, Base + "\\A", "InterestRate0", RegistryType::Text, "held");
             holding.Give();
             release.Wait();
-            _exit(0); // without keeping anything
+            _exit(0); // without committing
         });
     }
     holding.Wait();
@@ -244,7 +244,7 @@ TEST_F(StoreFaultTest, AProgramThatWritesTooLongMakesTheOtherGiveUp) {
     EXPECT_EQ(TroubleOf([&] { impatient.CreateKey(User, Base + "\\B"); }), StoreTrouble::InUse);
     impatient.SetValue(User, Base + "\\A", "InterestRate0", RegistryType::Text, "new");
     EXPECT_TRUE(impatient.CreateKey(User, Base + "\\A"));
-    EXPECT_EQ(MarkOf(impatient, "A"), "old"); // reading waits for nobody
+    EXPECT_EQ(MarkOf(impatient, "A"), "old"); // reading does not wait
     EXPECT_EQ(PrepareStore(store, "today").state, State::Sound);
     release.Drop();
     int status = 0;
@@ -253,7 +253,7 @@ TEST_F(StoreFaultTest, AProgramThatWritesTooLongMakesTheOtherGiveUp) {
     EXPECT_EQ(MarkOf(registry, "A"), "new");
 }
 
-/// Saves more and more until the disk is full; then everything saved before is there.
+/// Saves until the disk is full; everything saved before must still exist.
 void FillDisk(const fs::path& store) {
     const RegistryAPI registry(store);
     std::string failure;
@@ -276,7 +276,7 @@ void FillDisk(const fs::path& store) {
     EXPECT_EQ(PrepareStore(store, "today").state, State::Sound);
 }
 
-/// A disk of one megabyte, for this process alone.
+/// A disk of one megabyte, for this process only.
 bool MountSmallDisk(const fs::path& folder) {
     return unshare(CLONE_NEWNS) == 0 && mount("", "/", "", MS_REC | MS_PRIVATE, "") == 0 &&
            mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=1m") == 0;
@@ -327,7 +327,7 @@ TEST_F(StoreFaultTest, AFullQuotaMakesTheSaveFailAndNothingElse) {
     }));
 }
 
-/// Root may write everywhere: the expectations are those of a user who may not.
+/// Root may write everywhere: the expectations are for a user without permission.
 bool HoldsForAnotherUser(const std::function<void()>& expectations) {
     constexpr uid_t Nobody = 65'534;
     return HoldsInChild([&] {

@@ -1,4 +1,4 @@
-// Names and files at the limits of what the store's own file can hold.
+// Names and files at the limits of the store file.
 #include "StoreCheck.h"
 
 #include "Sqlite.h"
@@ -17,7 +17,8 @@ protected:
     const RegistryAPI registry{store};
 };
 
-/// Bytes that are no text: too long a form, too large a character, half a pair, a lone rest.
+/// Bytes that are not UTF-8: overlong form, character too large, lone surrogate, lone continuation
+/// byte.
 const std::vector<std::string> NoTexts{"\xC0\x80",     "\xE0\x80\xAF", "\xF4\x90\x80\x80",
                                        "\xED\xA0\x80", "\x80",         "A\xFF"};
 
@@ -37,7 +38,7 @@ TEST_F(StoreLimitsTest, NamesThatCannotBeHoldNothing) {
             EXPECT_EQ(FailureOf([&] { registry.CreateKey(User, key); }), NotMade);
         }
     }
-    // An element of blanks: there are none.
+    // One element of blanks means that there are none.
     EXPECT_EQ(registry.GetSubKeys(User, Base), std::vector<std::string>{std::string(260, ' ')});
 }
 
@@ -53,10 +54,10 @@ TEST_F(StoreLimitsTest, KeysThatCannotBeHoldNothing) {
     }
 }
 
-/// The key found last is remembered within a step, for its own root alone.
+/// The last key found is cached within a transaction, for its own root only.
 TEST_F(StoreLimitsTest, EachRootHasKeysOfItsOwn) {
     registry.InOneStep([](const RegistryAPI& step) {
-        step.SetValue(User, Base, "None", RegistryType::Text, "lost"); // there is no such key yet
+        step.SetValue(User, Base, "None", RegistryType::Text, "lost"); // the key does not exist yet
         step.CreateKey(User, Base);
         step.SetValue(User, Base, "Root", RegistryType::Text, "user");
         EXPECT_FALSE(step.KeyExists(RegistryRoot::LocalMachine, Base));
@@ -75,7 +76,7 @@ TEST_F(StoreLimitsTest, ARootIsNeverDeleted) {
     registry.DeleteKey(User, Base);
     registry.DeleteKey(User, "Software\\Quend Halverworks");
     registry.DeleteKey(User, "Software");
-    registry.DeleteKey(User, ""); // with nothing below it any more
+    registry.DeleteKey(User, ""); // nothing is below it any more
     EXPECT_EQ(registry.GetValue(User, "", "Root", RegistryType::Text, ""), RegistryValue("user"));
 }
 
@@ -90,7 +91,7 @@ TEST_F(StoreLimitsTest, AValueTellsItsType) {
     EXPECT_EQ(RegistryFlag(false), 0);
 }
 
-/// A log says how large its pages are, before anything in it is added up.
+/// The page size of a log is checked before its checksums are calculated.
 TEST_F(StoreLimitsTest, ALogOfImpossiblePagesIsNone) {
     SaveWorksheet(registry, "0", "0");
     MakeOneFile(store);

@@ -1,4 +1,4 @@
-// Steps on the store's own file: whole or not at all, and what they cost.
+// Transactions on the store file: atomicity and cost.
 #include "FlushCount.h"
 #include "StoreCheck.h"
 #include "StoreFile.h"
@@ -26,7 +26,7 @@ TEST_F(StoreStepTest, IsKeptAsAWholeOrNotAtAll) {
         step.SetValue(User, Base, "One", RegistryType::Text, "new");
         step.CreateKey(User, Base + "\\Made");
         EXPECT_EQ(Text(step, "One"), "new");
-        EXPECT_EQ(Text(registry, "One"), "old"); // the others see it when it is whole
+        EXPECT_EQ(Text(registry, "One"), "old"); // others see it after the commit
     };
     EXPECT_THROW(registry.InOneStep([&](const RegistryAPI& step) {
         write(step);
@@ -167,7 +167,7 @@ TEST_F(StoreStepTest, OfASaveCostsOneFlushHoweverManyValues) {
     EXPECT_EQ(MarkOf(registry, "after"), "y");
 }
 
-/// The environment variable set, or unset by a null, while it lives.
+/// Sets an environment variable during its lifetime, or unsets it when the value is null.
 class Environment {
 public:
     Environment(const char* name, const char* value) : m_name(name) {

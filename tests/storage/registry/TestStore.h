@@ -4,8 +4,8 @@
 
 #include <string>
 
-/// A store with nothing below its base key: a file of its own, or on the platform that has a
-/// registry, a key of its own that is emptied.
+/// A store with nothing below its base key: a separate file or, on the platform that has a
+/// registry, a separate key that is emptied.
 class TestStore {
 public:
     TestStore();
@@ -20,5 +20,5 @@ private:
     RegistryAPI m_registry;
 };
 
-/// The key that the tests write below. It is not there at first.
+/// The key below which the tests write. It does not exist at first.
 inline const std::string BaseKey = "Software\\Quend Halverworks\\Loan Test";

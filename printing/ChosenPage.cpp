@@ -13,12 +13,12 @@
 
 namespace {
 
-// The toolkit's names of what is in its dialog.
+// The object names in Qt's dialog.
 QComboBox* Papers(const QObject& dialog) {
     return dialog.findChild<QComboBox*>(QStringLiteral("pageSizeCombo"));
 }
 
-/// The printer that a dialog shows, as long as it is open.
+/// The printer that the print dialog shows while it is open.
 QString PrinterShown(const QWidget& properties) {
     const QObject* dialog = properties.parent();
     const auto* printers =
@@ -42,7 +42,7 @@ ChosenPage::ChosenPage(QPrinter& printer)
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-/// The properties open as a dialog of their own, which is made when it is first asked for.
+/// The properties are a separate dialog, which Qt creates when it is first opened.
 bool ChosenPage::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Show) {
         auto* properties = qobject_cast<QWidget*>(watched);

@@ -8,16 +8,17 @@
 class QPrinter;
 class QWidget;
 
-/// Keeps paper, orientation and margins through a print dialog. The toolkit's own begins with the
-/// printer's page each time and puts it back on OK, though nobody may have looked at it.
+/// Keeps paper, orientation and margins through a print dialog. Qt's dialog starts with the
+/// printer's default page each time and sets it on OK, even if the user never looked at it.
 ///
-/// The page of another printer is left to the dialog: the paper of one may not be in the other.
+/// The page of another printer is left to the dialog, because that printer may not have the paper.
 class ChosenPage : public QObject {
 public:
-    /// Before the dialog opens; the printer has the page to be kept.
+    /// Create before the dialog opens; the printer has the page to keep.
     explicit ChosenPage(QPrinter& printer);
 
-    /// After OK: what the user saw holds, and what was not looked at stays.
+    /// Call after OK: a page that the user has seen is kept as shown, otherwise the previous page
+    /// is restored.
     void Settle() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -29,5 +30,5 @@ private:
     QPrinter* m_printer;
     QString m_printerName;
     QPageLayout m_page;
-    QPointer<QWidget> m_seen; ///< the toolkit makes new properties for another printer
+    QPointer<QWidget> m_seen; ///< Qt creates a new properties dialog for another printer
 };

@@ -72,7 +72,7 @@ constexpr std::array<ColumnOf, OfferColumnCount> Columns{{
     {"txtWho", Side::Left},
 }};
 
-/// Every break of a line is "\r\n", and nothing else but letters and blanks is left.
+/// Makes every line break "\r\n" and turns other control characters into blanks.
 QString Cleaned(QString text) {
     text.replace(LineBreak, QLatin1String("\n"));
     for (QChar& character : text) {
@@ -96,11 +96,11 @@ QString TextOf(const QWidget& control) {
     return {};
 }
 
-/// Which side of its place the caption of a label or button stands on.
+/// The alignment of a label's or button's caption.
 Side SideOf(const QWidget& control) {
     const QVariant alignment = control.property("alignment");
     if (!alignment.isValid()) {
-        return Side::Centre; // as buttons have it
+        return Side::Centre; // the default of buttons
     }
     const Qt::Alignment side =
         QStyle::visualAlignment(control.layoutDirection(), alignment.value<Qt::Alignment>());
@@ -157,7 +157,7 @@ public:
         return entries;
     }
 
-    /// From end to end, along the middle of the frame.
+    /// From end to end, through the middle of the frame.
     QLineF Line(const char* name) const {
         const QRectF place = PlaceOf(Control(name));
         return {place.left(), place.center().y(), place.right(), place.center().y()};
@@ -220,7 +220,7 @@ PrintedForm Read(const Loan& window, int highestRow) {
     return form;
 }
 
-/// Holds the window's controls at another width, unseen, for as long as it lives.
+/// Lays the window's controls out at another width, invisibly, during its lifetime.
 class OtherWidth {
 public:
     OtherWidth(QScrollArea& frame, int width)

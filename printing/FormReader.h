@@ -4,12 +4,12 @@
 
 class Loan;
 
-/// What the window shows, sheet and layout, whatever rows are scrolled out of sight. A window wider
-/// than `widest` pixels is laid out at that width for the moment of reading, and is as before
-/// afterwards. The field being edited is read as it looks once it is left.
+/// Reads what the window shows, sheet and layout, including rows that are scrolled out of view. A
+/// window wider than `widest` pixels is laid out at that width while it is read and then restored.
+/// The field being edited is read as it looks after it is left.
 PrintedForm ReadForm(Loan& window, double widest);
 
-/// Pixels of the window's screen per point, and the size of the type of the window's labels.
+/// Screen pixels of the window per point, and the font size of the window's labels in points.
 double PixelsPerPoint(const Loan& window);
 double LabelPoints(const Loan& window);
 

@@ -8,12 +8,12 @@
 namespace {
 
 constexpr int BoxPen = 2;
-/// Between the edge of a box and the side of its text.
+/// Between the edge of a box and its text.
 constexpr double TextPadding = 72;
-/// What a text keeps free of the other edge of its box.
+/// The least distance of a text from the opposite edge of its box.
 constexpr double LeastGap = 20;
 
-/// Type is made smaller down to this size, or to this part of its own if that is less.
+/// The font shrinks at most to this size, or to this fraction of its size if that is less.
 constexpr double LeastPoints = 5;
 constexpr double LeastPart = 0.6;
 
@@ -88,8 +88,8 @@ void PageDrawing::PrintTextInBox(double left, double top, double width, double h
     }
 }
 
-/// All of it in twips. The room beside the text gives way before its type does, and a single
-/// character stays as large as other text whatever the box: a tick must not vanish.
+/// All values in twips. The padding shrinks before the font does. A single character keeps its size
+/// in any box, because a tick must not vanish.
 void PageDrawing::PrintLineInBox(double left, double right, double y, const QString& text,
                                  bool rightAligned) {
     const double spare = right - left - LeastGap - TextWidth(text);

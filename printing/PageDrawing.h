@@ -5,12 +5,11 @@
 
 #include <utility>
 
-/// Draws boxes, lines and texts on pages in memory. Positions and sizes come in window units and
-/// are multiplied by ScaleFactor() just before drawing. What it draws never reaches a printer by
-/// itself.
+/// Draws boxes, lines and texts on pages in memory. Positions and sizes are given in window units
+/// and multiplied by ScaleFactor() just before drawing. Sends nothing to a printer.
 class PageDrawing {
 public:
-    /// `space` is the printable part of a page in twips. The metrics outlive the drawing.
+    /// `space` is the printable part of a page in twips. The metrics must outlive this object.
     PageDrawing(QSizeF space, const TextMetrics& metrics);
 
     double ScaleWidth() const { return m_pages.space.width(); }
@@ -26,27 +25,27 @@ public:
     void SetFamily(const QString& family) { m_font.family = family; }
     void SetType(double points, bool bold);
     void SetItalic(bool italic) { m_font.italic = italic; }
-    /// In twips, in the font now set.
+    /// In twips, in the current font.
     double TextWidth(const QString& text) const { return m_metrics->Width(m_font, text); }
     double TextHeight() const { return m_metrics->Height(m_font); }
 
     void PrintBox(double left, double top, double width, double height);
     void PrintLine(double x1, double y1, double x2, double y2, int penWidth);
-    /// Centred vertically; breaks are "\r\n". A line that is too wide for the box is set closer
-    /// to its edge or else in smaller type, and one that would not be legible then ends in "…".
+    /// Centred vertically; line breaks are "\r\n". A line that is too wide for the box gets less
+    /// padding or else a smaller font; if that would not be legible, it ends in "…".
     void PrintTextInBox(double left, double top, double width, double height, const QString& text,
                         bool rightAligned);
-    /// A caption at (x, y), in a height centred vertically, in a width centred horizontally if
-    /// `centred` says so. A negative height or width is none.
+    /// A caption at (x, y), centred vertically if there is a height, and horizontally if there is a
+    /// width and `centred` is set. A negative height or width means none.
     void PrintLabel(double x, double y, const QString& text, double height = -1,
                     bool centred = false, double width = -1);
-    /// The same at a place in twips, for what hangs on the page and not on the window.
+    /// The same at a position in twips, for texts that belong to the page and not to the window.
     void PrintAt(QPointF place, const QString& text);
 
-    /// The text as it fits into a width of so many twips: as it is, or else in smaller type, which
-    /// is then set, or else with its end left out.
+    /// Fits the text into a width in twips: unchanged, or else in a smaller font, which becomes the
+    /// current font, or else shortened.
     QString FitInto(const QString& text, double width);
-    /// The room for text in a box, in twips.
+    /// The width available for text in a box, in twips.
     double RoomInBox(double width) const;
 
     void NewPage();

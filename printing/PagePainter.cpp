@@ -21,8 +21,8 @@ QFont FontOf(const PrintFont& print) {
     font.setBold(print.bold);
     font.setItalic(print.italic);
     font.setHintingPreference(QFont::PreferNoHinting);
-    // Spaced by nothing that can be seen, letters are not joined: "Payoff" is found when looked
-    // for.
+    // An invisible letter spacing prevents ligatures, so that a search in the document finds
+    // "Payoff".
     font.setLetterSpacing(QFont::AbsoluteSpacing, 0.02);
     return font;
 }
@@ -41,14 +41,14 @@ void Paint(QPainter& painter, const PrintedLine& line) {
     painter.drawLine(line.line);
 }
 
-/// Pictures in type are beyond the letters of common scripts; a first look costs nothing.
+/// Emoji lie beyond the letters of common scripts, so this quick check avoids the layout.
 bool MayHoldPictures(const QString& text) {
     constexpr char16_t firstSymbol = 0x2000;
     return std::ranges::any_of(text, [](QChar letter) { return letter >= firstSymbol; });
 }
 
-/// The font at another size. A document that embeds a font leaves the toolkit's at a size where no
-/// picture is found, unnoticed; one that is not the last size asked for is set anew.
+/// The font at another size. Embedding a font in a document leaves Qt's font engine at a size
+/// without bitmaps. Setting a different size first makes Qt set the wanted one again.
 QRawFont Sized(QRawFont font, double pixels) {
     font.setPixelSize(pixels + 1);
     font.boundingRect(0);
@@ -57,7 +57,7 @@ QRawFont Sized(QRawFont font, double pixels) {
     return font;
 }
 
-/// One glyph of a font that holds pictures instead of outlines.
+/// One glyph of a bitmap font.
 QImage PictureOf(const QRawFont& font, quint32 glyph) {
     const QRectF bounds = font.boundingRect(glyph);
     QImage picture(bounds.size().toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
@@ -71,7 +71,7 @@ QImage PictureOf(const QRawFont& font, quint32 glyph) {
 }
 
 void PaintPicture(QPainter& painter, QPointF place, const QRawFont& font, quint32 glyph) {
-    constexpr double dotsPerTwip = 0.5; // 720 an inch
+    constexpr double dotsPerTwip = 0.5; // 720 per inch
     const QRawFont dots = Sized(font, font.pixelSize() * dotsPerTwip);
     const QRectF bounds = dots.boundingRect(glyph);
     if (!bounds.isEmpty()) {
@@ -81,7 +81,7 @@ void PaintPicture(QPainter& painter, QPointF place, const QRawFont& font, quint3
     }
 }
 
-/// Emoji have no outlines, and what has none leaves no mark in a document.
+/// Emoji have no outlines, and a document shows only outlines.
 void PaintPictures(QPainter& painter, QPointF baseline, const QFont& font, const QString& text) {
     QTextLayout layout(text, font);
     layout.beginLayout();
@@ -111,7 +111,7 @@ void Paint(QPainter& painter, const PrintedText& text) {
     }
 }
 
-/// Or the next report would be laid out by the sizes that this one left behind.
+/// Otherwise the next report would be laid out with the font sizes that this one left behind.
 void SetSizesAnew(const PrintedPages& pages) {
     for (const PrintedPage& page : pages.pages) {
         for (const PrintedItem& item : page.items) {

@@ -22,10 +22,10 @@ private:
     mutable std::vector<std::pair<PrintFont, QFontMetricsF>> m_known;
 };
 
-/// Draws a page in black, as lines and text; emoji as the pictures that their font holds. The
-/// painter's unit is the twip, its origin the top left of the printable part. Fills nothing: the
-/// paper is white.
+/// Draws a page in black, as lines and text; emoji are drawn as the bitmaps of their font. The
+/// painter's unit is the twip, its origin the top left of the printable part. Draws no background:
+/// the paper is white.
 void PaintPage(QPainter& painter, const PrintedPage& page);
 
-/// Draws all pages on a printer or into a document. False where that cannot be begun.
+/// Draws all pages on a printer or into a document. False if drawing cannot begin.
 bool PaintPages(QPagedPaintDevice& device, const PrintedPages& pages);

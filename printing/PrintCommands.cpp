@@ -60,8 +60,7 @@ PrintCommands::~PrintCommands() {
     }
 }
 
-/// An installation without the part that prints is told of; what else fails is a dialog, and
-/// silent.
+/// A missing printing plugin is reported; every other failure is a dialog's and stays silent.
 template <class Handler>
 void PrintCommands::Guarded(Handler&& handler) const {
     try {
@@ -74,8 +73,8 @@ void PrintCommands::Guarded(Handler&& handler) const {
     }
 }
 
-/// Quitting would close the progress window, which is not what a user means by Cancel: it waits
-/// until the report is on its way.
+/// Quitting would close the progress window, which would cancel the job without the user wanting
+/// it. Quitting therefore waits until the report is sent.
 bool PrintCommands::eventFilter(QObject* watched, QEvent* event) {
     if (m_job && event->type() == QEvent::Quit && watched == QCoreApplication::instance()) {
         m_quits = true;
@@ -91,7 +90,7 @@ void PrintCommands::EnableEntries(bool enabled) {
     m_window->Form().mnuFilePrintSetup->setEnabled(enabled);
 }
 
-/// Tells what went wrong, if anything did.
+/// Reports what went wrong, if anything.
 bool PrintCommands::MayGoOn(const PrintOutcome& outcome) const {
     if (outcome.fault == PrintFault::None) {
         return true;
@@ -100,8 +99,7 @@ bool PrintCommands::MayGoOn(const PrintOutcome& outcome) const {
     return false;
 }
 
-/// A field that is refused stops the command: what it shows is not what the offers were computed
-/// from.
+/// A refused field stops the command, because the offers were not computed from the text it shows.
 void PrintCommands::mnuFilePrint_Click() {
     if (m_job || !m_window->Commit()) {
         return;
@@ -143,7 +141,7 @@ void PrintCommands::EndJob() {
     EnableEntries(true);
     MayGoOn(outcome);
     if (std::exchange(m_quits, false)) {
-        m_window->GetMessages().ShowRest(); // nobody shows them once the program has ended
+        m_window->GetMessages().ShowRest(); // later the event loop no longer runs
         QCoreApplication::quit();
     }
 }

@@ -9,23 +9,23 @@
 
 class Loan;
 
-/// The File menu's Print and Print Setup. One report is printed at a time: until it is on its way
-/// the entries are disabled, and the program does not end. A document that cannot be printed is
-/// told of once; a dialog that was cancelled or that failed is not.
+/// The File menu's Print and Print Setup. One report is printed at a time: until it is sent the
+/// entries are disabled and the program does not quit. A document that cannot be printed is
+/// reported once; a dialog that was cancelled or that failed is not.
 class PrintCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// Window and printer outlive the commands. Enables the entries.
+    /// Window and printer must outlive this object. Enables the entries.
     PrintCommands(Loan& window, PrinterDoor& printer, frmPrint::Pace pace = {});
     PrintCommands(const PrintCommands&) = delete;
     PrintCommands& operator=(const PrintCommands&) = delete;
     PrintCommands(PrintCommands&&) = delete;
     PrintCommands& operator=(PrintCommands&&) = delete;
-    /// A report under way is printed first, unless the user cancels it.
+    /// Finishes printing the current report first, unless the user cancels it.
     ~PrintCommands() override;
 
-    /// The job under way, if any.
+    /// The current job, if any.
     frmPrint* Job() const { return m_job.get(); }
 
 protected:
@@ -47,5 +47,5 @@ private:
     frmPrint::Pace m_pace;
     FontMetrics m_metrics;
     std::unique_ptr<frmPrint> m_job;
-    bool m_quits = false; ///< the program was about to end while the job was under way
+    bool m_quits = false; ///< the program was asked to quit during the job
 };

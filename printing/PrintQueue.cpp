@@ -14,13 +14,13 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Milliseconds = std::chrono::milliseconds;
 
-/// How often a wait looks whether it is to end, in seconds.
+/// How often a waiting call checks whether to stop, in seconds.
 constexpr double LookEvery = 0.1;
 
-/// A connection that gives up once it is stopped or its patience is at its end.
+/// A connection that gives up when it is stopped or its patience runs out.
 class Connection {
 public:
-    /// No patience is no end of it.
+    /// Without `patience` it waits without a limit.
     Connection(std::optional<Milliseconds> patience, std::stop_token stop)
         : m_stop(std::move(stop)) {
         if (patience) {
@@ -64,7 +64,7 @@ struct Deleted {
 };
 using Message = std::unique_ptr<ipp_t, Deleted>;
 
-/// The answer to a request, which it takes; null where none came.
+/// Sends a request, which it takes over, and returns the answer; null if there is none.
 Message Ask(const Connection& server, ipp_t* request) {
     if (server.Http() == nullptr) {
         ippDelete(request);
@@ -73,7 +73,8 @@ Message Ask(const Connection& server, ipp_t* request) {
     return Message(cupsDoRequest(server.Http(), request, "/"));
 }
 
-/// A server that knows nothing of this queue answers, too: no fault yet, for it may make one.
+/// A server that does not know this queue answers, too. That is no fault, because it may create
+/// one.
 PrintOutcome StateOf(const Connection& server, const QString& queue) {
     constexpr std::size_t longest = 1024;
     std::array<char, longest> uri{};
@@ -93,7 +94,7 @@ PrintOutcome StateOf(const Connection& server, const QString& queue) {
     return rejects ? PrintOutcome{PrintFault::Rejects, queue} : PrintOutcome();
 }
 
-/// The options as the server's own functions take them.
+/// The options in the form that the server's functions take.
 class Options {
 public:
     explicit Options(const QueuedDocument& document) {
@@ -115,7 +116,7 @@ private:
     cups_option_t* m_first = nullptr;
 };
 
-/// What the server said last in this thread.
+/// The server's last error in this thread.
 PrintOutcome LastFault(const QString& queue) {
     switch (cupsLastError()) {
     case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
@@ -129,7 +130,7 @@ PrintOutcome LastFault(const QString& queue) {
     }
 }
 
-/// Why no job was begun.
+/// Why no job could be created.
 PrintOutcome FaultOfBeginning(const Connection& server, const QString& queue) {
     const PrintOutcome fault = LastFault(queue);
     const PrintOutcome state = StateOf(server, queue);
@@ -140,7 +141,7 @@ PrintOutcome FaultOfBeginning(const Connection& server, const QString& queue) {
     return known ? fault : PrintOutcome{PrintFault::Gone, queue};
 }
 
-/// True when all of the document has been taken.
+/// True if the whole document was sent.
 bool Write(const Connection& server, const QueuedDocument& document, const QByteArray& queue,
            int job) {
     constexpr qsizetype most = 32'768;
@@ -160,7 +161,7 @@ bool Write(const Connection& server, const QueuedDocument& document, const QByte
     return cupsFinishDocument(server.Http(), queue.constData()) <= IPP_STATUS_OK_EVENTS_COMPLETE;
 }
 
-/// By a connection that has not been given up.
+/// Uses a new connection, because the other one may have been given up.
 void TakeBack(const QByteArray& queue, int job) {
     const Connection server(ServerPatience, {});
     if (server.Http() != nullptr) {
@@ -182,7 +183,7 @@ PrintOutcome AskQueue(const QString& queue) {
     return StateOf(Connection(ServerPatience, {}), queue);
 }
 
-/// The harmless question comes first: a server that hangs does so there, with no job begun.
+/// Asks for the state first: a hanging server hangs there, before a job is created.
 PrintOutcome Send(const QueuedDocument& document, const std::stop_token& stop) {
     const Connection server({}, stop);
     const PrintOutcome state = StateOf(server, document.queue);

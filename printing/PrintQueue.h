@@ -10,34 +10,34 @@
 #include <utility>
 #include <vector>
 
-// The print server of this system. No call waits for a server that does not answer longer than it
-// says. Without a printing system there is no queue, and the toolkit prints by itself.
+// The print server of this system. No call waits longer than stated for a server that does not
+// answer. Without a printing system there is no queue, and Qt prints directly.
 
 /// Whether documents go to a print server.
 bool HasPrintServer();
 
-/// A document as a queue takes it.
+/// A document as a print queue accepts it.
 struct QueuedDocument {
     QString queue;
     QString title;
     QByteArray pdf;
-    std::vector<std::pair<QByteArray, QByteArray>> options; ///< names and values, of the server's
+    std::vector<std::pair<QByteArray, QByteArray>> options; ///< the server's names and values
 };
 
-/// A server that is alive answers within milliseconds.
+/// A running server answers within milliseconds.
 inline constexpr std::chrono::milliseconds ServerPatience{2000};
 
 /// NoServer or None, within ServerPatience.
 PrintOutcome AskServer();
 
-/// Whether a queue takes documents: NoServer, Rejects or None, within ServerPatience. A printer
-/// that the server has yet to make a queue for counts as one that does.
+/// Whether a queue accepts documents: NoServer, Rejects or None, within ServerPatience. A printer
+/// for which the server has not yet created a queue counts as accepting.
 PrintOutcome AskQueue(const QString& queue);
 
-/// Puts a document into its queue, in any thread. Waits for the server as long as it takes; once a
-/// stop is requested it takes the document back, and returns within a second or so.
+/// Sends a document to its queue, in any thread. Waits for the server without a time limit; once a
+/// stop is requested it cancels the document, and returns within about a second.
 PrintOutcome Send(const QueuedDocument& document, const std::stop_token& stop);
 
-/// Makes a printer the one that this user's programs start from, where the printing system keeps
-/// such a choice; else nothing happens. A printer that is not there is not chosen.
+/// Sets a printer as this user's default printer if the printing system stores one; otherwise does
+/// nothing. A printer that does not exist is not set.
 void ChooseUserPrinter(const QString& queue);

@@ -8,20 +8,20 @@
 #include <cstddef>
 #include <vector>
 
-/// What the report shows of the main window, as it stood at one moment. Places are in pixels of the
+/// What the report shows of the main window, read at one moment. Positions are in pixels of the
 /// window below its menu bar.
 
 enum class Side { Left, Centre, Right };
 
 struct FormLabel {
-    QString caption; ///< without the marks of access keys
+    QString caption; ///< without access key marks
     QRectF place;
-    Side side = Side::Left; ///< where in its place the caption stands
-    double points = 0;      ///< the size of its type
+    Side side = Side::Left; ///< the alignment of the caption in its place
+    double points = 0;      ///< the font size
     bool bold = false;
 };
 
-/// A label, its field, and the side on which the field's text stands.
+/// A label, its field, and the alignment of the field's text.
 struct FormEntry {
     FormLabel label;
     QRectF field;
@@ -29,7 +29,7 @@ struct FormEntry {
     Side side = Side::Left;
 };
 
-/// The left edge, from that of the area of the offers, and the width of a column.
+/// The left edge of a column, relative to the offer area, and its width.
 struct FormColumn {
     double left = 0;
     double width = 0;
@@ -38,26 +38,26 @@ struct FormColumn {
 
 inline constexpr std::size_t OfferColumnCount = 11;
 
-/// The texts of an offer in the order of the columns: the tick box shows "x" or nothing, the last
-/// is about the lender and may hold "\r\n".
+/// The texts of an offer in the order of the columns. The tick box shows "x" or nothing. The last
+/// text describes the lender and may contain "\r\n".
 using FormRow = std::array<QString, OfferColumnCount>;
 
 struct PrintedForm {
     double width = 0;          ///< of the window
     double pixelsPerPoint = 1; ///< of the screen
-    QString fontFamily;        ///< of the label of the loan's name, and of everything printed
-    double fontHeight = 0;     ///< what a line takes in the window's font
-    FormLabel current;         ///< the heading of the loan held today
+    QString fontFamily;        ///< of the label of the loan's name, used for everything printed
+    double fontHeight = 0;     ///< the line height in the window's font
+    FormLabel current;         ///< the heading of the current loan
     std::vector<FormEntry> header;
     std::array<QLineF, 4> lines;
     std::vector<FormEntry> currentFirstHalf;
     std::vector<FormEntry> currentSecondHalf;
     std::vector<FormLabel> headings;
-    double offersLeft = 0; ///< of the area of the offers
+    double offersLeft = 0; ///< of the offer area
     double offersTop = 0;
     std::array<FormColumn, OfferColumnCount> columns;
     double scrollBarWidth = 0; ///< beside the offers
-    double fieldHeight = 0;    ///< of a field of an offer
+    double fieldHeight = 0;    ///< of a field in an offer row
     std::vector<FormRow> rows;
     QString legalNotice;
 };

@@ -11,12 +11,12 @@
 #include <vector>
 
 /// Positions and sizes on paper are twips, 1/1440 inch, from the top left of the printable part of
-/// a page; sizes of type are points, pen widths are dots of 1/300 inch.
+/// a page; font sizes are points, pen widths are dots of 1/300 inch.
 inline constexpr double TwipsPerPoint = 20;
 inline constexpr double TwipsPerInch = 1440;
 inline constexpr double TwipsPerDot = TwipsPerInch / 300;
 
-/// Between the lines of a text on its way to the page; there, each line is a text of its own.
+/// Separates the lines of a text before it is drawn; on the page each line is a separate text.
 inline constexpr QLatin1String LineBreak("\r\n");
 
 struct PrintFont {
@@ -28,7 +28,7 @@ struct PrintFont {
     friend bool operator==(const PrintFont&, const PrintFont&) = default;
 };
 
-/// A frame; nothing fills it.
+/// A frame without a fill.
 struct PrintedBox {
     QRectF place;
     int penWidth = 0;
@@ -48,12 +48,12 @@ struct PrintedText {
 
 using PrintedItem = std::variant<PrintedBox, PrintedLine, PrintedText>;
 
-/// What stands on a page, in the order of drawing. Black on white.
+/// The items of a page, in drawing order. Black on white.
 struct PrintedPage {
     std::vector<PrintedItem> items;
 };
 
-/// A report in memory. Nothing of it is on its way to a printer.
+/// A report in memory. Nothing of it has been sent to a printer.
 struct PrintedPages {
     QSizeF space; ///< the printable part of each page
     std::vector<PrintedPage> pages;

@@ -1,4 +1,4 @@
-// The library Loan.Printers.
+// The printing plugin, Loan.Printers.
 
 #include "PrinterPart.h"
 #include "SystemPrinter.h"

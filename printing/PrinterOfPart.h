@@ -4,8 +4,8 @@
 
 #include <memory>
 
-/// The printers of this system. The library that knows them is loaded when the first question is
-/// put to them; where it is missing, each question throws ComponentFailure.
+/// The printers of this system. Loads the printing plugin on the first call; if the plugin is
+/// missing, every call throws ComponentFailure.
 class PrinterOfPart : public PrinterDoor {
 public:
     std::optional<PrintOutcome> AskHowToPrint(QWidget& parent) override {

@@ -9,10 +9,10 @@
 
 class QString;
 
-/// The part of the program that knows the printers of this system, a library of its own.
+/// The interface of the plugin that accesses the printers of this system.
 class PrinterPart {
 public:
-    /// The words of the language in use, by number.
+    /// The texts of the current language, by number.
     using Words = std::function<QString(int number)>;
 
     PrinterPart() = default;
@@ -25,6 +25,6 @@ public:
     virtual std::unique_ptr<PrinterDoor> Printers(Words words) const = 0;
 };
 
-// A macro, because the meta-object compiler reads it.
+// A macro, because moc reads it.
 #define PrinterPart_iid "quend.loan.PrinterPart/2"
 Q_DECLARE_INTERFACE(PrinterPart, PrinterPart_iid)

@@ -12,11 +12,11 @@ namespace {
 
 constexpr int SeparatorPen = 5;
 constexpr double FooterPoints = 6;
-/// Type shrinks along with a window that is wider than the page, but not below this.
+/// The font shrinks with a window that is wider than the page, but not below this size.
 constexpr double LegiblePoints = 6;
-/// Window units above and below a text of several lines, together.
+/// The total padding above and below a text of several lines, in window units.
 constexpr double LinesPadding = 4;
-/// What the lines about a lender keep free of the right edge, in twips.
+/// The distance of the lender's lines from the right edge, in twips.
 constexpr double LenderGap = 28;
 constexpr std::size_t LenderColumn = OfferColumnCount - 1;
 
@@ -42,7 +42,7 @@ void Report::Prepare() {
 
 void Report::TakeScaleFactor() { m_page.SetScaleFactor(m_page.ScaleWidth() / m_form.width); }
 
-/// A page at least as wide as the window has the type in its own size.
+/// On a page at least as wide as the window the font keeps its size.
 double Report::TypeScale() const {
     const double natural = TwipsPerPoint / m_form.pixelsPerPoint;
     return std::min(1.0, m_page.ScaleFactor() / natural);
@@ -59,7 +59,7 @@ void Report::TakeLabelFont(const FormLabel& label) {
     m_page.SetType(points, label.bold);
 }
 
-/// A caption in its label's font at the place where the window shows it.
+/// A caption in its label's font, where the window shows it.
 void Report::PrintCaption(const FormLabel& label, double top) {
     TakeLabelFont(label);
     const PrintFont font = m_page.Font();
@@ -87,7 +87,7 @@ void Report::PrintEntries(const std::vector<FormEntry>& entries) {
     }
 }
 
-/// A column that is too narrow for a few letters would break a lender's text into one line each.
+/// If the column had room for fewer letters, a lender's text would get one line for each.
 bool Report::HasRoomForARow() const {
     const double lender = m_page.RoomInBox(m_form.columns.back().width + m_form.scrollBarWidth);
     return m_page.ScaleFactor() > 0 &&
@@ -125,7 +125,7 @@ void Report::PrintColumnHeaders() {
     }
 }
 
-/// The lender's box takes the room of the scroll bar, which is not printed, so that a line that
+/// The lender's box includes the width of the scroll bar, which is not printed, so that a line that
 /// fits the column fits the box.
 double Report::ColumnWidth(std::size_t column) const {
     return column == LenderColumn ? m_lenderColumnWidth : m_form.columns.at(column).width;
@@ -144,7 +144,7 @@ QString Report::LenderTextOf(const FormRow& row) const {
     return fits ? text : WrapLenderText(text, room, width);
 }
 
-/// What a line takes in the window's font, or in that of the paper where it is higher.
+/// The line height of the window's font or, if greater, of the paper's font.
 double Report::LineHeight() const {
     return std::max(m_form.fontHeight, m_page.TextHeight() / m_page.ScaleFactor());
 }
@@ -154,7 +154,7 @@ double Report::HeightOf(qsizetype lines) const {
     return std::max(LineHeight() * static_cast<double>(lines) + padding, m_form.fieldHeight);
 }
 
-/// Where the rows of a page end at the latest.
+/// The lowest end of the rows on a page.
 double Report::RowLimit() const {
     return (m_page.ScaleHeight() - m_footerReserve) / m_page.ScaleFactor();
 }
@@ -170,7 +170,7 @@ void Report::PrintRow(const FormRow& row) {
     PrintRowPart(texts);
 }
 
-/// A row higher than a page goes on over the next ones: what is left of it fits when this is done.
+/// Prints a row higher than a page, except its last part, which then fits on the current page.
 void Report::PrintHighRow(FormRow& texts) {
     QStringList lines = texts.back().split(LineBreak);
     while (lines.size() > 1 && m_rowTop + HeightOf(lines.size()) > RowLimit()) {

@@ -6,18 +6,17 @@
 #include <array>
 
 /// Draws the report of a worksheet on pages in memory: the window on paper, black on white, its
-/// offers broken over as many pages as they need. Nothing is computed anew, nothing is read from
-/// the window while it draws. When to draw, when to stop and whether anything reaches the printer
-/// is for the job to decide (frmPrint).
+/// offers split over as many pages as they need. Computes nothing and reads nothing from the
+/// window. The job (frmPrint) decides when to draw, when to stop and whether anything is printed.
 class Report {
 public:
-    /// `space`: the printable part of a page in twips. The metrics outlive the report.
+    /// `space`: the printable part of a page in twips. The metrics must outlive the report.
     Report(PrintedForm form, QSizeF space, const TextMetrics& metrics);
 
-    /// Whether the first page has room for the loan and, below it, for the row of an offer.
+    /// Whether the first page has room for the loan and one offer row below it.
     bool HasRoomForARow() const;
 
-    // The sections, to be drawn once each and in this order.
+    // The sections; draw each once, in this order.
     void PrintLoanHeader();
     void PrintCurrentLoanFirstHalf();
     void PrintCurrentLoanSecondHalf();
@@ -28,12 +27,12 @@ public:
         &Report::PrintLoanHeader, &Report::PrintCurrentLoanFirstHalf,
         &Report::PrintCurrentLoanSecondHalf, &Report::PrintOffers};
 
-    /// The legal notice at the foot of the page; called for the last page once all is drawn.
+    /// The legal notice at the foot of the page; call for the last page after everything is drawn.
     void PrintPageFooter();
 
     const PrintedPages& Pages() const { return m_page.Pages(); }
 
-    /// The widest window whose type is still legible on a page of this printable width (twips).
+    /// The widest window whose text is still legible on a page of this printable width (twips).
     static double WidestWindow(double scaleWidth, double points, double pixelsPerPoint);
 
 private:

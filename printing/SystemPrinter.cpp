@@ -19,8 +19,8 @@
 
 namespace {
 
-/// What is not asked: there is no selection and no current page, a report is printed whole, and on
-/// paper.
+/// Options that are not offered: there is no selection and no current page, and a report is printed
+/// whole and on paper.
 constexpr std::array NotAsked{
     QAbstractPrintDialog::PrintSelection,
     QAbstractPrintDialog::PrintPageRange,
@@ -28,8 +28,8 @@ constexpr std::array NotAsked{
     QAbstractPrintDialog::PrintToFile,
 };
 
-/// The toolkit offers some of the pages whatever the options say, and shows again what is hidden;
-/// so the choice goes where nothing shows.
+/// Qt offers a page range regardless of the options and shows hidden controls again, so the
+/// controls are moved into a hidden widget.
 void HidePageRange(QPrintDialog& dialog) {
     if (auto* range = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange"))) {
         auto* nowhere = new QWidget(&dialog);
@@ -39,14 +39,14 @@ void HidePageRange(QPrintDialog& dialog) {
 }
 
 void Limit(QPrintDialog& dialog) {
-    dialog.setMinMax(1, 9999); // which offers a range of pages
+    dialog.setMinMax(1, 9999); // this offers a page range
     for (const auto option : NotAsked) {
         dialog.setOption(option, false);
     }
     HidePageRange(dialog);
 }
 
-/// The toolkit calls its button "Print" here, too, where nothing is printed.
+/// Qt calls this button "Print" here, too, although nothing is printed.
 void NameOk(const QPrintDialog& dialog, const QString& text) {
     if (const auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
         if (auto* button = buttons->button(QDialogButtonBox::Ok)) {
@@ -55,7 +55,7 @@ void NameOk(const QPrintDialog& dialog, const QString& text) {
     }
 }
 
-/// The page that the printer itself starts from; the toolkit starts from its own.
+/// The printer's default page size; Qt would use another one.
 QPageSize OwnPageSize(const QPrinter& printer) {
     const QPageSize own = QPrinterInfo(printer).defaultPageSize();
     const bool metric = QLocale().measurementSystem() == QLocale::MetricSystem;
@@ -66,7 +66,7 @@ bool IsThere(const QPrinter& printer) {
     return QPrinterInfo::availablePrinterNames().contains(printer.printerName());
 }
 
-/// A server that hangs would hang the dialog, too, and one without printers has nothing to choose.
+/// A hanging server would block the dialog, and without printers there is nothing to choose.
 PrintOutcome ObstacleToAsking() {
     const PrintOutcome server = AskServer();
     if (server.fault == PrintFault::None && QPrinterInfo::availablePrinterNames().isEmpty()) {
@@ -75,7 +75,7 @@ PrintOutcome ObstacleToAsking() {
     return server;
 }
 
-/// The queue's own name: the toolkit knows it together with that of a set of options.
+/// The queue's name alone: Qt appends the name of an option set.
 QString QueueOf(const QPrinter& printer) { return printer.printerName().section(u'/', 0, 0); }
 
 QByteArray SidesOf(const QPrinter& printer) {
@@ -95,8 +95,8 @@ QByteArray SidesOf(const QPrinter& printer) {
 
 using ServerOptions = decltype(QueuedDocument::options);
 
-/// What the dialog asks of the print server alone, such as pages per sheet: the toolkit keeps it
-/// under a number that has no name, names and values in turn.
+/// The dialog's settings that only the print server knows, such as pages per sheet. Qt stores them
+/// under an unnamed property number, alternating names and values.
 void AddDialogOptions(const QPrinter& printer, ServerOptions& options) {
     constexpr auto key = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00);
     const QStringList chosen = printer.printEngine()->property(key).toStringList();
@@ -105,7 +105,7 @@ void AddDialogOptions(const QPrinter& printer, ServerOptions& options) {
     }
 }
 
-/// The server's words for what the toolkit's dialogs ask.
+/// The settings of Qt's dialogs as options of the server.
 ServerOptions OptionsOf(const QPrinter& printer, int copies) {
     ServerOptions options{{"media", printer.pageLayout().pageSize().key().toUtf8()},
                           {"sides", SidesOf(printer)}};
@@ -122,7 +122,7 @@ ServerOptions OptionsOf(const QPrinter& printer, int copies) {
     return options;
 }
 
-/// Empty where it cannot be painted.
+/// Empty if it cannot be painted.
 QByteArray PdfOf(const PrintedPages& pages, const QPrinter& printer) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -150,7 +150,7 @@ QSizeF PageSpaceOf(const QPrinter& printer) {
     return printer.pageLayout().paintRect(QPageLayout::Point).size() * TwipsPerPoint;
 }
 
-/// A printer that has gone since it was chosen gives way to the default one.
+/// If the chosen printer no longer exists, takes the default one.
 QPrinter& SystemPrinter::Chosen() {
     if (!m_printer || !IsThere(*m_printer)) {
         m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
@@ -170,7 +170,7 @@ bool SystemPrinter::Ask(QPrintDialog& dialog) {
     return true;
 }
 
-/// The number of copies is one job's: nobody wants five of the next.
+/// The number of copies is for one job only and must not apply to the next.
 std::optional<PrintOutcome> SystemPrinter::AskHowToPrint(QWidget& parent) {
     const PrintOutcome obstacle = ObstacleToAsking();
     if (obstacle.fault != PrintFault::None) {
@@ -199,8 +199,8 @@ PrintOutcome SystemPrinter::AskSetUp(QWidget& parent) {
 
 QSizeF SystemPrinter::PageSpace() { return PageSpaceOf(m_printer ? *m_printer : Chosen()); }
 
-/// The toolkit would print in the window's thread, tell of no fault, and print on another printer
-/// instead of one that is gone.
+/// Uses the print server if there is one: Qt would print in the window's thread, report no errors,
+/// and use another printer in place of a missing one.
 HandOver SystemPrinter::Document(const PrintedPages& pages) {
     QPrinter& printer = m_printer ? *m_printer : Chosen();
     if (!HasPrintServer()) {

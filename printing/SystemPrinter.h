@@ -10,13 +10,13 @@
 
 class QPrintDialog;
 
-/// The printers of this system through the toolkit, with its dialogs; documents go straight to the
-/// print server, where there is one. What the user chose last is kept for as long as the program
-/// runs, but for the number of copies. Files are not offered for printing into.
+/// The printers of this system through Qt and its dialogs; documents go directly to the print
+/// server if there is one. Keeps the user's last choices while the program runs, except the number
+/// of copies. Does not offer printing to a file.
 class SystemPrinter : public PrinterDoor {
 public:
-    /// The words of the language in use, by number. They come in, because this class is in a
-    /// library of its own, where no language is in use.
+    /// The texts of the current language, by number. Passed in, because this class is in a plugin,
+    /// which has no language.
     using Words = std::function<QString(int number)>;
     explicit SystemPrinter(Words words) : m_words(std::move(words)) {}
 
@@ -30,12 +30,12 @@ private:
     bool Ask(QPrintDialog& dialog);
 
     Words m_words;
-    // Made when first asked for: looking for printers takes its time.
+    // Created on first use, because finding printers takes time.
     std::unique_ptr<QPrinter> m_printer;
     int m_copies = 1; ///< of the next document
 };
 
-/// Sets up whatever prints: the document's name, and the page that the printer itself has.
+/// Sets the document's name and the printer's own default page size.
 void PrepareDocument(QPrinter& printer);
-/// The printable part of the page that is set up, in twips.
+/// The printable part of the current page, in twips.
 QSizeF PageSpaceOf(const QPrinter& printer);

@@ -9,14 +9,14 @@
 
 namespace {
 
-/// How one line ends: what it shows, and how much of the text it takes up.
+/// The end of one line: how much text it shows and how much it consumes.
 struct LineEnd {
     qsizetype shown;
     qsizetype taken;
 };
 
-/// Nothing where the text ends before its line does. A text that goes on beyond what is given may
-/// do so with a part of its last character.
+/// Empty if the text ends before the line is full. With `goesOn` the given text is cut, possibly
+/// within its last character.
 std::optional<LineEnd> EndOfLine(QStringView text, bool goesOn, double columnWidth,
                                  const std::function<double(const QString&)>& width) {
     QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text);
@@ -30,7 +30,7 @@ std::optional<LineEnd> EndOfLine(QStringView text, bool goesOn, double columnWid
             return LineEnd{before, before + LineBreak.size()};
         }
         const QChar character = text.at(before);
-        if (character == u' ' && end == before + 1) { // one with an accent on it is no gap
+        if (character == u' ' && end == before + 1) { // a blank with a combining accent is no gap
             lastBreak = {before, end};
         }
         if (width(text.first(end).toString()) >= columnWidth) {
@@ -39,7 +39,7 @@ std::optional<LineEnd> EndOfLine(QStringView text, bool goesOn, double columnWid
             }
             return before > 0 ? LineEnd{before, before} : LineEnd{end, end};
         }
-        if (character == u'-') { // it stays on the line, so it must fit there
+        if (character == u'-') { // a hyphen stays on the line, so it must fit
             lastBreak = {end, end};
         }
         before = end;
@@ -47,7 +47,7 @@ std::optional<LineEnd> EndOfLine(QStringView text, bool goesOn, double columnWid
     return std::nullopt;
 }
 
-/// Looks no further into a text than a line needs: the longest are many thousand lines.
+/// Examines no more of the text than a line needs: the longest texts have many thousand lines.
 LineEnd FirstLine(QStringView rest, double columnWidth,
                   const std::function<double(const QString&)>& width) {
     for (qsizetype looked = 256; looked < rest.size(); looked *= 2) {

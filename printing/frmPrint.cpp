@@ -22,9 +22,9 @@ std::unique_ptr<Ui::frmPrint> FormOf(frmPrint& window) {
     return form;
 }
 
-/// A name on one line; of a long one both ends, which is where names differ.
+/// A name on one line; a long one is shortened in the middle, because names differ at the ends.
 QString Shortened(const QString& name, const QFontMetrics& metrics) {
-    constexpr int longest = 60; // characters of middling width
+    constexpr int longest = 60; // characters of average width
     return metrics.elidedText(name, Qt::ElideMiddle, longest * metrics.averageCharWidth());
 }
 
@@ -36,7 +36,7 @@ PrintOutcome FailureOf(const std::exception& failure) {
     return {PrintFault::Failed, QString::fromUtf8(failure.what())};
 }
 
-/// Whatever the printing system throws, it must not end the thread and the program with it.
+/// An exception of the printing system must not end the thread and with it the program.
 PrintOutcome Run(const HandOver& handOver, const std::stop_token& stop) {
     try {
         return handOver(stop);
@@ -70,8 +70,8 @@ void frmPrint::Form_Load() {
     m_printCancelled = false;
 }
 
-/// The Return that pressed Print may be pressed twice or held, and this window opens below it: no
-/// Return is Cancel, whatever a desktop thinks of Return on a button.
+/// Return is never Cancel here, whatever the desktop's rule for buttons: the Return that pressed
+/// Print may be repeated or held while this window opens.
 bool frmPrint::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress && IsReturn(static_cast<const QKeyEvent&>(*event))) {
         return true;
@@ -85,7 +85,7 @@ void frmPrint::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-/// Once it is on the screen, however the desktop gives it the keyboard.
+/// Runs once the window is visible, however the desktop gives it the focus.
 void frmPrint::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!std::exchange(m_activated, true)) {
@@ -119,7 +119,7 @@ void frmPrint::Form_Activate() {
 
 void frmPrint::ApplyPrintCaptions() { ApplyTexts(*this, TermUnit::Years); }
 
-/// False when it was cancelled: nothing more is drawn then.
+/// False if it was cancelled: nothing more is drawn then.
 bool frmPrint::DrawReport() {
     for (const Report::Section section : Report::Sections) {
         (m_job.report.*section)();
@@ -166,7 +166,7 @@ void frmPrint::EndSoon() {
     }
 }
 
-/// What was drawn for a cancelled job goes no further.
+/// The pages of a cancelled job are not sent.
 void frmPrint::Form_Unload() {
     if (m_printCancelled) {
         Unload();
@@ -191,7 +191,7 @@ void frmPrint::GiveToPrinter() {
     });
 }
 
-/// A cancelled job has its end here, too, for only now nothing of it runs any more.
+/// A cancelled job ends here, too, because only now nothing of it is running.
 void frmPrint::Arrived(const PrintOutcome& outcome) {
     m_handingOver = {};
     if (m_printCancelled) {
@@ -202,7 +202,7 @@ void frmPrint::Arrived(const PrintOutcome& outcome) {
     }
 }
 
-/// While the report is being drawn or handed over, the end is told only when that has come back.
+/// During drawing or sending, Unloaded is emitted only after that has returned.
 void frmPrint::Unload() {
     if (std::exchange(m_unloaded, true)) {
         return;

@@ -14,28 +14,27 @@ namespace Ui {
 class frmPrint;
 }
 
-/// The job of printing one report, and the window that shows it at work. Draws the report section
-/// by section and lets Cancel be pressed in between; stays up for three seconds at least; then
-/// hands the pages to the printer, in a thread of their own because a print server may take
-/// minutes, and closes when they have arrived. Does not know what the report looks like and does
-/// not tell what went wrong: that is in the outcome.
+/// One print job and its progress window. Draws the report section by section and allows Cancel in
+/// between; stays open for at least three seconds; then sends the pages to the printer in a
+/// separate thread, because a print server may take minutes, and closes when they have been sent.
+/// Does not know what the report looks like and reports no errors: they are in the outcome.
 ///
 /// Closing the window by other means than the job's end is Cancel.
 class frmPrint : public QDialog {
     Q_OBJECT
 
 public:
-    /// How the job takes its time.
+    /// The timing of the job.
     struct Pace {
         std::chrono::milliseconds shownAtLeast{3000};
-        /// Lets everything happen that is waiting; the program's own way when empty.
+        /// Processes pending events; empty: QCoreApplication::processEvents.
         std::function<void()> yield;
     };
     struct Job {
         QString loanName;
         Report report;
     };
-    /// Window and printer outlive the job. Starts by itself once shown.
+    /// Window and printer must outlive the job. The job starts when the window is shown.
     frmPrint(QWidget& owner, Job job, PrinterDoor& printer, Pace pace);
     frmPrint(const frmPrint&) = delete;
     frmPrint& operator=(const frmPrint&) = delete;
@@ -48,17 +47,16 @@ public:
     /// The whole report has been drawn.
     bool PrintFinished() const { return m_printFinished; }
 
-    /// What became of the document; nothing is wrong with one that was cancelled.
+    /// The result of sending the document; a cancelled one has no fault.
     const PrintOutcome& Outcome() const { return m_outcome; }
 
-    /// The program is about to end: the report is printed as soon as it is drawn. Cancel goes on
-    /// working meanwhile.
+    /// The program is about to quit: sends the report as soon as it is drawn. Cancel keeps working.
     void EndSoon();
 
     void reject() override { cmdCancel_Click(); }
 
 Q_SIGNALS:
-    /// The job has ended, one way or the other, and nothing of it runs any more.
+    /// The job has ended, finished or cancelled, and nothing of it is running.
     void Unloaded();
 
 protected:
@@ -94,5 +92,5 @@ private:
     bool m_printFinished = false;
     bool m_endsSoon = false;
     PrintOutcome m_outcome;
-    std::jthread m_handingOver; // the last member: it ends before what it uses
+    std::jthread m_handingOver; // last member: ends before what it uses
 };

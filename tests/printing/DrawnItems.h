@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <vector>
 
-/// What of one kind stands on a page, in the order of drawing.
+/// All items of one kind on a page, in drawing order.
 template <class Kind>
 std::vector<Kind> ItemsOf(const PrintedPage& page) {
     std::vector<Kind> found;

@@ -8,7 +8,7 @@
 #include <stop_token>
 #include <vector>
 
-/// Stands in the door of the printer: answers its dialogs and keeps what arrives.
+/// A test double for PrinterDoor: answers the dialogs and stores what is printed.
 class FakePrinter : public PrinterDoor {
 public:
     std::optional<PrintOutcome> AskHowToPrint(QWidget& /*parent*/) override {
@@ -38,16 +38,16 @@ public:
     bool answer = true;
     std::function<void()> whileAsking;
     QSizeF space{8 * TwipsPerInch, 10.5 * TwipsPerInch};
-    PrintOutcome chance;  ///< what the printer's queue says before there is a document
-    PrintOutcome outcome; ///< and what becomes of one
-    /// Runs in the thread that hands over.
+    PrintOutcome chance;  ///< the state of the printer's queue before a document is sent
+    PrintOutcome outcome; ///< the result of sending a document
+    /// Runs in the sending thread.
     std::function<void(const std::stop_token& stop)> whileHandingOver;
     int asked = 0;
     int setUp = 0;
-    std::vector<PrintedPages> printed; ///< to be looked at when the job has ended
+    std::vector<PrintedPages> printed; ///< read it only after the job has ended
 };
 
-/// A server that takes a document and says nothing: until it is stopped.
+/// A server that accepts a document and does not answer until it is stopped.
 inline void Hang(const std::stop_token& stop) {
     std::atomic_bool stopped = false;
     const std::stop_callback wake(stop, [&] {

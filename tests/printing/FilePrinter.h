@@ -6,7 +6,7 @@
 
 #include <QPrinter>
 
-/// Prints into a file, where no print server can be had.
+/// Prints into a file if no print server is available.
 class FilePrinter : public PrinterDoor {
 public:
     FilePrinter(const QString& file, const QPageSize& size,

@@ -1,4 +1,4 @@
-// What the report takes from the live window.
+// What the report reads from the live window.
 
 #include "FormReader.h"
 
@@ -156,7 +156,7 @@ TEST_F(FormReaderTest, TheFieldBeingEditedIsReadAsItLooksOnceLeft) {
     EXPECT_EQ(FocusName(), u"txtLoanAmount");
 }
 
-/// The layout is read at a width that leaves legible type, and the window stays as it is.
+/// The layout is read at a width that leaves the text legible; the window does not change.
 TEST_F(FormReaderTest, AVeryWideWindowIsReadNarrower) {
     Open();
     const int usual = Control(u"centralWidget").width();
@@ -169,11 +169,11 @@ TEST_F(FormReaderTest, AVeryWideWindowIsReadNarrower) {
     EXPECT_EQ(Control(u"centralWidget").width(), 2 * usual);
     EXPECT_EQ(PlaceOf(u"txtWho(0)"), before);
     EXPECT_TRUE(Control(u"centralWidget").updatesEnabled());
-    // It cannot be narrower than what it holds.
+    // It cannot be narrower than its content.
     EXPECT_EQ(Read(10).width, Control(u"centralWidget").minimumSizeHint().width());
 }
 
-/// What the window shows between headings and rows is printed there.
+/// Empty space between headings and rows in the window would be printed, too.
 TEST_F(FormReaderTest, AHighWindowLeavesNoHole) {
     Open();
     Window().resize(Window().width(), 3 * Window().height());

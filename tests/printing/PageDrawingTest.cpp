@@ -60,7 +60,7 @@ PrintedText At(double x, double y, const char* text, double points = 10) {
 }
 
 /// A box at (50, 100), 500 wide and 200 high: in twips (100, 200), 1,000 and 400. A character is
-/// 100 twips wide and 200 high, and 908 twips are there for text.
+/// 100 twips wide and 200 high; 908 twips remain for text.
 class TextInBox : public PageDrawingTest, public testing::WithParamInterface<InBox> {};
 
 const std::vector<InBox> BoxCases{
@@ -121,7 +121,7 @@ TEST_P(Fitting, SmallerThenShorter) {
     EXPECT_NEAR(Page().Font().points, GetParam().points, 0.06);
 }
 
-/// A character is 100 twips wide; 20 twips at each side stay free.
+/// A character is 100 twips wide; at least 20 twips stay free on each side.
 TEST_F(PageDrawingTest, TheRoomBesideATextGivesWayBeforeItsType) {
     struct {
         const char* text;
@@ -130,11 +130,11 @@ TEST_F(PageDrawingTest, TheRoomBesideATextGivesWayBeforeItsType) {
         double x;
         double points;
     } const table[]{
-        {"ab", 292, false, 72, 10}, // the text and all the room
+        {"ab", 292, false, 72, 10}, // the text and the full padding
         {"ab", 292, true, 20, 10},   {"ab", 260, false, 40, 10},
-        {"ab", 260, true, 20, 10},   {"ab", 240, false, 20, 10}, // the least of it
+        {"ab", 260, true, 20, 10},   {"ab", 240, false, 20, 10}, // the least padding
         {"ab", 190, false, 20, 7.5}, {"ab", 1000, true, 728, 10},
-        {"x", 120, false, 10, 10}, // a single one stays as large
+        {"x", 120, false, 10, 10}, // a single character keeps its size
         {"x", 80, true, -10, 10},
     };
     for (const auto& row : table) {

@@ -1,4 +1,4 @@
-// What is painted, in a document: letters are type, emoji are pictures.
+// Painting into a document: letters become text, emoji become pictures.
 
 #include "PagePainter.h"
 
@@ -26,7 +26,7 @@ qsizetype PicturesIn(const QString& text) { return DocumentWith(text).count("/Su
 
 double WidthOf(const QString& text) { return FontMetrics().Width(TypeOfBanks, text); }
 
-/// The font holds U+1F3E6 as a picture, and an A because one without Latin is not asked.
+/// The font has U+1F3E6 as a bitmap, and an A because Qt ignores a font without Latin letters.
 TEST(PagePainter, WhatAFontHoldsAsAPictureIsPrintedAsOne) {
     const int font = QFontDatabase::addApplicationFont(
         QStringLiteral(QUEND_TEST_DATA "/fonts/picture-type.ttf"));
@@ -37,7 +37,7 @@ TEST(PagePainter, WhatAFontHoldsAsAPictureIsPrintedAsOne) {
     EXPECT_EQ(PicturesIn(bank), 1);
     EXPECT_EQ(WidthOf(bank), width);
     EXPECT_EQ(PicturesIn(QStringLiteral("The ") + bank + QStringLiteral(" of Ohio")), 1);
-    EXPECT_EQ(WidthOf(bank), width); // documents leave no trace in the next one
+    EXPECT_EQ(WidthOf(bank), width); // a document does not affect the next one
     EXPECT_EQ(PicturesIn(QString::fromUtf8("Crédit “Loire” – 5 €")), 0);
     EXPECT_EQ(PicturesIn(QString()), 0);
     QFontDatabase::removeApplicationFont(font);

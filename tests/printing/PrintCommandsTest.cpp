@@ -1,4 +1,4 @@
-// The entries of the File menu, before a stand-in for the printer.
+// The entries of the File menu, with a fake printer.
 
 #include "PrintCommands.h"
 
@@ -180,10 +180,10 @@ struct EndOfProgram {
 
 void PrintTo(const EndOfProgram& end, std::ostream* out) { *out << end.name; }
 
-/// The program as it really runs: quitting closes every window there is, the progress window, too.
+/// The program as it really runs: quitting closes every open window, the progress window, too.
 class EndsOfProgram : public PrintCommandsTest, public testing::WithParamInterface<EndOfProgram> {
 protected:
-    /// Until the program has ended by itself.
+    /// Runs until the program has ended by itself.
     void RunProgram() {
         QTimer::singleShot(0, &Window(), [this] { GetParam().end(Window()); });
         QApplication::exec();
@@ -229,7 +229,7 @@ TEST_P(EndsOfProgram, TellOfAReportThatCannotBePrinted) {
     EXPECT_EQ(Door().Texts(), QStringList{GetResourceText(661)});
 }
 
-/// A server that hangs does not keep the program from ending for good.
+/// Even with a hanging server the program can end.
 TEST_P(EndsOfProgram, LeaveCancelAtWork) {
     Begin(1h);
     Printer().whileHandingOver = [this](const std::stop_token& stop) {
@@ -344,7 +344,7 @@ TEST_F(PrintCommandsTest, ATickIsAsLargeAsOtherText) {
 
 TEST_F(PrintCommandsTest, AMissingLibraryIsNamed) {
     Open();
-    PrinterOfPart missing; // the tests' own folder has none of the program's
+    PrinterOfPart missing; // the tests' folder has none of the program's plugins
     const PrintCommands commands(Window(), missing);
     const QString file =
         QCoreApplication::applicationDirPath() + QStringLiteral("/Loan.Printers.so");

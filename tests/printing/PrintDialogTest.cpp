@@ -1,4 +1,4 @@
-// What the print dialogs ask, and what becomes of what is chosen there: before a real print server.
+// The questions of the print dialogs and the effects of the answers, with a real print server.
 
 #include "Language.h"
 #include "LoanForm.h"
@@ -38,7 +38,7 @@ QString PageSizeOf(const QString& document) {
         .arg(std::lround(found.captured(2).toDouble()));
 }
 
-/// What the server was told of the job with this number.
+/// The number of copies that the server received for the job with this number.
 int CopiesOf(int job) {
     QFile file(InServerFolder(QStringLiteral("spool/c%1").arg(job, 5, 10, QLatin1Char('0'))));
     if (!file.open(QIODevice::ReadOnly)) {
@@ -155,7 +155,7 @@ TEST_F(ServerOnlyTest, SetUpChoosesThePrinterAndStartsNoJob) {
     });
 }
 
-/// Chooses in the properties of the open dialog, which are a dialog, too.
+/// Makes a choice in the properties of the open dialog, which are a dialog, too.
 void InProperties(const QPrintDialog& dialog, const std::function<void(QWidget&)>& choose) {
     QTimer::singleShot(0, &dialog, [choose] {
         QWidget& properties = *QApplication::activeModalWidget();
@@ -173,7 +173,7 @@ QComboBox& ListNamed(const QObject& dialog, const char* name) {
     return *dialog.findChild<QComboBox*>(QLatin1String(name));
 }
 
-/// The paper shown, the side up, and the upper margin in points.
+/// The displayed paper, the orientation, and the top margin in points.
 QString ShownPage(const QWidget& properties) {
     const auto unit = ListNamed(properties, "unitCombo").currentData().value<QPageLayout::Unit>();
     const double top = properties.findChild<QDoubleSpinBox*>(QStringLiteral("topMargin"))->value();
@@ -225,7 +225,7 @@ TEST_F(ServerOnlyTest, ThePageChosenInSetUpIsPrinted) {
     });
     ASSERT_TRUE(WaitForEnd());
     ASSERT_TRUE(WaitForPaper(1));
-    EXPECT_EQ(PageSizeOf(Printed().front()), u"842 x 595"); // A4 lying
+    EXPECT_EQ(PageSizeOf(Printed().front()), u"842 x 595"); // A4 landscape
 }
 
 TEST_F(ServerOnlyTest, ThePageOfTheLastDialogIsThatOfTheNext) {
@@ -236,7 +236,7 @@ TEST_F(ServerOnlyTest, ThePageOfTheLastDialogIsThatOfTheNext) {
     });
     ASSERT_TRUE(WaitForEnd());
     Print([](QPrintDialog& dialog) { dialog.reject(); });
-    Print(); // without a look at the page
+    Print(); // without opening the properties
     ASSERT_TRUE(WaitForEnd());
     Print([](QPrintDialog& dialog) {
         InProperties(
@@ -250,7 +250,7 @@ TEST_F(ServerOnlyTest, ThePageOfTheLastDialogIsThatOfTheNext) {
     });
 }
 
-/// The paper is taken as chosen, though it is that of the printer before.
+/// The chosen paper is used, although it is the one of the previous printer.
 TEST_F(ServerOnlyTest, ThePaperChosenForAnotherPrinterHolds) {
     AddOther();
     Begin();

@@ -1,5 +1,5 @@
-// Worksheets with anything in their texts, on paper: every page ends, nothing leaves its column, no
-// line of a lender's is lost, and the file is whole.
+// Prints worksheets with arbitrary texts: every page ends, nothing exceeds its column, no line of a
+// lender is lost, and the file is complete.
 
 #include "DrawnItems.h"
 #include "FilePrinter.h"
@@ -25,7 +25,7 @@ QString WithoutGaps(QString text) { return text.remove(u' ').remove(u'\r').remov
 
 void TryWrapping(const QString& text, int column) {
     const QString wrapped = WrapLenderText(text, column, RulerWidth);
-    EXPECT_EQ(WithoutGaps(wrapped), WithoutGaps(text)); // nothing but gaps goes
+    EXPECT_EQ(WithoutGaps(wrapped), WithoutGaps(text)); // only blanks and breaks are lost
 }
 
 class PrintFuzz : public testing::Test {
@@ -83,7 +83,7 @@ TEST_F(PrintFuzz, AnyTextIsPrinted) {
     });
 }
 
-/// What is dropped on a lender may be as long as the clipboard holds.
+/// A text dropped on a lender may be as long as the clipboard allows.
 TEST_F(PrintFuzz, TheLongestTextsAreBrokenAtOnce) {
     constexpr qsizetype longest = 50'000;
     QElapsedTimer clock;

@@ -1,4 +1,5 @@
-// The life of a print job: how long its window stays, where Cancel works, and when pages leave.
+// The life of a print job: how long its window stays open, where Cancel works, and when pages are
+// sent.
 
 #include "DrawnItems.h"
 #include "FakePrinter.h"
@@ -89,7 +90,7 @@ TEST_F(PrintJobTest, TakesThreeSecondsUnlessToldOtherwise) {
     EXPECT_EQ(frmPrint::Pace().shownAtLeast, 3s);
 }
 
-/// Drawing that lasts longer than the timer closes the window as soon as it is done.
+/// If drawing lasts longer than the timer, the window closes as soon as drawing is done.
 TEST_F(PrintJobTest, ClosesAtOnceWhenTheTimerHasTicked) {
     int yields = 0;
     Start(0ms, [&] {
@@ -105,7 +106,7 @@ TEST_F(PrintJobTest, ClosesAtOnceWhenTheTimerHasTicked) {
     EXPECT_EQ(Printer().printed.size(), 1U);
 }
 
-/// Which of the four yields Cancel is pressed in.
+/// In which of the four yields Cancel is pressed.
 class CancelledAt : public PrintJobTest, public testing::WithParamInterface<int> {};
 
 INSTANTIATE_TEST_SUITE_P(Yields, CancelledAt, testing::Values(1, 2, 3, 4));
@@ -116,7 +117,7 @@ TEST_P(CancelledAt, DrawsNothingMoreAndPrintsNothing) {
         if (++yields == GetParam()) {
             Cancel();
             EXPECT_FALSE(Job().isVisible());
-            EXPECT_FALSE(Ended()); // it is still being drawn
+            EXPECT_FALSE(Ended()); // drawing is not finished
         }
     });
     ASSERT_TRUE(WaitForEnd());
@@ -173,7 +174,7 @@ TEST_P(CancelledWhileWaiting, PrintsNothingAlthoughAllIsDrawn) {
     EXPECT_TRUE(Printer().printed.empty());
 }
 
-/// Pressed once too often in the dialog before, it falls on this window.
+/// A Return pressed once too often in the previous dialog goes to this window.
 TEST_F(PrintJobTest, ReturnIsNotCancel) {
     Start(1h);
     ASSERT_TRUE(WaitForFinish());

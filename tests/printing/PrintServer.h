@@ -3,11 +3,11 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// A print server in a temporary folder, whose queue "Lab" prints into files. It is the default
-/// one. This program and its children print there, and nowhere else.
+/// A print server in a temporary folder; its default queue "Lab" prints into files. This process
+/// and its children print only there.
 class PrintServer {
 public:
-    /// Whether what it takes is installed.
+    /// Whether the required programs are installed.
     static bool IsInstalled();
 
     PrintServer();
@@ -17,15 +17,15 @@ public:
     PrintServer& operator=(PrintServer&&) = delete;
     ~PrintServer();
 
-    /// Runs one of the server's own commands; gives what it says. Throws where it fails.
+    /// Runs one of the server's commands and returns its output. Throws if it fails.
     static QString Run(const QString& command, const QStringList& arguments);
-    /// Ends the server.
+    /// Stops the server.
     void EndServer() const;
-    /// The documents that have come out of the printer, in order.
+    /// The printed documents, in order.
     QStringList Printed() const;
-    /// Every job that the server has ever taken, done or not, such as "Lab-1".
+    /// Every job that the server has ever accepted, finished or not, such as "Lab-1".
     static QStringList Jobs();
-    /// The documents in the server's own folder.
+    /// The documents in the server's spool folder.
     QStringList Spooled() const;
 
 private:
@@ -34,12 +34,12 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Whether a document has been written to its end.
+/// Whether a document has been written completely.
 bool IsWhole(const QString& document);
 
-/// The texts of a page of a document, as a reader selects them; pages count from 1.
+/// The texts of a page of a document, as a PDF reader selects them; pages count from 1.
 QString PageText(const QString& document, int page);
-/// How many pages a document has, how many pictures are in it, and its title.
+/// A document's number of pages, its number of pictures, and its title.
 int PageCount(const QString& document);
 int PictureCount(const QString& document);
 QString Title(const QString& document);

@@ -23,7 +23,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-std::unique_ptr<PrintServer> TheServer; // NOLINT: as the test framework has it
+std::unique_ptr<PrintServer> TheServer; // NOLINT: the test framework needs a global
 
 class ServerHouse : public testing::Environment {
 public:
@@ -143,6 +143,6 @@ int main(int argc, char* argv[]) {
     }
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
-    testing::AddGlobalTestEnvironment(new ServerHouse); // which GoogleTest deletes
+    testing::AddGlobalTestEnvironment(new ServerHouse); // GoogleTest deletes it
     return RUN_ALL_TESTS();
 }

@@ -15,7 +15,7 @@
 
 class QPrintDialog;
 
-/// Null where none is installed. It lives as long as the test program.
+/// Null if none is installed. It lives until the test program ends.
 PrintServer* Server();
 
 /// Answers the next print dialog as a user would.
@@ -29,16 +29,16 @@ private:
     int m_count = 0;
 };
 
-/// By the dialog's own button.
+/// Clicks the dialog's own button.
 void Accept(QPrintDialog& dialog);
 
-/// A second printer, which takes every document and keeps none.
+/// A second printer, which accepts every document and stores none.
 void AddOther();
 
-/// A path in the server's own folder.
+/// A path in the server's folder.
 QString InServerFolder(const QString& path);
 
-/// The window before a print server or, where none is installed, before a file.
+/// The window with a print server or, if none is installed, with a file printer.
 class PrintServerTest : public WindowTest {
 protected:
     void Begin(std::chrono::milliseconds shownAtLeast = {}, std::function<void()> yield = {});
@@ -49,7 +49,7 @@ protected:
     void HurryJob() const { JobTimer().setInterval(std::chrono::milliseconds(0)); }
     bool WaitForEnd();
     QStringList Printed() const;
-    /// Documents come out of the printer some time after they were handed over.
+    /// Documents are printed some time after they were sent.
     bool WaitForPaper(int count);
     void ExpectNoTrace(const QStringList& told = {});
 
@@ -59,7 +59,7 @@ private:
     std::unique_ptr<PrintCommands> m_commands;
 };
 
-/// What only a print server can be asked.
+/// Tests that need a print server.
 class ServerOnlyTest : public PrintServerTest {
 protected:
     void SetUp() override;

@@ -1,5 +1,5 @@
-// The Print command from its dialog to the printed document, through a real print server. Where
-// none is installed, into a file.
+// The Print command from its dialog to the printed document, with a real print server or, if none
+// is installed, with a file.
 
 #include "Language.h"
 #include "PrintServerFixture.h"
@@ -141,7 +141,7 @@ TEST_F(ServerOnlyTest, AServerThatIsGoneIsTold) {
     EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(661)});
 }
 
-/// Stops the server's process for as long as it lives: it takes requests and answers none.
+/// Stops the server's process during its lifetime: it accepts requests and answers none.
 class HungServer {
 public:
     HungServer() {

@@ -17,7 +17,7 @@ TEST(PrinterPart, KnowsThePrintersFromALibraryOfItsOwn) {
     EXPECT_FALSE(door->PageSpace().isEmpty());
 }
 
-// The tests' own folder is none of the program's.
+// The tests' folder has none of the program's plugins.
 TEST(PrinterPart, MissingIsAFailure) {
     PrinterOfPart printer;
     EXPECT_THROW(printer.PageSpace(), ComponentFailure);

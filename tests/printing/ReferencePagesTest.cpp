@@ -1,6 +1,6 @@
-// Pages as pictures, compared with those kept in tests/data/pages, in a folder for each version of
-// Qt, because each draws text a little differently. To keep new ones, run with QUEND_KEEP_PAGES=1
-// and look at them.
+// Renders pages as pictures and compares them with those in tests/data/pages. There is a folder for
+// each version of Qt, because each draws text a little differently. To store new pictures, run with
+// QUEND_KEEP_PAGES=1 and check them by eye.
 
 #include "FormReader.h"
 #include "PagePainter.h"
@@ -25,8 +25,8 @@ struct ReferencePage {
     QPageLayout::Orientation orientation;
     int language;
     int rows;
-    int lenderWords; ///< in the text of each lender; of the first one, ten times as many
-    int windowWidth; ///< 0: as it starts
+    int lenderWords; ///< number of words in each lender's text; the first one has ten times as many
+    int windowWidth; ///< 0: the initial width
     std::size_t pages;
 };
 
@@ -74,7 +74,7 @@ QImage Picture(const PrintedPage& page, QSizeF space) {
     return picture;
 }
 
-/// How much of the picture is plainly another grey, once both are blurred a little.
+/// The fraction of pixels with a clearly different grey, after blurring both pictures slightly.
 double Difference(const QImage& one, const QImage& other) {
     if (one.size() != other.size()) {
         return 1;
@@ -109,7 +109,7 @@ const std::vector<ReferencePage> Kept{
 
 bool Keeps() { return qEnvironmentVariableIsSet("QUEND_KEEP_PAGES"); }
 
-/// Of the version of Qt that draws here, such as "6.4".
+/// The folder for the Qt version in use, such as "6.4".
 QDir KeptPages() {
     const QVersionNumber version = QLibraryInfo::version();
     return {QStringLiteral(QUEND_TEST_DATA "/pages/%1.%2")
@@ -156,7 +156,7 @@ INSTANTIATE_TEST_SUITE_P(Pages, ReferencePages, testing::ValuesIn(Kept), [](cons
     return QString::fromUtf8(page.param.name).replace(u'-', u'_').toStdString();
 });
 
-/// A page that differs is told from the kept one.
+/// A different page is recognised as different.
 TEST(Difference, IsSeen) {
     QImage white(100, 100, QImage::Format_Grayscale8);
     white.fill(Qt::white);

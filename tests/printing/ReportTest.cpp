@@ -1,4 +1,4 @@
-// The report as it is drawn in memory: a page of 1,000 units, 20 twips each, type in its own size.
+// Drawing the report in memory: a page of 1,000 units, 20 twips each, fonts at their own size.
 
 #include "Report.h"
 #include "DrawnItems.h"
@@ -12,7 +12,7 @@ namespace {
 constexpr double Unit = 20;
 constexpr double FooterReserve = 12; // two lines of six points
 constexpr double FirstRow = 330;     // where the rows of the first page begin
-constexpr double NextRow = 60;       // where those of the others do
+constexpr double NextRow = 60;       // where the rows of the other pages begin
 constexpr double RowHeight = 20;
 
 class ReportTest : public testing::Test {
@@ -25,7 +25,7 @@ protected:
         m_report->PrintPageFooter();
         return m_report->Pages();
     }
-    /// The page that has room for so many rows of an offer.
+    /// The height of a page that has room for this many offer rows.
     static double HeightFor(int rows) { return FirstRow + rows * RowHeight + FooterReserve; }
 
 private:
@@ -74,7 +74,7 @@ TEST_F(ReportTest, StandsInItsOrder) {
 
 TEST_F(ReportTest, EachEntryIsLabelBoxAndText) {
     const PrintedPage& page = Draw(SampleForm(1), 1000).pages.front();
-    // The heading, then the triple of the loan's name.
+    // The heading, then the label, box and text of the loan's name.
     EXPECT_EQ(std::get<PrintedText>(page.items.at(0)).text, u"Current");
     EXPECT_EQ(std::get<PrintedText>(page.items.at(1)).text, u"Header0");
     EXPECT_EQ(std::get<PrintedBox>(page.items.at(2)).place,
@@ -165,13 +165,13 @@ TEST_F(ReportTest, AnEmptyWorksheetPrintsEmptyBoxes) {
 
 struct Break {
     int rows;
-    double room; ///< rows that fit on the first page
+    double room; ///< number of rows that fit on the first page
     std::vector<int> onPages;
 };
 
 class Breaking : public ReportTest, public testing::WithParamInterface<Break> {};
 
-// A further page has room for 270 units, 13 rows, more.
+// A further page has room for another 270 units, 13 rows.
 INSTANTIATE_TEST_SUITE_P(Pages, Breaking,
                          testing::Values(Break{1, 1, {1}}, Break{2, 1, {1, 1}}, Break{16, 16, {16}},
                                          Break{16, 15.9, {15, 1}}, Break{16, 3, {3, 13}},
@@ -234,14 +234,14 @@ TEST_F(ReportTest, TheFooterIsSmallItalicAndInTheMiddleOfTheLastLine) {
         TextNamed(pages.pages.at(1), QStringLiteral("0.1").replace(u'0', u'1')).font.italic);
 }
 
-/// 96 units for the lender are 18.4 characters besides the padding.
+/// 96 units for the lender are 18.4 characters without the padding.
 TEST_F(ReportTest, ALongLenderTextMakesItsRowHigher) {
     PrintedForm form = SampleForm(2);
     form.rows.front().back() = QStringLiteral("First National Bank of the Prairie, Mrs. Miller");
     const PrintedPage& page = Draw(form, 1000).pages.front();
     const QStringList lines{QStringLiteral("First National"), QStringLiteral("Bank of the"),
                             QStringLiteral("Prairie, Mrs."), QStringLiteral("Miller")};
-    double y = FirstRow + 2; // two units free above, two below
+    double y = FirstRow + 2; // two units of padding above, two below
     for (const QString& line : lines) {
         EXPECT_DOUBLE_EQ(TextNamed(page, line).place.y(), y * Unit) << line.toStdString();
         y += 10;
@@ -260,7 +260,7 @@ TEST_F(ReportTest, ABreakInALenderTextStays) {
     EXPECT_DOUBLE_EQ(TextNamed(page, QStringLiteral("Bob")).place.y(), (FirstRow + 12) * Unit);
 }
 
-/// A row higher than a page: moved to a new one, and on over the next ones, with nothing lost.
+/// A row higher than a page starts on a new page and continues on the next ones; nothing is lost.
 TEST_F(ReportTest, ARowHigherThanAPageGoesOn) {
     PrintedForm form = SampleForm(2);
     QStringList words;
@@ -286,7 +286,7 @@ TEST_F(ReportTest, ARowHigherThanAPageGoesOn) {
     }
     EXPECT_EQ(printed, words);
     EXPECT_EQ(values, 1);
-    EXPECT_EQ(pages.pages.size(), 5U); // 29 lines a page, from the second on
+    EXPECT_EQ(pages.pages.size(), 5U); // 29 lines per page, from the second page on
     EXPECT_FALSE(ItemsOf<PrintedText>(pages.pages.back()).empty());
 }
 
@@ -297,8 +297,8 @@ TEST_F(ReportTest, APageWithoutRoomForALineStillEnds) {
 }
 
 struct Type {
-    double pageWidth; ///< of the window's own width
-    double points;    ///< that type of ten points is set in
+    double pageWidth; ///< as a multiple of the window's own width
+    double points;    ///< the printed size of a font of ten points
 };
 
 class TypeSize : public ReportTest, public testing::WithParamInterface<Type> {};
@@ -307,7 +307,7 @@ INSTANTIATE_TEST_SUITE_P(Pages, TypeSize,
                          testing::Values(Type{2.0, 10}, Type{1.0, 10}, Type{0.8, 8}, Type{0.6, 6},
                                          Type{0.3, 6}));
 
-/// Positions grow with the page; type keeps its size there, and shrinks with a narrower page.
+/// Positions scale with the page; fonts never grow, but shrink on a page narrower than the window.
 TEST_P(TypeSize, FollowsAPageNarrowerThanTheWindow) {
     PrintedForm form = SampleForm(1);
     const PrintedPage& page = Draw(form, 3000, SampleWidth * GetParam().pageWidth).pages.front();

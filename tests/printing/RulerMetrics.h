@@ -2,8 +2,8 @@
 
 #include "TextMetrics.h"
 
-/// Type that can be reckoned with: every character half as wide as its size, every line as high as
-/// its size; bold and italic change nothing.
+/// Simple font metrics: every character is half as wide as the font size, every line as high as the
+/// font size; bold and italic change nothing.
 class RulerMetrics : public TextMetrics {
 public:
     double Width(const PrintFont& font, const QString& text) const override {

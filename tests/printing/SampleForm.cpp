@@ -14,7 +14,7 @@ FormLabel Label(const QString& name, double left, double top, double width) {
             .bold = false};
 }
 
-/// Two columns of entries: a label of 100, a field of 150.
+/// Two columns of entries: labels 100 wide, fields 150 wide.
 std::vector<FormEntry> Entries(const QString& name, int count, double top) {
     std::vector<FormEntry> entries;
     for (int entry = 0; entry < count; ++entry) {

@@ -2,8 +2,8 @@
 
 #include "PrintedForm.h"
 
-/// A window 1,000 pixels wide on a screen of one pixel a point, so that on a page of 20,000 twips
-/// everything has its own size. Its fields show their own names.
+/// A window 1,000 pixels wide on a screen of one pixel per point, so that on a page of 20,000 twips
+/// everything keeps its size. Its fields show their own names.
 PrintedForm SampleForm(int rows);
 
 /// The row's texts are "<row>.<column>"; the tick boxes of odd rows are ticked.

@@ -4,8 +4,8 @@
 
 #include <QDate>
 
-/// Between the days of the arithmetic and the toolkit's calendar. No date on one side is none on
-/// the other.
+/// Converts between the dates of the arithmetic and QDate. No date on one side is no date on the
+/// other.
 inline QDate ToCalendar(Date date) {
     if (date.IsNone()) {
         return {};

@@ -7,7 +7,7 @@
 
 DigitGroups::DigitGroups(const QLocale& locale)
     : m_separator(locale.groupSeparator()), m_zero(locale.zeroDigit()) {
-    // Its highest group holds two digits, so that it is grouped the same wherever groups start.
+    // Its highest group has two digits, so that every locale groups it, whatever its minimum is.
     const QStringList groups = locale.toString(12'345'678'901'234LL).split(m_separator);
     if (m_separator.isEmpty() || groups.size() < 3) {
         m_smallest = std::numeric_limits<qsizetype>::max();
@@ -42,7 +42,7 @@ QString DigitGroups::Localized(const QString& number) const {
             localized += digit;
             continue;
         }
-        // The digits of a script stand side by side, a few of them beyond the first plane.
+        // The digits of a script have consecutive code points, in some scripts beyond U+FFFF.
         const char32_t zero = m_zero.toUcs4().first();
         const char32_t shown = zero + static_cast<char32_t>(digit.unicode() - u'0');
         localized += QString::fromUcs4(&shown, 1);

@@ -25,7 +25,7 @@ QString WithoutTrailingZeros(QString number) {
     return number;
 }
 
-/// A year of two digits would read a payoff in 2056 back as 1956.
+/// With a two-digit year a payoff in 2056 would be read back as 1956.
 QString WithFourDigitYear(QString format) {
     if (!format.contains(QLatin1String("yyyy"))) {
         format.replace(QLatin1String("yy"), QLatin1String("yyyy"));
@@ -33,7 +33,7 @@ QString WithFourDigitYear(QString format) {
     return format;
 }
 
-/// Whether the digits that are cut off round the number before them away from zero: halves to even.
+/// Whether the digits that are cut off round the preceding number away from zero: halves to even.
 bool RoundsAway(const QString& cutOff, bool isOdd) {
     if (cutOff.isEmpty() || cutOff.front() != u'5') {
         return !cutOff.isEmpty() && cutOff.front() > u'5';
@@ -77,7 +77,7 @@ QString DisplayFormats::Currency(Money amount) const {
     constexpr std::int64_t perCent = 100;
     const std::int64_t cents = amount.RoundedToCents().TenThousandths() / perCent;
     const QString digits = QString::number(std::abs(cents)).rightJustified(3, QLatin1Char('0'));
-    // Symbol and sign as the locale places them around one unit, the digits exact.
+    // The locale places symbol and sign around one unit; the exact digits then replace the one.
     const QString one = m_locale.toString(1.0, 'f', 2);
     QString shown = m_locale.toCurrencyString(cents < 0 ? -1.0 : 1.0, QString(), 2);
     return shown.replace(one, m_groups.Grouped(digits.chopped(2)) + m_locale.decimalPoint() +
@@ -107,7 +107,7 @@ Money DisplayFormats::ReadAmount(const QString& text) const {
     const qsizetype point = plain.indexOf(u'.');
     const QString whole = point < 0 ? plain : plain.left(point);
     const QString decimals = point < 0 ? QString() : plain.mid(point + 1);
-    // Counted as an integer, so that no cent is lost in amounts that a double cannot hold.
+    // Uses an integer: a double would lose cents in large amounts.
     const QString count = whole + decimals.left(4).leftJustified(4, u'0');
     bool fits = false;
     const qlonglong tenThousandths =
@@ -123,7 +123,7 @@ Money DisplayFormats::ReadAmount(const QString& text) const {
 }
 
 double DisplayFormats::ReadReal(const QString& text) const {
-    // Not the C library's own conversion: that one follows the locale of the process.
+    // Not strtod, because it follows the locale of the process.
     const double value = QLocale::c().toDouble(PlainNumber(text));
     if (!std::isfinite(value)) {
         throw OverflowFailure(ProgramSource);

@@ -7,24 +7,24 @@
 #include <QLocale>
 #include <QString>
 
-/// How values look to the user, and how typed numbers are read: by the user's locale.
-/// Does not know that zero shows as an empty field; that is the fields' business.
+/// Formats values for display and reads typed numbers, both by the user's locale. Does not know
+/// that zero shows as an empty field; FieldTexts does that.
 class DisplayFormats {
 public:
     explicit DisplayFormats(const QLocale& locale);
 
     const QLocale& Locale() const { return m_locale; }
 
-    /// The decimal symbol, one character. No grouping is ever read.
+    /// The decimal symbol, one character. Group separators are never read.
     QChar DecimalSeparator() const { return m_separator; }
 
-    /// "general number": no grouping, no more decimals than the value has. In digits 0 to 9, as
-    /// they are typed and kept, whatever the locale's own are.
+    /// "general number": no grouping, no more decimals than the value has. Uses the digits 0 to 9,
+    /// as numbers are typed and stored, whatever the locale's digits are.
     QString GeneralNumber(Money amount) const;
     /// The same for a real number, to fifteen digits: 0.07337 × 100 reads 7.337.
     QString GeneralNumber(double value) const;
 
-    /// A general number as it is shown among the other formats: in the locale's own digits.
+    /// A general number in the locale's own digits, for display among the other formats.
     QString InOwnDigits(const QString& number) const { return m_groups.Localized(number); }
 
     /// "currency": rounded to the cent (halves to even), with symbol and grouping.

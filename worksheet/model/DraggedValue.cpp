@@ -18,7 +18,7 @@ QString RateText(const Worksheet& worksheet, Row row, const QString& /*shown*/) 
     return FormatsOf(worksheet).GeneralNumber(worksheet.OfferOfRow(row).InterestRate());
 }
 
-/// What is displayed, read back as a plain number.
+/// The displayed payment, read back as a plain number.
 QString PaymentText(const Worksheet& worksheet, Row row, const QString& /*shown*/) {
     const Money payment = worksheet.OfferOfRow(row).ActualPayment();
     return payment.IsZero() ? QString()
@@ -46,7 +46,7 @@ struct DraggedValue {
 };
 
 // clang-format off
-// Whether a text has the right form is the rule of the field.
+// The field's rule decides whether a text has the right form.
 constexpr std::array DraggedValues{
     //           field                   travels as   is read as
     DraggedValue{FieldId::Points,        PointsText,  ReadReal},

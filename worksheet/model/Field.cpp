@@ -37,8 +37,8 @@ constexpr std::array LoanFieldTable{
     FieldRule{CurPayoffDate,       "txtCurPayoffDate"_name,       Date,           Result, 0, false},
 };
 
-// The term of an offer is checked with three decimals although its decimal symbol cannot be typed:
-// a pasted 30.5 is taken as 30 years.
+// The term of an offer accepts three decimals although its decimal symbol cannot be typed: a pasted
+// 30.5 is taken as 30 years.
 constexpr std::array OfferFieldTable{
     FieldRule{FinancePoints,       "chkPoints"_name,              Flag,           Input,  0, false},
     FieldRule{Points,              "txtPoints"_name,              Decimal,        Input,  3, true},

@@ -6,14 +6,14 @@
 #include <cstddef>
 #include <span>
 
-/// A row of the offer area, counted from 0 at the top. Not an offer: after a sort row 0 shows
-/// another offer than offer 0. The two meet in OfferOrder alone.
+/// A row of the offer area, counted from 0 at the top. Not an offer: after a sort row 0 shows an
+/// offer other than offer 0. Only OfferOrder maps one to the other.
 struct Row {
     int value = 0;
     friend constexpr auto operator<=>(Row, Row) = default;
 };
 
-/// The place of an offer in the worksheet, counted from 0 in the order of entry.
+/// The position of an offer in the worksheet, counted from 0 in the order of entry.
 struct OfferIndex {
     std::size_t value = 0;
     friend constexpr auto operator<=>(OfferIndex, OfferIndex) = default;
@@ -54,7 +54,7 @@ enum class FieldId {
     Who,
 };
 
-/// What a field holds, and with it how its text is read and shown.
+/// What a field holds; it decides how the text is read and shown.
 enum class ValueKind {
     Amount,         ///< Money, shown as currency
     Percent,        ///< a fraction (0.065), typed and shown in percent (6.5)
@@ -69,7 +69,7 @@ enum class ValueKind {
 
 enum class Access { Input, Result };
 
-/// A field of the worksheet: a control of the two upper bands (no row) or of one row of offers.
+/// A field of the worksheet: a control above the offers (no row) or in one row of offers.
 struct Field {
     FieldId id = FieldId::LoanName;
     Row row = NoRow;
@@ -78,7 +78,7 @@ struct Field {
     friend constexpr auto operator<=>(const Field&, const Field&) = default;
 };
 
-/// What is known of one field beforehand.
+/// The fixed properties of a field.
 struct FieldRule {
     FieldId id = FieldId::LoanName;
     QLatin1String control; ///< the name of its control; in a row, the name of the control array
@@ -99,7 +99,7 @@ struct FieldRule {
     }
 };
 
-/// The fields of the two upper bands, in the order of the tab key.
+/// The fields above the offers, in tab order.
 std::span<const FieldRule> LoanFields();
 
 /// The fields of one row of offers, in the order of the columns.
@@ -108,6 +108,6 @@ std::span<const FieldRule> OfferFields();
 /// The rule of a field. Every identifier has one.
 const FieldRule& RuleOf(FieldId id);
 
-/// What a number of so many decimals looks like: " nnnn.nn". It begins with a blank and stays the
-/// same in every language and locale.
+/// The format hint for a number with this many decimals, such as " nnnn.nn". It begins with a blank
+/// and is the same in every language and locale.
 QLatin1String NumberPicture(int decimals);

@@ -74,7 +74,7 @@ Months FieldTexts::ReadTerm(ValueKind kind, const QString& text) const {
     if (m_termInMonths) {
         return WholeMonths(RoundedHalfToEven(value));
     }
-    // Twelve and a half years are 150 months of the loan held today, but 12 years of an offer:
+    // Twelve and a half years are 150 months for the current loan, but 12 years for an offer:
     // lenders offer whole years, while any number of months may be left to pay.
     return kind == ValueKind::FractionalTerm
                ? WholeMonths(RoundedHalfToEven(value * MonthsPerYear))

@@ -18,7 +18,7 @@ using FieldNumber = std::variant<Money, double, Months>;
 
 bool IsZero(const FieldNumber& number);
 
-/// Between the numbers of the fields and their texts. Zero is the empty text, both ways.
+/// Converts between the numbers of the fields and their texts. Zero is the empty text, both ways.
 class FieldTexts {
 public:
     FieldTexts(DisplayFormats formats, bool termInMonths)
@@ -28,13 +28,13 @@ public:
     bool TermInMonths() const { return m_termInMonths; }
     void SetTermInMonths(bool inMonths) { m_termInMonths = inMonths; }
 
-    /// The bare value, as it is edited.
+    /// The bare value, for editing.
     QString EntryText(ValueKind kind, const FieldNumber& number) const;
 
-    /// The value as it stands in a field that is not being edited.
+    /// The value as shown in a field that is not being edited.
     QString DisplayText(ValueKind kind, const FieldNumber& number) const;
 
-    /// The number that a text stands for. Throws ConversionFailure or OverflowFailure.
+    /// The number of a text. Throws ConversionFailure or OverflowFailure.
     FieldNumber Read(ValueKind kind, const QString& text) const;
 
 private:

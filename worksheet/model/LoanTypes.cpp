@@ -10,7 +10,7 @@ namespace {
 struct TypeEntry {
     QChar code;
     int text = 0;      ///< number of its language text
-    int listPlace = 0; ///< where it stands in the list
+    int listPlace = 0; ///< its position in the list
 };
 
 constexpr std::array LoanTypes{
@@ -18,7 +18,7 @@ constexpr std::array LoanTypes{
     TypeEntry{u'D', 29, 5}, TypeEntry{u'H', 39, 4}, TypeEntry{u'M', 83, 0},
 };
 
-/// The letter of the first type that is meant; empty when none is.
+/// The letter of the first matching type; empty if none matches.
 template <class IsMeant>
 QString CodeOf(IsMeant isMeant) {
     const auto* type = std::ranges::find_if(LoanTypes, isMeant);

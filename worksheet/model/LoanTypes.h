@@ -3,13 +3,13 @@
 #include <QString>
 #include <QStringList>
 
-/// What a loan is for is kept as a letter and shown as a text of the language in use.
-/// An unknown letter or text gives the empty one.
+/// The purpose of a loan is stored as a letter and shown as a text of the current language. An
+/// unknown letter or text gives the empty text.
 QString LoanTypeCodeToText(const QString& code);
 QString LoanTypeTextToCode(const QString& text);
 
-/// The letter of a text of any language there is; empty for a text that none of them knows.
+/// The letter for a text of any installed language; empty if no language has the text.
 QString LoanTypeTextToCodeInAnyLanguage(const QString& text);
 
-/// The texts in the order in which they are offered to choose from.
+/// The texts in the order of the list.
 QStringList LoanTypeTexts();

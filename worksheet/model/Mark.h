@@ -1,8 +1,8 @@
 #pragma once
 
-/// What a field's background tells.
+/// The meaning of a field's background colour.
 enum class Mark {
     None,
-    Missing, ///< the loan held today cannot be computed without it
+    Missing, ///< the current loan cannot be computed without it
     Raised,  ///< the intended payment was too low and has been raised
 };

@@ -13,22 +13,22 @@ enum class SortOrder : std::int32_t {
     PayoffDate = 3, ///< the soonest payoff date first
 };
 
-/// Which offer each row shows. The offers themselves never move. Knows nothing of them but their
-/// number: whoever sorts brings the keys.
+/// Which offer each row shows. The offers themselves never move. Knows only the number of offers;
+/// the caller supplies the sort keys.
 class OfferOrder {
 public:
     SortOrder Order() const { return m_order; }
 
-    /// Throws std::out_of_range for a row that is not there.
+    /// Throws std::out_of_range for a row that does not exist.
     OfferIndex OfferIndexOfRow(Row row) const {
         return m_offers.at(static_cast<std::size_t>(row.value));
     }
 
-    /// One more row at the end, for one more offer, whatever the order.
+    /// Adds one row at the end for one more offer, in any order.
     void Append() { m_offers.push_back({m_offers.size()}); }
 
-    /// The least key first; offers with the same key keep their order of entry. There is one key
-    /// for each offer, in the order of entry.
+    /// Sorts by ascending key; offers with the same key keep their order of entry. `keys` has one
+    /// key for each offer, in the order of entry.
     template <class Key>
     void SortBy(SortOrder order, const std::vector<Key>& keys) {
         std::ranges::sort(m_offers); // back to the order of entry

@@ -1,4 +1,4 @@
-// How the worksheet keeps its computed values in step with what is entered.
+// Recalculates the computed values of the worksheet when inputs change.
 
 #include "Failure.h"
 #include "Frequency.h"
@@ -11,8 +11,8 @@
 
 namespace {
 
-/// Runs every step, also after one has failed, and throws the first failure at the end: one offer
-/// that cannot be computed does not keep the others from being shown.
+/// Runs every step, even after one has failed, and throws the first failure at the end: one offer
+/// that cannot be computed must not prevent the others from being shown.
 class AllSteps {
 public:
     template <class Step>
@@ -40,7 +40,7 @@ private:
 void Worksheet::Recalculate(unsigned pending) {
     AllSteps steps;
     if ((pending & Escrow) != 0) {
-        // Every payment carries its share of the escrow.
+        // Every payment includes its share of the escrow.
         steps.Run([&] { RecalculateEscrow(); });
         pending |= Offers | Payment | Schedule;
     }
@@ -81,8 +81,8 @@ void Worksheet::RecalculateOffer(Row row) {
         shown = 1;
         ShowPayment(offer, row);
         shown = 2;
-        // The payoff date relies on the payment having raised an intended payment that is too low,
-        // and the interest is that of the schedule just run.
+        // The payoff date needs an intended payment that is too low to be raised first, which the
+        // payment does; the interest is that of the schedule just run.
         ShowPayoff(offer, row);
     } catch (const Failure&) {
         for (; shown < results.size(); ++shown) {
@@ -116,8 +116,8 @@ void Worksheet::MarkRaised(Row row) {
     m_display->PaymentRaised();
 }
 
-/// The intended payment is the one input that the calculator answers with a figure of its own.
-/// Only what depends on it is shown anew.
+/// The intended payment is the only input that the calculator may replace. Only what depends on it
+/// is shown again.
 void Worksheet::StoreActualPayment(Row row, Money payment) {
     CLoan& offer = OfferOfRow(row);
     const Field field{FieldId::ActualPayment, row};
@@ -128,7 +128,7 @@ void Worksheet::StoreActualPayment(Row row, Money payment) {
         Show(field);
         throw;
     }
-    // The check reads the payment, which may have raised a figure that this one has just replaced.
+    // The check reads the payment. That may have raised a value that this one has just replaced.
     static_cast<void>(offer.Forced());
     if (m_paymentRefused) {
         MarkRaised(row);
@@ -150,7 +150,7 @@ void Worksheet::RecalculateCurrentPayment() {
     const bool noTerm = m_current.term == 0;
     const bool noRate = m_current.rate == 0;
     const bool none = noAmount && noTerm && noRate;
-    // Nothing is missing of a loan that nobody entered.
+    // If nobody entered a current loan, nothing is missing.
     MarkMissing(FieldId::CurLoanAmount, noAmount && !none);
     MarkMissing(FieldId::CurLoanTerm, noTerm && !none);
     MarkMissing(FieldId::CurInterestRate, noRate && !none);
@@ -167,7 +167,7 @@ void Worksheet::RecalculateCurrentPayment() {
     try {
         m_current.pAndI = PrincipalAndInterest(m_current.amount, m_current.rate, m_current.term,
                                                m_current.frequency);
-        // The whole monthly escrow, whatever the frequency: the loan held today is billed so.
+        // The whole monthly escrow at any frequency: the current loan is billed that way.
         Write(m_current.payment, m_current.pAndI + m_loan.escrowMonthly, FieldId::CurPayment);
     } catch (const Failure&) {
         m_current.pAndI = Money();

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The keys of offers without a result: partly filled ones stay ahead of the blank rows.
+/// The keys of offers without a result: partly filled ones sort before the blank rows.
 template <class Key>
 struct KeysWithout {
     Key partlyFilled;
@@ -16,7 +16,7 @@ constexpr KeysWithout<Date> NoDate{Date::FromDays(2'958'464), Date::FromDays(2'9
 constexpr KeysWithout<Money> NoInterest{Money::FromTenThousandths(999'999'998'0000),
                                         Money::FromTenThousandths(999'999'999'0000)};
 
-/// A rate, a frequency or a tick alone say nothing about an offer yet.
+/// A rate, a frequency or a tick alone does not count as an entry.
 bool HasEntry(const CLoan& offer) {
     return offer.Points() != 0 || !offer.Interest().IsZero() || offer.Term() != 0 ||
            !offer.ActualPayment().IsZero() || !offer.Who().isEmpty();
@@ -30,7 +30,7 @@ Key KeyWithout(const CLoan& offer, const KeysWithout<Key>& keys) {
 Date PayoffDateOf(CLoan& offer) {
     try {
         return offer.PayoffDate();
-    } catch (const Failure&) { // told when it was entered
+    } catch (const Failure&) { // reported when it was entered
         return {};
     }
 }

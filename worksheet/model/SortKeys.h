@@ -5,11 +5,11 @@
 
 class CLoan;
 
-/// The day that an offer is sorted by. One that is never paid off comes after all that are: with an
-/// entry of any kind on the last day but one that there is, without any on the last. Runs the
-/// offer's schedule; one that leads to no end counts as none.
+/// The sort key by payoff date. An offer that is never paid off comes after all that are: its key
+/// is the last possible day but one if it has any entry, and the last possible day if it has none.
+/// Runs the offer's schedule; a schedule that fails counts as never paid off.
 Date PayoffDateKey(CLoan& offer);
 
-/// The amount that an offer is sorted by: the interest of its last schedule; where there is none,
-/// 999,999,998.00 with an entry of any kind, 999,999,999.00 without.
+/// The sort key by interest: the interest of the offer's last schedule. Without a schedule the key
+/// is 999,999,998.00 if the offer has any entry, and 999,999,999.00 if it has none.
 Money InterestKey(const CLoan& offer);

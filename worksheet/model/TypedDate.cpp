@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A date format without what stands in quotes.
+/// A date format without its quoted parts.
 struct Format {
     QString units; ///< 'd', 'M' and 'y', each once
     QString literals;
@@ -36,7 +36,7 @@ Format Taken(const QString& format) {
 bool IsDigit(char32_t c) { return QChar::digitValue(c) >= 0; }
 bool IsLetter(char32_t c) { return QChar::isLetter(c) || QChar::isMark(c); }
 
-/// A run of digits, or one of letters.
+/// A sequence of digits or of letters.
 struct Run {
     qsizetype start = 0;
     QString text;
@@ -65,7 +65,7 @@ std::vector<Run> RunsOf(const QString& text) {
     return runs;
 }
 
-/// 0 for what is no name of a month.
+/// 0 if it is not the name of a month.
 int MonthNamed(const QString& name, const QLocale& locale) {
     for (int month = 1; month <= 12; ++month) {
         for (const auto length : {QLocale::ShortFormat, QLocale::LongFormat}) {
@@ -78,7 +78,7 @@ int MonthNamed(const QString& name, const QLocale& locale) {
     return 0;
 }
 
-/// "03012027" or "030127" without anything between the parts.
+/// Splits "03012027" or "030127", which has no separators.
 QStringList CutInParts(const QString& digits, const QString& units) {
     QStringList parts;
     qsizetype from = 0;
@@ -90,7 +90,7 @@ QStringList CutInParts(const QString& digits, const QString& units) {
     return parts;
 }
 
-/// Nineteen years back and eighty ahead; 0 for what is no year.
+/// From nineteen years ago to eighty years ahead; 0 if it is not a year.
 int YearOf(const QString& digits, int thisYear) {
     constexpr int century = 100;
     const int first = thisYear - 19;

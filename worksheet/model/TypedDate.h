@@ -9,7 +9,7 @@
 
 class DisplayFormats;
 
-/// The years that can be typed: those of the calendar in use everywhere today.
+/// The years that can be typed. Before 1753 the Gregorian calendar was not in use everywhere.
 inline constexpr int FirstTypedYear = 1753;
 inline constexpr int LastTypedYear = 9999;
 
@@ -17,23 +17,23 @@ inline constexpr int LastTypedYear = 9999;
 struct DatePart {
     qsizetype start = 0;
     qsizetype length = 0;
-    char unit = 0; ///< 'd', 'M' or 'y'; 0 for what no part of the format stands for
+    char unit = 0; ///< 'd', 'M' or 'y'; 0 if it matches no part of the format
 
     qsizetype End() const { return start + length; }
-    /// How many digits fill it.
+    /// The number of digits that completes the part.
     qsizetype FullLength() const { return unit == 'y' ? 4 : 2; }
 };
 
-/// The parts of a text, in the order of a locale's short dates.
+/// Splits a text into its parts, in the order of the locale's short date.
 std::vector<DatePart> DateParts(const QString& text, const DisplayFormats& formats);
 
-/// Whether a key of this character may type a date: digits of any script, whatever may separate
-/// them, and letters where the locale's dates have some.
+/// Whether this character may be typed into a date: digits of any script, possible separators, and
+/// letters if the locale's dates contain letters.
 bool MayTypeDate(QChar key, const DisplayFormats& formats);
 
-/// A date as it is shown or as people write it: in the locale's order, the parts separated by
-/// whatever is neither letter nor digit, or not at all where day and month have two digits. A year
-/// of four digits first means year, month, day in every locale. Two digits mean the year from
-/// nineteen back to eighty ahead. Nothing for any other text, a day that no calendar has, or a year
-/// out of range.
+/// Reads a date as it is shown or as people write it: in the locale's order, with the parts
+/// separated by any character that is neither letter nor digit, or without separators if day and
+/// month have two digits. A first part of four digits means year, month, day in every locale. A
+/// year of two digits lies between nineteen years ago and eighty years ahead. Returns nothing for
+/// any other text, a day that does not exist, or a year out of range.
 std::optional<Date> ReadTypedDate(const QString& text, const DisplayFormats& formats, Date today);

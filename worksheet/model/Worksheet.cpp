@@ -8,7 +8,7 @@
 Worksheet::Worksheet(WorksheetDisplay& display, FieldTexts texts, std::function<Date()> today)
     : m_display(&display), m_texts(std::move(texts)), m_today(std::move(today)) {}
 
-// The name alone does not make a worksheet worth saving, so it does not set Dirty.
+// A name alone does not make a worksheet worth saving, so it does not set Dirty.
 void Worksheet::SetLoanName(const QString& name) {
     m_loan.name = name;
     Show({FieldId::LoanName});

@@ -9,28 +9,28 @@
 #include <set>
 #include <vector>
 
-/// One worksheet: the loan wanted, the loan held today and the offers, one a row.
+/// One worksheet: the loan wanted, the current loan and the offers, one in each row.
 ///
-/// Each value is a property with a read and a write side. A write stores, sets Dirty when an input
+/// Each value is a property with a getter and a setter. A setter stores, sets Dirty if an input
 /// changed, shows the value in its display format and recalculates what depends on it. Terms are
 /// months, rates fractions, dates whole days; zero means "not entered" and shows as an empty field.
 ///
-/// A failure (Failure.h) in a write leaves every input as it was before or as it was given, shows
-/// the results that could not be computed as empty, finishes all other recalculations and is then
+/// If a setter fails (Failure.h), every input keeps either its old or its new value, results that
+/// could not be computed show as empty, all other recalculations finish, and then the failure is
 /// thrown.
 ///
-/// Shows nothing itself, asks nothing, and keeps nothing beyond its own life.
+/// Has no widgets, asks the user nothing, and stores nothing permanently.
 class Worksheet final : public LoanContext {
 public:
     Worksheet(WorksheetDisplay& display, FieldTexts texts, std::function<Date()> today);
-    // The offers point back at their worksheet.
+    // The offers hold a pointer to their worksheet.
     Worksheet(const Worksheet&) = delete;
     Worksheet& operator=(const Worksheet&) = delete;
     Worksheet(Worksheet&&) = delete;
     Worksheet& operator=(Worksheet&&) = delete;
     ~Worksheet() override = default;
 
-    // The loan wanted. Types and frequencies are codes; their texts pass through ChoiceText.
+    // The loan wanted. Types and frequencies are codes; ChoiceText gives their texts.
     QString LoanName() const { return m_loan.name; }
     /// One blank counts as no name, too.
     static bool IsEmptyName(const QString& name) { return name.isEmpty() || name == u" "; }
@@ -47,7 +47,7 @@ public:
     void SetEscrowInsurance(Money perYear);
     Money EscrowMonthly() const override { return m_loan.escrowMonthly; }
 
-    // The loan held today.
+    // The current loan.
     Money CurrentLoanAmount() const { return m_current.amount; }
     void SetCurrentLoanAmount(Money amount);
     int CurrentTerm() const { return m_current.term; }
@@ -71,69 +71,70 @@ public:
     Money CurrentInterestLeft() const { return m_current.interestLeft; }
     Date CurrentPayoffDate() const { return m_current.payoffDate; }
 
-    // The offers. There is one calculator for every row.
+    // The offers. Each row has one calculator.
     Row HighestOfferRow() const { return Row{static_cast<int>(m_offers.size()) - 1}; }
-    /// Adds calculators for the offers after `from` up to `to`, keeping those that are there.
+    /// Adds calculators for the offers after `from` up to `to`; existing ones are kept.
     void GrowOfferArrays(Row from, Row to);
     OfferIndex OfferIndexOfRow(Row row) const { return m_order.OfferIndexOfRow(row); }
     const CLoan& OfferOfRow(Row row) const { return m_offers.at(OfferIndexOfRow(row).value); }
-    /// The calculator itself, for whoever brings a whole offer; ShowOffer then shows it.
+    /// The calculator itself, for callers that set a whole offer; ShowOffer then shows it.
     CLoan& OfferOfRow(Row row) { return m_offers.at(OfferIndexOfRow(row).value); }
-    /// All of them in the order of entry, whatever the order of the rows.
+    /// All offers in the order of entry, whatever the order of the rows.
     const std::vector<CLoan>& OffersAsEntered() const { return m_offers; }
     const CLoan& Offer(OfferIndex offer) const { return m_offers.at(offer.value); }
     CLoan& Offer(OfferIndex offer) { return m_offers.at(offer.value); }
     /// Shows the inputs of the offer in this row, then calculates it and shows the results.
     void ShowOffer(Row row);
 
-    // The order of the rows. It stays until the next sort or Clear, whatever is entered meanwhile.
+    // The order of the rows. New entries do not change it; only a sort or Clear does.
     SortOrder Order() const { return m_order.Order(); }
-    /// The offers in the order of their keys (SortKeys.h), by what they hold now: nothing is
-    /// entered, raised or marked dirty. ShowOffers then shows the rows.
+    /// Sorts by the keys in SortKeys.h, from the present values: nothing is entered, raised or
+    /// marked dirty. Call ShowOffers afterwards to show the rows.
     void SortByPayoffDate();
     void SortByInterest();
-    /// Shows every row as its offer stands. No intended payment is raised, and a result that cannot
-    /// be computed is empty; that has been told when it was entered.
+    /// Shows every row without changing its offer. No intended payment is raised. A result that
+    /// cannot be computed is empty; the failure was reported when the value was entered.
     void ShowOffers();
-    /// Takes the marks of raised payments away.
+    /// Removes the marks of raised payments.
     void ClearRaisedMarks();
 
     // The worksheet as a whole.
-    /// Back to how it started: nothing entered, the next payment today, nothing to save. The rows
-    /// stay, empty.
+    /// Restores the initial state: nothing entered, the next payment today, nothing to save. The
+    /// rows stay, empty.
     void Clear();
-    /// From now on terms are typed and shown in months, or in years; shows them so.
+    /// Sets whether terms are typed and shown in months or in years, and shows them again.
     void SetTermInMonths(bool inMonths);
 
-    // What the fields need: one way in and out for whatever is typed, picked or ticked.
+    // For the fields: one way in and out for every value that is typed, picked or ticked.
     const FieldTexts& Texts() const { return m_texts; }
     QString EntryText(Field field) const;
-    /// Whether a text has the form of the field's number and stands for one: a lone sign does not.
+    /// Whether a text has the form of the field's number and has a value; a lone sign has none.
     /// Throws OverflowFailure for a number that the field cannot hold.
     bool Accepts(Field field, const QString& text) const;
-    /// Whether a key of this character may type into the field.
+    /// Whether this character may be typed into the field.
     bool AllowsKey(FieldId field, QChar key) const;
-    /// Stores what a field that is typed into holds. Throws ConversionFailure or OverflowFailure.
+    /// Stores the text of a typed field. Throws ConversionFailure or OverflowFailure.
     void StoreTyped(Field field, const QString& text);
-    /// Stores the value that the field has: leaving it untouched goes through the same rules as
-    /// leaving it changed, but keeps what its text cannot show. Throws only if something changed,
-    /// such as a term that was missing.
+    /// Stores the field's present value again. An untouched field follows the same rules as a
+    /// changed one when it is left, but keeps the precision that its text cannot show. Throws only
+    /// if something changed, such as a term that was missing.
     void StoreAgain(Field field);
-    /// The list, or the box of financed points, is left. The same holds for what has not changed.
+    /// Call when the list or the box of financed points loses the focus. As in StoreAgain, an
+    /// unchanged value throws only if something else changed.
     void LeaveChoice(Field field, const QString& text);
     void LeaveFinancePoints(Row row, bool financed);
-    /// Stores what a number field holds. Throws ConversionFailure or OverflowFailure.
+    /// Stores the text of a number field. Throws ConversionFailure or OverflowFailure.
     void StoreNumber(Field field, const QString& text);
-    /// The same for a number of an offer that has been read already: points, rate, term or intended
+    /// The same for an offer's number that is already converted: points, rate, term or intended
     /// payment.
     void StoreOfferNumber(Field field, const FieldNumber& number);
     void StoreChoice(Field field, const QString& text);
     void StoreFinancePoints(Row row, bool financed);
     void StoreWho(Row row, const QString& who);
-    /// Shows the value of a field in its display format. Not for the results of an offer: those are
-    /// not kept, RecalculateOffer shows them.
+    /// Shows the value of a field in its display format. Not for the results of an offer: they are
+    /// not stored, and RecalculateOffer shows them.
     void Show(Field field) const;
-    /// Shows every choice again in the language now in use.
+    /// Shows every choice again in the current language.
     void ShowChoices() const;
 
     // The four recalculations.
@@ -142,7 +143,7 @@ public:
     void RecalculateCurrentPayment();
     void RecalculateCurrentSchedule();
 
-    /// Whether anything has been changed that a save would keep.
+    /// Whether anything has changed that a save would store.
     bool Dirty() const { return m_dirty; }
     void ClearDirty() { m_dirty = false; }
     /// Whether the user has been told that intended payments are raised.
@@ -178,7 +179,7 @@ private:
         Money interestLeft;
         Date payoffDate;
     };
-    /// What is to be computed anew after a write, each at most once and in this order.
+    /// What to recalculate after a setter, each at most once and in this order.
     enum Pending : unsigned {
         Nothing = 0,
         Escrow = 1,
@@ -187,7 +188,7 @@ private:
         Schedule = 8,
     };
 
-    /// Stores and shows an input; a changed one sets Dirty.
+    /// Stores and shows an input; sets Dirty if it changed.
     template <class Value>
     void Write(Value& stored, const Value& value, FieldId field) {
         if (stored != value) {

@@ -7,8 +7,8 @@
 
 #include <QString>
 
-/// Shows what a worksheet tells it to: which field, which text, which mark. Decides nothing and
-/// computes nothing. The window is one; a test may record instead.
+/// Shows which field, text and mark the worksheet passes. Decides and computes nothing. The window
+/// implements it; a test may record the calls instead.
 class WorksheetDisplay {
 public:
     virtual ~WorksheetDisplay() = default;
@@ -18,14 +18,14 @@ public:
     virtual void ShowTicked(Field field, bool ticked) = 0;
     virtual void ShowDate(Field field, Date date) = 0;
     virtual void ShowMark(Field field, Mark mark) = 0;
-    /// Whether the field shows its tooltip or, for a moment, none.
+    /// Whether the field shows its tooltip; it may be hidden for a moment.
     virtual void ShowToolTip(Field field, bool shown) = 0;
 
-    /// What the rows are ordered by from now on.
+    /// The new order of the rows.
     virtual void ShowSortOrder(SortOrder order) = 0;
 
-    /// An intended payment has been raised and marked; the mark is to go after a while.
+    /// An intended payment has been raised and marked; remove the mark after a while.
     virtual void PaymentRaised() = 0;
-    /// An intended payment was refused: the user is to be told, once for each refusal.
+    /// An intended payment was refused: tell the user once for each refusal.
     virtual void PaymentRefused() = 0;
 };

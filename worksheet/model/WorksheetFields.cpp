@@ -1,4 +1,4 @@
-// The worksheet as its fields see it: which property stands behind which field.
+// Maps the fields to the properties of the worksheet.
 
 #include "Failure.h"
 #include "Frequency.h"
@@ -161,13 +161,14 @@ void Worksheet::StoreTyped(Field field, const QString& text) {
     if (!date) {
         throw ConversionFailure(ProgramSource);
     }
-    if (*date != m_current.nextPayment) { // as it is after a step, which has stored it
+    if (*date != m_current.nextPayment) { // after an arrow key it is equal: the step has stored it
         SetCurrentNextPayment(*date);
     }
     Show(field);
 }
 
-/// What it comes to has been told when the values were entered, unless one has changed meanwhile.
+/// The step's failure was reported when the values were entered; it is thrown only if a value has
+/// changed since.
 template <class Step>
 void Worksheet::TellOnlyNews(Step step) {
     const bool wasDirty = std::exchange(m_dirty, false);
@@ -200,8 +201,8 @@ void Worksheet::LeaveChoice(Field field, const QString& text) {
     });
 }
 
-/// A ticked box is stored and calculated again on every way out, an unticked one only when the
-/// offer does not know of it yet.
+/// A ticked box is stored and recalculated whenever it is left, an unticked one only if the offer
+/// is still ticked.
 void Worksheet::LeaveFinancePoints(Row row, bool financed) {
     if (financed || OfferOfRow(row).FinancePoints()) {
         TellOnlyNews([&] { StoreFinancePoints(row, financed); });
@@ -221,7 +222,7 @@ void Worksheet::Store(Field field, const FieldNumber& number) {
 }
 
 void Worksheet::StoreLoanNumber(FieldId field, const FieldNumber& number) {
-    // What the fields of the two upper bands store to, and what leaving them computes anew.
+    // Where the amounts of the upper bands are stored, and what is recalculated when they are left.
     struct AmountField {
         FieldId field;
         Money& stored;
@@ -263,7 +264,7 @@ void Worksheet::StoreOfferNumber(Field field, const FieldNumber& number) {
         break;
     case FieldId::InterestRate:
         offer.SetInterestRate(std::get<double>(number));
-        // A rate on an offer without a term gives it the default term.
+        // Entering a rate gives an offer without a term the default term.
         Show({FieldId::Term, field.row});
         break;
     case FieldId::Term:

@@ -1,4 +1,4 @@
-// The order of the rows, and what they show after it has changed.
+// Sorts the rows and shows them after a sort.
 
 #include "Failure.h"
 #include "SortKeys.h"
@@ -29,8 +29,8 @@ void Worksheet::ShowOffers() {
     }
 }
 
-/// In the order of the columns. Where one result cannot be computed, those behind it are empty too,
-/// as they have been since it was entered.
+/// Shows the results in column order. If one cannot be computed, the later ones are empty, too, as
+/// they have been since it was entered.
 void Worksheet::ShowAsItStands(Row row) {
     CLoan& offer = OfferOfRow(row);
     bool failed = false;
@@ -51,7 +51,7 @@ void Worksheet::ShowAsItStands(Row row) {
             m_display->ShowText(field, {});
         }
         if (failed && field.id == FieldId::PayoffDate) {
-            m_display->ShowToolTip(field, false); // the others keep theirs: it would not come back
+            m_display->ShowToolTip(field, false); // the other tooltips would not return
         }
     }
 }

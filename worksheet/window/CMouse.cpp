@@ -35,7 +35,7 @@ void CMouse::SetPointer(const std::int32_t& NewPointer) {
         QGuiApplication::changeOverrideCursor(ShapeOf(NewPointer));
         return;
     }
-    // The toolkit keeps the pointers under the one on top.
+    // Qt keeps the override cursors on a stack.
     QGuiApplication::setOverrideCursor(ShapeOf(NewPointer));
     m_hasSaved = true;
 }

@@ -2,13 +2,13 @@
 
 #include <cstdint>
 
-/// Pointer codes, as far as the program uses them by name.
+/// The pointer codes that the program uses by name.
 namespace MousePointer {
 inline constexpr std::int32_t Hourglass = 11;
 } // namespace MousePointer
 
-/// Changes the mouse pointer of the whole program for as long as it lives. Every way out of a
-/// procedure, a failure included, brings the pointer back that was there before the first change.
+/// Changes the mouse pointer of the whole program during its lifetime. The destructor restores the
+/// pointer from before the first change, so that a failure restores it, too.
 class CMouse {
 public:
     CMouse() = default;
@@ -18,7 +18,7 @@ public:
     CMouse& operator=(CMouse&&) = delete;
     ~CMouse();
 
-    /// A code without a pointer of its own shows the arrow.
+    /// An unknown code shows the arrow.
     void SetPointer(const std::int32_t& NewPointer);
 
 private:

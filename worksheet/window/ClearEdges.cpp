@@ -21,7 +21,7 @@ QColor HalfWay(const QColor& one, const QColor& other) {
 
 enum class Shape { Box, Round };
 
-/// Over the edge that is there. What has the keyboard gets the lightest one.
+/// Draws over the existing edge. The focused control gets the lightest one.
 void DrawEdge(const QStyleOption& option, QPainter& painter, Shape shape = Shape::Box) {
     if (!IsDark(option.palette)) {
         return;

@@ -2,17 +2,18 @@
 
 #include <QProxyStyle>
 
-/// The toolkit's own style draws the edges of fields, lists and boxes a shade darker than the
-/// window. In a dark palette nobody sees those: there they are drawn half as light as the text,
-/// around what has the keyboard as light. Desktops with a style of their own keep it as it is.
+/// Draws visible edges in a dark palette. Qt's Fusion style draws the edges of fields, lists and
+/// boxes a shade darker than the window, which is invisible there. This style draws them half as
+/// light as the text, and as light as the text around the focused control. Other styles are not
+/// changed.
 class ClearEdges : public QProxyStyle {
     Q_OBJECT
 
 public:
     ClearEdges();
 
-    /// Gives the application these edges where it has the toolkit's own style and a dark palette.
-    /// A light one, the usual case, costs the start nothing.
+    /// Installs the style if the application uses Fusion and a dark palette. With a light palette,
+    /// the usual case, it costs no start-up time.
     static void Install();
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -5,7 +5,7 @@
 
 void ClickSwallower::SwallowNext() { QCoreApplication::instance()->installEventFilter(this); }
 
-/// Only what goes to a control: the window itself must see press and release to keep its books.
+/// Only events of widgets: the QWindow must receive press and release to track the button state.
 bool ClickSwallower::eventFilter(QObject* watched, QEvent* event) {
     const bool isMouse = event->type() == QEvent::MouseButtonPress ||
                          event->type() == QEvent::MouseButtonRelease ||

@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-/// Makes a click do nothing whose press has been judged already: the press still on its way, and
-/// what follows up to the release.
+/// Swallows a click whose press has already been refused: the pending press and every mouse event
+/// up to the release.
 class ClickSwallower : public QObject {
     Q_OBJECT
 

@@ -5,15 +5,14 @@
 #include <QColor>
 #include <QPalette>
 
-/// The backgrounds that tell something. Both are light in every palette, so the text on them is
-/// dark.
+/// The background colours of marks. Both are light in every palette, so the text on them is dark.
 namespace Colours {
 
 inline constexpr QColor Missing{255, 208, 215}; ///< light pink
 inline constexpr QColor Raised{255, 255, 128};  ///< light yellow
 inline constexpr QColor TextOnMark{0, 0, 0};
 
-/// What a marked field sets of its own; nothing where there is no mark.
+/// Only what a marked field overrides; empty without a mark.
 inline QPalette MarkedPalette(Mark mark) {
     QPalette palette;
     if (mark != Mark::None) {

@@ -8,11 +8,11 @@
 #include <map>
 #include <optional>
 
-/// Which control shows which field, both ways.
+/// Maps fields to controls and controls to fields.
 class ControlMap {
 public:
-    /// Finds the controls of these fields by name below `parent`. In a row of offers each then
-    /// takes the row into its name: "txtPoints" becomes "txtPoints(3)".
+    /// Finds the controls of these fields by name below `parent`. In a row of offers it then adds
+    /// the row to each name: "txtPoints" becomes "txtPoints(3)".
     void Add(const QWidget& parent, std::span<const FieldRule> fields, Row row = Field::NoRow);
 
     QWidget* ControlOf(Field field) const;

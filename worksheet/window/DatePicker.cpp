@@ -26,7 +26,7 @@ QDate Stepped(const QDate& date, char unit, int steps) {
     }
 }
 
-/// Below the field, or above it where there is no room.
+/// Below the field, or above it if there is no room below.
 QPoint PlaceOf(const QWidget& popup, const QWidget& field) {
     const QRect screen = field.screen()->availableGeometry();
     const QSize size = popup.sizeHint();
@@ -53,7 +53,7 @@ void DatePicker::SetWriting(Writing writing) {
 void DatePicker::ShowDate(const QDate& date) {
     m_date = date;
     const QString text = date.isValid() ? m_writing.write(date) : QString();
-    // Set again, the same text would lose the caret.
+    // Setting the same text again would move the caret.
     if (lineEdit()->text() != text) {
         lineEdit()->setText(text);
         lineEdit()->setCursorPosition(0);
@@ -75,7 +75,7 @@ void DatePicker::Select(std::size_t part) {
     }
 }
 
-/// The part that the caret is in or behind; with all selected, the first.
+/// Steps the part at or before the caret; if all is selected, the first part.
 void DatePicker::stepBy(int steps) {
     const QDate typed = m_writing.read(lineEdit()->text());
     const QDate from = typed.isValid() ? typed : m_date;
@@ -94,8 +94,8 @@ void DatePicker::stepBy(int steps) {
     Select(part);
 }
 
-/// A separator ends a part: the next one is selected, and gives way to what is typed. Typed again
-/// it is passed over. False where it is to be typed, because no part follows.
+/// Handles a separator, which ends a part: selects the next part for replacement. A second
+/// separator is ignored. False if the separator is to be typed, because no part follows.
 bool DatePicker::GoOn() {
     const std::vector<DatePart> parts = Parts();
     const bool selected = lineEdit()->hasSelectedText();
@@ -122,7 +122,7 @@ bool DatePicker::GoOn() {
     return false;
 }
 
-/// The digit that follows a complete part belongs to the next one.
+/// The digit after a complete part belongs to the next part.
 void DatePicker::LeaveFullPart() {
     if (lineEdit()->hasSelectedText()) {
         return;
@@ -198,7 +198,7 @@ void DatePicker::mousePressEvent(QMouseEvent* event) {
     }
 }
 
-/// The wheel must not change a date unseen.
+/// The wheel must not change a date unnoticed.
 void DatePicker::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 QStyleOptionComboBox DatePicker::Frame() const {
@@ -232,7 +232,7 @@ void DatePicker::changeEvent(QEvent* event) {
     updateGeometry();
 }
 
-/// As other date fields of the desktop: the base does not know what will stand here.
+/// Sized like other date fields of the desktop; the base class does not know the text.
 QSize DatePicker::sizeHint() const {
     ensurePolished();
     constexpr int caret = 2;

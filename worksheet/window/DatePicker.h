@@ -13,15 +13,15 @@
 
 class QStyleOptionComboBox;
 
-/// A date that is typed as it is written, stepped by the arrow keys or picked from a calendar
-/// (Alt+Down, F4 or the button). Typed over, it is a text like any other; typed into, each
-/// separator goes on to the next part, which gives way to what is typed. Knows neither how dates
-/// are read nor whether one is taken: a typed text stays as it is until ShowDate.
+/// A date field. The date is typed, stepped by the arrow keys or picked from a calendar (Alt+Down,
+/// F4 or the button). Typing over a selected date replaces it as in any text field. Within a date
+/// each separator selects the next part, which the next key replaces. Does not know how dates are
+/// read or whether one is accepted: a typed text stays unchanged until ShowDate.
 class DatePicker : public QAbstractSpinBox {
     Q_OBJECT
 
 public:
-    /// How dates are written, and read back. `read` gives no date for a text that is none.
+    /// How dates are written and read back. `read` returns no date for a text that is not a date.
     struct Writing {
         QLocale locale; ///< of the calendar
         QDate first;
@@ -33,9 +33,9 @@ public:
     explicit DatePicker(QWidget* parent = nullptr);
 
     void SetWriting(Writing writing);
-    /// No date is an empty text.
+    /// No date shows as an empty text.
     void ShowDate(const QDate& date);
-    /// The date shown last, whatever has been typed since.
+    /// The date shown last, even if the text was changed since.
     QDate Shown() const { return m_date; }
     QLineEdit& Edit() const { return *lineEdit(); }
 
@@ -45,7 +45,7 @@ public:
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
-    /// Stepped to or picked, not typed. It is shown already.
+    /// A date was stepped to or picked, not typed. It is already shown.
     void Picked(const QDate& date);
 
 protected:

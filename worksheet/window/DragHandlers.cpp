@@ -68,7 +68,7 @@ void DragHandlers::OLECompleteDrag(Field field) {
     }
 }
 
-/// The right button is the context menu's.
+/// The right button opens the context menu.
 bool DragHandlers::Starts(Field field, Qt::MouseButton button) const {
     return button == Qt::LeftButton && m_values->CanGive(field);
 }
@@ -78,7 +78,7 @@ Qt::DropActions DragHandlers::Fill(Field field, QMimeData& data) {
     return Qt::CopyAction;
 }
 
-/// A number is only ever copied; the text of a lender may be moved here by its program.
+/// A number is only ever copied; a lender's text may be moved here from another program.
 Qt::DropActions DragHandlers::Possible(Field field, const QMimeData& data,
                                        Qt::DropActions effect) const {
     if (!data.hasText() || !m_values->MayTake(field, data.text())) {

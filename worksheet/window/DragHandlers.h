@@ -10,14 +10,14 @@ class ControlMap;
 class QMimeData;
 class ValueExchange;
 
-/// The events of dragging, each by the name of its control. What travels and what may arrive is the
-/// worksheet's (DraggedValue.h); how the toolkit drags is OfferDragging's. Handlers take the row.
-/// They throw what ValueExchange throws.
+/// The drag events, each named after its control. DraggedValue.h defines which values can be
+/// dragged and dropped; OfferDragging handles Qt's drag events. Handlers take the row. They throw
+/// what ValueExchange throws.
 class DragHandlers {
 public:
     DragHandlers(ValueExchange& values, const ControlMap& controls);
 
-    /// An event of a field whose values travel, handed to the handler of its control.
+    /// Passes an event of a draggable field to the handler of its control.
     bool MouseDown(Field field, Qt::MouseButton button);
     Qt::DropActions OLEStartDrag(Field field, QMimeData& data);
     Qt::DropActions OLEDragOver(Field field, const QMimeData& data, Qt::DropActions effect);
@@ -25,8 +25,8 @@ public:
     void OLECompleteDrag(Field field);
 
     // MouseDown: whether the button starts a drag. OLEStartDrag: puts the value into the data and
-    // gives what may be done with it. OLEDragOver: which of the offered effects are possible, if
-    // any. OLEDragDrop: stores the value and gives what has been done with it.
+    // returns the allowed actions. OLEDragOver: which of the offered actions are possible, if any.
+    // OLEDragDrop: stores the value and returns the action performed.
     bool txtPoints_MouseDown(int index, Qt::MouseButton button);
     Qt::DropActions txtPoints_OLEStartDrag(int index, QMimeData& data);
     Qt::DropActions txtPoints_OLEDragOver(int index, const QMimeData& data, Qt::DropActions effect);

@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Slow enough to let go of the button at the row that is meant.
+/// Slow enough to release the button at the intended row.
 constexpr auto Tick = 250ms;
 
 } // namespace

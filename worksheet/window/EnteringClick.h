@@ -5,15 +5,15 @@
 class QEvent;
 class QLineEdit;
 
-/// The click that enters a field would put the caret where it fell; the whole text is to be
-/// selected, unless the user has drawn a selection. When it becomes a double click all is selected,
-/// too: the toolkit's word ends at the decimal symbol.
+/// Selects the whole text when a click enters a field, instead of placing the caret at the click,
+/// unless the user drags a selection. An entering double click selects all, too: Qt would select
+/// one word, which ends at the decimal symbol.
 class EnteringClick {
 public:
-    /// The field has got the focus.
+    /// The field got the focus.
     void Entered(Qt::FocusReason reason) { m_enters = reason == Qt::MouseFocusReason; }
-    /// Before the edit has this event of the mouse. True when the edit must not have it; other
-    /// events are ignored.
+    /// Call before the edit handles a mouse event. Returns true if the edit must not handle it;
+    /// ignores all other events.
     bool Takes(const QEvent& event, QLineEdit& edit);
 
 private:

@@ -8,22 +8,22 @@
 #include <exception>
 #include <vector>
 
-/// How a failure is told: "errn=" number "  src=" source "  desc=" description.
+/// The text of a failure: "errn=" number "  src=" source "  desc=" description.
 QString FailureText(const Failure& failure);
 
-/// The same below what it means in the user's language, where a user can do something about it.
+/// The same, preceded by advice in the user's language if the user can do something about it.
 QString FailureMessage(const Failure& failure);
 
-/// Several of them, one a line; of many, the first ones and their number.
+/// Several failures, one in each line; of many, only the first ones and the total.
 QString FailureLines(const std::vector<Failure>& failures);
 
-/// The one place where a failure in a handler ends up: it is told to the user, and the program
-/// carries on.
+/// The one place that catches the failures of handlers: it reports them to the user, and the
+/// program continues.
 class FailureReport {
 public:
     explicit FailureReport(Messages& messages) : m_messages(&messages) {}
 
-    /// Runs a handler; false when it failed and the failure has been reported.
+    /// Runs a handler; returns false if it failed and the failure has been reported.
     template <class Handler>
     bool Guard(Handler&& handler) const {
         try {

@@ -21,14 +21,14 @@
 
 namespace {
 
-/// Marks a text on the clipboard as the value of an offer's field.
+/// Marks a clipboard text as the value of an offer field.
 QString ValueFormat() { return QStringLiteral("application/x-quend-loan-value"); }
 
 const QMimeData* Clipped() { return QGuiApplication::clipboard()->mimeData(); }
 
 bool HoldsValue(const QMimeData* data) { return data != nullptr && data->hasFormat(ValueFormat()); }
 
-/// What comes from a table is a cell; what comes from a field is its value, to the letter.
+/// A text from a table is a cell; a text from a field is its exact value.
 QString ValueOn(const QMimeData& data) {
     return HoldsValue(&data) ? data.text() : WithoutCellEnd(data.text());
 }
@@ -37,7 +37,7 @@ bool IsPartSelected(const QLineEdit& edit) {
     return edit.hasSelectedText() && edit.selectedText() != edit.text();
 }
 
-/// Nothing selected in a number means all of it; in a lender's text it is the place to insert at.
+/// No selection in a number means all of it; in a lender's text it is the insertion point.
 bool TakesWholeValue(const QLineEdit& edit, Field field) {
     return RuleOf(field.id).IsNumber() ? !IsPartSelected(edit) : edit.selectedText() == edit.text();
 }
@@ -115,7 +115,7 @@ void FieldClipboard::PasteValue(Field field) {
     m_report->Guard([&] { m_values->Take(field, text); });
 }
 
-/// The toolkit's own menu, and below it the value. What cannot be done is disabled.
+/// Qt's own menu, followed by the value commands. Unavailable commands are disabled.
 void FieldClipboard::OpenMenu(Field field, const QContextMenuEvent& event) {
     QMenu* menu = EditOf(field).createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);

@@ -12,13 +12,12 @@ class QKeyEvent;
 class QLineEdit;
 class ValueExchange;
 
-/// Copying and pasting the values of offers: what dragging does, by the keyboard and the context
-/// menu, with the same texts and the same checks.
+/// Copies and pastes the values of offers by keyboard and context menu, with the same texts and
+/// checks as dragging.
 ///
-/// The keys of copying and pasting mean the value while all of a field or none of it is selected;
-/// over a part, and while a number is being typed, they mean the text. A text that does not come
-/// from such a field is pasted as it ever was, as if it were typed: 6.5 from elsewhere is a rate in
-/// percent.
+/// The shortcuts act on the value while all or none of a field is selected. With a partial
+/// selection, or while a number is being typed, they act on the text. A text that was not copied
+/// from such a field is pasted as if it were typed: 6.5 from elsewhere is a rate in percent.
 class FieldClipboard : public QObject {
     Q_OBJECT
 
@@ -26,7 +25,7 @@ public:
     FieldClipboard(ValueExchange& values, const ControlMap& controls, Messages& messages,
                    const FailureReport& report);
 
-    /// The row has been made.
+    /// Call when the row has been created.
     void Watch(Row row);
 
 protected:

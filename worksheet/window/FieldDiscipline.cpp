@@ -43,9 +43,9 @@ bool FieldDiscipline::Allows(Field field, QChar key) const {
     return m_worksheet->AllowsKey(field.id, key);
 }
 
-/// A text as the program wrote it is never refused and never read back: 30 months show as 2.5
-/// years, and passing through the field must not make two years of them. Their value is stored
-/// again, with all that follows from it.
+/// A text that the program wrote is never refused or read back: 30 months show as 2.5 years, and
+/// passing through the field must not turn them into two years. Their stored value is stored again,
+/// with all recalculations.
 bool FieldDiscipline::Check(Field field) {
     const QString text = EditOf(field).text();
     if (text == m_entryText) {

@@ -11,29 +11,29 @@ class OfferRows;
 class QLineEdit;
 class Worksheet;
 
-/// The one discipline of every field that is typed into: on entry the bare value, all selected;
-/// while typing only what a number may hold; before leaving a check of the form; after leaving the
-/// value stored and shown in its display format. Knows nothing of the toolkit's focus
-/// (FocusTranslator does).
+/// The common behaviour of every typed field. On entry it shows the bare value, all selected; while
+/// typing it allows only the characters of a number; before leaving it checks the form; after
+/// leaving it stores the value and shows it in its display format. Does not handle Qt's focus
+/// events; FocusTranslator does.
 class FieldDiscipline {
 public:
     FieldDiscipline(Worksheet& worksheet, const ControlMap& controls, OfferRows& rows,
                     Messages& messages);
 
-    /// A field of a row got the focus: a blank row always waits below the last one in use, and the
-    /// row is in view.
+    /// A field of a row got the focus: scrolls the row into view and makes sure that a blank row
+    /// follows the last used one.
     void EnterRow(Row row);
     /// A number field or the date got the focus.
     void Enter(Field field);
-    /// Whether a key may type this character into the field.
+    /// Whether this character may be typed into the field.
     bool Allows(Field field, QChar key) const;
-    /// Whether the field may be left with the text it holds. Where not, the user is told why and
-    /// the whole text is selected.
+    /// Whether the field may be left with its present text. If not, tells the user why and selects
+    /// the whole text.
     bool Check(Field field);
     /// The field was left. Throws what the conversion and the recalculation throw.
     void Leave(Field field);
-    /// The key with this code was used in a row: the arrows up and down go to the same field of the
-    /// next row. True for an arrow, also where there is no row to go to.
+    /// A key was pressed in a row: the up and down arrows go to the same field of the row above or
+    /// below. True for an arrow, even if there is no such row.
     bool MoveByArrow(Field field, int key);
 
 private:

@@ -47,7 +47,7 @@ bool EntryEdit::event(QEvent* event) {
     return m_click.Takes(*event, *this) || QLineEdit::event(event);
 }
 
-/// A cell copied from a table brings its end along: a line end or a tab behind the number.
+/// Removes the line end or tab that a cell copied from a table adds after the number.
 void EntryEdit::DropCellEnd() {
     const QString typed = text();
     const int caret = cursorPosition();
@@ -55,7 +55,7 @@ void EntryEdit::DropCellEnd() {
     while (end > 0 && IsCellEnd(typed.at(end - 1))) {
         --end;
     }
-    // A lender may have several lines, and a caret between them.
+    // A lender may have several lines, with the caret between them.
     const bool isOneCell =
         m_isNumber || (caret == typed.size() && std::ranges::none_of(typed.left(end), IsCellEnd));
     if (end < caret && isOneCell) {
@@ -81,7 +81,7 @@ void ResultEdit::changeEvent(QEvent* event) {
 void ResultEdit::TakeWindowColour() {
     const QPalette inherited = palette();
     if (inherited.base() != inherited.window() || inherited.text() != inherited.windowText()) {
-        QPalette own; // of these two alone; the rest goes on following the desktop
+        QPalette own; // only these two; all other colours keep following the desktop
         own.setBrush(QPalette::Base, inherited.window());
         own.setBrush(QPalette::Text, inherited.windowText());
         setPalette(own);

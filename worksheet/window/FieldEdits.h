@@ -5,11 +5,11 @@
 
 #include <QLineEdit>
 
-/// The text of a cell copied from a table, without the line end or tab that it brings along; a text
-/// of several cells as it is.
+/// The text of a cell copied from a table, without its trailing line end or tab; a text of several
+/// cells is unchanged.
 QString WithoutCellEnd(const QString& text);
 
-/// A field that is typed into. Knows how it looks, not what its text means.
+/// A field for typing. Knows its appearance, not the meaning of its text.
 class EntryEdit : public QLineEdit {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
     void SetMark(Mark mark);
     Mark GetMark() const { return m_mark; }
 
-    /// The click that enters a number selects all of it, as the tab key does.
+    /// In a number field the entering click selects all, as the tab key does.
     void SetIsNumber(bool isNumber) { m_isNumber = isNumber; }
 
 protected:
@@ -34,8 +34,8 @@ private:
     EnteringClick m_click;
 };
 
-/// A field that shows a computed value: flat, on the window's own colour, so that it does not look
-/// like one to type into. Its text can still be selected and copied.
+/// A field that shows a computed value: flat and in the window's colour, so that it does not look
+/// editable. Its text can still be selected and copied.
 class ResultEdit : public QLineEdit {
     Q_OBJECT
 

@@ -112,8 +112,8 @@ constexpr std::array OfferEvents{
                 .keyDown = &H::txtWho_KeyDown},
 };
 
-/// Calls the handler that `loan` or `offer` names in the table row of the field; `otherwise` is the
-/// answer of a control without one.
+/// Calls the handler that `loan` or `offer` selects in the field's table row; `otherwise` is the
+/// result for a control without one.
 template <class LoanHandler, class OfferHandler, class... Args>
 auto Call(H& handlers, Field field, LoanHandler Events<>::*loan, OfferHandler Events<int>::*offer,
           bool otherwise, Args... args) {
@@ -182,7 +182,7 @@ bool FieldHandlers::IsTicked(Row row) const {
 void FieldHandlers::cboLoanName_GotFocus() {
     m_controls->ControlOf<LoanNameBox>({LoanName})->SelectAll();
 }
-/// The mark of a missing name goes once there is one.
+/// A name removes the mark of a missing name.
 void FieldHandlers::cboLoanName_LostFocus() {
     m_worksheet->SetLoanName(ChosenText({LoanName}));
     if (!Worksheet::IsEmptyName(m_worksheet->LoanName())) {
@@ -325,7 +325,7 @@ void FieldHandlers::cboFrequency_LostFocus(int index) { LeaveChoice({Frequency, 
 
 void FieldHandlers::txtWho_GotFocus(int index) { EnterRow(index); }
 bool FieldHandlers::txtWho_KeyDown(int index, int key) { return Move({Who, Row{index}}, key); }
-/// What was only looked at stays as it is, also where the field cannot show all of it.
+/// An unchanged text is not stored, even if the field cannot show all of it.
 void FieldHandlers::txtWho_LostFocus(int index) {
     const auto* edit = m_controls->ControlOf<QLineEdit>({Who, Row{index}});
     if (edit->isModified()) {

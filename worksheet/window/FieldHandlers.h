@@ -8,27 +8,27 @@ class ControlMap;
 class FieldDiscipline;
 class Worksheet;
 
-/// The events of the worksheet's controls, each by its name. They only say which field it was; what
-/// happens is the discipline's and the worksheet's. Handlers of offers take the row. They throw
-/// what the worksheet throws.
+/// The control events of the worksheet, each named after its control. They only identify the field;
+/// FieldDiscipline and the worksheet do the work. Handlers of offers take the row. They throw what
+/// the worksheet throws.
 class FieldHandlers {
 public:
     FieldHandlers(Worksheet& worksheet, const ControlMap& controls, FieldDiscipline& discipline);
 
-    /// An event of a field, handed to the handler of its control; a control without that handler
-    /// ignores it: keys and checks then pass.
+    /// Passes an event of a field to the handler of its control. A control without such a handler
+    /// ignores the event: keys and checks then pass.
     void GotFocus(Field field);
     bool KeyPress(Field field, QChar key);
-    /// What the decimal key of the number pad types.
+    /// The character that the decimal key of the number pad types.
     QChar DecimalSeparator() const;
     bool Validate(Field field);
     void LostFocus(Field field);
     void Click(Field field);
-    /// True when the key has been used up.
+    /// True if the key has been handled.
     bool KeyDown(Field field, int key);
     bool KeyUp(Field field, int key);
 
-    // The loan wanted and the loan held today.
+    // The loan wanted and the current loan.
     void cboLoanName_GotFocus();
     void cboLoanName_LostFocus();
     void cboLoanType_Click();

@@ -9,7 +9,7 @@
 
 namespace {
 
-/// The widest text that a field shows every day.
+/// The widest typical text of a field.
 QString SampleOf(FieldId field, const DisplayFormats& formats) {
     constexpr double loan = 8'888'888.88;
     constexpr double payment = 88'888.88;
@@ -36,7 +36,7 @@ QString SampleOf(FieldId field, const DisplayFormats& formats) {
 } // namespace
 
 int LeastFieldWidth(FieldId field, const QFontMetrics& metrics, const DisplayFormats& formats) {
-    // Frame, inner margins and the caret.
+    // Frame, inner margins and caret.
     const int around = metrics.averageCharWidth() * 2 + 8;
     return metrics.horizontalAdvance(SampleOf(field, formats)) + around;
 }
@@ -45,7 +45,7 @@ int TextRoomOf(const QLineEdit& edit) {
     QStyleOptionFrame option;
     option.initFrom(&edit);
     option.lineWidth = edit.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &edit);
-    constexpr int marginsOfTheText = 2 * 2; // the toolkit's own, on both sides
+    constexpr int marginsOfTheText = 2 * 2; // Qt's text margin, on both sides
     return edit.style()->subElementRect(QStyle::SE_LineEditContents, &option, &edit).width() -
            marginsOfTheText;
 }

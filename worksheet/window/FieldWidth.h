@@ -6,9 +6,9 @@ class DisplayFormats;
 class QFontMetrics;
 class QLineEdit;
 
-/// The width in pixels that a field must have to show an everyday value whole: loans of up to ten
-/// million, payments of up to a hundred thousand, in the user's formats. The frame is included.
+/// The minimum width in pixels at which a field shows a typical value whole: loans of up to ten
+/// million, payments of up to a hundred thousand, in the user's formats. Includes the frame.
 int LeastFieldWidth(FieldId field, const QFontMetrics& metrics, const DisplayFormats& formats);
 
-/// The width in pixels that a text may have to be seen whole in this field.
+/// The maximum width in pixels of a text that this field shows whole.
 int TextRoomOf(const QLineEdit& edit);

@@ -14,8 +14,8 @@
 
 namespace {
 
-/// The focus goes away for a while and comes back: the field is still being edited. The pop-up of a
-/// list takes the focus for its entries under no reason of its own.
+/// The focus leaves for a moment and returns: the field is still being edited. The pop-up of a list
+/// takes the focus for its entries with OtherFocusReason.
 bool IsPassing(Qt::FocusReason reason) {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
            reason == Qt::MenuBarFocusReason || QApplication::activePopupWidget() != nullptr;
@@ -27,7 +27,7 @@ bool IsControlCharacter(QChar key) {
     return key.unicode() < firstPrinted || key.unicode() == deleteKey;
 }
 
-/// Turned over a field that is passed, the wheel would leave the one being edited.
+/// Otherwise turning the wheel over another field would leave the one being edited.
 void TakeNoFocusByWheel(QWidget& control) {
     if (control.focusPolicy() == Qt::WheelFocus) {
         control.setFocusPolicy(Qt::StrongFocus);
@@ -48,7 +48,7 @@ void FocusTranslator::Watch(const QWidget& parent) {
         }
         control->installEventFilter(this);
         TakeNoFocusByWheel(*control);
-        // Composed characters would pass by the filter of the keys.
+        // Composed characters would bypass the key filter.
         if (RuleOf(field->id).IsTyped()) {
             control->setAttribute(Qt::WA_InputMethodEnabled, false);
         }
@@ -92,10 +92,10 @@ bool FocusTranslator::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyRelease:
         return OnKeyRelease(*field, *static_cast<QKeyEvent*>(event));
     case QEvent::InputMethod:
-        return RuleOf(field->id).IsTyped(); // whatever a dead key comes to
+        return RuleOf(field->id).IsTyped(); // dead keys, too
     case QEvent::Wheel:
-        // No list and no date changes by the wheel, not even the one with the keyboard: a notch
-        // over the name would make another worksheet of this one. What stands around it may scroll.
+        // The wheel changes no list and no date, not even the focused one: one notch over the name
+        // would load another worksheet. A scroll area around it may scroll.
         event->ignore();
         return true;
     default:
@@ -107,7 +107,7 @@ bool FocusTranslator::OnFocusIn(Field field, const QFocusEvent& event) {
     if (m_edited == field) {
         return false;
     }
-    // The window was not active when the focus moved, so the field before was not told.
+    // The focus moved while the window was inactive, so the previous field got no event.
     if (!Leave()) {
         Stay(event.reason());
         return true;
@@ -128,7 +128,7 @@ bool FocusTranslator::OnFocusOut(Field field, const QFocusEvent& event) {
     return false;
 }
 
-/// False when the field is refused and has to be stayed in.
+/// False if the field is refused and must keep the focus.
 bool FocusTranslator::Leave() {
     if (!m_edited) {
         return true;
@@ -144,7 +144,7 @@ bool FocusTranslator::Leave() {
 
 void FocusTranslator::Stay(Qt::FocusReason reason) {
     if (reason == Qt::MouseFocusReason) {
-        // The press that moved the focus is still to be delivered to the control it hit.
+        // The press that moved the focus is not yet delivered to the control under the mouse.
         m_clicks.SwallowNext();
     }
     m_controls->ControlOf(*m_edited)->setFocus(Qt::OtherFocusReason);
@@ -167,8 +167,8 @@ bool FocusTranslator::OnKeyPress(Field field, const QKeyEvent& event) {
     return OnTypedKey(field, event);
 }
 
-/// True for a key that must not type. Access keys and shortcuts have been served before. Ctrl with
-/// Alt is the third level of some keyboards.
+/// True for a key that must not type. Access keys and shortcuts were handled earlier. Ctrl with Alt
+/// is the third level of some keyboards.
 bool FocusTranslator::OnTypedKey(Field field, const QKeyEvent& event) {
     const QString typed = event.text();
     const Qt::KeyboardModifiers held =
@@ -191,7 +191,7 @@ bool FocusTranslator::OnTypedKey(Field field, const QKeyEvent& event) {
     return !std::ranges::all_of(typed, [&](QChar key) { return m_handlers->KeyPress(field, key); });
 }
 
-/// Only a key that went down in the same field: one that closed a list or a menu comes up here too.
+/// Only for a key pressed in the same field: a key that closed a list or menu is released here.
 bool FocusTranslator::OnKeyRelease(Field field, const QKeyEvent& event) {
     bool used = false;
     if (m_keyDownIn == field) {

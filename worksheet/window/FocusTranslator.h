@@ -14,27 +14,27 @@ class QFocusEvent;
 class QKeyEvent;
 class QWidget;
 
-/// Translates the toolkit's events of focus and keys into the four events of the field discipline:
-/// got focus, key press, validate, lost focus. Leaving for a menu, a pop-up list, a tooltip or
-/// another program is not leaving. A refused field keeps the focus, and the click that would have
-/// left it does nothing. The one place where the toolkit's focus is looked at.
+/// Translates Qt's focus and key events into the four events of FieldDiscipline: got focus, key
+/// press, validate, lost focus. A menu, a pop-up list, a tooltip or another program does not count
+/// as leaving the field. A refused field keeps the focus, and the click that would have left it
+/// does nothing. The only class that handles Qt's focus events.
 class FocusTranslator : public QObject {
     Q_OBJECT
 
 public:
     FocusTranslator(FieldHandlers& handlers, const ControlMap& controls, FailureReport& report);
 
-    /// Watches every control below this one that shows a field.
+    /// Watches every field control below `parent`.
     void Watch(const QWidget& parent);
 
-    /// Stores the field being edited, if any, as if it were left, and puts it back in entry form.
-    /// False when it is refused; the user has been told.
+    /// Stores the field being edited, if any, as if it were left, and shows it in entry form again.
+    /// False if it is refused; the user has been told.
     bool Commit();
 
-    /// The field being edited, if any, also while the window is not active.
+    /// The field being edited, if any, even while the window is inactive.
     std::optional<Field> Edited() const { return m_edited; }
 
-    /// Puts the field being edited, if any, into entry form: its value may be another one.
+    /// Shows the field being edited, if any, in entry form again: its value may have changed.
     void Reenter();
 
 protected:

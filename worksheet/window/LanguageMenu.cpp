@@ -19,7 +19,7 @@ LanguageMenu::LanguageMenu(QMenu& menu, const std::vector<QAction*>& known, Call
     }
     connect(m_entries, &QActionGroup::triggered, this, [this](const QAction* entry) {
         m_callbacks.guard([&] { mnuToolsLanguageOpt_Click(entry->data().toInt()); });
-        MarkCurrent(); // the menu has moved the mark already, also where the language stayed
+        MarkCurrent(); // the menu has moved the mark already, even if the language did not change
     });
 }
 

@@ -9,7 +9,7 @@ class QAction;
 class QActionGroup;
 class QMenu;
 
-/// The entries of the language menu, one a language; the active one carries the check mark.
+/// The entries of the language menu, one for each language; the active one has the check mark.
 class LanguageMenu : public QObject {
     Q_OBJECT
 
@@ -17,12 +17,12 @@ public:
     struct Callbacks {
         std::function<bool()> commit; ///< stores the field being edited; false: stop
         std::function<void(const std::function<void()>&)> guard; ///< runs a handler
-        std::function<void()> renew; ///< gives the window the texts of the new language
+        std::function<void()> renew; ///< shows the window's texts in the new language
     };
-    /// `known` are the entries of the form; further languages found get entries behind them.
+    /// `known` are the entries of the form; further languages get entries after them.
     LanguageMenu(QMenu& menu, const std::vector<QAction*>& known, Callbacks callbacks);
 
-    /// Sets the check marks to the language in use.
+    /// Sets the check marks to the current language.
     void MarkCurrent() const;
 
 private:

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Whether the focus really moves here or away; a menu or another window only borrows it.
+/// Whether the focus really moves here or away; a menu or another window takes it only for a while.
 bool IsMove(Qt::FocusReason reason) {
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
            reason == Qt::ShortcutFocusReason || reason == Qt::OtherFocusReason ||

@@ -2,19 +2,19 @@
 
 #include "FieldEdits.h"
 
-/// The field of a row's lender: a double click, or F2, asks for the dialog of the lender. Entered
-/// by a key it selects nothing, and the caret is where the user left it.
+/// The lender field of a row: a double click, or F2, asks for the lender dialog. Entering it by
+/// keyboard selects nothing and restores the caret position.
 class LenderEdit : public EntryEdit {
     Q_OBJECT
 
 public:
     using EntryEdit::EntryEdit;
 
-    /// The caret stays.
+    /// Keeps the caret position.
     void ShowText(const QString& text);
 
 Q_SIGNALS:
-    /// After the button is up: a dialog that opens before would never let the field know of it.
+    /// Emitted after the button release: a dialog opened earlier would keep it from the field.
     void DblClick();
 
 protected:
@@ -27,5 +27,5 @@ protected:
 
 private:
     bool m_clickedTwice = false;
-    int m_caret = 0; ///< while the field is not being edited, which then shows its beginning
+    int m_caret = 0; ///< in entry form; an unfocused field shows its beginning
 };

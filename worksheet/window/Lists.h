@@ -2,6 +2,6 @@
 
 class QComboBox;
 
-/// Fill a list with the texts of the language in use. A list that holds entries is left alone.
+/// Fill a list with the texts of the current language. A list that is not empty is not changed.
 void FillFrequencyList(QComboBox& list);
 void FillLoanTypeList(QComboBox& list);

@@ -22,7 +22,7 @@
 
 namespace {
 
-/// Screen readers come across the edits inside some controls, too.
+/// Screen readers also find the edits inside some controls.
 void NameInnerEdits(const Ui::Loan& form) {
     constexpr const char* number = "accessibleText";
     form.cboLoanName->lineEdit()->setProperty(number, TextNumber::LoanNameEdit);
@@ -34,11 +34,11 @@ std::unique_ptr<Ui::Loan> FormOf(Loan& window) {
     auto form = std::make_unique<Ui::Loan>();
     form->setupUi(&window);
     NameInnerEdits(*form);
-    // Its place stays when it goes, so that the window keeps its shape.
+    // Keeps its space while hidden, so that the layout does not move.
     QSizePolicy policy = form->lblHint->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     form->lblHint->setSizePolicy(policy);
-    // The window behind it paints the background picture; a scroll area would have it filled.
+    // The window paints the background picture behind it; a scroll area would fill the background.
     form->centralWidget->setAutoFillBackground(false);
     return form;
 }
@@ -104,7 +104,7 @@ void Loan::Form_Load() {
         language.SettleDetectedLanguage();
     } else {
         m_report.Guard([&] { language.LoadLanguage(language.CurrentLanguage()); });
-        language.SettleDetectedLanguage(); // a number that no language has is not kept
+        language.SettleDetectedLanguage(); // replaces the number of a language that does not exist
     }
     m_toolkitTexts.Renew();
     m_languages.MarkCurrent();
@@ -121,7 +121,7 @@ void Loan::Form_Load() {
     m_worksheet.ClearDirty();
 }
 
-/// Nothing typed is lost on the way out: a field that cannot be stored keeps the window open.
+/// A field that cannot be stored keeps the window open, so that nothing typed is lost.
 bool Loan::Form_Unload() { return m_focus.Commit() && (!m_mayClose || m_mayClose()); }
 
 void Loan::mnuFileExit_Click() { close(); }
@@ -155,7 +155,7 @@ void Loan::WireRow(int row, const QWidget* controls) {
     ApplyRowCaptions(Row{row});
 }
 
-/// A list that is chosen from tells so at once, not only when it is left.
+/// A choice from a list is stored at once, not only when the list is left.
 void Loan::WireChoice(Field field) {
     if (RuleOf(field.id).kind == ValueKind::Choice) {
         connect(m_controls.ControlOf<QComboBox>(field), &QComboBox::activated, this,
@@ -191,7 +191,7 @@ void Loan::RenewLanguage() {
     MeasureAgain();
 }
 
-/// A window that showed everything goes on to do so.
+/// A window that showed everything must still do so.
 void Loan::MeasureAgain() {
     const bool showedAll = m_ui->scrWindow->ShowsAll();
     MeasureFields();
@@ -207,7 +207,7 @@ void Loan::MeasureFields() {
         if (auto* edit = m_controls.ControlOf<QLineEdit>({rule.id})) {
             edit->setMinimumWidth(LeastFieldWidth(rule.id, edit->fontMetrics(), formats));
         } else if (rule.kind == ValueKind::Choice) {
-            // The toolkit goes on asking for the least width of the letters of the start.
+            // Qt keeps the minimum width of the first font.
             QWidget* list = m_controls.ControlOf({rule.id});
             list->setMinimumWidth(list->sizeHint().width());
         }
@@ -215,18 +215,18 @@ void Loan::MeasureFields() {
     m_columns.Measure(formats);
     const int shown = m_rows.LoansDisplayed().value + 1;
     m_ui->picScroll->setMinimumSize(m_columns.MinimumWidth(), shown * m_columns.RowHeight());
-    // Of both: the one that may be higher would take room above and below the other.
+    // For both: otherwise the higher one would take room above and below the other.
     m_ui->picScroll->setMaximumHeight(shown * m_columns.RowHeight() * 3 / 2);
     m_ui->vsbLoans->setMaximumHeight(m_ui->picScroll->maximumHeight());
     m_rows.Layout();
     m_ui->scrWindow->updateGeometry();
 }
 
-/// Another number of rows takes or gives room.
+/// Fits the window to a changed number of rows.
 void Loan::FitHeight() { ResizeBy({0, m_ui->scrWindow->Missing().height()}); }
 
-/// Not beyond the screen, unless it is so large already. A window that fills the screen keeps its
-/// size.
+/// Does not grow beyond the screen, unless it is larger already. A maximized or full-screen window
+/// keeps its size.
 void Loan::ResizeBy(QSize change) {
     if (!isMaximized() && !isFullScreen()) {
         const QSize frame = frameGeometry().size() - size();
@@ -235,7 +235,7 @@ void Loan::ResizeBy(QSize change) {
     }
 }
 
-/// The hint below the rows goes once every offer that has been begun is complete.
+/// The hint below the rows disappears once every started offer is complete.
 void Loan::ShowHint() {
     bool anyComplete = false;
     bool anyLacking = false;
@@ -279,19 +279,19 @@ void Loan::ApplySettings(const Settings& settings) {
 void Loan::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (m_loaded && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
-        // Once every control has learned of it.
+        // Queued, so that every control has handled the change first.
         QMetaObject::invokeMethod(this, &Loan::MeasureAgain, Qt::QueuedConnection);
     }
 }
 
-/// A picture that cannot be loaded is told once and forgotten.
+/// If the picture cannot be loaded, tells the user once and drops the path.
 void Loan::LoadWallpaper() {
     if (!m_wallpaper.Load(m_settings.wallpaper)) {
         m_messages.Post(GetResourceText(TextNumber::PictureNotLoaded) + u' ' +
                         m_settings.wallpaper);
         m_settings.wallpaper.clear();
     }
-    // Captions stand on a plate of the window's own colour: any picture leaves them readable.
+    // Captions get the window's colour as background, so that they are readable over any picture.
     for (QLabel* caption : findChildren<QLabel*>()) {
         caption->setAutoFillBackground(m_wallpaper.IsSet());
     }

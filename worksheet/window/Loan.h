@@ -35,13 +35,12 @@ namespace Ui {
 class Loan;
 }
 
-/// The main window: one worksheet in its controls. It wires its parts to one another and does no
-/// work of its own.
+/// The main window: one worksheet in its controls. It only creates its parts and connects them.
 class Loan : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// What the world outside decides.
+    /// The outside world, injected.
     struct World {
         MessageDoor* messages;
         QLocale locale;
@@ -54,29 +53,29 @@ public:
     Loan& operator=(Loan&&) = delete;
     ~Loan() override;
 
-    // For the commands of the other rooms, which own the handlers of their menu entries.
+    // For the commands objects of the subsystems, which own the handlers of their menu entries.
     const Ui::Loan& Form() const { return *m_ui; }
     Worksheet& GetWorksheet() { return m_worksheet; }
     OfferRows& Rows() { return m_rows; }
     Messages& GetMessages() { return m_messages; }
     const FailureReport& Report() const { return m_report; }
-    /// Stores the field being edited, which stays in entry form. False: it is refused, and the user
-    /// has been told; the command stops.
+    /// Stores the field being edited, which stays in entry form. False if it is refused: the user
+    /// has been told, and the command must stop.
     bool Commit() { return m_focus.Commit(); }
-    /// Shows the field being edited, if any, as it looks once left; Reenter undoes that.
+    /// Shows the field being edited, if any, in display format; Reenter undoes that.
     void ShowEdited() const;
-    /// After a change of the whole worksheet: the field being edited shows its new value to edit.
+    /// After a change of the whole worksheet: shows the edited field's new value in entry form.
     void Reenter() { m_focus.Reenter(); }
-    /// A worksheet without a name cannot be saved: marks the name's box.
+    /// A worksheet without a name cannot be saved: marks the name box.
     void MarkNameMissing();
     void ClearNameMark();
 
     const Settings& GetSettings() const { return m_settings; }
-    /// Takes other settings and shows what follows from them. A picture that cannot be loaded is
-    /// told and dropped.
+    /// Applies other settings and shows their effects. If the picture cannot be loaded, the user is
+    /// told and the path is dropped.
     void ApplySettings(const Settings& settings);
 
-    /// Asked before the window closes, once the field being edited is stored; false keeps it open.
+    /// Called before the window closes, once the edited field is stored; false keeps it open.
     void OnUnload(std::function<bool()> mayClose) { m_mayClose = std::move(mayClose); }
 
 protected:
@@ -103,7 +102,7 @@ private:
     void ResizeBy(QSize change);
     void LoadWallpaper();
 
-    // First, because making the form raises events that ask for it.
+    // Must be the first member: creating the form raises events that read it.
     bool m_loaded = false;
     Settings m_settings;
     std::function<bool()> m_mayClose;

@@ -1,5 +1,5 @@
 #pragma once
 
-// The controls of the main window as the Designer form makes them, for those outside this floor:
-// the build looks for a form of their own behind every include of a "ui_" header.
+// The generated form of the main window, for other folders: AUTOUIC would look for a form in their
+// own folder if they included a "ui_" header directly.
 #include "ui_Loan.h"

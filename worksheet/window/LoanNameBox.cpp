@@ -17,8 +17,8 @@
 LoanNameBox::LoanNameBox(QWidget* parent) : QComboBox(parent) {
     setEditable(true);
     setInsertPolicy(NoInsert);
-    setCompleter(nullptr); // a name like another one must be typed as meant
-    // One line each: thousands need not be measured before the list can show.
+    setCompleter(nullptr); // a name similar to an existing one must be typed unchanged
+    // Each entry is one line, so thousands need not be measured before the list opens.
     if (auto* const list = qobject_cast<QListView*>(view())) {
         list->setUniformItemSizes(true);
     }
@@ -36,8 +36,7 @@ void LoanNameBox::showPopup() {
     QComboBox::showPopup();
 }
 
-/// The names with the most letters: of thousands, measuring each would take longer than showing
-/// them.
+/// Measures only the longest names: measuring each of thousands takes longer than showing them.
 int LoanNameBox::WidthOfLongNames() const {
     qsizetype letters = 0;
     for (int name = 0; name < count(); ++name) {
@@ -54,7 +53,7 @@ int LoanNameBox::WidthOfLongNames() const {
     return width;
 }
 
-/// Names alike in their first words can be told apart only where they are seen whole.
+/// Names with the same first words can be told apart only if they are shown whole.
 void LoanNameBox::FitListToNames() {
     const int names = WidthOfLongNames() + view()->verticalScrollBar()->sizeHint().width();
     const int room = screen()->availableGeometry().width() * 3 / 4;
@@ -62,8 +61,8 @@ void LoanNameBox::FitListToNames() {
     view()->setMinimumWidth(std::max(width(), std::min(names, room)));
 }
 
-/// The pick is told after its list has closed, within the same event. What the toolkit tells before
-/// and after is about the text.
+/// Qt reports the pick within the event that closes the list. Signals before and after that only
+/// concern the text.
 void LoanNameBox::hidePopup() {
     m_picking = view()->isVisible();
     QComboBox::hidePopup();
@@ -72,9 +71,9 @@ void LoanNameBox::hidePopup() {
 }
 
 void LoanNameBox::OnActivated(int index) {
-    // The toolkit may tell twice of one pick.
+    // Qt may report one pick twice.
     if (std::exchange(m_picking, false)) {
-        // A question may follow: not in the middle of the list's own event.
+        // Queued, because a question may follow, which must not open during the list's event.
         QMetaObject::invokeMethod(
             this, [this, text = itemText(index)] { Q_EMIT Picked(text); }, Qt::QueuedConnection);
     }
@@ -100,8 +99,8 @@ void LoanNameBox::focusInEvent(QFocusEvent* event) {
     m_enteredByClick = event->reason() == Qt::MouseFocusReason;
 }
 
-/// The click that enters the box would put the caret where it fell; the whole name is to be
-/// selected, unless the user has drawn a selection of his own.
+/// Selects the whole name when a click enters the box, instead of placing the caret at the click,
+/// unless the user drags a selection.
 bool LoanNameBox::eventFilter(QObject* watched, QEvent* event) {
     if (watched == lineEdit() && event->type() == QEvent::MouseButtonRelease &&
         std::exchange(m_enteredByClick, false) && !lineEdit()->hasSelectedText()) {

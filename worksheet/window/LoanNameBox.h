@@ -4,9 +4,9 @@
 
 #include <QComboBox>
 
-/// The box with the loan's name: typed, or picked from the loans kept. Its list is made anew by
-/// whoever listens each time it drops down. Only a pick from the list is a pick: keys, the wheel
-/// and a typed name that happens to be in the list choose nothing.
+/// The box with the loan's name, which is typed or picked from the saved loans. A listener refills
+/// the list each time it opens. Only a pick from the open list counts: keys, the wheel and a typed
+/// name that is in the list pick nothing.
 class LoanNameBox : public QComboBox {
     Q_OBJECT
 
@@ -20,7 +20,7 @@ public:
 
 Q_SIGNALS:
     void DropDown();
-    /// Once the list has closed. The box shows the text already.
+    /// Emitted after the list has closed. The box already shows the text.
     void Picked(const QString& text);
 
 protected:

@@ -23,13 +23,13 @@ constexpr std::array ButtonTexts{
     ButtonText{QMessageBox::Cancel, TextNumber::Cancel},
 };
 
-/// A name or a path may be of any length, and no box scrolls: what is too long loses its middle.
+/// Names and paths may have any length, and the box does not scroll: a long text loses its middle.
 QString FitForABox(const QString& text) {
     constexpr qsizetype most = 1'600;
     return text.size() <= most ? text : text.first(most / 2) + u'…' + text.last(most / 2);
 }
 
-/// The button pressed, by its role.
+/// The standard button that was pressed.
 int Run(QMessageBox::Icon icon, const QString& title, const QString& text,
         QMessageBox::StandardButtons buttons) {
     QMessageBox box(icon, title, FitForABox(text), buttons, QApplication::activeWindow());

@@ -2,8 +2,8 @@
 
 #include "Messages.h"
 
-/// The toolkit's message boxes, over the active window. A message stands under the program's own
-/// title, a question under a title of its own.
+/// Shows Qt message boxes over the active window. A message has the program's title, a question its
+/// own.
 class MessageBoxes : public MessageDoor {
 public:
     void Show(const QString& text) override;

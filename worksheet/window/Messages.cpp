@@ -37,7 +37,7 @@ void Messages::Post(const QString& text, const std::function<void()>& afterwards
 }
 
 void Messages::ShowRest() {
-    m_later.stop(); // or it would show them again while the first one stands open
+    m_later.stop(); // or it would show them again while the first one is open
     if (!m_showing) {
         ShowNext();
     }

@@ -7,8 +7,7 @@
 #include <deque>
 #include <functional>
 
-/// A question that is answered by yes or no or, where that is possible, by leaving everything as it
-/// is.
+/// A question with the answers yes and no and, if possible, cancel, which changes nothing.
 struct Question {
     QString text;
     QString title;
@@ -17,22 +16,22 @@ struct Question {
 
 enum class Answer { Yes, No, Cancel };
 
-/// Shows a text to the user and waits until it has been read or answered. The one door for message
-/// boxes.
+/// Shows a text to the user and waits until it has been read or answered. The only interface to
+/// message boxes.
 class MessageDoor {
 public:
     virtual ~MessageDoor() = default;
     virtual void Show(const QString& text) = 0;
-    /// Closing the box by other means than its buttons is Cancel or, where that is not offered, No.
+    /// Closing the box without a button is Cancel or, if that is not offered, No.
     virtual Answer Ask(const Question& question) = 0;
 };
 
-/// A text of the user's as a message quotes it: a long one's beginning.
+/// A user's text as a message quotes it: if long, only its beginning.
 QString Shortened(const QString& text);
 
-/// Messages on their way to the user, shown one after another once the event that raised them is
-/// over and no mouse button is down: a box that opens in the middle of a change of focus or of a
-/// click would leave the window half way. The same text is not queued twice.
+/// The message queue. Messages are shown one after another when the event that raised them is over
+/// and no mouse button is down: a box that opens during a focus change or a click would leave the
+/// window in an inconsistent state. A text that is already queued is not queued again.
 class Messages : public QObject {
     Q_OBJECT
 
@@ -42,10 +41,10 @@ public:
     /// `afterwards` runs once the user has closed the message.
     void Post(const QString& text, const std::function<void()>& afterwards = {});
     bool Waiting() const { return !m_waiting.empty(); }
-    /// Shows at once what still waits: on the way out, before the window closes.
+    /// Shows all waiting messages at once, before the window closes.
     void ShowRest();
 
-    /// Asks at once: what is to happen next depends on the answer.
+    /// Asks at once, because the next step depends on the answer.
     Answer Ask(const Question& question) { return m_door->Ask(question); }
 
 private:

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int Gap = 4;
 
-/// A heading stands over one column; the first over the tick box and the points beside it.
+/// A heading belongs to one column; the first one to the tick box and the points beside it.
 struct Heading {
     const char* control;
     FieldId first;
@@ -36,7 +36,7 @@ constexpr std::array Headings{
     Heading{"lblWho", FieldId::Who, FieldId::Who},
 };
 
-/// How much of the spare width a column takes.
+/// A column's share of the spare width.
 int StretchOf(FieldId field) {
     switch (field) {
     case FieldId::FinancePoints:

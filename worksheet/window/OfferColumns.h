@@ -10,21 +10,21 @@ class ControlMap;
 class DisplayFormats;
 class QWidget;
 
-/// Where the columns of the offers stand: as wide as their values and headings need, the rest of
-/// the width shared out. Headings and rows are placed by the same columns. Does not scroll.
+/// The column positions of the offers. Each column is as wide as its values and headings need; the
+/// rest of the width is distributed. Headings and rows use the same columns. Does not scroll.
 class OfferColumns {
 public:
     /// `headings` holds the headings of the columns; `sampleRow` any row of fields.
     OfferColumns(QWidget& headings, const ControlMap& controls);
 
-    /// Measures anew, after a change of font, language or locale.
+    /// Measures again; call after a change of font, language or locale.
     void Measure(const DisplayFormats& formats);
 
-    /// The least width that shows every column whole.
+    /// The minimum width that shows every column whole.
     int MinimumWidth() const;
     int RowHeight() const { return m_rowHeight; }
 
-    /// Shares out a width; the columns then stay until the next call.
+    /// Distributes a width; the columns keep their positions until the next call.
     void Share(int width);
     void PlaceHeadings() const;
     void PlaceRow(Row row, int height) const;

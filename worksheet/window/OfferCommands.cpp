@@ -19,14 +19,14 @@ void OfferCommands::ShowSortOrder(SortOrder order) const {
 }
 
 void OfferCommands::Watch(const LenderEdit& txtWho, Row row) {
-    // Once the field is done with the click or key.
+    // Queued, so that the field has finished handling the click or key.
     connect(
         &txtWho, &LenderEdit::DblClick, this,
         [this, row] { m_window->Report().Guard([&] { txtWho_DblClick(row.value); }); },
         Qt::QueuedConnection);
 }
 
-/// An access key sorts without leaving the field being edited: it then shows another offer's value.
+/// An access key sorts without leaving the edited field, which then shows another offer's value.
 void OfferCommands::Run(void (OfferCommands::*sort)()) {
     m_window->Report().Guard([&] {
         if (m_window->Commit()) {
@@ -36,7 +36,7 @@ void OfferCommands::Run(void (OfferCommands::*sort)()) {
     });
 }
 
-/// The rows change at once, not one by one.
+/// All rows change at once, not one by one.
 void OfferCommands::cmdPayoffDate_Click() {
     QWidget* rows = m_window->Form().picCanvas;
     m_window->GetWorksheet().SortByPayoffDate();

@@ -7,18 +7,18 @@
 class LenderEdit;
 class Loan;
 
-/// What can be done to the offers besides typing into them: the headings that sort them, and the
-/// dialog of a lender. Both first store the field being edited, and do nothing where it is refused.
+/// The commands on offers: sorting by a heading and opening the lender dialog. Both first store the
+/// field being edited, and do nothing if it is refused.
 class OfferCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// The window outlives the commands.
+    /// The window outlives this object.
     explicit OfferCommands(Loan& window);
 
-    /// Tells which heading the rows are sorted by.
+    /// Shows by which heading the rows are sorted.
     void ShowSortOrder(SortOrder order) const;
-    /// Opens the dialog when this field, of the lender in this row, asks for it.
+    /// Opens the lender dialog of this row when the field asks for it.
     void Watch(const LenderEdit& txtWho, Row row);
 
     void cmdPayoffDate_Click();

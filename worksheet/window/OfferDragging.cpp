@@ -25,7 +25,7 @@ bool IsAllSelected(const QLineEdit& edit, bool isNumber) {
     return edit.selectedText() == edit.text() && (isNumber || edit.hasSelectedText());
 }
 
-/// The value on a slip of paper, in the colours of its field.
+/// The value as a drag picture, in the colours of its field.
 QPixmap SlipOf(const QString& text, const QLineEdit& edit) {
     constexpr int margin = 4;
     constexpr int widest = 240;
@@ -54,7 +54,7 @@ OfferDragging::OfferDragging(Place place, DragHandlers& handlers, const ControlM
     for (QLineEdit* edit : place.window->findChildren<QLineEdit*>()) {
         edit->setAcceptDrops(false);
     }
-    place.frame->setAcceptDrops(true); // to be told of what is held over it; it takes nothing
+    place.frame->setAcceptDrops(true); // to receive drag moves over it; it accepts no drop
     place.frame->installEventFilter(this);
 }
 
@@ -81,7 +81,7 @@ bool OfferDragging::eventFilter(QObject* watched, QEvent* event) {
     return field ? OnFieldEvent(*field, *event) : watched == m_frame && OnFrameEvent(*event);
 }
 
-/// The frame is told of moves only where it has let the drag come in. It takes nothing.
+/// The frame receives drag moves only if it accepts the drag's entry. It accepts no drop.
 bool OfferDragging::OnFrameEvent(QEvent& event) {
     const bool enters = event.type() == QEvent::DragEnter;
     if (!enters && event.type() != QEvent::DragMove && event.type() != QEvent::Drop) {
@@ -142,7 +142,7 @@ bool OfferDragging::OnFieldEvent(Field field, QEvent& event) {
 void OfferDragging::OnPress(Field field, const QMouseEvent& event) {
     const bool enters = std::exchange(m_enteredByMouse, std::nullopt) == field;
     m_press.reset();
-    // With a key held the press draws a selection.
+    // With a modifier key the press draws a selection.
     if (event.modifiers() == Qt::NoModifier && m_handlers->MouseDown(field, event.button()) &&
         (enters || IsAllSelected(EditOf(field), RuleOf(field.id).IsNumber()))) {
         m_press = {field, event.position().toPoint()};
@@ -170,12 +170,12 @@ bool OfferDragging::Drag(Field field) {
         return false;
     }
     QLineEdit& edit = EditOf(field);
-    auto* drag = new QDrag(&edit); // the toolkit's from here on
+    auto* drag = new QDrag(&edit); // Qt deletes it
     drag->setPixmap(SlipOf(data->text(), edit));
     drag->setMimeData(data.release());
     drag->exec(allowed, Qt::CopyAction);
     m_handlers->OLECompleteDrag(field);
-    if (edit.hasFocus()) { // as it was before the press
+    if (edit.hasFocus()) { // restores the selection from before the press
         if (RuleOf(field.id).IsNumber()) {
             edit.selectAll();
         } else {
@@ -185,8 +185,8 @@ bool OfferDragging::Drag(Field field) {
     return true;
 }
 
-/// The text is asked for once, when the drag comes over the field: another program may be slow to
-/// give it. A value is not dropped on itself.
+/// The text is requested once, when the drag enters the field, because another program may be slow
+/// to provide it. A value is not dropped on itself.
 void OfferDragging::OnDragOver(Field field, QDropEvent& event, bool entering) {
     if (entering) {
         FindEffect(field, event);
@@ -212,8 +212,8 @@ void OfferDragging::FindEffect(Field field, const QDropEvent& event) {
     }
 }
 
-/// The rows may have scrolled under a mouse that stood still: the toolkit then still names the
-/// field that was there. False when nothing can be dropped on what is there now.
+/// The rows may have scrolled under a resting mouse: Qt then still reports the field that was there
+/// before. False if nothing can be dropped on the present control.
 bool OfferDragging::TakeUnderMouse(Field& field, const QDropEvent& event) {
     const QLineEdit& named = EditOf(field);
     const QPoint at = named.mapTo(named.window(), event.position().toPoint());

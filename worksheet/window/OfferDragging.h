@@ -15,18 +15,17 @@ class QDropEvent;
 class QLineEdit;
 class QMouseEvent;
 
-/// Translates the toolkit's mouse and drag events of the offers' fields into the events of
-/// dragging.
+/// Translates Qt's mouse and drag events of the offer fields into the events of DragHandlers.
 ///
-/// A press starts a drag on a field that it enters, or where everything is selected, once the mouse
-/// has gone the platform's distance. Anywhere else it sets the caret and selects, as ever. Other
-/// fields take no drop at all: a text dropped there would show without being stored. Near the edges
-/// of the frame the rows scroll, whatever the mouse is over.
+/// A press starts a drag if it enters the field or if everything is selected, once the mouse has
+/// moved the platform's drag distance. Otherwise it sets the caret and selects as usual. Other
+/// fields accept no drop, because a dropped text would show without being stored. Near the edges of
+/// the frame the rows scroll, whatever control is under the mouse.
 class OfferDragging : public QObject {
     Q_OBJECT
 
 public:
-    /// Of a window, and the frame of its rows.
+    /// The window and the frame of its rows.
     struct Place {
         const QWidget* window;
         QWidget* frame;
@@ -34,7 +33,7 @@ public:
     OfferDragging(Place place, DragHandlers& handlers, const ControlMap& controls,
                   DragScroll& scroll, const FailureReport& report);
 
-    /// The row has been made.
+    /// Call when the row has been created.
     void Watch(Row row);
 
 protected:
@@ -65,5 +64,5 @@ private:
     const FailureReport* m_report;
     std::optional<Field> m_enteredByMouse;
     std::optional<Press> m_press;
-    Qt::DropActions m_effect; ///< what the field under the drag can do with it
+    Qt::DropActions m_effect; ///< the actions that the field under the mouse allows
 };

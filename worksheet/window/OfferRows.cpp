@@ -64,7 +64,7 @@ void OfferRows::AddOfferRow() {
     m_place.vsbLoans->show();
 }
 
-/// A canvas higher than the toolkit allows would cut its last rows off.
+/// A canvas higher than Qt's limit would cut off the last rows.
 bool OfferRows::HasRoomFor(Row row) const {
     return (row.value + 1) <= QWIDGETSIZE_MAX / std::max(1, m_rowHeight);
 }
@@ -139,7 +139,7 @@ void OfferRows::vsbLoans_Change() const {
     MoveCanvas();
 }
 
-/// The rows follow the thumb; they snap to a whole row when it is released.
+/// The rows follow the scroll bar's slider; they snap to a whole row when it is released.
 void OfferRows::vsbLoans_Scroll() const { MoveCanvas(); }
 
 void OfferRows::MoveCanvas() const { m_place.picCanvas->move(0, -m_place.vsbLoans->value()); }
@@ -161,9 +161,9 @@ bool OfferRows::CanScrollByWheel(int eighthsOfDegree) const {
     return eighthsOfDegree > 0 ? bar.value() > bar.minimum() : bar.value() < bar.maximum();
 }
 
-/// The wheel scrolls the rows by one a notch wherever it turns over them or their scroll bar: a
-/// list under the pointer must not change its choice unseen. At the first and the last row it is
-/// left to what is around them, which may be scrolled, too.
+/// The wheel scrolls by one row per notch over the rows or their scroll bar, so that a list under
+/// the mouse does not change its choice unnoticed. At the first and the last row the event passes
+/// on to the surrounding scroll area.
 bool OfferRows::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::Wheel) {
         const int turned = static_cast<QWheelEvent*>(event)->angleDelta().y();

@@ -13,8 +13,8 @@ class QScrollBar;
 class QWidget;
 class Worksheet;
 
-/// The rows of the offers and their scrolling: a canvas as high as all rows moves up and down
-/// behind a frame as high as those on display. What the fields of a row do is none of its business.
+/// The rows of the offers and their scrolling: a canvas as high as all rows moves behind a frame as
+/// high as the displayed rows. Does not handle the fields in the rows.
 class OfferRows : public QObject {
     Q_OBJECT
 
@@ -26,29 +26,29 @@ public:
     };
     OfferRows(Place place, Worksheet& worksheet, ControlMap& controls, OfferColumns& columns);
 
-    /// Makes the rows that show without scrolling; `loansDisplayed` is the index of the last of
+    /// Creates the rows that show without scrolling; `loansDisplayed` is the index of the last of
     /// them.
     void CreateRows(Row loansDisplayed);
 
-    /// Another number of rows on display: rows are added until there are as many. Layout follows.
+    /// Sets the number of displayed rows and adds missing rows. Call Layout afterwards.
     void SetLoansDisplayed(Row loansDisplayed);
 
     Row HighestOfferRow() const;
     Row LoansDisplayed() const { return m_loansDisplayed; }
-    /// The distance of two rows in pixels.
+    /// The distance between two rows in pixels.
     int OfferRowHeight() const { return m_rowHeight; }
 
-    /// Appends an empty row, up to the cap; at the cap nothing happens.
+    /// Appends an empty row; does nothing if the maximum is reached.
     void AddOfferRow();
-    /// Appends rows until this one is there, or the last one that may be.
+    /// Appends rows until this one exists or the maximum is reached.
     void GrowTo(Row row);
-    /// The last row that may be.
+    /// The highest possible row.
     Row OfferRowCap() const { return m_offerRowCap; }
-    /// Brings a row into the frame.
+    /// Scrolls a row into the frame.
     void ShowOfferRow(Row row) const;
-    /// Moves the frame over the rows; down is positive. Stops at the first and the last row.
+    /// Scrolls by rows; down is positive. Stops at the first and the last row.
     void ScrollBy(int rows) const;
-    /// Places everything anew, after the columns have been measured.
+    /// Places all rows again, after the columns have been measured.
     void Layout();
 
 Q_SIGNALS:

@@ -35,6 +35,6 @@ void PaymentNotice::Timer1_Timer() {
     }
     m_worksheet->SetPaymentNoticeShown(true);
     m_timer->setInterval(2000ms);
-    // The marks show what the notice is about, so they stay as long as it does.
+    // The marks show what the notice is about, so they stay until it is closed.
     m_messages->Post(GetResourceText(TextNumber::PaymentRaised), m_clearMarks);
 }

@@ -8,8 +8,8 @@
 class Messages;
 class Worksheet;
 
-/// Tells the user, once in a run, that an intended payment was raised, and takes the yellow mark
-/// off again after one interval.
+/// Tells the user, once per run, that an intended payment was raised, and removes the yellow mark
+/// after one timer interval.
 class PaymentNotice : public QObject {
     Q_OBJECT
 

@@ -23,10 +23,10 @@ bool IsMadeOfDots(const QByteArray& format) {
            MadeOfDots.end();
 }
 
-/// Larger files are taken as whole: they cannot be background pictures, and reading takes long.
+/// Larger files count as complete: they cannot be background pictures, and reading them takes long.
 constexpr qint64 LargestLookedAt = 64 * 1024 * 1024;
 
-/// An uncompressed bitmap says how large it is. The others need a few bytes at least.
+/// The header of an uncompressed bitmap gives its size. Others are only checked for a header.
 bool IsBitmapCutOff(const QByteArray& bytes) {
     constexpr qsizetype head = 54;
     if (bytes.size() < head) {
@@ -42,8 +42,8 @@ bool IsBitmapCutOff(const QByteArray& bytes) {
            bytes.size() < number(10) + line * std::abs(qint64{number(22)});
 }
 
-/// Its parts begin with a mark of two bytes; in the picture itself FF is followed by 0 or the
-/// number of a restart. The small picture that a camera adds is inside one of the parts.
+/// Segments begin with a marker of two bytes; in the image data FF is followed by 0 or a restart
+/// number. A camera's thumbnail is inside a segment.
 bool IsJpegCutOff(const QByteArray& bytes) {
     constexpr quint8 mark = 0xFF;
     constexpr quint8 end = 0xD9;
@@ -79,7 +79,7 @@ QList<QByteArray> PictureFile::Formats() {
 
 bool PictureFile::IsSafe(const QImageReader& reader) {
     const QFileInfo file(reader.fileName());
-    // What the system makes up while it is read has no size.
+    // Files that the operating system generates on reading have no size.
     return file.isFile() && file.size() > 0 && IsMadeOfDots(reader.format());
 }
 

@@ -6,19 +6,19 @@
 class QImageReader;
 class QString;
 
-/// What a background picture may be read from, whoever reads it.
+/// Which files may be read as a background picture; every reader uses these rules.
 namespace PictureFile {
 
-/// The formats that can be read here, named by their endings: those of pictures made of dots. A
-/// drawing may lead to other files, and take as long as whoever wrote it likes.
+/// The formats that can be read here, as file name suffixes. Raster formats only. SVG is excluded:
+/// it can load other files and render arbitrarily long.
 QList<QByteArray> Formats();
 
-/// Whether there is a file that has the beginning of such a picture, whatever its ending. A folder,
-/// a device or a pipe is none: reading it might never end. Reads no picture itself.
+/// Whether the file exists and starts like such a picture, whatever its suffix. False for a folder,
+/// a device or a pipe, because reading it might never end. Does not read the picture itself.
 bool IsSafe(const QImageReader& reader);
 
-/// Whether the file of a bitmap or a JPEG picture ends before the picture does. The toolkit reads
-/// these without complaint and leaves the rest black or grey; all other formats it refuses.
+/// Whether a BMP or JPEG file ends before its picture does. Qt reads these without an error and
+/// leaves the rest black or grey; it rejects truncated files of all other formats.
 bool IsCutOff(const QString& file);
 
 } // namespace PictureFile

@@ -5,16 +5,16 @@
 #include <QObject>
 #include <QString>
 
-/// A library beside the program, named without its ending; it stays loaded. Null where it is
-/// missing, damaged or does not fit.
+/// Loads a plugin from the program's folder by its name without suffix; it stays loaded. Null if it
+/// is missing, damaged or incompatible.
 QObject* LoadProgramPart(const QString& name);
 
-/// The file of such a library, with its path.
+/// The file of such a plugin, with its path.
 QString ProgramPartFile(const QString& name);
 
-/// What few sittings need, such as printing, stands in a library of its own with much else behind
-/// it, and is loaded when first asked for. Such a part shares no variables with the program: it has
-/// no language and no window but those it is given. Throws ComponentFailure where it is missing.
+/// Rarely used features, such as printing, are plugins, because they pull in many libraries; each
+/// is loaded on first use. A plugin shares no variables with the program: language and window must
+/// be passed to it. Throws ComponentFailure if the plugin is missing.
 template <class Part>
 Part& ProgramPart(const QString& name) {
     auto* const part = qobject_cast<Part*>(LoadProgramPart(name));

@@ -35,7 +35,7 @@ void ResultKeys::Watch(const QWidget& parent) {
     }
 }
 
-/// The field with the keyboard, or, where a button has it, the first one of the window.
+/// The focused field; if a button has the focus, the first field of the window.
 Field ResultKeys::FieldWithFocus() const {
     return m_controls->FieldOf(m_window->focusWidget()).value_or(Field{FieldId::LoanName});
 }
@@ -61,7 +61,7 @@ void ResultKeys::OnF6() {
     }
 }
 
-/// A field that cannot be stored keeps the keyboard.
+/// A field that cannot be stored keeps the focus.
 void ResultKeys::Enter(Field result) {
     auto& edit = *m_controls->ControlOf<QLineEdit>(result);
     edit.setFocus(Qt::ShortcutFocusReason);
@@ -91,7 +91,7 @@ bool ResultKeys::eventFilter(QObject* watched, QEvent* event) {
     const auto& key = *static_cast<QKeyEvent*>(event);
     const auto field = m_controls->FieldOf(watched);
     if (!field || !IsArrow(key.key()) || (key.modifiers() & ~Qt::KeypadModifier) != 0) {
-        return false; // with Shift they select a part
+        return false; // with Shift they select text
     }
     Walk(*field, static_cast<Qt::Key>(key.key()));
     return true;

@@ -11,16 +11,16 @@
 class ControlMap;
 class OfferRows;
 
-/// Reading and copying results by keyboard, though the tab key passes them by: F6 goes from a field
-/// to the results of its band or row, and from there back to the field. Among the results the arrow
-/// keys walk; Up and Down go to the same result of the next row. Changes no value.
+/// Reading and copying results by keyboard, because the tab key skips them. F6 goes from a field to
+/// the results of its band or row and back to the field. Among the results the arrow keys move; Up
+/// and Down go to the same result of the row above or below. Changes no value.
 class ResultKeys : public QObject {
     Q_OBJECT
 
 public:
     ResultKeys(QWidget& window, const ControlMap& controls, const OfferRows& rows);
 
-    /// The results among these controls have been made.
+    /// Call when the results below `parent` have been created.
     void Watch(const QWidget& parent);
 
 protected:

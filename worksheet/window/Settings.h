@@ -2,10 +2,10 @@
 
 #include <QString>
 
-/// What the user has set, as long as the program runs. Does not know where it is kept.
+/// The user's settings while the program runs. Does not know where they are stored.
 struct Settings {
     int loansDisplayed = 5; ///< the index of the last row that shows without scrolling
     bool termInMonths = false;
     QString wallpaper;          ///< path of the background picture; empty: none
-    QString wallpaperDirectory; ///< where the next picture is looked for; empty: anywhere
+    QString wallpaperDirectory; ///< the folder to look for the next picture; empty: anywhere
 };

@@ -23,18 +23,18 @@ void SortButton::SetActive(bool active) {
     update();
 }
 
-/// An equilateral triangle, in proportion to the letters.
+/// An equilateral triangle, proportional to the font.
 QSize SortButton::ArrowSize() const {
     const int width = fontMetrics().height() / 2;
     return {width, width * 7 / 8};
 }
 
-/// The caption stands in the middle, so the arrow's room is wanted on both sides.
+/// The caption is centred, so the arrow needs its room on both sides.
 QSize SortButton::sizeHint() const {
     return QPushButton::sizeHint() + QSize(2 * (ArrowSize().width() + ArrowGap), 0);
 }
 
-/// The arrow points from the last row to the first, where the least one stands.
+/// The arrow points from the last row to the first, because the least value is first.
 void SortButton::paintEvent(QPaintEvent* event) {
     QPushButton::paintEvent(event);
     if (!m_active) {

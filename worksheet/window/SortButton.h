@@ -2,9 +2,9 @@
 
 #include <QPushButton>
 
-/// The heading of a column that sorts the offers. While it is the one they are sorted by, an arrow
-/// beside the caption says so, and a screen reader hears its `activeText` instead of the tooltip.
-/// The caption stays where it is. Does not sort.
+/// A column heading that sorts the offers. While the offers are sorted by it, an arrow beside the
+/// caption shows it, and a screen reader reads its `activeText` instead of the tooltip. The caption
+/// does not move. Does not sort.
 class SortButton : public QPushButton {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
     void SetActive(bool active);
     bool IsActive() const { return m_active; }
 
-    /// Has room for the arrow, drawn or not.
+    /// Includes room for the arrow, drawn or not.
     QSize sizeHint() const override;
 
 protected:

@@ -46,7 +46,7 @@ bool ValueExchange::Take(Field field, const QString& text) {
     }
     const auto value = ReadDropped(*m_worksheet, field.id, text);
     const auto settle = qScopeGuard([&] {
-        // Bringing the row up to date may have shown another text in the field being edited.
+        // Recalculating the row may have changed the text in the field being edited.
         if (sameRow) {
             m_focus->Reenter();
         } else {

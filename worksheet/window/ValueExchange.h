@@ -10,26 +10,26 @@ class FocusTranslator;
 class QLineEdit;
 class Worksheet;
 
-/// Gives away values of offers and takes others, whether they are dragged or copied, without losing
-/// what is being typed meanwhile. Says nothing to the user but what storing a field says.
+/// Gives and takes the values of offers for dragging and copying without losing what is being
+/// typed. Shows no messages other than those of storing a field.
 class ValueExchange {
 public:
     ValueExchange(Worksheet& worksheet, const ControlMap& controls, FocusTranslator& focus,
                   FieldDiscipline& discipline);
 
-    /// Whether another number stands in the field than its offer has.
+    /// Whether the number in the field differs from its offer's value.
     bool IsBeingTyped(Field field) const;
 
-    /// The value as it travels (DraggedValue.h). A number that is being typed is stored first, so
-    /// that what is seen is what is given. Empty: there is none, or it was refused and told.
+    /// The value as it is sent (DraggedValue.h). A number that is being typed is stored first, so
+    /// that the visible value is given. Empty if there is none, or if it was refused and reported.
     QString Give(Field field);
-    /// Whether there is something to give, as far as can be told without storing.
+    /// Whether there is a value to give, as far as this is known without storing.
     bool CanGive(Field field) const;
 
     bool MayTake(Field field, const QString& text) const;
-    /// Stores a value that arrived. What is being typed into the same field gives way to it; what
-    /// is being typed elsewhere in the row is stored first: false, and nothing taken, when that is
-    /// refused and told. Throws as ReadDropped, the entry then stays as it is, or as StoreDropped.
+    /// Stores a received value. It replaces what is being typed into the same field. What is being
+    /// typed elsewhere in the row is stored first; if that is refused, the user is told and the
+    /// result is false. Throws like ReadDropped, which keeps the typed text, or like StoreDropped.
     bool Take(Field field, const QString& text);
 
 private:

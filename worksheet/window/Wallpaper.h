@@ -9,8 +9,8 @@ class QSize;
 /// The background picture, tiled over the window at its own size from the top-left corner.
 class Wallpaper {
 public:
-    /// Loads a picture; false when it cannot be loaded (PictureFile.h), and then there is none. An
-    /// empty path means no picture and is no failure.
+    /// Loads a picture. If it cannot be loaded (PictureFile.h), returns false, and there is no
+    /// picture. An empty path means no picture and is not a failure.
     bool Load(const QString& path);
 
     bool IsSet() const { return !m_picture.isNull(); }

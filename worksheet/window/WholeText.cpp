@@ -12,7 +12,7 @@ bool IsCut(const QLineEdit& edit) {
     return edit.fontMetrics().horizontalAdvance(edit.displayText()) > TextRoomOf(edit);
 }
 
-/// The edit inside a list or a date picker leaves the tooltip to what it is part of.
+/// The edit inside a list or a date picker shows the tooltip of that widget.
 QString OwnToolTip(const QLineEdit& edit) {
     const bool isPart = edit.toolTip().isEmpty() && !edit.parentWidget()->toolTip().isEmpty();
     return isPart ? edit.parentWidget()->toolTip() : edit.toolTip();

@@ -5,18 +5,18 @@
 class QLineEdit;
 class QWidget;
 
-/// Lets a text be read whole that is too wide for its field: the field's tooltip then begins with
-/// it. Changes neither the text nor the tooltip that the field has.
+/// Shows a text that is too wide for its field: the field's tooltip then begins with it. Changes
+/// neither the text nor the field's own tooltip.
 class WholeText : public QObject {
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
-    /// The fields among these controls have been made.
+    /// Call when the fields below `parent` have been created.
     void Watch(const QWidget& parent);
 
-    /// The tooltip of a field as it would show now, as rich text where the text is cut.
+    /// The tooltip that a field would show now, as rich text if the text is cut.
     static QString ToolTipOf(const QLineEdit& edit);
 
 protected:

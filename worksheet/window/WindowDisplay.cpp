@@ -21,10 +21,10 @@ void WindowDisplay::ShowText(Field field, const QString& text) {
         lender->ShowText(text);
     } else if (auto* edit = m_controls->ControlOf<QLineEdit>(field)) {
         edit->setText(text);
-        edit->setCursorPosition(0); // the leading digits of an amount are the ones that matter
+        edit->setCursorPosition(0); // the leading digits of an amount matter most
     } else if (auto* list = m_controls->ControlOf<QComboBox>(field)) {
         if (list->isEditable()) {
-            list->setCurrentIndex(-1); // the text alone counts, not an entry that it came from
+            list->setCurrentIndex(-1); // only the text counts, not the entry that it came from
             list->setEditText(text);
         } else {
             list->setCurrentIndex(text.isEmpty() ? -1 : list->findText(text));

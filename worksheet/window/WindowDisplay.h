@@ -12,8 +12,8 @@ public:
     struct Notices {
         std::function<void()> raised;          ///< an intended payment has been raised
         std::function<void()> refused;         ///< an intended payment was refused
-        std::function<void(SortOrder)> sorted; ///< the rows are in this order
-        std::function<void()> offerShown;      ///< an offer has been computed anew, or could not be
+        std::function<void(SortOrder)> sorted; ///< the new order of the rows
+        std::function<void()> offerShown;      ///< an offer was recalculated, even if that failed
     };
     WindowDisplay(const ControlMap& controls, Notices notices);
 

@@ -8,14 +8,14 @@
 
 namespace {
 
-/// So small that the window fits on any screen beside another one.
+/// Small enough that the window fits on any screen beside another one.
 constexpr QSize Least(480, 270);
 
 } // namespace
 
 WindowScroll::WindowScroll(QWidget* parent) : QScrollArea(parent) {
     setFocusPolicy(Qt::NoFocus);
-    // The window behind it paints the background picture.
+    // The window paints the background picture behind it.
     viewport()->setAutoFillBackground(false);
     connect(qApp, &QApplication::focusChanged, this,
             [this](const QWidget* /*from*/, QWidget* to) { BringIntoSight(to); });
@@ -37,19 +37,19 @@ QSize WindowScroll::Missing() const {
     return SizeOfAll(room.width()) - room;
 }
 
-/// The least size of what is in it, where it has at least this width to spread in.
+/// The minimum size of the content at this width or more.
 QSize WindowScroll::SizeOfAll(int leastWidth) const {
     QLayout& controls = *widget()->layout();
-    controls.activate(); // the layouts in it still have the sizes of before
+    controls.activate(); // the layouts still have their previous sizes
     const int width = controls.totalMinimumSize().width();
     return {width, controls.totalMinimumHeightForWidth(std::max(width, leastWidth))};
 }
 
-/// Not under a pressed button, which would come up over something else.
+/// Not while a mouse button is down: it would be released over another control.
 void WindowScroll::BringIntoSight(QWidget* control) {
     if (control != nullptr && widget()->isAncestorOf(control) &&
         QGuiApplication::mouseButtons() == Qt::NoButton) {
-        // All of it: the toolkit's own way is content with the caret.
+        // The whole control: Qt's own scrolling only shows the caret.
         constexpr int around = 8;
         const QSize half = control->size() / 2 + QSize(around, around);
         const QPoint centre = control->mapTo(widget(), control->rect().center());

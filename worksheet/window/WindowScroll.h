@@ -2,9 +2,9 @@
 
 #include <QScrollArea>
 
-/// What is between menu bar and frame of the main window. Shows all of it where there is room for
-/// it, and scrolls it where the screen is too small. The control that gets the keyboard is brought
-/// into sight. Does not scroll the rows of offers: they have a scroll bar of their own.
+/// The content of the main window between menu bar and frame. Shows all of it if there is room, and
+/// scrolls it if the screen is too small. Scrolls the focused control into view. Does not scroll
+/// the rows of offers: they have a separate scroll bar.
 class WindowScroll : public QScrollArea {
     Q_OBJECT
 
@@ -16,13 +16,13 @@ public:
     WindowScroll& operator=(WindowScroll&&) = delete;
     ~WindowScroll() override;
 
-    /// Room for all of it, without scroll bars.
+    /// The size that shows everything without scroll bars.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    /// Whether all of it was in sight when it was last laid out.
+    /// Whether everything was visible at the last layout.
     bool ShowsAll() const;
-    /// How much wider and higher, in pixels, this would have to be to show all of it, as it is to
-    /// be from now on; negative where there is room left.
+    /// The width and height in pixels that this widget lacks to show everything, with its current
+    /// content; negative if there is room to spare.
     QSize Missing() const;
 
 private:

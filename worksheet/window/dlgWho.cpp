@@ -8,7 +8,7 @@
 
 namespace {
 
-/// So many characters and lines fit into the field, and no fewer than half of that.
+/// The field is sized for this many characters and lines, and for at least half as many.
 constexpr int Characters = 56;
 constexpr int Lines = 6;
 
@@ -38,7 +38,7 @@ void dlgWho::Form_Load() {
     resize((sizeHint() - txtWho.sizeHint() + room).expandedTo(minimumSizeHint()));
 }
 
-/// Every character as it stands in the field; a line ends with a paragraph separator.
+/// The text exactly as in the field; lines end with a paragraph separator.
 QString dlgWho::LinesShown() const { return m_ui->txtWho->document()->toRawText(); }
 
 void dlgWho::cmdOK_Click() {
@@ -52,8 +52,7 @@ void dlgWho::cmdOK_Click() {
 
 void dlgWho::cmdCancel_Click() { reject(); }
 
-/// The return key is the OK button's, as in any dialog; together with shift or control it ends a
-/// line.
+/// The return key triggers the OK button, as in any dialog; with Shift or Ctrl it ends a line.
 bool dlgWho::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress) {
         return QDialog::eventFilter(watched, event);

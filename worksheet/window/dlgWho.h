@@ -13,17 +13,16 @@ class dlgWho;
 
 class Worksheet;
 
-/// The dialog for the lender of one offer. OK stores the text, of any length and of as many lines
-/// as wanted; Cancel, Escape and the close box store nothing. Checks nothing, and does not show the
-/// new text in the row.
+/// The lender dialog of one offer. OK stores the text, of any length and any number of lines;
+/// Cancel, Escape and the close box store nothing. Checks nothing, and does not update the row.
 ///
-/// The line breaks that are typed are stored as a carriage return and a line feed. A text that is
-/// not changed is not touched, whatever its line breaks.
+/// A typed line break is stored as a carriage return and a line feed. An unchanged text is not
+/// stored again, so that its line breaks stay as they are.
 class dlgWho : public QDialog {
     Q_OBJECT
 
 public:
-    /// Throws std::out_of_range for an offer that is not there.
+    /// Throws std::out_of_range for an offer that does not exist.
     dlgWho(Worksheet& worksheet, OfferIndex whoOfferIndex, QWidget& parent);
     dlgWho(const dlgWho&) = delete;
     dlgWho& operator=(const dlgWho&) = delete;

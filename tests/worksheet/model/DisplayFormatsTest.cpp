@@ -16,7 +16,7 @@ namespace {
 
 DisplayFormats FormatsOf(const QString& locale) { return DisplayFormats(QLocale(locale)); }
 
-/// No-break blanks and marks of direction are the toolkit's affair.
+/// Removes no-break blanks and direction marks, which depend on Qt.
 QString Plain(QString text) {
     for (const QChar mark : {QChar(0x200e), QChar(0x200f), QChar(0x061c)}) {
         text.remove(mark);
@@ -101,18 +101,18 @@ TEST(DisplayFormats, CurrencyHasSymbolGroupingAndWholeCents) {
         {u"en_US"_s, -12'345'000,             u"($1,234.50)"_s},
         {u"en_US"_s, 12'345'678'900,          u"$1,234,567.89"_s},
         {u"en_US"_s, 0,                       u"$0.00"_s},
-        {u"en_US"_s, 50,                      u"$0.00"_s}, // half a cent goes to the even one
+        {u"en_US"_s, 50,                      u"$0.00"_s}, // half a cent rounds to even
         {u"en_US"_s, 150,                     u"$0.02"_s},
         {u"en_US"_s, 250,                     u"$0.02"_s},
         {u"en_US"_s, 251,                     u"$0.03"_s},
-        {u"en_US"_s, -50,                     u"$0.00"_s}, // and no cent at all has no sign
+        {u"en_US"_s, -50,                     u"$0.00"_s}, // zero has no sign
         {u"en_US"_s, -150,                    u"($0.02)"_s},
         {u"en_US"_s, 10'050,                  u"$1.00"_s},
         {u"en_US"_s, 10'150,                  u"$1.02"_s},
         {u"en_US"_s, 102'847'917,             u"$10,284.79"_s},
         {u"es_MX"_s, 12'345'000,              u"$1,234.50"_s},
         {u"es_MX"_s, -12'345'000,             u"$-1,234.50"_s},
-        {u"es_ES"_s, 12'345'000,              u"1234,50 €"_s}, // four digits stand ungrouped in Spain
+        {u"es_ES"_s, 12'345'000,              u"1234,50 €"_s}, // Spain does not group four digits
         {u"es_ES"_s, 123'450'000,             u"12.345,00 €"_s},
         {u"es_ES"_s, -12'345'000,             u"-1234,50 €"_s},
         {u"de_DE"_s, 12'345'678'900,          u"1.234.567,89 €"_s},
@@ -245,7 +245,7 @@ std::vector<QLocale> AllLocales() {
     return {all.begin(), all.end()};
 }
 
-/// Below the first group separator the toolkit shows amounts as each country writes them.
+/// Below the first group separator Qt formats amounts as each country does.
 TEST(DisplayFormats, CurrencyFollowsEveryLocale) {
     for (const QLocale& locale : AllLocales()) {
         const DisplayFormats formats(locale);
@@ -257,7 +257,7 @@ TEST(DisplayFormats, CurrencyFollowsEveryLocale) {
     }
 }
 
-/// With two digits 2056 could not be told from 1956.
+/// With two digits 2056 would look like 1956.
 TEST(DisplayFormats, ShortDateHasAFourDigitYearInEveryLocale) {
     const std::vector<QLocale> locales = AllLocales();
     ASSERT_GT(locales.size(), 300U);

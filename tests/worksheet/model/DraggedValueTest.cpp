@@ -92,14 +92,14 @@ constexpr Arrives ArriveTable[]{
     // text           points  rate   payment     the lender takes them all
     {u"1.5",          true,   true,  true},
     {u"0.065",        true,   true,  false},   // three decimals
-    {u"0.0625",       false,  false, false},   // 6.25 % can be copied by typing only
+    {u"0.0625",       false,  false, false},   // 6.25 % can only be copied by typing
     {u"1234.56",      true,   true,  true},
     {u"99999999999999999999", true, true, true}, // the form only, not the size
     {u"-5",           true,   true,  true},
     {u"+5",           true,   true,  true},
     {u"5.",           true,   true,  true},
     {u"5-",           false,  false, false},
-    {u"-",            true,   true,  true},    // of the right form, though no number
+    {u"-",            true,   true,  true},    // the form of a number without a value
     {u".",            true,   true,  true},
     {u"",             false,  false, false},
     {u" ",            false,  false, false},
@@ -107,7 +107,7 @@ constexpr Arrives ArriveTable[]{
     {u"1.5\n",        false,  false, false},
     {u"12abc",        false,  false, false},
     {u"1.2.3",        false,  false, false},
-    {u"1,5",          false,  false, false},   // not in this locale
+    {u"1,5",          false,  false, false},   // wrong symbol in this locale
     {u"1,234.50",     false,  false, false},
     {u"$5.00",        false,  false, false},
     {u"6.5%",         false,  false, false},
@@ -184,7 +184,7 @@ TEST(DraggedValue, IsReadAsThisValue) {
     }
 }
 
-/// A worksheet in which every row can be calculated.
+/// A worksheet whose rows can all be calculated.
 struct Filled : Sheet {
     Filled() {
         worksheet.SetLoanAmount(Money::FromDouble(100'000));

@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-// As the failed comparison of two numbers of a field shows them.
+// How failed comparisons print a term.
 inline void PrintTo(Months term, std::ostream* out) { *out << term.count << " months"; }
 
 namespace {

@@ -19,7 +19,7 @@ struct Case {
 // clang-format off
 const std::vector<Case> Forms{
     // text                        decimals  accepted
-    {u""_s,                       0,        true}, // stands for zero
+    {u""_s,                       0,        true}, // means zero
     {u""_s,                       2,        true},
     {u"0"_s,                      0,        true},
     {u"0123456789"_s,             0,        true},
@@ -56,7 +56,7 @@ const std::vector<Case> Forms{
     {u"+.5"_s,                    2,        true},
     {u"-.5"_s,                    1,        true},
     {u"-."_s,                     2,        true},
-    {u"5-"_s,                     2,        false}, // a sign stands first or nowhere
+    {u"5-"_s,                     2,        false}, // a sign comes first or nowhere
     {u"5+"_s,                     2,        false},
     {u"--5"_s,                    2,        false},
     {u"+-5"_s,                    2,        false},
@@ -96,7 +96,7 @@ TEST(IsValidNumber, LooksAtTheFormAlone) {
     }
 }
 
-/// Every text means the same in each country, written with that country's symbol.
+/// Every text means the same in each country, with that country's symbol.
 TEST(IsValidNumber, FollowsTheDecimalSymbol) {
     // clang-format off
     const std::vector<Case> cases{

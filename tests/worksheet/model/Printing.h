@@ -9,8 +9,7 @@
 
 #include <ostream>
 
-// How the values of the worksheet read in the message of a failed test. The names are the ones that
-// the test library looks for.
+// How failed tests print the values of the worksheet. GoogleTest looks for these names.
 
 inline void PrintTo(const QString& text, std::ostream* out) {
     *out << '"' << text.toStdString() << '"';

@@ -26,7 +26,7 @@ constexpr std::int64_t Lowest = std::numeric_limits<std::int64_t>::min();
 
 enum class Outcome { Read, NoNumber, TooLarge };
 
-/// What reading gives, or how it fails.
+/// The value read, or the failure.
 template <class Reading>
 Outcome OutcomeOf(Reading reading) {
     try {
@@ -44,7 +44,7 @@ struct RefusedCase {
     QString text;
 };
 
-/// Of both readings.
+/// For both readings.
 TEST(ReadNumbers, RefusesWhatIsNoNumber) {
     // clang-format off
     const std::vector<RefusedCase> cases{
@@ -88,7 +88,7 @@ TEST(ReadNumbers, RefusesWhatIsNoNumber) {
 struct ReadAmountCase {
     QString locale;
     QString text;
-    std::optional<std::int64_t> tenThousandths; ///< none where no amount can hold it
+    std::optional<std::int64_t> tenThousandths; ///< none if no amount can hold it
 };
 
 void ExpectRead(const std::vector<ReadAmountCase>& cases) {
@@ -136,7 +136,7 @@ TEST(ReadNumbers, ReadsAmountsExactly) {
     ExpectRead(cases);
 }
 
-/// Decimals that a double cannot count are still those that were typed.
+/// Decimals that a double cannot represent are still read as typed.
 TEST(ReadNumbers, RoundsMoreThanFourDecimalsAsTyped) {
     // clang-format off
     const std::vector<ReadAmountCase> cases{
@@ -156,7 +156,7 @@ TEST(ReadNumbers, RoundsMoreThanFourDecimalsAsTyped) {
 struct ReadRealCase {
     QString locale;
     QString text;
-    std::optional<double> value; ///< none where it is out of range
+    std::optional<double> value; ///< none if it is out of range
 };
 
 TEST(ReadNumbers, ReadsRealNumbersToTheLastDigit) {
@@ -189,7 +189,7 @@ TEST(ReadNumbers, ReadsRealNumbersToTheLastDigit) {
     }
 }
 
-/// Makes a locale of the C library that writes 6.5 as 6,5; false where none can be made.
+/// Creates a locale of the C library that writes 6.5 as 6,5; false if that is not possible.
 bool MakeCommaLocale(const QTemporaryDir& folder) {
     QFile source(folder.filePath(u"source"_s));
     if (!source.open(QIODevice::WriteOnly)) {
@@ -204,7 +204,7 @@ bool MakeCommaLocale(const QTemporaryDir& folder) {
     return localedef.waitForFinished();
 }
 
-/// The toolkit gives the C library the user's locale, in which a point may end a number.
+/// Qt gives the C library the user's locale, in which strtod may stop at a point.
 TEST(ReadNumbers, ReadsRealNumbersWhateverTheCLibraryReads) {
     const QTemporaryDir folder;
     if (!MakeCommaLocale(folder)) {

@@ -1,4 +1,5 @@
-// Sorting over random keys and random offers: complete, in order, and equal keys as entered.
+// Sorts random keys and random offers: nothing is lost, the order is right, and equal keys keep the
+// order of entry.
 
 #include "OfferOrder.h"
 #include "RandomCases.h"
@@ -20,8 +21,7 @@ std::vector<std::size_t> RowsOf(const OfferOrder& order, std::size_t count) {
     return rows;
 }
 
-/// Neighbours change places while the first is greater, until none is: what a stable sort means,
-/// written down without one.
+/// A reference model of a stable sort: swaps neighbours while the first is greater.
 template <class Key>
 std::vector<std::size_t> Exchanged(const std::vector<Key>& keys) {
     std::vector<std::size_t> offers;
@@ -38,7 +38,7 @@ std::vector<std::size_t> Exchanged(const std::vector<Key>& keys) {
     return offers;
 }
 
-/// Keys of few values, so that many are equal.
+/// Keys with few different values, so that many are equal.
 std::vector<Money> RandomKeys(Random& random, std::size_t count) {
     const int values = random.Int(1, 12);
     std::vector<Money> keys;
@@ -62,7 +62,7 @@ TEST(SortingProperties, IsTheStableOrderOfTheKeysWhateverCameBefore) {
             order.SortBy(by, keys);
             EXPECT_EQ(RowsOf(order, count), Exchanged(keys));
             EXPECT_EQ(order.Order(), by);
-            order.SortBy(by, keys); // once more changes nothing
+            order.SortBy(by, keys); // a second sort changes nothing
             EXPECT_EQ(RowsOf(order, count), Exchanged(keys));
         }
     });
@@ -84,7 +84,7 @@ TEST(SortingProperties, ShowsEveryOfferInOneRow) {
     });
 }
 
-/// Offers of equal and of different rates, of lenders alone and blank ones.
+/// Offers with equal and different rates, with only a lender, and blank ones.
 class OffersSortingProperties : public WorksheetTest {
 protected:
     static constexpr int OfferCount = 12;

@@ -23,7 +23,7 @@ protected:
         }
         return offers;
     }
-    /// Offers of 100,000.00 at these rates, in percent: the higher the rate, the more the interest.
+    /// Offers of 100,000.00 at these rates, in percent: the higher the rate, the more interest.
     void EnterRates(const std::vector<const char*>& rates) {
         EnterOffers(static_cast<int>(rates.size()));
         Row row{0};
@@ -33,7 +33,7 @@ protected:
         }
         StartCounting();
     }
-    /// Repaid in full within so many months; the more, the later and the dearer.
+    /// Offers repaid in full within these months; the longer, the later and the more interest.
     void EnterTerms(std::initializer_list<int> months) {
         EnterOffers(static_cast<int>(months.size()));
         Row row{0};
@@ -44,7 +44,7 @@ protected:
         }
         StartCounting();
     }
-    /// So many rows, all blank but for one entry in one of them.
+    /// This many blank rows, with one entry in one of them.
     void EnterAlone(int rows, Row row, FieldId field, const QString& text) {
         m_worksheet.GrowOfferArrays(m_worksheet.HighestOfferRow(), Row{rows - 1});
         switch (field) {
@@ -157,11 +157,11 @@ TEST_F(SortingTest, LeastInterestComesFirstAndEqualOnesKeepTheirOrder) {
         SCOPED_TRACE(testing::PrintToString(tested.rows));
         m_worksheet.Clear();
         EnterRates(tested.rates);
-        const int times = 2; // a second click does not turn the order round
+        const int times = 2; // a second click does not reverse the order
         for (int time = 0; time < times; ++time) {
             m_worksheet.SortByInterest();
             auto rows = Rows();
-            rows.resize(tested.rows.size()); // blank rows of the case before stand behind
+            rows.resize(tested.rows.size()); // the blank rows of the previous case follow
             EXPECT_EQ(rows, tested.rows);
         }
     }
@@ -177,7 +177,7 @@ TEST_F(SortingTest, InterestBeyondTheFixedKeysComesLast) {
 
 TEST_F(SortingTest, ByInterestTakesTheLastScheduleAsItIs) {
     EnterRates({"6", "5", "7"});
-    Store({FieldId::ActualPayment, Row{1}}, {}); // its results are gone until it is calculated
+    Store({FieldId::ActualPayment, Row{1}}, {}); // clears its results until it is recalculated
     StartCounting();
     m_worksheet.SortByInterest();
     EXPECT_EQ(m_offerSchedules, 0);

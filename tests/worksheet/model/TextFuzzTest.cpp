@@ -1,5 +1,5 @@
-// Any text in any field, typed, pasted or dropped, wherever the user lives: a number that shows and
-// reads back the same, or a refusal; nothing else.
+// Any text in any field, typed, pasted or dropped, in any locale, is either a number that shows and
+// reads back the same, or refused.
 
 #include "DraggedValue.h"
 #include "Failure.h"
@@ -25,7 +25,7 @@ const std::vector<QLocale>& EveryLocale() {
     return locales;
 }
 
-/// One locale for each way to write numbers.
+/// One locale for each number format.
 std::vector<QLocale> EveryHabit() {
     std::map<QStringList, QLocale> habits;
     for (const QLocale& locale : EveryLocale()) {
@@ -41,7 +41,7 @@ std::vector<QLocale> EveryHabit() {
     return locales;
 }
 
-/// The form of a number, said in another way than the program says it.
+/// A separate implementation of the number form, as a reference model.
 bool HasForm(const QString& text, int decimals, QChar separator) {
     const QString fraction = decimals == 0
                                  ? QString()
@@ -62,7 +62,7 @@ bool IsFinite(const FieldNumber& number) {
     return real == nullptr || std::isfinite(*real);
 }
 
-/// What reading and showing promise of one number.
+/// Checks what reading and showing guarantee for one number.
 void ExpectShowsAndReadsTheSame(const FieldTexts& texts, ValueKind kind,
                                 const FieldNumber& number) {
     ASSERT_TRUE(IsFinite(number));
@@ -71,7 +71,7 @@ void ExpectShowsAndReadsTheSame(const FieldTexts& texts, ValueKind kind,
     EXPECT_EQ(texts.DisplayText(kind, number).isEmpty(), IsZero(number));
     EXPECT_TRUE(IsValidNumber(entry, 400, texts.Formats().DecimalSeparator()))
         << entry.toStdString();
-    if (kind != ValueKind::WholeTerm || texts.TermInMonths()) { // of years, whole ones are read
+    if (kind != ValueKind::WholeTerm || texts.TermInMonths()) { // in years only whole ones are read
         EXPECT_EQ(texts.EntryText(kind, texts.Read(kind, entry)), entry);
     }
 }
@@ -96,7 +96,7 @@ void EnterInto(Sheet& sheet, Field field, const QString& text) {
     }
     try {
         sheet.worksheet.StoreNumber(field, text);
-    } catch (const OverflowFailure&) { // a result out of range; the number itself stays
+    } catch (const OverflowFailure&) { // a result is out of range; the number itself is stored
     }
 }
 

@@ -18,7 +18,7 @@ QList<QLocale> EveryLocale() {
     return QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
 }
 
-/// Year-month-day, or nothing.
+/// Year-month-day, or empty.
 QString Read(const QString& text, const QLocale& locale) {
     const auto date = ReadTypedDate(text, DisplayFormats(locale), Today);
     return date ? ToCalendar(*date).toString(Qt::ISODate) : QString();
@@ -65,7 +65,7 @@ TEST(TypedDate, IsReadAsPeopleWriteIt) {
     struct {
         const QLocale& locale;
         QStringView typed;
-        QStringView date; ///< empty: it is none
+        QStringView date; ///< empty: not a date
     } const table[]{
         {american, u"3/1/2027", u"2027-03-01"},
         {american, u"03/01/2027", u"2027-03-01"},
@@ -73,12 +73,12 @@ TEST(TypedDate, IsReadAsPeopleWriteIt) {
         {american, u" 3 . 1 2027 ", u"2027-03-01"},
         {american, u"03012027", u"2027-03-01"},
         {american, u"030127", u"2027-03-01"},
-        {american, u"2027-03-01", u"2027-03-01"}, // the year first means the same everywhere
+        {american, u"2027-03-01", u"2027-03-01"}, // a leading year means the same everywhere
         {american, u"Mar 1, 2027", u"2027-03-01"},
         {american, u"2/29/2028", u"2028-02-29"},
         {american, u"3/1/27", u"2027-03-01"},
-        {american, u"3/1/06", u"2106-03-01"}, // eighty ahead
-        {american, u"3/1/07", u"2007-03-01"}, // nineteen back
+        {american, u"3/1/06", u"2106-03-01"}, // eighty years ahead
+        {american, u"3/1/07", u"2007-03-01"}, // nineteen years back
         {american, u"3/1/99", u"2099-03-01"},
         {american, u"1/1/1753", u"1753-01-01"},
         {american, u"12/31/9999", u"9999-12-31"},

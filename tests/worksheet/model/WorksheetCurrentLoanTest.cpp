@@ -66,7 +66,7 @@ TEST_F(WorksheetCurrentLoanTest, ARateAloneMarksTheOthersAndAllThreeShowThePayme
     EXPECT_EQ(m_display.Of({FieldId::CurInterestRate}).mark, Mark::Missing);
 }
 
-/// The escrow alone is no payment.
+/// Escrow without a loan is not a payment.
 TEST_F(WorksheetCurrentLoanTest, AnIncompleteLoanHasNoPayment) {
     for (const FieldId missing :
          {FieldId::CurLoanAmount, FieldId::CurLoanTerm, FieldId::CurInterestRate}) {
@@ -140,7 +140,7 @@ struct ScheduleCase {
     double interestLeft;
 };
 
-/// 10,000 at 6 %, 1,000 a period from 1 March 2026 on.
+/// 10,000 at 6 %, 1,000 per period from 1 March 2026 on.
 TEST_F(WorksheetCurrentLoanTest, TheScheduleStartsAtTheNextPayment) {
     // clang-format off
     const std::vector<ScheduleCase> cases{
@@ -188,7 +188,7 @@ TEST_F(WorksheetCurrentLoanTest, TheScheduleFollowsWhatItDependsOn) {
     EXPECT_EQ(TextOf({FieldId::CurInterestLeft}), QString());
     EXPECT_EQ(TextOf({FieldId::CurAmountLeft}), u"$10,000.00"_s);
     m_worksheet.SetCurrentBalance(Units(2'000));
-    EXPECT_EQ(TextOf({FieldId::CurPayoffDate}), u"6/15/2026"_s); // the second clears it exactly
+    EXPECT_EQ(TextOf({FieldId::CurPayoffDate}), u"6/15/2026"_s); // two payments repay it exactly
 }
 
 } // namespace

@@ -9,7 +9,7 @@ namespace {
 constexpr Row Row1{1};
 const std::vector<QString> NoTexts(4);
 
-/// Three offers and a loan held today, all computed, before something goes wrong.
+/// Three offers and a current loan, all computed, before the failure.
 class WorksheetFailureTest : public WorksheetTest {
 protected:
     WorksheetFailureTest() {
@@ -81,14 +81,14 @@ TEST_F(WorksheetFailureTest, AnEscrowTooLargeCountsAsNone) {
     EXPECT_EQ(TextOf({FieldId::CurPayment}), u"$758.48"_s);
     ExpectCurrentSchedule(true);
 
-    m_worksheet.SetEscrowTaxes(Money()); // and all is well again
+    m_worksheet.SetEscrowTaxes(Money()); // and everything is computed again
     EXPECT_EQ(TextOf({FieldId::MonthlyEscrow}), u"$225.00"_s);
     EXPECT_EQ(TextOf({FieldId::Payment, Row1}), u"$824.55"_s);
 }
 
 TEST_F(WorksheetFailureTest, OneOfferThatFailsLeavesTheOthersShown) {
     m_worksheet.StoreFinancePoints(Row1, true);
-    Store({FieldId::Points, Row1}, u"5000"_s); // fifty times the loan, on top of it
+    Store({FieldId::Points, Row1}, u"5000"_s); // the points are fifty times the loan, added to it
     ASSERT_FALSE(TextOf({FieldId::Interest, Row1}).isEmpty());
     StartCounting();
     EXPECT_THROW(m_worksheet.SetLoanAmount(Units(20e12)), OverflowFailure);
@@ -120,7 +120,7 @@ TEST_F(WorksheetFailureTest, AnOfferWhosePaymentsAreTooManyKeepsItsFrequency) {
     EXPECT_TRUE(m_worksheet.Dirty());
 }
 
-/// Without a term there is no payment to compare with, so a figure that never repays is taken.
+/// Without a term there is no payment to compare with, so a payment that never repays is accepted.
 TEST_F(WorksheetFailureTest, AnIntendedPaymentThatNeverRepaysIsKept) {
     const Field intended{FieldId::ActualPayment, Row1};
     Store({FieldId::Term, Row1}, u""_s);
@@ -135,7 +135,7 @@ TEST_F(WorksheetFailureTest, AnIntendedPaymentThatNeverRepaysIsKept) {
     EXPECT_NO_THROW(Store({FieldId::Term, Row1}, u"360"_s));
     EXPECT_EQ(TextOf(intended), u"$599.55"_s);
 
-    EXPECT_THROW(Store(intended, u"-5"_s), OverflowFailure); // nothing to refuse below zero
+    EXPECT_THROW(Store(intended, u"-5"_s), OverflowFailure); // negative: fails, not refused
     EXPECT_EQ(TextOf(intended), u"($5.00)"_s);
     EXPECT_EQ(TextOf({FieldId::PayoffDate, Row1}), QString());
     EXPECT_EQ(TextOf({FieldId::Interest, Row1}), QString());
@@ -157,7 +157,7 @@ TEST_F(WorksheetFailureTest, AnIntendedPaymentThatCannotBeCheckedStaysAsItWas) {
     EXPECT_EQ(ResultTexts(Row1), NoTexts);
 }
 
-/// Nothing stands there that a tooltip could explain.
+/// The field is empty, so there is nothing for a tooltip to explain.
 TEST_F(WorksheetFailureTest, AnOfferThatFailsHasNoToolTipAtItsPayoffDate) {
     ASSERT_TRUE(m_display.Of({FieldId::PayoffDate, Row1}).toolTip);
     Store({FieldId::Term, Row1}, u"1073741824"_s);
@@ -172,7 +172,7 @@ TEST_F(WorksheetFailureTest, AnOfferThatFailsHasNoToolTipAtItsPayoffDate) {
     EXPECT_FALSE(m_display.Of({FieldId::PayoffDate, last}).toolTip);
 }
 
-/// A tooltip taken away there would never come back.
+/// These tooltips would never return if they were removed.
 TEST_F(WorksheetFailureTest, AnOfferThatFailsKeepsItsOtherToolTipsWhenSorted) {
     Store({FieldId::Term, Row1}, u"1073741824"_s);
     EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_s),
@@ -190,7 +190,7 @@ struct EndlessCase {
     QString typed;
 };
 
-/// The loan held today is not checked against its payment: it may never be repaid.
+/// The current loan is not checked against its payment, which may never repay it.
 TEST_F(WorksheetFailureTest, ACurrentLoanThatIsNeverRepaidShowsNoSchedule) {
     // clang-format off
     const std::vector<EndlessCase> cases{

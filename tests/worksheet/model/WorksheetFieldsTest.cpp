@@ -11,7 +11,7 @@ namespace {
 
 constexpr Row Row1{1};
 
-/// Two offers and a loan held today with room to change: no intended payment is raised below.
+/// Two offers and a current loan that may be changed without raising an intended payment.
 class WorksheetFieldsTest : public WorksheetTest {
 protected:
     WorksheetFieldsTest() {
@@ -36,8 +36,8 @@ struct NumberCase {
     QString typed;
     QString entry;
     QString shown;
-    std::vector<Field> others; ///< whose texts are shown as well, each once
-    int schedules;             ///< of offers
+    std::vector<Field> others; ///< other fields shown, each once
+    int schedules;             ///< number of offer schedules
 };
 
 const std::vector<NumberCase>& NumberCases() {
@@ -119,7 +119,7 @@ TEST_F(WorksheetFieldsTest, AcceptsTheFormOfEachField) {
         {FieldId::LoanAmount,      u"-5"_s,         true},
         {FieldId::LoanAmount,      u"5-"_s,         false},
         {FieldId::LoanAmount,      u"5."_s,         true},
-        {FieldId::LoanAmount,      u"-"_s,          false}, // of the right form, but no number
+        {FieldId::LoanAmount,      u"-"_s,          false}, // the form of a number without a value
         {FieldId::LoanAmount,      u"."_s,          false},
         {FieldId::LoanTerm,        u"30.5"_s,       false},
         {FieldId::LoanTerm,        u"-"_s,          false},
@@ -207,7 +207,7 @@ TEST_F(WorksheetFieldsTest, AChoiceThatIsNoneIsEmpty) {
         SCOPED_TRACE(testing::PrintToString(c.field));
         m_worksheet.StoreChoice(c.field, c.picked);
         m_worksheet.StoreChoice(c.field, u"Nothing of the kind"_s);
-        // A loan held today is monthly until told otherwise.
+        // The current loan is monthly by default.
         const bool monthly = c.field.id == FieldId::CurPaymentFrequency;
         EXPECT_EQ(c.stored(m_worksheet), monthly ? u"Monthly"_s : QString());
         EXPECT_EQ(TextOf(c.field), monthly ? u"Monthly"_s : QString());
@@ -244,7 +244,7 @@ TEST_F(WorksheetFieldsTest, ALenderIsKeptAsTyped) {
     }
 }
 
-/// What stands in the fields is what Show puts there.
+/// The fields show what Show puts there.
 class WorksheetShowTest : public WorksheetFieldsTest {
 protected:
     WorksheetShowTest() {
@@ -277,7 +277,7 @@ TEST_F(WorksheetShowTest, ShowsEveryFieldAsItStood) {
         ExpectShown({rule.id});
     }
     for (const FieldRule& rule : OfferFields()) {
-        if (rule.access == Access::Input) { // the results of an offer are not kept
+        if (rule.access == Access::Input) { // the results of an offer are not stored
             ExpectShown({rule.id, Row1});
         }
     }
@@ -308,7 +308,7 @@ TEST_F(WorksheetFieldsTest, ChoicesStayTheSameInAnotherLanguage) {
         EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"Q"_s);
         EXPECT_FALSE(m_worksheet.Dirty());
     }
-    // And what is picked now is picked in Spanish.
+    // A choice is now made in Spanish.
     m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Mensual"_s);
     EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"M"_s);
 }

@@ -11,7 +11,7 @@ class WorksheetOfferTest : public WorksheetTest {
 protected:
     WorksheetOfferTest() { EnterOffers(1); }
 
-    /// Nothing intended yet, as in a row just typed.
+    /// No intended payment yet, as in a new row.
     void ClearIntended() {
         Store(Intended, u""_s);
         StartCounting();
@@ -71,7 +71,7 @@ TEST_F(WorksheetOfferTest, ShowsEachResultOnceAndInOrder) {
 
 struct MissingCase {
     FieldId missing;
-    bool paysOff; ///< what is intended still repays the loan
+    bool paysOff; ///< the intended payment still repays the loan
 };
 
 TEST_F(WorksheetOfferTest, ShowsNothingWhereAnInputIsMissing) {
@@ -130,7 +130,7 @@ TEST_F(WorksheetOfferTest, RaisesAnIntendedPaymentThatHasBecomeTooLow) {
     EXPECT_EQ(m_display.PaymentsRaised(), 1);
 
     StartCounting();
-    Store({FieldId::Term, Row0}, u"360"_s); // a lower payment lowers nothing
+    Store({FieldId::Term, Row0}, u"360"_s); // a lower payment does not lower it
     EXPECT_EQ(TextOf(Intended), u"$843.86"_s);
     EXPECT_EQ(m_display.Of(Intended).marks, 0);
     EXPECT_EQ(m_display.PaymentsRaised(), 0);
@@ -179,7 +179,7 @@ TEST_F(WorksheetOfferTest, TakesAnIntendedPaymentFromThePaymentUpwards) {
     }
 }
 
-/// Checking a new figure raises the missing old one on the way; nobody is to be told of that.
+/// Checking a new payment first raises the missing old one; the user is not told of that.
 TEST_F(WorksheetOfferTest, AFigureTypedIntoAnEmptyFieldIsNotMarked) {
     ClearIntended();
     Store(Intended, u"900"_s);
@@ -277,7 +277,7 @@ TEST_F(WorksheetOfferTest, GrowingKeepsWhatIsThere) {
         EXPECT_EQ(m_worksheet.OfferIndexOfRow(row).value, static_cast<std::size_t>(row.value));
     }
 
-    // A new row lends the same amount, and an old one still knows its worksheet.
+    // A new row uses the same amount, and an old one keeps its worksheet.
     const Row last{15};
     m_worksheet.SetLoanTerm(360);
     m_worksheet.StoreChoice({FieldId::Frequency, last}, u"Monthly"_s);

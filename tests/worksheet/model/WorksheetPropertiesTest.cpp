@@ -7,10 +7,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A property of the worksheet with a value to write.
+/// A property of the worksheet with a value to set.
 struct Access {
     std::function<void(Worksheet&)> write;
-    std::function<void(Worksheet&)> clear; ///< writes the empty value
+    std::function<void(Worksheet&)> clear; ///< sets the empty value
     std::function<bool(const Worksheet&)> holds;
     std::function<bool(const Worksheet&)> isEmpty;
 };
@@ -29,7 +29,7 @@ struct Case {
     bool dirties;
     FieldId field;
     QString text;
-    std::vector<Field> results; ///< whose texts are shown too, on an otherwise empty worksheet
+    std::vector<Field> results; ///< other fields shown, on an otherwise empty worksheet
 };
 
 const std::vector<Field> Schedule{
@@ -83,7 +83,7 @@ TEST_F(WorksheetPropertiesTest, StartEmpty) {
     EXPECT_TRUE(m_display.TextsInOrder().empty());
 }
 
-/// Each on a worksheet of its own.
+/// Each on a separate worksheet.
 TEST_F(WorksheetPropertiesTest, StoreShowAndDirtyWhenTheyChange) {
     for (const Case& c : Properties()) {
         SCOPED_TRACE(testing::PrintToString(Field{c.field}));
@@ -91,7 +91,7 @@ TEST_F(WorksheetPropertiesTest, StoreShowAndDirtyWhenTheyChange) {
         Worksheet sheet(display, m_worksheet.Texts(), [] { return Date(); });
         const std::vector<Field> shown = Sorted({{{c.field}}, c.results});
 
-        c.property.clear(sheet); // what it already is
+        c.property.clear(sheet); // the property is already empty
         EXPECT_FALSE(sheet.Dirty());
         EXPECT_EQ(display.TextOf({c.field}), QString());
 

@@ -12,23 +12,23 @@
 inline Money Units(double units) { return Money::FromDouble(units); }
 inline Money LargestAmount() { return Money::FromTenThousandths(INT64_MAX); }
 
-/// What one recalculation of an offer shows, in its order.
+/// The results that one recalculation of an offer shows, in its order.
 std::vector<Field> OfferResults(Row row);
 
-/// Several lists of fields as one, sorted: what was shown, whatever the order.
+/// Joins and sorts lists of fields, to compare what was shown in any order.
 std::vector<Field> Sorted(std::initializer_list<std::vector<Field>> lists);
 
-/// A worksheet in English, dollars and months on 10 March 2026, shown by nothing but a record.
+/// A worksheet in English, dollars and months on 10 March 2026, with a recording display.
 class WorksheetTest : public testing::Test {
 protected:
     WorksheetTest();
 
-    /// 100,000.00 at 6 % for 360 months, monthly, in as many rows as told: 599.55 a month.
+    /// 100,000.00 at 6 % for 360 months, monthly, in this many rows: 599.55 a month.
     void EnterOffers(int count);
-    /// The loan held today: 120,000.00 at 6.5 % for 360 months, of which 10,000.00 is left and
-    /// repaid by 1,000.00 a month from 1 March 2026 on.
+    /// The current loan: 120,000.00 at 6.5 % for 360 months, of which 10,000.00 is left and repaid
+    /// by 1,000.00 a month from 1 March 2026 on.
     void EnterCurrentLoan();
-    /// Forgets what entering has left behind: Dirty, the counts and the schedules run.
+    /// Resets what entering has changed: Dirty, the counts and the schedules run.
     void StartCounting();
 
     void Store(Field field, const QString& text) { m_worksheet.StoreNumber(field, text); }

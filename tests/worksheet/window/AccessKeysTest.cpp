@@ -1,4 +1,4 @@
-// Access keys are unambiguous, and the tab key goes the way the eye goes.
+// Access keys are unambiguous, and the tab order follows the reading order.
 
 #include "WindowFixture.h"
 
@@ -24,7 +24,7 @@ struct Appearance {
 
 void PrintTo(const Appearance& appearance, std::ostream* out) { *out << appearance.name; }
 
-/// The letter after a single "&"; null when the text has none.
+/// The letter after a single "&"; null if the text has none.
 QChar AccessKeyOf(const QString& text) {
     for (qsizetype i = 0; i + 1 < text.size(); ++i) {
         if (text[i] == u'&' && text[++i] != u'&') {
@@ -34,7 +34,7 @@ QChar AccessKeyOf(const QString& text) {
     return {};
 }
 
-/// Letters and who has taken them.
+/// The letters in use and their controls.
 class TakenKeys {
 public:
     void Take(const QString& text, const QString& by) {
@@ -145,7 +145,7 @@ TEST_F(TabOrder, GoesThroughBothBandsAndRowByRow) {
         visited.append(FocusName());
         Tab();
     }
-    EXPECT_EQ(visited, expected); // rows are appended on the way
+    EXPECT_EQ(visited, expected); // rows are appended during the walk
     EXPECT_EQ(FocusName(), u"cboLoanName") << "and starts again";
 }
 

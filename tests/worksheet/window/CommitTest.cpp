@@ -1,4 +1,4 @@
-// What is being typed is stored before anything that would lose it.
+// What is being typed is stored before any action that would lose it.
 
 #include "Language.h"
 #include "NumberFields.h"

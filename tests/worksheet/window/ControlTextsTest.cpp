@@ -1,13 +1,13 @@
 // Every control and menu entry has its texts, in every language.
 //
-// What the forms must give by number (captionText, toolTipText, helpTopic, accessibleText):
+// The forms must give these texts by number (captionText, toolTipText, helpTopic, accessibleText):
 //   the window               a caption
 //   a menu, a menu entry     a caption and a help topic
-//   a label                  a caption and a help topic; a tooltip too when it names a control
+//   a label                  a caption and a help topic; a tooltip, too, if it names a control
 //   a button                 a caption or a name for screen readers, a tooltip and a help topic
-//   whatever is typed into, picked from, ticked or scrolled, and every result
-//                            a tooltip and a help topic, and a name: its own or a label's
-// Frames, lines and the inner parts of the toolkit's own controls need none.
+//   any input control, scroll bar or result
+//                            a tooltip and a help topic, and a name: its own or its label's
+// Frames, lines and the inner parts of Qt's own controls need none.
 
 #include "Language.h"
 #include "WindowFixture.h"
@@ -66,7 +66,7 @@ unsigned NeedsOf(const QObject& object) {
         return ToolTip | HelpTopic | AnyName;
     }
     if (const auto* menu = qobject_cast<const QMenu*>(&object)) {
-        // The menu bar keeps a menu of its own for titles that find no room.
+        // The menu bar has an internal menu for titles without room.
         const bool ofTheBar = menu->objectName().isEmpty() && menu->title().isEmpty();
         return ofTheBar ? None : Caption | HelpTopic;
     }
@@ -83,7 +83,7 @@ protected:
         Open({.language = GetParam().language, .termInMonths = GetParam().termInMonths});
     }
 
-    /// Every control and menu entry, those of a row appended later among them.
+    /// Every control and menu entry, including those of a row appended later.
     QList<QObject*> Objects() {
         Click(u"txtPoints(5)");
         QList<QObject*> objects{&Window()};
@@ -99,7 +99,7 @@ protected:
     }
 
 private:
-    /// What the toolkit's own controls are made of is left out.
+    /// Skips the inner parts of Qt's own controls.
     static void Collect(const QObject& around, QList<QObject*>& objects) {
         for (QObject* object : around.children()) {
             const bool needs = NeedsOf(*object) != None;
@@ -164,7 +164,7 @@ TEST_P(ControlTexts, EveryTextIsShown) {
                                                                         : "text";
             EXPECT_EQ(object->property(property).toString(), Language::Instance().Text(caption));
         }
-        // The results of a row show theirs only while there is something to tell.
+        // The results of a row show theirs only while there is something to report.
         if (HasNumber(*object, "toolTipText") &&
             !object->objectName().startsWith(u"txtPayoffDate") &&
             !object->objectName().startsWith(u"txtInterest(") &&

@@ -1,4 +1,4 @@
-// In a dark palette the edges of fields and boxes can be seen.
+// In a dark palette the edges of fields and boxes are visible.
 
 #include "ClearEdges.h"
 #include "WindowFixture.h"
@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// As accessibility guides compute it: 1 is none, 21 is black on white.
+/// As in accessibility guidelines: 1 is no contrast, 21 is black on white.
 double Contrast(const QColor& one, const QColor& other) {
     const auto luminance = [](const QColor& colour) {
         const auto linear = [](float channel) {
@@ -53,7 +53,7 @@ protected:
         QApplication::setStyle(u"fusion"_s);
     }
 
-    /// The best contrast that the outermost pixels of a control's left edge make with the window.
+    /// The best contrast between the outermost pixels of a control's left edge and the window.
     static double EdgeOf(const QImage& window, const QWidget& control) {
         const QColor around = control.window()->palette().window().color();
         const QPoint left = control.mapTo(control.window(), QPoint(0, control.height() / 2));

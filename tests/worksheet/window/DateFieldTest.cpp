@@ -36,7 +36,7 @@ protected:
 };
 
 TEST_F(DateField, TypedAsItIsShownItReadsBackInEveryLocale) {
-    const QuietToolkit quiet; // which has no letters for some scripts
+    const QuietToolkit quiet; // Qt warns of missing letters in some scripts
     const QDate day(2027, 3, 1);
     std::set<QString> tried;
     for (const QLocale& locale :
@@ -49,7 +49,7 @@ TEST_F(DateField, TypedAsItIsShownItReadsBackInEveryLocale) {
         SCOPED_TRACE(locale.name().toStdString() + ": " + shown.toStdString());
         Open({.locale = locale});
         Click(u"dtNextPayment");
-        for (const char32_t letter : shown.toUcs4()) { // some digits are two characters
+        for (const char32_t letter : shown.toUcs4()) { // some digits are two QChars
             PressText(Qt::Key_unknown, QString::fromUcs4(&letter, 1), Qt::NoModifier);
         }
         EXPECT_EQ(Shown(), shown);
@@ -189,7 +189,7 @@ TEST_F(DateField, TheArrowKeysStepThePartOfTheCaret) {
 TEST_F(DateField, ASeparatorGoesToTheNextPart) {
     struct Case {
         QLocale locale;
-        QStringView typed; ///< over the first part of today
+        QStringView typed; ///< typed over the first part of today's date
         QDate date;
     };
     const QLocale slovakia(QLocale::Slovak, QLocale::Slovakia);

@@ -1,4 +1,4 @@
-// The captions drawn in the forms and the English texts say the same, but for access keys.
+// The captions in the forms equal the English texts, except for access keys.
 
 #include "Language.h"
 
@@ -41,7 +41,7 @@ QList<Drawn> ObjectsOf(const char* form) {
     return all;
 }
 
-/// The text without the marks of access keys; "&&" is a letter and stays.
+/// The text without access key marks; "&&" is a letter and stays.
 QString WithoutAccessKey(QString text) {
     constexpr QChar kept(u'\x1');
     return text.replace(QStringLiteral("&&"), kept)

@@ -10,7 +10,7 @@
 
 #include <optional>
 
-/// What a program that drags a text learns of the field under it.
+/// What a dragging program learns about the field under the mouse.
 struct Offered {
     bool accepted = false;
     Qt::DropAction action = Qt::IgnoreAction;
@@ -25,20 +25,20 @@ inline void PrintTo(const Offered& offered, std::ostream* out) {
     *out << (offered.accepted ? "accepted " : "refused ") << offered.action;
 }
 
-/// The window under drags that come from outside, the way the window system brings them.
+/// The window, with drags from outside as the window system sends them.
 class DragTest : public WindowTest {
 protected:
-    /// Brings a drag over the middle of a field, or a place of it, and moves it there.
+    /// Moves a drag over the middle of a field, or over a position in it.
     Offered Over(QStringView name, const QMimeData& data, Qt::DropActions actions = Qt::CopyAction,
                  std::optional<QPoint> at = {});
     Offered Over(QStringView name, QStringView text, Qt::DropActions actions = Qt::CopyAction);
-    /// The same, and drops it where it is accepted, as a window system does.
+    /// The same, and drops it if it is accepted, as a window system does.
     Offered Drop(QStringView name, QStringView text, Qt::DropActions actions = Qt::CopyAction,
                  std::optional<QPoint> at = {});
-    /// Three offers, each with points, rate, payment and lender of its own; nothing unsaved.
+    /// Three offers, each with different points, rate, payment and lender; nothing unsaved.
     void FillOffers();
 };
 
-/// Lets a mouse that presses at one place of a control go to another. Not released.
+/// Presses the mouse at one position of a control and moves it to another without a release.
 void DragMouse(const QWidget& control, QPoint from, QPoint to, Qt::MouseButton button,
                Qt::KeyboardModifiers modifiers = Qt::NoModifier);

@@ -1,4 +1,4 @@
-// Rows that scroll while a value is held near an edge of their frame.
+// Rows scroll while a value is dragged near an edge of their frame.
 
 #include "DragFixture.h"
 
@@ -27,7 +27,7 @@ protected:
 
     QTimer& Timer() { return *Window().findChild<QTimer*>(u"tmrDragScroll"_s); }
     int TopRow() const { return Bar().value() / RowHeight(); }
-    /// Holds a value at a height of the frame, over the points or another column.
+    /// Drags a value to a height of the frame, over the points or another column.
     Offered Hold(int y, QStringView column = u"txtPoints(0)") {
         const QWidget& frame = Control(u"picScroll");
         const QWidget& heading = Control(column);
@@ -36,7 +36,7 @@ protected:
         return Over(u"picScroll", m_data, Qt::CopyAction, m_held);
     }
     int Bottom() const { return Control(u"picScroll").height() - RowHeight() * 2 / 5; }
-    /// What comes of it when the timer goes off.
+    /// Fires the timer and applies its effect.
     void Tick() { QMetaObject::invokeMethod(&Timer(), "timeout"); }
     Offered LetGo() {
         const QPoint place = PlaceInWindow(Control(u"picScroll"), m_held);
@@ -59,7 +59,7 @@ TEST_F(DragScrolling, GoesByTheEdgeOfTheFrame) {
     struct {
         QStringView column;
         int y;
-        int rows; ///< a tick; 0: no tick comes
+        int rows; ///< per tick; 0: the timer does not run
     } const table[]{
         {u"txtPoints(0)", 1, -1},
         {u"txtPoints(0)", half - 1, -1},
@@ -68,7 +68,7 @@ TEST_F(DragScrolling, GoesByTheEdgeOfTheFrame) {
         {u"txtPoints(0)", height - half - 1, 0},
         {u"txtPoints(0)", height - half, 1},
         {u"txtPoints(0)", height - 2, 1},
-        {u"txtTerm(0)", 2, -1}, // takes no drop, but the way leads over it
+        {u"txtTerm(0)", 2, -1}, // accepts no drop, but the drag may pass over it
         {u"txtTerm(0)", height / 2, 0},
         {u"cboFrequency(0)", height - 2, 1},
     };

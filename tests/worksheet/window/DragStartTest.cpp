@@ -1,5 +1,5 @@
-// When a press in a field of an offer becomes a drag, and what then travels. A drag itself needs a
-// real window system; here it ends as soon as it has begun.
+// When a press in an offer field becomes a drag, and what it then carries. A real drag needs a
+// window system; here it ends at once.
 
 #include "DragFixture.h"
 
@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a drag takes along when it begins.
+/// What a drag carries when it starts.
 struct Begun {
     QString text;
     Qt::DropActions actions;
@@ -33,7 +33,7 @@ protected:
     static QPoint Middle(const QWidget& control) { return control.rect().center(); }
     static int Distance() { return QApplication::startDragDistance(); }
 
-    /// Presses in the middle of a field and goes so far to the right; what drags have begun.
+    /// Presses in the middle of a field and moves this far to the right; returns the drags started.
     std::vector<Begun> Drag(QStringView name, int distance, Qt::MouseButton button = Qt::LeftButton,
                             Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         const QWidget& control = Control(name);
@@ -48,7 +48,7 @@ protected:
     std::vector<Begun> Drag(QStringView name) { return Drag(name, 3 * Distance()); }
 
 private:
-    /// A drag has begun and is over once the toolkit puts it away.
+    /// A drag has started and ended when Qt deletes it.
     struct Watch : QObject {
         std::vector<Begun> begun;
         bool eventFilter(QObject* watched, QEvent* event) override {
@@ -102,7 +102,7 @@ TEST_F(DragStart, TakesTheLeftButtonAlone) {
 
 TEST_F(DragStart, TakesThePlatformsDistance) {
     EXPECT_TRUE(Drag(u"txtPoints(0)", Distance() - 1).empty());
-    EXPECT_EQ(Edit(u"txtPoints(0)").selectedText(), u"1.5"); // a click that enters selects all
+    EXPECT_EQ(Edit(u"txtPoints(0)").selectedText(), u"1.5"); // an entering click selects all
     EXPECT_EQ(Drag(u"txtPoints(2)", 2 * Distance()).size(), 1U);
 }
 
@@ -126,7 +126,7 @@ TEST_F(DragStart, AClickInTheFieldBeingEditedSetsTheCaret) {
 TEST_F(DragStart, TheMouseStillSelectsInTheFieldBeingEdited) {
     for (const QStringView field : {u"txtPoints(0)", u"txtWho(0)"}) {
         Click(field);
-        Click(field); // the caret alone
+        Click(field); // only sets the caret
         ASSERT_FALSE(Edit(field).hasSelectedText());
         const QRect area = Edit(field).rect();
         DragMouse(Edit(field), QPoint(2, area.center().y()),
@@ -145,7 +145,7 @@ TEST_F(DragStart, AFieldIsDraggedAgainAndAgain) {
             EXPECT_EQ(Drag(field).size(), 1U) << field.toString().toStdString() << ' ' << times;
         }
     }
-    // A click in between is for the caret, and what follows for a selection.
+    // After another click, which sets the caret, a press selects.
     Click(u"txtWho(0)");
     EXPECT_TRUE(Drag(u"txtWho(0)").empty());
 }
@@ -165,7 +165,7 @@ TEST_F(DragStart, WhatIsRefusedDoesNotTravel) {
     Paste(u"1.2.3");
     Press(Qt::Key_A, Qt::ControlModifier);
     EXPECT_TRUE(Drag(u"txtPoints(0)").empty());
-    EXPECT_TRUE(WaitFor([this] { return !Door().Texts().isEmpty(); })); // once the button is up
+    EXPECT_TRUE(WaitFor([this] { return !Door().Texts().isEmpty(); })); // after the button release
     EXPECT_EQ(SettledMessages(), QStringList{u"Please enter a number of the form nnnn.nnn"_s});
     EXPECT_EQ(Text(u"txtPoints(0)"), u"1.2.3");
 }

@@ -1,4 +1,4 @@
-// What may be dropped on a field of an offer, and what comes of it.
+// What may be dropped on an offer field, and its effects.
 
 #include "DragFixture.h"
 
@@ -54,7 +54,7 @@ TEST_F(DropOnFields, GoesToTheOfferThatTheRowShowsAfterASort) {
     EXPECT_EQ(Sheet().OfferIndexOfRow(Row{0}), first) << "a drop does not sort again";
 }
 
-// A lender of several lines travels whole, though the field shows it in one.
+// A lender of several lines is dragged whole, although the field shows one line.
 TEST_F(DropOnFields, LenderOfSeveralLinesKeepsThem) {
     const QString lender = u"Old Mill Bank\r\nMs. Ito, 555-0100\r\nÑandú 💶"_s;
     EXPECT_EQ(Drop(u"txtWho(1)", lender), Copied);
@@ -79,7 +79,7 @@ TEST_F(DropOnFields, IsAnnouncedOnlyWherePossible) {
         // field                  text       actions          offered
         {u"txtPoints(1)",         u"1.5",    Qt::CopyAction,  Copied},
         {u"txtPoints(1)",         u"1.5",    CopyOrMove,      Copied},
-        {u"txtPoints(1)",         u"1.5",    Qt::MoveAction,  Refused}, // numbers are copied only
+        {u"txtPoints(1)",         u"1.5",    Qt::MoveAction,  Refused}, // numbers are only copied
         {u"txtPoints(1)",         u"1.5",    Qt::LinkAction,  Refused},
         {u"txtPoints(1)",         u"12abc",  Qt::CopyAction,  Refused},
         {u"txtPoints(1)",         u"",       Qt::CopyAction,  Refused},
@@ -190,7 +190,7 @@ TEST_F(DropOnFields, AFailedDropKeepsWhatIsBeingTypedThere) {
 
 TEST_F(DropOnFields, StoresFirstWhatIsBeingTypedInTheRow) {
     Enter(u"txtTerm(0)");
-    Type(u"15"); // a dropped rate shows the term anew
+    Type(u"15"); // a dropped rate shows the term again
     EXPECT_EQ(Drop(u"txtInterestRate(0)", u"0.06"), Copied);
     EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), 180);
     EXPECT_EQ(FocusName(), u"txtTerm(0)");
@@ -200,7 +200,7 @@ TEST_F(DropOnFields, StoresFirstWhatIsBeingTypedInTheRow) {
     Enter(u"txtActualPayment(0)");
     Type(u"900"); // a dropped rate may raise the payment
     EXPECT_EQ(Drop(u"txtInterestRate(0)", u"0.2"), Copied);
-    EXPECT_EQ(Text(u"txtActualPayment(0)"), u"1756.3"); // the bare value, to be edited
+    EXPECT_EQ(Text(u"txtActualPayment(0)"), u"1756.3"); // the bare value, for editing
     Tab();
     EXPECT_EQ(Text(u"txtActualPayment(0)"), u"$1,756.30");
 }
@@ -233,7 +233,7 @@ TEST_F(DropOnFields, TheLastRowInUseHasABlankOneBelow) {
 TEST_F(DropOnFields, ARowHalfOutOfSightTakesItAndComesIntoSight) {
     Enter(u"txtPoints(5)");
     Enter(u"txtPoints(0)");
-    Bar().setSliderDown(true); // the rows follow the thumb without snapping
+    Bar().setSliderDown(true); // the rows follow the slider without snapping
     Bar().setValue(RowHeight() / 2);
     const QWidget& half = Control(u"txtPoints(6)");
     const QWidget& frame = Control(u"picScroll");

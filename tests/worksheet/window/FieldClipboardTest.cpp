@@ -1,4 +1,4 @@
-// Copying and pasting in the fields whose values travel, and the menu that offers it.
+// Copying and pasting in the draggable fields, and their context menu.
 
 #include "DragFixture.h"
 #include "Language.h"
@@ -30,7 +30,7 @@ protected:
     void Copy() { Press(Qt::Key_C, Qt::ControlModifier); }
     void PasteClipped() { Press(Qt::Key_V, Qt::ControlModifier); }
 
-    /// Opens the menu of a field by the keyboard, looks at it, and closes it.
+    /// Opens a field's menu by keyboard, inspects it, and closes it.
     void InMenu(QStringView field, const std::function<void(const QMenu&)>& look) {
         Enter(field);
         QWidget& control = Control(field);
@@ -42,7 +42,7 @@ protected:
         look(*menu);
         menu->close();
         ActivateAgain();
-        EXPECT_EQ(FocusName(), field); // a menu is not leaving
+        EXPECT_EQ(FocusName(), field); // opening a menu does not leave the field
     }
 
     static QStringList Entries(const QMenu& menu) {
@@ -98,7 +98,7 @@ TEST_F(FieldClipboard, APastedValueIsStoredAtOnce) {
     Enter(u"txtInterestRate(1)");
     PasteClipped();
     EXPECT_EQ(Sheet().OfferOfRow(Row{1}).InterestRate(), 0.065);
-    EXPECT_EQ(Text(u"txtInterestRate(1)"), u"6.5"); // the bare value, to be edited
+    EXPECT_EQ(Text(u"txtInterestRate(1)"), u"6.5"); // the bare value, for editing
     EXPECT_EQ(Text(u"txtPandI(1)"), Text(u"txtPandI(0)"));
 }
 
@@ -177,7 +177,7 @@ TEST_F(FieldClipboard, AValueOverAPartIsText) {
 TEST_F(FieldClipboard, ALenderIsInsertedAtTheCaret) {
     Enter(u"txtWho(0)");
     Press(Qt::Key_Home);
-    Copy(); // nothing selected: all of it
+    Copy(); // nothing selected means all of it
     EXPECT_EQ(Clipped(), u"Bank 1");
     Enter(u"txtWho(1)");
     Press(Qt::Key_Home);
@@ -204,7 +204,7 @@ TEST_F(FieldClipboard, WhatIsBeingTypedIsText) {
     EXPECT_EQ(Clipped(), u"7");
     Enter(u"txtInterestRate(1)");
     PasteClipped();
-    EXPECT_EQ(Sheet().OfferOfRow(Row{1}).InterestRate(), 0.0625); // not yet
+    EXPECT_EQ(Sheet().OfferOfRow(Row{1}).InterestRate(), 0.0625); // not stored yet
     Tab();
     EXPECT_EQ(Text(u"txtInterestRate(1)"), u"7.000%");
 }
@@ -249,7 +249,7 @@ TEST_F(FieldClipboard, TheMenuOffersWhatIsPossible) {
         {u"txtPoints(0)", u"1.5", true, true},
         {u"txtPoints(0)", u"12abc", true, false},
         {u"txtPoints(0)", u"", true, false},
-        {u"txtPoints(4)", u"1.5", true, true}, // none entered is 0
+        {u"txtPoints(4)", u"1.5", true, true}, // points never entered are 0
         {u"txtInterestRate(1)", u"0.0625", true, false},
         {u"txtActualPayment(4)", u"0.065", false, false},
         {u"txtActualPayment(0)", u"5.25", true, true},

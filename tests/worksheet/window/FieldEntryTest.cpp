@@ -64,11 +64,11 @@ TEST_P(FieldEntry, ACellIsPastedAsItsText) {
         EXPECT_EQ(Field().text(), u"12");
         Press(Qt::Key_Home);
         Press(Qt::Key_Right);
-        Paste(u"3"_s.append(end)); // between the others
+        Paste(u"3"_s.append(end)); // between the other digits
         EXPECT_EQ(Field().text(), u"132");
     }
     Press(Qt::Key_A, Qt::ControlModifier);
-    Paste(u"1\n2\n"); // two cells are no number
+    Paste(u"1\n2\n"); // two cells are not a number
     Tab();
     EXPECT_EQ(FocusName(), GetParam().name);
     EXPECT_EQ(SettledMessages().size(), 1);
@@ -125,7 +125,7 @@ TEST_P(FieldEntry, AltAndSuperTypeNothing) {
         PressText(key.key, key.text, key.held);
         EXPECT_EQ(Field().text(), u"1") << key.text.toString().toStdString();
     }
-    // The third level of a keyboard types what it can.
+    // The third level of a keyboard types valid characters.
     PressText(Qt::Key_5, u"5", Qt::ControlModifier | Qt::AltModifier);
     EXPECT_EQ(Field().text(), u"15");
     Press(Qt::Key_Y, Qt::AltModifier);
@@ -209,14 +209,14 @@ class TermEntry : public WindowTest, public ::testing::WithParamInterface<bool> 
 INSTANTIATE_TEST_SUITE_P(Units, TermEntry, ::testing::Bool(),
                          [](const auto& unit) { return unit.param ? "Months" : "Years"; });
 
-// Terms of whole years are typed, but a kept worksheet may hold any number of months.
+// Only whole years can be typed, but a saved worksheet may contain any number of months.
 TEST_P(TermEntry, PassingThroughAFieldKeepsItsMonths) {
     const bool inMonths = GetParam();
     Open({.termInMonths = inMonths});
     const QStringView shown = inMonths ? u"30" : u"2.5";
     SheetToWrite().SetLoanTerm(30);
     SheetToWrite().SetCurrentTerm(30);
-    Fill(u"txtInterestRate(0)", u"6"); // an offer without a term takes the default one
+    Fill(u"txtInterestRate(0)", u"6"); // an offer without a term takes the default term
     for (const QStringView field : {u"txtLoanTerm", u"txtCurLoanTerm", u"txtTerm(0)"}) {
         EXPECT_EQ(Text(field), shown);
         Click(field);
@@ -289,7 +289,7 @@ TEST_F(LenderField, EnteredByAKeyItsCaretIsWhereItWasLeft) {
         EXPECT_EQ(lender.selectedText(), u"");
         EXPECT_EQ(lender.cursorPosition(), 9);
     }
-    Press(Qt::Key_Up); // the first row: no way to go, and the caret stays
+    Press(Qt::Key_Up); // there is no row above the first; the caret stays
     EXPECT_EQ(lender.cursorPosition(), 9);
     Press(Qt::Key_Left, Qt::ShiftModifier);
     OpenContextMenu(u"txtWho(0)");

@@ -1,5 +1,5 @@
-// Any text pasted, typed or dropped into any number field of the window: it is stored, or refused
-// in the words that fit, with the field, the text and the worksheet still there.
+// Any text pasted, typed or dropped into any number field is stored, or refused with the right
+// message; the field, the text and the worksheet stay intact.
 
 #include "DragFixture.h"
 #include "FailureReport.h"
@@ -41,7 +41,7 @@ protected:
                        : u"Please enter a number of the form"_s;
     }
 
-    /// The field that a text goes into, and how.
+    /// Chooses the field and the way the text is entered.
     void Try(const std::string& input) {
         const std::size_t number = std::hash<std::string>()(input);
         if (!IsOpen() || number % 97 == 0) {
@@ -60,7 +60,7 @@ protected:
         const QString before = Text(field.name);
         Clip(text, asValue, field);
         Press(Qt::Key_V, Qt::ControlModifier);
-        const QString written = Text(field.name); // the toolkit leaves out what no line can hold
+        const QString written = Text(field.name); // Qt drops what no line can hold
         if (!SettledMessages().isEmpty()) {       // a value that was refused at once
             EXPECT_EQ(written, before);
             Door().Clear();
@@ -77,7 +77,7 @@ protected:
             Tab();
         } else {
             EXPECT_TRUE(IsValidNumber(written, decimals(field), m_formats->DecimalSeparator()));
-            for (const QString& message : told) { // a result that nothing can hold
+            for (const QString& message : told) { // a result that no field can hold
                 EXPECT_EQ(message, Overflow());
             }
         }
@@ -104,7 +104,7 @@ protected:
     }
 
 private:
-    const QuietToolkit m_quiet; // which has no letters for some scripts
+    const QuietToolkit m_quiet; // Qt warns of missing letters in some scripts
     bool IsOpen() { return m_formats.has_value(); }
     static QString Overflow() {
         return GetResourceText(TextNumber::NumberTooLarge) + u"\nerrn=6  src=Loan  desc=Overflow"_s;
@@ -142,7 +142,7 @@ TEST_F(FieldFuzz, AnyTextIsStoredOrRefused) {
         2);
 }
 
-/// Names and paths are of any length; the buttons under them can be reached all the same.
+/// Names and paths may have any length; the buttons below them stay reachable.
 TEST_F(FieldFuzz, NoMessageIsHigherThanTheScreen) {
     MessageBoxes boxes;
     const QObject boxesOwner;

@@ -1,4 +1,4 @@
-// What a number field refuses, and how it says so.
+// What a number field refuses, and the messages.
 
 #include "MessageBoxes.h"
 #include "NumberFields.h"
@@ -26,7 +26,7 @@ protected:
     QString Refusal() const {
         return QStringLiteral("Please enter a number of the form") + GetParam().picture.toString();
     }
-    /// Tries to leave with this text and stays, told once.
+    /// Tries to leave with this text and stays, with one message.
     void ExpectRefused(QStringView text, const QString& message) {
         SCOPED_TRACE(text.toString().left(40).toStdString());
         Door().Clear();
@@ -51,7 +51,7 @@ TEST_P(FieldRefusal, OfTextsThatAreNoNumbers) {
           u"1.2345", u"-", u"+", u"+-", u"\u0661"}) {
         ExpectRefused(text, Refusal());
     }
-    // A lone symbol is refused too, by the fields without decimals for the symbol itself.
+    // A lone symbol is refused, too; fields without decimals refuse the symbol itself.
     ExpectRefused(u".", Refusal());
     ExpectRefused(u"-.", Refusal());
 }
@@ -127,7 +127,7 @@ TEST_F(LimitsOfFields, ATermOfTooManyMonthsIsRefusedInYears) {
     }
 }
 
-/// Presses Return in every message box that opens, and keeps what it said.
+/// Presses Return in every message box that opens, and stores its text.
 class Reader : public QObject {
 public:
     Reader() {
@@ -158,7 +158,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(BoxCase{English, u"Please enter a number of the form nnnn.nn|OK"},
                       BoxCase{Spanish, u"Escriba un número de la forma nnnn.nn|Aceptar"}));
 
-// A box takes the activation from the window and gives it back: neither is leaving the field.
+// A box activates itself and later the window again: neither counts as leaving the field.
 TEST_P(RealMessageBox, OpensOnceAndGivesTheFieldBack) {
     MessageBoxes boxes;
     Open({.language = GetParam().language, .messages = &boxes});

@@ -1,4 +1,4 @@
-// Another language, chosen while the window is full of values.
+// Switches the language while the window is full of values.
 
 #include "Language.h"
 #include "WindowFixture.h"

@@ -1,4 +1,4 @@
-// Where everything stands in the window, whatever its size.
+// The layout of the window at any size.
 
 #include "WindowFixture.h"
 
@@ -17,7 +17,7 @@ struct Screen {
     QSize size;
 };
 
-/// From less than the window can be to four times a common desktop.
+/// From below the window's minimum size to four times a common desktop.
 const std::vector<Screen> Screens = {
     {"Least", {1, 1}},      {"Small", {960, 540}},          {"Usual", {1280, 800}},
     {"High", {1000, 1600}}, {"Maximised", {1920, 1080}},    {"Odd", {2001, 1199}},
@@ -85,7 +85,7 @@ TEST_P(Layout, TheFrameHoldsTheRowsOnDisplayAndNoMore) {
     EXPECT_EQ(Bar().maximum(), 0);
 }
 
-/// A screen of 1920 by 1080 at 200 %, less its panel and the window's title.
+/// A screen of 1920 by 1080 at 200 %, without the desktop's panel and the title bar.
 class SmallScreen : public WindowTest {
 protected:
     void OpenSmall(const Start& start) {
@@ -140,7 +140,7 @@ TEST_F(SmallScreen, TheWheelScrollsTheRowsFirstAndThenTheWindow) {
     EXPECT_EQ(Text(u"cboFrequency(1)"), u"");
 }
 
-/// A click that scrolled would come up over something else.
+/// If a click scrolled, the button would be released over another control.
 TEST_F(SmallScreen, AClickScrollsNothing) {
     OpenSmall({.loansDisplayed = 14});
     auto& window = *Get<QAbstractScrollArea>(u"scrWindow").verticalScrollBar();

@@ -1,4 +1,4 @@
-// The dialog of a lender over the main window.
+// The lender dialog over the main window.
 
 #include "Language.h"
 #include "WindowFixture.h"
@@ -29,7 +29,7 @@ class LenderDialog : public WindowTest {
 protected:
     LenderDialog() { Open(); }
 
-    /// Asks for the dialog, and does this in it. False when none came up.
+    /// Opens the dialog with `ask` and runs `user` in it. False if no dialog opened.
     bool InDialog(const std::function<void()>& ask, const std::function<void(dlgWho&)>& user) {
         bool shown = false;
         QTimer look;
@@ -177,7 +177,7 @@ TEST_F(LenderDialog, LinesAndCharactersSurvive) {
           u"\u05D0\u05D1 e\u0301 \U0001D11E"_s, QString(40'000, u'x')}) {
         SheetToWrite().StoreWho(Row{0}, text);
         SheetToWrite().ClearDirty();
-        // Looked at in the row and in the dialog.
+        // Only viewed, in the row and in the dialog.
         Enter(u"txtPoints(0)");
         Enter(u"txtWho(0)");
         Tab();
@@ -198,7 +198,7 @@ TEST_F(LenderDialog, EditedLinesKeepTheirCharacters) {
         Key(dialog, Qt::Key_Return);
     }));
     EXPECT_EQ(Who(0), Contact + u"\r\n\r\nend"_s);
-    // The row's field keeps the breaks of what is edited there.
+    // Editing in the row's field keeps the line breaks.
     Enter(u"txtWho(0)");
     Press(Qt::Key_End);
     Type(u"s");

@@ -1,4 +1,4 @@
-// Lists to choose from and the box for financed points.
+// The lists and the box for financed points.
 
 #include "Lists.h"
 #include "WindowFixture.h"
@@ -79,7 +79,7 @@ TEST_F(ChoiceLists, CanBeChosenFromByKeyAlone) {
 TEST_F(ChoiceLists, LeavingStoresWhatStandsThere) {
     Open();
     FillFirstOffer();
-    List(u"cboFrequency(0)").setCurrentIndex(3); // shown, but not picked by the user
+    List(u"cboFrequency(0)").setCurrentIndex(3); // set by the program, not picked by the user
     EXPECT_EQ(Text(u"txtPandI(0)"), u"$599.55");
     Click(u"txtLoanAmount");
     EXPECT_EQ(Text(u"txtPandI(0)"), u"$553.39");
@@ -104,7 +104,7 @@ TEST_F(ChoiceLists, TheFrequencyOfTheLoanHeldTodayDefaultsToMonthly) {
     EXPECT_EQ(Text(u"cboActPaymentFrequency"), u"");
 }
 
-/// Every list and the date of the bands, and one list of the rows.
+/// All lists and the date above the offers, and one list of the rows.
 constexpr std::array TurnedByNoWheel{
     u"cboLoanName",   u"cboLoanType",    u"cboCurPaymentFrequency", u"cboActPaymentFrequency",
     u"dtNextPayment", u"cboFrequency(0)"};
@@ -170,7 +170,7 @@ TEST_F(PointsBox, LeavingItStoresWhatStandsThere) {
     for (const bool ticked : {true, false}) {
         Click(u"txtPoints(0)");
         BackTab();
-        Get<QCheckBox>(u"chkPoints(0)").setChecked(ticked); // shown, but not clicked by the user
+        Get<QCheckBox>(u"chkPoints(0)").setChecked(ticked); // not clicked by the user
         EXPECT_EQ(Financed(), !ticked);
         Tab();
         EXPECT_EQ(Financed(), ticked);

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// A warning of the toolkit is a fault of the window, but for what the display cannot do.
+/// A Qt warning is a fault of the window, except for limits of the display.
 void FailOnWarning(QtMsgType type, const QMessageLogContext& /*where*/, const QString& text) {
     if (type >= QtWarningMsg && !text.startsWith(QLatin1String("This plugin does not support"))) {
         ADD_FAILURE() << text.toStdString();

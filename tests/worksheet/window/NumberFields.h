@@ -6,14 +6,14 @@
 #include <array>
 #include <ostream>
 
-/// A field that takes a number, as the user meets it in the United States, terms in years.
+/// A number field with its texts in the United States, terms in years.
 struct NumberField {
     QStringView name;
-    QStringView picture; ///< what a refusal shows of the number wanted
+    QStringView picture; ///< the number format that a refusal shows
     bool separatorKey;   ///< the decimal symbol can be typed
-    QStringView typed;   ///< a number that it takes
-    QStringView shown;   ///< the same, once the field is left
-    QStringView entered; ///< and once it is entered again
+    QStringView typed;   ///< a number that it accepts
+    QStringView shown;   ///< the same after leaving the field
+    QStringView entered; ///< the same after entering the field again
 };
 
 // clang-format off
@@ -39,7 +39,7 @@ inline void PrintTo(const NumberField& field, std::ostream* out) {
     *out << field.name.toString().toStdString();
 }
 
-/// For the names of tests, which take letters and digits only.
+/// For test names, which allow letters and digits only.
 inline constexpr auto NameOfField = [](const auto& info) {
     QString name = info.param.name.toString();
     return name.remove(u'(').remove(u')').toStdString();

@@ -1,4 +1,4 @@
-// How many rows of offers there are, and how the arrow keys walk through them.
+// The number of offer rows, and moving through them by arrow keys.
 
 #include "WindowFixture.h"
 
@@ -53,7 +53,7 @@ TEST_P(RowsDisplayed, EnteringTheLastRowAppendsOneAndScrollsByOne) {
     EXPECT_EQ(Bar().maximum(), added * Height());
     EXPECT_EQ(Bar().value(), 0);
     EXPECT_TRUE(Bar().isVisible());
-    Click(RowName(u"txtTerm", Displayed() - 1)); // no longer the last
+    Click(RowName(u"txtTerm", Displayed() - 1)); // no longer the last row
     EXPECT_EQ(RowCount(), Displayed() + added);
 }
 
@@ -91,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(Fields, FieldOfARow, ::testing::ValuesIn(FieldsOfARow))
 
 TEST_P(FieldOfARow, EnteredInTheLastRowAppendsAnEmptyOne) {
     Click(RowName(GetParam(), 5));
-    Press(Qt::Key_Escape); // the list that the click opened
+    Press(Qt::Key_Escape); // closes the list that the click opened
     EXPECT_EQ(RowCount(), 7);
     EXPECT_FALSE(Get<QCheckBox>(u"chkPoints(6)").isChecked());
     EXPECT_EQ(List(u"cboFrequency(6)").currentIndex(), -1);
@@ -128,7 +128,7 @@ TEST_F(AppendedRow, TakesAnOfferLikeAnyOther) {
 
 struct Column {
     QStringView name;
-    bool onKeyPress; ///< moves when the key goes down; else when it comes up
+    bool onKeyPress; ///< moves on key press; otherwise on key release
     QStringView typed;
     QStringView shown;
 };
@@ -187,7 +187,7 @@ TEST_P(ArrowKeys, AppendARowOnTheirWayDown) {
     EXPECT_EQ(RowCount(), 8);
 }
 
-/// Counts the keys that a field has left to what is around it.
+/// Counts the keys that a field passes to its parent.
 class Unused : public QObject {
 public:
     using QObject::QObject;

@@ -1,4 +1,4 @@
-// The keyboard goes away for a while and comes back: the field is still being edited.
+// The focus leaves for a moment and returns: the field is still being edited.
 
 #include "NumberFields.h"
 #include "WindowFixture.h"
@@ -82,7 +82,7 @@ TEST_P(PassingFocus, IsNotLeaving) {
         EXPECT_EQ(Edit(field.name).cursorPosition(), 0);
         EXPECT_EQ(Edit(field.name).selectedText(), u"");
         EXPECT_FALSE(Sheet().Dirty()) << "stored without being left";
-        Type(u"1"); // goes on where the user was
+        Type(u"1"); // continues at the same position
         EXPECT_EQ(Text(field.name), u"177");
         Press(Qt::Key_A, Qt::ControlModifier);
         Press(Qt::Key_Delete);

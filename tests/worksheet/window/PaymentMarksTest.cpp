@@ -1,4 +1,4 @@
-// The marks of raised payments and missing inputs, and the notice that goes with the first.
+// The marks of raised payments and missing inputs, and the notice with the first mark.
 
 #include "FieldEdits.h"
 #include "Language.h"
@@ -123,7 +123,7 @@ TEST_F(Marks, WhatIsMissingOfTheLoanHeldTodayIsPink) {
         QStringView amount;
         QStringView term;
         QStringView rate;
-        QStringView pink; ///< initials of the fields that are missing
+        QStringView pink; ///< initials of the missing fields
     };
     const std::vector<Case> rows = {
         {u"", u"", u"", u""},          {u"", u"", u"6", u"AT"},       {u"", u"30", u"6", u"A"},
@@ -176,7 +176,7 @@ QPalette DarkPalette() {
     return dark;
 }
 
-/// Sets the palette of the user's desktop for a while.
+/// Sets the palette of the user's desktop during its lifetime.
 class Desktop {
 public:
     explicit Desktop(const QPalette& palette) { QApplication::setPalette(palette); }

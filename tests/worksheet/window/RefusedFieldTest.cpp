@@ -1,4 +1,4 @@
-// A refused field cannot be left: whatever the user tries does nothing else.
+// A refused field cannot be left, and what the user tries has no other effect.
 
 #include "NumberFields.h"
 #include "WindowFixture.h"
@@ -15,10 +15,10 @@ namespace {
 /// A way to leave a field.
 struct WayOut {
     const char* name;
-    QStringView clicked;           ///< the control that is clicked, if any
-    Qt::Key key = Qt::Key_unknown; ///< else the key that is pressed
+    QStringView clicked;           ///< the control to click, if any
+    Qt::Key key = Qt::Key_unknown; ///< otherwise the key to press
     Qt::KeyboardModifiers modifiers = Qt::NoModifier;
-    bool rowsOnly = false; ///< only a field of a row is left this way
+    bool rowsOnly = false; ///< only possible from a field of a row
 };
 
 void PrintTo(const WayOut& way, std::ostream* out) { *out << way.name; }

@@ -1,4 +1,4 @@
-// Results are reached, read and copied by keyboard, and the tab key still passes them by.
+// Results are reached, read and copied by keyboard; the tab key still skips them.
 
 #include "FieldWidth.h"
 #include "WholeText.h"
@@ -126,7 +126,7 @@ TEST_F(ResultsByKeyboard, EveryEditHasANameForScreenReaders) {
 
 class WideFigures : public WindowTest {
 protected:
-    /// What the mouse finds over a field.
+    /// The tooltip that the mouse shows over a field.
     QString ToolTipOver(QStringView name) {
         QToolTip::hideText();
         QWidget& control = Control(name);

@@ -146,7 +146,7 @@ TEST_F(Scrolling, TheWheelScrollsWhereverItTurns) {
         EXPECT_EQ(Text(u"cboFrequency(0)"), u"Twice a month");
         EXPECT_EQ(Text(u"cboFrequency(2)"), u"");
     }
-    // Also a list that has the keyboard keeps its choice.
+    // A focused list keeps its choice, too.
     ScrollTo(0);
     EXPECT_EQ(Sheet().OfferOfRow(Row{0}).FrequencyCode(), u"B");
     Click(u"chkPoints(0)");

@@ -1,4 +1,4 @@
-// The headings that sort the offers, and that everything afterwards finds its own offer.
+// The headings sort the offers, and everything afterwards uses the right offer.
 
 #include "Language.h"
 #include "SortButton.h"
@@ -23,7 +23,7 @@ class SortHeadings : public WindowTest {
 protected:
     SortHeadings() { OpenWithOffers({}); }
 
-    /// Three lenders for the same loan: A is dear, B is between, and C is cheap but the slowest.
+    /// Three lenders for the same loan: A is expensive, B is between, C is cheapest but slowest.
     void OpenWithOffers(const Start& start) {
         struct Offer {
             const char* who;
@@ -219,7 +219,7 @@ TEST_F(SortHeadings, TheActiveOneSaysSoInEveryLanguage) {
     EXPECT_EQ(interest.toolTip(), u"Haga clic para ordenar de menos a más intereses");
 }
 
-/// The letters and grounds of a dark desktop.
+/// The text and background colours of a dark desktop.
 QPalette Dark() {
     QPalette dark(QColor(53, 53, 53));
     dark.setColor(QPalette::ButtonText, Qt::white);

@@ -1,4 +1,4 @@
-// The window as it comes up and goes.
+// Opening and closing the window.
 
 #include "WindowFixture.h"
 
@@ -90,7 +90,7 @@ TEST_F(Closing, ByTheKeysOfTheMenu) {
 
 TEST_F(Closing, WhatStillWaitsIsShownOnce) {
     Open();
-    Door().WhileOpen([] { Settle(); }); // a box lets other events happen
+    Door().WhileOpen([] { Settle(); }); // an open box processes other events
     Window().GetMessages().Post(u"one"_s);
     Window().GetMessages().Post(u"two"_s);
     Window().GetMessages().ShowRest();
@@ -99,7 +99,7 @@ TEST_F(Closing, WhatStillWaitsIsShownOnce) {
     EXPECT_FALSE(Window().GetMessages().Waiting());
 }
 
-// The date of the loan held today is an input like any other.
+// The date of the current loan is an input like any other.
 TEST_F(Closing, AnotherDateIsAChange) {
     Open();
     Click(u"dtNextPayment");
@@ -107,14 +107,14 @@ TEST_F(Closing, AnotherDateIsAChange) {
     EXPECT_TRUE(Sheet().Dirty());
 }
 
-// A loan that is never paid off is told; the value stands and the rest goes on.
+// A loan that is never paid off is reported; the value is kept and everything else is computed.
 TEST_F(Closing, AFailureOfTheArithmeticIsToldAndNothingIsLost) {
     Open();
     Fill(u"txtCurrentBalance", u"10000");
     Fill(u"txtCurInterestRate", u"12");
     Choose(u"cboActPaymentFrequency", 0);
     Enter(u"txtCurActualPayment");
-    Type(u"100"); // just the interest
+    Type(u"100"); // exactly the interest
     Press(Qt::Key_Return);
     const QStringList told = SettledMessages();
     ASSERT_EQ(told.size(), 1);

@@ -1,4 +1,4 @@
-// No text is cut off, in either language and with large letters.
+// No text is cut off, in either language and with a large font.
 
 #include "DatePicker.h"
 #include "DisplayFormats.h"
@@ -23,7 +23,7 @@ struct Appearance {
     QLocale locale;
     int language;
     bool termInMonths;
-    double size; ///< of the letters, against the desktop's own
+    double size; ///< of the font, relative to the desktop's font
 };
 
 void PrintTo(const Appearance& appearance, std::ostream* out) { *out << appearance.name; }
@@ -34,7 +34,7 @@ const std::vector<Appearance> Appearances = {
     {"EnglishLarge", UnitedStates, English, false, 2}, {"SpanishLarge", Spain, Spanish, true, 2},
 };
 
-/// The user's letters for a while.
+/// Sets the user's font during its lifetime.
 class Letters {
 public:
     explicit Letters(double size) {
@@ -80,7 +80,7 @@ private:
     void ExpectFits() {
         for (const auto* control : Window().findChildren<Kind*>()) {
             if (!control->isVisible() || control->objectName() == u"cboLoanName") {
-                continue; // a name may be of any length
+                continue; // a name may have any length
             }
             SCOPED_TRACE(control->objectName().toStdString());
             const auto* label = qobject_cast<const QLabel*>(control);

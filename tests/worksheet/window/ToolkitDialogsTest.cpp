@@ -1,4 +1,4 @@
-// What the toolkit itself shows (menus of fields, dialogs, message boxes) in the language in use.
+// Qt's own menus of fields, dialogs and message boxes are in the current language.
 
 #include "MessageBoxes.h"
 #include "ToolkitTexts.h"
@@ -29,7 +29,7 @@ QString Plain(QString text) { return text.remove(u'&'); }
 
 class ToolkitDialogs : public WindowTest {
 protected:
-    /// Each language after another one, and the first one again.
+    /// Every change between languages, and back to the first.
     static constexpr std::array Switches{English, Spanish, English, Spanish};
 
     void InEveryLanguage(const std::function<QStringList()>& read,
@@ -47,7 +47,7 @@ protected:
         const QPoint at = control.rect().center();
         QContextMenuEvent event(QContextMenuEvent::Keyboard, at, control.mapToGlobal(at));
         QStringList entries;
-        // The date picker's menu runs a loop of its own.
+        // The date picker's menu runs a nested event loop.
         QTimer::singleShot(0, &control, [&] {
             if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
                 for (const QAction* action : menu->actions()) {
@@ -140,7 +140,7 @@ TEST_F(ToolkitDialogs, PrintDialog) {
                                        u"Ubicación:"_s, u"Tipo:"_s, u"a"_s}});
 }
 
-/// Notes what the toolkit asks for.
+/// Records the texts that Qt asks for.
 class Listener : public QTranslator {
 public:
     QString translate(const char* context, const char* source, const char* /*comment*/,
@@ -155,8 +155,8 @@ private:
     mutable std::set<std::pair<std::string, std::string>> m_asked;
 };
 
-/// Every text that the dialogs ask for is known in Spanish, but for those of a choice of pages,
-/// which the program does not offer.
+/// Every text of the dialogs has a Spanish translation, except those for choosing pages, which the
+/// program does not offer.
 TEST_F(ToolkitDialogs, LeaveNothingInEnglish) {
     const auto isNeverShown = [](const std::string& source) {
         return source == "Pages" || source.starts_with("Specify pages");

@@ -16,7 +16,7 @@ namespace {
 class WallpaperOfTheWindow : public WindowTest {
 protected:
     QString PathOf(const QString& file) const { return m_folder.filePath(file); }
-    /// A picture whose every pixel tells its place.
+    /// A picture in which every pixel's colour encodes its position.
     QImage Picture(int width, int height) const {
         QImage picture(width, height, QImage::Format_RGB32);
         for (int x = 0; x < width; ++x) {

@@ -1,4 +1,4 @@
-// The loans that everybody can check by hand, typed by key.
+// Loans that anyone can check by hand, typed key by key.
 
 #include "WindowFixture.h"
 
@@ -29,14 +29,14 @@ class WorkedExamples : public WindowTest, public ::testing::WithParamInterface<C
 protected:
     WorkedExamples() { Open({.locale = GetParam().locale, .language = GetParam().language}); }
 
-    /// An amount written the American way, as this country writes it.
+    /// An amount in American format, converted to the format of this country.
     static QString Money(QStringView american) {
         if (GetParam().locale == UnitedStates) {
             return u'$' + american.toString();
         }
         QString amount = american.toString();
         amount.replace(u',', u'#').replace(u'.', u',').replace(u'#', u'.');
-        // Spain groups from five digits on.
+        // Spain groups only numbers of five digits or more.
         if (GetParam().locale == Spain && amount.size() == 8) {
             amount.remove(u'.');
         }

@@ -1,5 +1,5 @@
-// Help files with arbitrary contents. A help file that opens has pages; one that does not open is a
-// failure with a message. Every query of it returns.
+// Help files with arbitrary contents. A file that opens has pages and answers every query. One that
+// does not open is a failure with a message.
 
 #include "CompiledBook.h"
 #include "Failure.h"

@@ -67,8 +67,7 @@ TEST_P(HelpRead, ContentsKeepTheMarkOfTheUser) {
     EXPECT_EQ(contents.currentIndex(), fields);
 }
 
-/// A page ends below its last section, so without extra room it could not scroll that section to
-/// the top.
+/// Without extra room below it, the last section of a page could not scroll to the top.
 TEST_P(HelpRead, TheSectionAskedForIsAtTheTop) {
     auto& view = InHelp<HelpView>(QStringLiteral("txtPage"));
     for (const char* page :

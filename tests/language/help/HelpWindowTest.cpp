@@ -166,7 +166,7 @@ TEST_P(HelpShown, SearchFindsWholeAndBegunWords) {
     struct Case {
         const char* english;
         const char* spanish;
-        const char* page; ///< null: many pages have it
+        const char* page; ///< null: found, but on no particular page
     };
     for (const Case& tested :
          {Case{"refinancing", "refinanciar", "refinance.html"},

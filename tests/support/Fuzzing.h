@@ -20,11 +20,11 @@
 #include <vector>
 
 // Random input for one external interface, as much as the time allows. Inputs worth keeping are
-// separate files in tests/data/<door>-corpus and are tried first; random inputs are derived from
+// separate files in tests/data/<name>-corpus and are tried first; random inputs are derived from
 // them.
 //
 // QUEND_FUZZ_SECONDS is the duration (default: a second or two), QUEND_FUZZ_SEED the first seed
-// (1). If QUEND_FUZZ_KEEP names a folder, each input is written there as <door>.last before it is
+// (1). If QUEND_FUZZ_KEEP names a folder, each input is written there as <name>.last before it is
 // tried, so that it survives a crash (scripts/fuzz).
 
 /// An endless sequence of numbers, the same for the same seed on every system.

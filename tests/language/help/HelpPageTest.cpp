@@ -67,7 +67,7 @@ TEST_P(HelpRead, ContentsKeepTheMarkOfTheUser) {
     EXPECT_EQ(contents.currentIndex(), fields);
 }
 
-/// Without extra room below it, the last section of a page could not scroll to the top.
+/// Without extra space below it, the last section of a page could not scroll to the top.
 TEST_P(HelpRead, TheSectionAskedForIsAtTheTop) {
     auto& view = InHelp<HelpView>(QStringLiteral("txtPage"));
     for (const char* page :
@@ -88,7 +88,7 @@ TEST_P(HelpRead, TheSectionAskedForIsAtTheTop) {
     }
 }
 
-/// The extra room below a page is only for its sections; a whole page ends with its text.
+/// The extra space below a page is only for its sections; a whole page ends with its text.
 TEST_P(HelpRead, PagesEndWithTheirText) {
     auto& view = InHelp<HelpView>(QStringLiteral("txtPage"));
     const auto below = [&] { return view.document()->rootFrame()->frameFormat().bottomMargin(); };

@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-/// A temporary user's store for a test. It holds the program's key and nothing else.
+/// A temporary store for a test. It holds the program's key and nothing else.
 class StoreFolder {
 public:
     StoreFolder() { Store().CreateKey(Root, BaseKey); }

@@ -94,8 +94,7 @@ void WindowTest::Wheel(const QWidget& control, int notches) {
 void WindowTest::TurnWheel(QPoint at, int eighthsOfDegree) {
     QWheelEvent event(at, m_window->mapToGlobal(at), QPoint(), QPoint(0, eighthsOfDegree),
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(
-        &event); // only a wheel event from hardware can give the focus
+    QSpontaneKeyEvent::setSpontaneous(&event); // only hardware wheel events give the focus
     qApp->notify(m_window->windowHandle(), &event);
 }
 

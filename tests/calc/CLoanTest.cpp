@@ -125,7 +125,7 @@ struct DirtyCase {
 };
 
 TEST_F(CLoanTest, MarksTheWorksheetDirtyWhenAValueChanges) {
-    m_loan.Payment(); // so that the actual payment is no longer raised
+    m_loan.Payment(); // later calls no longer raise the actual payment
     const QString weekly = GetResourceText(112);
     const std::vector<DirtyCase> cases{
         {"FinancePoints", [](CLoan& loan) { loan.SetFinancePoints(true); }},
@@ -210,7 +210,7 @@ TEST_F(CLoanTest, RaisesALowActualPaymentAndTellsOnce) {
     m_loan.Payment(); // now high enough
     EXPECT_FALSE(m_loan.Forced());
     EXPECT_EQ(m_context.dirtied, 1);
-    m_loan.SetInterestRate(0.05); // a lower payment leaves the actual one alone
+    m_loan.SetInterestRate(0.05); // does not lower the actual payment
     EXPECT_EQ(m_loan.Payment(), Units(786.82));
     EXPECT_EQ(m_loan.ActualPayment(), Units(849.55));
     EXPECT_FALSE(m_loan.Forced());
@@ -271,7 +271,7 @@ TEST_F(CLoanTest, ChecksAnEnteredActualPayment) {
 TEST_F(CLoanTest, RaisesAnAcceptedZeroAtTheNextReading) {
     m_loan.SetActualPayment(Money());
     EXPECT_EQ(m_loan.ActualPayment(), Money());
-    EXPECT_TRUE(m_loan.Forced()); // checking the entry had computed the payment first
+    EXPECT_TRUE(m_loan.Forced()); // checking the entry already computed the payment
     m_loan.Payment();
     EXPECT_EQ(m_loan.ActualPayment(), Units(849.55));
     EXPECT_TRUE(m_loan.Forced());
@@ -288,10 +288,10 @@ TEST_F(CLoanTest, PaysOffFromTodayOn) {
     EXPECT_EQ(m_loan.PayoffDate(), Date::FromCalendar(2026, 4, 10));
     EXPECT_EQ(m_loan.Interest(), Units(14.1));
     m_loan.SetActualPayment(Units(1'010.0));   // exactly clears it
-    EXPECT_EQ(m_loan.Interest(), Units(14.1)); // still of the last schedule
+    EXPECT_EQ(m_loan.Interest(), Units(14.1)); // result of the previous schedule
     EXPECT_EQ(m_loan.PayoffDate(), Date::FromCalendar(2026, 4, 10));
     EXPECT_EQ(m_loan.Interest(), Units(10.0));
-    m_loan.SetActualPayment(Units(1'010.01)); // overpays: no day later than today
+    m_loan.SetActualPayment(Units(1'010.01)); // overpays: still dated today
     EXPECT_EQ(m_loan.PayoffDate(), m_context.today);
 }
 
@@ -300,7 +300,7 @@ TEST_F(CLoanTest, PaysOffAnUnknownFrequencyWithoutInterestOrTime) {
     m_loan.SetActualPayment(Units(1'000.0));
     EXPECT_EQ(m_loan.PayoffDate(), m_context.today);
     EXPECT_EQ(m_loan.Interest(), Money());
-    m_loan.SetActualPayment(Units(125.0)); // all for half the escrow
+    m_loan.SetActualPayment(Units(125.0)); // half the escrow takes all of it
     EXPECT_THROW(m_loan.PayoffDate(), OverflowFailure);
 }
 

@@ -16,7 +16,7 @@ static_assert(!std::is_convertible_v<Date, bool>);
 static_assert(Date().IsNone());
 static_assert(Date::FromDays(1).Days() == 1);
 
-/// The days a date comes to, or none where the calendar ends.
+/// The day number of a date, or none outside the calendar.
 template <typename Make>
 std::optional<int> Days(Make make) {
     try {
@@ -41,7 +41,7 @@ TEST(Date, CountsDaysSince30December1899) {
         {    1899,    12,  31,            1 },
         {    1899,    12,  29,           -1 },
         {    1900,     2,  28,           60 },
-        {    1900,     2,  29, std::nullopt }, // no leap year
+        {    1900,     2,  29, std::nullopt }, // not a leap year
         {    1900,     3,   1,           61 },
         {    1970,     1,   1,       25'569 },
         {    2000,     2,  29,       36'585 },
@@ -57,7 +57,7 @@ TEST(Date, CountsDaysSince30December1899) {
         {    2026,     1,  32, std::nullopt },
         {    2026,   257,   1, std::nullopt }, // must not become January
         {    2026,     1, 257, std::nullopt }, // nor the first
-        {  67'562,     1,   1, std::nullopt }, // nor the year 2026
+        {  67'562,     1,   1, std::nullopt }, // nor year 2026
     };
     // clang-format on
     for (const auto& [year, month, day, days] : cases) {

@@ -60,7 +60,7 @@ TEST(DueDates, InDaysAreAllEquallyFarApart) {
     EXPECT_EQ(Walk(DailyDates(DateOf(2028y / 2 / 15), 28), 2), fourWeeks);
 }
 
-/// The stepping calendar beside the converting one, to the last date there is.
+/// Compares the stepping calendar with the converting one, up to the last date.
 TEST(DueDates, OfAMonthlyLoanFollowTheCalendarToItsEnd) {
     for (int start = 46'050; start < 46'054; ++start) { // the last days of January
         Date expected = Date::FromDays(start);

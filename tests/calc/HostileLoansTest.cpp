@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int LoanCount = 10'000;
-constexpr int Patience = 1'000; // periods that the plain loop is followed for
+constexpr int Patience = 1'000; // most periods that the plain loop runs
 
 std::optional<ScheduleTotals> Fast(const HostileLoan& loan) {
     try {
@@ -23,8 +23,8 @@ std::optional<ScheduleTotals> Fast(const HostileLoan& loan) {
     }
 }
 
-/// The schedule as one would write it down, one period after the other, with converting calendar
-/// steps and no shortcut.
+/// The schedule as a plain loop, one period after the other, with converting calendar steps and no
+/// shortcut.
 class PlainLoop {
 public:
     enum class End { Paid, Overflow, Unknown };
@@ -123,12 +123,12 @@ TEST(HostileLoans, AllEndAsThePlainLoopDoes) {
             EXPECT_EQ(fast->periods, slow.periods);
         }
     }
-    // Both ends were met often enough to mean something.
+    // Both ends occurred often enough for the comparison to be meaningful.
     EXPECT_GT(compared["paid"], LoanCount / 4);
     EXPECT_GT(compared["overflow"], LoanCount / 50);
 }
 
-/// Sums over the records that a schedule showed to its watch.
+/// Sums over the records that a schedule passed to its observer.
 struct Watched {
     Money interest;
     Money principal;
@@ -179,7 +179,7 @@ TEST(HostileLoans, RepayExactlyTheirPrincipal) {
     EXPECT_GT(repaid, LoanCount / 16);
 }
 
-/// Asks an offer everything; whatever comes but a result or an overflow ends the test.
+/// Asks an offer for every result. Anything but a result or an overflow ends the test.
 int AnswersOf(const HostileLoan& loan, RecordingLoanContext& context) {
     CLoan offer(context);
     offer.SetStartingAmount(loan.amount);

@@ -40,7 +40,7 @@ constexpr std::int64_t Smallest = std::numeric_limits<std::int64_t>::min();
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
 
-/// The count that an amount comes to, or none where the range of money is left.
+/// The count of an amount, or none where it leaves the range of money.
 template <typename Make>
 std::optional<std::int64_t> Count(Make make) {
     try {
@@ -68,20 +68,20 @@ TEST(Money, TakesTheNearestTenThousandthOrCentOfADouble) {
         {  0.15625,                                      1'562,                      1'600 },
         {  -0.03125,                                      -312,                       -300 },
         {  -0.09375,                                      -938,                       -900 },
-        {  0.00005,                                          0,                          0 }, // in ten-thousandths it shows as the half
+        {  0.00005,                                          0,                          0 }, // as ten-thousandths exactly the half
         {  0.0000501,                                        1,                          0 },
         {  0.125,                                        1'250,                      1'200 },
         {  0.135,                                        1'350,                      1'400 },
         {  0.375,                                        3'750,                      3'800 },
         {  -0.125,                                      -1'250,                     -1'200 },
         {  -0.375,                                      -3'750,                     -3'800 },
-        {  0.12500000000001,                             1'250,                      1'300 }, // by way of ten-thousandths 0.12
-        {  0.13499999999999,                             1'350,                      1'300 }, // and this 0.14
+        {  0.12500000000001,                             1'250,                      1'300 }, // 0.12 if rounded to ten-thousandths first
+        {  0.13499999999999,                             1'350,                      1'300 }, // and this would be 0.14
         {  599.5505251527569,                        5'995'505,                  5'995'500 },
         {  922'337'203'685'477.5,    9'223'372'036'854'774'784,  9'223'372'036'854'774'400 },
         {  922'337'203'685'477.625,               std::nullopt,               std::nullopt },
         {  -922'337'203'685'477.5,  -9'223'372'036'854'774'784, -9'223'372'036'854'774'400 },
-        {  -922'337'203'685'477.625,                  Smallest,               std::nullopt }, // in whole cents it has no room
+        {  -922'337'203'685'477.625,                  Smallest,               std::nullopt }, // out of range in whole cents
         {  1e300,                                 std::nullopt,               std::nullopt },
         {  -1e15,                                 std::nullopt,               std::nullopt },
         {  Infinity,                              std::nullopt,               std::nullopt },

@@ -1,4 +1,4 @@
-// An offer over random loans: what it answers follows from the rules below it.
+// An offer over random loans: its results follow from the rules of payment and schedule.
 
 #include "CLoan.h"
 
@@ -13,7 +13,7 @@
 
 namespace {
 
-/// An offer of a random loan in a worksheet of its own.
+/// An offer of a random loan in a separate worksheet.
 struct RandomOffer {
     explicit RandomOffer(Random& random) : loan(RandomLoan::Make(random)) {
         context.escrowMonthly = loan.escrowMonthly;
@@ -31,8 +31,8 @@ struct RandomOffer {
     CLoan offer{context};
 };
 
-/// Points come in eighths, so that amount * eighths is a whole number and the rounded points are
-/// found by counting: of 800 parts so many, the nearest ten-thousandth of it.
+/// Points are in eighths, so amount * eighths is a whole number. The exact points are that number
+/// of 800ths; the program rounds them to the nearest ten-thousandth.
 TEST(OfferProperties, FinancedPointsAreBorrowedAndOthersAreNot) {
     ForRandomCases(2'000, [](Random& random) {
         RandomOffer tried(random);
@@ -45,8 +45,8 @@ TEST(OfferProperties, FinancedPointsAreBorrowedAndOthersAreNot) {
             return;
         }
         const std::int64_t parts = amount * static_cast<std::int64_t>(loan.points * 8.0);
-        // Half a ten-thousandth is 400 parts. An amount of up to 10^13 ten-thousandths times points
-        // strays by less than one part in 10^13 * 80 parts: four roundings of 2^-53 are 0.36.
+        // Half a ten-thousandth is 400 parts. The error of an amount of up to 10^13 ten-thousandths
+        // times points is below one part in 10^13 * 80 parts: four roundings of 2^-53 are 0.36.
         EXPECT_LE(std::abs(borrowed * 800 - parts), 401);
     });
 }
@@ -82,7 +82,7 @@ TEST(OfferProperties, ResultsAreThoseOfItsPrincipalPaymentAndSchedule) {
     EXPECT_GT(repaid, 0);
 }
 
-/// Whatever is entered: nothing positive below the payment is kept, and what is kept is told right.
+/// No positive payment below the computed one is kept, and each refusal is reported.
 TEST(OfferProperties, AnIntendedPaymentBelowTheComputedOneIsRefused) {
     ForRandomCases(2'000, [](Random& random) {
         RandomOffer tried(random);

@@ -1,4 +1,4 @@
-// The payment over random loans, beside a slow computation that double precision has no part in.
+// The payment over random loans, compared with a slow computation without double precision.
 
 #include "Payment.h"
 
@@ -9,8 +9,8 @@
 
 namespace {
 
-/// To the cent, unless the true payment lies so close to half a cent that double precision cannot
-/// tell the side; then it is one of the two neighbours. Not one payment in a hundred is so close.
+/// Exact to the cent. Where the true payment is too close to half a cent for double precision, the
+/// result is one of its two neighbours. This applies to less than 1 % of the payments.
 TEST(PaymentProperties, AgreesToTheCentWithThePrecisePayment) {
     int cases = 0;
     int undecided = 0;
@@ -33,7 +33,7 @@ TEST(PaymentProperties, AgreesToTheCentWithThePrecisePayment) {
     EXPECT_LE(undecided, 1 + cases / 100);
 }
 
-/// A multiple of the loan has the same multiple as payment, within half a cent of each.
+/// A multiple of the loan has the same multiple as its payment, within half a cent of each.
 TEST(PaymentProperties, GrowsAsTheLoanGrows) {
     ForRandomCases(4'000, [](Random& random) {
         RandomLoan loan = RandomLoan::Make(random);
@@ -50,7 +50,7 @@ TEST(PaymentProperties, GrowsAsTheLoanGrows) {
     });
 }
 
-/// More borrowed, a higher rate or a shorter term never lowers the payment.
+/// A larger amount, a higher rate or a shorter term never lowers the payment.
 TEST(PaymentProperties, NeverFallsWithPrincipalOrRateNorRisesWithTheTerm) {
     ForRandomCases(4'000, [](Random& random) {
         const RandomLoan loan = RandomLoan::Make(random);
@@ -61,7 +61,7 @@ TEST(PaymentProperties, NeverFallsWithPrincipalOrRateNorRisesWithTheTerm) {
         const Money usual = payment(loan.amount, loan.rate, loan.term);
         const Money more = loan.amount + Money::FromTenThousandths(random.Whole(1, 1'000'000));
         EXPECT_GE(payment(more, loan.rate, loan.term), usual);
-        // Steps so wide that what double precision strays by is nothing beside them.
+        // The steps are so wide that the error of double precision is negligible.
         EXPECT_GE(payment(loan.amount, loan.rate * 1.01 + 0.0001, loan.term), usual);
         EXPECT_LE(payment(loan.amount, loan.rate, loan.term + random.Int(1, 60)), usual);
     });

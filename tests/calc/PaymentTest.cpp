@@ -17,7 +17,7 @@ struct PaymentCase {
     double rate;
     int term;
     QString code;
-    std::optional<std::int64_t> cents; ///< none: OverflowFailure
+    std::optional<std::int64_t> cents; ///< none means OverflowFailure
 };
 
 TEST(Payment, RepaysALoanWithinItsTerm) {
@@ -40,14 +40,14 @@ TEST(Payment, RepaysALoanWithinItsTerm) {
         {   100'000.0, 0.06,     360,             u"m"_s,            0 },
         {   100'000.0, NoNumber, 360,             u"X"_s,            0 },
         {  -100'000.0, 0.06,     360,             u"M"_s,      -59'955 },
-        {   100'000.0, 0.06,     Longest,         u"M"_s,       50'000 }, // interest alone
+        {   100'000.0, 0.06,     Longest,         u"M"_s,       50'000 }, // interest only
         {   100'000.0, 0.06,     Longest / 2,     u"B"_s,       25'000 },
         {   100'000.0, 0.06,     Longest / 2 + 1, u"B"_s, std::nullopt },
-        {         0.0, 0.06,     Longest,         u"B"_s,            0 }, // a missing input comes first
+        {         0.0, 0.06,     Longest,         u"B"_s,            0 }, // a missing input is checked first
         {   100'000.0, 0.06,     Longest,         u"X"_s,            0 },
         {   100'000.0, NoNumber, 360,             u"M"_s, std::nullopt },
-        {   100'000.0, -30.0,    100,             u"W"_s, std::nullopt }, // a broken power of a negative number
-        {   100'000.0, 1e-17,    360,             u"M"_s, std::nullopt }, // vanishes beside 1
+        {   100'000.0, -30.0,    100,             u"W"_s, std::nullopt }, // a fractional power of a negative number
+        {   100'000.0, 1e-17,    360,             u"M"_s, std::nullopt }, // 1 + rate rounds to 1
         {        9e14, 10.0,     1,               u"M"_s, std::nullopt },
     };
     // clang-format on

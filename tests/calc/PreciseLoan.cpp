@@ -9,7 +9,7 @@ std::int64_t Floor(Precise value) {
     return static_cast<Precise>(whole) > value ? whole - 1 : whole;
 }
 
-/// The root of a value above zero, as Newton finds it: each step doubles the correct digits.
+/// The root of a value above zero, by Newton's method: each step doubles the correct digits.
 Precise Root(Precise value, int degree) {
     Precise root = 1;
     for (int step = 0; step < 200; ++step) {
@@ -62,7 +62,7 @@ Precise PeriodRate(const Frequency& frequency, double rate) {
 }
 
 /// Double precision rounds five times: the balance in units, times the rate, divided by the year,
-/// times the part of it, and back to ten-thousandths. Six allows for what they do to each other.
+/// times the part of it, and back to ten-thousandths. Six allows for their combined effect.
 PreciseAmount PreciseInterest(const Frequency& frequency, double rate, Money balance) {
     const Precise interest =
         static_cast<Precise>(balance.TenThousandths()) * PeriodRate(frequency, rate);
@@ -74,7 +74,7 @@ PreciseAmount PreciseInterest(const Frequency& frequency, double rate, Money bal
 /// - 1 + x is off by up to two roundings, and v by n times as much;
 /// - n, a product and a quotient, is off by two, and v by n * ln(1 + x) <= n * x times as much;
 /// - the power itself is off by two (one unit in its last place);
-/// - all that turns from a part of v into a part of 1 - v, which weighs more the smaller it is;
+/// - relative to 1 - v these errors of v weigh more, the smaller 1 - v is;
 /// - x, the difference, two quotients, the principal and the cents add one rounding each.
 PreciseAmount PrecisePayment(const Frequency& frequency, Money principal, double rate,
                              int termMonths) {
@@ -83,7 +83,7 @@ PreciseAmount PrecisePayment(const Frequency& frequency, Money principal, double
                         : frequency.code == u'W' ? 26
                                                  : 13;
     const auto x = static_cast<Precise>(rate) / perYear;
-    // A term of months need not hold a whole number of periods, but twelve times as many do.
+    // A term of months may not be a whole number of periods, but twelve times it is.
     const std::int64_t twelfths = std::int64_t(termMonths) * perYear;
     const Precise growth = Power(1 + x, twelfths / 12) * Power(Root(1 + x, 12), twelfths % 12);
     const Precise v = 1 / growth;

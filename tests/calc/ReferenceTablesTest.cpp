@@ -56,7 +56,7 @@ Number ToNumber(const std::string& text) {
     return number;
 }
 
-/// "1234.5678": always four decimals.
+/// "1234.5678", always with four decimals.
 Money ToMoney(std::string text) {
     EXPECT_EQ(text.size() - text.find('.'), 5U) << text;
     text.erase(text.find('.'), 1);
@@ -121,7 +121,7 @@ void CheckCurrentLoan(const Row& row) {
         EXPECT_THROW(RunSchedule(terms), OverflowFailure);
         return;
     }
-    // The worksheet asks for no schedule while the balance or the payment is missing.
+    // The worksheet runs no schedule while the balance or the payment is missing.
     const bool missing = terms.balance.IsZero() || terms.payment.IsZero();
     const ScheduleTotals totals = missing ? ScheduleTotals() : RunSchedule(terms);
     EXPECT_EQ(totals.paid, ToMoney(row.at("amount_left")));

@@ -1,4 +1,4 @@
-// What holds for the schedule of every loan, over random ones.
+// Properties of the schedule of every loan, tested over random ones.
 
 #include "Failure.h"
 #include "PreciseLoan.h"
@@ -14,7 +14,7 @@
 
 namespace {
 
-/// The least payment, as it is or raised by up to its own amount.
+/// The least payment, exact or raised by up to its own amount.
 Money PaymentOf(const RandomLoan& loan, Random& random) {
     const Money least = loan.LeastPayment();
     if (random.OneIn(3)) {
@@ -26,7 +26,7 @@ Money PaymentOf(const RandomLoan& loan, Random& random) {
 
 struct WatchedRun {
     std::vector<SchedulePeriod> periods;
-    std::optional<ScheduleTotals> totals; ///< none: OverflowFailure
+    std::optional<ScheduleTotals> totals; ///< none means OverflowFailure
 };
 
 WatchedRun Watch(const ScheduleTerms& terms) {
@@ -40,7 +40,7 @@ WatchedRun Watch(const ScheduleTerms& terms) {
     return run;
 }
 
-/// Principal parts repay the principal, interest and payments add up to the totals.
+/// The principal parts repay the principal. Interest and payments add up to the totals.
 void CheckSums(const ScheduleTerms& terms, const WatchedRun& run) {
     Money principal;
     Money interest;
@@ -57,7 +57,7 @@ void CheckSums(const ScheduleTerms& terms, const WatchedRun& run) {
     EXPECT_TRUE(run.periods.back().balance.IsZero());
 }
 
-/// Every payment but the last is the intended one, and the last one is no larger.
+/// Every payment but the last is the intended one; the last one is no larger.
 void CheckPayments(const ScheduleTerms& terms, const WatchedRun& run) {
     for (const SchedulePeriod& period : run.periods) {
         const Money payment = period.principal + period.interest + terms.escrowShare;
@@ -86,8 +86,8 @@ TEST(ScheduleProperties, PrincipalPartsAreThePrincipalAndTheSumsAgree) {
     EXPECT_GT(repaid, 0);
 }
 
-/// Under no rate from zero on does a balance rise or stay; a payment that would let it is an
-/// overflow before the first period. After it, only the end of all dates is one.
+/// At a rate of zero or above, no balance rises or stays: a payment that would allow it is an
+/// overflow before the first period. Later, only the end of the calendar is an overflow.
 TEST(ScheduleProperties, BalancesAndInterestNeverGrow) {
     ForRandomCases(500, [](Random& random) {
         RandomLoan loan = RandomLoan::Make(random);
@@ -114,8 +114,8 @@ TEST(ScheduleProperties, BalancesAndInterestNeverGrow) {
     });
 }
 
-/// Under a rate below zero a balance grows exactly when the payment takes out more than the
-/// interest brings.
+/// At a rate below zero, a balance grows exactly when the payment takes out more than the interest
+/// earns.
 TEST(ScheduleProperties, BalancesGrowUnderANegativeRateAlone) {
     int grown = 0;
     ForRandomCases(100, [&grown](Random& random) {
@@ -136,7 +136,7 @@ TEST(ScheduleProperties, BalancesGrowUnderANegativeRateAlone) {
     EXPECT_GT(grown, 0);
 }
 
-/// Rounding keeps the order of two amounts, so that a balance once lower stays lower.
+/// Rounding keeps the order of two amounts, so a balance that is once lower stays lower.
 TEST(ScheduleProperties, AHigherPaymentNeverPaysOffLaterNorCostsMore) {
     ForRandomCases(500, [](Random& random) {
         const RandomLoan loan = RandomLoan::Make(random);
@@ -148,7 +148,7 @@ TEST(ScheduleProperties, AHigherPaymentNeverPaysOffLaterNorCostsMore) {
         const std::optional<ScheduleTotals> usual = Watch(loan.Terms(payment)).totals;
         const std::optional<ScheduleTotals> raised = Watch(loan.Terms(higher)).totals;
         if (!usual) {
-            return; // less than the interest: repaid by no date
+            return; // less than the interest: never repaid
         }
         ASSERT_TRUE(raised) << higher.TenThousandths();
         EXPECT_LE(raised->payoff, usual->payoff);
@@ -157,9 +157,9 @@ TEST(ScheduleProperties, AHigherPaymentNeverPaysOffLaterNorCostsMore) {
     });
 }
 
-/// Each period from the balance before it: its interest to the ten-thousandth, unless the true one
-/// lies so close to half of it that double precision cannot tell the side; the rest without a
-/// doubt.
+/// Computes each period from the balance before it. The interest is exact to the ten-thousandth,
+/// unless the true one is so close to half of it that double precision cannot decide the side. The
+/// rest is exact.
 class SlowSchedule {
 public:
     explicit SlowSchedule(const ScheduleTerms& terms)
@@ -185,7 +185,7 @@ public:
     int Undecided() const { return m_undecided; }
 
 private:
-    /// By the calendar, and days from the first date on.
+    /// Months by the calendar, weeks in days from the first date.
     void Step() {
         ++m_steps;
         const char16_t code = m_terms.frequency->code;
@@ -229,9 +229,9 @@ TEST(ScheduleProperties, EveryPeriodAgreesWithThePreciseOne) {
     EXPECT_LE(undecided, 1 + periods / 50);
 }
 
-/// After m payments a of a loan P the balance is P * q^m - a * (q^m - 1) / x, with q = 1 + x: no
-/// period is rounded. A rounded one is off by half a ten-thousandth (and its straying) at most, and
-/// what it is off by bears interest from then on: (1/2 + straying) * (q^m - 1) / x in all.
+/// Without rounding the balance after m payments a of a loan P is P * q^m - a * (q^m - 1) / x, with
+/// q = 1 + x. A rounded period is off by at most half a ten-thousandth (and its error), and that
+/// difference bears interest from then on: (1/2 + error) * (q^m - 1) / x in all.
 TEST(ScheduleProperties, BalancesFollowTheClosedFormula) {
     ForRandomCases(500, [](Random& random) {
         const RandomLoan loan = RandomLoan::Make(random);
@@ -247,7 +247,7 @@ TEST(ScheduleProperties, BalancesFollowTheClosedFormula) {
         Precise growth = 1;
         std::vector<SchedulePeriod> periods = Watch(terms).periods;
         if (!periods.empty()) {
-            periods.pop_back(); // cut to what was left
+            periods.pop_back(); // reduced to the remaining balance
         }
         for (const SchedulePeriod& period : periods) {
             growth *= 1 + x;
@@ -261,9 +261,9 @@ TEST(ScheduleProperties, BalancesFollowTheClosedFormula) {
 }
 
 /// The computed payment is rounded by half a cent, each interest by half a ten-thousandth. While
-/// all that, with its interest, comes to less than half a payment, the loan takes the payments of
-/// its term, or a small one more. Weeks are counted against 365 days, which bears a little less
-/// than the payment allows for: those loans may end sooner.
+/// the sum of these with its interest is less than half a payment, the loan takes the payments of
+/// its term, or a small one more. Loans in weeks may end sooner: weeks are counted against 365
+/// days, so they bear slightly less interest than the payment allows for.
 TEST(ScheduleProperties, TheComputedPaymentRepaysWithinTheTerm) {
     int cases = 0;
     ForRandomCases(500, [&cases](Random& random) {
@@ -288,7 +288,8 @@ TEST(ScheduleProperties, TheComputedPaymentRepaysWithinTheTerm) {
     EXPECT_GT(cases, 0);
 }
 
-/// Without a frequency there is neither interest nor date: equal payments and a rest.
+/// Without a frequency there is neither interest nor date: equal payments and a last one with the
+/// rest.
 TEST(ScheduleProperties, WithoutAFrequencyTheBalanceIsDivided) {
     ForRandomCases(2'000, [](Random& random) {
         const RandomLoan loan = RandomLoan::Make(random);

@@ -18,9 +18,9 @@ struct TotalsCase {
     double rate;
     std::int64_t payment;
     std::int64_t escrowShare;
-    char16_t code; ///< a blank for none
+    char16_t code; ///< a blank means no frequency
     Date start;
-    std::optional<ScheduleTotals> totals; ///< none: OverflowFailure
+    std::optional<ScheduleTotals> totals; ///< none means OverflowFailure
 };
 
 ScheduleTerms TermsOf(const TotalsCase& row) {
@@ -113,7 +113,7 @@ TEST(Schedule, EndsInOverflowWhereNoPayoffCanCome) {
     }
 }
 
-/// A balance that can never fall again is seen in its first period, not after thousands of years.
+/// A balance that can never fall again fails in its first period, not after thousands of years.
 TEST(Schedule, FailsAtOnceWhereTheBalanceCanNeverFall) {
     const Date may = Day(2026, 5, 10);
     // clang-format off
@@ -149,14 +149,14 @@ TEST(Schedule, OfNothingHasNoPeriod) {
     EXPECT_EQ(SchedulePeriod().repeats, 1);
 }
 
-/// The last date can be reached; only a step past it fails. A cut last payment takes no step.
+/// The last date is allowed; only a step past it fails. A cut last payment takes no step.
 TEST(Schedule, MayUseTheLastDate) {
     const Date last = Day(9999, 12, 31);
     Check({"cut", 10'000, 0.0, 10'001, 0, u'M', last, Totals(last, 0, 10'000, 1)});
     Check({"on it", 10'000, 0.0, 10'000, 0, u'W', Day(9999, 12, 17), Totals(last, 0, 10'000, 1)});
 }
 
-/// A negative rate repays by itself, and may overtake what is taken out.
+/// A negative rate repays by itself, and may overtake the amount taken out.
 TEST(Schedule, RunsOnWhileANegativeRateMayStillRepay) {
     const auto termsAt = [](double rate, std::int64_t balance, std::int64_t payment) {
         return ScheduleTerms{.balance = Money::FromTenThousandths(balance),
@@ -166,13 +166,13 @@ TEST(Schedule, RunsOnWhileANegativeRateMayStillRepay) {
                              .frequency = FindFrequency(u"M"),
                              .start = Day(2026, 5, 10)};
     };
-    // At -120 % a tenth of the balance goes each month; a payment of 0.0001 takes the last of it.
+    // At -120 % the balance falls by a tenth each month; a payment of 0.0001 clears the rest.
     const ScheduleTotals alone = RunSchedule(termsAt(-1.2, 10'000'000, 1));
     EXPECT_EQ(alone.paid.TenThousandths(), alone.periods);
     EXPECT_EQ(alone.interest.TenThousandths(), alone.periods - 10'000'000);
     EXPECT_LT(alone.periods, 200);
     // At -2,400 % a balance of 1.00 earns 2.00. When 2.50 is taken out 1.50 remains, which earns
-    // 3.00, more than is taken out: back to 1.00, and so on to the end of all dates.
+    // 3.00, more than is taken out: the balance is 1.00 again, and so on until the last date.
     std::int64_t periods = 0;
     EXPECT_THROW(RunSchedule(termsAt(-24.0, 10'000, -25'000),
                              [&periods](const SchedulePeriod&) { ++periods; }),
@@ -216,7 +216,7 @@ TEST(Schedule, TellsTheWatchEveryPeriod) {
     expect(0, Day(2026, 5, 10), {0, 5'000, 0, 1});
 }
 
-/// An offer wants the payoff alone: the sum of its payments may then be as large as it likes.
+/// An offer needs only the payoff, so the sum of its payments may exceed the range.
 TEST(Schedule, ToThePayoffSumsNoPayments) {
     const TotalsCase enormous{"",   20'000,           0.0, Largest, Largest - 10'000,
                               u'M', Day(2026, 5, 10), {}};

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// What a user does in the box, and what is seen there.
+/// User actions in the dialog, and what it shows.
 class About : public WindowTest, public ::testing::WithParamInterface<int> {
 protected:
     void SetUp() override { Open({.language = GetParam()}); }
@@ -25,7 +25,7 @@ protected:
         QApplication::setPalette(m_palette);
     }
 
-    /// Chooses the entry and runs the deed while the box is open.
+    /// Chooses the menu entry and runs the action while the dialog is open.
     void While(const std::function<void(QDialog&)>& deed) {
         const AboutCommands about(Window(), m_folder.Store(),
                                   {.installed = [this] { return m_tool; },

@@ -1,4 +1,4 @@
-// The way of a message to the mail client of the desktop: a real handler, registered as one.
+// Sends a message to the desktop's mail client: a real handler, registered as one.
 
 #include "DesktopMail.h"
 #include "Language.h"
@@ -17,7 +17,7 @@
 
 namespace {
 
-/// An environment variable, as it was before once this goes.
+/// Sets an environment variable; the destructor restores the previous value.
 class Variable {
 public:
     Variable(const char* name, const QString& value) : m_name(name), m_before(qgetenv(name)) {
@@ -40,7 +40,7 @@ void Write(const QString& path, const QString& text) {
     file.write(text.toUtf8());
 }
 
-/// A desktop whose mail client writes the address that it is given into a file.
+/// A desktop whose mail client writes the address it receives into a file.
 class Desktop {
 public:
     explicit Desktop(const QString& client) {
@@ -58,7 +58,7 @@ public:
     }
 
     QString Got() const { return PathOf(QStringLiteral("got")); }
-    /// Written whole, or not there.
+    /// The file is complete or does not exist.
     QUrl Address() const {
         QFile file(Got());
         return file.open(QIODevice::ReadOnly) ? QUrl::fromEncoded(file.readAll().trimmed())
@@ -130,7 +130,7 @@ TEST_F(MailClient, GetsTheRecommendationInBothLanguages) {
     EXPECT_EQ(SettledMessages(), QStringList());
 }
 
-/// A client that ends badly has had its say in its own window; ours carries on.
+/// A client that fails reports its error in its own window; the program shows nothing.
 TEST_F(MailClient, ThatFailsIsMetWithSilence) {
     const Desktop desktop(QStringLiteral("touch '%1'\nexit 3\n"));
     DesktopMail mail;

@@ -1,5 +1,5 @@
-// The ways out of the program with anything in them: the mail client gets the very message and no
-// shell sees a word of it; what the registry names is started as it is named, with nothing added.
+// The outgoing interfaces of the program with arbitrary contents. The mail client gets exactly the
+// message, and no shell interprets any of it. The command in the registry is started unchanged.
 
 #include "DesktopMail.h"
 #include "Fuzzing.h"

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// Notes what is asked of the mail client.
+/// Records the calls to the mail client.
 class FakeMail : public MailDoor {
 public:
     int SignOn() override {

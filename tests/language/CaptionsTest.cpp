@@ -22,7 +22,7 @@ constexpr int English = 1;
 constexpr int Spanish = 2;
 constexpr int Third = 3;
 
-/// A window as the Designer's code would build it: design-time texts, and numbers as properties.
+/// A window as generated from a Designer form: design-time texts, and numbers as properties.
 class SampleWindow {
 public:
     SampleWindow() {
@@ -122,7 +122,7 @@ const ShownTexts InSpanish{
     "Escriba el monto del préstamo y luego una tasa de interés, un plazo y una frecuencia para "
     "cada oferta que compare."};
 
-/// What the third language does not know is the form's own again, never the language before.
+/// A text that the third language lacks comes from the form, never from the previous language.
 const ShownTexts InThird{Third,           TermUnit::Years,
                          "Kredit",        "&Laufzeit (Jahre):",
                          "Design taxes",  "Design taxes tip",
@@ -203,7 +203,7 @@ TEST_F(Captions, OrdinalStandsInNamesForScreenReaders) {
     const std::vector<Case> cases{
         {English, 0, "Offer %1, interest rate"},     {English, 1, "Offer 1, interest rate"},
         {Spanish, 16, "Oferta 16, tasa de interés"}, {Third, 2, "Angebot 2, Zinssatz von 2"},
-        {English, 0, "Offer 2, interest rate"}, // kept from the call before
+        {English, 0, "Offer 2, interest rate"}, // kept from the previous call
         {English, 3, "Offer 3, interest rate"},
     };
     for (const Case& row : cases) {

@@ -31,7 +31,7 @@ std::set<int> NumbersOf(const TextTable& table) {
     return numbers;
 }
 
-/// The letters that stand after a single "&", small.
+/// The letters after a single "&", in lower case.
 std::string AccessKeys(const QString& text) {
     QString keys;
     for (qsizetype i = 0; i < text.size(); ++i) {
@@ -53,7 +53,7 @@ QString WithoutAccessKey(QString text) {
     return text;
 }
 
-/// One test for each table there is, so that a new language is checked without being named here.
+/// One test for each existing table, so that a new language is checked without a change here.
 class Texts : public testing::TestWithParam<std::string> {
 protected:
     const TextTable m_english = TableOf(English);
@@ -109,7 +109,7 @@ TEST_P(Texts, HaveAnAccessKeyWhereEnglishHas) {
 TEST_P(Texts, AccessKeysAreUniqueWhereTheyAreSeenTogether) {
     std::vector<int> window{250, 257, 262};
     for (int number = 200; number <= 240; ++number) {
-        if (number != 205 && number != 212) { // in place of 204 and 211, never beside them
+        if (number != 205 && number != 212) { // replace 204 and 211, never shown beside them
             window.push_back(number);
         }
     }
@@ -133,7 +133,7 @@ TEST_P(Texts, ColumnHeadingsAreShort) {
     }
 }
 
-// A list's text is turned back into its code by comparison.
+// The program maps a list's text back to its code by comparison.
 TEST_P(Texts, EntriesOfOneListDiffer) {
     for (const std::vector<int>& list :
          {std::vector{111, 112, 114, 115}, std::vector{10, 11, 19, 29, 39, 83}}) {

@@ -44,7 +44,7 @@ TEST(LanguageIdentifier, OfALocaleName) {
     }
 }
 
-/// Sets the variables that name the user's locale, and puts back what was there.
+/// Sets the variables that name the user's locale; the destructor restores them.
 class UserLocale {
 public:
     UserLocale(const char* all, const char* messages, const char* lang) {

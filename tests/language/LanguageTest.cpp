@@ -18,7 +18,7 @@ namespace {
 
 const QString Program = QStringLiteral("Loan");
 
-/// The text "Auto" of the loan types, which every table words in its own way.
+/// The text "Auto" of the loan types, which differs in every language.
 std::string Auto() { return GetResourceText(TextNumber::LoanTypeAuto).toStdString(); }
 
 Language& SetUpIn(const QString& folder) {
@@ -27,7 +27,7 @@ Language& SetUpIn(const QString& folder) {
     return language;
 }
 
-/// What a user sees of an entry, the program's folder left out.
+/// What a user sees of an entry, without the program folder.
 std::string Shown(const LanguageEntry& entry, const QString& folder) {
     EXPECT_TRUE(entry.helpFile.startsWith(folder + u'/'));
     const QString help = entry.helpFile.mid(folder.size() + 1);
@@ -197,7 +197,7 @@ TEST(SettleDetectedLanguage, EveryNumberBecomesAnEntrys) {
         int after;
         const char* tag;
     };
-    // A language chosen already has its tag from LoadLanguage; here it was only stored.
+    // LoadLanguage sets the tag of a chosen language; here the number was only stored.
     const std::vector<Case> cases{
         {-1, 1, "engl"}, {-2, 2, "span"}, {-3, 1, "engl"}, {-32768, 1, "engl"},
         {0, 1, "engl"},  {1, 1, "engl"},  {2, 2, "engl"},
@@ -256,7 +256,7 @@ TEST(LoadLanguage, TheFileInTheCaseAskedForWins) {
     EXPECT_EQ("Automóvil", Auto());
 }
 
-/// Expects a failure that leaves the language loaded before as it was.
+/// Expects a failure that leaves the current language unchanged.
 void ExpectRefused(Language& language, int number) {
     const int current = language.CurrentLanguage();
     const QString tag = language.LanguageTag();
@@ -306,8 +306,8 @@ Number NumberAt(const QByteArray& bytes, std::uint64_t place) {
     return number;
 }
 
-/// Where the part of a library ends that is brought into memory. What follows only debuggers read,
-/// so that a library cut there is whole for its users.
+/// The end of the part of a library that is loaded into memory. Only debuggers read what follows,
+/// so a library cut there still works.
 std::uint64_t EndOfLoadedPart(const QByteArray& library) {
     constexpr std::uint32_t Loaded = 1;
     const auto table = NumberAt<std::uint64_t>(library, 32);
@@ -386,10 +386,10 @@ TEST(GetResourceText, FallsBackToEnglishAndThenToNothing) {
     const ProgramFolder folder;
     folder.PutAll();
     struct Case {
-        int language; // 0: none loaded
+        int language; // 0: no language loaded
         int number;
         const char* text;    // nullptr: no text
-        const char* ownText; // of the language itself
+        const char* ownText; // in the language itself
     };
     const std::vector<Case> cases{
         {0, 10, "Auto", "Auto"},

@@ -4,8 +4,8 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// A program's folder of the test's own, filled with components that the build made.
-/// Each test takes a new one, because a library once loaded stays loaded under its path.
+/// A temporary program folder for a test, filled with components from the build. Each test uses a
+/// new folder, because a loaded library stays loaded under its path.
 class ProgramFolder {
 public:
     QString Path() const { return m_folder.path(); }
@@ -21,7 +21,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// A whole file, which must exist.
+/// Reads a whole file, which must exist.
 QByteArray BytesOf(const QString& path);
-/// Where the build put the Spanish component.
+/// The Spanish component that the build made.
 QString BuiltSpanishComponent();

@@ -21,7 +21,7 @@ const std::set<QString> TextProperties{
     QStringLiteral("toolTipText"), QStringLiteral("accessibleText"),
     QStringLiteral("hintText"),    QStringLiteral("activeText")};
 
-/// A text's number, and where it is asked for.
+/// The number of a text, and where the code uses it.
 using Uses = std::multimap<int, std::string>;
 
 Uses UsesOf(const std::vector<FormNumber>& numbers) {

@@ -1,5 +1,5 @@
-// Tables of texts and files of languages with anything in them: a table tells its faults by their
-// lines and keeps the rest, a file that is no component is none.
+// Text tables and language files with arbitrary contents. A table reports its faults by line and
+// keeps the rest. A file that is no component is ignored.
 
 #include "ComponentFile.h"
 #include "Fuzzing.h"
@@ -22,7 +22,7 @@ QString LineOf(int id, QString text) {
     return QStringLiteral("%1 = %2\n").arg(id).arg(text);
 }
 
-/// What a table that says these texts would look like.
+/// The source of a table with these texts.
 QString Written(const TextTable& table) {
     QString lines = QStringLiteral("language = x\ntag = y\n");
     for (const auto& [id, text] : table.Texts()) {
@@ -41,7 +41,7 @@ void TryTable(const QString& source) {
         EXPECT_FALSE(fault.description.isEmpty());
         faulty.insert(fault.line);
     }
-    // Each line is a note, empty, in the head, a text or a fault.
+    // Each line is a comment, empty, part of the head, a text or a fault.
     int others = 0;
     for (const QString& line : source.split(u'\n')) {
         const QString content = line.trimmed();
@@ -79,10 +79,10 @@ TEST(TextTableFuzz, AnyTableIsReadOrToldByItsLines) {
     });
 }
 
-/// A damaged library is not looked into, because loading it could end the program.
+/// A damaged library is never opened, because loading it could end the program.
 void TryFile(const ProgramFolder& folder, const std::string& bytes, bool isSound) {
     const QString name = QStringLiteral("Loan409.Resources.so");
-    QFile::remove(folder.PathOf(name)); // what is mapped stays as it was
+    QFile::remove(folder.PathOf(name)); // a mapped file keeps its contents
     folder.PutBytes(name, QByteArray::fromStdString(bytes));
     EXPECT_EQ(ComponentFile::Label(folder.PathOf(name)).has_value(), isSound);
     EXPECT_EQ(ComponentFile::Load(folder.PathOf(name)) != nullptr, isSound);
@@ -90,7 +90,7 @@ void TryFile(const ProgramFolder& folder, const std::string& bytes, bool isSound
     language.SetUp(folder.Path(), QStringLiteral("Loan"));
     EXPECT_EQ(language.Entries().size(), isSound ? 3U : 2U);
     EXPECT_EQ(language.Entries().front().name, QStringLiteral("English"));
-    EXPECT_FALSE(GetResourceText(15).isEmpty()); // never fails for want of a component
+    EXPECT_FALSE(GetResourceText(15).isEmpty()); // needs no component
 }
 
 TEST(ComponentFuzz, ADamagedFileIsNoLanguage) {

@@ -1,4 +1,4 @@
-// The toolkit's own texts, as its menus and dialogs ask for them.
+// Qt's own texts, as its menus and dialogs request them.
 
 #include "ToolkitTexts.h"
 
@@ -50,7 +50,7 @@ struct ToolkitCase {
 };
 
 const std::vector<ToolkitCase> ToolkitCases{
-    // The catalogue's
+    // From Qt's catalogue
     {"QLineEdit", "&Undo", "&Deshacer"},
     {"QLineEdit", "Select All", "Seleccionar todo"},
     {"QAbstractSpinBox", "&Step up", "&Aumentar"},
@@ -61,7 +61,7 @@ const std::vector<ToolkitCase> ToolkitCases{
     {"QPageSetupWidget", "Landscape", "Apaisado"},
     {"QPlatformTheme", "Cancel", "Cancelar"},
     {"QAbstractFileIconProvider", "Folder", "Carpeta"},
-    // Ours
+    // From the program's texts
     {"QFileDialog", "File &name:", "&Nombre de archivo:"},
     {"QFileDialog", "Files of type:", "Archivos de tipo:"},
     {"QFileDialog", "Go to the parent directory", "Ir al directorio superior"},
@@ -110,7 +110,7 @@ TEST_F(ToolkitSpeaks, ByTheSystemsCatalogueWhereThatBesideTheProgramIsDamaged) {
     EXPECT_EQ(Said("QFileDialog", "&Open"), "&Abrir");
 }
 
-/// The third language names a catalogue that nobody has, and one of the texts of ours.
+/// The third language names a catalogue that does not exist, and one of the program's texts for Qt.
 TEST_F(ToolkitSpeaks, EnglishAndOursWithoutACatalogue) {
     Switch(InSpanish);
     Switch(InThird);

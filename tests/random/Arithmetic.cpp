@@ -17,7 +17,7 @@ Count Fitting(Wide count) {
 
 Count Nearest(double count) {
     const double nearest = std::nearbyint(count);
-    if (!(nearest >= -0x1p63 && nearest < 0x1p63)) { // also where it is no number
+    if (!(nearest >= -0x1p63 && nearest < 0x1p63)) { // NaN as well
         throw TooLarge{};
     }
     return static_cast<Count>(nearest);
@@ -39,7 +39,7 @@ double InterestOfPeriod(const Debt& debt, Count balance) {
     }
 }
 
-/// The days on which payments fall due.
+/// The due dates of payments.
 class DueDays {
 public:
     DueDays(QChar frequency, QDate start) : m_frequency(frequency), m_day(start), m_first(start) {}
@@ -77,7 +77,7 @@ private:
     bool m_isSecond = false;
 };
 
-/// Without a frequency nothing bears interest and no day passes: how often the payment fits.
+/// Without a frequency there is no interest and no date: the number of payments that fit.
 Repaid RepayWithoutDates(const Debt& debt, Count available) {
     if (debt.balance > 0 ? available <= 0 : available < debt.balance) {
         throw NeverRepaid{};
@@ -163,7 +163,7 @@ Repaid Repay(const Debt& debt, bool addsPayments) {
         if (principal > balance) {
             principal = balance;
         } else if (balance > 0 && (principal == 0 || (principal < 0 && debt.rate >= 0))) {
-            throw NeverRepaid{}; // it will never be less
+            throw NeverRepaid{}; // the balance never falls
         } else {
             days.GoOn();
         }

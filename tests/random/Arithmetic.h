@@ -5,24 +5,24 @@
 
 #include <cstdint>
 
-/// The arithmetic of loans once more, written down as plainly as it can be said and slow: it shares
-/// nothing with the program's own, so that the two can be held against each other.
+/// A second implementation of the loan arithmetic, plain and slow. It shares nothing with the
+/// program's, so that the two can be compared.
 namespace Plain {
 
-/// A number that its kind cannot hold.
+/// A number outside the range of its type.
 struct TooLarge {};
 /// A debt that no number of payments repays.
 struct NeverRepaid : TooLarge {};
 
-/// Room for any sum of two amounts, and for their product with a number of periods.
+/// Holds any sum of two amounts, and their product with a number of periods.
 __extension__ typedef __int128 Wide; // NOLINT(modernize-use-using): only so is it no warning
 
-/// Money: whole ten-thousandths.
+/// Money in whole ten-thousandths.
 using Count = std::int64_t;
 
-/// Halves to even, from a number of units.
+/// Converts units, halves to even.
 Count Whole(double units);
-/// The same in whole cents.
+/// The same, rounded to whole cents.
 Count WholeCents(double units);
 /// Halves to even.
 Count ToCents(Count amount);
@@ -30,7 +30,7 @@ Count Sum(Count left, Count right);
 Count Less(Count left, Count right);
 double Units(Count amount);
 
-/// A frequency is its letter; a null character is none.
+/// A frequency is its letter; a null character means none.
 Count MonthlyEscrow(Count taxes, Count insurance);
 Count EscrowOf(QChar frequency, Count monthlyEscrow);
 Count PrincipalAndInterest(Count principal, double rate, int months, QChar frequency);
@@ -47,7 +47,7 @@ struct Debt {
 struct Repaid {
     QDate date;
     Count interest = 0;
-    Count paid = 0; ///< only where it is asked for
+    Count paid = 0; ///< only if requested
 };
 
 /// Pays one period after another. Throws NeverRepaid or TooLarge.

@@ -1,4 +1,4 @@
-// How what is computed follows from what is entered.
+// How the results follow from the inputs.
 
 #include "Book.h"
 
@@ -38,7 +38,7 @@ void Book::Guard(const std::function<void()>& action) {
 void Book::GuardAgain(const std::function<void()>& action) {
     const bool wasDirty = std::exchange(dirty, false);
     const QStringList before = expected;
-    qsizetype refusals = 0; // of intended payments, which are told whatever else happens
+    qsizetype refusals = 0; // of intended payments, which are always reported
     Guard([&] {
         const auto count = qScopeGuard([&] { refusals = expected.size() - before.size(); });
         action();
@@ -58,7 +58,7 @@ bool Book::Try(const std::function<void()>& action) {
     }
 }
 
-/// All of them, also after one has failed; what fails first is told.
+/// Runs all parts, even after one has failed. The first failure is reported.
 void Book::Recalculate(unsigned parts) {
     std::exception_ptr first;
     const auto run = [&](const std::function<void()>& step) {
@@ -147,7 +147,7 @@ Plain::Repaid Book::RunPayoff(BookOffer& offer) {
     return repaid;
 }
 
-/// As anybody could see it who has only the inputs.
+/// Uses only the inputs.
 BookResults Book::ResultsOf(const BookOffer& offer) const {
     BookResults results;
     try {
@@ -249,7 +249,7 @@ bool HasEntry(const BookOffer& offer) {
 
 } // namespace
 
-/// One pass after the other, until none has changed anything.
+/// Repeats passes until one changes nothing.
 template <class KeyOf>
 void Book::SortBy(char by, KeyOf keyOf) {
     std::vector<decltype(keyOf(offers.front()))> keys;
@@ -286,7 +286,7 @@ void Book::SortByInterest() {
     });
 }
 
-/// As they stand: nothing is raised.
+/// Shows the stored payments; raises nothing.
 void Book::ShowOffers() {
     for (BookOffer& offer : offers) {
         Try([&] {

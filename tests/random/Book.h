@@ -18,7 +18,7 @@
 inline constexpr std::size_t MostRows = 16;
 inline const QDate Today(2026, 11, 21);
 
-/// One offer as the user gave it.
+/// The inputs of one offer.
 struct BookOffer {
     bool financed = false;
     double points = 0;
@@ -27,12 +27,12 @@ struct BookOffer {
     QChar frequency;
     Plain::Count actual = 0;
     QString who;
-    Plain::Count interest = 0; ///< of the schedule that ran last, for sorting
+    Plain::Count interest = 0; ///< of the last schedule, for sorting
 
     friend bool operator==(const BookOffer&, const BookOffer&) = default;
 };
 
-/// What follows from an offer. Zero, or no day, is an empty field.
+/// The results of an offer. Zero, or no day, is an empty field.
 struct BookResults {
     Plain::Count pAndI = 0;
     Plain::Count payment = 0;
@@ -66,7 +66,7 @@ struct BookCurrent {
     QDate payoff;
 };
 
-/// A worksheet as it was put away.
+/// A worksheet as saved.
 struct BookPage {
     QString name;
     BookLoan loan;
@@ -74,7 +74,7 @@ struct BookPage {
     std::vector<BookOffer> offers;
 };
 
-/// Names that differ only in their capitals are one; each letter counts by itself.
+/// Names that differ only in case are equal. Letters are folded one by one.
 inline QString FoldedName(QString name) {
     for (QChar& letter : name) {
         letter = letter.toUpper();
@@ -82,35 +82,35 @@ inline QString FoldedName(QString name) {
     return name;
 }
 
-/// The account of a worksheet that is kept beside the window, by the rules of the worksheet and
-/// nothing of its code: what is entered goes in, what every control must show and every message
-/// that must come goes out. It knows nothing of controls, focus and keys.
+/// The reference model of a worksheet. It follows the rules of the worksheet but uses none of its
+/// code. It takes the user's entries, and predicts what every control must show and every message.
+/// It knows nothing of controls, focus and keys.
 class Book {
 public:
     explicit Book(std::size_t country) : forms(country) {}
 
     using Number = std::variant<Plain::Count, double, int>;
 
-    // What happens. Failures become messages that are expected.
+    // Events. Failures become expected messages.
     void Leave(Field field, const QString& text);
     void StoreChoice(Field field, const QString& text);
-    /// A list or a ticked box is left; what does not change is not told again.
+    /// Leaving a list or a ticked box. An unchanged value is not reported again.
     void LeaveChoice(Field field, const QString& text);
     void LeaveTick(int row, bool ticked);
     void StoreTick(int row, bool ticked);
     void StoreDay(QDate day);
     void StoreWho(int row, const QString& who);
-    /// What was dropped on an offer's field, or pasted there as a value. False where it stands for
-    /// no number that can be held: then nothing has happened.
+    /// A value dropped or pasted on an offer's field. False if the text is no number in range: then
+    /// nothing changes.
     bool Drop(Field field, const QString& text);
     void EnterRow(int row);
     void GrowTo(std::size_t rows);
     void SortByPayoff();
     void SortByInterest();
-    /// The time of the notice is up.
+    /// The timer of the notice has expired.
     void NoticeIsDue();
 
-    // The shelf of worksheets.
+    // The saved worksheets.
     void Clear();
     void Save();
     void Load(const QString& name);
@@ -118,9 +118,9 @@ public:
     bool Holds(const QString& name) const { return shelf.contains(FoldedName(name)); }
     QStringList Names() const;
 
-    // What must be seen.
+    // Expected contents.
     bool Accepts(Field field, const QString& text) const;
-    /// The failure that a text of the right form brings about when it is read; empty for none.
+    /// The failure when the text is read; empty for none.
     QString FailureOf(Field field, const QString& text) const;
     bool MayDrop(FieldId field, const QString& text) const;
     QString EntryText(Field field) const;
@@ -129,7 +129,7 @@ public:
     bool IsMissing(FieldId field) const { return missing.contains(field); }
     bool IsRaised(int row) const { return raised.contains(order.at(Place(row))); }
     BookResults ResultsOf(const BookOffer& offer) const;
-    /// The payment computed for an offer; zero where there is none, or it cannot be held.
+    /// The payment computed for an offer; zero if there is none, or it is out of range.
     Plain::Count PaymentOf(int row) const;
 
     BookOffer& OfferIn(int row) { return offers.at(order.at(Place(row))); }
@@ -142,7 +142,7 @@ public:
     BookCurrent current;
     std::vector<BookOffer> offers;
     std::vector<std::size_t> order;
-    char sorted = 0; ///< by payoff date 'P', by interest 'I', or not at all
+    char sorted = 0; ///< 'P' by payoff date, 'I' by interest, 0 unsorted
     std::set<std::size_t> raised;
     std::set<FieldId> missing;
     bool nameMissing = false;
@@ -150,16 +150,16 @@ public:
     bool dirty = false;
     bool noticeShown = false;
     bool noticeComes = false;
-    std::map<QString, BookPage> shelf; ///< by its folded name
-    /// How the messages must begin that have not come yet.
+    std::map<QString, BookPage> shelf; ///< by folded name
+    /// The beginnings of messages that have not appeared yet.
     QStringList expected;
 
     void Expect(int text, const QString& rest = {});
     /// `never`: the payments never repay the loan.
     void ExpectFailure(int number, bool never = false);
-    /// Runs it; what fails must be told.
+    /// Runs the action; a failure must be reported.
     void Guard(const std::function<void()>& action);
-    /// The same for values that are only stored again: told is what comes of a change.
+    /// The same for values that are stored again: failures are reported only after a change.
     void GuardAgain(const std::function<void()>& action);
 
 private:

@@ -1,4 +1,4 @@
-// What each field takes and shows.
+// What each field accepts and shows.
 
 #include "Book.h"
 #include "Language.h"
@@ -17,7 +17,7 @@ namespace {
 
 enum class Sort { Amount, Percent, Real, Term, None };
 
-/// The fields that take or show a number, and the decimals that they take.
+/// The fields that accept or show a number, and the decimals that they accept.
 struct NumberField {
     FieldId field;
     Sort sort;
@@ -109,7 +109,7 @@ int Book::ReadTerm(FieldId field, const QString& text) const {
     if (inMonths) {
         return WholeMonths(std::nearbyint(term));
     }
-    // Of the loan held today any number of months may be left; offers are for whole years.
+    // The current loan may have any number of months left; offers are for whole years.
     return field == CurLoanTerm ? WholeMonths(std::nearbyint(term * 12))
                                 : WholeMonths(std::nearbyint(term) * 12);
 }
@@ -135,7 +135,7 @@ bool Book::Accepts(Field field, const QString& text) const {
            (forms.IsForm(text, Of(field.id).decimals) && FailureOf(field, text).isEmpty());
 }
 
-/// A lone sign stands for no number, and is refused like any other text that is none.
+/// A lone sign is no number, and is refused like any other text that is no number.
 QString Book::FailureOf(Field field, const QString& text) const {
     if (field.id == NextPayment) {
         const QString refused = GetResourceText(TextNumber::DateRefused);
@@ -310,7 +310,7 @@ bool Book::Drop(Field field, const QString& text) {
     Guard([&] {
         const Number number = field.id == ActualPayment
                                   ? Number(forms.ReadAmount(text))
-                                  : Number(forms.ReadReal(text)); // a rate as its fraction, too
+                                  : Number(forms.ReadReal(text)); // a rate also as its fraction
         isRead = true;
         StoreOfferNumber(field, number);
     });

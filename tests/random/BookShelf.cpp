@@ -1,4 +1,4 @@
-// Worksheets that are put away and taken out again.
+// Saving and loading worksheets.
 
 #include "Book.h"
 #include "Language.h"
@@ -39,12 +39,12 @@ bool IsWorthKeeping(const BookOffer& offer) {
 
 } // namespace
 
-/// What comes back of a number that is put away as its text.
+/// A number after it was saved as text.
 double Book::AsKept(double number) const { return forms.ReadReal(forms.Number(number)); }
 
 BookPage Book::Page() const {
     BookPage page{loan.name, loan, current, {}};
-    page.current.rate = AsKept(page.current.rate * 100) / 100; // in percent
+    page.current.rate = AsKept(page.current.rate * 100) / 100; // saved in percent
     for (BookOffer offer : offers) {
         if (IsWorthKeeping(offer)) {
             offer.rate = AsKept(offer.rate * 100) / 100;
@@ -60,8 +60,8 @@ void Book::Save() {
     dirty = false;
 }
 
-/// The intended payment comes first, so that it is not yet held against anything, and the rate
-/// after the term: an offer without a term gets the default one.
+/// The intended payment is loaded first, so that it is not checked yet. The rate is loaded after
+/// the term: an offer without a term gets the default one.
 bool Book::LoadOffer(int row, const BookOffer& kept) {
     BookOffer& offer = OfferIn(row);
     offer = kept;
@@ -87,7 +87,7 @@ void Book::Load(const QString& name) {
         sound &= LoadOffer(static_cast<int>(i), page.offers[i]);
     }
     sound &= Try([&] { RecalculatePayment(); });
-    current.payment = page.current.payment; // as it was put away
+    current.payment = page.current.payment; // as saved
     if (!sound) {
         Expect(TextNumber::ValuesNotLoaded);
     }

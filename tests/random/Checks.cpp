@@ -37,13 +37,13 @@ QStringList Checks::Complaints(RandomUser& user) {
             m_complaints[i].prepend(QLatin1String(check.name) + u": "_s);
         }
         if (check.look == &Checks::RowsAreThere && before != m_complaints.size()) {
-            break; // the others would look for what is not there
+            break; // the other checks need the rows
         }
     }
     return m_complaints;
 }
 
-/// Every message that comes is called for, and every one that is called for comes.
+/// Every message is expected, and every expected message appears.
 void Checks::Messages(RandomUser& user) {
     QStringList waiting = user.TheBook().expected;
     waiting.removeDuplicates();
@@ -205,7 +205,7 @@ void Checks::Focus(RandomUser& user) {
     }
 }
 
-/// Every offer stands in one row.
+/// Every offer is in exactly one row.
 void Checks::Order(RandomUser& user) {
     const Worksheet& sheet = user.TheProgram().Window().GetWorksheet();
     std::set<std::size_t> seen;
@@ -240,7 +240,7 @@ void Checks::Captions(RandomUser& user) {
     }
 }
 
-/// The store holds the worksheets of the shelf, and no others.
+/// The store holds exactly the worksheets of the reference model.
 void Checks::NamesKept(RandomUser& user) {
     if (!user.keptChanged && m_looks % 50 != 0) {
         return;

@@ -11,8 +11,8 @@
 
 class RandomUser;
 
-/// Holds the window against the book, after every step. Each check is one thing that must always be
-/// true; what is not is said in words.
+/// Compares the window with the reference model after every step. Each check is one invariant; a
+/// violation becomes a complaint.
 class Checks {
 public:
     QStringList Complaints(RandomUser& user);
@@ -37,8 +37,8 @@ private:
     void Captions(RandomUser& user);
     void NamesKept(RandomUser& user);
 
-    /// What the fields of an offer must show, in the order of the columns; kept while nothing that
-    /// it depends on has changed.
+    /// The expected texts of an offer's fields in the order of the columns. They are cached while
+    /// their inputs are unchanged.
     struct Row {
         BookOffer offer;
         Plain::Count amount = 0;

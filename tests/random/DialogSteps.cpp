@@ -1,4 +1,4 @@
-// The rest of the program: its language, its options, printing, help and the like.
+// Other features: language, options, printing, help and similar.
 
 #include "Language.h"
 #include "RandomUser.h"
@@ -16,11 +16,11 @@
 
 using namespace Qt::StringLiterals;
 
-/// To a certain one, or to the other one.
+/// Switches to a certain language, or to the other one.
 void RandomUser::SwitchLanguage(unsigned a, unsigned /*b*/) {
     const View before = Look();
     const bool spanish = a % 4 < 2 ? a % 2 == 1 : !m_book.spanish;
-    const bool switches = Commit(before); // what that tells is told in the language of before
+    const bool switches = Commit(before); // its messages are in the previous language
     Trigger(spanish ? "mnuToolsLanguageOpt(2)" : "mnuToolsLanguageOpt(1)");
     if (switches) {
         m_book.spanish = spanish;
@@ -95,10 +95,10 @@ void RandomUser::OpenOptions(unsigned a, unsigned b) {
     Reenter();
 }
 
-/// To the end, or cancelled at one of the moments where that is possible, or not at all.
+/// Prints to the end, cancels at one of the possible moments, or does not start.
 void RandomUser::Print(unsigned a, unsigned /*b*/) {
     const View before = Look();
-    const unsigned cancelAt = a % 8; // 1 to 4: in between
+    const unsigned cancelAt = a % 8; // 1 to 4: while printing
     unsigned yields = 0;
     m_program.printer.answer = cancelAt != 0;
     m_program.printer.printed.clear();
@@ -154,7 +154,7 @@ void RandomUser::OpenHelp(unsigned a, unsigned /*b*/) {
     m_program.Activate();
 }
 
-/// What is clicked next is explained and not used.
+/// The next click explains a control and does not use it.
 void RandomUser::AskWhatsThis(unsigned a, unsigned /*b*/) {
     const Field field = AnyInput(a);
     Press(Qt::Key_F1, Qt::ShiftModifier);
@@ -188,12 +188,12 @@ void RandomUser::Share(unsigned a, unsigned /*b*/) {
 }
 
 void RandomUser::Resize(unsigned a, unsigned b) {
-    const QSize least = Window().sizeHint(); // a click needs its control in sight
+    const QSize least = Window().sizeHint(); // a click needs a visible control
     Window().resize(least.width() + static_cast<int>(a % 600),
                     least.height() + static_cast<int>(b % 400));
 }
 
-/// On what does nothing by itself: captions, results, the frame.
+/// Clicks something that has no action: captions, results, the frame.
 void RandomUser::ClickAnywhere(unsigned a, unsigned b) {
     const QPoint place(static_cast<int>(a % static_cast<unsigned>(Window().width())),
                        static_cast<int>(b % static_cast<unsigned>(Window().height())));

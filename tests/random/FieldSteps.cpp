@@ -24,7 +24,7 @@ bool HoldsValue() {
     return data != nullptr && data->hasFormat(u"application/x-quend-loan-value"_s);
 }
 
-/// The keys that a field lets through.
+/// The keys that a field accepts.
 QString Allowed(FieldId field, const QString& text, QChar point) {
     const FieldRule& rule = RuleOf(field);
     if (!rule.IsNumber()) {
@@ -52,14 +52,14 @@ void RandomUser::EnterField(unsigned a, unsigned /*b*/) { Enter(AnyInput(a)); }
 void RandomUser::Enter(Field field) {
     const View before = Look();
     if (field.id == FieldId::FinancePoints || RuleOf(field.id).kind == ValueKind::Choice) {
-        return; // a click is a choice there
+        return; // a click there makes a choice
     }
     if (Click(*Control(field)) && m_edited != field) {
         Follow(before);
     }
 }
 
-/// Over what is selected.
+/// Replaces the selection.
 void RandomUser::Type(unsigned /*a*/, unsigned b) {
     if (!m_edited || (!EditOf(*m_edited) && m_edited->id != FieldId::LoanName)) {
         return;
@@ -113,7 +113,7 @@ void RandomUser::EditText(unsigned a, unsigned /*b*/) {
     m_text = Look().text;
 }
 
-/// What a value looks like on its way.
+/// The text of a copied or dragged value.
 QString RandomUser::CopiedText(Field field, const QString& shown) const {
     const BookOffer& offer = m_book.OfferIn(field.row.value);
     const auto orZero = [](const QString& text) { return text.isEmpty() ? u"0"_s : text; };
@@ -130,7 +130,7 @@ QString RandomUser::CopiedText(Field field, const QString& shown) const {
     }
 }
 
-/// Copies, or pastes what was copied; in the fields that can be dragged it is the value.
+/// Copies or pastes. Fields that can be dragged copy their value.
 void RandomUser::UseClipboard(unsigned a, unsigned /*b*/) {
     const QLineEdit* edit = m_edited ? EditOf(*m_edited) : nullptr;
     if (edit == nullptr) {
@@ -164,7 +164,7 @@ void RandomUser::UseClipboard(unsigned a, unsigned /*b*/) {
     }
 }
 
-/// As if it had been dropped there.
+/// Same effect as a drop.
 void RandomUser::TakeValue(Field field, const QString& text) {
     if (!m_book.Drop(field, text)) {
         return;
@@ -216,7 +216,7 @@ void RandomUser::Arrow(unsigned a, unsigned /*b*/) {
     const bool canMove =
         isRowField && target >= 0 && target < static_cast<int>(m_book.offers.size());
     if (!isRowField && RuleOf(field.id).IsTyped()) {
-        return; // a caret in one line, or a step of the date
+        return; // the caret moves in a single line, or the date changes
     }
     if (isRowField && !canMove) {
         return;
@@ -226,7 +226,7 @@ void RandomUser::Arrow(unsigned a, unsigned /*b*/) {
     }
 }
 
-/// Opens the list and picks an entry, or gives up.
+/// Opens the list and picks an entry, or cancels.
 void RandomUser::Choose(unsigned a, unsigned b) { ChooseFrom(AnyInput(a), b); }
 
 void RandomUser::ChooseType(unsigned /*a*/, unsigned b) { ChooseFrom({FieldId::LoanType}, b); }
@@ -287,7 +287,7 @@ void RandomUser::TypeDay(unsigned a, unsigned b) {
     Commit(typed);
 }
 
-/// Good numbers into these fields, one after the other.
+/// Types valid numbers into these fields, one after the other.
 void RandomUser::FillAll(std::initializer_list<Field> fields, unsigned b) {
     constexpr unsigned good = 16; // see TextFor
     for (const Field field : fields) {
@@ -300,7 +300,7 @@ void RandomUser::FillAll(std::initializer_list<Field> fields, unsigned b) {
     }
 }
 
-/// An offer that can be computed.
+/// Enters an offer that can be computed.
 void RandomUser::FillOffer(unsigned a, unsigned b) {
     const Row row{static_cast<int>(a % m_book.offers.size())};
     if (m_book.loan.amount == 0) {

@@ -1,4 +1,4 @@
-// Worksheets: named, saved, picked, deleted, started anew; the program closed and started again.
+// Worksheets are named, saved, picked, deleted and created; the program is closed and restarted.
 
 #include "Language.h"
 #include "RandomUser.h"
@@ -62,7 +62,7 @@ bool RandomUser::SaveInBook() {
     return true;
 }
 
-/// Whether what is unsaved may go, after it has been asked for.
+/// Whether unsaved changes may be dropped, after the question.
 bool RandomUser::MayDrop(Answer answer) {
     if (!m_book.dirty) {
         return true;
@@ -167,7 +167,7 @@ void RandomUser::PickName(unsigned a, unsigned b) {
     }
 }
 
-/// The worksheet as it is kept, in place of the one on the screen; or any other.
+/// Loads the current worksheet again as saved, or another one.
 void RandomUser::Reload(unsigned a, unsigned b) {
     const QStringList names = m_book.Names();
     if (names.isEmpty()) {
@@ -176,7 +176,7 @@ void RandomUser::Reload(unsigned a, unsigned b) {
     const auto count = static_cast<unsigned>(names.size());
     const auto kept = static_cast<int>(names.indexOf(m_book.loan.name));
     const unsigned entry = kept >= 0 ? static_cast<unsigned>(kept) : b % count;
-    PickName(a - a % 6 + 1, entry + 1); // after the new loan
+    PickName(a - a % 6 + 1, entry + 1); // entry 0 is the new loan
 }
 
 void RandomUser::New(unsigned a, unsigned /*b*/) {
@@ -218,7 +218,7 @@ void RandomUser::Delete(unsigned a, unsigned /*b*/) {
     Refocus({FieldId::LoanName});
 }
 
-/// Closing the window, and starting the program again on the same store, perhaps elsewhere.
+/// Closes the window and restarts the program on the same store, perhaps in another country.
 void RandomUser::CloseAndStart(unsigned a, unsigned b) {
     const View before = Look();
     const Answer answer = PrepareAnswer(a, true);
@@ -248,10 +248,10 @@ void RandomUser::CloseAndStart(unsigned a, unsigned b) {
     EnterInBook(FocusField());
 }
 
-/// Closing with a worksheet to be saved that has no name: the window stays, and asks for it.
+/// Closes with unsaved changes in an unnamed worksheet: the window stays and asks for the name.
 void RandomUser::CloseUnnamed(unsigned /*a*/, unsigned b) {
     if (!m_book.IsUnnamed()) {
-        TypeName(0, 0); // takes it away
+        TypeName(0, 0); // removes the name
     } else if (m_book.dirty) {
         CloseAndStart(0, b);
     }

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Around the digits of an amount, above and below zero.
+/// The text around the digits of an amount, positive and negative.
 struct Habits {
     QLocale::Language language;
     QLocale::Country country;
@@ -35,7 +35,7 @@ const std::array<Habits, Forms::Countries> AllHabits{{
 
 QString Said(const char16_t* text) { return QString::fromUtf16(text); }
 
-/// One more in the last place, whatever its sign.
+/// Adds one in the last place, away from zero.
 QString Upwards(QString digits) {
     for (qsizetype at = digits.size() - 1; at >= 0; --at) {
         if (digits.at(at).isDigit()) {
@@ -51,10 +51,10 @@ QString Upwards(QString digits) {
 
 /// Halves away from zero.
 QString WrittenOut(double number, int decimals) {
-    if (std::abs(number) >= 1e15) { // more digits than such a number has are anybody's guess
+    if (std::abs(number) >= 1e15) { // beyond the precision of a double
         return QString::number(number, 'f', decimals);
     }
-    constexpr int all = 1'074; // decimals that the smallest of numbers has
+    constexpr int all = 1'074; // decimals of the smallest double
     std::array<char, all + 20> text{};
     const int length = std::snprintf(text.data(), text.size(), "%.*f", all, number);
     const QString exact = QString::fromLatin1(text.data(), length);
@@ -70,7 +70,7 @@ int PowerOfTen(double number) {
     return scientific.mid(scientific.indexOf(u'e') + 1).toInt();
 }
 
-/// A sum's digits before the point and behind it.
+/// The digits of an amount before and after the decimal point.
 struct Digits {
     QString whole;
     QString decimals;
@@ -127,7 +127,7 @@ QString Forms::Number(double number) const {
     if (number == 0) {
         return {};
     }
-    // Fifteen digits, wherever the point is among them.
+    // Fifteen digits, wherever the decimal point is.
     QString text = WrittenOut(number, std::max(0, 14 - PowerOfTen(number)));
     const qsizetype point = text.indexOf(u'.');
     if (point >= 0) {

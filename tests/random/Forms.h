@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringView>
 
-/// How a country writes numbers, amounts and days, put together here from its few habits.
+/// How a country writes numbers, amounts and days: a separate implementation of its few rules.
 class Forms {
 public:
     /// One of Forms::Countries.
@@ -17,22 +17,21 @@ public:
     QLocale Locale() const;
     QChar Point() const { return m_point; }
 
-    // Zero is the empty text, in all of these.
+    // All of these write zero as the empty text.
     QString Currency(Plain::Count amount) const;
     QString Number(Plain::Count amount) const;
     QString Number(double number) const;
     QString ThreeDecimals(double number) const;
     QString Percent(double fraction) const;
-    /// No day is the empty text.
+    /// No day is written as the empty text.
     QString Day(QDate day) const;
-    /// What was typed for a day; none where it is no day between 1753 and 9999. `thisYear` says
-    /// what two digits mean.
+    /// The day that was typed; none outside the years 1753 to 9999. `thisYear` completes a year of
+    /// two digits.
     QDate ReadDay(const QString& text, int thisYear) const;
     QString Term(int months, bool inMonths) const;
 
     enum class Reading { Number, NoNumber, TooLarge };
-    /// Whether a text has the form of a number with so many decimals, which is not to say that it
-    /// holds any digit.
+    /// Whether a text has the form of a number with so many decimals. It may still have no digit.
     bool IsForm(QStringView text, int decimals) const;
     /// Throws NoNumber or TooLarge. The empty text is zero.
     double ReadReal(const QString& text) const;

@@ -1,5 +1,5 @@
-// Intended payments of offers that can be computed, and what is there already entered once more:
-// an intended payment may be raised then where nothing else changes.
+// Intended payments of offers that can be computed, and existing values entered again: the program
+// may then raise an intended payment although nothing else changes.
 
 #include "RandomUser.h"
 
@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// A row in sight whose offer has a payment.
+/// A visible row whose offer has a payment.
 std::optional<Row> RandomUser::ComputedRow(unsigned number) const {
     std::vector<Row> rows;
     for (Row row{0}; row.value < static_cast<int>(m_book.offers.size()); ++row.value) {
@@ -20,7 +20,7 @@ std::optional<Row> RandomUser::ComputedRow(unsigned number) const {
     return rows.empty() ? std::nullopt : std::optional(rows.at(number % rows.size()));
 }
 
-/// In place of all that stands there.
+/// Replaces the whole text.
 void RandomUser::Retype(Field field, const QString& text) {
     Enter(field);
     if (m_edited != field) {
@@ -37,13 +37,13 @@ void RandomUser::PickAgain(Field field) {
     const auto& list = *qobject_cast<QComboBox*>(Control(field));
     const auto count = static_cast<unsigned>(list.count());
     auto entry = static_cast<unsigned>(list.currentIndex());
-    while (entry % 5 == 0) { // which would give up
+    while (entry % 5 == 0) { // ChooseFrom cancels for these
         entry += count;
     }
     ChooseFrom(field, entry);
 }
 
-/// Too low, exactly enough, a cent less, a cent more.
+/// Too low, exact, a cent less, a cent more.
 void RandomUser::Intend(unsigned a, unsigned b) {
     const std::optional<Row> row = ComputedRow(a);
     if (!row) {
@@ -82,15 +82,14 @@ void RandomUser::EnterAgain(unsigned a, unsigned b) {
         return again({FieldId::LoanAmount});
     case 3:
         return Retype({FieldId::ActualPayment, *row}, u"1"_s);
-    default: // over the tick box, and back
+    default: // past the tick box, and back
         Enter({FieldId::Points, *row});
         Tab(3, 0);
         Tab(0, 0);
     }
 }
 
-/// Something that must come back, or be put right, when the worksheet is taken again: a tick alone,
-/// an offer that has lost its term.
+/// Leaves a state that loading must restore or correct: only a tick, or an offer without its term.
 void RandomUser::LeaveOut(unsigned a, unsigned b) {
     const std::optional<Row> row = ComputedRow(a);
     if (a % 2 == 0 || !row) {

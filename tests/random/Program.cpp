@@ -18,7 +18,7 @@ constexpr std::uint16_t AmericanEnglish = 0x0409;
 
 Date FixedDay() { return Date::FromCalendar(2026, 11, 21); }
 
-/// No system information is ever started from here.
+/// Tests never start the system information.
 SystemInfoDoors NoSystemInfo() {
     return {.installed = [] { return std::optional<QString>(); },
             .start = [](const QString&) { return false; }};

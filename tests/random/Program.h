@@ -16,7 +16,7 @@
 #include <functional>
 #include <memory>
 
-/// Stands in for the user looking for a picture.
+/// Replaces the dialog in which the user chooses a picture.
 class FoundPicture : public PictureChooser {
 public:
     QString Choose(QWidget& /*parent*/, const PictureRequest& /*request*/) override {
@@ -25,7 +25,7 @@ public:
     QString answer;
 };
 
-/// A mail client that counts what it is given.
+/// A mail client that counts its messages.
 class CountingMail : public MailDoor {
 public:
     int SignOn() override { return signsOn ? 1 : 0; }
@@ -36,8 +36,8 @@ public:
     int sent = 0;
 };
 
-/// The whole program as it is put together for users, but for its doors: nobody else's store, no
-/// boxes, no printer, no mail. It can be closed and started again on the same store.
+/// The whole program as users have it, but with test doubles for its interfaces: a separate store,
+/// no message boxes, no printer, no mail. It can be closed and started again on the same store.
 class Program {
 public:
     Program();
@@ -55,7 +55,7 @@ public:
     frmPrint* Job() const;
     HelpCommands& Help() const;
     void Activate() const;
-    /// A picture that is there.
+    /// The path of a picture that exists.
     QString Picture() const;
     std::vector<std::string> Kept() const;
 

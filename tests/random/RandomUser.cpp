@@ -1,4 +1,4 @@
-// Hands, eyes and the book-keeping that all steps share.
+// Input, inspection and the updates of the reference model that all steps share.
 
 #include "RandomUser.h"
 
@@ -51,22 +51,22 @@ void RandomUser::Take(const Step& step) {
     }
     Settle();
     m_program.Activate();
-    // Painting takes most of the time: enough that the window is painted now and then.
+    // Painting takes most of the time, so the window is painted only occasionally.
     Window().setUpdatesEnabled(++m_taken % 64 == 0);
     ObserveDay();
-    // The notice comes when the user lets the time pass, and never by the clock.
+    // The notice appears only in its own step, never by the clock.
     if (auto* timer = Window().findChild<QTimer*>(u"Timer1"_s); timer && timer->isActive()) {
         timer->start(1h);
     }
 }
 
-// Hands
+// Input
 
 void RandomUser::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(Window().windowHandle(), key, modifiers);
 }
 
-/// As far as keys give these characters.
+/// Only characters that keys can produce.
 void RandomUser::TypeText(const QString& text) {
     for (const QChar character : text) {
         if (character.isPrint()) {
@@ -77,7 +77,7 @@ void RandomUser::TypeText(const QString& text) {
     }
 }
 
-/// False where the control is out of sight.
+/// False if the control is not visible.
 bool RandomUser::Click(const QWidget& control) {
     if (!IsVisible(control)) {
         return false;
@@ -136,7 +136,7 @@ void RandomUser::Settle() {
     }
 }
 
-// Eyes
+// Inspection
 
 QWidget* RandomUser::Named(const QString& name) const {
     QPointer<QWidget>& found = m_named[name];
@@ -147,7 +147,7 @@ QWidget* RandomUser::Named(const QString& name) const {
 }
 
 QWidget* RandomUser::Control(Field field) const {
-    const auto row = static_cast<std::size_t>(field.row.value + 1); // the bands before the rows
+    const auto row = static_cast<std::size_t>(field.row.value + 1); // 0 is outside the rows
     QPointer<QWidget>& found = m_controls.at(row).at(static_cast<std::size_t>(field.id));
     if (!found) {
         const QString name = RuleOf(field.id).control;
@@ -162,7 +162,7 @@ QLineEdit* RandomUser::EditOf(Field field) const {
     return qobject_cast<QLineEdit*>(Control(field));
 }
 
-/// The middle of it, past the frame that the rows scroll in.
+/// Tests its middle: the scroll area of the rows may hide the control.
 bool RandomUser::IsVisible(const QWidget& control) const {
     const QPoint middle = control.mapTo(&Window(), control.rect().center());
     const QWidget* there = Window().childAt(middle);
@@ -203,7 +203,7 @@ RandomUser::View RandomUser::LookAt(Field field) const {
 
 RandomUser::View RandomUser::Look() const { return m_edited ? LookAt(*m_edited) : View(); }
 
-/// Those of the bands and those of the rows, in equal shares.
+/// Fields of rows are chosen twice as often as others.
 Field RandomUser::AnyInput(unsigned number) const {
     std::vector<FieldId> inputs;
     const bool inRow = number % 3 != 0;
@@ -218,7 +218,7 @@ Field RandomUser::AnyInput(unsigned number) const {
     return {inputs.at(number % inputs.size()), row};
 }
 
-// The book
+// The reference model
 
 bool RandomUser::IsRefused(const View& before) const {
     return m_edited && RuleOf(m_edited->id).IsTyped() && !m_book.Accepts(*m_edited, before.text);
@@ -318,7 +318,7 @@ void RandomUser::Refocus(Field field) {
     EnterInBook(field);
 }
 
-/// A day that is stepped to is an input at once.
+/// A day chosen with the arrow keys is stored at once.
 void RandomUser::WatchDay() {
     m_days.clear();
     QObject::connect(qobject_cast<DatePicker*>(Control({FieldId::NextPayment})),

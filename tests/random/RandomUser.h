@@ -16,12 +16,12 @@ class QDialog;
 class QLineEdit;
 struct Step;
 
-/// Works the program by keys, mouse and menus, and keeps the book of what must come of it. A step
-/// looks at the window before, does what a user would do, and enters into the book what the rules
-/// make of it; Checks.h holds the two against each other afterwards.
+/// Operates the program by keys, mouse and menus, and updates the reference model. A step reads the
+/// window, acts like a user, and then applies the rules to the reference model. Checks.h compares
+/// the two afterwards.
 class RandomUser {
 public:
-    /// Starts the program on a store of its own, in the forms of one of the countries.
+    /// Starts the program on a separate store, with the formats of a country.
     explicit RandomUser(std::size_t country);
     ~RandomUser();
     RandomUser(const RandomUser&) = delete;
@@ -29,22 +29,22 @@ public:
     RandomUser(RandomUser&&) = delete;
     RandomUser& operator=(RandomUser&&) = delete;
 
-    /// Takes a step and lets everything happen that follows from it.
+    /// Takes a step and processes all events that follow from it.
     void Take(const Step& step);
 
-    // What the checks look at.
+    // Interface for the checks.
     const Book& TheBook() const { return m_book; }
     Program& TheProgram() { return m_program; }
     QWidget* Control(Field field) const;
     std::optional<Field> Edited() const { return m_edited; }
-    /// What must stand in the number field being edited.
+    /// The expected text of the number field being edited.
     const QString& EditedText() const { return m_text; }
     const QStringList& ExpectedQuestions() const { return m_questions; }
-    /// What went wrong in the step itself.
+    /// Errors found during the step itself.
     QStringList complaints;
-    bool keptChanged = true; ///< the shelf may have changed since it was last looked at
+    bool keptChanged = true; ///< the saved worksheets may have changed since the last check
 
-    // The steps; what the two numbers mean is each one's own.
+    // The steps; each interprets its two numbers differently.
     void EnterField(unsigned a, unsigned b);
     void Type(unsigned a, unsigned b);
     void Paste(unsigned a, unsigned b);
@@ -90,14 +90,14 @@ public:
 private:
     static constexpr std::size_t FieldIds = static_cast<std::size_t>(FieldId::Who) + 1;
 
-    /// What stood in the field being edited before a step.
+    /// The contents of the field being edited before a step.
     struct View {
         QString text;
         bool modified = false;
         bool ticked = false;
     };
 
-    // Hands
+    // Input
     void Enter(Field field);
     void ChooseFrom(Field field, unsigned b);
     void Retype(Field field, const QString& text);
@@ -109,11 +109,11 @@ private:
     bool ClickAt(QPoint place);
     void Trigger(const char* entry);
     void PickEntry(QComboBox& list, int entry);
-    /// Runs what opens a dialog, and does this in it. Ends with no dialog open.
+    /// Runs `open`, which opens a dialog, and `act` in it. No dialog is open afterwards.
     void InDialog(const std::function<void()>& open, const std::function<void(QDialog&)>& act);
     static void Settle();
 
-    // Eyes
+    // Inspection
     Loan& Window() const { return m_program.Window(); }
     template <class Kind>
     Kind* Find(const QString& name) const;
@@ -128,18 +128,18 @@ private:
     std::optional<Row> ComputedRow(unsigned number) const;
     QString CopiedText(Field field, const QString& shown) const;
 
-    // The book
+    // The reference model
     bool IsRefused(const View& before) const;
-    /// Whether the focus may have moved: where the field is refused nothing else may have happened.
+    /// Whether the focus may have moved: if the field is refused, nothing else may have happened.
     bool Follow(const View& before);
-    /// Clicks on a field. False where it cannot be reached, or the one before keeps the keyboard.
+    /// Clicks a field. False if it is not reachable, or the previous field keeps the focus.
     bool ClickInto(Field field, const View& before);
-    /// What a menu entry does first. False where the field is refused.
+    /// The first part of every menu command. False if the field is refused.
     bool Commit(const View& before);
     void LeaveInBook(const View& before);
     void EnterInBook(std::optional<Field> field);
     void Reenter() { EnterInBook(m_edited); }
-    /// The focus is put there by the program once the fields show what the book says.
+    /// The program moves the focus there after the fields show the contents of the reference model.
     void Refocus(Field field);
     void WatchDay();
     void ObserveDay();
@@ -156,7 +156,7 @@ private:
     std::optional<Field> m_edited;
     QString m_text;
     QStringList m_questions;
-    QList<QDate> m_days; ///< that the date has become since it was last looked at
+    QList<QDate> m_days; ///< days that the date picker reported since the last check
     std::size_t m_displayed = 6;
     int m_taken = 0;
     mutable std::array<std::array<QPointer<QWidget>, FieldIds>, MostRows + 1> m_controls;

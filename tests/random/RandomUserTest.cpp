@@ -1,7 +1,7 @@
-// A random user finds nothing.
+// A random user finds no error.
 //
-// QUEND_RANDOM_SEED and QUEND_RANDOM_STEPS make other and longer walks; QUEND_RANDOM_TRAIL walks
-// one that was printed by a failure.
+// QUEND_RANDOM_SEED and QUEND_RANDOM_STEPS select other and longer walks. QUEND_RANDOM_TRAIL
+// repeats a walk that a failure printed.
 
 #include "RandomUser.h"
 #include "Checks.h"
@@ -21,10 +21,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The steps between two fresh stores: a trail that fails is no longer than that.
+/// The steps on one store: a failing trail is never longer than this.
 constexpr int StepsADay = 2'000;
 
-/// What the toolkit warns of, while a walk lasts.
+/// Qt's warnings during a walk.
 QStringList& Warnings() {
     static QStringList warnings;
     return warnings;
@@ -36,13 +36,13 @@ void KeepWarning(QtMsgType type, const QMessageLogContext& /*where*/, const QStr
     }
 }
 
-/// Where a walk failed, and what was wrong there. No steps where nothing was.
+/// The trail up to a failure, and its complaints. No complaints means no failure.
 struct Failing {
     Trail trail;
     QStringList complaints;
 };
 
-/// Walks until something is wrong. The country is the seed's.
+/// Walks until a check fails. The seed determines the country.
 template <class NextStep>
 Failing Walk(std::uint64_t seed, NextStep next) {
     Failing walked;
@@ -79,7 +79,7 @@ Failing WalkAgain(std::uint64_t seed, const Trail& trail) {
 
 void Report(std::uint64_t seed, const Failing& failed) {
     std::cout << "seed " << seed << ", after " << failed.trail.size() << " steps:\n"
-              << failed.complaints.join(u'\n').toStdString() << std::endl; // the rest takes a while
+              << failed.complaints.join(u'\n').toStdString() << std::endl; // shortening is slow
     const Trail shortest = Shorten(
         failed.trail,
         [&](const Trail& trail) { return !WalkAgain(seed, trail).complaints.isEmpty(); }, 250);
@@ -110,7 +110,7 @@ std::uint64_t Number(const char* variable, std::uint64_t otherwise) {
 
 class RandomUserTest : public testing::Test {
 protected:
-    /// Whatever is looked for in the user's own folders is not there.
+    /// The user's own folders are not used.
     RandomUserTest() { QStandardPaths::setTestModeEnabled(true); }
 };
 
@@ -123,7 +123,7 @@ TEST_F(RandomUserTest, FindsNothing) {
         return;
     }
     auto left = static_cast<long long>(Number("QUEND_RANDOM_STEPS", 1'500));
-    const int aDay = left < 6'000 ? 500 : StepsADay; // a short walk sees several seeds, too
+    const int aDay = left < 6'000 ? 500 : StepsADay; // a short walk also tries several seeds
     QElapsedTimer timer;
     timer.start();
     for (; left > 0; left -= aDay, ++seed) {

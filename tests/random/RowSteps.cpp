@@ -1,4 +1,4 @@
-// What can be done to the rows of offers besides typing.
+// Actions on the rows of offers other than typing.
 
 #include "RandomUser.h"
 #include "StepTexts.h"
@@ -33,7 +33,7 @@ void RandomUser::Tick(unsigned a, unsigned /*b*/) {
     m_book.StoreTick(field.row.value, !m_book.IsTicked(field.row.value));
 }
 
-/// A value of another row, or any text from another program.
+/// Drops a value of another row, or any text from another program.
 void RandomUser::Drop(unsigned a, unsigned b) {
     static constexpr std::array dragged{FieldId::Points, FieldId::InterestRate,
                                         FieldId::ActualPayment, FieldId::Who};
@@ -87,7 +87,7 @@ void RandomUser::Sort(unsigned a, unsigned /*b*/) {
     }
 }
 
-/// Over the rows, which scroll, or over the field being edited, which keeps its value.
+/// Turns the wheel over the rows, which scroll, or the edited field, which keeps its value.
 void RandomUser::Wheel(unsigned a, unsigned b) {
     const bool overField = m_edited && a % 3 == 0;
     const QWidget& control = overField ? *Control(*m_edited) : *Named(u"picScroll"_s);
@@ -113,7 +113,7 @@ void RandomUser::ClickBar(unsigned a, unsigned b) {
         ClickAt(place);
         return;
     }
-    // The thumb, pulled.
+    // Drags the thumb.
     QWindow* window = Window().windowHandle();
     const int to = static_cast<int>(a % static_cast<unsigned>(bar.height()));
     QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, place);
@@ -122,8 +122,8 @@ void RandomUser::ClickBar(unsigned a, unsigned b) {
                         bar.mapTo(&Window(), QPoint(bar.width() / 2, to)));
 }
 
-/// The dialog of a lender: by its key or a double click; another text is pasted, or not, and taken
-/// or not.
+/// Opens a lender's dialog by its key or a double click. It may paste another text, and then
+/// accepts or cancels.
 void RandomUser::OpenLender(unsigned a, unsigned b) {
     const Field field{FieldId::Who, Row{static_cast<int>(a % m_book.offers.size())}};
     View before = Look();
@@ -143,7 +143,7 @@ void RandomUser::OpenLender(unsigned a, unsigned b) {
             Settle();
         },
         [&](QDialog& dialog) {
-            Commit(before); // the dialog opens with what was typed before it
+            Commit(before); // the dialog opens with the text typed before
             auto* lines = dialog.findChild<QPlainTextEdit*>();
             const QString loaded = lines->document()->toRawText();
             if (b % 3 != 0) {
@@ -164,7 +164,7 @@ void RandomUser::OpenLender(unsigned a, unsigned b) {
         });
 }
 
-/// The notice of raised payments has its time by a timer, which only this step lets run out.
+/// A timer shows the notice of raised payments; only this step lets it expire.
 void RandomUser::LetSecondPass(unsigned /*a*/, unsigned /*b*/) {
     auto* timer = Window().findChild<QTimer*>(u"Timer1"_s);
     if (timer->isActive() != m_book.noticeComes) {

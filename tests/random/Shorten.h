@@ -4,6 +4,6 @@
 
 #include <functional>
 
-/// A shorter trail that still fails: leaves out ever smaller parts of it for as long as the rest
-/// does. `tries` bounds how often a trail is walked.
+/// Shortens a failing trail: leaves out ever smaller parts while it still fails. `tries` limits how
+/// often a trail is walked.
 Trail Shorten(Trail trail, const std::function<bool(const Trail&)>& fails, int tries);

@@ -5,12 +5,12 @@
 #include <QChar>
 #include <QString>
 
-/// What the user types: mostly what the field is for, at times anything. The same text for the same
-/// number.
+/// The text that the user types: usually valid for the field, sometimes arbitrary. The same text
+/// for the same number.
 QString TextFor(FieldId field, unsigned number, QChar point);
 
-/// Names that worksheets are given, few enough that they meet again; some cannot be kept.
+/// Names for worksheets, few enough to repeat; some cannot be stored.
 QString NameText(unsigned number);
 
-/// Anything at all, from another program.
+/// Arbitrary text from another program.
 QString AnyText(unsigned number, QChar point);

@@ -2,7 +2,7 @@
 
 #include <array>
 
-/// The numbers of the texts of one control; 0 where it has none.
+/// The text numbers of one control; 0 means none.
 struct TextsOfControl {
     const char* control;
     int written;

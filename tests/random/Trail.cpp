@@ -16,7 +16,7 @@ using U = RandomUser;
 constexpr std::array KindTable{
     // Fields
     StepKind{"Enter", 60, &U::EnterField},
-    StepKind{"Fill", 200, &U::EnterField}, // followed by typing and the tab key
+    StepKind{"Fill", 200, &U::EnterField}, // followed by typing and the Tab key
     StepKind{"Type", 60, &U::Type},
     StepKind{"Paste", 40, &U::Paste},
     StepKind{"Edit", 60, &U::EditText},
@@ -29,7 +29,7 @@ constexpr std::array KindTable{
     StepKind{"Offer", 40, &U::FillOffer},
     StepKind{"Current", 8, &U::FillCurrent},
     StepKind{"Intend", 8, &U::Intend},
-    StepKind{"Clear", 6, &U::ClearIntended}, // followed by a save and what is there entered again
+    StepKind{"Clear", 6, &U::ClearIntended}, // followed by a save and entering a value again
     StepKind{"Again", 6, &U::EnterAgain},
     // Rows
     StepKind{"Tick", 20, &U::Tick},
@@ -43,15 +43,14 @@ constexpr std::array KindTable{
     StepKind{"Name", 15, &U::TypeName},
     StepKind{"Save", 10, &U::Save},
     StepKind{"Pick", 10, &U::PickName},
-    StepKind{"Keep", 5,
-             &U::LeaveOut}, // followed by a save, from which the worksheet is taken again
-    StepKind{"Elsewhere", 2, &U::ChooseType}, // and taken again in another language and country
+    StepKind{"Keep", 5, &U::LeaveOut},        // followed by a save and loading the worksheet again
+    StepKind{"Elsewhere", 2, &U::ChooseType}, // loaded again in another language and country
     StepKind{"Reload", 2, &U::Reload},
     StepKind{"Unnamed", 4, &U::CloseUnnamed},
     StepKind{"New", 4, &U::New},
     StepKind{"Delete", 4, &U::Delete},
     StepKind{"Close", 2, &U::CloseAndStart},
-    // The rest of the program
+    // Other features
     StepKind{"Language", 3, &U::SwitchLanguage},
     StepKind{"Options", 3, &U::OpenOptions},
     StepKind{"Print", 2, &U::Print},
@@ -96,13 +95,13 @@ Step StepMaker::Next() {
     return step;
 }
 
-/// What a user does who has begun with this.
+/// The steps that follow after this one.
 void StepMaker::Plan(std::string_view begun, const Step& step) {
-    constexpr unsigned leaving = 2;                                               // by the tab key
-    const auto name = [&] { return Step{Of("Name").kind, leaving, step.b % 3}; }; // can be kept
+    constexpr unsigned leaving = 2;                                               // with Tab
+    const auto name = [&] { return Step{Of("Name").kind, leaving, step.b % 3}; }; // can be saved
     if (begun == "Fill") {
         m_planned = {Of("Tab"), Of("Type")};
-        m_planned.front().a = 0; // forwards
+        m_planned.front().a = 0; // forward
     } else if (begun == "Clear") {
         Step again = Of("Again");
         again.a = step.a;                        // in the same row,
@@ -112,7 +111,7 @@ void StepMaker::Plan(std::string_view begun, const Step& step) {
         m_planned = {Of("Reload"), Of("Save"), name()};
     } else if (begun == "Elsewhere") {
         m_planned = {Of("Reload"), Of("Close"), Of("Reload"), Of("Language"), Of("Save"), name()};
-        m_planned.at(3).a = 2; // another one
+        m_planned.at(3).a = 2; // the other language
     } else if (begun == "Options" && step.b % 8 < 2) {
         m_planned = {Of("Close")};
     }

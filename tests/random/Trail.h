@@ -10,8 +10,8 @@
 
 class RandomUser;
 
-/// One thing that the user does. What exactly it is depends on two numbers and on what is on the
-/// screen, and on nothing else, so that a trail of steps can be walked again.
+/// One action of the user. It depends only on two numbers and on the screen, so that a trail of
+/// steps can be repeated.
 struct Step {
     std::size_t kind = 0; ///< a row of Kinds()
     unsigned a = 0;
@@ -21,13 +21,13 @@ using Trail = std::vector<Step>;
 
 struct StepKind {
     const char* name;
-    int weight; ///< how often, beside the others
+    int weight; ///< how often, relative to the others
     void (RandomUser::*act)(unsigned a, unsigned b);
 };
 
 std::span<const StepKind> Kinds();
 
-/// Steps without end, the same ones for the same seed.
+/// An endless sequence of steps, always the same for the same seed.
 class StepMaker {
 public:
     explicit StepMaker(std::uint64_t seed);
@@ -39,10 +39,10 @@ private:
 
     std::mt19937_64 m_random;
     int m_all = 0;
-    Trail m_planned; ///< the last one first
+    Trail m_planned; ///< the next one is the last element
 };
 
 /// "Type 3 17; Tab 0 0"
 QString Written(const Trail& trail);
-/// Throws std::invalid_argument for a step that there is none of.
+/// Throws std::invalid_argument for an unknown step.
 Trail ReadTrail(const QString& text);

@@ -48,7 +48,7 @@ QString TextOf(const QObject& object) {
 QString TitleOf(const QObject& object) { return static_cast<const QMenu&>(object).title(); }
 QString None(const QObject& /*object*/) { return {}; }
 
-/// What tells the text that is written on it.
+/// Returns the function that reads a control's caption.
 auto CaptionReader(const QObject& object) {
     if (qobject_cast<const QLabel*>(&object) != nullptr) {
         return &TextOf<QLabel>;
@@ -69,7 +69,7 @@ QString Tip(const QObject& object) { return AsWidget(object).toolTip(); }
 QString Name(const QObject& object) { return AsWidget(object).accessibleName(); }
 QString Description(const QObject& object) { return AsWidget(object).accessibleDescription(); }
 
-/// The date and the interest of a payoff have a tip only at times.
+/// The date and the interest of a payoff only sometimes have a tooltip.
 bool MayBeAway(const QString& name) {
     return name.contains(u"PayoffDate"_s) || name.startsWith(u"txtInterest("_s);
 }
@@ -163,7 +163,7 @@ void WindowTexts::ListTold(const QObject& object, int tip, int name, int ordinal
     }
 }
 
-/// Whatever else bears a text has come to the window unnoticed by this account.
+/// Lists every other control with a text: the reference model does not know it.
 void WindowTexts::ListUnaccounted(const QWidget& window) {
     QSet<const QObject*> known;
     for (const Seen& seen : m_written) {
@@ -178,7 +178,7 @@ void WindowTexts::ListUnaccounted(const QWidget& window) {
     }
 }
 
-/// The heading that the offers are sorted by tells so.
+/// The heading of the sorted column says so in its accessible description.
 QStringList WindowTexts::ComplaintsOfSorting(char sorted) const {
     struct Heading {
         QString name;
@@ -197,7 +197,7 @@ QStringList WindowTexts::ComplaintsOfSorting(char sorted) const {
     return complaints;
 }
 
-/// What can be chosen.
+/// The entries of the lists.
 QStringList WindowTexts::ComplaintsOfLists(const QWidget& window) const {
     QStringList complaints;
     for (const auto* list : window.findChildren<QComboBox*>()) {

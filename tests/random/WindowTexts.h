@@ -10,22 +10,21 @@
 #include <array>
 #include <vector>
 
-/// What is written on the window, by the table of texts of the language that the book says is on:
-/// captions, headings and menus, tips, and what screen readers are told. Knows by itself which text
-/// belongs to which control, so that a wrong number in a form is noticed, too.
+/// The texts of the window in the language of the reference model: captions, headings, menus,
+/// tooltips, and accessible texts. It has a separate table of which text belongs to which control,
+/// so that it detects a wrong number in a form.
 class WindowTexts {
 public:
     WindowTexts();
 
-    /// What is written otherwise, and what bears a text that nobody accounts for. Tips, words for
-    /// screen readers and the entries of lists take their time, and are looked at only when it is
-    /// thorough, or when they may just have changed.
+    /// Lists wrong texts, and controls with an unexpected text. Tooltips, accessible texts and list
+    /// entries take time: they are checked only if `thorough`, or after a possible change.
     QStringList Complaints(const QWidget& window, const Book& book, bool thorough);
 
 private:
     using Read = QString (*)(const QObject& object);
 
-    /// A text that must be seen.
+    /// A text that must be shown.
     struct Seen {
         const QObject* object; ///< lives as long as the window
         const char* what;
@@ -45,8 +44,8 @@ private:
     QStringList ComplaintsOfSorting(char sorted) const;
     QStringList ComplaintsOfLists(const QWidget& window) const;
 
-    std::array<QHash<int, QString>, 2> m_tables; ///< of English and of Spanish, by number
-    QHash<QString, const QObject*> m_objects;    ///< of the window, by name
+    std::array<QHash<int, QString>, 2> m_tables; ///< English and Spanish, by number
+    QHash<QString, const QObject*> m_objects;    ///< objects of the window, by name
     std::vector<Seen> m_written;
     std::vector<Seen> m_told;
     QStringList m_unaccounted;

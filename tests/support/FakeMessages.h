@@ -10,9 +10,9 @@
 #include <initializer_list>
 #include <vector>
 
-/// Stands in the door of the message boxes: keeps each text and closes at once. What a user does
-/// while a box is open is done by `whileOpen`; questions are answered from a queue, and by Cancel
-/// (or No, where there is no Cancel) once it is empty.
+/// Test double for the message boxes: records each text and returns at once. `whileOpen` does what
+/// a user does while a box is open. Questions are answered from a queue; when it is empty, by
+/// Cancel (or No, if there is no Cancel).
 class FakeMessages : public MessageDoor {
 public:
     void Show(const QString& text) override {

@@ -19,21 +19,21 @@
 #include <unistd.h>
 #include <vector>
 
-// What comes in at a door from outside, at random, as much of it as fits into the time. What is
-// worth keeping stands in a file of its own in tests/data/<door>-corpus and is tried first; at
-// random comes what is made of it.
+// Random input for one external interface, as much as the time allows. Inputs worth keeping are
+// separate files in tests/data/<name>-corpus and are tried first; random inputs are derived from
+// them.
 //
-// QUEND_FUZZ_SECONDS says how long (a second or two), QUEND_FUZZ_SEED where the seeds begin (1).
-// Where QUEND_FUZZ_KEEP names a folder, each input is left there as <door>.last before it is tried,
-// so that it is there to be looked at whatever it did to the program (scripts/fuzz).
+// QUEND_FUZZ_SECONDS is the duration (default: a second or two), QUEND_FUZZ_SEED the first seed
+// (1). If QUEND_FUZZ_KEEP names a folder, each input is written there as <name>.last before it is
+// tried, so that it survives a crash (scripts/fuzz).
 
-/// Numbers without end; the same ones for the same seed, on every system.
+/// An endless sequence of numbers, the same for the same seed on every system.
 class FuzzRandom {
 public:
     explicit FuzzRandom(std::uint64_t seed) : m_random(seed) {}
 
     std::size_t Below(std::size_t end) { return m_random() % end; }
-    /// True once in so many times.
+    /// True once in this many times on average.
     bool OneIn(std::size_t times) { return Below(times) == 0; }
     char Byte() { return static_cast<char>(m_random() & 0xFFU); }
     template <class Values>
@@ -45,8 +45,8 @@ private:
     std::mt19937_64 m_random;
 };
 
-/// A door: its name, the inputs kept for it, and one try of it, which fails or throws where the
-/// input breaks a promise. A try that hangs ends the program.
+/// An external interface: its name, its corpus, and one try, which fails or throws if an input
+/// breaks the contract. A try that hangs ends the program.
 class FuzzDoor {
 public:
     using Try = std::function<void(const std::string& input)>;
@@ -109,17 +109,16 @@ private:
 
     std::string m_name;
     Try m_try;
-    /// Seconds, far more than any input takes; 0 for all the time there is.
+    /// Seconds, far more than any input takes; 0 for no limit.
     unsigned m_patience = static_cast<unsigned>(FromEnvironment("QUEND_FUZZ_PATIENCE", 60));
     std::vector<std::string> m_corpus;
 };
 
-/// One to six changes to bytes that were sound: what damage, and whoever means harm, does to a
-/// file.
+/// One to six changes to valid bytes, as from damage or an attacker.
 inline std::string Damaged(FuzzRandom& random, std::string bytes) {
     constexpr std::string_view extremes("\0\1\x7F\x80\xFF", 5);
     for (std::size_t changes = 1 + random.Below(6); !bytes.empty() && changes > 0; --changes) {
-        // Mostly where a file begins: what stands there says how the rest is read.
+        // Often near the beginning of a file: its header determines how the rest is read.
         const std::size_t at =
             random.Below(random.OneIn(2) ? bytes.size() : std::min<std::size_t>(bytes.size(), 200));
         const std::size_t length = std::min(1 + random.Below(16), bytes.size() - at);
@@ -147,7 +146,7 @@ inline std::string Damaged(FuzzRandom& random, std::string bytes) {
     return bytes;
 }
 
-/// A text of one piece or a few, and now and then of anything.
+/// A text of one or more pieces, sometimes with arbitrary bytes.
 inline std::string Patched(FuzzRandom& random, std::span<const char* const> pieces) {
     std::string text;
     for (std::size_t count = random.OneIn(3) ? 1 + random.Below(9) : 1; count > 0; --count) {

@@ -13,7 +13,7 @@
 #include <random>
 #include <vector>
 
-/// Everything a loan's arithmetic can be given.
+/// All inputs of a loan's arithmetic.
 struct HostileLoan {
     const char* kind = "";
     Money amount;
@@ -35,8 +35,8 @@ struct HostileLoan {
     }
 };
 
-/// Loans of every kind that could keep a schedule busy, or break it; the same ones in every run and
-/// on every system. It knows nothing of the right answers.
+/// Loans that could slow down or break a schedule, the same in every run and on every system. It
+/// does not know the right results.
 class HostileLoans {
 public:
     static std::vector<HostileLoan> Make(int count) {
@@ -52,11 +52,11 @@ public:
 private:
     struct Kind {
         const char* name;
-        int weight; ///< in a hundred
+        int weight; ///< per cent
         void (HostileLoans::*distort)(HostileLoan&);
     };
 
-    // The endless kinds run for thousands of years each: few of them are enough.
+    // Each endless kind runs for thousands of years, so a few are enough.
     static constexpr auto Kinds();
 
     HostileLoan One();
@@ -158,7 +158,7 @@ inline HostileLoan HostileLoans::One() {
     loan.rate = static_cast<double>(Between(1, 30'000)) / 100'000.0;
     loan.term = static_cast<int>(Between(1, 480));
     loan.code = AnyCode();
-    // Between a long and a short time to repay.
+    // Between a long and a short repayment.
     loan.actualPayment =
         Money::FromDoubleInCents(loan.amount.ToDouble() / static_cast<double>(Between(2, 200)));
     loan.escrowMonthly = Cents(0, 30'000);

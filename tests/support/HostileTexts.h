@@ -5,8 +5,8 @@
 #include <array>
 #include <string>
 
-/// What hostile texts are made of: numbers and what is nearly one, in any script; what other
-/// programs read as markup, arguments, formats or paths; characters that are hardly any.
+/// Parts of hostile texts: numbers and near-numbers in any script; texts that other programs
+/// interpret as markup, arguments, formats or paths; unusual characters.
 inline constexpr std::array HostilePieces{"0",
                                           "1",
                                           "5",
@@ -91,8 +91,8 @@ inline constexpr std::array HostilePieces{"0",
                                           "ß",
                                           "ﷺ"};
 
-/// The text of these bytes. What is no UTF-8 becomes half of a character, which no text should hold
-/// and which other programs hand over nonetheless.
+/// The text of these bytes. Invalid UTF-8 becomes an unpaired surrogate, which a text should not
+/// contain but which other programs pass on.
 inline QString TextOf(const std::string& bytes) {
     return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()))
         .replace(QChar::ReplacementCharacter, QChar(0xD83C));

@@ -4,7 +4,7 @@
 
 class QString;
 
-/// While it lives the toolkit's warnings are no faults: it may complain of what a fuzzer gives it.
+/// Discards Qt's warnings while it exists, because Qt may complain about fuzzed input.
 class QuietToolkit {
 public:
     QuietToolkit()

@@ -7,22 +7,22 @@
 #include <cstdlib>
 #include <random>
 
-/// Random values that a seed repeats everywhere: no distribution of the library is used, because
-/// each library has its own.
+/// Random values that a seed repeats on every system. They avoid the distributions of the standard
+/// library, because they differ between libraries.
 class Random {
 public:
     explicit Random(unsigned seed) : m_engine(seed) {}
 
-    /// From low to high, both included.
+    /// From low to high, inclusive.
     std::int64_t Whole(std::int64_t low, std::int64_t high) {
         const auto span = static_cast<std::uint64_t>(high - low) + 1;
         return low + static_cast<std::int64_t>(m_engine() % span);
     }
     int Int(int low, int high) { return static_cast<int>(Whole(low, high)); }
-    /// From 0 up to, and without, 1.
+    /// From 0 up to 1, exclusive.
     double Fraction() { return static_cast<double>(m_engine() >> 11U) * 0x1p-53; }
     double Between(double low, double high) { return low + Fraction() * (high - low); }
-    /// As many of one size as of the next, ten times larger: 0.01 to 0.1, 0.1 to 1 and so on.
+    /// Each order of magnitude is equally likely: 0.01 to 0.1, 0.1 to 1 and so on.
     double OfAnySize(double low, double high) {
         return std::exp(Between(std::log(low), std::log(high)));
     }
@@ -36,8 +36,8 @@ private:
     std::mt19937_64 m_engine;
 };
 
-/// Tries a property on QUEND_PROPERTY_CASES random cases, or else on so many, up to the first that
-/// fails. A failure tells its seed; with QUEND_PROPERTY_SEED set to it, that case comes first.
+/// Tries a property on QUEND_PROPERTY_CASES random cases (default `usual`), until one fails. A
+/// failure reports its seed; QUEND_PROPERTY_SEED starts with that case.
 template <class Property>
 void ForRandomCases(int usual, Property property) {
     const auto setting = [](const char* name, int otherwise) {

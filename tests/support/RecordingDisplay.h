@@ -5,11 +5,11 @@
 #include <map>
 #include <vector>
 
-/// A display without a window: keeps what each field was last told to show, and counts the calls.
-/// It checks nothing by itself.
+/// A display without a window: keeps the last contents of each field, and counts the calls. It
+/// checks nothing by itself.
 class RecordingDisplay final : public WorksheetDisplay {
 public:
-    /// What stands in one field, and how often each part of it was shown.
+    /// The contents of one field, and how often each part was shown.
     struct Record {
         QString text;
         Mark mark = Mark::None;
@@ -53,21 +53,21 @@ public:
     void PaymentRaised() override { ++m_paymentsRaised; }
     void PaymentRefused() override { ++m_paymentsRefused; }
 
-    /// Of a field that was never shown: empty, unmarked, all counts zero.
+    /// For a field that was never shown: empty, unmarked, all counts zero.
     Record Of(Field field) const {
         const auto found = m_records.find(field);
         return found == m_records.end() ? Record() : found->second;
     }
     QString TextOf(Field field) const { return Of(field).text; }
 
-    /// The fields whose texts were shown, in the order of the calls; one entry a call.
+    /// The fields whose texts were shown, in the order of the calls; one entry per call.
     const std::vector<Field>& TextsInOrder() const { return m_texts; }
     /// Every order that was shown, in the order of the calls.
     const std::vector<SortOrder>& SortOrders() const { return m_sortOrders; }
     int PaymentsRaised() const { return m_paymentsRaised; }
     int PaymentsRefused() const { return m_paymentsRefused; }
 
-    /// Counts from zero again; what stands in the fields stays.
+    /// Resets the counts to zero; the contents of the fields stay.
     void ForgetCalls() {
         for (auto& [field, record] : m_records) {
             record.texts = record.marks = record.ticks = record.toolTips = record.dates = 0;

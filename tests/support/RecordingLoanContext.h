@@ -2,7 +2,7 @@
 
 #include "CLoan.h"
 
-/// A worksheet for one offer: answers with what a test sets, and counts what is reported to it.
+/// A worksheet for one offer: returns values that the test sets, and counts reports.
 class RecordingLoanContext : public LoanContext {
 public:
     int LoanTerm() const override { return loanTerm; }

@@ -2,7 +2,7 @@
 
 #include "Worksheet.h"
 
-/// The loan wanted and the loan held today, every value of them; offers are the caller's.
+/// Every value of the new loan and the current loan; the caller adds the offers.
 inline void FillSampleLoans(Worksheet& sheet) {
     sheet.SetLoanName(QStringLiteral("Our new home"));
     sheet.SetLoanType(QStringLiteral("M"));
@@ -17,5 +17,5 @@ inline void FillSampleLoans(Worksheet& sheet) {
     sheet.SetCurrentActualPayment(Money::FromDouble(2'050));
 }
 
-/// Rates a little higher from row to row.
+/// The rates rise slightly from row to row.
 inline double SampleRate(Row row) { return 0.055 + 0.00125 * row.value; }

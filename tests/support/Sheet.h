@@ -3,7 +3,7 @@
 #include "RecordingDisplay.h"
 #include "Worksheet.h"
 
-/// A worksheet of so many rows that nobody sees, on 21 November 2026, terms in years.
+/// A worksheet with this many rows and no window, on 21 November 2026, terms in years.
 struct Sheet {
     explicit Sheet(const QLocale& locale = QLocale(QLocale::English, QLocale::UnitedStates),
                    int rows = 6)

@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-/// A user's store of its own, gone with the test. It holds the program's key and nothing else.
+/// A temporary store for a test. It holds the program's key and nothing else.
 class StoreFolder {
 public:
     StoreFolder() { Store().CreateKey(Root, BaseKey); }
@@ -38,8 +38,8 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// While it lives, a folder is where the store was, and its log is away: nothing can be read or
-/// written, as without the right to.
+/// While it exists, a folder replaces the store and its log is moved away: reading and writing fail
+/// as they do without permission.
 class StoreOutOfReach {
 public:
     explicit StoreOutOfReach(std::filesystem::path store) : m_store(std::move(store)) {

@@ -72,7 +72,7 @@ void UserHands::Activate() {
 }
 
 void UserHands::Settle() {
-    constexpr int rounds = 6; // an event, the message it posts, what follows it, and back
+    constexpr int rounds = 6; // an event, its posted message, the consequences, and back
     for (int round = 0; round < rounds; ++round) {
         QCoreApplication::sendPostedEvents();
         QCoreApplication::processEvents();

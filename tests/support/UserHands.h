@@ -7,8 +7,8 @@
 
 #include <stdexcept>
 
-/// What a user does in a window, and sees there. Keys and clicks go through the window system;
-/// controls are found by name.
+/// The actions of a user in a window, and what it shows. Keys and clicks go through the window
+/// system; controls are found by name.
 class UserHands {
 public:
     UserHands(const UserHands&) = delete;
@@ -19,10 +19,10 @@ public:
 protected:
     UserHands() = default;
     virtual ~UserHands() = default;
-    /// The window that is on the screen.
+    /// The window on the screen.
     virtual QWidget& UsersWindow() const = 0;
 
-    /// The control of this name. Throws, naming those there are, when there is none.
+    /// The control of this name. If there is none, throws with the existing names.
     QWidget& Control(QStringView name) const;
     template <class Kind>
     Kind& Get(QStringView name) const {
@@ -31,29 +31,29 @@ protected:
         }
         throw std::runtime_error("of another kind: " + name.toString().toStdString());
     }
-    /// What a field, list, label or button shows.
+    /// The text of a field, list, label or button.
     QString Text(QStringView name) const;
-    /// The name of the control that has the keyboard.
+    /// The name of the control with the focus.
     static QString FocusName();
 
-    /// A click into the middle of a control, or at a place of it.
+    /// Clicks the middle of a control, or a place in it.
     void Click(QStringView name) { Click(Control(name)); }
     static void Click(const QWidget& control) { Click(control, control.rect().center()); }
     static void Click(const QWidget& control, QPoint at);
-    /// Two quick clicks into the middle of a control.
+    /// Double-clicks the middle of a control.
     static void DoubleClick(const QWidget& control);
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-    /// A key that types this text, by itself or with others held.
+    /// Presses a key that types this text, with or without modifiers.
     void PressText(Qt::Key key, QStringView text, Qt::KeyboardModifiers modifiers);
     void Tab() { Press(Qt::Key_Tab); }
     void BackTab() { Press(Qt::Key_Backtab, Qt::ShiftModifier); }
-    /// Key by key, as far as keys give these characters.
+    /// Types key by key; only characters that keys can produce.
     void Type(QStringView text);
-    /// Over what is selected.
+    /// Replaces the selection.
     void Paste(QStringView text);
 
-    /// Throws when the window does not become active before long.
+    /// Throws when the window does not become active within a short time.
     void Activate();
-    /// Lets everything happen that is on its way.
+    /// Processes all pending events.
     static void Settle();
 };

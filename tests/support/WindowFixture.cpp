@@ -75,7 +75,7 @@ void WindowTest::Choose(QStringView name, int index) {
     if (!WaitFor(popup)) {
         throw std::runtime_error("no list opens: " + name.toString().toStdString());
     }
-    Settle(); // the entry under the pointer is marked once the list stands
+    Settle(); // the open list first marks the entry under the pointer
     Press(Qt::Key_Home);
     for (int entry = 0; entry < index; ++entry) {
         Press(Qt::Key_Down);
@@ -94,7 +94,7 @@ void WindowTest::Wheel(const QWidget& control, int notches) {
 void WindowTest::TurnWheel(QPoint at, int eighthsOfDegree) {
     QWheelEvent event(at, m_window->mapToGlobal(at), QPoint(), QPoint(0, eighthsOfDegree),
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&event); // only a wheel that a hand turns can give the focus
+    QSpontaneKeyEvent::setSpontaneous(&event); // only hardware wheel events give the focus
     qApp->notify(m_window->windowHandle(), &event);
 }
 

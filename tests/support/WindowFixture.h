@@ -20,7 +20,7 @@ class QLineEdit;
 class QScrollBar;
 class QTimer;
 
-// What a failed comparison shows.
+// The output of a failed comparison.
 void PrintTo(const QString& text, std::ostream* out);
 void PrintTo(QStringView text, std::ostream* out);
 
@@ -31,21 +31,21 @@ inline const QLocale Spain(QLocale::Spanish, QLocale::Spain);
 inline constexpr int English = 1;
 inline constexpr int Spanish = 2;
 
-/// How the program is started.
+/// The configuration at the start of the program.
 struct Start {
     QLocale locale = UnitedStates;
     int language = English;
     bool termInMonths = false;
     int loansDisplayed = 5; ///< the index of the last row that shows without scrolling
     QString wallpaper = {};
-    MessageDoor* messages = nullptr; ///< null: the fixture's own, which shows nothing
-    /// The notice of a raised payment comes a second later, which on a slow machine is anywhere in
-    /// a test. It waits until HurryTimer.
+    MessageDoor* messages = nullptr; ///< null: the fixture's own double, which shows nothing
+    /// The notice of a raised payment appears a second later, which is unpredictable on a slow
+    /// machine. It waits until HurryTimer.
     bool noticeWaits = true;
 };
 
-/// The main window as a user meets it: on the screen and active, on 21 November 2026, in a fixed
-/// locale and language.
+/// The main window as shown to a user: visible and active, on 21 November 2026, in a fixed locale
+/// and language.
 class WindowTest : public ::testing::Test, protected UserHands {
 protected:
     WindowTest();
@@ -56,13 +56,13 @@ protected:
     WindowTest& operator=(WindowTest&&) = delete;
 
     void Open(const Start& start = {});
-    /// What a window manager does once another window has been closed.
+    /// As a window manager does after another window was closed.
     void ActivateAgain() { Activate(); }
-    /// The window closed and gone.
+    /// Closes and destroys the window.
     void Shut() { m_window.reset(); }
     Loan& Window() { return *m_window; }
     const Worksheet& Sheet() const { return m_window->GetWorksheet(); }
-    /// The worksheet to write to, for values that a user cannot type but a kept worksheet can hold.
+    /// The worksheet, for values that a user cannot type but a saved worksheet can hold.
     Worksheet& SheetToWrite() { return m_window->GetWorksheet(); }
     FakeMessages& Door() { return m_messages; }
 
@@ -70,31 +70,31 @@ protected:
     QComboBox& List(QStringView name) const;
     QScrollBar& Bar() const;
     QPoint PlaceInWindow(const QWidget& control, QPoint at) const;
-    /// Puts the keyboard into a field by a click, unless it is there.
+    /// Moves the focus to a field by a click, unless it has it.
     void Enter(QStringView name);
-    /// Enters a field, types and goes on with the tab key.
+    /// Enters a field, types and leaves it with the Tab key.
     void Fill(QStringView name, QStringView text);
     /// Opens a list by a click and picks the entry with this index.
     void Choose(QStringView name, int index);
-    /// One notch of the wheel over this control; down is negative.
+    /// Turns the wheel by notches over this control; down is negative.
     void Wheel(const QWidget& control, int notches);
-    /// The same at a place of the window, for parts of a notch.
+    /// The same at a place of the window, for fractions of a notch.
     void TurnWheel(QPoint at, int eighthsOfDegree);
-    /// A language entry of the menu, 1 and up.
+    /// A language entry of the menu, from 1.
     void SwitchLanguage(int number);
 
-    /// 100,000 at 6 % over 30 years, monthly, typed into the first row.
+    /// Types 100,000 at 6 % over 30 years, monthly, into the first row.
     void FillFirstOffer();
 
-    /// The timer of the notice of raised payments, which also takes their marks away.
+    /// The timer of the notice of raised payments, which also removes their marks.
     QTimer& Timer1() const;
     void HurryTimer() const;
 
-    /// Whether this comes true before long.
+    /// Whether this becomes true within a short time.
     static bool WaitFor(const std::function<bool()>& condition);
     /// Opens the context menu of a control and closes it again.
     void OpenContextMenu(QStringView name);
-    /// The messages there are once everything has happened.
+    /// The messages after all pending events.
     QStringList SettledMessages();
 
     static QString RowName(QStringView control, int row);

@@ -1,4 +1,4 @@
-// The program's folder, copied to another place and started through a link as an installed one is.
+// The program's folder, copied to another place and started through a link like an installed one.
 
 #include "Drive.h"
 
@@ -14,10 +14,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The build's folder is still there meanwhile, and would be found by whoever looks for it.
+/// The build folder still exists meanwhile, so a wrong search would find it.
 class CopiedFolder : public testing::Test {
 protected:
-    /// Copies the build's files of these endings, in a folder of a name that is easily got wrong.
+    /// Copies the build's files with these endings into a folder with a difficult name.
     void Copy(const std::vector<std::string>& endings) const {
         for (const auto& entry : fs::directory_iterator(QUEND_PROGRAM_DIR)) {
             const std::string name = entry.path().filename().string();
@@ -67,7 +67,7 @@ TEST_F(CopiedFolder, FindsItsLanguagesAndItsHelpBesideItself) {
     EXPECT_EQ(result.complaints, "");
 }
 
-/// In Spain: the language is not fetched from elsewhere, nor is the help.
+/// In Spain: neither the language nor the help is loaded from elsewhere.
 TEST_F(CopiedFolder, LooksNowhereElse) {
     Copy({"Loan", ".Help.so"});
     const DriveResult result = Drive("es_ES.UTF-8", R"(

@@ -1,5 +1,5 @@
-// Dragging with a real mouse on a real X server, within the window and to and from another program
-// of another toolkit (scripts/driver/neighbour.py).
+// Drag and drop with a real mouse on a real X server, within the window and to and from another
+// program that does not use Qt (scripts/driver/neighbour.py).
 
 #include "Story.h"
 
@@ -50,7 +50,7 @@ expect txtInterestRate(1) 6.500%
 read txtPandI(1) txtPoints(0)
 )";
 
-/// The second offer costs less and comes first; what is dropped on the first row is its own.
+/// The second offer costs less and is sorted first; a drop on the first row affects that offer.
 const std::string AfterASort = R"(
 number txtPoints(1) 2
 type txtActualPayment(1) 900
@@ -71,7 +71,7 @@ const std::string AfterASortShown =
 const std::string BetweenRowsShown = "txtInterestRate(0)\t6.500%\n"
                                      "txtPandI(1)\t$632.07\ntxtPoints(0)\t1.500\n";
 
-/// What starts nothing, and what comes to nothing; a drag at the end shows that drags work.
+/// Drags that do not start, and drags without effect; a last drag shows that dragging works.
 const std::string Nothing = R"(
 dragright txtPoints(0) txtPoints(3)
 dragescape txtPoints(0) txtPoints(3)
@@ -103,7 +103,7 @@ read txtPoints(1) txtTerm(1) txtPandI(0)
 const std::string FromOutsideShown = "drag\tnone\ndrag\tcopy\ndrag\tnone\ndrag\tnone\ndrag\tcopy\n"
                                      "txtPoints(1)\t\ntxtTerm(1)\t30\ntxtPandI(0)\t$665.30\n";
 
-/// Of the form of a number, but none.
+/// Has the form of a number, but is none.
 const std::string NoNumber = R"(
 meet -
 dragin txtPoints(0)
@@ -126,7 +126,7 @@ drag txtWho(0) neighbour
 got
 )";
 
-/// The entry that a value is dropped on gives way, in its row others are kept.
+/// A drop replaces the text being typed in its field, but keeps it in other fields of the row.
 const std::string WhileTyping = R"(
 meet 2.25
 keystrokes txtPoints(0) 9
@@ -144,7 +144,7 @@ read txtTerm(0) txtPoints(0) txtPandI(0)
 const std::string WhileTypingShown =
     "drag\tcopy\ndrag\tcopy\ntxtTerm(0)\t15\ntxtPoints(0)\t2.250\ntxtPandI(0)\t$871.11\n";
 
-/// A row far below comes into sight when it is entered, and takes what is dropped on it there.
+/// A row below the visible ones scrolls into view when it is entered, and accepts a drop there.
 const std::string Scrolled = R"(
 key txtPoints(0) Down Down Down Down Down Down Down
 expect txtPoints(7) 
@@ -153,7 +153,7 @@ expect txtPoints(6) 2.500
 read txtPoints(5) txtPoints(7)
 )";
 
-/// Held at the lower edge the rows scroll to the last one, which takes the drop.
+/// Holding a drag at the lower edge scrolls to the last row, which accepts the drop.
 const std::string HeldAtTheEdge = R"(
 key txtPoints(0) Down Down Down Down Down Down Down
 expect txtPoints(7) 

@@ -4,10 +4,10 @@
 
 namespace {
 
-/// Longer than any scenario takes under the sanitizers, shorter than a test may run.
+/// Longer than any scenario under the sanitizers, shorter than the limit of a test.
 constexpr int PatienceMs = 110'000;
 
-/// The interpreter that the driver's packages belong to.
+/// The interpreter that has the driver's packages.
 const QString& Interpreter() {
     static const QString path = QStringLiteral("/usr/bin/python3");
     return path;

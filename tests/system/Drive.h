@@ -2,17 +2,16 @@
 
 #include <string>
 
-/// What came of one run of the program.
+/// The result of one run of the program.
 struct DriveResult {
-    /// One line for each thing the scenario read: the control, a tab, the text it showed.
+    /// One line for each item the scenario read: the control, a tab, its text.
     std::string readings;
-    /// Why the scenario could not be played to its end, and whatever the program wrote to its
-    /// terminal; empty when all went well.
+    /// Why the scenario did not finish, and the program's terminal output; empty on success.
     std::string complaints;
 };
 
-/// Starts the program, by default the one that was built, under the locale on a desktop of its own,
-/// plays the scenario in its window and ends it. The steps are those that scripts/driver knows.
-/// Does not judge what is read.
+/// Starts the program, by default the one just built, with the locale on a separate desktop, plays
+/// the scenario in its window and ends it. The steps are those of scripts/driver. Does not judge
+/// the results.
 DriveResult Drive(const std::string& locale, const std::string& scenario,
                   const std::string& program = QUEND_PROGRAM_DIR "/Loan");

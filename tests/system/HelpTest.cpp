@@ -1,5 +1,5 @@
-// Help: its contents, F1 in a field, What's this? of something that cannot be used, and About with
-// the system information.
+// Help: contents, F1 in a field, What's This for a disabled control, and About with the system
+// information.
 
 #include "Story.h"
 

@@ -1,5 +1,5 @@
-// File, Print with a real print server and printer: what is chosen in the dialog arrives, and what
-// is cancelled does not.
+// File, Print with a real print server and printer: the choices of the dialog reach the printer,
+// and cancelled jobs do not.
 
 #include "Story.h"
 
@@ -14,7 +14,7 @@ class PrintStory : public testing::TestWithParam<Story> {};
 
 TEST_P(PrintStory, IsShown) { ExpectShown(GetParam()); }
 
-/// The words of the toolkit's dialogs.
+/// The texts of Qt's dialogs.
 struct DialogWords {
     std::string cancel, print, properties, landscape, ok, options, copies;
 };
@@ -24,7 +24,7 @@ const DialogWords English{"Cancel", "Print",      "Properties", "Landscape",
 const DialogWords Spanish{"Cancelar", "Imprimir",    "Propiedades", "Apaisado",
                           "Aceptar",  "Opciones >>", "Copias:"};
 
-/// Given up in the dialog, given up while it prints, then printed twice, lying.
+/// Cancelled in the dialog, cancelled while printing, then two copies in landscape.
 std::string Printing(const DialogWords& words) {
     const std::string print = "menu mnuFile mnuFilePrint\n";
     const auto push = [](const std::string& button) { return "push " + button + "\n"; };

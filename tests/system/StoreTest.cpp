@@ -1,4 +1,4 @@
-// Worksheets and settings across runs of the real program, in a real window, with its own store.
+// Worksheets and settings across runs of the real program, in a real window, with a separate store.
 
 #include "Story.h"
 
@@ -44,7 +44,7 @@ const std::string ShownInGermany = "cboLoanName\tOur home\ncboLoanType\tMortgage
                                    "txtPandI(0)\t607,61\u00A0€\n"
                                    "txtWho(0)\tFirst Prairie Bank\ndtNextPayment\t01.03.2027\n";
 
-/// What is told of a repair, in either language. `number` is that of the damaged file on its day.
+/// The message about a repair, in either language. `number` is that of the damaged file on its day.
 std::string Repaired(const std::string& words, const std::string& number) {
     const std::time_t now = std::time(nullptr);
     std::array<char, 16> today{};
@@ -60,7 +60,7 @@ const std::string RepairedInSpanish =
     "El archivo con sus hojas de trabajo guardadas estaba dañado. Lo que se pudo leer está en un "
     "archivo nuevo: 1 hoja de trabajo completa. El archivo dañado se conservó como ";
 
-/// Damaged before a save, and again before the settings are saved on the way out.
+/// Damaged before a save, and again before the settings are saved on exit.
 const std::string Damaged = R"(
 type cboLoanName Our home
 menu mnuFile mnuFileSave

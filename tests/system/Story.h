@@ -7,7 +7,7 @@
 #include <ostream>
 #include <string>
 
-/// One run of the program: what the user does, and what the window shows where the user looks.
+/// One run of the program: the actions of the user, and what the window shows.
 struct Story {
     const char* name;
     const char* locale;

@@ -12,8 +12,8 @@ class WindowStory : public testing::TestWithParam<Story> {};
 
 TEST_P(WindowStory, IsShown) { ExpectShown(GetParam()); }
 
-/// Four offers for the same 100,000 at 6 % over 30 years, one for each frequency. The first one
-/// brings the notice that its payment was filled in, and no other does.
+/// Four offers for the same 100,000 at 6 % over 30 years, one for each frequency. Only the first
+/// one shows the notice that its payment was filled in.
 const std::string FourOffers = R"(
 type txtLoanAmount 100000
 type txtInterestRate(0) 6
@@ -44,7 +44,7 @@ const std::string RaisedInSpanish =
     "dialog\tEl pago que piensa hacer no puede ser menor que el pago calculado para la oferta. Se "
     "fijó en el pago calculado; puede escribir uno mayor.\n";
 
-/// A language's words for the four frequencies.
+/// The names of the four frequencies in a language.
 struct Words {
     std::string notice;
     std::array<std::string, 4> frequencies;
@@ -55,7 +55,7 @@ const Words English{RaisedInEnglish,
 const Words Spanish{RaisedInSpanish,
                     {"Mensual", "Dos veces al mes", "Cada dos semanas", "Cada cuatro semanas"}};
 
-/// A locale's way with numbers. Between an amount and its sign stands a space that never breaks.
+/// The number format of a locale. A no-break space separates an amount from its currency sign.
 struct Figures {
     std::string amount;
     std::string rate;
@@ -71,7 +71,7 @@ std::string Line(const std::string& control, const std::string& text) {
     return control + '\t' + text + '\n';
 }
 
-/// What FourOffers reads.
+/// The output of FourOffers.
 std::string FourOffersIn(const Words& words, const Figures& figures) {
     std::string shown = words.notice + Line("txtLoanAmount", figures.amount) +
                         Line("txtInterestRate(4)", figures.rate) + Line("txtTerm(0)", "30");
@@ -112,7 +112,7 @@ std::string CurrentLoanIn(const std::string& monthly, const std::array<std::stri
            Line("txtCurInterestLeft", left[0]) + Line("txtCurAmountLeft", left[1]);
 }
 
-/// The language changes under a filled worksheet; what was typed and chosen stays.
+/// The language changes while the worksheet has entries; typed and chosen values stay.
 const std::string ChangeOfLanguage = R"(
 type txtLoanAmount 100000
 type txtInterestRate(0) 6
@@ -142,7 +142,7 @@ const std::string ChangeOfLanguageShown =
     Line("txtLoanAmount", "Loan Amount:") + Line("cboLoanType", "Mortgage") +
     Line("cboFrequency(0)", "Monthly") + Line("txtPayment(0)", "$599.55");
 
-/// A malformed number keeps the focus and is not stored; letters never reach the field.
+/// A malformed number keeps the focus and is not stored; the field rejects letters.
 const std::string Refusal = R"(
 keystrokes txtInterestRate(0) 1.2.3
 key txtInterestRate(0) Tab
@@ -168,7 +168,7 @@ type txtActualPayment(0) 700
 read txtActualPayment(0)
 )";
 
-/// Two offers are sorted while one of them is being typed; what follows finds its own offer.
+/// Two offers are sorted while one of them is being typed; later actions affect the right offer.
 const std::string Sorting = R"(
 type txtLoanAmount 100000
 type txtWho(0) Dear

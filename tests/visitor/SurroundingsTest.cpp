@@ -1,6 +1,5 @@
-// The real program in surroundings that nobody should have: whatever its environment and its
-// command line say, it starts and closes again with the store where it belongs, or says in words
-// why it cannot.
+// The real program in hostile surroundings. With any environment and command line, it starts and
+// closes with its store in the right place, or reports why it cannot.
 
 #include "Fuzzing.h"
 #include "HostileTexts.h"
@@ -27,8 +26,8 @@ struct Variable {
     QByteArray value;
 };
 
-/// The environment with these variables, as it was before once this goes. A null value takes a
-/// variable away. As bytes: the toolkit's own environment of a process is made of texts.
+/// Sets these variables; the destructor restores the previous ones. A null value removes a
+/// variable. Values are bytes, because Qt's process environment holds only texts.
 class Environment {
 public:
     explicit Environment(const std::vector<Variable>& variables) {
@@ -52,7 +51,7 @@ private:
     std::vector<Variable> m_before;
 };
 
-/// What came of one run.
+/// The result of one run.
 struct Outcome {
     int exitCode = -1;
     QStringList report;
@@ -68,13 +67,13 @@ struct Outcome {
     }
 };
 
-/// A user's home of the test's own, and the program started from it.
+/// A temporary home of a user, and the program started from it.
 class Surroundings : public testing::Test {
 protected:
     QString PathOf(const QString& name) const { return m_home.filePath(name); }
     QByteArray BytesOfPath(const QString& name) const { return QFile::encodeName(PathOf(name)); }
 
-    /// Variables with a null value are taken away.
+    /// Variables with a null value are removed.
     Outcome Start(const std::vector<Variable>& variables, const QStringList& arguments = {}) const {
         std::vector<Variable> all = {{"HOME", QFile::encodeName(m_home.path())},
                                      {"QT_QPA_PLATFORM", "offscreen"},
@@ -102,7 +101,7 @@ protected:
             QString::fromUtf8(program.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
         return outcome;
     }
-    /// The only message may come more than once.
+    /// `message` may appear more than once; no other message may appear.
     void ExpectStarts(const Outcome& outcome, const QStringList& message = {}) const {
         EXPECT_EQ(outcome.exitCode, 0);
         EXPECT_EQ(outcome.Of("shown"), QStringList(u"Quend Loan"_s));
@@ -153,7 +152,7 @@ TEST_F(Surroundings, OfAnyFoldersKeepTheStoreWhereItBelongs) {
     struct Case {
         const char* what;
         std::vector<Variable> variables;
-        QString store; ///< where it stands; null where there can be none, and the user is told
+        QString store; ///< its folder; null if there can be none, and the user gets a message
     };
     const QByteArray longPath = BytesOfPath(u"long/"_s) + QByteArray("folder/").repeated(1'000);
     const std::vector<Case> cases = {
@@ -194,7 +193,7 @@ TEST_F(Surroundings, OfAnyFoldersKeepTheStoreWhereItBelongs) {
     }
 }
 
-/// What a user who looks for them is told in the manual.
+/// The manual tells users where the files are.
 TEST_F(Surroundings, FilesAreWhereTheManualSays) {
     ExpectStarts(Start({}));
     ExpectStarts(

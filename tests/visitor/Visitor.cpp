@@ -1,6 +1,6 @@
-// A guest in the real program. It waits for the main window, says on the standard output what it
-// sees, does what a user does and closes the window; dialogs that open meanwhile it reports and
-// closes. QUEND_VISIT=work makes it use the whole program before; otherwise it only looks.
+// A plugin in the real program. It reports the contents of the main window on the standard output,
+// acts like a user and closes the window. Dialogs that open meanwhile are reported and closed.
+// QUEND_VISIT=work first uses the whole program; otherwise it only reads the window.
 
 #include <QAction>
 #include <QApplication>
@@ -18,7 +18,7 @@
 
 namespace {
 
-/// One line of the report; line breaks in it are blanks.
+/// Prints one line of the report; line breaks become blanks.
 void Say(const char* what, QString text = {}) {
     text.replace(u'\n', u' ').replace(u'\r', u' ');
     std::printf("%s %s\n", what, text.toUtf8().constData());
@@ -66,7 +66,7 @@ void FillIn() {
     Enter("txtLoanAmount", "100000");
     Enter("txtAnnualTaxes", "1200");
     Enter("txtActualPayment(0)",
-          "700"); // enough, so that no notice of a raised payment comes in between
+          "700"); // high enough to avoid the notice of a raised payment
     Enter("txtInterestRate(0)", "6");
     Enter("txtTerm(0)", "30");
     Enter("txtWho(0)", "Bank of the Prairie");
@@ -120,7 +120,7 @@ public:
     }
 
 private:
-    /// A step that opens a dialog ends only once the dialog has been closed, by a later one.
+    /// A step that opens a dialog returns only after a later step has closed the dialog.
     void Next() const { QTimer::singleShot(20, this, &Visitor::Visit); }
     void Visit() {
         if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {

@@ -48,7 +48,7 @@ TEST(HelpBook, CutsATopicOutOfItsPage) {
     EXPECT_TRUE(text.startsWith(QStringLiteral("<p><b>Annual Insurance</b></p>")));
     EXPECT_TRUE(text.contains(QStringLiteral("insurance premiums")));
     EXPECT_FALSE(text.contains(QStringLiteral("Monthly Escrow")));
-    const QString last = book.TopicText(1052); // the last one of its page
+    const QString last = book.TopicText(1052); // the last topic of its page
     EXPECT_TRUE(last.contains(QStringLiteral("needs")));
     EXPECT_FALSE(last.contains(QStringLiteral("body")));
 }

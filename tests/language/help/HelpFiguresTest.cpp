@@ -1,6 +1,6 @@
-// The figures in the examples of the help are the program's own. A figure stands in a span whose
-// class says what it is, "example.result", or the difference of two such; its examples begin on
-// 2 January 2026.
+// The figures in the examples of the help are those that the program computes. A figure is in a
+// span whose class names it, "example.result", or the difference of two such names. The examples
+// begin on 2 January 2026.
 
 #include "CalendarDate.h"
 #include "DisplayFormats.h"
@@ -45,7 +45,7 @@ const Example Offers[] = {
     {"newsame", 165'000, 0, false, 6.125, 300, "M", 275, 1'502.92},
 };
 
-/// The loan held in the example: 180,000 once borrowed, 165,000 still owed.
+/// The current loan in the example: 180,000 originally, 165,000 still owed.
 struct HeldLoan {
     const char* name;
     double pays; ///< 0: the calculated payment
@@ -69,7 +69,7 @@ public:
         }
     }
 
-    /// The date of "example.payoff"; none for anything else.
+    /// The date of "example.payoff"; no date for anything else.
     Date DateOf(const QString& figure) const {
         return figure.endsWith(u".payoff") ? Of(figure).payoff : Date();
     }
@@ -176,7 +176,7 @@ TEST_P(HelpFigures, AreTheProgramsOwn) {
     EXPECT_GT(checked, 60);
 }
 
-/// Cents are computed, never made up: an amount with cents stands in a span.
+/// Amounts with cents are always computed, so each is in a span.
 TEST_P(HelpFigures, NoAmountIsLeftUnchecked) {
     const HelpPages help(GetParam().identifier);
     const QRegularExpression span(QStringLiteral("<span[^>]*>[^<]*</span>"));

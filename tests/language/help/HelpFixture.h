@@ -8,15 +8,15 @@
 
 #include <memory>
 
-/// The main window with its help, as the program has them.
+/// The main window with its help, connected as in the program.
 class HelpTest : public WindowTest {
 protected:
     void OpenWithHelp(const Start& start = {});
-    /// A program's folder of the test's own, where the help file of the language may be missing.
+    /// A temporary program folder, where the help file of the language may be missing.
     void OpenBesides(const QString& folder, const Start& start = {});
 
     HelpCommands& Commands() { return *m_commands; }
-    /// The help window, which must be there.
+    /// The help window, which must exist.
     HelpWindow& Help();
     template <class Kind>
     Kind& InHelp(const QString& name) {
@@ -29,14 +29,14 @@ protected:
     bool HelpShows() { return Commands().Shown() != nullptr && Commands().Shown()->isVisible(); }
     /// A menu entry of the main window.
     QAction& Entry(const QString& name);
-    /// The name of the page in view, such as "points.html#t1030".
+    /// The name of the current page, such as "points.html#t1030".
     QString PageInView();
-    /// How far below the top of the view the section in view begins, in pixels.
+    /// The distance of the current section from the top of the view, in pixels.
     int TopOfSection();
 
 private:
     std::unique_ptr<HelpCommands> m_commands;
 };
 
-/// What's-this help that is showing; null when none is.
+/// The visible What's This text; null if there is none.
 QWidget* WhatsThisPopup();

@@ -1,5 +1,5 @@
-// Help files with anything in them: a book that opens has pages, one that does not is a failure in
-// words; whatever is asked of it is answered.
+// Help files with arbitrary contents. A file that opens has pages and answers every query. One that
+// does not open is a failure with a message.
 
 #include "CompiledBook.h"
 #include "Failure.h"
@@ -56,7 +56,7 @@ TEST_F(HelpFuzz, ADamagedBookOpensWithItsPagesOrTellsWhy) {
     const FuzzDoor door("help", [this](const std::string& input) { Try(input); });
     door.TryAtRandom([&](FuzzRandom& random) {
         std::string bytes = sound;
-        // Damage where pages of the file begin, which says what stands on them.
+        // Damages the beginning of pages of the file, which describes what they contain.
         for (std::size_t count = 1 + random.Below(8); count > 0; --count) {
             const std::size_t page = random.Below(bytes.size()) / 1'024 * 1'024;
             bytes.replace(page, 64, Damaged(random, bytes.substr(page, 64)).substr(0, 64));

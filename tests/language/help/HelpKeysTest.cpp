@@ -41,7 +41,7 @@ TEST_F(HelpKey, F1OpensTheTopicOfTheControlWithTheFocus) {
     EXPECT_EQ(SettledMessages(), QStringList());
 }
 
-/// Help is read while a field is being edited: what is typed stays as it is.
+/// Reading help while a field is being edited leaves the typed text unchanged.
 TEST_F(HelpKey, F1LeavesNoField) {
     OpenWithHelp();
     Enter(u"txtLoanAmount");
@@ -93,7 +93,7 @@ TEST_F(HelpKey, ShiftAndF1BeginsToAskAndOtherModifiersDoNothing) {
     EXPECT_FALSE(Commands().IsAsking());
 }
 
-/// A dialog blocks all other windows; its help has to be usable all the same.
+/// A dialog blocks all other windows, but its help must remain usable.
 TEST_F(HelpKey, F1InADialogOpensAHelpThatCanBeUsed) {
     OpenWithHelp();
     QDialog dialog(&Window());

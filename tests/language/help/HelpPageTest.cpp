@@ -1,5 +1,4 @@
-// Reading the help: its contents, its pages and their sections, and what screen readers hear of
-// them.
+// Reading the help: contents, pages, sections, and what screen readers report.
 
 #include "HelpFixture.h"
 #include "HelpView.h"
@@ -32,7 +31,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, HelpRead, ::testing::Values(English, Spanish
                              return language.param == English ? "English" : "Spanish";
                          });
 
-/// Help, Contents is a way back to the beginning, wherever the user is.
+/// Help, Contents returns to the first page from anywhere.
 TEST_P(HelpRead, ContentsShowsTheFirstPage) {
     Entry(QStringLiteral("mnuHelpSearch")).trigger();
     InHelp<HelpView>(QStringLiteral("txtPage")).setSource(QUrl(QStringLiteral("escrow.html")));
@@ -56,7 +55,7 @@ TEST_P(HelpRead, ContentsFollowThePage) {
     EXPECT_EQ(marked(), view.documentTitle());
 }
 
-/// Two chapters lead to one page: the one that the user is on keeps the mark.
+/// Two chapters lead to one page: the chapter that the user selected stays marked.
 TEST_P(HelpRead, ContentsKeepTheMarkOfTheUser) {
     auto& contents = InHelp<QTreeView>(QStringLiteral("treContents"));
     ASSERT_TRUE(WaitFor([&] { return contents.model()->rowCount() == 1; }));
@@ -68,7 +67,7 @@ TEST_P(HelpRead, ContentsKeepTheMarkOfTheUser) {
     EXPECT_EQ(contents.currentIndex(), fields);
 }
 
-/// A page ends below its last section, and could not scroll it to the top by itself.
+/// Without extra space below it, the last section of a page could not scroll to the top.
 TEST_P(HelpRead, TheSectionAskedForIsAtTheTop) {
     auto& view = InHelp<HelpView>(QStringLiteral("txtPage"));
     for (const char* page :
@@ -89,7 +88,7 @@ TEST_P(HelpRead, TheSectionAskedForIsAtTheTop) {
     }
 }
 
-/// Room below a page is for its sections; a page as a whole ends with its text.
+/// The extra space below a page is only for its sections; a whole page ends with its text.
 TEST_P(HelpRead, PagesEndWithTheirText) {
     auto& view = InHelp<HelpView>(QStringLiteral("txtPage"));
     const auto below = [&] { return view.document()->rootFrame()->frameFormat().bottomMargin(); };
@@ -101,7 +100,7 @@ TEST_P(HelpRead, PagesEndWithTheirText) {
     EXPECT_EQ(view.verticalScrollBar()->value(), 0);
 }
 
-/// A view that the user has scrolled stays at its text's beginning or end.
+/// A view that the user has scrolled stays at the beginning or end of its text.
 TEST_P(HelpRead, ScrolledViewsDoNotGoBackToTheSection) {
     auto& view = InHelp<HelpView>(QStringLiteral("txtPage"));
     view.setSource(QUrl(QStringLiteral("dialogs.html#t2031")));
@@ -118,7 +117,7 @@ TEST_P(HelpRead, AccessKeysOfTheSidesLeadTheKeyboardThere) {
         int tab;
         QStringView control;
     };
-    // Also where the side is in view already.
+    // Also where the tab is already open.
     for (const Case& tested :
          {Case{1, u"txtKeyword"}, Case{2, u"txtWords"}, Case{0, u"treContents"},
           Case{0, u"treContents"}, Case{2, u"txtWords"}}) {
@@ -150,7 +149,7 @@ TEST_P(HelpRead, ScreenReadersHearAWindowADocumentAndNoHeading) {
     }
 }
 
-/// Line by line, as a screen reader reads a page, nothing of it is left out.
+/// A screen reader that reads a page line by line misses nothing.
 TEST_P(HelpRead, ScreenReadersReadThePage) {
     auto& view = InHelp<HelpView>(QStringLiteral("txtPage"));
     auto* page = QAccessible::queryAccessibleInterface(&view);

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-/// The sources of one help file: its pages as they are written, and the project that names them.
+/// The sources of one help file: its pages, and the project that names them.
 struct HelpPages {
     explicit HelpPages(const std::string& identifier);
 
@@ -16,18 +16,18 @@ struct HelpPages {
 
     QString folder;
     QMap<QString, QString> pages;        ///< by file name
-    QMap<QString, QSet<QString>> places; ///< the named places of each page
+    QMap<QString, QSet<QString>> places; ///< the anchors of each page
     QStringList contents;                ///< pages in the table of contents
-    QMap<QString, QString> keywords;     ///< where each leads
-    QMap<QString, QString> topics;       ///< where each topic number leads
+    QMap<QString, QString> keywords;     ///< the target of each keyword
+    QMap<QString, QString> topics;       ///< the target of each topic number
     QStringList files;
 };
 
-/// The languages that have a help.
+/// The languages that have help.
 std::vector<std::string> HelpIdentifiers();
 
-/// A whole file as text.
+/// Reads a whole file as text.
 QString TextOfFile(const QString& path);
 
-/// What the first group finds, everywhere in the text.
+/// Every match of the expression's first group in the text.
 QStringList AllOf(const QString& expression, const QString& text);

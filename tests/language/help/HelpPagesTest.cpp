@@ -1,5 +1,5 @@
-// The help as it is written: every link leads somewhere, every control has its topic, and no
-// language has less than another.
+// The sources of the help: every link has a target, every control has a topic, and all languages
+// have the same contents.
 
 #include "HelpPages.h"
 #include "Forms.h"
@@ -18,7 +18,7 @@ class Pages : public testing::TestWithParam<std::string> {
 protected:
     const HelpPages m_help{GetParam()};
 
-    /// Whether a link from this page leads to something that is there.
+    /// Whether the target of a link from this page exists.
     bool Leads(const QString& page, const QString& link) const {
         const QString file = link.section(u'#', 0, 0);
         const QString place = link.section(u'#', 1);
@@ -71,7 +71,7 @@ TEST_P(Pages, EveryPageIsInTheFileAndInTheContents) {
     }
 }
 
-/// What stands under the heading of a topic is what a click on its control shows.
+/// The text under the heading of a topic is what a click on its control shows.
 TEST_P(Pages, TopicsAreWhereTheirNumberSays) {
     for (auto topic = m_help.topics.begin(); topic != m_help.topics.end(); ++topic) {
         EXPECT_EQ(topic->section(u'#', 1), u't' + topic.key());
@@ -116,7 +116,7 @@ TEST_P(Pages, SaysWhatTheOtherLanguagesSay) {
     }
 }
 
-/// Texts, pages and manual have many authors and one voice: each key and thing has one name.
+/// Texts, pages and manual have many authors, so each key and thing must have one name.
 TEST(SpanishWords, AreTheSameThroughout) {
     const QRegularExpression others(
         QStringLiteral("oprim\\w+|presion(?:e|ar)\\b|rengl[oó]n\\w*|ordenador|\\ben por ciento|"

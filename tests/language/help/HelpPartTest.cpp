@@ -18,7 +18,7 @@ TEST(HelpPart, OpensBooksFromALibraryOfItsOwn) {
     EXPECT_THROW(part->Open(Program + QStringLiteral("/none.hlp")), Failure);
 }
 
-// The tests' own folder is none of the program's.
+// The folder of the tests does not contain the program's libraries.
 TEST(HelpPart, MissingIsAFailure) {
     EXPECT_THROW(OpenByPart(Program + QStringLiteral("/loan000.hlp")), ComponentFailure);
 }

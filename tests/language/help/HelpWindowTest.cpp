@@ -32,7 +32,7 @@ protected:
     void Press(const QWidget& window, Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
         QTest::keyClick(window.windowHandle(), key, with);
     }
-    /// Looks for words as a user does, and waits for the answer.
+    /// Searches for words like a user, and waits for the result.
     void Search(const QString& words) {
         Entry(QStringLiteral("mnuHelpSearch")).trigger();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&Help()));
@@ -73,7 +73,7 @@ TEST_P(HelpShown, OpensOnContentsAtItsPlace) {
     EXPECT_EQ(contents->rowCount(contents->index(0, 0)), 10);
 }
 
-/// Where even half of the window is too narrow for a title, its end can be scrolled to.
+/// Where even half of the window is too narrow for a title, the user can scroll to its end.
 TEST_P(HelpShown, TitlesOfTheContentsAreNotCut) {
     Entry(QStringLiteral("mnuHelpContents")).trigger();
     auto& contents = InHelp<QTreeView>(QStringLiteral("treContents"));
@@ -131,7 +131,7 @@ TEST_P(HelpShown, PicturesShow) {
     EXPECT_LE(picture.value<QImage>().deviceIndependentSize().width(), view.viewport()->width());
 }
 
-/// The contrast of two colours, from 1 to 21.
+/// The contrast ratio of two colours, from 1 to 21.
 double Contrast(const QColor& one, const QColor& other) {
     const auto light = [](const QColor& colour) {
         const auto part = [](int level) {
@@ -166,7 +166,7 @@ TEST_P(HelpShown, SearchFindsWholeAndBegunWords) {
     struct Case {
         const char* english;
         const char* spanish;
-        const char* page; ///< null: no page has it
+        const char* page; ///< null: found, but on no particular page
     };
     for (const Case& tested :
          {Case{"refinancing", "refinanciar", "refinance.html"},
@@ -174,7 +174,7 @@ TEST_P(HelpShown, SearchFindsWholeAndBegunWords) {
           Case{"POINTS closing", "puntos liquidado", nullptr},
           Case{"escrow", "garantia", "escrow.html"}, Case{"xylophone", "xilófono", ""},
           Case{"escrow xylophone", "garantía xilófono", ""},
-          // What the search engine takes for commands are words.
+          // Operators of the search engine count as words.
           Case{"AND", "OR", nullptr}, Case{"escrow AND", "garantia OR", nullptr},
           Case{"NOT escrow", "garantia NOT", nullptr}, Case{"OR OR", "OR OR", nullptr},
           Case{"NEAR", "OR", nullptr}, Case{"escrow NOT escrow", "garantia NOT", nullptr},
@@ -196,7 +196,7 @@ TEST_P(HelpShown, SearchFindsWholeAndBegunWords) {
     }
 }
 
-/// What the search engine reads as commands is nothing to a user.
+/// Users do not know the syntax of the search engine, so it causes no error.
 TEST_P(HelpShown, SearchBearsAnyCharacters) {
     for (const char* words : {"\"points", "points AND (", "puntos* OR 'x", "a:b", "^$-+%_"}) {
         Entry(QStringLiteral("mnuHelpSearch")).trigger();
@@ -215,7 +215,7 @@ TEST_P(HelpShown, SearchOpensReadyToType) {
     EXPECT_EQ(InHelp<QLineEdit>(QStringLiteral("txtWords")).text(), QString());
 }
 
-/// With the words of before, or what they found, the list would answer a question not asked.
+/// The previous words or results would answer a different question.
 TEST_P(HelpShown, SearchStartsEmptyEachTime) {
     for (const char* words : {"loan", "xylophone"}) {
         Search(QString::fromLatin1(words));
@@ -224,7 +224,7 @@ TEST_P(HelpShown, SearchStartsEmptyEachTime) {
         EXPECT_EQ(Found(), QStringList());
         EXPECT_FALSE(InHelp<QLabel>(QStringLiteral("lblNotFound")).isVisible());
     }
-    // Nor does an answer that comes late.
+    // A late result is discarded as well.
     InHelp<QLineEdit>(QStringLiteral("txtWords")).setText(QStringLiteral("loan"));
     InHelp<QPushButton>(QStringLiteral("cmdFind")).click();
     Entry(QStringLiteral("mnuHelpSearch")).trigger();
@@ -337,7 +337,7 @@ TEST_F(HelpMissing, IsToldInItsOwnWordsAndChangesNothing) {
     EXPECT_EQ(FocusName(), u"txtLoanTerm");
 }
 
-/// The Spanish file is damaged: what is open stays, in the language it has.
+/// The Spanish file is damaged: the open page stays, in its language.
 TEST_F(HelpMissing, InTheOtherLanguageLeavesWhatIsOpen) {
     const QTemporaryDir folder;
     QFile::link(QStringLiteral(QUEND_PROGRAM_DIR "/loan000.hlp"),

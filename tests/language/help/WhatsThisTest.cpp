@@ -15,7 +15,7 @@
 
 namespace {
 
-/// The mode by itself: what was asked about.
+/// The mode without its answers: records which topic was asked about.
 class WhatsThis : public HelpTest {
 protected:
     void SetUp() override {
@@ -41,7 +41,7 @@ private:
     std::optional<int> m_asked;
 };
 
-/// Read-only and disabled ones, headings and captions among them: whatever has a topic.
+/// Every control with a topic, including read-only and disabled ones, headings and captions.
 TEST_F(WhatsThis, EveryControlIsAskedAboutAndDoesNothing) {
     Control(u"txtLoanTerm").setFocus();
     int asked = 0;
@@ -69,11 +69,11 @@ TEST_F(WhatsThis, ClickIsNoClickForTheControl) {
     m_mode.Begin();
     Click(u"chkPoints(0)");
     EXPECT_FALSE(Get<QAbstractButton>(u"chkPoints(0)").isChecked());
-    Click(u"chkPoints(0)"); // and the one after it is one again
+    Click(u"chkPoints(0)"); // the next click works as usual
     EXPECT_TRUE(Get<QAbstractButton>(u"chkPoints(0)").isChecked());
 }
 
-/// A field that would be refused is not even left.
+/// Even a field with a text that would be refused is not left.
 TEST_F(WhatsThis, NoFieldIsLeft) {
     Enter(u"txtLoanAmount");
     Type(u"1.2.3");
@@ -106,7 +106,7 @@ TEST_F(WhatsThis, MenusOpenAndTheirEntriesAreAskedAbout) {
             QObject::disconnect(watch);
         }
     }
-    EXPECT_TRUE(Window().isVisible()); // File, Exit was asked about, too
+    EXPECT_TRUE(Window().isVisible()); // the click on File, Exit only asked about it
 }
 
 TEST_F(WhatsThis, NameOfAnOpenMenuIsAskedAbout) {
@@ -154,7 +154,7 @@ TEST_F(WhatsThis, EscapeAndLeavingCallItOff) {
     EXPECT_EQ(Asked(), std::nullopt);
 }
 
-/// The mode with its answers.
+/// The mode including its answers.
 class WhatsThisText : public HelpTest, public ::testing::WithParamInterface<int> {
 protected:
     void SetUp() override { OpenWithHelp({.language = GetParam()}); }
@@ -192,7 +192,7 @@ TEST_P(WhatsThisText, LinkInItOpensThePage) {
     EXPECT_TRUE(WaitFor([] { return WhatsThisPopup() == nullptr; }));
 }
 
-/// What rows are made of when they are made has topics, too.
+/// Controls that are created together with a row also have topics.
 TEST_P(WhatsThisText, EveryControlOfTheWindowHasATopic) {
     for (const QWidget* control : Window().centralWidget()->findChildren<QWidget*>()) {
         EXPECT_NE(TopicOf(control), 0) << control->objectName().toStdString();

@@ -121,7 +121,7 @@ private:
 
     Salvage& m_salvage;
     std::string m_content;
-    std::vector<Field> m_fields;
+    std::vector<RecordField> m_fields;
 };
 
 Salvage::Salvage(const StoreImage& image) {

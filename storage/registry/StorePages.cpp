@@ -75,17 +75,17 @@ std::optional<std::size_t> LengthOf(std::uint64_t code) {
     return code < 12 ? std::nullopt : std::optional<std::size_t>((code - 12) / 2);
 }
 
-Field FieldOf(std::uint64_t code, std::string_view bytes) {
+RecordField FieldOf(std::uint64_t code, std::string_view bytes) {
     if (code == 0) {
         return {};
     }
     if (code >= 12) {
-        return {code % 2 == 0 ? Field::Kind::Blob : Field::Kind::Text, 0, bytes};
+        return {code % 2 == 0 ? RecordField::Kind::Blob : RecordField::Kind::Text, 0, bytes};
     }
     if (code == 7) {
-        return {Field::Kind::Fraction, 0, bytes};
+        return {RecordField::Kind::Fraction, 0, bytes};
     }
-    return {Field::Kind::Number,
+    return {RecordField::Kind::Number,
             code >= 8 ? static_cast<std::int64_t>(code - 8) : SignedNumber(bytes),
             {}};
 }
@@ -185,7 +185,7 @@ std::optional<std::string_view> StorePages::Content(const Cell& cell, std::strin
     return next == 0 ? std::optional<std::string_view>(whole) : std::nullopt;
 }
 
-bool StorePages::Split(std::string_view content, std::vector<Field>& fields) {
+bool StorePages::Split(std::string_view content, std::vector<RecordField>& fields) {
     fields.clear();
     std::size_t at = 0;
     const auto header = Varint(content, at);

@@ -9,7 +9,7 @@
 #include <vector>
 
 /// One column of a row.
-struct Field {
+struct RecordField {
     enum class Kind { Null, Number, Fraction, Text, Blob };
 
     Kind kind = Kind::Null;
@@ -54,7 +54,7 @@ public:
                                             std::vector<std::uint32_t>* used = nullptr) const;
 
     /// Splits the content of a cell into columns. False when the content is invalid.
-    static bool Split(std::string_view content, std::vector<Field>& fields);
+    static bool Split(std::string_view content, std::vector<RecordField>& fields);
 
 private:
     std::optional<Cell> ReadCell(std::string_view page, std::size_t position,

@@ -36,7 +36,7 @@ struct SchemaRow {
 };
 
 /// The row that the columns form; no value when they do not match its format.
-std::optional<KeyRow> AsKeyRow(std::int64_t row, const std::vector<Field>& fields);
-std::optional<KeyRow> AsKeyIndexRow(const std::vector<Field>& fields);
-std::optional<ValueRow> AsValueRow(const std::vector<Field>& fields);
-std::optional<SchemaRow> AsSchemaRow(const std::vector<Field>& fields);
+std::optional<KeyRow> AsKeyRow(std::int64_t row, const std::vector<RecordField>& fields);
+std::optional<KeyRow> AsKeyIndexRow(const std::vector<RecordField>& fields);
+std::optional<ValueRow> AsValueRow(const std::vector<RecordField>& fields);
+std::optional<SchemaRow> AsSchemaRow(const std::vector<RecordField>& fields);

@@ -24,9 +24,10 @@ constexpr std::uint64_t LastVersion = 9'999;
 using Order = std::tuple<std::int64_t, std::string>;
 
 /// The sort key of a row in its tree; no value when it does not belong to the tree.
-using Ranking = std::function<std::optional<Order>(std::int64_t row, const std::vector<Field>&)>;
+using Ranking =
+    std::function<std::optional<Order>(std::int64_t row, const std::vector<RecordField>&)>;
 
-std::optional<Order> RankValue(std::int64_t, const std::vector<Field>& fields) {
+std::optional<Order> RankValue(std::int64_t, const std::vector<RecordField>& fields) {
     const auto value = AsValueRow(fields);
     return value ? std::optional<Order>({value->key, std::string(value->folded)}) : std::nullopt;
 }
@@ -101,7 +102,7 @@ private:
     }
 
     bool WalkSchema() {
-        const auto note = [this](std::int64_t row, const std::vector<Field>& fields) {
+        const auto note = [this](std::int64_t row, const std::vector<RecordField>& fields) {
             const auto object = AsSchemaRow(fields);
             if (!object || !IsOfLayout(*object)) {
                 return std::optional<Order>();
@@ -115,12 +116,12 @@ private:
     bool WalkTrees() {
         // The hashes of the keys in the table and in the index cancel each other out.
         std::size_t sum = 0;
-        const auto rankKey = [&sum](std::int64_t row, const std::vector<Field>& fields) {
+        const auto rankKey = [&sum](std::int64_t row, const std::vector<RecordField>& fields) {
             const auto key = AsKeyRow(row, fields);
             sum += key ? HashOf(*key) : 0;
             return key ? std::optional<Order>({row, {}}) : std::nullopt;
         };
-        const auto rankIndex = [&sum](std::int64_t, const std::vector<Field>& fields) {
+        const auto rankIndex = [&sum](std::int64_t, const std::vector<RecordField>& fields) {
             const auto key = AsKeyIndexRow(fields);
             sum -= key ? HashOf(*key) : 0;
             return key ? std::optional<Order>({key->parent, std::string(key->folded)})
@@ -189,7 +190,7 @@ private:
     std::map<std::string, std::uint32_t> m_roots;
     Order m_last;
     std::string m_content;
-    std::vector<Field> m_fields;
+    std::vector<RecordField> m_fields;
     std::vector<std::uint32_t> m_overflow;
 };
 

@@ -133,7 +133,7 @@ PrintOutcome LastFault(const QString& queue) {
 /// Why no job could be created.
 PrintOutcome FaultOfBeginning(const Connection& server, const QString& queue) {
     const PrintOutcome fault = LastFault(queue);
-    const PrintOutcome state = StateOf(server, queue);
+    PrintOutcome state = StateOf(server, queue);
     if (state.fault != PrintFault::None) {
         return state;
     }
@@ -186,7 +186,7 @@ PrintOutcome AskQueue(const QString& queue) {
 /// Asks for the state first: a hanging server hangs there, before a job is created.
 PrintOutcome Send(const QueuedDocument& document, const std::stop_token& stop) {
     const Connection server({}, stop);
-    const PrintOutcome state = StateOf(server, document.queue);
+    PrintOutcome state = StateOf(server, document.queue);
     if (state.fault != PrintFault::None || server.Stopped()) {
         return state;
     }
@@ -199,7 +199,7 @@ PrintOutcome Send(const QueuedDocument& document, const std::stop_token& stop) {
         return FaultOfBeginning(server, document.queue);
     }
     const bool sent = Write(server, document, queue, job);
-    const PrintOutcome outcome = sent ? PrintOutcome() : LastFault(document.queue);
+    PrintOutcome outcome = sent ? PrintOutcome() : LastFault(document.queue);
     if (!sent || server.Stopped()) {
         TakeBack(queue, job);
     }

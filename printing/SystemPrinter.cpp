@@ -68,7 +68,7 @@ bool IsThere(const QPrinter& printer) {
 
 /// A hanging server would block the dialog, and without printers there is nothing to choose.
 PrintOutcome ObstacleToAsking() {
-    const PrintOutcome server = AskServer();
+    PrintOutcome server = AskServer();
     if (server.fault == PrintFault::None && QPrinterInfo::availablePrinterNames().isEmpty()) {
         return {PrintFault::NoPrinter};
     }
@@ -172,7 +172,7 @@ bool SystemPrinter::Ask(QPrintDialog& dialog) {
 
 /// The number of copies is for one job only and must not apply to the next.
 std::optional<PrintOutcome> SystemPrinter::AskHowToPrint(QWidget& parent) {
-    const PrintOutcome obstacle = ObstacleToAsking();
+    PrintOutcome obstacle = ObstacleToAsking();
     if (obstacle.fault != PrintFault::None) {
         return obstacle;
     }
@@ -186,7 +186,7 @@ std::optional<PrintOutcome> SystemPrinter::AskHowToPrint(QWidget& parent) {
 }
 
 PrintOutcome SystemPrinter::AskSetUp(QWidget& parent) {
-    const PrintOutcome obstacle = ObstacleToAsking();
+    PrintOutcome obstacle = ObstacleToAsking();
     if (obstacle.fault != PrintFault::None) {
         return obstacle;
     }

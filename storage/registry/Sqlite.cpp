@@ -87,9 +87,10 @@ bool Statement::Next() {
     }
     sqlite3* const connection = sqlite3_db_handle(m_statement.get());
     if (code != SQLITE_DONE) {
-        const StoreError error(code, sqlite3_errmsg(connection), sqlite3_system_errno(connection));
+        const std::string message = sqlite3_errmsg(connection);
+        const int systemError = sqlite3_system_errno(connection);
         Reset();
-        throw error;
+        throw StoreError(code, message, systemError);
     }
     Reset();
     return false;

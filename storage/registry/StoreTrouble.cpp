@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 
 /// The least space needed to create or change a store, in bytes.
-constexpr std::uintmax_t LeastSpace = 64 * 1'024;
+constexpr std::uintmax_t LeastSpace = 65'536;
 
 StoreTrouble TroubleOfSystem(int error) {
     switch (error) {

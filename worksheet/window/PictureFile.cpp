@@ -24,7 +24,7 @@ bool IsMadeOfDots(const QByteArray& format) {
 }
 
 /// Larger files count as complete: they cannot be background pictures, and reading them takes long.
-constexpr qint64 LargestLookedAt = 64 * 1024 * 1024;
+constexpr qint64 LargestLookedAt = qint64{64} * 1024 * 1024;
 
 /// The header of an uncompressed bitmap gives its size. Others are only checked for a header.
 bool IsBitmapCutOff(const QByteArray& bytes) {

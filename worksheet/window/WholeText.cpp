@@ -27,7 +27,7 @@ void WholeText::Watch(const QWidget& parent) {
 }
 
 QString WholeText::ToolTipOf(const QLineEdit& edit) {
-    const QString own = OwnToolTip(edit);
+    QString own = OwnToolTip(edit);
     if (!IsCut(edit)) {
         return own;
     }

@@ -124,7 +124,7 @@ TEST_F(FileCommandsTest, ALenderTextThatIsTooLongIsRefused) {
 }
 
 TEST_F(FileCommandsTest, ASaveThatFailsIsToldAndStaysDirty) {
-    Begin({}, RegistryAPI("/proc/no/such/place/Loan.store"));
+    Begin({}, RegistryAPI("/dev/null/no/such/place/Loan.store"));
     TypeName(u"Home");
     Fill(u"txtLoanAmount", u"7");
     Trigger(u"mnuFileSave");
@@ -132,6 +132,7 @@ TEST_F(FileCommandsTest, ASaveThatFailsIsToldAndStaysDirty) {
     EXPECT_EQ(SettledMessages().front(),
               u"The worksheet could not be saved. What was saved before is unchanged, and what you "
               "see stays as it is.\n\n"
+              "You are not allowed to use the place where your worksheets are kept.\n"
               "errn=1001  src=  desc=Unable to create the registry key");
     EXPECT_TRUE(Sheet().Dirty());
     Door().WillAnswer({Answer::Yes});

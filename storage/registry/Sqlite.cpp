@@ -121,7 +121,7 @@ Connection::Connection(const std::filesystem::path& file, std::chrono::milliseco
     m_connection.reset(connection);
     Check(code, connection);
     Check(sqlite3_busy_timeout(connection, static_cast<int>(wait.count())), connection);
-    // A foreign file must not run code of its own here.
+    // A foreign file must not run its code here.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);

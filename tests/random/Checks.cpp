@@ -223,7 +223,7 @@ void Checks::Scrolling(RandomUser& user) {
     const auto* canvas = window.findChild<QWidget*>(u"picCanvas"_s);
     const int height = bar->singleStep();
     if (bar->value() % height != 0 || bar->maximum() % height != 0) {
-        Say(u"stands at %1 of %2 between rows of %3"_s.arg(bar->value())
+        Say(u"is at %1 of %2 between rows of %3"_s.arg(bar->value())
                 .arg(bar->maximum())
                 .arg(height));
     }

@@ -2,10 +2,10 @@
 // without the time that the progress window stays open.
 
 #include "FakeMessages.h"
-#include "FormReader.h"
 #include "Loan.h"
 #include "PagePainter.h"
 #include "Report.h"
+#include "ReportInputReader.h"
 #include "SystemPrinter.h"
 
 #include <QApplication>

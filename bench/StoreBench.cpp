@@ -28,7 +28,7 @@ public:
     ~Store() { std::filesystem::remove_all(folder); }
 
     void Save(const std::string& name) const {
-        registry.InOneStep([&name](const RegistryAPI& step) { Write(step, name); });
+        registry.InTransaction([&name](const RegistryAPI& step) { Write(step, name); });
     }
     void SaveMany(int count) const {
         for (int i = 0; i < count; ++i) {
@@ -95,7 +95,7 @@ void LoadOfAWorksheet(benchmark::State& state) {
     store.SaveMany(100);
     TidyStore(store.path);
     for (auto _ : state) {
-        store.registry.ReadInOneStep([](const RegistryAPI& step) {
+        store.registry.ReadInTransaction([](const RegistryAPI& step) {
             for (int i = 0; i < Values; ++i) {
                 benchmark::DoNotOptimize(step.GetValue(User, Base + "\\Loan 50",
                                                        "InterestRate" + std::to_string(i),
@@ -108,7 +108,7 @@ BENCHMARK(LoadOfAWorksheet)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void ListOfTenThousand(benchmark::State& state) {
     const Store store;
-    store.registry.InOneStep([](const RegistryAPI& step) {
+    store.registry.InTransaction([](const RegistryAPI& step) {
         for (int i = 0; i < 10'000; ++i) {
             step.CreateKey(User, Base + "\\Loan " + std::to_string(i));
         }

@@ -44,7 +44,7 @@ void Fill(Worksheet& worksheet, int offers = 16) {
 void EverythingTheWindowShows(benchmark::State& state) {
     NoDisplay display;
     const QLocale locale(QLocale::English, QLocale::UnitedStates);
-    Worksheet worksheet(display, FieldTexts(DisplayFormats(locale), false),
+    Worksheet worksheet(display, FieldFormats(DisplayFormats(locale), false),
                         [] { return Date::FromCalendar(2026, 11, 21); });
     Fill(worksheet, static_cast<int>(state.range(0)));
     bool more = false;
@@ -62,7 +62,7 @@ BENCHMARK(EverythingTheWindowShows)
 void BothSorts(benchmark::State& state) {
     NoDisplay display;
     const QLocale locale(QLocale::English, QLocale::UnitedStates);
-    Worksheet worksheet(display, FieldTexts(DisplayFormats(locale), false),
+    Worksheet worksheet(display, FieldFormats(DisplayFormats(locale), false),
                         [] { return Date::FromCalendar(2026, 11, 21); });
     Fill(worksheet);
     for (auto _ : state) {

@@ -8,8 +8,8 @@
 
 #include <utility>
 
-AboutCommands::AboutCommands(Loan& window, RegistryAPI store, SystemInfoDoors doors)
-    : m_window(&window), m_store(std::move(store)), m_doors(std::move(doors)) {
+AboutCommands::AboutCommands(Loan& window, RegistryAPI store, SystemInfoInterface system)
+    : m_window(&window), m_store(std::move(store)), m_system(std::move(system)) {
     QAction* entry = window.Form().mnuHelpAbout;
     entry->setEnabled(true);
     connect(entry, &QAction::triggered, this,
@@ -18,7 +18,7 @@ AboutCommands::AboutCommands(Loan& window, RegistryAPI store, SystemInfoDoors do
 
 void AboutCommands::mnuHelpAbout_Click() {
     frmAbout about(*m_window, [this] {
-        if (!StartSysInfo(m_store, m_doors)) {
+        if (!StartSysInfo(m_store, m_system)) {
             m_window->GetMessages().Post(GetResourceText(TextNumber::NoSystemInfo));
         }
     });

@@ -13,12 +13,12 @@ class AboutCommands : public QObject {
 
 public:
     /// The window must outlive the commands. Enables the entry.
-    AboutCommands(Loan& window, RegistryAPI store, SystemInfoDoors doors);
+    AboutCommands(Loan& window, RegistryAPI store, SystemInfoInterface system);
 
 private:
     void mnuHelpAbout_Click();
 
     Loan* m_window;
     RegistryAPI m_store;
-    SystemInfoDoors m_doors;
+    SystemInfoInterface m_system;
 };

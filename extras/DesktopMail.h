@@ -1,12 +1,12 @@
 #pragma once
 
-#include "MailDoor.h"
+#include "MailInterface.h"
 
 #include <QByteArray>
 
 /// The desktop's mail client, started through xdg-email. It runs separately: the program neither
 /// waits for it nor knows its result.
-class DesktopMail : public MailDoor {
+class DesktopMail : public MailInterface {
 public:
     /// 0 if xdg-email is not installed.
     int SignOn() override;

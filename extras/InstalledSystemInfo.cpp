@@ -23,7 +23,7 @@ std::optional<QString> FirstInstalled() {
 
 } // namespace
 
-SystemInfoDoors InstalledSystemInfo() {
+SystemInfoInterface InstalledSystemInfo() {
     return {.installed = FirstInstalled,
             .start = [](const QString& path) { return QProcess::startDetached(path, {}); }};
 }

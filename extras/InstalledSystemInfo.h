@@ -3,4 +3,4 @@
 #include "SystemInfo.h"
 
 /// The real implementation: the tools of Linux desktops, and the start of a detached program.
-SystemInfoDoors InstalledSystemInfo();
+SystemInfoInterface InstalledSystemInfo();

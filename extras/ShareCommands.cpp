@@ -3,7 +3,7 @@
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
-#include "MailDoor.h"
+#include "MailInterface.h"
 #include "TextNumbers.h"
 
 #include <cmath>
@@ -31,7 +31,7 @@ QString ShareBody(const QString& text, const QString& referral) {
                               IsKnown(referral) ? QStringLiteral("?ref=") + referral : QString());
 }
 
-ShareCommands::ShareCommands(Loan& window, MailDoor& mail, QString referral)
+ShareCommands::ShareCommands(Loan& window, MailInterface& mail, QString referral)
     : m_mail(&mail), m_referral(std::move(referral)) {
     QPushButton* button = window.Form().cmdShare;
     button->setEnabled(true);

@@ -4,7 +4,7 @@
 #include <QString>
 
 class Loan;
-class MailDoor;
+class MailInterface;
 
 /// The body of the recommendation: the first "?ID" is replaced by "?ref=" and the referral
 /// identifier, or removed if that is not a number other than 0.
@@ -17,11 +17,11 @@ class ShareCommands : public QObject {
 
 public:
     /// Window and mail must outlive the commands. Enables the button. `referral` is empty for none.
-    ShareCommands(Loan& window, MailDoor& mail, QString referral = {});
+    ShareCommands(Loan& window, MailInterface& mail, QString referral = {});
 
 private:
     void cmdShare_Click();
 
-    MailDoor* m_mail;
+    MailInterface* m_mail;
     QString m_referral;
 };

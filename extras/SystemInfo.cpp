@@ -32,7 +32,7 @@ QString Characters(const std::vector<std::byte>& bytes) {
     return text;
 }
 
-std::optional<QString> PathOfTool(const RegistryAPI& store, const SystemInfoDoors& doors) {
+std::optional<QString> PathOfTool(const RegistryAPI& store, const SystemInfoInterface& system) {
     constexpr RegistryRoot root = RegistryRoot::LocalMachine;
     if (auto tool = GetKeyValue(store, root, ToolKey, ToolValue)) {
         return tool;
@@ -40,7 +40,7 @@ std::optional<QString> PathOfTool(const RegistryAPI& store, const SystemInfoDoor
     if (const auto folder = GetKeyValue(store, root, FolderKey, FolderValue)) {
         return *folder + QLatin1String(ToolInFolder);
     }
-    return doors.installed();
+    return system.installed();
 }
 
 } // namespace
@@ -66,7 +66,7 @@ std::optional<QString> GetKeyValue(const RegistryAPI& store, RegistryRoot keyRoo
     return type != 0 && bytes ? std::optional(Characters(*bytes)) : std::nullopt;
 }
 
-bool StartSysInfo(const RegistryAPI& store, const SystemInfoDoors& doors) {
-    const std::optional<QString> tool = PathOfTool(store, doors);
-    return tool && doors.start(*tool);
+bool StartSysInfo(const RegistryAPI& store, const SystemInfoInterface& system) {
+    const std::optional<QString> tool = PathOfTool(store, system);
+    return tool && system.start(*tool);
 }

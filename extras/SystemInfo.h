@@ -14,7 +14,7 @@ std::optional<QString> GetKeyValue(const RegistryAPI& store, RegistryRoot keyRoo
                                    const std::string& keyName, const std::string& valueName);
 
 /// The interfaces to the system-information tool.
-struct SystemInfoDoors {
+struct SystemInfoInterface {
     /// Used without registry entries: the path of an installed tool, or no value.
     std::function<std::optional<QString>()> installed;
     /// Starts a program by its path in a normal window; false if it cannot be started.
@@ -23,4 +23,4 @@ struct SystemInfoDoors {
 
 /// Finds the system-information tool, in the registry or else among the installed programs, and
 /// starts it. False if there is none, or it cannot be started.
-bool StartSysInfo(const RegistryAPI& store, const SystemInfoDoors& doors);
+bool StartSysInfo(const RegistryAPI& store, const SystemInfoInterface& system);

@@ -83,9 +83,9 @@ inline constexpr int NotPrinted = 664;
 inline constexpr int MarginsTooWide = 665;
 /// %1 becomes the name of the file.
 inline constexpr int PartMissing = 666;
-/// Not shown: the name of Qt's own translation file in this language. ToolkitTexts overrides Qt's
+/// Not shown: the name of Qt's own translation file in this language. QtTexts overrides Qt's
 /// texts with the following ones.
-inline constexpr int ToolkitTexts = 562;
+inline constexpr int QtTexts = 562;
 inline constexpr int FileName = 563;
 inline constexpr int FileType = 564;
 inline constexpr int FolderAbove = 565;
@@ -186,7 +186,7 @@ inline constexpr std::array All{
     NotPrinted,
     MarginsTooWide,
     PartMissing,
-    ToolkitTexts,
+    QtTexts,
     FileName,
     FileType,
     FolderAbove,

@@ -1,11 +1,11 @@
 #include "PrintCommands.h"
 
-#include "FormReader.h"
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
-#include "PrinterDoor.h"
-#include "ProgramPart.h"
+#include "Plugin.h"
+#include "PrinterInterface.h"
+#include "ReportInputReader.h"
 #include "TextNumbers.h"
 
 #include <QAction>
@@ -38,7 +38,7 @@ QString TextOf(const PrintOutcome& outcome) {
 
 } // namespace
 
-PrintCommands::PrintCommands(Loan& window, PrinterDoor& printer, frmPrint::Pace pace)
+PrintCommands::PrintCommands(Loan& window, PrinterInterface& printer, frmPrint::Pace pace)
     : m_window(&window), m_printer(&printer), m_pace(std::move(pace)) {
     const Ui::Loan& form = window.Form();
     connect(form.mnuFilePrint, &QAction::triggered, this,
@@ -68,7 +68,7 @@ void PrintCommands::Guarded(Handler&& handler) const {
     } catch (const ComponentFailure& failure) {
         m_window->GetMessages().Post(
             GetResourceText(TextNumber::PartMissing)
-                .arg(ProgramPartFile(QString::fromStdString(failure.Source()))));
+                .arg(PluginFile(QString::fromStdString(failure.Source()))));
     } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
     }
 }

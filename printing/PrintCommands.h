@@ -17,7 +17,7 @@ class PrintCommands : public QObject {
 
 public:
     /// Window and printer must outlive this object. Enables the entries.
-    PrintCommands(Loan& window, PrinterDoor& printer, frmPrint::Pace pace = {});
+    PrintCommands(Loan& window, PrinterInterface& printer, frmPrint::Pace pace = {});
     PrintCommands(const PrintCommands&) = delete;
     PrintCommands& operator=(const PrintCommands&) = delete;
     PrintCommands(PrintCommands&&) = delete;
@@ -43,7 +43,7 @@ private:
     void Guarded(Handler&& handler) const;
 
     Loan* m_window;
-    PrinterDoor* m_printer;
+    PrinterInterface* m_printer;
     frmPrint::Pace m_pace;
     FontMetrics m_metrics;
     std::unique_ptr<frmPrint> m_job;

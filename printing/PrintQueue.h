@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PrinterDoor.h"
+#include "PrinterInterface.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,19 +1,19 @@
 // The printing plugin, Loan.Printers.
 
-#include "PrinterPart.h"
+#include "PrinterPlugin.h"
 #include "SystemPrinter.h"
 
 #include <QObject>
 
 #include <utility>
 
-class PrinterLibrary final : public QObject, public PrinterPart {
+class PrinterLibrary final : public QObject, public PrinterPlugin {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID PrinterPart_iid)
-    Q_INTERFACES(PrinterPart)
+    Q_PLUGIN_METADATA(IID PrinterPlugin_iid)
+    Q_INTERFACES(PrinterPlugin)
 
 public:
-    std::unique_ptr<PrinterDoor> Printers(Words words) const override {
+    std::unique_ptr<PrinterInterface> Printers(Words words) const override {
         return std::make_unique<SystemPrinter>(std::move(words));
     }
 };

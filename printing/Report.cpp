@@ -24,7 +24,7 @@ bool StandsRight(Side side) { return side == Side::Right; }
 
 } // namespace
 
-Report::Report(PrintedForm form, QSizeF space, const TextMetrics& metrics)
+Report::Report(ReportInput form, QSizeF space, const TextMetrics& metrics)
     : m_form(std::move(form)), m_page(space, metrics) {
     Prepare();
 }

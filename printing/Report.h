@@ -1,7 +1,7 @@
 #pragma once
 
 #include "PageDrawing.h"
-#include "PrintedForm.h"
+#include "ReportInput.h"
 
 #include <array>
 
@@ -11,7 +11,7 @@
 class Report {
 public:
     /// `space`: the printable part of a page in twips. The metrics must outlive the report.
-    Report(PrintedForm form, QSizeF space, const TextMetrics& metrics);
+    Report(ReportInput form, QSizeF space, const TextMetrics& metrics);
 
     /// Whether the first page has room for the loan and one offer row below it.
     bool HasRoomForARow() const;
@@ -57,7 +57,7 @@ private:
     double RowLimit() const;
     double ColumnWidth(std::size_t column) const;
 
-    PrintedForm m_form;
+    ReportInput m_form;
     PageDrawing m_page;
     double m_footerReserve = 0; ///< twips
     double m_rowTop = 0;        ///< window units, like all that follow

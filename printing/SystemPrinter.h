@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PrinterDoor.h"
+#include "PrinterInterface.h"
 
 #include <QPrinter>
 
@@ -13,7 +13,7 @@ class QPrintDialog;
 /// The printers of this system through Qt and its dialogs; documents go directly to the print
 /// server if there is one. Keeps the user's last choices while the program runs, except the number
 /// of copies. Does not offer printing to a file.
-class SystemPrinter : public PrinterDoor {
+class SystemPrinter : public PrinterInterface {
 public:
     /// The texts of the current language, by number. Passed in, because this class is in a plugin,
     /// which has no language.

@@ -47,7 +47,7 @@ PrintOutcome Run(const HandOver& handOver, const std::stop_token& stop) {
 
 } // namespace
 
-frmPrint::frmPrint(QWidget& owner, Job job, PrinterDoor& printer, Pace pace)
+frmPrint::frmPrint(QWidget& owner, Job job, PrinterInterface& printer, Pace pace)
     : QDialog(&owner), m_ui(FormOf(*this)), m_owner(&owner), m_job(std::move(job)),
       m_printer(&printer), m_pace(std::move(pace)), m_tmrPrint(new QTimer(this)) {
     m_tmrPrint->setObjectName(QStringLiteral("tmrPrint"));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PrinterDoor.h"
+#include "PrinterInterface.h"
 #include "Report.h"
 
 #include <QDialog>
@@ -35,7 +35,7 @@ public:
         Report report;
     };
     /// Window and printer must outlive the job. The job starts when the window is shown.
-    frmPrint(QWidget& owner, Job job, PrinterDoor& printer, Pace pace);
+    frmPrint(QWidget& owner, Job job, PrinterInterface& printer, Pace pace);
     frmPrint(const frmPrint&) = delete;
     frmPrint& operator=(const frmPrint&) = delete;
     frmPrint(frmPrint&&) = delete;
@@ -82,7 +82,7 @@ private:
     std::unique_ptr<Ui::frmPrint> m_ui;
     QWidget* m_owner;
     Job m_job;
-    PrinterDoor* m_printer;
+    PrinterInterface* m_printer;
     Pace m_pace;
     QTimer* m_tmrPrint;
     bool m_activated = false;

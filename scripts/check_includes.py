@@ -1,4 +1,4 @@
-"""Checks the direction of the includes: a layer may use only the layers below it.
+"""Checks the direction of the includes: a layer may use only the public headers of the layers below it.
 
 Arguments: source files, by path from the root of the tree. Prints one finding per line; the exit code is 1
 if there are any.
@@ -14,7 +14,7 @@ from pathlib import Path
 
 # The layers, lowest first, and the folders whose headers each may include besides its own. Folders not
 # listed here, like tests or bench, are outside the program and may use all.
-_FLOORS: dict[str, tuple[str, ...]] = {
+_LAYERS: dict[str, tuple[str, ...]] = {
     "foundation":       (),
     "language":         ("foundation",),
     "storage/registry": ("foundation",),
@@ -35,14 +35,17 @@ _COMPOSITION_ROOT = Path("storage/Main.cpp")
 # Layers without a window system.
 _WITHOUT_WIDGETS = ("foundation", "language", "storage/registry", "calc", "worksheet/model")
 
+# The private headers of a layer, as its CMakeLists.txt names them.
+_PRIVATE = re.compile(r"PRIVATE_HEADERS\s+([^)]*?)\s+SOURCES")
+
 _INCLUDE = re.compile(r'\s*#\s*include\s+([<"])([^>"]+)[>"]')
 
 
-def _floor_of(file: Path) -> str | None:
+def _layer_of(file: Path) -> str | None:
     if file == _COMPOSITION_ROOT:
         return None
     folder = file.parent.as_posix()
-    found = [floor for floor in _FLOORS if folder == floor or folder.startswith(floor + "/")]
+    found = [layer for layer in _LAYERS if folder == layer or folder.startswith(layer + "/")]
     return max(found, key=len, default=None)
 
 
@@ -50,6 +53,12 @@ def _widget_headers() -> frozenset[str]:
     folders = Path("/usr/include").glob("**/qt6/QtWidgets")
     return frozenset(header.name for folder in folders for header in folder.iterdir()
                      if header.is_file())
+
+
+def _private_headers() -> frozenset[str]:
+    lists = [Path(layer, "CMakeLists.txt").read_text(encoding="utf-8") for layer in _LAYERS]
+    return frozenset(Path(header).name for text in lists for found in _PRIVATE.findall(text)
+                     for header in found.split())
 
 
 def _includes(file: Path) -> Iterator[tuple[int, bool, str]]:
@@ -60,32 +69,35 @@ def _includes(file: Path) -> Iterator[tuple[int, bool, str]]:
             yield number, found[1] == '"', found[2]
 
 
-def _faults(file: Path, homes: dict[str, set[str]], widgets: frozenset[str]) -> Iterator[str]:
-    floor = _floor_of(file)
+def _faults(file: Path, homes: dict[str, set[str]], private: frozenset[str],
+            widgets: frozenset[str]) -> Iterator[str]:
+    layer = _layer_of(file)
     for number, quoted, name in _includes(file):
         place = f"{file}:{number}:"
         if ".." in Path(name).parts:
             yield f"{place} {name}: no include climbs out of its folder"
-        if floor is None:
+        if layer is None:
             continue
-        above = homes[name] - {floor, *_FLOORS[floor]} if quoted else set()
+        above = homes[name] - {layer, *_LAYERS[layer]} if quoted else set()
         if above:
-            yield f"{place} {name} belongs to {', '.join(sorted(above))}, which {floor} may not know"
-        if floor in _WITHOUT_WIDGETS and (name in widgets or name.startswith("QtWidgets")):
-            yield f"{place} {name}: {floor} knows no widget"
+            yield f"{place} {name} belongs to {', '.join(sorted(above))}, which {layer} may not know"
+        elif quoted and name in private and layer not in homes[name]:
+            yield f"{place} {name} is private to {', '.join(homes[name])}"
+        if layer in _WITHOUT_WIDGETS and (name in widgets or name.startswith("QtWidgets")):
+            yield f"{place} {name}: {layer} knows no widget"
 
 
 def main() -> int:
     files = [Path(name) for name in sys.argv[1:]]
     homes: dict[str, set[str]] = defaultdict(set)
     for file in files:
-        floor = _floor_of(file)
-        if file.suffix == ".h" and floor:
-            homes[file.name].add(floor)
+        layer = _layer_of(file)
+        if file.suffix == ".h" and layer:
+            homes[file.name].add(layer)
     widgets = _widget_headers()
-    faults = [fault for file in files for fault in _faults(file, homes, widgets)]
-    faults += [f"{name}: one name for headers of {', '.join(sorted(floors))}"
-               for name, floors in homes.items() if len(floors) > 1]
+    faults = [fault for file in files for fault in _faults(file, homes, _private_headers(), widgets)]
+    faults += [f"{name}: one name for headers of {', '.join(sorted(layers))}"
+               for name, layers in homes.items() if len(layers) > 1]
     print("\n".join(faults))
     return 1 if faults else 0
 

@@ -56,6 +56,9 @@ quietly() {
     fi
 }
 
+# Tests mostly wait for windows, so more run at once than there are processors.
+export CTEST_PARALLEL_LEVEL=${CTEST_PARALLEL_LEVEL:-$((3 * $(nproc)))}
+
 # build_program: the program as users run it, in build/release/bin.
 build_program() {
     quietly "$log_dir/configure-release.log" cmake --preset release

@@ -6,7 +6,7 @@
 #include "DesktopMail.h"
 #include "FileCommands.h"
 #include "HelpCommands.h"
-#include "HelpPart.h"
+#include "HelpPlugin.h"
 #include "InstalledSystemInfo.h"
 #include "Language.h"
 #include "LanguageIdentifier.h"
@@ -15,9 +15,9 @@
 #include "OptionsCommands.h"
 #include "PictureDialog.h"
 #include "PrintCommands.h"
-#include "PrinterOfPart.h"
+#include "PrinterOfPlugin.h"
 #include "ProgramIcon.h"
-#include "RepairedLoans.h"
+#include "RepairedWorksheets.h"
 #include "SettingsStore.h"
 #include "ShareCommands.h"
 #include "StartUp.h"
@@ -68,8 +68,8 @@ std::optional<QString> Obstacle(const RegistryAPI& store, const StoreCondition& 
     return std::nullopt;
 }
 
-void TellAboutStore(Messages& messages, const RegistryAPI& store, const StoreCondition& condition,
-                    const std::vector<Failure>& refused) {
+void ReportStore(MessageQueue& messages, const RegistryAPI& store, const StoreCondition& condition,
+                 const std::vector<Failure>& refused) {
     if (condition.state == StoreCondition::State::Repaired) {
         messages.Post(RepairNotice(FindIncomplete(store), condition.keptAs));
     }
@@ -83,13 +83,13 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
         MessageBoxes& messages) {
     const auto [settings, refused] = LoadSettings(RegistryAPI(place));
     Loan window({.messages = &messages, .locale = QLocale::system(), .today = Today}, settings);
-    const RegistryAPI store = StoreThatTells(place, window.GetMessages(), TodayInWords);
-    FileCommands files(window, LoanStore(store));
+    const RegistryAPI store = ReportingStore(place, window.GetMessages(), TodayInWords);
+    FileCommands files(window, WorksheetStore(store));
     PictureDialog pictures;
     const OptionsCommands options(window, store, pictures);
-    PrinterOfPart printer;
+    PrinterOfPlugin printer;
     const PrintCommands printing(window, printer);
-    const HelpCommands help(window, OpenByPart);
+    const HelpCommands help(window, OpenByPlugin);
     DesktopMail mail;
     const ShareCommands share(window, mail);
     const AboutCommands about(window, store, InstalledSystemInfo());
@@ -98,13 +98,13 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
             return false;
         }
         SaveSettings(store, window.GetSettings());
-        KeepPlace(window, UserPlace());
+        SaveGeometry(window, UserPlace());
         window.GetMessages().ShowRest(); // nobody answers after the window has closed
         return true;
     });
     FitToScreen(window);
-    RestorePlace(window, UserPlace());
-    TellAboutStore(window.GetMessages(), store, condition, refused);
+    RestoreGeometry(window, UserPlace());
+    ReportStore(window.GetMessages(), store, condition, refused);
     window.show();
     return QApplication::exec();
 }

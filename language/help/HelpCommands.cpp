@@ -39,7 +39,7 @@ QWidget& ActiveWindow(Loan& loan) {
 
 } // namespace
 
-HelpCommands::HelpCommands(Loan& window, BookOpener open)
+HelpCommands::HelpCommands(Loan& window, HelpOpener open)
     : m_loan(&window), m_open(std::move(open)) {
     const Ui::Loan& form = window.Form();
     form.mnuHelpContents->setEnabled(true);
@@ -104,16 +104,16 @@ void HelpCommands::OnHelpKey() {
 /// For a control without a topic, shows the first page.
 void HelpCommands::ShowTopic(int topic) {
     Try([this, topic] {
-        const QUrl page = Book().PageOfTopic(topic);
-        Window().Open(page.isEmpty() ? Book().FirstPage() : page, ActiveWindow(*m_loan));
+        const QUrl page = Collection().PageOfTopic(topic);
+        Window().Open(page.isEmpty() ? Collection().FirstPage() : page, ActiveWindow(*m_loan));
     });
 }
 
 void HelpCommands::ShowWhatsThis(int topic, const QPoint& at, QWidget* window) {
     Try([&] {
-        const QString text = Book().TopicText(topic);
+        const QString text = Collection().TopicText(topic);
         if (!text.isEmpty()) {
-            const QUrl page = Book().PageOfTopic(topic);
+            const QUrl page = Collection().PageOfTopic(topic);
             const QString link = page.fileName() + u'#' + page.fragment();
             const QColor colour = LinkColour(QToolTip::palette(), QPalette::ToolTipBase);
             const QString more = QStringLiteral("<p><a href=\"%1\">%2</a></p>")
@@ -128,7 +128,7 @@ void HelpCommands::ShowWhatsThis(int topic, const QPoint& at, QWidget* window) {
 
 void HelpCommands::FollowLink(const QString& link) {
     QWhatsThis::hideText();
-    Try([this, &link] { Window().Open(Book().Page(link), ActiveWindow(*m_loan)); });
+    Try([this, &link] { Window().Open(Collection().Page(link), ActiveWindow(*m_loan)); });
 }
 
 /// Help that is not visible follows when it is opened next.
@@ -146,19 +146,19 @@ void HelpCommands::Try(const std::function<void()>& help) {
     }
 }
 
-HelpBook& HelpCommands::Book() {
+HelpCollection& HelpCommands::Collection() {
     const QString file = QFileInfo(Language::Instance().HelpFile()).absoluteFilePath();
-    if (!m_book || m_book->File() != file) {
-        m_book = m_open(file);
+    if (!m_collection || m_collection->File() != file) {
+        m_collection = m_open(file);
     }
-    return *m_book;
+    return *m_collection;
 }
 
 HelpWindow& HelpCommands::Window() {
-    Book();
+    Collection();
     if (!m_help) {
         m_help = std::make_unique<HelpWindow>(HelpPlace{});
     }
-    m_help->SetBook(m_book);
+    m_help->SetCollection(m_collection);
     return *m_help;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "HelpBook.h"
+#include "HelpCollection.h"
 #include "WhatsThisMode.h"
 
 #include <QObject>
@@ -21,9 +21,9 @@ class HelpCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// The window must outlive the commands. Enables the entries and the button. Opens a book on
-    /// first use.
-    HelpCommands(Loan& window, BookOpener open);
+    /// The window must outlive the commands. Enables the entries and the button. Opens a collection
+    /// on first use.
+    HelpCommands(Loan& window, HelpOpener open);
     HelpCommands(const HelpCommands&) = delete;
     HelpCommands& operator=(const HelpCommands&) = delete;
     HelpCommands(HelpCommands&&) = delete;
@@ -49,12 +49,12 @@ private:
     void FollowLanguage();
 
     void Try(const std::function<void()>& help);
-    HelpBook& Book();
+    HelpCollection& Collection();
     HelpWindow& Window();
 
     Loan* m_loan;
-    BookOpener m_open;
+    HelpOpener m_open;
     WhatsThisMode m_whatsThis;
-    std::shared_ptr<HelpBook> m_book;
+    std::shared_ptr<HelpCollection> m_collection;
     std::unique_ptr<HelpWindow> m_help;
 };

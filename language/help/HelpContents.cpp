@@ -1,6 +1,6 @@
 #include "HelpContents.h"
 
-#include "HelpBook.h"
+#include "HelpCollection.h"
 
 #include <QHeaderView>
 
@@ -18,9 +18,9 @@ HelpContents::HelpContents(QWidget* parent) : QTreeView(parent) {
     connect(this, &QTreeView::clicked, this, &HelpContents::Choose);
 }
 
-void HelpContents::SetBook(HelpBook* book) {
-    m_book = book;
-    m_model.setSourceModel(book ? book->Contents() : nullptr);
+void HelpContents::SetCollection(HelpCollection* collection) {
+    m_collection = collection;
+    m_model.setSourceModel(collection ? collection->Contents() : nullptr);
     Unfold();
 }
 
@@ -30,7 +30,7 @@ void HelpContents::Unfold() {
 }
 
 void HelpContents::MarkPage(const QUrl& page) {
-    m_page = m_book ? m_book->Page(page.fileName()) : QUrl(); // a link may be relative
+    m_page = m_collection ? m_collection->Page(page.fileName()) : QUrl(); // a link may be relative
     if (currentIndex().isValid() && PageOf(currentIndex()) == m_page) {
         return;
     }
@@ -45,9 +45,9 @@ void HelpContents::MarkPage(const QUrl& page) {
 }
 
 void HelpContents::Choose(const QModelIndex& chapter) {
-    Q_EMIT PageChosen(m_book->PageOfChapter(m_model.mapToSource(chapter)));
+    Q_EMIT PageChosen(m_collection->PageOfChapter(m_model.mapToSource(chapter)));
 }
 
 QUrl HelpContents::PageOf(const QModelIndex& chapter) const {
-    return m_book->PageOfChapter(m_model.mapToSource(chapter)).adjusted(QUrl::RemoveFragment);
+    return m_collection->PageOfChapter(m_model.mapToSource(chapter)).adjusted(QUrl::RemoveFragment);
 }

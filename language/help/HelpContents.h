@@ -4,19 +4,20 @@
 #include <QTreeView>
 #include <QUrl>
 
-class HelpBook;
+class HelpCollection;
 
-/// The contents of a help book as an expanded tree. The selection follows the current page; the
-/// tree does not show pages.
+/// The contents of a help collection as an expanded tree. The selection follows the current page;
+/// the tree does not show pages.
 class HelpContents : public QTreeView {
     Q_OBJECT
 
 public:
     explicit HelpContents(QWidget* parent = nullptr);
 
-    /// The book must outlive the tree or be replaced before it is destroyed. Null: no contents.
-    void SetBook(HelpBook* book);
-    /// Call again when the book has listed its contents.
+    /// The collection must outlive the tree or be replaced before it is destroyed. Null: no
+    /// contents.
+    void SetCollection(HelpCollection* collection);
+    /// Call again when the collection has listed its contents.
     void Unfold();
     /// Selects the chapter of this page. If several chapters link to it, keeps a selection that is
     /// one of them, else selects the innermost.
@@ -37,7 +38,7 @@ private:
     /// Without the fragment.
     QUrl PageOf(const QModelIndex& chapter) const;
 
-    HelpBook* m_book = nullptr;
+    HelpCollection* m_collection = nullptr;
     Model m_model;
     QUrl m_page; ///< the current page
 };

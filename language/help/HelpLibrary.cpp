@@ -1,18 +1,18 @@
 // The library Loan.Help.
 
-#include "CompiledBook.h"
-#include "HelpPart.h"
+#include "CompiledHelp.h"
+#include "HelpPlugin.h"
 
 #include <QObject>
 
-class HelpLibrary final : public QObject, public HelpPart {
+class HelpLibrary final : public QObject, public HelpPlugin {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID HelpPart_iid)
-    Q_INTERFACES(HelpPart)
+    Q_PLUGIN_METADATA(IID HelpPlugin_iid)
+    Q_INTERFACES(HelpPlugin)
 
 public:
-    std::shared_ptr<HelpBook> Open(const QString& file) const override {
-        return std::make_shared<CompiledBook>(file);
+    std::shared_ptr<HelpCollection> Open(const QString& file) const override {
+        return std::make_shared<CompiledHelp>(file);
     }
 };
 

@@ -1,6 +1,6 @@
 #include "HelpView.h"
 
-#include "HelpBook.h"
+#include "HelpCollection.h"
 #include "LinkColour.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -89,13 +89,14 @@ void HelpView::changeEvent(QEvent* event) {
     }
 }
 
-void HelpView::SetBook(const HelpBook* book) {
-    m_book = book;
+void HelpView::SetCollection(const HelpCollection* collection) {
+    m_collection = collection;
     clearHistory();
 }
 
 QVariant HelpView::loadResource(int type, const QUrl& name) {
-    const QByteArray bytes = m_book ? m_book->Data(source().resolved(name)) : QByteArray();
+    const QByteArray bytes =
+        m_collection ? m_collection->Data(source().resolved(name)) : QByteArray();
     if (type != QTextDocument::ImageResource) {
         return bytes;
     }

@@ -2,19 +2,19 @@
 
 #include <QTextBrowser>
 
-class HelpBook;
+class HelpCollection;
 
-/// Shows pages of a help book. Only links to pages of the book work; an image wider than the view
-/// is scaled down. The requested section is at the top, even the last of a page, and stays there
-/// when the size or font of the view changes.
+/// Shows pages of a help collection. Only links to pages of the collection work; an image wider
+/// than the view is scaled down. The requested section is at the top, even the last of a page, and
+/// stays there when the size or font of the view changes.
 class HelpView : public QTextBrowser {
     Q_OBJECT
 
 public:
     explicit HelpView(QWidget* parent = nullptr);
 
-    /// The book must outlive the view or be replaced before it is destroyed. Null: no page.
-    void SetBook(const HelpBook* book);
+    /// The collection must outlive the view or be replaced before it is destroyed. Null: no page.
+    void SetCollection(const HelpCollection* collection);
 
     QVariant loadResource(int type, const QUrl& name) override;
 
@@ -28,7 +28,7 @@ private:
     void FitSection(bool scroll);
     void ColourLinks();
 
-    const HelpBook* m_book = nullptr;
+    const HelpCollection* m_collection = nullptr;
     QString m_section;    ///< the name of the requested section
     int m_sectionTop = 0; ///< in pixels from the start of the page
 };

@@ -2,7 +2,7 @@
 
 #include "Captions.h"
 #include "HelpAccess.h"
-#include "HelpBook.h"
+#include "HelpCollection.h"
 #include "Language.h"
 #include "TextNumbers.h"
 #include "ui_HelpWindow.h"
@@ -52,14 +52,14 @@ HelpWindow::HelpWindow(const HelpPlace& place)
     Wire();
 }
 
-/// Detach views and models before the book is destroyed.
+/// Detach views and models before the collection is destroyed.
 HelpWindow::~HelpWindow() {
-    if (m_book) {
-        m_book->TellReader({});
+    if (m_collection) {
+        m_collection->SetReader({});
     }
-    m_ui->treContents->SetBook(nullptr);
+    m_ui->treContents->SetCollection(nullptr);
     m_keywords.setSourceModel(nullptr);
-    m_ui->txtPage->SetBook(nullptr);
+    m_ui->txtPage->SetCollection(nullptr);
 }
 
 void HelpWindow::Wire() {
@@ -107,30 +107,30 @@ void HelpWindow::ShowTexts() {
     m_ui->lblNotFound->setText(GetResourceText(TextNumber::HelpNotFound));
 }
 
-void HelpWindow::SetBook(std::shared_ptr<HelpBook> book) {
-    if (book == m_book) {
+void HelpWindow::SetCollection(std::shared_ptr<HelpCollection> collection) {
+    if (collection == m_collection) {
         return;
     }
     const QUrl before = PageInView();
     ClearFound();
-    m_ui->treContents->SetBook(book.get());
-    m_keywords.setSourceModel(book->Keywords());
+    m_ui->treContents->SetCollection(collection.get());
+    m_keywords.setSourceModel(collection->Keywords());
     m_keywords.sort(0);
-    m_ui->txtPage->SetBook(book.get());
-    if (m_book) {
-        m_book->TellReader({});
+    m_ui->txtPage->SetCollection(collection.get());
+    if (m_collection) {
+        m_collection->SetReader({});
     }
-    m_book = std::move(book);
-    m_book->TellReader(
+    m_collection = std::move(collection);
+    m_collection->SetReader(
         {.contentsListed = [this] { UnfoldContents(); }, .searched = [this] { ListFound(); }});
     UnfoldContents();
-    m_book->PrepareToFind();
-    Find(); // repeat the search in the new book
+    m_collection->PrepareToFind();
+    Find(); // repeat the search in the new collection
 
     ShowTexts();
-    QUrl same = m_book->Page(before.fileName());
+    QUrl same = m_collection->Page(before.fileName());
     same.setFragment(before.fragment());
-    ShowPage(!before.isEmpty() && m_book->Has(same) ? same : m_book->FirstPage());
+    ShowPage(!before.isEmpty() && m_collection->Has(same) ? same : m_collection->FirstPage());
 }
 
 /// A third of the window, or up to half if the titles of the contents need it.
@@ -170,7 +170,7 @@ void HelpWindow::ShowPage(const QUrl& page) {
 }
 
 void HelpWindow::ShowKeyword(const QModelIndex& keyword) {
-    ShowPage(m_book->PageOfKeyword(keyword.data().toString()));
+    ShowPage(m_collection->PageOfKeyword(keyword.data().toString()));
 }
 
 /// The index of the file also contains topics, which have no text to show.
@@ -189,7 +189,7 @@ void HelpWindow::ClearFound() {
 void HelpWindow::Find() {
     const QString query = QueryOf(m_ui->txtWords->text());
     if (!query.isEmpty()) {
-        m_book->Find(query);
+        m_collection->Find(query);
     }
 }
 
@@ -199,7 +199,7 @@ void HelpWindow::ListFound() {
     if (QueryOf(m_ui->txtWords->text()).isEmpty()) {
         return;
     }
-    for (const HelpBook::FoundPage& found : m_book->Found(MostFound)) {
+    for (const HelpCollection::FoundPage& found : m_collection->Found(MostFound)) {
         auto* item = new QListWidgetItem(found.title, m_ui->lstFound);
         item->setData(Qt::UserRole, found.page);
     }
@@ -212,7 +212,7 @@ void HelpWindow::ListFound() {
 void HelpWindow::Open(Side side, QWidget& beside) {
     m_ui->tabHelp->setCurrentIndex(static_cast<int>(side));
     if (side == Side::Contents) {
-        ShowPage(m_book->FirstPage());
+        ShowPage(m_collection->FirstPage());
     }
     if (side == Side::Search) {
         m_ui->txtWords->clear();

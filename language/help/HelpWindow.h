@@ -13,12 +13,12 @@ namespace Ui {
 class HelpWindow;
 }
 
-class HelpBook;
+class HelpCollection;
 class QModelIndex;
 
-/// The window that shows a help book: its contents, its index and a search beside the page. It is
-/// independent of the main window and does not keep the program running. It does not choose the
-/// book and uses the language only for its own captions.
+/// The window that shows a help collection: its contents, its index and a search beside the page.
+/// It is independent of the main window and does not keep the program running. It does not choose
+/// the collection and uses the language only for its own captions.
 class HelpWindow : public QWidget {
     Q_OBJECT
 
@@ -33,12 +33,12 @@ public:
     HelpWindow& operator=(HelpWindow&&) = delete;
     ~HelpWindow() override;
 
-    /// Replaces the book and updates the captions. Keeps the page of the same name, or shows the
-    /// first page if the new book has none.
-    void SetBook(std::shared_ptr<HelpBook> book);
+    /// Replaces the collection and updates the captions. Keeps the page of the same name, or shows
+    /// the first page if the new collection has none.
+    void SetCollection(std::shared_ptr<HelpCollection> collection);
 
     /// Brings the window to the front, on the screen of `beside`, with the focus on that pane.
-    /// Contents also shows the book's first page; a search starts empty.
+    /// Contents also shows the collection's first page; a search starts empty.
     /// A modal dialog would block the window, so it then becomes transient for the dialog.
     void Open(Side side, QWidget& beside);
     /// The same with this page; the pane does not change.
@@ -71,6 +71,6 @@ private:
     HelpPlace m_place;
     bool m_placed = false;
     bool m_sideSet = false; ///< by the user
-    std::shared_ptr<HelpBook> m_book;
+    std::shared_ptr<HelpCollection> m_collection;
     QSortFilterProxyModel m_keywords;
 };

@@ -51,10 +51,10 @@ class Tree:
 
     def build_joined(self, changes):
         """Builds the tests with all changes. Returns the changes that do not compile."""
-        floors = ["calc"] if all(change.file.startswith("calc/") for change in changes) \
+        layers = ["calc"] if all(change.file.startswith("calc/") for change in changes) \
             else ["calc", "worksheet_model"]
         # The layers first: they reveal nearly all of those, and compile sooner.
-        stages = [[floor] for floor in floors] + [[f"{floor}_tests" for floor in floors]]
+        stages = [[layer] for layer in layers] + [[f"{layer}_tests" for layer in layers]]
         rejected = []
         for _ in range(12):
             self._write(change for change in changes if change not in rejected)

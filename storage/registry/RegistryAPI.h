@@ -40,7 +40,7 @@ struct NamedKeys {
 
 /// The interface through which a recovery during a transaction asks for the date and reports its
 /// result.
-struct RepairDoor {
+struct RepairInterface {
     /// Used in the name of the damaged file, such as 2026-11-21. Without it nothing is recovered.
     std::function<std::string()> today;
     /// Called once for each recovery, before the transaction is repeated; may be empty.
@@ -71,7 +71,7 @@ private:
 };
 
 class KeyTree;
-class StoreStep;
+class StoreTransaction;
 
 /// The user's store: a tree of keys with named values. Paths are relative to a root, with
 /// backslashes between the elements. Names keep their case and are compared without regard to case.
@@ -89,9 +89,9 @@ public:
     static constexpr std::chrono::milliseconds UsualWait{5'000};
 
     /// `store` is the full path of the store file, used where the platform has no registry. The
-    /// file and its folders need not exist: CreateKey and InOneStep create them.
+    /// file and its folders need not exist: CreateKey and InTransaction create them.
     explicit RegistryAPI(std::filesystem::path store, std::chrono::milliseconds wait = UsualWait,
-                         RepairDoor door = {});
+                         RepairInterface repair = {});
 
     /// The path of this user's store, by the rules of the platform.
     static std::filesystem::path UserStore();
@@ -136,11 +136,11 @@ public:
     /// beginning. Throws what `steps` throws, with nothing committed, and StoreFailure when the
     /// transaction is not possible: the store is not writable, the disk is full, or the wait timed
     /// out. Where the platform's registry has no transactions, the writes are made one by one.
-    void InOneStep(const std::function<void(const RegistryAPI&)>& steps) const;
+    void InTransaction(const std::function<void(const RegistryAPI&)>& steps) const;
 
     /// The same for reading only: writes nothing and waits for nothing. An unreadable store gives
     /// defaults, and the reason is returned. A missing store is empty, which is not an error.
-    StoreTrouble ReadInOneStep(const std::function<void(const RegistryAPI&)>& steps) const;
+    StoreTrouble ReadInTransaction(const std::function<void(const RegistryAPI&)>& steps) const;
 
 private:
     bool Repair() const;
@@ -150,6 +150,7 @@ private:
 
     std::filesystem::path m_store;
     std::chrono::milliseconds m_wait;
-    RepairDoor m_door;
-    std::shared_ptr<StoreStep> m_step; ///< the transaction that this object belongs to, if any
+    RepairInterface m_repair;
+    std::shared_ptr<StoreTransaction>
+        m_step; ///< the transaction that this object belongs to, if any
 };

@@ -37,10 +37,10 @@ void TryMail(const std::string& input) {
     EXPECT_TRUE(QUrl::fromEncoded(address, QUrl::StrictMode).isValid());
 }
 
-TEST(MailFuzz, TheCorpusArrivesAndNoShellSeesIt) { FuzzDoor("text", TryMail).TryCorpus(); }
+TEST(MailFuzz, TheCorpusArrivesAndNoShellSeesIt) { FuzzTarget("text", TryMail).TryCorpus(); }
 
 TEST(MailFuzz, AnyMessageArrivesAndNoShellSeesIt) {
-    FuzzDoor("mail", TryMail).TryAtRandom([](FuzzRandom& random) {
+    FuzzTarget("mail", TryMail).TryAtRandom([](FuzzRandom& random) {
         return Patched(random, HostilePieces) + Patched(random, HostilePieces);
     });
 }
@@ -51,7 +51,7 @@ TEST(SystemInfoFuzz, AnyValueIsAPathOrNone) {
     constexpr RegistryRoot machine = RegistryRoot::LocalMachine;
     const std::string key = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
     store.CreateKey(machine, key);
-    const FuzzDoor door("registry", [&](const std::string& input) {
+    const FuzzTarget target("registry", [&](const std::string& input) {
         std::vector<std::byte> bytes;
         for (const char c : input) {
             bytes.push_back(static_cast<std::byte>(c));
@@ -72,13 +72,13 @@ TEST(SystemInfoFuzz, AnyValueIsAPathOrNone) {
         ASSERT_TRUE(started);
         EXPECT_LE(started->size(), 4'096);
     });
-    door.TryAtRandom(
+    target.TryAtRandom(
         [](FuzzRandom& random) { return Patched(random, HostilePieces).substr(0, 1'000); });
 }
 
-TEST(SystemInfoDoor, StartsTheVeryFileThatIsNamedWithoutArguments) {
+TEST(SystemInfoInterface, StartsTheVeryFileThatIsNamedWithoutArguments) {
     const QTemporaryDir folder;
-    const SystemInfoDoors doors = InstalledSystemInfo();
+    const SystemInfoInterface system = InstalledSystemInfo();
     for (const QString& name :
          {QStringLiteral("two words"), QStringLiteral("-x"), QStringLiteral("%n%s"),
           QStringLiteral("$(touch x)"), QStringLiteral("\"q\" 'q'"), QStringLiteral("line\nbreak"),
@@ -93,7 +93,7 @@ TEST(SystemInfoDoor, StartsTheVeryFileThatIsNamedWithoutArguments) {
                      QFile::encodeName(note) + "'\n");
         script.close();
         script.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-        EXPECT_TRUE(doors.start(path));
+        EXPECT_TRUE(system.start(path));
         EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(note); }, 20'000));
         QFile said(note);
         ASSERT_TRUE(said.open(QIODevice::ReadOnly));
@@ -105,7 +105,7 @@ TEST(SystemInfoDoor, StartsTheVeryFileThatIsNamedWithoutArguments) {
          {QString(), QStringLiteral("/"), QStringLiteral("/dev/zero"), folder.path(),
           folder.filePath(QStringLiteral("none")), QStringLiteral("%n"), QStringLiteral("-x"),
           QString(5'000, u'x'), QStringLiteral("$(touch x)")}) {
-        EXPECT_FALSE(doors.start(path)) << path.left(80).toStdString();
+        EXPECT_FALSE(system.start(path)) << path.left(80).toStdString();
     }
 }
 

@@ -1,4 +1,4 @@
-#include "MailDoor.h"
+#include "MailInterface.h"
 #include "ShareCommands.h"
 #include "WindowFixture.h"
 
@@ -8,7 +8,7 @@
 namespace {
 
 /// Records the calls to the mail client.
-class FakeMail : public MailDoor {
+class FakeMail : public MailInterface {
 public:
     int SignOn() override {
         steps.append(QStringLiteral("on"));

@@ -61,19 +61,20 @@ void TryTable(const QString& source) {
     EXPECT_EQ(again.Texts(), table.Texts());
 }
 
-const FuzzDoor& TableDoor() {
-    static const FuzzDoor door("table", [](const std::string& input) { TryTable(TextOf(input)); });
-    return door;
+const FuzzTarget& TableTarget() {
+    static const FuzzTarget target("table",
+                                   [](const std::string& input) { TryTable(TextOf(input)); });
+    return target;
 }
 
-TEST(TextTableFuzz, TheCorpusIsReadOrToldByItsLines) { TableDoor().TryCorpus(); }
+TEST(TextTableFuzz, TheCorpusIsReadOrToldByItsLines) { TableTarget().TryCorpus(); }
 
 TEST(TextTableFuzz, AnyTableIsReadOrToldByItsLines) {
     constexpr std::array pieces{"language",   "tag", " = ", "=",   "\n",   "\n",          "\n7 = ",
                                 "\n8 =",      "# ",  "\\",  "\\n", "\\\\", "\r\n",        "\t",
                                 "2147483648", "0",   "x",   "&",   "\xFF", "\xEF\xBB\xBF"};
-    TableDoor().TryAtRandom([&](FuzzRandom& random) {
-        return random.OneIn(3) ? Damaged(random, random.AnyOf(TableDoor().Corpus()))
+    TableTarget().TryAtRandom([&](FuzzRandom& random) {
+        return random.OneIn(3) ? Damaged(random, random.AnyOf(TableTarget().Corpus()))
                                : Patched(random, pieces) + Patched(random, pieces) +
                                      Patched(random, HostilePieces);
     });
@@ -96,9 +97,9 @@ void TryFile(const ProgramFolder& folder, const std::string& bytes, bool isSound
 TEST(ComponentFuzz, ADamagedFileIsNoLanguage) {
     const ProgramFolder folder;
     const std::string sound = BytesOf(BuiltSpanishComponent()).toStdString();
-    const FuzzDoor door("component",
-                        [&](const std::string& input) { TryFile(folder, input, input == sound); });
-    door.TryAtRandom([&](FuzzRandom& random) { return Damaged(random, sound); });
+    const FuzzTarget target(
+        "component", [&](const std::string& input) { TryFile(folder, input, input == sound); });
+    target.TryAtRandom([&](FuzzRandom& random) { return Damaged(random, sound); });
     constexpr std::size_t parts = 16;
     for (std::size_t part = 0; part <= parts; ++part) {
         TryFile(folder, sound.substr(0, sound.size() * part / parts), part == parts);
@@ -113,7 +114,7 @@ TEST(LocaleNameFuzz, AnyNameHasALanguageOrNone) {
                                 "C",          "POSIX",    "zh_Hant_TW",
                                 "sr_Latn_RS", "xx",       "root",
                                 "i-klingon",  "x-private"};
-    const FuzzDoor door("locale", [](const std::string& input) {
+    const FuzzTarget target("locale", [](const std::string& input) {
         LanguageIdentifierOf(TextOf(input));
         for (const char* const variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
             qunsetenv(variable);
@@ -124,7 +125,7 @@ TEST(LocaleNameFuzz, AnyNameHasALanguageOrNone) {
         EXPECT_FALSE(GetResourceText(15).isEmpty());
     });
     const QByteArray before = qgetenv("LC_ALL");
-    door.TryAtRandom([&](FuzzRandom& random) {
+    target.TryAtRandom([&](FuzzRandom& random) {
         return random.OneIn(3) ? Patched(random, HostilePieces) : Patched(random, pieces);
     });
     qunsetenv("LANG");

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PrinterDoor.h"
+#include "PrinterInterface.h"
 
 #include <atomic>
 #include <functional>
@@ -8,8 +8,8 @@
 #include <stop_token>
 #include <vector>
 
-/// A test double for PrinterDoor: answers the dialogs and stores what is printed.
-class FakePrinter : public PrinterDoor {
+/// A test double for PrinterInterface: answers the dialogs and stores what is printed.
+class FakePrinter : public PrinterInterface {
 public:
     std::optional<PrintOutcome> AskHowToPrint(QWidget& /*parent*/) override {
         ++asked;

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "PagePainter.h"
-#include "PrinterDoor.h"
+#include "PrinterInterface.h"
 #include "SystemPrinter.h"
 
 #include <QPrinter>
 
 /// Prints into a file if no print server is available.
-class FilePrinter : public PrinterDoor {
+class FilePrinter : public PrinterInterface {
 public:
     FilePrinter(const QString& file, const QPageSize& size,
                 QPageLayout::Orientation orientation = QPageLayout::Portrait) {

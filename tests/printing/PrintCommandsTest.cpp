@@ -6,7 +6,7 @@
 #include "FakePrinter.h"
 #include "Language.h"
 #include "LoanForm.h"
-#include "PrinterOfPart.h"
+#include "PrinterOfPlugin.h"
 #include "WindowFixture.h"
 
 #include <QAction>
@@ -211,7 +211,7 @@ TEST_P(EndsOfProgram, PrintTheReportThatWaits) {
     EXPECT_EQ(Job(), nullptr);
     EXPECT_FALSE(Window().isVisible());
     EXPECT_EQ(Printer().printed.size(), 1U);
-    EXPECT_TRUE(Door().Texts().isEmpty());
+    EXPECT_TRUE(Messages().Texts().isEmpty());
 }
 
 TEST_P(EndsOfProgram, PrintTheReportThatIsNotYetDrawn) {
@@ -226,7 +226,7 @@ TEST_P(EndsOfProgram, TellOfAReportThatCannotBePrinted) {
     Printer().outcome = {PrintFault::NoServer};
     Print();
     RunProgram();
-    EXPECT_EQ(Door().Texts(), QStringList{GetResourceText(661)});
+    EXPECT_EQ(Messages().Texts(), QStringList{GetResourceText(661)});
 }
 
 /// Even with a hanging server the program can end.
@@ -241,7 +241,7 @@ TEST_P(EndsOfProgram, LeaveCancelAtWork) {
     RunProgram();
     EXPECT_EQ(Job(), nullptr);
     EXPECT_TRUE(Printer().printed.empty());
-    EXPECT_TRUE(Door().Texts().isEmpty());
+    EXPECT_TRUE(Messages().Texts().isEmpty());
 }
 
 struct Fault {
@@ -272,10 +272,10 @@ TEST_F(PrintCommandsTest, WhereNothingCanPrintNoJobStarts) {
         Print();
         EXPECT_EQ(Job(), nullptr);
         EXPECT_EQ(SettledMessages(), QStringList{Told(fault)});
-        Door().Clear();
+        Messages().Clear();
         SetUpPrinter();
         EXPECT_EQ(SettledMessages(), QStringList{Told(fault)});
-        Door().Clear();
+        Messages().Clear();
     }
     EXPECT_TRUE(Printer().printed.empty());
 }
@@ -287,7 +287,7 @@ TEST_F(PrintCommandsTest, ALostDocumentIsToldOnce) {
         Print();
         ASSERT_TRUE(WaitForEnd());
         EXPECT_EQ(SettledMessages(), QStringList{Told(fault)});
-        Door().Clear();
+        Messages().Clear();
     }
     Printer().outcome = {PrintFault::Failed, QStringLiteral("Too hot.")};
     Print();
@@ -322,7 +322,7 @@ TEST_F(PrintCommandsTest, MarginsWithoutRoomForARowAreRefused) {
         if (row.prints) {
             EXPECT_LE(Printer().printed.front().pages.size(), 5U) << row.space.width();
         }
-        Door().Clear();
+        Messages().Clear();
     }
 }
 
@@ -344,14 +344,14 @@ TEST_F(PrintCommandsTest, ATickIsAsLargeAsOtherText) {
 
 TEST_F(PrintCommandsTest, AMissingLibraryIsNamed) {
     Open();
-    PrinterOfPart missing; // the tests' folder has none of the program's plugins
+    PrinterOfPlugin missing; // the tests' folder has none of the program's plugins
     const PrintCommands commands(Window(), missing);
     const QString file =
         QCoreApplication::applicationDirPath() + QStringLiteral("/Loan.Printers.so");
     for (QAction* entry : {Window().Form().mnuFilePrint, Window().Form().mnuFilePrintSetup}) {
         entry->trigger();
         EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(666).arg(file)});
-        Door().Clear();
+        Messages().Clear();
     }
 }
 

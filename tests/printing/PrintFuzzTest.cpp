@@ -5,7 +5,7 @@
 #include "FilePrinter.h"
 #include "Fuzzing.h"
 #include "HostileTexts.h"
-#include "QuietToolkit.h"
+#include "QuietQt.h"
 #include "Report.h"
 #include "RulerMetrics.h"
 #include "SampleForm.h"
@@ -31,11 +31,11 @@ void TryWrapping(const QString& text, int column) {
 class PrintFuzz : public testing::Test {
 protected:
     void Try(const std::string& input) {
-        const QuietToolkit quiet;
+        const QuietQt quiet;
         const QString text = TextOf(input);
         const std::size_t number = std::hash<std::string>()(input);
         TryWrapping(text, static_cast<int>(number % 40));
-        PrintedForm form = SampleForm(3);
+        ReportInput form = SampleForm(3);
         form.header.front().text = text;
         form.rows.at(number % form.rows.size()).back() = text;
         form.rows.back().at(number % OfferColumnCount) = text;
@@ -68,15 +68,15 @@ private:
 };
 
 TEST_F(PrintFuzz, TheCorpusIsPrinted) {
-    FuzzDoor("text", [this](const std::string& input) { Try(input); }).TryCorpus();
+    FuzzTarget("text", [this](const std::string& input) { Try(input); }).TryCorpus();
 }
 
 TEST_F(PrintFuzz, AnyTextIsPrinted) {
-    const FuzzDoor door("text", [this](const std::string& input) { Try(input); });
-    door.TryAtRandom([&](FuzzRandom& random) {
+    const FuzzTarget target("text", [this](const std::string& input) { Try(input); });
+    target.TryAtRandom([&](FuzzRandom& random) {
         std::string text;
         for (std::size_t count = 1 + random.Below(8); count > 0; --count) {
-            text += random.OneIn(4) ? Damaged(random, random.AnyOf(door.Corpus()))
+            text += random.OneIn(4) ? Damaged(random, random.AnyOf(target.Corpus()))
                                     : Patched(random, HostilePieces);
         }
         return text;

@@ -25,7 +25,7 @@ using namespace std::chrono_literals;
 
 std::unique_ptr<PrintServer> TheServer; // NOLINT: the test framework needs a global
 
-class ServerHouse : public testing::Environment {
+class ServerEnvironment : public testing::Environment {
 public:
     void SetUp() override {
         if (PrintServer::IsInstalled()) {
@@ -143,6 +143,6 @@ int main(int argc, char* argv[]) {
     }
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
-    testing::AddGlobalTestEnvironment(new ServerHouse); // GoogleTest deletes it
+    testing::AddGlobalTestEnvironment(new ServerEnvironment); // GoogleTest deletes it
     return RUN_ALL_TESTS();
 }

@@ -2,7 +2,7 @@
 
 #include "PrintCommands.h"
 #include "PrintServer.h"
-#include "PrinterDoor.h"
+#include "PrinterInterface.h"
 #include "WindowFixture.h"
 
 #include <QObject>
@@ -55,7 +55,7 @@ protected:
 
 private:
     QTemporaryDir m_folder;
-    std::unique_ptr<PrinterDoor> m_printer;
+    std::unique_ptr<PrinterInterface> m_printer;
     std::unique_ptr<PrintCommands> m_commands;
 };
 

@@ -135,7 +135,7 @@ TEST_F(ServerOnlyTest, AServerThatIsGoneIsTold) {
     EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(661)});
     EXPECT_TRUE(Printed().isEmpty());
     EXPECT_EQ(Text(u"cboLoanName"), u"Our home");
-    Door().Clear();
+    Messages().Clear();
     Print();
     EXPECT_EQ(Job(), nullptr);
     EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(661)});

@@ -17,7 +17,7 @@ constexpr double RowHeight = 20;
 
 class ReportTest : public testing::Test {
 protected:
-    const PrintedPages& Draw(const PrintedForm& form, double height, double width = SampleWidth) {
+    const PrintedPages& Draw(const ReportInput& form, double height, double width = SampleWidth) {
         m_report.emplace(form, QSizeF(width * Unit, height * Unit), m_metrics);
         for (const Report::Section section : Report::Sections) {
             (*m_report.*section)();
@@ -107,7 +107,7 @@ TEST_F(ReportTest, TheHeadingIsCentredAndBold) {
 }
 
 TEST_F(ReportTest, LabelsStandOnTheirSide) {
-    PrintedForm form = SampleForm(1);
+    ReportInput form = SampleForm(1);
     form.header.at(2).label.side = Side::Right;
     form.headings.at(3).side = Side::Centre;
     const PrintedPage& page = Draw(form, 1000).pages.front();
@@ -129,7 +129,7 @@ TEST_F(ReportTest, ARowIsElevenBoxesThenItsTexts) {
 }
 
 TEST_F(ReportTest, OnlyATickedBoxPrintsAnX) {
-    PrintedForm form = SampleForm(4);
+    ReportInput form = SampleForm(4);
     const QStringList texts = TextsOf(Draw(form, 1000).pages.front());
     EXPECT_EQ(texts.count(QStringLiteral("x")), 2); // rows 1 and 3
 }
@@ -149,7 +149,7 @@ TEST_F(ReportTest, TextsOfARowStandOnTheSideOfTheirColumn) {
 }
 
 TEST_F(ReportTest, AnEmptyWorksheetPrintsEmptyBoxes) {
-    PrintedForm form = SampleForm(6);
+    ReportInput form = SampleForm(6);
     for (auto* entries : {&form.header, &form.currentFirstHalf, &form.currentSecondHalf}) {
         for (FormEntry& entry : *entries) {
             entry.text.clear();
@@ -236,7 +236,7 @@ TEST_F(ReportTest, TheFooterIsSmallItalicAndInTheMiddleOfTheLastLine) {
 
 /// 96 units for the lender are 18.4 characters without the padding.
 TEST_F(ReportTest, ALongLenderTextMakesItsRowHigher) {
-    PrintedForm form = SampleForm(2);
+    ReportInput form = SampleForm(2);
     form.rows.front().back() = QStringLiteral("First National Bank of the Prairie, Mrs. Miller");
     const PrintedPage& page = Draw(form, 1000).pages.front();
     const QStringList lines{QStringLiteral("First National"), QStringLiteral("Bank of the"),
@@ -253,7 +253,7 @@ TEST_F(ReportTest, ALongLenderTextMakesItsRowHigher) {
 }
 
 TEST_F(ReportTest, ABreakInALenderTextStays) {
-    PrintedForm form = SampleForm(1);
+    ReportInput form = SampleForm(1);
     form.rows.front().back() = QStringLiteral("Ann\r\nBob");
     const PrintedPage& page = Draw(form, 1000).pages.front();
     EXPECT_DOUBLE_EQ(TextNamed(page, QStringLiteral("Ann")).place.y(), (FirstRow + 2) * Unit);
@@ -262,7 +262,7 @@ TEST_F(ReportTest, ABreakInALenderTextStays) {
 
 /// A row higher than a page starts on a new page and continues on the next ones; nothing is lost.
 TEST_F(ReportTest, ARowHigherThanAPageGoesOn) {
-    PrintedForm form = SampleForm(2);
+    ReportInput form = SampleForm(2);
     QStringList words;
     for (int word = 0; word < 100; ++word) {
         words << QStringLiteral("lender-word-%1").arg(word, 4, 10, QLatin1Char('0'));
@@ -291,7 +291,7 @@ TEST_F(ReportTest, ARowHigherThanAPageGoesOn) {
 }
 
 TEST_F(ReportTest, APageWithoutRoomForALineStillEnds) {
-    PrintedForm form = SampleForm(3);
+    ReportInput form = SampleForm(3);
     form.rows.front().back() = QStringLiteral("a\r\nb\r\nc");
     EXPECT_EQ(Draw(form, 30).pages.size(), 1U + 3 + 2);
 }
@@ -309,7 +309,7 @@ INSTANTIATE_TEST_SUITE_P(Pages, TypeSize,
 
 /// Positions scale with the page; fonts never grow, but shrink on a page narrower than the window.
 TEST_P(TypeSize, FollowsAPageNarrowerThanTheWindow) {
-    PrintedForm form = SampleForm(1);
+    ReportInput form = SampleForm(1);
     const PrintedPage& page = Draw(form, 3000, SampleWidth * GetParam().pageWidth).pages.front();
     EXPECT_NEAR(TextNamed(page, QStringLiteral("H1")).font.points, GetParam().points, 0.01);
     EXPECT_NEAR(ItemsOf<PrintedBox>(page).front().place.width(), 150 * Unit * GetParam().pageWidth,
@@ -317,7 +317,7 @@ TEST_P(TypeSize, FollowsAPageNarrowerThanTheWindow) {
 }
 
 TEST_F(ReportTest, NoTextLeavesItsBoxHoweverLong) {
-    PrintedForm form = SampleForm(1);
+    ReportInput form = SampleForm(1);
     for (auto* entries : {&form.header, &form.currentFirstHalf, &form.currentSecondHalf}) {
         for (FormEntry& entry : *entries) {
             entry.text = QString(300, u'M');

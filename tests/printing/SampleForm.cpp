@@ -39,8 +39,8 @@ FormRow SampleRow(int row) {
     return texts;
 }
 
-PrintedForm SampleForm(int rows) {
-    PrintedForm form;
+ReportInput SampleForm(int rows) {
+    ReportInput form;
     form.width = SampleWidth;
     form.pixelsPerPoint = 1;
     form.fontFamily = QStringLiteral("Sans");

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "PrintedForm.h"
+#include "ReportInput.h"
 
 /// A window 1,000 pixels wide on a screen of one pixel per point, so that on a page of 20,000 twips
 /// everything keeps its size. Its fields show their own names.
-PrintedForm SampleForm(int rows);
+ReportInput SampleForm(int rows);
 
 /// The row's texts are "<row>.<column>"; the tick boxes of odd rows are ticked.
 FormRow SampleRow(int row);

@@ -45,12 +45,12 @@ QStringList Checks::Complaints(RandomUser& user) {
 
 /// Every message is expected, and every expected message appears.
 void Checks::Messages(RandomUser& user) {
-    QStringList waiting = user.TheBook().expected;
+    QStringList waiting = user.Model().expected;
     waiting.removeDuplicates();
     const QStringList shown = user.TheProgram().messages.Texts();
     for (const QString& text : shown) {
         const auto begins = [&](const QString& start) { return text.startsWith(start); };
-        if (!std::ranges::any_of(user.TheBook().expected, begins)) {
+        if (!std::ranges::any_of(user.Model().expected, begins)) {
             Say(u"not called for: “%1”"_s.arg(text));
         }
         waiting.removeIf(begins);
@@ -72,7 +72,7 @@ void Checks::Questions(RandomUser& user) {
 }
 
 void Checks::RowsAreThere(RandomUser& user) {
-    const int rows = static_cast<int>(user.TheBook().offers.size());
+    const int rows = static_cast<int>(user.Model().offers.size());
     const QWidget* last = user.Control({FieldId::Who, ::Row{rows - 1}});
     const int highest = user.TheProgram().Window().GetWorksheet().HighestOfferRow().value;
     if (last == nullptr || highest != rows - 1) {
@@ -103,53 +103,53 @@ void Checks::BandsShow(RandomUser& user) {
     for (const FieldRule& rule : LoanFields()) {
         const Field field{rule.id};
         if (user.Edited() != field) {
-            Compare(user, field, user.TheBook().Shown(field));
+            Compare(user, field, user.Model().Shown(field));
         } else if (rule.IsNumber()) {
             Compare(user, field, user.EditedText());
         }
     }
 }
 
-const std::vector<QString>& Checks::TextsOf(const Book& book, int row) {
-    const BookOffer& offer = book.OfferIn(row);
+const std::vector<QString>& Checks::TextsOf(const ReferenceModel& model, int row) {
+    const ModelOffer& offer = model.OfferIn(row);
     Row& known = m_rows.at(static_cast<std::size_t>(row));
-    const int manner = static_cast<int>(book.forms.Country()) * 4 + (book.spanish ? 2 : 0) +
-                       (book.inMonths ? 1 : 0);
-    if (known.manner == manner && known.offer == offer && known.amount == book.loan.amount &&
-        known.escrow == book.loan.escrow) {
+    const int manner = static_cast<int>(model.forms.Country()) * 4 + (model.spanish ? 2 : 0) +
+                       (model.inMonths ? 1 : 0);
+    if (known.manner == manner && known.offer == offer && known.amount == model.loan.amount &&
+        known.escrow == model.loan.escrow) {
         return known.texts;
     }
-    const BookResults results = book.ResultsOf(offer);
-    known = {offer, book.loan.amount, book.loan.escrow, manner, {}};
+    const ModelResults results = model.ResultsOf(offer);
+    known = {offer, model.loan.amount, model.loan.escrow, manner, {}};
     for (const FieldRule& rule : OfferFields()) {
         switch (rule.id) {
         case FieldId::FinancePoints:
             known.texts.push_back(offer.financed ? u"ticked"_s : QString());
             break;
         case FieldId::PandI:
-            known.texts.push_back(book.forms.Currency(results.pAndI));
+            known.texts.push_back(model.forms.Currency(results.pAndI));
             break;
         case FieldId::Payment:
-            known.texts.push_back(book.forms.Currency(results.payment));
+            known.texts.push_back(model.forms.Currency(results.payment));
             break;
         case FieldId::PayoffDate:
-            known.texts.push_back(book.forms.Day(results.payoff));
+            known.texts.push_back(model.forms.Day(results.payoff));
             break;
         case FieldId::Interest:
-            known.texts.push_back(book.forms.Currency(results.interest));
+            known.texts.push_back(model.forms.Currency(results.interest));
             break;
         default:
-            known.texts.push_back(book.Shown({rule.id, ::Row{row}}));
+            known.texts.push_back(model.Shown({rule.id, ::Row{row}}));
         }
     }
     return known.texts;
 }
 
 void Checks::OffersShow(RandomUser& user) {
-    const Book& book = user.TheBook();
-    for (int row = 0; row < static_cast<int>(book.offers.size()); ++row) {
+    const ReferenceModel& model = user.Model();
+    for (int row = 0; row < static_cast<int>(model.offers.size()); ++row) {
         std::size_t column = 0;
-        const std::vector<QString>& texts = TextsOf(book, row);
+        const std::vector<QString>& texts = TextsOf(model, row);
         for (const FieldRule& rule : OfferFields()) {
             const Field field{rule.id, ::Row{row}};
             if (user.Edited() != field) {
@@ -163,7 +163,7 @@ void Checks::OffersShow(RandomUser& user) {
 }
 
 void Checks::Marks(RandomUser& user) {
-    const Book& book = user.TheBook();
+    const ReferenceModel& model = user.Model();
     const auto compare = [&](Field field, QColor expected, const QColor& colour) {
         const bool shown = user.Control(field)->palette().color(QPalette::Base) == colour;
         if (shown != expected.isValid()) {
@@ -174,22 +174,22 @@ void Checks::Marks(RandomUser& user) {
     };
     for (const FieldId id :
          {FieldId::CurLoanAmount, FieldId::CurLoanTerm, FieldId::CurInterestRate}) {
-        compare({id}, book.IsMissing(id) ? Colours::Missing : QColor(), Colours::Missing);
+        compare({id}, model.IsMissing(id) ? Colours::Missing : QColor(), Colours::Missing);
     }
-    for (int row = 0; row < static_cast<int>(book.offers.size()); ++row) {
+    for (int row = 0; row < static_cast<int>(model.offers.size()); ++row) {
         compare({FieldId::ActualPayment, ::Row{row}},
-                book.IsRaised(row) ? Colours::Raised : QColor(), Colours::Raised);
+                model.IsRaised(row) ? Colours::Raised : QColor(), Colours::Raised);
     }
     const auto* box = qobject_cast<QComboBox*>(user.Control({FieldId::LoanName}));
     const bool marked = box->lineEdit()->palette().color(QPalette::Base) == Colours::Missing;
-    if (marked != book.nameMissing) {
+    if (marked != model.nameMissing) {
         Say(u"the name is %1"_s.arg(marked ? u"marked"_s : u"not marked"_s));
     }
 }
 
 void Checks::Dirty(RandomUser& user) {
-    if (user.TheProgram().Window().GetWorksheet().Dirty() != user.TheBook().dirty) {
-        Say(user.TheBook().dirty ? u"there is something to save"_s : u"there is nothing to save"_s);
+    if (user.TheProgram().Window().GetWorksheet().Dirty() != user.Model().dirty) {
+        Say(user.Model().dirty ? u"there is something to save"_s : u"there is nothing to save"_s);
     }
 }
 
@@ -212,7 +212,7 @@ void Checks::Order(RandomUser& user) {
     for (::Row row{0}; row <= sheet.HighestOfferRow(); ++row.value) {
         seen.insert(sheet.OfferIndexOfRow(row).value);
     }
-    if (seen.size() != user.TheBook().offers.size()) {
+    if (seen.size() != user.Model().offers.size()) {
         Say(u"%1 offers are in the rows"_s.arg(seen.size()));
     }
 }
@@ -235,7 +235,7 @@ void Checks::Scrolling(RandomUser& user) {
 void Checks::Captions(RandomUser& user) {
     const bool thorough = m_looks % 50 == 0;
     for (const QString& complaint :
-         m_texts.Complaints(user.TheProgram().Window(), user.TheBook(), thorough)) {
+         m_texts.Complaints(user.TheProgram().Window(), user.Model(), thorough)) {
         Say(complaint);
     }
 }
@@ -253,8 +253,8 @@ void Checks::NamesKept(RandomUser& user) {
             kept.append(QString::fromStdString(name));
         }
     }
-    if (kept != user.TheBook().Names()) {
+    if (kept != user.Model().Names()) {
         Say(u"the store holds %1 instead of %2"_s.arg(kept.join(u'|'),
-                                                      user.TheBook().Names().join(u'|')));
+                                                      user.Model().Names().join(u'|')));
     }
 }

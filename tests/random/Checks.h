@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Book.h"
+#include "ReferenceModel.h"
 #include "WindowTexts.h"
 
 #include <QStringList>
@@ -40,13 +40,13 @@ private:
     /// The expected texts of an offer's fields in the order of the columns. They are cached while
     /// their inputs are unchanged.
     struct Row {
-        BookOffer offer;
+        ModelOffer offer;
         Plain::Count amount = 0;
         Plain::Count escrow = 0;
         int manner = -1; ///< country, language and unit of term
         std::vector<QString> texts;
     };
-    const std::vector<QString>& TextsOf(const Book& book, int row);
+    const std::vector<QString>& TextsOf(const ReferenceModel& model, int row);
     void Say(const QString& complaint) { m_complaints.append(complaint); }
     void Compare(RandomUser& user, Field field, const QString& expected);
 

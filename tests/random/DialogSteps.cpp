@@ -19,11 +19,11 @@ using namespace Qt::StringLiterals;
 /// Switches to a certain language, or to the other one.
 void RandomUser::SwitchLanguage(unsigned a, unsigned /*b*/) {
     const View before = Look();
-    const bool spanish = a % 4 < 2 ? a % 2 == 1 : !m_book.spanish;
+    const bool spanish = a % 4 < 2 ? a % 2 == 1 : !m_model.spanish;
     const bool switches = Commit(before); // its messages are in the previous language
     Trigger(spanish ? "mnuToolsLanguageOpt(2)" : "mnuToolsLanguageOpt(1)");
     if (switches) {
-        m_book.spanish = spanish;
+        m_model.spanish = spanish;
     }
 }
 
@@ -79,7 +79,7 @@ void RandomUser::OpenOptions(unsigned a, unsigned b) {
                  if (inRange) {
                      taken = true;
                  } else {
-                     m_book.Expect(TextNumber::OffersRefused);
+                     m_model.Expect(TextNumber::OffersRefused);
                  }
              });
     Commit(before);
@@ -87,11 +87,11 @@ void RandomUser::OpenOptions(unsigned a, unsigned b) {
         return;
     }
     if (path.startsWith(u"/no") && Window().GetSettings().wallpaper.isEmpty()) {
-        m_book.Expect(TextNumber::PictureNotLoaded, u' ' + path);
+        m_model.Expect(TextNumber::PictureNotLoaded, u' ' + path);
     }
-    m_book.inMonths = inMonths;
+    m_model.inMonths = inMonths;
     m_displayed = number.toUInt();
-    m_book.GrowTo(m_displayed);
+    m_model.GrowTo(m_displayed);
     Reenter();
 }
 
@@ -128,7 +128,7 @@ void RandomUser::OpenAbout(unsigned a, unsigned /*b*/) {
              [&](QDialog& dialog) {
                  if (a % 3 == 0) {
                      dialog.findChild<QPushButton*>(u"cmdSysInfo"_s)->click();
-                     m_book.Expect(TextNumber::NoSystemInfo);
+                     m_model.Expect(TextNumber::NoSystemInfo);
                  }
                  QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
              });

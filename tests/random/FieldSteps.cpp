@@ -1,10 +1,10 @@
 // Typing, and moving from field to field.
 
-#include "DraggedValue.h"
 #include "Language.h"
 #include "RandomUser.h"
 #include "StepTexts.h"
 #include "TextNumbers.h"
+#include "TransferRules.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -64,12 +64,12 @@ void RandomUser::Type(unsigned /*a*/, unsigned b) {
     if (!m_edited || (!EditOf(*m_edited) && m_edited->id != FieldId::LoanName)) {
         return;
     }
-    const QString text = Printable(TextFor(m_edited->id, b, m_book.forms.Point())).left(40);
+    const QString text = Printable(TextFor(m_edited->id, b, m_model.forms.Point())).left(40);
     const QLineEdit* edit = EditOf(*m_edited);
     if (edit != nullptr && RuleOf(m_edited->id).IsNumber()) {
         const auto start =
             edit->hasSelectedText() ? edit->selectionStart() : edit->cursorPosition();
-        const QString allowed = Allowed(m_edited->id, text, m_book.forms.Point());
+        const QString allowed = Allowed(m_edited->id, text, m_model.forms.Point());
         const qsizetype end = allowed.isEmpty() ? start : start + edit->selectedText().size();
         m_text = allowed.isEmpty() ? edit->text()
                                    : edit->text().left(start) + allowed + edit->text().mid(end);
@@ -82,8 +82,8 @@ void RandomUser::Paste(unsigned a, unsigned b) {
         return;
     }
     QGuiApplication::clipboard()->setText(a % 4 == 0
-                                              ? AnyText(b, m_book.forms.Point())
-                                              : TextFor(m_edited->id, b, m_book.forms.Point()));
+                                              ? AnyText(b, m_model.forms.Point())
+                                              : TextFor(m_edited->id, b, m_model.forms.Point()));
     if (a % 2 == 0) {
         Press(Qt::Key_A, Qt::ControlModifier);
     }
@@ -115,16 +115,16 @@ void RandomUser::EditText(unsigned a, unsigned /*b*/) {
 
 /// The text of a copied or dragged value.
 QString RandomUser::CopiedText(Field field, const QString& shown) const {
-    const BookOffer& offer = m_book.OfferIn(field.row.value);
+    const ModelOffer& offer = m_model.OfferIn(field.row.value);
     const auto orZero = [](const QString& text) { return text.isEmpty() ? u"0"_s : text; };
     switch (field.id) {
     case FieldId::Points:
-        return orZero(m_book.forms.Number(offer.points));
+        return orZero(m_model.forms.Number(offer.points));
     case FieldId::InterestRate:
-        return orZero(m_book.forms.Number(offer.rate));
+        return orZero(m_model.forms.Number(offer.rate));
     case FieldId::ActualPayment:
         return offer.actual == 0 ? QString()
-                                 : orZero(m_book.forms.Number(Plain::ToCents(offer.actual)));
+                                 : orZero(m_model.forms.Number(Plain::ToCents(offer.actual)));
     default:
         return shown;
     }
@@ -138,7 +138,7 @@ void RandomUser::UseClipboard(unsigned a, unsigned /*b*/) {
     }
     const Field field = *m_edited;
     const bool isNumber = RuleOf(field.id).IsNumber();
-    const bool typed = isNumber && edit->text() != m_book.EntryText(field);
+    const bool typed = isNumber && edit->text() != m_model.EntryText(field);
     const bool part = edit->hasSelectedText() && edit->selectedText() != edit->text();
     const bool whole = isNumber ? !part : edit->selectedText() == edit->text();
     const bool isValue = IsDraggable(field.id) && !typed;
@@ -156,23 +156,24 @@ void RandomUser::UseClipboard(unsigned a, unsigned /*b*/) {
     Press(Qt::Key_V, Qt::ControlModifier);
     if (!takesValue) {
         m_text = Look().text;
-    } else if (m_book.MayDrop(field.id, text)) {
+    } else if (m_model.MayDrop(field.id, text)) {
         TakeValue(field, text);
     } else {
-        m_book.Expect(TextNumber::ValueRefused);
-        m_book.expected.last() = m_book.expected.last().left(m_book.expected.last().indexOf(u'%'));
+        m_model.Expect(TextNumber::ValueRefused);
+        m_model.expected.last() =
+            m_model.expected.last().left(m_model.expected.last().indexOf(u'%'));
     }
 }
 
 /// Same effect as a drop.
 void RandomUser::TakeValue(Field field, const QString& text) {
-    if (!m_book.Drop(field, text)) {
+    if (!m_model.Drop(field, text)) {
         return;
     }
     if (m_edited && m_edited->row == field.row) {
         Reenter();
     } else {
-        m_book.EnterRow(field.row.value);
+        m_model.EnterRow(field.row.value);
     }
 }
 
@@ -207,14 +208,14 @@ void RandomUser::Arrow(unsigned a, unsigned /*b*/) {
     if (RuleOf(field.id).kind == ValueKind::Choice) {
         const QString now = LookAt(field).text;
         if (now != before.text) {
-            m_book.StoreChoice(field, now);
+            m_model.StoreChoice(field, now);
         }
         return;
     }
     const bool isRowField = field.row != Field::NoRow && EditOf(field) != nullptr;
     const int target = field.row.value + (key == Qt::Key_Up ? -1 : 1);
     const bool canMove =
-        isRowField && target >= 0 && target < static_cast<int>(m_book.offers.size());
+        isRowField && target >= 0 && target < static_cast<int>(m_model.offers.size());
     if (!isRowField && RuleOf(field.id).IsTyped()) {
         return; // the caret moves in a single line, or the date changes
     }
@@ -257,7 +258,7 @@ void RandomUser::ChooseFrom(Field field, unsigned b) {
     if (list->currentIndex() != entry) {
         Complain(u"another entry was picked"_s);
     }
-    m_book.StoreChoice(field, list->currentText());
+    m_model.StoreChoice(field, list->currentText());
 }
 
 void RandomUser::TypeDay(unsigned a, unsigned b) {
@@ -273,7 +274,7 @@ void RandomUser::TypeDay(unsigned a, unsigned b) {
     }
     const std::array texts{QString::number(b % 10'000),
                            QString::number(1'000'000 + b * 100),
-                           m_book.forms.Day(Today.addDays(b % 10'000)),
+                           m_model.forms.Day(Today.addDays(b % 10'000)),
                            u"2/%1/%2"_s.arg(b % 32).arg(b % 10'000),
                            u"12. 30. 2031"_s,
                            u"30/12/31"_s,
@@ -302,8 +303,8 @@ void RandomUser::FillAll(std::initializer_list<Field> fields, unsigned b) {
 
 /// Enters an offer that can be computed.
 void RandomUser::FillOffer(unsigned a, unsigned b) {
-    const Row row{static_cast<int>(a % m_book.offers.size())};
-    if (m_book.loan.amount == 0) {
+    const Row row{static_cast<int>(a % m_model.offers.size())};
+    if (m_model.loan.amount == 0) {
         FillAll({{FieldId::LoanAmount}, {FieldId::AnnualTaxes}}, b);
     }
     FillAll({{FieldId::InterestRate, row}, {FieldId::Term, row}}, b);

@@ -41,54 +41,54 @@ Answer RandomUser::PrepareAnswer(unsigned number, bool mayCancel) {
     return answer;
 }
 
-bool RandomUser::SaveInBook() {
-    if (m_book.IsUnnamed()) {
-        m_book.Expect(TextNumber::NoNameToSave);
+bool RandomUser::SaveInModel() {
+    if (m_model.IsUnnamed()) {
+        m_model.Expect(TextNumber::NoNameToSave);
         return false;
     }
-    if (!CanBeKey(m_book.loan.name) || IsNewLoan(m_book.loan.name)) {
-        m_book.Expect(IsNewLoan(m_book.loan.name) ? TextNumber::NameOfNewLoan
-                                                  : TextNumber::NameNotPossible);
+    if (!CanBeKey(m_model.loan.name) || IsNewLoan(m_model.loan.name)) {
+        m_model.Expect(IsNewLoan(m_model.loan.name) ? TextNumber::NameOfNewLoan
+                                                    : TextNumber::NameNotPossible);
         return false;
     }
-    for (int row = 0; row < static_cast<int>(m_book.offers.size()); ++row) {
-        if (Letters(m_book.OfferIn(row).who) > 1'023) {
-            m_book.expected.append(GetResourceText(TextNumber::LenderTooLong).arg(row + 1));
+    for (int row = 0; row < static_cast<int>(m_model.offers.size()); ++row) {
+        if (Letters(m_model.OfferIn(row).who) > 1'023) {
+            m_model.expected.append(GetResourceText(TextNumber::LenderTooLong).arg(row + 1));
             return false;
         }
     }
-    m_book.Save();
+    m_model.Save();
     keptChanged = true;
     return true;
 }
 
 /// Whether unsaved changes may be dropped, after the question.
 bool RandomUser::MayDrop(Answer answer) {
-    if (!m_book.dirty) {
+    if (!m_model.dirty) {
         return true;
     }
-    m_questions.append(m_book.IsUnnamed() ? GetResourceText(TextNumber::SaveTitle)
-                                          : WithName(TextNumber::SaveQuestion));
+    m_questions.append(m_model.IsUnnamed() ? GetResourceText(TextNumber::SaveTitle)
+                                           : WithName(TextNumber::SaveQuestion));
     if (answer != Answer::Yes) {
         return answer == Answer::No;
     }
-    if (!m_book.IsUnnamed()) {
-        return SaveInBook();
+    if (!m_model.IsUnnamed()) {
+        return SaveInModel();
     }
-    m_book.nameMissing = true;
+    m_model.nameMissing = true;
     Refocus({FieldId::LoanName});
     return false;
 }
 
-void RandomUser::PickInBook(const QString& name, Answer answer) {
+void RandomUser::PickInModel(const QString& name, Answer answer) {
     if (MayDrop(answer)) {
         if (name == GetResourceText(TextNumber::NewLoan)) {
-            m_book.Clear();
-        } else if (m_book.Holds(name)) {
-            m_book.Load(name);
-            m_book.nameMissing = false;
+            m_model.Clear();
+        } else if (m_model.Holds(name)) {
+            m_model.Load(name);
+            m_model.nameMissing = false;
         } else {
-            m_book.loan.name = name;
+            m_model.loan.name = name;
         }
     }
     Reenter();
@@ -124,10 +124,10 @@ void RandomUser::Save(unsigned a, unsigned /*b*/) {
     if (!Commit(before)) {
         return;
     }
-    if (m_book.IsUnnamed()) {
-        m_book.nameMissing = true;
+    if (m_model.IsUnnamed()) {
+        m_model.nameMissing = true;
     } else {
-        SaveInBook();
+        SaveInModel();
     }
 }
 
@@ -142,7 +142,7 @@ void RandomUser::PickName(unsigned a, unsigned b) {
     Press(Qt::Key_Down);
     Settle();
     Commit(typed);
-    const QStringList entries = QStringList(GetResourceText(TextNumber::NewLoan)) + m_book.Names();
+    const QStringList entries = QStringList(GetResourceText(TextNumber::NewLoan)) + m_model.Names();
     QStringList shown;
     for (int i = 0; i < box.count(); ++i) {
         shown.append(box.itemText(i));
@@ -160,21 +160,21 @@ void RandomUser::PickName(unsigned a, unsigned b) {
         Press(Qt::Key_Down);
     }
     Press(Qt::Key_Return);
-    PickInBook(entries.at(entry), answer);
+    PickInModel(entries.at(entry), answer);
     Settle();
-    if (box.currentText() != m_book.loan.name) {
-        Complain(u"the box shows %1 instead of %2"_s.arg(box.currentText(), m_book.loan.name));
+    if (box.currentText() != m_model.loan.name) {
+        Complain(u"the box shows %1 instead of %2"_s.arg(box.currentText(), m_model.loan.name));
     }
 }
 
 /// Loads the current worksheet again as saved, or another one.
 void RandomUser::Reload(unsigned a, unsigned b) {
-    const QStringList names = m_book.Names();
+    const QStringList names = m_model.Names();
     if (names.isEmpty()) {
         return;
     }
     const auto count = static_cast<unsigned>(names.size());
-    const auto kept = static_cast<int>(names.indexOf(m_book.loan.name));
+    const auto kept = static_cast<int>(names.indexOf(m_model.loan.name));
     const unsigned entry = kept >= 0 ? static_cast<unsigned>(kept) : b % count;
     PickName(a - a % 6 + 1, entry + 1); // entry 0 is the new loan
 }
@@ -186,7 +186,7 @@ void RandomUser::New(unsigned a, unsigned /*b*/) {
     if (!Commit(before)) {
         return;
     }
-    PickInBook(GetResourceText(TextNumber::NewLoan), answer);
+    PickInModel(GetResourceText(TextNumber::NewLoan), answer);
     Refocus({FieldId::LoanName});
 }
 
@@ -197,23 +197,23 @@ void RandomUser::Delete(unsigned a, unsigned /*b*/) {
     if (!Commit(before)) {
         return;
     }
-    const bool unnamed = m_book.IsUnnamed();
-    if (!CanBeKey(m_book.loan.name)) {
-        return m_book.Expect(TextNumber::NoSuchNameToDelete);
+    const bool unnamed = m_model.IsUnnamed();
+    if (!CanBeKey(m_model.loan.name)) {
+        return m_model.Expect(TextNumber::NoSuchNameToDelete);
     }
-    if (!unnamed || !m_book.dirty) {
+    if (!unnamed || !m_model.dirty) {
         m_questions.append(WithName(TextNumber::DeleteQuestion));
         if (answer != Answer::Yes) {
             return;
         }
         if (unnamed) {
-            m_book.Expect(TextNumber::NoNameToDelete);
+            m_model.Expect(TextNumber::NoNameToDelete);
         } else {
-            m_book.Throw(m_book.loan.name);
+            m_model.Throw(m_model.loan.name);
             keptChanged = true;
         }
     }
-    m_book.Clear();
+    m_model.Clear();
     Reenter();
     Refocus({FieldId::LoanName});
 }
@@ -233,26 +233,26 @@ void RandomUser::CloseAndStart(unsigned a, unsigned b) {
     }
     m_program.Shut();
     Settle();
-    const Book left = m_book;
-    m_book = Book(b);
-    m_book.shelf = left.shelf;
-    m_book.spanish = left.spanish;
-    m_book.inMonths = left.inMonths;
-    m_book.expected = left.expected;
-    m_book.GrowTo(m_displayed);
+    const ReferenceModel left = m_model;
+    m_model = ReferenceModel(b);
+    m_model.shelf = left.shelf;
+    m_model.spanish = left.spanish;
+    m_model.inMonths = left.inMonths;
+    m_model.expected = left.expected;
+    m_model.GrowTo(m_displayed);
     keptChanged = true;
     m_edited.reset();
-    m_program.Start(m_book.forms.Locale());
+    m_program.Start(m_model.forms.Locale());
     Settle();
     WatchDay();
-    EnterInBook(FocusField());
+    EnterInModel(FocusField());
 }
 
 /// Closes with unsaved changes in an unnamed worksheet: the window stays and asks for the name.
 void RandomUser::CloseUnnamed(unsigned /*a*/, unsigned b) {
-    if (!m_book.IsUnnamed()) {
+    if (!m_model.IsUnnamed()) {
         TypeName(0, 0); // removes the name
-    } else if (m_book.dirty) {
+    } else if (m_model.dirty) {
         CloseAndStart(0, b);
     }
 }

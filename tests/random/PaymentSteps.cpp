@@ -12,8 +12,9 @@ using namespace Qt::StringLiterals;
 /// A visible row whose offer has a payment.
 std::optional<Row> RandomUser::ComputedRow(unsigned number) const {
     std::vector<Row> rows;
-    for (Row row{0}; row.value < static_cast<int>(m_book.offers.size()); ++row.value) {
-        if (m_book.PaymentOf(row.value) > 0 && IsVisible(*Control({FieldId::ActualPayment, row}))) {
+    for (Row row{0}; row.value < static_cast<int>(m_model.offers.size()); ++row.value) {
+        if (m_model.PaymentOf(row.value) > 0 &&
+            IsVisible(*Control({FieldId::ActualPayment, row}))) {
             rows.push_back(row);
         }
     }
@@ -50,9 +51,9 @@ void RandomUser::Intend(unsigned a, unsigned b) {
         return FillOffer(a, b);
     }
     constexpr Plain::Count cent = 100;
-    const Plain::Count cents = Plain::ToCents(m_book.PaymentOf(row->value));
-    const std::array texts{u"0"_s, u"1"_s, m_book.forms.Number(cents),
-                           m_book.forms.Number(cents - cent), m_book.forms.Number(cents + cent)};
+    const Plain::Count cents = Plain::ToCents(m_model.PaymentOf(row->value));
+    const std::array texts{u"0"_s, u"1"_s, m_model.forms.Number(cents),
+                           m_model.forms.Number(cents - cent), m_model.forms.Number(cents + cent)};
     Retype({FieldId::ActualPayment, *row}, texts.at(b % texts.size()));
 }
 
@@ -61,7 +62,7 @@ void RandomUser::ClearIntended(unsigned a, unsigned b) {
     if (!row) {
         return FillOffer(a, b);
     }
-    if (b % 3 == 0 && !m_book.IsTicked(row->value)) {
+    if (b % 3 == 0 && !m_model.IsTicked(row->value)) {
         Tick(static_cast<unsigned>(row->value), 0);
     }
     Retype({FieldId::ActualPayment, *row}, {});
@@ -72,7 +73,7 @@ void RandomUser::EnterAgain(unsigned a, unsigned b) {
     if (!row) {
         return;
     }
-    const auto again = [this](Field field) { Retype(field, u'0' + m_book.EntryText(field)); };
+    const auto again = [this](Field field) { Retype(field, u'0' + m_model.EntryText(field)); };
     switch (b % 5) {
     case 0:
         return PickAgain({FieldId::Frequency, *row});

@@ -1,6 +1,6 @@
 #include "Program.h"
 
-#include "CompiledBook.h"
+#include "CompiledHelp.h"
 #include "Language.h"
 #include "SettingsStore.h"
 #include "StartUp.h"
@@ -19,13 +19,13 @@ constexpr std::uint16_t AmericanEnglish = 0x0409;
 Date FixedDay() { return Date::FromCalendar(2026, 11, 21); }
 
 /// Tests never start the system information.
-SystemInfoDoors NoSystemInfo() {
+SystemInfoInterface NoSystemInfo() {
     return {.installed = [] { return std::optional<QString>(); },
             .start = [](const QString&) { return false; }};
 }
 
-std::shared_ptr<HelpBook> OpenDirectly(const QString& file) {
-    return std::make_shared<CompiledBook>(file);
+std::shared_ptr<HelpCollection> OpenDirectly(const QString& file) {
+    return std::make_shared<CompiledHelp>(file);
 }
 
 } // namespace
@@ -34,7 +34,7 @@ struct Program::Parts {
     Parts(Program& program, const RegistryAPI& store, const QLocale& locale)
         : window({.messages = &program.messages, .locale = locale, .today = FixedDay},
                  LoadSettings(store).settings),
-          files(window, LoanStore(store)), options(window, store, program.pictures),
+          files(window, WorksheetStore(store)), options(window, store, program.pictures),
           printing(window, program.printer,
                    frmPrint::Pace{.shownAtLeast = 0ms,
                                   .yield = [&program] { program.whilePrinting(); }}),

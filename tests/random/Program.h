@@ -6,7 +6,7 @@
 #include "FileCommands.h"
 #include "HelpCommands.h"
 #include "Loan.h"
-#include "MailDoor.h"
+#include "MailInterface.h"
 #include "OptionsCommands.h"
 #include "PictureChooser.h"
 #include "PrintCommands.h"
@@ -26,7 +26,7 @@ public:
 };
 
 /// A mail client that counts its messages.
-class CountingMail : public MailDoor {
+class CountingMail : public MailInterface {
 public:
     int SignOn() override { return signsOn ? 1 : 0; }
     void Send(int /*session*/, const MailMessage& /*message*/) override { ++sent; }

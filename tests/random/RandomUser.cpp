@@ -25,13 +25,13 @@
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-RandomUser::RandomUser(std::size_t country) : m_book(country) {
+RandomUser::RandomUser(std::size_t country) : m_model(country) {
     QGuiApplication::clipboard()->clear();
-    m_program.Start(m_book.forms.Locale());
-    m_book.GrowTo(m_displayed);
+    m_program.Start(m_model.forms.Locale());
+    m_model.GrowTo(m_displayed);
     Settle();
     WatchDay();
-    EnterInBook(FocusField());
+    EnterInModel(FocusField());
 }
 
 RandomUser::~RandomUser() {
@@ -42,7 +42,7 @@ RandomUser::~RandomUser() {
 
 void RandomUser::Take(const Step& step) {
     m_program.messages.Clear();
-    m_book.expected.clear();
+    m_model.expected.clear();
     m_questions.clear();
     complaints.clear();
     (this->*Kinds()[step.kind].act)(step.a, step.b);
@@ -208,8 +208,8 @@ Field RandomUser::AnyInput(unsigned number) const {
     std::vector<FieldId> inputs;
     const bool inRow = number % 3 != 0;
     number /= 3;
-    const auto row = inRow ? Row{static_cast<int>(number % m_book.offers.size())} : Field::NoRow;
-    number = inRow ? number / static_cast<unsigned>(m_book.offers.size()) : number;
+    const auto row = inRow ? Row{static_cast<int>(number % m_model.offers.size())} : Field::NoRow;
+    number = inRow ? number / static_cast<unsigned>(m_model.offers.size()) : number;
     for (const FieldRule& rule : inRow ? OfferFields() : LoanFields()) {
         if (rule.access == Access::Input) {
             inputs.push_back(rule.id);
@@ -221,7 +221,7 @@ Field RandomUser::AnyInput(unsigned number) const {
 // The reference model
 
 bool RandomUser::IsRefused(const View& before) const {
-    return m_edited && RuleOf(m_edited->id).IsTyped() && !m_book.Accepts(*m_edited, before.text);
+    return m_edited && RuleOf(m_edited->id).IsTyped() && !m_model.Accepts(*m_edited, before.text);
 }
 
 bool RandomUser::ClickInto(Field field, const View& before) {
@@ -232,15 +232,15 @@ bool RandomUser::Follow(const View& before) {
     ObserveDay();
     const std::optional<Field> now = FocusField();
     if (IsRefused(before)) {
-        m_book.expected.append(m_book.FailureOf(*m_edited, before.text));
+        m_model.expected.append(m_model.FailureOf(*m_edited, before.text));
         if (now != m_edited) {
             Complain(u"left a field whose text cannot be taken"_s);
         }
         return false;
     }
     if (now != m_edited) {
-        LeaveInBook(before);
-        EnterInBook(now);
+        LeaveInModel(before);
+        EnterInModel(now);
     }
     return true;
 }
@@ -251,56 +251,56 @@ bool RandomUser::Commit(const View& before) {
         return true;
     }
     if (IsRefused(before)) {
-        m_book.expected.append(m_book.FailureOf(*m_edited, before.text));
+        m_model.expected.append(m_model.FailureOf(*m_edited, before.text));
         return false;
     }
-    LeaveInBook(before);
+    LeaveInModel(before);
     Reenter();
     return true;
 }
 
-void RandomUser::LeaveInBook(const View& before) {
+void RandomUser::LeaveInModel(const View& before) {
     if (!m_edited) {
         return;
     }
     const Field field = *m_edited;
     switch (field.id) {
     case FieldId::LoanName:
-        m_book.loan.name = before.text;
-        m_book.nameMissing = m_book.nameMissing && m_book.IsUnnamed();
+        m_model.loan.name = before.text;
+        m_model.nameMissing = m_model.nameMissing && m_model.IsUnnamed();
         break;
     case FieldId::FinancePoints:
-        if (before.ticked || m_book.OfferIn(field.row.value).financed) {
-            m_book.LeaveTick(field.row.value, before.ticked);
+        if (before.ticked || m_model.OfferIn(field.row.value).financed) {
+            m_model.LeaveTick(field.row.value, before.ticked);
         }
         break;
     case FieldId::NextPayment:
-        if (const QDate day = m_book.forms.ReadDay(before.text, Today.year());
-            day != m_book.current.next) {
-            m_book.StoreDay(day);
+        if (const QDate day = m_model.forms.ReadDay(before.text, Today.year());
+            day != m_model.current.next) {
+            m_model.StoreDay(day);
         }
         break;
     case FieldId::Who:
         if (before.modified) {
-            m_book.Drop(field, before.text);
+            m_model.Drop(field, before.text);
         }
         break;
     default:
         if (RuleOf(field.id).kind == ValueKind::Choice) {
-            m_book.LeaveChoice(field, before.text);
+            m_model.LeaveChoice(field, before.text);
         } else {
-            m_book.Leave(field, before.text);
+            m_model.Leave(field, before.text);
         }
     }
 }
 
-void RandomUser::EnterInBook(std::optional<Field> field) {
+void RandomUser::EnterInModel(std::optional<Field> field) {
     m_edited = field;
     if (field && field->row != Field::NoRow) {
-        m_book.EnterRow(field->row.value);
+        m_model.EnterRow(field->row.value);
     }
     if (field && RuleOf(field->id).IsNumber()) {
-        m_text = m_book.EntryText(*field);
+        m_text = m_model.EntryText(*field);
     }
 }
 
@@ -310,12 +310,12 @@ void RandomUser::Refocus(Field field) {
     }
     View shown;
     if (m_edited) {
-        shown.text = RuleOf(m_edited->id).IsNumber() ? m_text : m_book.Shown(*m_edited);
+        shown.text = RuleOf(m_edited->id).IsNumber() ? m_text : m_model.Shown(*m_edited);
         shown.ticked =
-            m_edited->id == FieldId::FinancePoints && m_book.IsTicked(m_edited->row.value);
-        LeaveInBook(shown);
+            m_edited->id == FieldId::FinancePoints && m_model.IsTicked(m_edited->row.value);
+        LeaveInModel(shown);
     }
-    EnterInBook(field);
+    EnterInModel(field);
 }
 
 /// A day chosen with the arrow keys is stored at once.
@@ -327,10 +327,10 @@ void RandomUser::WatchDay() {
 
 void RandomUser::ObserveDay() {
     for (const QDate day : std::exchange(m_days, {})) {
-        m_book.StoreDay(day);
+        m_model.StoreDay(day);
     }
 }
 
 QString RandomUser::WithName(int question) const {
-    return GetResourceText(question) + m_book.loan.name + GetResourceText(TextNumber::NameEnd);
+    return GetResourceText(question) + m_model.loan.name + GetResourceText(TextNumber::NameEnd);
 }

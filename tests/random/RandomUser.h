@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Book.h"
 #include "Program.h"
+#include "ReferenceModel.h"
 
 #include <QPointer>
 #include <QStringList>
@@ -33,7 +33,7 @@ public:
     void Take(const Step& step);
 
     // Interface for the checks.
-    const Book& TheBook() const { return m_book; }
+    const ReferenceModel& Model() const { return m_model; }
     Program& TheProgram() { return m_program; }
     QWidget* Control(Field field) const;
     std::optional<Field> Edited() const { return m_edited; }
@@ -136,9 +136,9 @@ private:
     bool ClickInto(Field field, const View& before);
     /// The first part of every menu command. False if the field is refused.
     bool Commit(const View& before);
-    void LeaveInBook(const View& before);
-    void EnterInBook(std::optional<Field> field);
-    void Reenter() { EnterInBook(m_edited); }
+    void LeaveInModel(const View& before);
+    void EnterInModel(std::optional<Field> field);
+    void Reenter() { EnterInModel(m_edited); }
     /// The program moves the focus there after the fields show the contents of the reference model.
     void Refocus(Field field);
     void WatchDay();
@@ -147,12 +147,12 @@ private:
     QString WithName(int question) const;
     Answer PrepareAnswer(unsigned number, bool mayCancel);
     bool MayDrop(Answer answer);
-    bool SaveInBook();
-    void PickInBook(const QString& name, Answer answer);
+    bool SaveInModel();
+    void PickInModel(const QString& name, Answer answer);
     void Complain(const QString& complaint) { complaints.append(complaint); }
 
     Program m_program;
-    Book m_book;
+    ReferenceModel m_model;
     std::optional<Field> m_edited;
     QString m_text;
     QStringList m_questions;

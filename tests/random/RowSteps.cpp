@@ -25,27 +25,27 @@
 using namespace Qt::StringLiterals;
 
 void RandomUser::Tick(unsigned a, unsigned /*b*/) {
-    const Field field{FieldId::FinancePoints, Row{static_cast<int>(a % m_book.offers.size())}};
+    const Field field{FieldId::FinancePoints, Row{static_cast<int>(a % m_model.offers.size())}};
     const View before = Look();
     if (!ClickInto(field, before)) {
         return;
     }
-    m_book.StoreTick(field.row.value, !m_book.IsTicked(field.row.value));
+    m_model.StoreTick(field.row.value, !m_model.IsTicked(field.row.value));
 }
 
 /// Drops a value of another row, or any text from another program.
 void RandomUser::Drop(unsigned a, unsigned b) {
     static constexpr std::array dragged{FieldId::Points, FieldId::InterestRate,
                                         FieldId::ActualPayment, FieldId::Who};
-    const auto rows = static_cast<unsigned>(m_book.offers.size());
+    const auto rows = static_cast<unsigned>(m_model.offers.size());
     const Field target{dragged.at(a % dragged.size()),
                        Row{static_cast<int>(a / dragged.size() % rows)}};
     if (!IsVisible(*Control(target))) {
         return;
     }
     const Field source{target.id, Row{static_cast<int>(b / 2 % rows)}};
-    const QString text = b % 2 == 0 ? AnyText(b / 2, m_book.forms.Point())
-                                    : CopiedText(source, m_book.OfferIn(source.row.value).who);
+    const QString text = b % 2 == 0 ? AnyText(b / 2, m_model.forms.Point())
+                                    : CopiedText(source, m_model.OfferIn(source.row.value).who);
     const View before = Look();
     QMimeData data;
     data.setText(text);
@@ -58,7 +58,7 @@ void RandomUser::Drop(unsigned a, unsigned b) {
     send(enter);
     QDragMoveEvent move(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     send(move);
-    const bool may = data.hasText() && m_book.MayDrop(target.id, text);
+    const bool may = data.hasText() && m_model.MayDrop(target.id, text);
     if (move.isAccepted() != may) {
         Complain(u"a drop of “%1” is %2"_s.arg(text, may ? u"refused"_s : u"taken"_s));
     }
@@ -81,9 +81,9 @@ void RandomUser::Sort(unsigned a, unsigned /*b*/) {
         return;
     }
     if (byPayoff) {
-        m_book.SortByPayoff();
+        m_model.SortByPayoff();
     } else {
-        m_book.SortByInterest();
+        m_model.SortByInterest();
     }
 }
 
@@ -125,7 +125,7 @@ void RandomUser::ClickBar(unsigned a, unsigned b) {
 /// Opens a lender's dialog by its key or a double click. It may paste another text, and then
 /// accepts or cancels.
 void RandomUser::OpenLender(unsigned a, unsigned b) {
-    const Field field{FieldId::Who, Row{static_cast<int>(a % m_book.offers.size())}};
+    const Field field{FieldId::Who, Row{static_cast<int>(a % m_model.offers.size())}};
     View before = Look();
     if (!ClickInto(field, before)) {
         return;
@@ -147,7 +147,7 @@ void RandomUser::OpenLender(unsigned a, unsigned b) {
             auto* lines = dialog.findChild<QPlainTextEdit*>();
             const QString loaded = lines->document()->toRawText();
             if (b % 3 != 0) {
-                QGuiApplication::clipboard()->setText(AnyText(b / 3, m_book.forms.Point()));
+                QGuiApplication::clipboard()->setText(AnyText(b / 3, m_model.forms.Point()));
                 QTest::keyClick(dialog.windowHandle(), Qt::Key_A, Qt::ControlModifier);
                 QTest::keyClick(dialog.windowHandle(), Qt::Key_V, Qt::ControlModifier);
             }
@@ -159,7 +159,7 @@ void RandomUser::OpenLender(unsigned a, unsigned b) {
             QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
             if (entered != loaded) {
                 entered.replace(QChar::ParagraphSeparator, u"\r\n"_s);
-                m_book.StoreWho(field.row.value, entered);
+                m_model.StoreWho(field.row.value, entered);
             }
         });
 }
@@ -167,7 +167,7 @@ void RandomUser::OpenLender(unsigned a, unsigned b) {
 /// A timer shows the notice of raised payments; only this step lets it expire.
 void RandomUser::LetSecondPass(unsigned /*a*/, unsigned /*b*/) {
     auto* timer = Window().findChild<QTimer*>(u"Timer1"_s);
-    if (timer->isActive() != m_book.noticeComes) {
+    if (timer->isActive() != m_model.noticeComes) {
         Complain(u"the notice of a raised payment is %1"_s.arg(
             timer->isActive() ? u"on its way for nothing"_s : u"not on its way"_s));
     }
@@ -175,5 +175,5 @@ void RandomUser::LetSecondPass(unsigned /*a*/, unsigned /*b*/) {
         QTimerEvent event(timer->timerId());
         QCoreApplication::sendEvent(timer, &event);
     }
-    m_book.NoticeIsDue();
+    m_model.NoticeIsDue();
 }

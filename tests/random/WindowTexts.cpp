@@ -78,13 +78,14 @@ bool MayBeAway(const QString& name) {
 
 WindowTexts::WindowTexts() : m_tables{ReadTable("000"), ReadTable("40a")} {}
 
-QStringList WindowTexts::Complaints(const QWidget& window, const Book& book, bool thorough) {
-    const bool same = m_window == &window && m_spanish == book.spanish &&
-                      m_inMonths == book.inMonths && m_rows == book.offers.size();
+QStringList WindowTexts::Complaints(const QWidget& window, const ReferenceModel& model,
+                                    bool thorough) {
+    const bool same = m_window == &window && m_spanish == model.spanish &&
+                      m_inMonths == model.inMonths && m_rows == model.offers.size();
     if (!same) {
-        ListAll(window, book);
+        ListAll(window, model);
     }
-    QStringList complaints = m_unaccounted + ComplaintsOfSorting(book.sorted);
+    QStringList complaints = m_unaccounted + ComplaintsOfSorting(model.sorted);
     const auto compare = [&](const Seen& seen) {
         const QString shown = seen.read(*seen.object);
         if (shown != seen.text && !(shown.isEmpty() && seen.mayBeAway)) {
@@ -108,11 +109,11 @@ const QObject& WindowTexts::Named(const QString& name) const {
     return *object;
 }
 
-void WindowTexts::ListAll(const QWidget& window, const Book& book) {
+void WindowTexts::ListAll(const QWidget& window, const ReferenceModel& model) {
     m_window = &window;
-    m_spanish = book.spanish;
-    m_inMonths = book.inMonths;
-    m_rows = book.offers.size();
+    m_spanish = model.spanish;
+    m_inMonths = model.inMonths;
+    m_rows = model.offers.size();
     m_objects.clear();
     m_written.clear();
     m_told.clear();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Book.h"
+#include "ReferenceModel.h"
 
 #include <QHash>
 #include <QPointer>
@@ -19,7 +19,7 @@ public:
 
     /// Lists wrong texts, and controls with an unexpected text. Tooltips, accessible texts and list
     /// entries take time: they are checked only if `thorough`, or after a possible change.
-    QStringList Complaints(const QWidget& window, const Book& book, bool thorough);
+    QStringList Complaints(const QWidget& window, const ReferenceModel& model, bool thorough);
 
 private:
     using Read = QString (*)(const QObject& object);
@@ -35,7 +35,7 @@ private:
 
     QString Text(int number) const { return m_tables.at(m_spanish ? 1 : 0).value(number); }
     const QObject& Named(const QString& name) const;
-    void ListAll(const QWidget& window, const Book& book);
+    void ListAll(const QWidget& window, const ReferenceModel& model);
     void ListLoan(const QWidget& window);
     void ListRow(int row);
     void ListUnaccounted(const QWidget& window);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Messages.h"
+#include "MessageQueue.h"
 
 #include <QString>
 #include <QStringList>
@@ -13,7 +13,7 @@
 /// Test double for the message boxes: records each text and returns at once. `whileOpen` does what
 /// a user does while a box is open. Questions are answered from a queue; when it is empty, by
 /// Cancel (or No, if there is no Cancel).
-class FakeMessages : public MessageDoor {
+class FakeMessages : public MessageInterface {
 public:
     void Show(const QString& text) override {
         m_texts.append(text);

@@ -47,12 +47,12 @@ private:
 
 /// An external interface: its name, its corpus, and one try, which fails or throws if an input
 /// breaks the contract. A try that hangs ends the program.
-class FuzzDoor {
+class FuzzTarget {
 public:
     using Try = std::function<void(const std::string& input)>;
     using Make = std::function<std::string(FuzzRandom& random)>;
 
-    FuzzDoor(std::string name, Try tryOne) : m_name(std::move(name)), m_try(std::move(tryOne)) {
+    FuzzTarget(std::string name, Try tryOne) : m_name(std::move(name)), m_try(std::move(tryOne)) {
         const std::filesystem::path folder(QUEND_TEST_DATA "/" + m_name + "-corpus");
         std::vector<std::filesystem::path> files;
         if (std::filesystem::exists(folder)) {

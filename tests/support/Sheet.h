@@ -7,7 +7,7 @@
 struct Sheet {
     explicit Sheet(const QLocale& locale = QLocale(QLocale::English, QLocale::UnitedStates),
                    int rows = 6)
-        : worksheet(display, FieldTexts(DisplayFormats(locale), false),
+        : worksheet(display, FieldFormats(DisplayFormats(locale), false),
                     [] { return Date::FromCalendar(2026, 11, 21); }) {
         worksheet.GrowOfferArrays(Row{-1}, Row{rows - 1});
         worksheet.SetCurrentNextPayment(worksheet.Today());

@@ -2,7 +2,7 @@
 
 #include "FakeMessages.h"
 #include "Loan.h"
-#include "UserHands.h"
+#include "UserInput.h"
 
 #include <QLocale>
 #include <QPoint>
@@ -38,7 +38,7 @@ struct Start {
     bool termInMonths = false;
     int loansDisplayed = 5; ///< the index of the last row that shows without scrolling
     QString wallpaper = {};
-    MessageDoor* messages = nullptr; ///< null: the fixture's own double, which shows nothing
+    MessageInterface* messages = nullptr; ///< null: the fixture's own double, which shows nothing
     /// The notice of a raised payment appears a second later, which is unpredictable on a slow
     /// machine. It waits until HurryTimer.
     bool noticeWaits = true;
@@ -46,7 +46,7 @@ struct Start {
 
 /// The main window as shown to a user: visible and active, on 21 November 2026, in a fixed locale
 /// and language.
-class WindowTest : public ::testing::Test, protected UserHands {
+class WindowTest : public ::testing::Test, protected UserInput {
 protected:
     WindowTest();
     ~WindowTest() override;
@@ -64,7 +64,7 @@ protected:
     const Worksheet& Sheet() const { return m_window->GetWorksheet(); }
     /// The worksheet, for values that a user cannot type but a saved worksheet can hold.
     Worksheet& SheetToWrite() { return m_window->GetWorksheet(); }
-    FakeMessages& Door() { return m_messages; }
+    FakeMessages& Messages() { return m_messages; }
 
     QLineEdit& Edit(QStringView name) const;
     QComboBox& List(QStringView name) const;

@@ -265,7 +265,7 @@ TEST_F(Surroundings, AtRandomAreTaken) {
                                "QT_LOGGING_RULES"};
     constexpr std::array Pieces{"en", "_US",        "es",       "MX", ".UTF-8", "@euro", "de_DE",
                                 "C",  "zh_Hant_TW", "sr@latin", ":",  "/",      ";"};
-    const FuzzDoor door("surroundings", [&](const std::string& input) {
+    const FuzzTarget target("surroundings", [&](const std::string& input) {
         std::vector<Variable> variables;
         for (const QByteArray& line : QByteArray::fromStdString(input).split('\n')) {
             const qsizetype sign = line.indexOf('=');
@@ -279,7 +279,7 @@ TEST_F(Surroundings, AtRandomAreTaken) {
         }
         ExpectStarts(Start(variables));
     });
-    door.TryAtRandom([&](FuzzRandom& random) {
+    target.TryAtRandom([&](FuzzRandom& random) {
         std::string lines;
         for (std::size_t count = 1 + random.Below(4); count > 0; --count) {
             lines += std::string(random.AnyOf(Names)) + '=' +

@@ -8,7 +8,7 @@
 #include <QString>
 
 /// Formats values for display and reads typed numbers, both by the user's locale. Does not know
-/// that zero shows as an empty field; FieldTexts does that.
+/// that zero shows as an empty field; FieldFormats does that.
 class DisplayFormats {
 public:
     explicit DisplayFormats(const QLocale& locale);

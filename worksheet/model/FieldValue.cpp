@@ -26,7 +26,7 @@ bool IsZero(const FieldNumber& number) {
                       number);
 }
 
-QString FieldTexts::EntryText(ValueKind kind, const FieldNumber& number) const {
+QString FieldFormats::EntryText(ValueKind kind, const FieldNumber& number) const {
     if (IsZero(number)) {
         return {};
     }
@@ -40,7 +40,7 @@ QString FieldTexts::EntryText(ValueKind kind, const FieldNumber& number) const {
     return m_formats.GeneralNumber(kind == ValueKind::Percent ? value * 100 : value);
 }
 
-QString FieldTexts::DisplayText(ValueKind kind, const FieldNumber& number) const {
+QString FieldFormats::DisplayText(ValueKind kind, const FieldNumber& number) const {
     if (IsZero(number)) {
         return {};
     }
@@ -56,7 +56,7 @@ QString FieldTexts::DisplayText(ValueKind kind, const FieldNumber& number) const
     }
 }
 
-FieldNumber FieldTexts::Read(ValueKind kind, const QString& text) const {
+FieldNumber FieldFormats::Read(ValueKind kind, const QString& text) const {
     switch (kind) {
     case ValueKind::Amount:
         return text.isEmpty() ? Money() : m_formats.ReadAmount(text);
@@ -69,7 +69,7 @@ FieldNumber FieldTexts::Read(ValueKind kind, const QString& text) const {
     }
 }
 
-Months FieldTexts::ReadTerm(ValueKind kind, const QString& text) const {
+Months FieldFormats::ReadTerm(ValueKind kind, const QString& text) const {
     const double value = m_formats.ReadReal(text);
     if (m_termInMonths) {
         return WholeMonths(RoundedHalfToEven(value));

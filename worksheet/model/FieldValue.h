@@ -19,9 +19,9 @@ using FieldNumber = std::variant<Money, double, Months>;
 bool IsZero(const FieldNumber& number);
 
 /// Converts between the numbers of the fields and their texts. Zero is the empty text, both ways.
-class FieldTexts {
+class FieldFormats {
 public:
-    FieldTexts(DisplayFormats formats, bool termInMonths)
+    FieldFormats(DisplayFormats formats, bool termInMonths)
         : m_formats(std::move(formats)), m_termInMonths(termInMonths) {}
 
     const DisplayFormats& Formats() const { return m_formats; }

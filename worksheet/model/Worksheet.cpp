@@ -5,7 +5,7 @@
 
 #include <utility>
 
-Worksheet::Worksheet(WorksheetDisplay& display, FieldTexts texts, std::function<Date()> today)
+Worksheet::Worksheet(WorksheetDisplay& display, FieldFormats texts, std::function<Date()> today)
     : m_display(&display), m_texts(std::move(texts)), m_today(std::move(today)) {}
 
 // A name alone does not make a worksheet worth saving, so it does not set Dirty.

@@ -22,7 +22,7 @@
 /// Has no widgets, asks the user nothing, and stores nothing permanently.
 class Worksheet final : public LoanContext {
 public:
-    Worksheet(WorksheetDisplay& display, FieldTexts texts, std::function<Date()> today);
+    Worksheet(WorksheetDisplay& display, FieldFormats texts, std::function<Date()> today);
     // The offers hold a pointer to their worksheet.
     Worksheet(const Worksheet&) = delete;
     Worksheet& operator=(const Worksheet&) = delete;
@@ -106,7 +106,7 @@ public:
     void SetTermInMonths(bool inMonths);
 
     // For the fields: one way in and out for every value that is typed, picked or ticked.
-    const FieldTexts& Texts() const { return m_texts; }
+    const FieldFormats& Texts() const { return m_texts; }
     QString EntryText(Field field) const;
     /// Whether a text has the form of the field's number and has a value; a lone sign has none.
     /// Throws OverflowFailure for a number that the field cannot hold.
@@ -219,7 +219,7 @@ private:
     void ShowLoan() const;
 
     WorksheetDisplay* m_display;
-    FieldTexts m_texts;
+    FieldFormats m_texts;
     std::function<Date()> m_today;
     Loan m_loan;
     CurrentLoan m_current;

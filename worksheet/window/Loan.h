@@ -4,21 +4,21 @@
 #include "DragHandlers.h"
 #include "DragScroll.h"
 #include "FailureReport.h"
+#include "FieldBehaviour.h"
 #include "FieldClipboard.h"
-#include "FieldDiscipline.h"
 #include "FieldHandlers.h"
 #include "FocusTranslator.h"
 #include "LanguageMenu.h"
-#include "Messages.h"
+#include "MessageQueue.h"
 #include "OfferColumns.h"
 #include "OfferCommands.h"
 #include "OfferDragging.h"
 #include "OfferRows.h"
 #include "PaymentNotice.h"
+#include "QtTexts.h"
 #include "ResultKeys.h"
 #include "Settings.h"
-#include "ToolkitTexts.h"
-#include "ValueExchange.h"
+#include "ValueTransfer.h"
 #include "Wallpaper.h"
 #include "WholeText.h"
 #include "WindowDisplay.h"
@@ -42,7 +42,7 @@ class Loan : public QMainWindow {
 public:
     /// The outside world, injected.
     struct World {
-        MessageDoor* messages;
+        MessageInterface* messages;
         QLocale locale;
         std::function<Date()> today;
     };
@@ -57,7 +57,7 @@ public:
     const Ui::Loan& Form() const { return *m_ui; }
     Worksheet& GetWorksheet() { return m_worksheet; }
     OfferRows& Rows() { return m_rows; }
-    Messages& GetMessages() { return m_messages; }
+    MessageQueue& GetMessages() { return m_messages; }
     const FailureReport& Report() const { return m_report; }
     /// Stores the field being edited, which stays in entry form. False if it is refused: the user
     /// has been told, and the command must stop.
@@ -107,7 +107,7 @@ private:
     Settings m_settings;
     std::function<bool()> m_mayClose;
     std::unique_ptr<Ui::Loan> m_ui;
-    Messages m_messages;
+    MessageQueue m_messages;
     FailureReport m_report;
     ControlMap m_controls;
     WindowDisplay m_display;
@@ -115,16 +115,16 @@ private:
     OfferColumns m_columns;
     OfferRows m_rows;
     PaymentNotice m_notice;
-    FieldDiscipline m_discipline;
+    FieldBehaviour m_discipline;
     FieldHandlers m_handlers;
     FocusTranslator m_focus;
     OfferCommands m_offers;
-    ValueExchange m_values;
+    ValueTransfer m_values;
     DragHandlers m_dragHandlers;
     DragScroll m_dragScroll;
     OfferDragging m_dragging;
     FieldClipboard m_clipboard;
-    ToolkitTexts m_toolkitTexts;
+    QtTexts m_toolkitTexts;
     LanguageMenu m_languages;
     Wallpaper m_wallpaper;
     ResultKeys m_resultKeys;

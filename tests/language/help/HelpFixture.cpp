@@ -1,6 +1,6 @@
 #include "HelpFixture.h"
 
-#include "CompiledBook.h"
+#include "CompiledHelp.h"
 #include "HelpView.h"
 #include "Language.h"
 
@@ -13,7 +13,7 @@ void HelpTest::OpenWithHelp(const Start& start) {
     m_commands.reset();
     Open(start);
     m_commands = std::make_unique<HelpCommands>(
-        Window(), [](const QString& file) { return std::make_shared<CompiledBook>(file); });
+        Window(), [](const QString& file) { return std::make_shared<CompiledHelp>(file); });
 }
 
 void HelpTest::OpenBesides(const QString& folder, const Start& start) {

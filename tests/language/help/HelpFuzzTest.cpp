@@ -1,10 +1,10 @@
 // Help files with arbitrary contents. A file that opens has pages and answers every query. One that
 // does not open is a failure with a message.
 
-#include "CompiledBook.h"
+#include "CompiledHelp.h"
 #include "Failure.h"
 #include "Fuzzing.h"
-#include "QuietToolkit.h"
+#include "QuietQt.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -22,7 +22,7 @@ std::string Whole(const QString& path) {
 class HelpFuzz : public testing::Test {
 protected:
     void Try(const std::string& bytes) {
-        const QuietToolkit quiet;
+        const QuietQt quiet;
         const QString path = m_folder.filePath(QStringLiteral("loan000.hlp"));
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -37,15 +37,15 @@ protected:
 
 private:
     static void Use(const QString& path) {
-        const CompiledBook book(path);
-        EXPECT_FALSE(book.Data(book.FirstPage()).isEmpty());
+        const CompiledHelp content(path);
+        EXPECT_FALSE(content.Data(content.FirstPage()).isEmpty());
         for (const int topic : {0, 1003, 1052, 99'999}) {
-            book.TopicText(topic);
-            const QUrl page = book.PageOfTopic(topic);
+            content.TopicText(topic);
+            const QUrl page = content.PageOfTopic(topic);
             EXPECT_TRUE(page.isEmpty() || page.scheme() == QLatin1String("qthelp"));
         }
-        book.Has(book.PageOfKeyword(QStringLiteral("points")));
-        book.Has(book.Page(QStringLiteral("../../../etc/passwd")));
+        content.Has(content.PageOfKeyword(QStringLiteral("points")));
+        content.Has(content.Page(QStringLiteral("../../../etc/passwd")));
     }
 
     QTemporaryDir m_folder;
@@ -53,8 +53,8 @@ private:
 
 TEST_F(HelpFuzz, ADamagedBookOpensWithItsPagesOrTellsWhy) {
     const std::string sound = Whole(QStringLiteral(QUEND_PROGRAM_DIR "/loan000.hlp"));
-    const FuzzDoor door("help", [this](const std::string& input) { Try(input); });
-    door.TryAtRandom([&](FuzzRandom& random) {
+    const FuzzTarget target("help", [this](const std::string& input) { Try(input); });
+    target.TryAtRandom([&](FuzzRandom& random) {
         std::string bytes = sound;
         // Damages the beginning of pages of the file, which describes what they contain.
         for (std::size_t count = 1 + random.Below(8); count > 0; --count) {
@@ -72,9 +72,9 @@ TEST_F(HelpFuzz, OtherFilesAreNoBooks) {
           QStringLiteral(QUEND_TEST_DATA "/store-corpus/whole.store"), QString(5'000, u'x'),
           QString()}) {
         SCOPED_TRACE(path.left(80).toStdString());
-        const QuietToolkit quiet;
+        const QuietQt quiet;
         alarm(20);
-        EXPECT_THROW(CompiledBook{path}, Failure);
+        EXPECT_THROW(CompiledHelp{path}, Failure);
     }
     alarm(0);
 }

@@ -323,14 +323,14 @@ TEST_F(HelpMissing, IsToldInItsOwnWordsAndChangesNothing) {
     OpenBesides(folder.path());
     Fill(u"txtLoanAmount", u"1000");
     for (const char* entry : {"mnuHelpContents", "mnuHelpSearch"}) {
-        Door().Clear();
+        Messages().Clear();
         Entry(QString::fromLatin1(entry)).trigger();
         ASSERT_EQ(SettledMessages().size(), 1) << entry;
-        EXPECT_TRUE(Door().Texts().front().contains(folder.path()));
-        EXPECT_FALSE(Door().Texts().front().contains(u"errn="));
+        EXPECT_TRUE(Messages().Texts().front().contains(folder.path()));
+        EXPECT_FALSE(Messages().Texts().front().contains(u"errn="));
         EXPECT_FALSE(HelpShows());
     }
-    Door().Clear();
+    Messages().Clear();
     Press(Qt::Key_F1);
     EXPECT_EQ(SettledMessages().size(), 1);
     EXPECT_EQ(Text(u"txtLoanAmount"), u"$1,000.00");

@@ -408,13 +408,13 @@ TEST_F(RegistryAPITest, ValuesChangeTheirTypeWithWhatIsWritten) {
 }
 
 TEST_F(RegistryAPITest, AStepReadsWhatItWrites) {
-    registry.InOneStep([](const RegistryAPI& step) {
+    registry.InTransaction([](const RegistryAPI& step) {
         EXPECT_FALSE(step.CreateKey(User, BaseKey + "\\Loan"));
         step.SetValue(User, BaseKey + "\\Loan", "Name", RegistryType::Text, "value");
         EXPECT_EQ(step.GetValue(User, BaseKey + "\\Loan", "Name", RegistryType::Text, ""),
                   RegistryValue("value"));
     });
-    registry.ReadInOneStep([](const RegistryAPI& step) {
+    registry.ReadInTransaction([](const RegistryAPI& step) {
         EXPECT_EQ(step.GetValue(User, BaseKey + "\\Loan", "Name", RegistryType::Text, ""),
                   RegistryValue("value"));
         EXPECT_EQ(step.GetSubKeys(User, BaseKey), std::vector<std::string>{"Loan"});

@@ -1,12 +1,12 @@
 // Any text in any field, typed, pasted or dropped, in any locale, is either a number that shows and
 // reads back the same, or refused.
 
-#include "DraggedValue.h"
 #include "Failure.h"
 #include "Fuzzing.h"
 #include "HostileTexts.h"
 #include "IsValidNumber.h"
 #include "Sheet.h"
+#include "TransferRules.h"
 
 #include <QRegularExpression>
 
@@ -63,7 +63,7 @@ bool IsFinite(const FieldNumber& number) {
 }
 
 /// Checks what reading and showing guarantee for one number.
-void ExpectShowsAndReadsTheSame(const FieldTexts& texts, ValueKind kind,
+void ExpectShowsAndReadsTheSame(const FieldFormats& texts, ValueKind kind,
                                 const FieldNumber& number) {
     ASSERT_TRUE(IsFinite(number));
     const QString entry = texts.EntryText(kind, number);
@@ -78,7 +78,7 @@ void ExpectShowsAndReadsTheSame(const FieldTexts& texts, ValueKind kind,
 
 void EnterInto(Sheet& sheet, Field field, const QString& text) {
     const FieldRule& rule = RuleOf(field.id);
-    const FieldTexts& texts = sheet.worksheet.Texts();
+    const FieldFormats& texts = sheet.worksheet.Texts();
     const bool form = HasForm(text, rule.decimals, texts.Formats().DecimalSeparator());
     EXPECT_EQ(IsValidNumber(text, rule.decimals, texts.Formats().DecimalSeparator()), form);
     const QString before = sheet.worksheet.EntryText(field);
@@ -149,7 +149,7 @@ TEST(TextFuzz, TheCorpusKeepsThePromisesHoweverNumbersAreWritten) {
     ASSERT_GT(EveryLocale().size(), 500U);
     const std::vector<QLocale> locales = EveryHabit();
     EXPECT_GT(locales.size(), 10U);
-    FuzzDoor("text", [&](const std::string& input) {
+    FuzzTarget("text", [&](const std::string& input) {
         for (const QLocale& locale : locales) {
             TryIn(locale, TextOf(input));
         }
@@ -157,12 +157,12 @@ TEST(TextFuzz, TheCorpusKeepsThePromisesHoweverNumbersAreWritten) {
 }
 
 TEST(TextFuzz, AnyTextKeepsThePromises) {
-    const FuzzDoor door("text", [](const std::string& input) {
+    const FuzzTarget target("text", [](const std::string& input) {
         TryIn(EveryLocale().at(std::hash<std::string>()(input) % EveryLocale().size()),
               TextOf(input));
     });
-    door.TryAtRandom([&](FuzzRandom& random) {
-        return random.OneIn(4) ? Damaged(random, random.AnyOf(door.Corpus()))
+    target.TryAtRandom([&](FuzzRandom& random) {
+        return random.OneIn(4) ? Damaged(random, random.AnyOf(target.Corpus()))
                                : Patched(random, HostilePieces);
     });
 }

@@ -146,7 +146,7 @@ TEST_F(WorksheetFieldsTest, AcceptsTheFormOfEachField) {
 
 TEST_F(WorksheetFieldsTest, TermsAreYearsWhereTheUserWantsYears) {
     RecordingDisplay display;
-    Worksheet sheet(display, FieldTexts(DisplayFormats(QLocale(u"de_DE"_s)), false),
+    Worksheet sheet(display, FieldFormats(DisplayFormats(QLocale(u"de_DE"_s)), false),
                     [] { return Date(); });
     sheet.GrowOfferArrays(sheet.HighestOfferRow(), Row{0});
     const Field offer{FieldId::Term, Row{0}};

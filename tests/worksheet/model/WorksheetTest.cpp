@@ -23,7 +23,7 @@ std::vector<Field> Sorted(std::initializer_list<std::vector<Field>> lists) {
 }
 
 WorksheetTest::WorksheetTest()
-    : m_worksheet(m_display, FieldTexts(DisplayFormats(QLocale(u"en_US"_s)), true), [this] {
+    : m_worksheet(m_display, FieldFormats(DisplayFormats(QLocale(u"en_US"_s)), true), [this] {
           ++m_offerSchedules;
           return Date::FromCalendar(2026, 3, 10);
       }) {

@@ -59,10 +59,10 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Forms, DesignTexts, ::testing::Values("Loan.ui", "OfferRow.ui"),
-                         [](const auto& form) {
-                             return QString::fromLatin1(form.param).remove(u'.').toStdString();
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Forms, DesignTexts, ::testing::Values("Loan.ui", "offers/OfferRow.ui"), [](const auto& form) {
+        return QString::fromLatin1(form.param).remove(u'.').replace(u'/', u'_').toStdString();
+    });
 
 TEST_P(DesignTexts, AreTheEnglishCaptions) {
     for (const Drawn& object : ObjectsOf(GetParam())) {

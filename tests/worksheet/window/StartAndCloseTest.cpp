@@ -90,11 +90,11 @@ TEST_F(Closing, ByTheKeysOfTheMenu) {
 
 TEST_F(Closing, WhatStillWaitsIsShownOnce) {
     Open();
-    Door().WhileOpen([] { Settle(); }); // an open box processes other events
+    Messages().WhileOpen([] { Settle(); }); // an open box processes other events
     Window().GetMessages().Post(u"one"_s);
     Window().GetMessages().Post(u"two"_s);
     Window().GetMessages().ShowRest();
-    EXPECT_EQ(Door().Texts(), (QStringList{u"one"_s, u"two"_s}));
+    EXPECT_EQ(Messages().Texts(), (QStringList{u"one"_s, u"two"_s}));
     EXPECT_EQ(SettledMessages().size(), 2);
     EXPECT_FALSE(Window().GetMessages().Waiting());
 }

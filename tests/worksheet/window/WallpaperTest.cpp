@@ -117,7 +117,7 @@ TEST_F(WallpaperOfTheWindow, ThatCannotBeLoadedIsToldOnceAndForgotten) {
     Write(u"truncated.bmp"_s, whole.left(20));
     for (const QString& file :
          {u"missing.bmp"_s, u"empty.bmp"_s, u"garbage.bmp"_s, u"truncated.bmp"_s, u"."_s}) {
-        Door().Clear();
+        Messages().Clear();
         Open({.wallpaper = PathOf(file)});
         EXPECT_EQ(SettledMessages(),
                   QStringList(u"This background picture could not be loaded: "_s + PathOf(file)));

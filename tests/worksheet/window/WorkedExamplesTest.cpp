@@ -124,7 +124,7 @@ TEST_P(WorkedExamples, LoanHeldToday) {
     EXPECT_EQ(Text(u"txtCurPayoffDate"), ByCountry(u"1/1/2027", u"01.01.2027", u"1/1/2027"));
     EXPECT_EQ(Text(u"txtCurInterestLeft"), Money(u"284.79"));
     EXPECT_EQ(Text(u"txtCurAmountLeft"), Money(u"10,284.79"));
-    EXPECT_TRUE(SettledMessages().isEmpty()) << Door().Texts().join(u'\n').toStdString();
+    EXPECT_TRUE(SettledMessages().isEmpty()) << Messages().Texts().join(u'\n').toStdString();
 }
 
 TEST_P(WorkedExamples, DecimalsAreTypedWithTheSymbolOfTheCountry) {

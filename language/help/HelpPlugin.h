@@ -1,0 +1,27 @@
+#pragma once
+
+#include "HelpCollection.h"
+
+#include <QtPlugin>
+
+/// The plugin that reads help files.
+class HelpPlugin {
+public:
+    HelpPlugin() = default;
+    HelpPlugin(const HelpPlugin&) = delete;
+    HelpPlugin& operator=(const HelpPlugin&) = delete;
+    HelpPlugin(HelpPlugin&&) = delete;
+    HelpPlugin& operator=(HelpPlugin&&) = delete;
+    virtual ~HelpPlugin() = default;
+
+    /// Throws Failure like a HelpOpener.
+    virtual std::shared_ptr<HelpCollection> Open(const QString& file) const = 0;
+};
+
+// A macro, because moc reads it.
+#define HelpPlugin_iid "quend.loan.HelpPlugin/1"
+Q_DECLARE_INTERFACE(HelpPlugin, HelpPlugin_iid)
+
+/// A HelpOpener that loads the plugin when the first collection is opened. Throws ComponentFailure
+/// if the plugin is missing.
+std::shared_ptr<HelpCollection> OpenByPlugin(const QString& file);

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "PrintedPage.h"
+
+#include <QSizeF>
+#include <QString>
+
+#include <functional>
+#include <optional>
+#include <stop_token>
+
+class QWidget;
+
+/// Why nothing can be printed or was printed.
+enum class PrintFault {
+    None,
+    NoPrinter, ///< the print server has no printers
+    NoServer,  ///< the print server is missing or does not answer
+    Gone,      ///< the chosen printer no longer exists
+    Rejects,   ///< the printer's queue accepts no jobs
+    Failed,    ///< anything else
+};
+
+struct PrintOutcome {
+    PrintFault fault = PrintFault::None;
+    /// The printer's name for Gone and Rejects, the printing system's message for Failed.
+    QString detail = {};
+};
+
+/// Sends a finished document to the printer; runs once, in any thread. Returns soon after a stop
+/// was requested, and then nothing of the document is printed.
+using HandOver = std::function<PrintOutcome(const std::stop_token& stop)>;
+
+/// The interface to printing: dialogs, page size, print queue. Nothing here throws or shows
+/// anything but the dialogs: errors are in the outcome.
+class PrinterInterface {
+public:
+    virtual ~PrinterInterface() = default;
+    /// Asks which printer to use, and how. Empty if the user cancelled; otherwise whether that
+    /// printer accepts a document now.
+    virtual std::optional<PrintOutcome> AskHowToPrint(QWidget& parent) = 0;
+    /// Asks the same without printing afterwards. Returns why it could not ask, if so.
+    virtual PrintOutcome AskSetUp(QWidget& parent) = 0;
+    /// The printable part of a page, in twips.
+    virtual QSizeF PageSpace() = 0;
+    /// Prepares a document for the chosen printer. Pages reach the printer only when the returned
+    /// function is called.
+    virtual HandOver Document(const PrintedPages& pages) = 0;
+};

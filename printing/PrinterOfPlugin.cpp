@@ -1,0 +1,13 @@
+#include "PrinterOfPlugin.h"
+
+#include "Language.h"
+#include "Plugin.h"
+#include "PrinterPlugin.h"
+
+PrinterInterface& PrinterOfPlugin::Printer() {
+    if (!m_printer) {
+        m_printer =
+            Plugin<PrinterPlugin>(QStringLiteral("Loan.Printers")).Printers(GetResourceText);
+    }
+    return *m_printer;
+}

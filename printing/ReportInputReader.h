@@ -1,0 +1,17 @@
+#pragma once
+
+#include "ReportInput.h"
+
+class Loan;
+
+/// Reads what the window shows, sheet and layout, including rows that are scrolled out of view. A
+/// window wider than `widest` pixels is laid out at that width while it is read and then restored.
+/// The field being edited is read as it looks after it is left.
+ReportInput ReadForm(Loan& window, double widest);
+
+/// Screen pixels of the window per point, and the font size of the window's labels in points.
+double PixelsPerPoint(const Loan& window);
+double LabelPoints(const Loan& window);
+
+/// A caption as it is shown: "&Loan" reads "Loan", "P && I" reads "P & I".
+QString ShownCaption(const QString& caption);

@@ -1,0 +1,67 @@
+#include "WindowPlace.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QStyle>
+#include <QWidget>
+
+namespace {
+
+constexpr qint64 LongestPlace = 1'000; // bytes; Qt writes 66
+
+QByteArray KeptPlace(const QString& name) {
+    QFile file(name);
+    const bool opened = QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly);
+    return opened ? file.read(LongestPlace) : QByteArray();
+}
+
+/// Whether a window can have this geometry. Uses wider integers than Qt, because a damaged file can
+/// overflow them.
+bool CanBe(const QRect& place, const QRect& screens) {
+    const auto isLength = [](qint64 first, qint64 last, qint64 screen) {
+        const qint64 length = last - first + 1;
+        return length >= 1 && length <= 4 * screen;
+    };
+    return screens.intersects(place) && isLength(place.left(), place.right(), screens.width()) &&
+           isLength(place.top(), place.bottom(), screens.height());
+}
+
+} // namespace
+
+QString UserPlace() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+           QStringLiteral("/window.place");
+}
+
+void FitToScreen(QWidget& window) {
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QSize most = window.screen()->availableGeometry().size() - QSize(0, title);
+    QSize size = window.sizeHint();
+    if (size.height() > most.height()) { // it gets a scroll bar, which needs space
+        size.rwidth() += window.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    }
+    window.resize(size.boundedTo(most));
+}
+
+void RestoreGeometry(QWidget& window, const QString& file) {
+    // Qt moves the window onto an existing screen, except for an impossible position or size.
+    window.restoreGeometry(KeptPlace(file));
+    const QRect screens = window.screen()->virtualGeometry();
+    if (!CanBe(window.geometry(), screens)) {
+        FitToScreen(window);
+        window.move(screens.topLeft());
+    }
+}
+
+void SaveGeometry(const QWidget& window, const QString& file) {
+    QDir().mkpath(QFileInfo(file).path());
+    QSaveFile kept(file);
+    if (kept.open(QIODevice::WriteOnly)) {
+        kept.write(window.saveGeometry());
+        kept.commit();
+    }
+}

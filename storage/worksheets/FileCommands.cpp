@@ -1,0 +1,225 @@
+#include "FileCommands.h"
+
+#include "CMouse.h"
+#include "Language.h"
+#include "Loan.h"
+#include "LoanForm.h"
+#include "LoanNameBox.h"
+#include "StoreNotice.h"
+#include "TextNumbers.h"
+
+#include <QAction>
+
+#include <array>
+#include <utility>
+
+namespace {
+
+/// The question about a loan: the text before the name, the name, the text after it.
+QString WithName(int question, const QString& name) {
+    return GetResourceText(question) + name + GetResourceText(TextNumber::NameEnd);
+}
+
+} // namespace
+
+FileCommands::FileCommands(Loan& window, WorksheetStore store)
+    : m_window(&window), m_store(std::move(store)), m_worksheet(&window.GetWorksheet()),
+      m_cboLoanName(window.Form().cboLoanName) {
+    struct Command {
+        QAction* entry;
+        void (FileCommands::*run)();
+    };
+    const Ui::Loan& form = window.Form();
+    for (const Command& command :
+         {Command{form.mnuFileNew, &FileCommands::mnuFileNew_Click},
+          Command{form.mnuFileSave, &FileCommands::mnuFileSave_Click},
+          Command{form.mnuFileDelete, &FileCommands::mnuFileDelete_Click}}) {
+        command.entry->setEnabled(true);
+        connect(command.entry, &QAction::triggered, this, [this, run = command.run] {
+            m_window->Report().Guard([&] {
+                if (m_window->Commit()) {
+                    (this->*run)();
+                }
+            });
+        });
+    }
+    connect(m_cboLoanName, &LoanNameBox::DropDown, this, &FileCommands::cboLoanName_DropDown);
+    connect(m_cboLoanName, &LoanNameBox::Picked, this, [this](const QString& picked) {
+        m_window->Report().Guard([&] { cboLoanName_Click(picked); });
+    });
+}
+
+/// The question and the save use the name typed, even if another is selected afterwards.
+void FileCommands::cboLoanName_DropDown() {
+    m_window->Commit();
+    RefreshLoanList();
+}
+
+/// Keeps the text typed in the box.
+void FileCommands::RefreshLoanList() {
+    const QString typed = m_cboLoanName->currentText();
+    m_cboLoanName->clear();
+    m_cboLoanName->addItem(GetResourceText(TextNumber::NewLoan));
+    m_cboLoanName->addItems(m_store.Names());
+    m_cboLoanName->setCurrentIndex(-1);
+    m_cboLoanName->setEditText(typed);
+}
+
+void FileCommands::mnuFileNew_Click() {
+    RefreshLoanList();
+    m_cboLoanName->setCurrentIndex(0);
+    cboLoanName_Click(m_cboLoanName->currentText());
+    m_cboLoanName->setFocus();
+}
+
+void FileCommands::mnuFileSave_Click() {
+    if (Worksheet::IsEmptyName(m_cboLoanName->currentText())) {
+        m_window->MarkNameMissing();
+        return;
+    }
+    SaveLoan();
+}
+
+bool FileCommands::MayDrop() {
+    if (!m_worksheet->Dirty()) {
+        return true;
+    }
+    const QString name = m_worksheet->LoanName();
+    const QString title = GetResourceText(TextNumber::SaveTitle);
+    const QString text =
+        Worksheet::IsEmptyName(name) ? title : WithName(TextNumber::SaveQuestion, name);
+    switch (m_window->GetMessages().Ask({text, title, true})) {
+    case Answer::Yes:
+        return SaveOrMark();
+    case Answer::No:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Saves before another action: if the worksheet has no name it is kept, and the user is asked for
+/// a name.
+bool FileCommands::SaveOrMark() {
+    if (!Worksheet::IsEmptyName(m_worksheet->LoanName())) {
+        return SaveLoan();
+    }
+    m_window->MarkNameMissing();
+    m_cboLoanName->setFocus();
+    return false;
+}
+
+void FileCommands::cboLoanName_Click(const QString& picked) {
+    if (!MayDrop()) {
+        m_worksheet->Show({FieldId::LoanName});
+    } else if (picked == GetResourceText(TextNumber::NewLoan)) {
+        ClearWorksheet();
+    } else {
+        LoadLoan(picked);
+    }
+    m_window->Reenter();
+}
+
+bool FileCommands::CanSave() const {
+    const NameFault fault = WorksheetStore::FaultOf(m_worksheet->LoanName());
+    if (fault != NameFault::None) {
+        Report(GetResourceText(fault == NameFault::Empty     ? TextNumber::NoNameToSave
+                               : fault == NameFault::NewLoan ? TextNumber::NameOfNewLoan
+                                                             : TextNumber::NameNotPossible));
+        return false;
+    }
+    for (Row row{0}; row <= m_worksheet->HighestOfferRow(); ++row.value) {
+        if (!WorksheetStore::CanHoldLender(m_worksheet->OfferOfRow(row).Who())) {
+            Report(GetResourceText(TextNumber::LenderTooLong).arg(row.value + 1));
+            return false;
+        }
+    }
+    return true;
+}
+
+bool FileCommands::SaveLoan() {
+    if (!CanSave()) {
+        return false;
+    }
+    CMouse mouse;
+    mouse.SetPointer(MousePointer::Hourglass);
+    try {
+        m_store.Save(*m_worksheet);
+    } catch (const Failure& failure) {
+        Report(GetResourceText(TextNumber::NotSaved), StoreFailureText(failure));
+        return false;
+    }
+    return true;
+}
+
+/// If no worksheet has the name any more, only the name is set. If the store cannot be read, that
+/// is unknown and nothing changes.
+void FileCommands::LoadLoan(const QString& name) {
+    CMouse mouse;
+    mouse.SetPointer(MousePointer::Hourglass);
+    const LoadOutcome outcome =
+        m_store.Load(*m_worksheet, name, [this](Row last) { m_window->Rows().GrowTo(last); });
+    if (outcome.trouble != StoreTrouble::None) {
+        Report(GetResourceText(TextNumber::NotLoaded), ErrorText(outcome.trouble));
+        m_worksheet->Show({FieldId::LoanName});
+        return;
+    }
+    if (!outcome.exists) {
+        m_worksheet->SetLoanName(name);
+        return;
+    }
+    m_window->ClearNameMark();
+    if (outcome.incomplete) {
+        Report(GetResourceText(TextNumber::LoanIncomplete));
+    }
+    if (!outcome.failures.empty()) {
+        Report(GetResourceText(TextNumber::ValuesNotLoaded), FailureLines(outcome.failures));
+    }
+}
+
+void FileCommands::mnuFileDelete_Click() {
+    const QString name = m_worksheet->LoanName();
+    if (Worksheet::IsEmptyName(name) && m_worksheet->Dirty()) {
+        ClearWorksheet();
+    } else if (WorksheetStore::FaultOf(name) == NameFault::NoKey) {
+        Report(GetResourceText(TextNumber::NoSuchNameToDelete));
+        return;
+    } else {
+        const Question question{WithName(TextNumber::DeleteQuestion, name),
+                                GetResourceText(TextNumber::DeleteTitle)};
+        if (m_window->GetMessages().Ask(question) != Answer::Yes || !DeleteLoan()) {
+            return;
+        }
+        ClearWorksheet();
+        RefreshLoanList();
+    }
+    m_cboLoanName->setFocus();
+    m_window->Reenter();
+}
+
+/// False when the worksheet still exists.
+bool FileCommands::DeleteLoan() {
+    if (Worksheet::IsEmptyName(m_worksheet->LoanName())) {
+        Report(GetResourceText(TextNumber::NoNameToDelete));
+        return true;
+    }
+    CMouse mouse;
+    mouse.SetPointer(MousePointer::Hourglass);
+    try {
+        m_store.Delete(m_worksheet->LoanName());
+    } catch (const StoreFailure& failure) {
+        Report(GetResourceText(TextNumber::NotDeleted), ErrorText(failure.Trouble()));
+        return false;
+    }
+    return true;
+}
+
+void FileCommands::ClearWorksheet() {
+    m_worksheet->Clear();
+    m_window->ClearNameMark();
+}
+
+void FileCommands::Report(const QString& text, const QString& details) const {
+    m_window->GetMessages().Post(details.isEmpty() ? text
+                                                   : text + QStringLiteral("\n\n") + details);
+}

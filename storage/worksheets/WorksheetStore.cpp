@@ -1,0 +1,149 @@
+#include "WorksheetStore.h"
+
+#include "KeyPath.h"
+#include "Language.h"
+#include "StoreNames.h"
+#include "StoredWorksheet.h"
+#include "TextNumbers.h"
+#include "WorksheetValues.h"
+
+#include <QTextBoundaryFinder>
+
+#include <optional>
+
+namespace {
+
+/// No value for an invalid name: it would address a different key.
+std::optional<std::string> KeyOf(const QString& name) {
+    return WorksheetStore::CanBeKept(name)
+               ? std::optional(std::string(BaseKey) + '\\' + name.toStdString())
+               : std::nullopt;
+}
+
+/// Counts as users do: a letter with its accents is one character.
+qsizetype CharactersOf(const QString& text) {
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    qsizetype count = 0;
+    while (finder.toNextBoundary() != -1) {
+        ++count;
+    }
+    return count;
+}
+
+void WriteOffer(const RegistryAPI& store, const std::string& key, const CLoan& offer, int number,
+                const StoredTexts& texts) {
+    for (const KeptValue<CLoan>& value : KeptOfferValues()) {
+        store.SetValue(StoreRoot, key, OfferPrefix(number) + value.name, value.type,
+                       value.write(offer, texts));
+    }
+}
+
+void Write(const RegistryAPI& store, const std::string& key, const Worksheet& worksheet) {
+    const StoredTexts texts(worksheet.Texts().Formats());
+    for (const KeptValue<Worksheet>& value : KeptWorksheetValues()) {
+        store.SetValue(StoreRoot, key, value.name, value.type, value.write(worksheet, texts));
+    }
+    std::int32_t count = 0;
+    for (const CLoan& offer : worksheet.OffersAsEntered()) {
+        if (WorksheetStore::IsWorthKeeping(offer)) {
+            WriteOffer(store, key, offer, ++count, texts);
+        }
+    }
+    store.SetValue(StoreRoot, key, LoanCountName, RegistryType::Number, count);
+    store.SetValue(StoreRoot, key, DateFormatName, RegistryType::Text, texts.DateFormat());
+}
+
+} // namespace
+
+bool WorksheetStore::CanBeKept(const QString& name) {
+    return !Worksheet::IsEmptyName(name) && name.size() <= static_cast<qsizetype>(LongestKeyName) &&
+           name.isValidUtf16() && !name.contains(u'\\') && !name.contains(QChar::Null);
+}
+
+NameFault WorksheetStore::FaultOf(const QString& name) {
+    if (Worksheet::IsEmptyName(name)) {
+        return NameFault::Empty;
+    }
+    if (!CanBeKept(name)) {
+        return NameFault::NoKey;
+    }
+    const bool newLoan =
+        Language::Instance().TextInEveryLanguage(TextNumber::NewLoan).contains(name);
+    return newLoan ? NameFault::NewLoan : NameFault::None;
+}
+
+bool WorksheetStore::CanHoldLender(const QString& who) {
+    constexpr qsizetype longest = 1023;
+    return CharactersOf(who) <= longest;
+}
+
+bool WorksheetStore::IsWorthKeeping(const CLoan& offer) {
+    return !offer.Who().isEmpty() || !offer.ActualPayment().IsZero() || offer.FinancePoints() ||
+           offer.InterestRate() != 0 || offer.Points() != 0;
+}
+
+QStringList WorksheetStore::Names() const {
+    const std::vector<std::string> keys = m_store.GetSubKeys(StoreRoot, BaseKey);
+    QStringList names;
+    for (const std::string& key : keys) {
+        names.append(QString::fromStdString(key));
+    }
+    // The placeholder for "none" has more blanks than any name can have.
+    constexpr qsizetype none = 260;
+    if (names.size() == 1 && names.front() == QString(none, u' ')) {
+        names.clear();
+    }
+    return names;
+}
+
+bool WorksheetStore::Exists(const QString& name) const {
+    const auto key = KeyOf(name);
+    return key && m_store.KeyExists(StoreRoot, *key);
+}
+
+void WorksheetStore::Save(Worksheet& worksheet) const {
+    const auto key = KeyOf(worksheet.LoanName());
+    if (!key) {
+        throw StoreFailure(StoreTrouble::Unknown);
+    }
+    m_store.InTransaction([&](const RegistryAPI& store) {
+        // Delete the whole key first, so that no offer of an earlier, longer save remains.
+        store.DeleteKey(StoreRoot, *key);
+        store.CreateKey(StoreRoot, *key);
+        Write(store, *key, worksheet);
+    });
+    worksheet.ClearDirty();
+}
+
+LoadOutcome WorksheetStore::Load(Worksheet& worksheet, const QString& name,
+                                 const std::function<void(Row)>& growTo) const {
+    const auto key = KeyOf(name);
+    StoredWorksheet loaded(worksheet.Texts().Formats());
+    LoadOutcome outcome;
+    outcome.trouble = m_store.ReadInTransaction([&](const RegistryAPI& store) {
+        outcome.exists = key && store.KeyExists(StoreRoot, *key);
+        if (outcome.exists) {
+            loaded.Read(store, *key);
+            outcome.incomplete = store.GetValueType(StoreRoot, *key, IncompleteName) != 0;
+        }
+    });
+    outcome.exists = outcome.exists && outcome.trouble == StoreTrouble::None;
+    if (outcome.exists) {
+        outcome.failures = loaded.Put(worksheet, name, growTo);
+    }
+    return outcome;
+}
+
+/// A store that cannot be read looks empty, so only a committed transaction proves the deletion.
+void WorksheetStore::Delete(const QString& name) const {
+    const auto key = KeyOf(name);
+    if (!key) {
+        return;
+    }
+    m_store.InTransaction([&](const RegistryAPI& store) {
+        store.DeleteKey(StoreRoot, *key);
+        if (store.KeyExists(StoreRoot, *key)) {
+            throw StoreFailure(StoreTrouble::Unknown);
+        }
+    });
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Failure.h"
+#include "RegistryAPI.h"
+#include "Worksheet.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <vector>
+
+/// Why a name is not allowed for a worksheet.
+enum class NameFault {
+    None,
+    Empty,  ///< a single blank also counts as empty
+    NoKey,  ///< too long, incomplete characters, or contains a backslash or NUL
+    NewLoan ///< equals the entry for a new loan in some language
+};
+
+/// The result of loading a worksheet.
+struct LoadOutcome {
+    bool exists = false;
+    StoreTrouble trouble = StoreTrouble::None; ///< why it is unknown whether the worksheet exists
+    bool incomplete = false;                   ///< a recovery of the store lost some of its values
+    std::vector<Failure> failures; ///< of values left out; the sources are the names of the values
+};
+
+/// The saved worksheets, by name: each has a key in the user's store, below the key of the program.
+/// Asks nothing and shows nothing. Only Save and Load clear Dirty; otherwise that is the caller's
+/// task.
+class WorksheetStore {
+public:
+    explicit WorksheetStore(RegistryAPI store) : m_store(std::move(store)) {}
+
+    /// Why a worksheet cannot be saved under the name.
+    static NameFault FaultOf(const QString& name);
+    /// Whether a worksheet can be stored under the name at all. Under any other name nothing
+    /// exists, loads or is deleted. A name that equals the entry for a new loan is allowed here: it
+    /// may have been saved before that language was added.
+    static bool CanBeKept(const QString& name);
+    /// Whether a text about a lender can be read back unchanged.
+    static bool CanHoldLender(const QString& who);
+    /// Whether an offer is saved. A term alone is not enough.
+    static bool IsWorthKeeping(const CLoan& offer);
+
+    /// In the order of the store; empty when there are none.
+    QStringList Names() const;
+    bool Exists(const QString& name) const;
+
+    /// Saves the worksheet under its name in one transaction, with its offers in the order of
+    /// entry. Replaces the previous worksheet of that name and clears Dirty. Throws StoreFailure
+    /// when it could not be saved; nothing has changed then.
+    void Save(Worksheet& worksheet) const;
+
+    /// Replaces the worksheet by the one saved under this name and clears Dirty. `growTo` is called
+    /// with the last row needed when there are more offers than rows; it may add fewer. Values that
+    /// cannot be read are left out. Nothing changes when no worksheet has this name or the store
+    /// cannot be read. Does not throw.
+    LoadOutcome Load(Worksheet& worksheet, const QString& name,
+                     const std::function<void(Row)>& growTo) const;
+
+    /// Does nothing when no worksheet has this name. Throws StoreFailure when the worksheet still
+    /// exists, or when that cannot be determined.
+    void Delete(const QString& name) const;
+
+private:
+    RegistryAPI m_store;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <qlogging.h>
+
+class QString;
+
+/// Discards Qt's warnings while it exists, because Qt may complain about fuzzed input.
+class QuietQt {
+public:
+    QuietQt()
+        : m_before(
+              qInstallMessageHandler([](QtMsgType /*type*/, const QMessageLogContext& /*where*/,
+                                        const QString& /*text*/) {})) {}
+    QuietQt(const QuietQt&) = delete;
+    QuietQt& operator=(const QuietQt&) = delete;
+    QuietQt(QuietQt&&) = delete;
+    QuietQt& operator=(QuietQt&&) = delete;
+    ~QuietQt() { qInstallMessageHandler(m_before); }
+
+private:
+    QtMessageHandler m_before;
+};

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Field.h"
+
+#include <QObject>
+
+class ControlMap;
+class FailureReport;
+class MessageQueue;
+class QContextMenuEvent;
+class QKeyEvent;
+class QLineEdit;
+class ValueTransfer;
+
+/// Copies and pastes the values of offers by keyboard and context menu, with the same texts and
+/// checks as dragging.
+///
+/// The shortcuts act on the value while all or none of a field is selected. With a partial
+/// selection, or while a number is being typed, they act on the text. A text that was not copied
+/// from such a field is pasted as if it were typed: 6.5 from elsewhere is a rate in percent.
+class FieldClipboard : public QObject {
+    Q_OBJECT
+
+public:
+    FieldClipboard(ValueTransfer& values, const ControlMap& controls, MessageQueue& messages,
+                   const FailureReport& report);
+
+    /// Call when the row has been created.
+    void Watch(Row row);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    bool OnKey(Field field, const QKeyEvent& event);
+    void OpenMenu(Field field, const QContextMenuEvent& event);
+    void CopyValue(Field field);
+    void PasteValue(Field field);
+    QLineEdit& EditOf(Field field) const;
+
+    ValueTransfer* m_values;
+    const ControlMap* m_controls;
+    MessageQueue* m_messages;
+    const FailureReport* m_report;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+class MessageQueue;
+class Worksheet;
+
+/// Tells the user, once per run, that an intended payment was raised, and removes the yellow mark
+/// after one timer interval.
+class PaymentNotice : public QObject {
+    Q_OBJECT
+
+public:
+    /// The timer is a child of the window.
+    PaymentNotice(QObject& window, Worksheet& worksheet, MessageQueue& messages,
+                  std::function<void()> clearMarks);
+
+    /// An intended payment has been marked.
+    void Start();
+    /// An intended payment was refused.
+    void TellRefused();
+
+private:
+    void Timer1_Timer();
+
+    Worksheet* m_worksheet;
+    MessageQueue* m_messages;
+    std::function<void()> m_clearMarks;
+    QTimer* m_timer;
+};

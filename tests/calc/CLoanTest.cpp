@@ -1,4 +1,5 @@
 #include "CLoan.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 #include "Language.h"

@@ -1,4 +1,5 @@
 #include "Schedule.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 

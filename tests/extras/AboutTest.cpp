@@ -1,5 +1,6 @@
 #include "AboutCommands.h"
 #include "ProgramIcon.h"
+#include "QuendNames.h"
 #include "StoreFolder.h"
 #include "VersionRecord.h"
 #include "WindowFixture.h"

@@ -1,4 +1,5 @@
 #include "Captions.h"
+#include "QuendNames.h"
 
 #include "Language.h"
 #include "ProgramFolder.h"

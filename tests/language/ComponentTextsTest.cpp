@@ -1,4 +1,5 @@
 #include "ProgramFolder.h"
+#include "QuendNames.h"
 #include "TextTable.h"
 
 #include <QDir>

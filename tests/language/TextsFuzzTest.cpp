@@ -8,6 +8,7 @@
 #include "LanguageComponent.h"
 #include "LanguageIdentifier.h"
 #include "ProgramFolder.h"
+#include "QuendNames.h"
 #include "TextTable.h"
 
 #include <QDir>

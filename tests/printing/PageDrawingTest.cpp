@@ -1,5 +1,6 @@
 #include "PageDrawing.h"
 #include "DrawnItems.h"
+#include "QuendNames.h"
 #include "RulerMetrics.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,7 @@
 // The entries of the File menu, with a fake printer.
 
 #include "PrintCommands.h"
+#include "QuendNames.h"
 
 #include "DrawnItems.h"
 #include "FakePrinter.h"

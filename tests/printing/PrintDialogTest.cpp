@@ -3,6 +3,7 @@
 #include "Language.h"
 #include "LoanForm.h"
 #include "PrintServerFixture.h"
+#include "QuendNames.h"
 
 #include <QAction>
 #include <QApplication>

@@ -4,6 +4,7 @@
 #include "DrawnItems.h"
 #include "FakePrinter.h"
 #include "Language.h"
+#include "QuendNames.h"
 #include "RulerMetrics.h"
 #include "SampleForm.h"
 #include "WindowFixture.h"

@@ -3,6 +3,7 @@
 
 #include "Language.h"
 #include "PrintServerFixture.h"
+#include "QuendNames.h"
 
 #include <QDir>
 #include <QElapsedTimer>

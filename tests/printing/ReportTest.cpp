@@ -2,6 +2,7 @@
 
 #include "Report.h"
 #include "DrawnItems.h"
+#include "QuendNames.h"
 #include "RulerMetrics.h"
 #include "SampleForm.h"
 

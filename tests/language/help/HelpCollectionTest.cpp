@@ -1,6 +1,7 @@
 #include "CompiledHelp.h"
 #include "Failure.h"
 #include "HelpPlace.h"
+#include "QuendNames.h"
 
 #include <QFile>
 #include <QTemporaryDir>

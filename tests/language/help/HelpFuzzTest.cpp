@@ -4,6 +4,7 @@
 #include "CompiledHelp.h"
 #include "Failure.h"
 #include "Fuzzing.h"
+#include "QuendNames.h"
 #include "QuietQt.h"
 
 #include <QFile>

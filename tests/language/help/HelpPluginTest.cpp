@@ -1,5 +1,6 @@
 #include "HelpPlugin.h"
 #include "Failure.h"
+#include "QuendNames.h"
 
 #include <QPluginLoader>
 

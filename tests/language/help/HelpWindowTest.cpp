@@ -2,6 +2,7 @@
 #include "HelpPlace.h"
 #include "HelpView.h"
 #include "Language.h"
+#include "QuendNames.h"
 
 #include <QFile>
 #include <QImage>

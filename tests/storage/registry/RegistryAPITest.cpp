@@ -1,6 +1,7 @@
 // The seven functions, the same on every platform: tested on the store file and, cross-compiled for
 // the platform that has a registry, on that registry.
 #include "RegistryAPI.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 #include "TestStore.h"

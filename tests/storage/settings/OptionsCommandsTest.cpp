@@ -4,6 +4,7 @@
 #include "FakeMessages.h"
 #include "Language.h"
 #include "OptionsFixture.h"
+#include "QuendNames.h"
 #include "RegistryAPI.h"
 #include "SettingsStore.h"
 #include "StoreNames.h"

@@ -1,6 +1,7 @@
 // The settings in the store: reading, rejected values, writing.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "RegistryAPI.h"
 #include "SettingsStore.h"
 #include "StoreNames.h"

@@ -1,6 +1,7 @@
 // The program's key and language at the start, the window geometry, the busy pointer.
 
 #include "StartUp.h"
+#include "QuendNames.h"
 
 #include "CMouse.h"
 #include "Failure.h"

@@ -3,6 +3,7 @@
 #include "FileCommands.h"
 #include "LoanNameBox.h"
 #include "OptionsFixture.h"
+#include "QuendNames.h"
 #include "StoreFolder.h"
 #include "WindowFixture.h"
 

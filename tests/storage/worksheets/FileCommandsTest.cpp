@@ -1,6 +1,7 @@
 // The File menu and the loan name box, operated by a user in the real window.
 
 #include "FileCommandsFixture.h"
+#include "QuendNames.h"
 
 #include "Colours.h"
 

@@ -1,6 +1,7 @@
 // The messages of the File menu about invalid names, and about a store that fails or was recovered.
 
 #include "FileCommandsFixture.h"
+#include "QuendNames.h"
 
 #include "StoreNotice.h"
 

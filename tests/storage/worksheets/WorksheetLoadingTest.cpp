@@ -1,5 +1,6 @@
 // Loading worksheets with missing, invalid or calculated values, and from a store that fails.
 
+#include "QuendNames.h"
 #include "WorksheetStoreFixture.h"
 
 using namespace Qt::StringLiterals;

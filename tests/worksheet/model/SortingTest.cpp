@@ -1,3 +1,4 @@
+#include "QuendNames.h"
 #include "SortKeys.h"
 #include "WorksheetTest.h"
 

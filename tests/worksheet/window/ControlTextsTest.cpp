@@ -10,6 +10,7 @@
 // Frames, lines and the inner parts of Qt's own controls need none.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QAbstractButton>

@@ -1,5 +1,6 @@
 // Opening and closing the window.
 
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QAction>

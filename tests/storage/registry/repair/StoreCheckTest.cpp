@@ -1,5 +1,6 @@
 // A store that is damaged, foreign or from a later version, as the program finds it at the start.
 #include "StoreCheck.h"
+#include "QuendNames.h"
 
 #include "Sqlite.h"
 #include "StoreFile.h"

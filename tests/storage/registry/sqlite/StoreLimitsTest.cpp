@@ -1,4 +1,5 @@
 // Names and files at the limits of the store file.
+#include "QuendNames.h"
 #include "StoreCheck.h"
 
 #include "Sqlite.h"

@@ -1,5 +1,6 @@
 // Transactions on the store file: atomicity and cost.
 #include "FlushCount.h"
+#include "QuendNames.h"
 #include "StoreCheck.h"
 #include "StoreFile.h"
 #include "StoreFixture.h"

@@ -2,6 +2,7 @@
 
 #include "Language.h"
 #include "NumberFields.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QAction>

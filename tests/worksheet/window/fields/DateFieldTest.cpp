@@ -1,6 +1,7 @@
 // The date of the next payment: typed, stepped, picked or refused.
 
 #include "DatePicker.h"
+#include "QuendNames.h"
 #include "QuietQt.h"
 #include "WindowFixture.h"
 

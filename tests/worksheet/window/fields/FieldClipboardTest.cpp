@@ -2,6 +2,7 @@
 
 #include "DragFixture.h"
 #include "Language.h"
+#include "QuendNames.h"
 
 #include <QAction>
 #include <QApplication>

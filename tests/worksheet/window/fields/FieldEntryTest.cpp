@@ -1,6 +1,7 @@
 // What a number field shows on entry and afterwards, and what can be typed into it.
 
 #include "NumberFields.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QApplication>

@@ -2,6 +2,7 @@
 
 #include "MessageBoxes.h"
 #include "NumberFields.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QAbstractButton>

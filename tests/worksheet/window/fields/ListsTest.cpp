@@ -1,6 +1,7 @@
 // The lists and the box for financed points.
 
 #include "Lists.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QCheckBox>

@@ -1,6 +1,7 @@
 // A refused field cannot be left, and what the user tries has no other effect.
 
 #include "NumberFields.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QApplication>

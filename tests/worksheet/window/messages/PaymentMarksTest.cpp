@@ -2,6 +2,7 @@
 
 #include "FieldEdits.h"
 #include "Language.h"
+#include "QuendNames.h"
 #include "TextNumbers.h"
 #include "WindowFixture.h"
 

@@ -1,5 +1,6 @@
 // The number of offer rows, and moving through them by arrow keys.
 
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QCheckBox>

@@ -1,6 +1,7 @@
 // The headings sort the offers, and everything afterwards uses the right offer.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "SortButton.h"
 #include "WindowFixture.h"
 

@@ -64,7 +64,7 @@ def _starts_with_worksheets(starter: start_up.Starter, program: Program) -> str:
 
 
 def _screens(folder: pathlib.Path) -> dict[str, str]:
-    """New screens, because a toolkit may leave data on a screen for the next program."""
+    """New screens, because a GUI library may leave data on a screen for the next program."""
     _say("starts on new screens")
     programs = [own(_BUILD / "bin"), empty_window(_BENCH), *PEERS]
     measured: dict[str, list[start_up.Start]] = {program.name: [] for program in programs}

@@ -146,7 +146,7 @@ TEST_P(Texts, EntriesOfOneListDiffer) {
     }
 }
 
-TEST_P(Texts, LanguagesAreNamedInTheirOwnWords) {
+TEST_P(Texts, LanguagesAreNamedInTheirOwnLanguage) {
     EXPECT_EQ(QStringLiteral("English"), m_table.Text(260));
     EXPECT_EQ(QStringLiteral("Español"), m_table.Text(261));
 }

@@ -68,9 +68,9 @@ const FuzzTarget& TableTarget() {
     return target;
 }
 
-TEST(TextTableFuzz, TheCorpusIsReadOrToldByItsLines) { TableTarget().TryCorpus(); }
+TEST(TextTableFuzz, TheCorpusIsReadOrReportedByLine) { TableTarget().TryCorpus(); }
 
-TEST(TextTableFuzz, AnyTableIsReadOrToldByItsLines) {
+TEST(TextTableFuzz, AnyTableIsReadOrReportedByLine) {
     constexpr std::array pieces{"language",   "tag", " = ", "=",   "\n",   "\n",          "\n7 = ",
                                 "\n8 =",      "# ",  "\\",  "\\n", "\\\\", "\r\n",        "\t",
                                 "2147483648", "0",   "x",   "&",   "\xFF", "\xEF\xBB\xBF"};

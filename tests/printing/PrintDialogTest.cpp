@@ -294,7 +294,7 @@ TEST_F(ServerOnlyTest, CopiesAreThoseOfOneJob) {
     EXPECT_EQ(CopiesOf(2), 1);
 }
 
-TEST_F(ServerOnlyTest, NoPrinterAtAllIsToldInsteadOfAsking) {
+TEST_F(ServerOnlyTest, NoPrinterAtAllIsReportedInsteadOfAsking) {
     PrintServer::Run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), QStringLiteral("Lab")});
     Begin();
     FillRows(1);

@@ -10,7 +10,7 @@
 
 namespace {
 
-TEST(PrinterPlugin, KnowsThePrintersFromALibraryOfItsOwn) {
+TEST(PrinterPlugin, GetsPrintersFromASeparateLibrary) {
     QPluginLoader library(QStringLiteral(QUEND_PROGRAM_DIR "/Loan.Printers"));
     const auto* part = qobject_cast<PrinterPlugin*>(library.instance());
     ASSERT_NE(part, nullptr) << library.errorString().toStdString();

@@ -57,7 +57,7 @@ QString SidesOf(const std::vector<FormEntry>& entries) {
     return sides;
 }
 
-TEST_F(ReportInputReaderTest, TextsAndListsStandLeftNumbersRight) {
+TEST_F(ReportInputReaderTest, TextsAndListsAreLeftNumbersRight) {
     Open();
     const ReportInput form = Read();
     EXPECT_EQ(SidesOf(form.header), u"llrrrrr");

@@ -319,7 +319,7 @@ TEST_F(HelpLanguage, SwitchOpensNoHelp) {
 
 using HelpMissing = HelpTest;
 
-TEST_F(HelpMissing, IsToldInItsOwnWordsAndChangesNothing) {
+TEST_F(HelpMissing, IsReportedByItsMessageAndChangesNothing) {
     const QTemporaryDir folder;
     OpenBesides(folder.path());
     Fill(u"txtLoanAmount", u"1000");

@@ -258,7 +258,7 @@ TEST_F(RegistryAPITest, ManySubkeysAreAllListed) {
     EXPECT_EQ(registry.GetSubKeys(User, BaseKey), expected);
 }
 
-TEST_F(RegistryAPITest, OneBlankNameStandsForNoSubkeys) {
+TEST_F(RegistryAPITest, OneBlankNameMeansNoSubkeys) {
     EXPECT_EQ(registry.GetSubKeys(User, BaseKey), std::vector<std::string>{std::string(260, ' ')});
     EXPECT_EQ(registry.GetSubKeys(User, Absent), std::vector<std::string>{});
     EXPECT_EQ(registry.GetSubKeys(User, "\\"), std::vector<std::string>{});

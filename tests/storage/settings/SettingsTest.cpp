@@ -184,7 +184,7 @@ TEST_F(SettingsInTheStore, ReplaceWhatWasRefused) {
     EXPECT_TRUE(LoadSettings(m_store).failures.empty());
 }
 
-TEST_F(SettingsInTheStore, StandBesideTheWorksheets) {
+TEST_F(SettingsInTheStore, AreBesideTheWorksheets) {
     const std::string worksheet = std::string(BaseKey) + "\\House";
     m_store.CreateKey(Root, worksheet);
     SaveSettings(m_store, {});

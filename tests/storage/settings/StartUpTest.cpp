@@ -81,7 +81,7 @@ TEST_F(StartUp, AKeyThatCannotBeMadeIsAFailure) {
 
 class LanguageOutOfRange : public WindowTest {};
 
-TEST_F(LanguageOutOfRange, IsToldAndNotKept) {
+TEST_F(LanguageOutOfRange, IsReportedAndNotKept) {
     Open({.language = 99});
     const QStringList told = SettledMessages();
     ASSERT_EQ(told.size(), 1);

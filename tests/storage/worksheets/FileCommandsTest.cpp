@@ -124,7 +124,7 @@ TEST_F(FileCommandsTest, ALenderTextThatIsTooLongIsRefused) {
     EXPECT_TRUE(Sheet().Dirty());
 }
 
-TEST_F(FileCommandsTest, ASaveThatFailsIsToldAndStaysDirty) {
+TEST_F(FileCommandsTest, ASaveThatFailsIsReportedAndStaysDirty) {
     Begin({}, RegistryAPI("/dev/null/no/such/place/Loan.store"));
     TypeName(u"Home");
     Fill(u"txtLoanAmount", u"7");

@@ -84,7 +84,7 @@ TEST_P(FieldEntry, ASecondClickPlacesTheCaret) {
     EXPECT_EQ(Field().text(), GetParam().entered);
 }
 
-TEST_P(FieldEntry, EmptyStandsForZeroBothWays) {
+TEST_P(FieldEntry, EmptyMeansZeroBothWays) {
     Fill(GetParam().name, GetParam().typed);
     BackTab();
     Press(Qt::Key_Delete);

@@ -111,7 +111,7 @@ TEST_F(RefusedFieldLater, ClicksWorkAgainOnceTheTextIsMended) {
     EXPECT_EQ(SettledMessages().size(), 1);
 }
 
-TEST_F(RefusedFieldLater, IsToldOnceForEveryTry) {
+TEST_F(RefusedFieldLater, IsReportedOnceForEveryTry) {
     Open();
     Click(u"txtPoints(1)");
     Paste(u"1.2.3");

@@ -227,7 +227,7 @@ QPalette Dark() {
     return dark;
 }
 
-TEST_F(SortHeadings, TheArrowStandsBesideTheCaptionAndOutInEveryPalette) {
+TEST_F(SortHeadings, TheArrowIsBesideTheCaptionAndVisibleInEveryPalette) {
     for (const QPalette& palette : {QApplication::palette(), Dark()}) {
         auto& button = Get<SortButton>(u"cmdInterest");
         button.setPalette(palette);

@@ -1,8 +1,10 @@
 #include "AboutCommands.h"
 
+#include "FailureReport.h"
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
+#include "MessageQueue.h"
 #include "TextNumbers.h"
 #include "frmAbout.h"
 

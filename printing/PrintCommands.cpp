@@ -3,6 +3,7 @@
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
+#include "MessageQueue.h"
 #include "Plugin.h"
 #include "PrinterInterface.h"
 #include "ReportInputReader.h"

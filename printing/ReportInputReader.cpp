@@ -3,6 +3,7 @@
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
+#include "OfferRows.h"
 #include "PrintedPage.h"
 #include "VersionRecord.h"
 

@@ -6,6 +6,7 @@
 #include "LinkColour.h"
 #include "Loan.h"
 #include "LoanForm.h"
+#include "MessageQueue.h"
 #include "TextNumbers.h"
 
 #include <QApplication>

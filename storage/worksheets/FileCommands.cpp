@@ -1,12 +1,16 @@
 #include "FileCommands.h"
 
 #include "CMouse.h"
+#include "FailureReport.h"
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
 #include "LoanNameBox.h"
+#include "MessageQueue.h"
+#include "OfferRows.h"
 #include "StoreNotice.h"
 #include "TextNumbers.h"
+#include "Worksheet.h"
 
 #include <QAction>
 

@@ -3,6 +3,7 @@
 #include "FilePrinter.h"
 #include "Language.h"
 #include "LoanForm.h"
+#include "OfferRows.h"
 #include "SystemPrinter.h"
 
 #include <QAction>

@@ -2,6 +2,7 @@
 // each version of Qt, because each draws text a little differently. To store new pictures, run with
 // QUEND_KEEP_PAGES=1 and check them by eye.
 
+#include "OfferRows.h"
 #include "PagePainter.h"
 #include "QuendNames.h"
 #include "Report.h"

@@ -1,6 +1,7 @@
 // What the report reads from the live window.
 
 #include "ReportInputReader.h"
+#include "OfferRows.h"
 #include "QuendNames.h"
 
 #include "WindowFixture.h"

@@ -2,8 +2,10 @@
 
 #include "FakeMessages.h"
 #include "Loan.h"
+#include "MessageQueue.h"
 #include "QuendNames.h"
 #include "UserInput.h"
+#include "Worksheet.h"
 
 #include <QLocale>
 #include <QPoint>

@@ -2,6 +2,7 @@
 
 #include "FileCommands.h"
 #include "LoanNameBox.h"
+#include "OfferRows.h"
 #include "OptionsFixture.h"
 #include "QuendNames.h"
 #include "StoreFolder.h"

@@ -1,9 +1,11 @@
 #include "OfferCommands.h"
 
+#include "FailureReport.h"
 #include "LenderEdit.h"
 #include "Loan.h"
 #include "LoanForm.h"
 #include "SortButton.h"
+#include "Worksheet.h"
 #include "dlgWho.h"
 
 namespace quend::window {

@@ -2,15 +2,10 @@
 
 #include "DisplayFormats.h"
 #include "Field.h"
+#include "Quantities.h"
 
 #include <utility>
 #include <variant>
-
-/// A term in whole months.
-struct Months {
-    int count = 0;
-    friend constexpr bool operator==(Months, Months) = default;
-};
 
 /// The number in a field: an amount, a real number (points in percent, a rate as a fraction) or a
 /// term. Its kind says which.

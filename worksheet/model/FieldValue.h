@@ -7,9 +7,8 @@
 #include <utility>
 #include <variant>
 
-/// The number in a field: an amount, a real number (points in percent, a rate as a fraction) or a
-/// term. Its kind says which.
-using FieldNumber = std::variant<Money, double, Months>;
+/// The number in a field: an amount, a rate, points or a term. The field's kind says which.
+using FieldNumber = std::variant<Money, Rate, Percent, Months>;
 
 bool IsZero(const FieldNumber& number);
 
@@ -24,10 +23,10 @@ public:
     void SetTermInMonths(bool inMonths) { m_termInMonths = inMonths; }
 
     /// The bare value, for editing.
-    QString EntryText(ValueKind kind, const FieldNumber& number) const;
+    QString EntryText(const FieldNumber& number) const;
 
     /// The value as shown in a field that is not being edited.
-    QString DisplayText(ValueKind kind, const FieldNumber& number) const;
+    QString DisplayText(const FieldNumber& number) const;
 
     /// The number of a text. Throws ConversionFailure or OverflowFailure.
     FieldNumber Read(ValueKind kind, const QString& text) const;

@@ -1,5 +1,7 @@
 #include "FieldValue.h"
 
+namespace quend::model {
+
 bool IsZero(const FieldNumber& number) {
     return std::visit([](const auto& value) { return value.IsZero(); }, number);
 }
@@ -61,3 +63,5 @@ Months FieldFormats::ReadTerm(ValueKind kind, const QString& text) const {
     return kind == ValueKind::FractionalTerm ? Months::FromYears(value)
                                              : Months::FromWholeYears(value);
 }
+
+} // namespace quend::model

@@ -2,10 +2,13 @@
 
 #include "DisplayFormats.h"
 #include "Field.h"
+#include "ModelNames.h"
 #include "Quantities.h"
 
 #include <utility>
 #include <variant>
+
+namespace quend::model {
 
 /// The number in a field: an amount, a rate, points or a term. The field's kind says which.
 using FieldNumber = std::variant<Money, Rate, Percent, Months>;
@@ -37,3 +40,5 @@ private:
     DisplayFormats m_formats;
     bool m_termInMonths;
 };
+
+} // namespace quend::model

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::model {
+
 namespace {
 
 const DisplayFormats& FormatsOf(const Worksheet& worksheet) { return worksheet.Texts().Formats(); }
@@ -101,3 +103,5 @@ void StoreDropped(Worksheet& worksheet, Field field, const DroppedValue& value) 
         worksheet.StoreOfferNumber(field, std::get<Percent>(value));
     }
 }
+
+} // namespace quend::model

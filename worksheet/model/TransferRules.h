@@ -1,12 +1,15 @@
 #pragma once
 
 #include "Field.h"
+#include "ModelNames.h"
 #include "Money.h"
 #include "Quantities.h"
 
 #include <QString>
 
 #include <variant>
+
+namespace quend::model {
 
 class Worksheet;
 
@@ -41,3 +44,5 @@ DroppedValue ReadDropped(const Worksheet& worksheet, FieldId field, const QStrin
 /// Stores a received value as if it had been typed: recalculates the row and sets Dirty if the
 /// value changed. Throws what the recalculation throws.
 void StoreDropped(Worksheet& worksheet, Field field, const DroppedValue& value);
+
+} // namespace quend::model

@@ -1,4 +1,5 @@
 #include "FieldValue.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 #include "Printing.h"
@@ -26,7 +27,7 @@ FieldFormats TextsIn(const QString& locale, Unit unit) {
 
 FieldNumber Units(double units) { return Money::FromDouble(units); }
 FieldNumber Yearly(double fraction) { return Rate::FromFraction(fraction); }
-FieldNumber Points(double percent) { return ::Percent::FromPercent(percent); }
+FieldNumber Points(double percent) { return calc::Percent::FromPercent(percent); }
 
 struct ShowCase {
     FieldNumber number;

@@ -1,5 +1,5 @@
-// A Qt window of 300 entry fields that does nothing: what any such window costs. scripts/bench measures the
-// program's start against it, in the same rounds.
+// A Qt window of 300 entry fields that does nothing: what any such window costs. scripts/bench
+// measures the program's start against it, in the same rounds.
 
 #include <QApplication>
 #include <QGridLayout>

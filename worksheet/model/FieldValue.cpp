@@ -1,34 +1,12 @@
 #include "FieldValue.h"
 
-#include "Failure.h"
-
-#include <cmath>
-#include <limits>
-
 namespace quend::model {
 
-namespace {
-
-constexpr double MonthsPerYear = 12;
-
-Months WholeMonths(double months) {
-    if (!(std::abs(months) <= std::numeric_limits<int>::max())) {
-        throw OverflowFailure(ProgramSource);
-    }
-    return {static_cast<int>(months)};
-}
-
-/// Halves go to the even number, as everywhere in the worksheet.
-double RoundedHalfToEven(double value) { return std::nearbyint(value); }
-
-} // namespace
-
 bool IsZero(const FieldNumber& number) {
-    return std::visit([](const auto& value) { return value == std::decay_t<decltype(value)>{}; },
-                      number);
+    return std::visit([](const auto& value) { return value.IsZero(); }, number);
 }
 
-QString FieldFormats::EntryText(ValueKind kind, const FieldNumber& number) const {
+QString FieldFormats::EntryText(const FieldNumber& number) const {
     if (IsZero(number)) {
         return {};
     }
@@ -36,36 +14,40 @@ QString FieldFormats::EntryText(ValueKind kind, const FieldNumber& number) const
         return m_formats.GeneralNumber(*amount);
     }
     if (const auto* term = std::get_if<Months>(&number)) {
-        return m_formats.GeneralNumber(m_termInMonths ? term->count : term->count / MonthsPerYear);
+        return m_formats.GeneralNumber(m_termInMonths ? term->count : term->InYears());
     }
-    const double value = std::get<double>(number);
-    return m_formats.GeneralNumber(kind == ValueKind::Percent ? value * 100 : value);
+    const auto* rate = std::get_if<Rate>(&number);
+    const Percent percent = rate != nullptr ? Percent::FromRate(*rate) : std::get<Percent>(number);
+    return m_formats.GeneralNumber(percent.Value());
 }
 
-QString FieldFormats::DisplayText(ValueKind kind, const FieldNumber& number) const {
+QString FieldFormats::DisplayText(const FieldNumber& number) const {
     if (IsZero(number)) {
         return {};
     }
-    switch (kind) {
-    case ValueKind::Amount:
-        return m_formats.Currency(std::get<Money>(number));
-    case ValueKind::Percent:
-        return m_formats.Percent(std::get<double>(number));
-    case ValueKind::Decimal:
-        return m_formats.ThreeDecimals(std::get<double>(number));
-    default:
-        return m_formats.InOwnDigits(EntryText(kind, number));
+    if (const auto* amount = std::get_if<Money>(&number)) {
+        return m_formats.Currency(*amount);
     }
+    if (const auto* rate = std::get_if<Rate>(&number)) {
+        return m_formats.Percent(*rate);
+    }
+    if (const auto* points = std::get_if<Percent>(&number)) {
+        return m_formats.ThreeDecimals(points->Value());
+    }
+    return m_formats.InOwnDigits(EntryText(number));
 }
 
 FieldNumber FieldFormats::Read(ValueKind kind, const QString& text) const {
+    const auto percent = [&] {
+        return text.isEmpty() ? Percent() : Percent::FromPercent(m_formats.ReadReal(text));
+    };
     switch (kind) {
     case ValueKind::Amount:
         return text.isEmpty() ? Money() : m_formats.ReadAmount(text);
     case ValueKind::Percent:
-        return text.isEmpty() ? 0.0 : m_formats.ReadReal(text) / 100;
+        return percent().ToRate();
     case ValueKind::Decimal:
-        return text.isEmpty() ? 0.0 : m_formats.ReadReal(text);
+        return percent();
     default:
         return text.isEmpty() ? Months() : ReadTerm(kind, text);
     }
@@ -74,13 +56,12 @@ FieldNumber FieldFormats::Read(ValueKind kind, const QString& text) const {
 Months FieldFormats::ReadTerm(ValueKind kind, const QString& text) const {
     const double value = m_formats.ReadReal(text);
     if (m_termInMonths) {
-        return WholeMonths(RoundedHalfToEven(value));
+        return Months::Nearest(value);
     }
     // Twelve and a half years are 150 months for the current loan, but 12 years for an offer:
     // lenders offer whole years, while any number of months may be left to pay.
-    return kind == ValueKind::FractionalTerm
-               ? WholeMonths(RoundedHalfToEven(value * MonthsPerYear))
-               : WholeMonths(RoundedHalfToEven(value) * MonthsPerYear);
+    return kind == ValueKind::FractionalTerm ? Months::FromYears(value)
+                                             : Months::FromWholeYears(value);
 }
 
 } // namespace quend::model

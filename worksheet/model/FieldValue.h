@@ -3,21 +3,15 @@
 #include "DisplayFormats.h"
 #include "Field.h"
 #include "ModelNames.h"
+#include "Quantities.h"
 
 #include <utility>
 #include <variant>
 
 namespace quend::model {
 
-/// A term in whole months.
-struct Months {
-    int count = 0;
-    friend constexpr bool operator==(Months, Months) = default;
-};
-
-/// The number in a field: an amount, a real number (points in percent, a rate as a fraction) or a
-/// term. Its kind says which.
-using FieldNumber = std::variant<Money, double, Months>;
+/// The number in a field: an amount, a rate, points or a term. The field's kind says which.
+using FieldNumber = std::variant<Money, Rate, Percent, Months>;
 
 bool IsZero(const FieldNumber& number);
 
@@ -32,10 +26,10 @@ public:
     void SetTermInMonths(bool inMonths) { m_termInMonths = inMonths; }
 
     /// The bare value, for editing.
-    QString EntryText(ValueKind kind, const FieldNumber& number) const;
+    QString EntryText(const FieldNumber& number) const;
 
     /// The value as shown in a field that is not being edited.
-    QString DisplayText(ValueKind kind, const FieldNumber& number) const;
+    QString DisplayText(const FieldNumber& number) const;
 
     /// The number of a text. Throws ConversionFailure or OverflowFailure.
     FieldNumber Read(ValueKind kind, const QString& text) const;

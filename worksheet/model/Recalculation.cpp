@@ -62,11 +62,10 @@ void Worksheet::Recalculate(unsigned pending) {
 }
 
 void Worksheet::RecalculateEscrow() {
-    constexpr double monthsPerYear = 12;
     m_loan.escrowMonthly = Money();
     try {
         m_loan.escrowMonthly =
-            Money::FromDoubleInCents((m_loan.taxes + m_loan.insurance).ToDouble() / monthsPerYear);
+            Money::FromDoubleInCents((m_loan.taxes + m_loan.insurance).ToDouble() / MonthsPerYear);
     } catch (const Failure&) {
         Show({FieldId::MonthlyEscrow});
         throw;
@@ -150,15 +149,15 @@ void Worksheet::StoreActualPayment(Row row, Money payment) {
 
 void Worksheet::RecalculateCurrentPayment() {
     const bool noAmount = m_current.amount.IsZero();
-    const bool noTerm = m_current.term == 0;
-    const bool noRate = m_current.rate == 0;
+    const bool noTerm = m_current.term.IsZero();
+    const bool noRate = m_current.rate.IsZero();
     const bool none = noAmount && noTerm && noRate;
     // If nobody entered a current loan, nothing is missing.
     MarkMissing(FieldId::CurLoanAmount, noAmount && !none);
     MarkMissing(FieldId::CurLoanTerm, noTerm && !none);
     MarkMissing(FieldId::CurInterestRate, noRate && !none);
-    if (!none && m_current.frequency.isEmpty()) {
-        SetCurrentFrequency(FrequencyCodeToText(QStringLiteral("M")));
+    if (!none && m_current.frequency.IsNone()) {
+        SetCurrentFrequency(FrequencyCodeToText(FrequencyCode(QStringLiteral("M"))));
     }
     if (noAmount || noTerm || noRate) {
         m_current.pAndI = Money();
@@ -214,7 +213,7 @@ void Worksheet::RecalculateCurrentSchedule() {
 }
 
 void Worksheet::ShowAmount(Field field, Money amount) const {
-    m_display->ShowText(field, m_texts.DisplayText(ValueKind::Amount, amount));
+    m_display->ShowText(field, m_texts.DisplayText(amount));
 }
 
 void Worksheet::ShowDate(Field field, Date date) const {

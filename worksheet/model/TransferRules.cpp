@@ -13,11 +13,11 @@ namespace {
 const DisplayFormats& FormatsOf(const Worksheet& worksheet) { return worksheet.Texts().Formats(); }
 
 QString PointsText(const Worksheet& worksheet, Row row, const QString& /*shown*/) {
-    return FormatsOf(worksheet).GeneralNumber(worksheet.OfferOfRow(row).Points());
+    return FormatsOf(worksheet).GeneralNumber(worksheet.OfferOfRow(row).Points().Value());
 }
 
 QString RateText(const Worksheet& worksheet, Row row, const QString& /*shown*/) {
-    return FormatsOf(worksheet).GeneralNumber(worksheet.OfferOfRow(row).InterestRate());
+    return FormatsOf(worksheet).GeneralNumber(worksheet.OfferOfRow(row).InterestRate().Fraction());
 }
 
 /// The displayed payment, read back as a plain number.
@@ -29,8 +29,12 @@ QString PaymentText(const Worksheet& worksheet, Row row, const QString& /*shown*
 
 QString WhoText(const Worksheet& /*worksheet*/, Row /*row*/, const QString& shown) { return shown; }
 
-DroppedValue ReadReal(const Worksheet& worksheet, const QString& text) {
-    return FormatsOf(worksheet).ReadReal(text);
+DroppedValue ReadPoints(const Worksheet& worksheet, const QString& text) {
+    return Percent::FromPercent(FormatsOf(worksheet).ReadReal(text));
+}
+
+DroppedValue ReadRate(const Worksheet& worksheet, const QString& text) {
+    return Rate::FromFraction(FormatsOf(worksheet).ReadReal(text));
 }
 
 DroppedValue ReadAmount(const Worksheet& worksheet, const QString& text) {
@@ -51,8 +55,8 @@ struct TransferRules {
 // The field's rule decides whether a text has the right form.
 constexpr std::array TransferRuless{
     //           field                   travels as   is read as
-    TransferRules{FieldId::Points,        PointsText,  ReadReal},
-    TransferRules{FieldId::InterestRate,  RateText,    ReadReal}, // a fraction, both ways
+    TransferRules{FieldId::Points,        PointsText,  ReadPoints},
+    TransferRules{FieldId::InterestRate,  RateText,    ReadRate}, // a fraction, both ways
     TransferRules{FieldId::ActualPayment, PaymentText, ReadAmount},
     TransferRules{FieldId::Who,           WhoText,     ReadWho},
 };
@@ -93,8 +97,10 @@ void StoreDropped(Worksheet& worksheet, Field field, const DroppedValue& value) 
         worksheet.StoreWho(field.row, *who);
     } else if (const auto* amount = std::get_if<Money>(&value)) {
         worksheet.StoreOfferNumber(field, *amount);
+    } else if (const auto* rate = std::get_if<Rate>(&value)) {
+        worksheet.StoreOfferNumber(field, *rate);
     } else {
-        worksheet.StoreOfferNumber(field, std::get<double>(value));
+        worksheet.StoreOfferNumber(field, std::get<Percent>(value));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "Field.h"
 #include "ModelNames.h"
 #include "Money.h"
+#include "Quantities.h"
 
 #include <QString>
 
@@ -33,8 +34,8 @@ QString DraggedText(const Worksheet& worksheet, Field field, const QString& show
 /// too many. Checks the form only: a lone sign passes here and fails in ReadDropped.
 bool MayDrop(const Worksheet& worksheet, FieldId field, const QString& text);
 
-/// Points or a rate, an amount, a lender.
-using DroppedValue = std::variant<double, Money, QString>;
+/// Points, a rate, an amount, a lender.
+using DroppedValue = std::variant<Percent, Rate, Money, QString>;
 
 /// The value of a received text. Nothing is divided by a hundred: a rate arrives as a fraction. A
 /// lender gets the line ends of WithLenderLines. Throws ConversionFailure or OverflowFailure.

@@ -1,7 +1,6 @@
 #include "Worksheet.h"
 
 #include "Frequency.h"
-#include "LoanTypes.h"
 
 #include <utility>
 
@@ -16,7 +15,9 @@ void Worksheet::SetLoanName(const QString& name) {
     Show({FieldId::LoanName});
 }
 
-void Worksheet::SetLoanType(const QString& code) { Write(m_loan.type, code, FieldId::LoanType); }
+void Worksheet::SetLoanType(const LoanTypeCode& code) {
+    Write(m_loan.type, code, FieldId::LoanType);
+}
 
 void Worksheet::SetLoanAmount(Money amount) {
     Write(m_loan.amount, amount, FieldId::LoanAmount);
@@ -24,7 +25,7 @@ void Worksheet::SetLoanAmount(Money amount) {
     Recalculate(Offers);
 }
 
-void Worksheet::SetLoanTerm(int months) { Write(m_loan.term, months, FieldId::LoanTerm); }
+void Worksheet::SetLoanTerm(Months term) { Write(m_loan.term, term, FieldId::LoanTerm); }
 
 void Worksheet::SetEscrowTaxes(Money perYear) {
     Write(m_loan.taxes, perYear, FieldId::AnnualTaxes);
@@ -41,13 +42,13 @@ void Worksheet::SetCurrentLoanAmount(Money amount) {
     Recalculate(Schedule);
 }
 
-void Worksheet::SetCurrentTerm(int months) {
-    Write(m_current.term, months, FieldId::CurLoanTerm);
+void Worksheet::SetCurrentTerm(Months term) {
+    Write(m_current.term, term, FieldId::CurLoanTerm);
     Recalculate(Schedule);
 }
 
-void Worksheet::SetCurrentInterestRate(double fraction) {
-    Write(m_current.rate, fraction, FieldId::CurInterestRate);
+void Worksheet::SetCurrentInterestRate(Rate rate) {
+    Write(m_current.rate, rate, FieldId::CurInterestRate);
     Recalculate(Schedule);
 }
 

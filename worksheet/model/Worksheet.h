@@ -2,6 +2,7 @@
 
 #include "CLoan.h"
 #include "FieldValue.h"
+#include "LoanTypes.h"
 #include "ModelNames.h"
 #include "OfferOrder.h"
 #include "WorksheetDisplay.h"
@@ -15,8 +16,8 @@ namespace quend::model {
 /// One worksheet: the loan wanted, the current loan and the offers, one in each row.
 ///
 /// Each value is a property with a getter and a setter. A setter stores, sets Dirty if an input
-/// changed, shows the value in its display format and recalculates what depends on it. Terms are
-/// months, rates fractions, dates whole days; zero means "not entered" and shows as an empty field.
+/// changed, shows the value in its display format and recalculates what depends on it.
+/// Zero and empty mean "not entered" and show as an empty field.
 ///
 /// If a setter fails (Failure.h), every input keeps either its old or its new value, results that
 /// could not be computed show as empty, all other recalculations finish, and then the failure is
@@ -38,12 +39,12 @@ public:
     /// One blank counts as no name, too.
     static bool IsEmptyName(const QString& name) { return name.isEmpty() || name == u" "; }
     void SetLoanName(const QString& name);
-    QString LoanType() const { return m_loan.type; }
-    void SetLoanType(const QString& code);
+    LoanTypeCode LoanType() const { return m_loan.type; }
+    void SetLoanType(const LoanTypeCode& code);
     Money LoanAmount() const { return m_loan.amount; }
     void SetLoanAmount(Money amount);
-    int LoanTerm() const override { return m_loan.term; }
-    void SetLoanTerm(int months);
+    Months LoanTerm() const override { return m_loan.term; }
+    void SetLoanTerm(Months term);
     Money EscrowTaxes() const { return m_loan.taxes; }
     void SetEscrowTaxes(Money perYear);
     Money EscrowInsurance() const { return m_loan.insurance; }
@@ -53,10 +54,10 @@ public:
     // The current loan.
     Money CurrentLoanAmount() const { return m_current.amount; }
     void SetCurrentLoanAmount(Money amount);
-    int CurrentTerm() const { return m_current.term; }
-    void SetCurrentTerm(int months);
-    double CurrentInterestRate() const { return m_current.rate; }
-    void SetCurrentInterestRate(double fraction);
+    Months CurrentTerm() const { return m_current.term; }
+    void SetCurrentTerm(Months term);
+    Rate CurrentInterestRate() const { return m_current.rate; }
+    void SetCurrentInterestRate(Rate rate);
     QString CurrentFrequency() const;
     void SetCurrentFrequency(const QString& text);
     Money CurrentPandI() const { return m_current.pAndI; }
@@ -160,23 +161,23 @@ public:
 private:
     struct Loan {
         QString name;
-        QString type;
+        LoanTypeCode type;
         Money amount;
-        int term = 0;
+        Months term;
         Money taxes;
         Money insurance;
         Money escrowMonthly;
     };
     struct CurrentLoan {
         Money amount;
-        int term = 0;
-        double rate = 0;
-        QString frequency;
+        Months term;
+        Rate rate;
+        FrequencyCode frequency;
         Money pAndI;
         Money payment;
         Money balance;
         Money actualPayment;
-        QString actualFrequency;
+        FrequencyCode actualFrequency;
         Date nextPayment;
         Money amountLeft;
         Money interestLeft;

@@ -18,7 +18,7 @@ QString Worksheet::EntryText(Field field) const {
         return m_current.nextPayment.IsNone() ? QString()
                                               : m_texts.Formats().ShortDate(m_current.nextPayment);
     }
-    return m_texts.EntryText(RuleOf(field.id).kind, NumberOf(field));
+    return m_texts.EntryText(NumberOf(field));
 }
 
 bool Worksheet::Accepts(Field field, const QString& text) const {
@@ -56,7 +56,7 @@ FieldNumber Worksheet::NumberOf(Field field) const {
     case FieldId::LoanAmount:
         return m_loan.amount;
     case FieldId::LoanTerm:
-        return Months{m_loan.term};
+        return m_loan.term;
     case FieldId::AnnualTaxes:
         return m_loan.taxes;
     case FieldId::AnnualInsurance:
@@ -66,7 +66,7 @@ FieldNumber Worksheet::NumberOf(Field field) const {
     case FieldId::CurLoanAmount:
         return m_current.amount;
     case FieldId::CurLoanTerm:
-        return Months{m_current.term};
+        return m_current.term;
     case FieldId::CurInterestRate:
         return m_current.rate;
     case FieldId::CurPayment:
@@ -84,7 +84,7 @@ FieldNumber Worksheet::NumberOf(Field field) const {
     case FieldId::InterestRate:
         return OfferOfRow(field.row).InterestRate();
     case FieldId::Term:
-        return Months{OfferOfRow(field.row).Term()};
+        return OfferOfRow(field.row).Term();
     case FieldId::ActualPayment:
         return OfferOfRow(field.row).ActualPayment();
     default:
@@ -118,7 +118,7 @@ void Worksheet::Show(Field field) const {
         return field.id == FieldId::NextPayment ? m_display->ShowDate(field, m_current.nextPayment)
                                                 : ShowDate(field, m_current.payoffDate);
     default:
-        return m_display->ShowText(field, m_texts.DisplayText(rule.kind, NumberOf(field)));
+        return m_display->ShowText(field, m_texts.DisplayText(NumberOf(field)));
     }
 }
 
@@ -248,12 +248,12 @@ void Worksheet::StoreLoanNumber(FieldId field, const FieldNumber& number) {
     case FieldId::LoanAmount:
         return SetLoanAmount(std::get<Money>(number));
     case FieldId::LoanTerm:
-        return SetLoanTerm(std::get<Months>(number).count);
+        return SetLoanTerm(std::get<Months>(number));
     case FieldId::CurLoanTerm:
-        Write(m_current.term, std::get<Months>(number).count, field);
+        Write(m_current.term, std::get<Months>(number), field);
         return Recalculate(Payment | Schedule);
     case FieldId::CurInterestRate:
-        Write(m_current.rate, std::get<double>(number), field);
+        Write(m_current.rate, std::get<Rate>(number), field);
         return Recalculate(Payment | Schedule);
     default:
         return;
@@ -263,15 +263,15 @@ void Worksheet::StoreLoanNumber(FieldId field, const FieldNumber& number) {
 void Worksheet::StoreOfferNumber(Field field, const FieldNumber& number) {
     switch (CLoan& offer = OfferOfRow(field.row); field.id) {
     case FieldId::Points:
-        offer.SetPoints(std::get<double>(number));
+        offer.SetPoints(std::get<Percent>(number));
         break;
     case FieldId::InterestRate:
-        offer.SetInterestRate(std::get<double>(number));
+        offer.SetInterestRate(std::get<Rate>(number));
         // Entering a rate gives an offer without a term the default term.
         Show({FieldId::Term, field.row});
         break;
     case FieldId::Term:
-        offer.SetTerm(std::get<Months>(number).count);
+        offer.SetTerm(std::get<Months>(number));
         break;
     default:
         return StoreActualPayment(field.row, std::get<Money>(number));

@@ -93,7 +93,7 @@ TEST_F(WorksheetLoading, MissingValuesTakeTheirDefaults) {
     FillOffer(read.worksheet, Row{0}, u"Of before"_s);
     EXPECT_TRUE(Load(read).empty());
     EXPECT_EQ(Money(), read.worksheet.LoanAmount());
-    EXPECT_EQ(u"", read.worksheet.LoanType());
+    EXPECT_EQ(u"", read.worksheet.LoanType().Text());
     EXPECT_EQ(u"", read.worksheet.OfferOfRow(Row{0}).Who());
     EXPECT_EQ(Money(), read.worksheet.OfferOfRow(Row{0}).ActualPayment());
     EXPECT_EQ(read.worksheet.Today(), read.worksheet.CurrentNextPayment());
@@ -131,13 +131,13 @@ TEST_F(WorksheetLoading, ThePaymentOfTheLoanHeldTodayIsTheOneThatWasKept) {
 TEST_F(WorksheetLoading, WhatIsMissingOfTheLoanHeldTodayIsMarked) {
     Sheet sheet;
     sheet.worksheet.SetLoanName(u"Our new home"_s);
-    sheet.worksheet.SetCurrentInterestRate(0.05);
+    sheet.worksheet.SetCurrentInterestRate(Rate::FromFraction(0.05));
     Save(sheet);
     Sheet read;
     EXPECT_TRUE(Load(read).empty());
     EXPECT_EQ(Mark::Missing, read.display.Of({FieldId::CurLoanAmount}).mark);
     EXPECT_EQ(Mark::None, read.display.Of({FieldId::CurInterestRate}).mark);
-    EXPECT_EQ(FrequencyCodeToText(u"M"_s), read.worksheet.CurrentFrequency());
+    EXPECT_EQ(FrequencyCodeToText(FrequencyCode(u"M"_s)), read.worksheet.CurrentFrequency());
 }
 
 /// The intended payment is assigned before the rate, so an old offer must not reject it.
@@ -145,9 +145,9 @@ TEST_F(WorksheetLoading, LoadingOverOtherOffersRefusesNoPayment) {
     Sheet sheet;
     Fill(sheet.worksheet);
     CLoan& offer = sheet.worksheet.OfferOfRow(Row{0});
-    offer.SetTerm(360);
-    offer.SetInterestRate(0.03);
-    offer.SetFrequencyCode(u"M"_s);
+    offer.SetTerm(Months{360});
+    offer.SetInterestRate(Rate::FromFraction(0.03));
+    offer.SetFrequencyCode(FrequencyCode(u"M"_s));
     offer.SetActualPayment(Units(1'600));
     Save(sheet);
     Sheet other;

@@ -121,12 +121,13 @@ TEST_F(WorksheetStoreTest, NoFigureChangesUnderAnotherLocaleOrLanguage) {
         Language::Instance().LoadLanguage(abroad.readerLanguage);
         Sheet read(abroad.reader);
         EXPECT_TRUE(Load(read).empty()) << abroad.name;
-        EXPECT_EQ(u"M", read.worksheet.LoanType()) << abroad.name;
+        EXPECT_EQ(u"M", read.worksheet.LoanType().Text()) << abroad.name;
         EXPECT_EQ(Units(250'000.5), read.worksheet.LoanAmount()) << abroad.name;
-        EXPECT_EQ(0.07125, read.worksheet.CurrentInterestRate()) << abroad.name;
+        EXPECT_EQ(Rate::FromFraction(0.07125), read.worksheet.CurrentInterestRate()) << abroad.name;
         EXPECT_EQ(Date::FromCalendar(2026, 12, 3), read.worksheet.CurrentNextPayment())
             << abroad.name;
-        EXPECT_EQ(1.125, read.worksheet.OfferOfRow(Row{0}).Points()) << abroad.name;
+        EXPECT_EQ(Percent::FromPercent(1.125), read.worksheet.OfferOfRow(Row{0}).Points())
+            << abroad.name;
     }
 }
 
@@ -148,7 +149,7 @@ TEST_F(WorksheetStoreTest, OffersComeBackPacked) {
         EXPECT_EQ(expected.at(static_cast<std::size_t>(row.value)),
                   other.worksheet.OfferOfRow(row).Who());
     }
-    EXPECT_EQ(0, other.worksheet.OfferOfRow(Row{4}).Term());
+    EXPECT_EQ(Months{0}, other.worksheet.OfferOfRow(Row{4}).Term());
     EXPECT_EQ(u"", other.display.TextOf({FieldId::Payment, Row{4}}));
 }
 
@@ -187,13 +188,16 @@ TEST_F(WorksheetStoreTest, WhatMakesAnOfferWorthKeeping) {
     };
     for (const Case& row : {
              Case{"nothing", [](CLoan&) {}, false},
-             Case{"a term", [](CLoan& offer) { offer.SetTerm(360); }, false},
-             Case{"a frequency", [](CLoan& offer) { offer.SetFrequencyCode(u"M"_s); }, false},
+             Case{"a term", [](CLoan& offer) { offer.SetTerm(Months{360}); }, false},
+             Case{"a frequency",
+                  [](CLoan& offer) { offer.SetFrequencyCode(FrequencyCode(u"M"_s)); }, false},
              Case{"a lender", [](CLoan& offer) { offer.SetWho(u"x"_s); }, true},
              Case{"a payment", [](CLoan& offer) { offer.SetActualPayment(Units(1)); }, true},
              Case{"financed", [](CLoan& offer) { offer.SetFinancePoints(true); }, true},
-             Case{"a rate", [](CLoan& offer) { offer.SetInterestRate(0.01); }, true},
-             Case{"points", [](CLoan& offer) { offer.SetPoints(-0.5); }, true},
+             Case{"a rate", [](CLoan& offer) { offer.SetInterestRate(Rate::FromFraction(0.01)); },
+                  true},
+             Case{"points", [](CLoan& offer) { offer.SetPoints(Percent::FromPercent(-0.5)); },
+                  true},
          }) {
         Sheet sheet;
         sheet.worksheet.SetLoanName(u"Our new home"_s);

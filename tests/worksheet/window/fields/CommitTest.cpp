@@ -140,7 +140,7 @@ TEST_F(LeavingUntouched, ARateGivesAMissingTermTheDefaultOne) {
         Enter(u"txtInterestRate(0)");
         way.pass();
         EXPECT_EQ(Text(u"txtTerm(0)"), u"30");
-        EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), 360);
+        EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), Months{360});
         Shut();
     }
 }
@@ -148,17 +148,17 @@ TEST_F(LeavingUntouched, ARateGivesAMissingTermTheDefaultOne) {
 TEST_F(LeavingUntouched, ChangesNoValueAndSavesNothing) {
     Open({.termInMonths = false});
     FillFirstOffer();
-    SheetToWrite().OfferOfRow(Row{0}).SetTerm(30); // shown as 2.5 years
+    SheetToWrite().OfferOfRow(Row{0}).SetTerm(Months{30}); // shown as 2.5 years
     SheetToWrite().ShowOffer(Row{0});
-    SheetToWrite().SetLoanTerm(30);
+    SheetToWrite().SetLoanTerm(Months{30});
     SheetToWrite().ClearDirty();
     Click(u"cboLoanName");
     for (int stop = 0; stop < 40; ++stop) {
         Tab();
     }
     EXPECT_FALSE(Sheet().Dirty());
-    EXPECT_EQ(Sheet().LoanTerm(), 30);
-    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), 30);
+    EXPECT_EQ(Sheet().LoanTerm(), Months{30});
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), Months{30});
     EXPECT_TRUE(SettledMessages().isEmpty()) << Messages().Texts().join(u'\n').toStdString();
 }
 

@@ -215,8 +215,8 @@ TEST_P(TermEntry, PassingThroughAFieldKeepsItsMonths) {
     const bool inMonths = GetParam();
     Open({.termInMonths = inMonths});
     const QStringView shown = inMonths ? u"30" : u"2.5";
-    SheetToWrite().SetLoanTerm(30);
-    SheetToWrite().SetCurrentTerm(30);
+    SheetToWrite().SetLoanTerm(Months{30});
+    SheetToWrite().SetCurrentTerm(Months{30});
     Fill(u"txtInterestRate(0)", u"6"); // an offer without a term takes the default term
     for (const QStringView field : {u"txtLoanTerm", u"txtCurLoanTerm", u"txtTerm(0)"}) {
         EXPECT_EQ(Text(field), shown);
@@ -226,9 +226,9 @@ TEST_P(TermEntry, PassingThroughAFieldKeepsItsMonths) {
         Tab();
         EXPECT_EQ(Text(field), shown);
     }
-    EXPECT_EQ(Sheet().LoanTerm(), 30);
-    EXPECT_EQ(Sheet().CurrentTerm(), 30);
-    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), 30);
+    EXPECT_EQ(Sheet().LoanTerm(), Months{30});
+    EXPECT_EQ(Sheet().CurrentTerm(), Months{30});
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), Months{30});
     EXPECT_TRUE(SettledMessages().isEmpty());
 }
 
@@ -241,10 +241,10 @@ TEST_P(TermEntry, ReadsTermsInTheUnitOfTheUser) {
     Click(u"txtTerm(1)");
     Paste(u"30.5"); // halves go to the even number
     Tab();
-    EXPECT_EQ(Sheet().LoanTerm(), 30 * perUnit);
-    EXPECT_EQ(Sheet().CurrentTerm(), 15 * perUnit);
-    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), 20 * perUnit);
-    EXPECT_EQ(Sheet().OfferOfRow(Row{1}).Term(), 30 * perUnit);
+    EXPECT_EQ(Sheet().LoanTerm(), Months{30 * perUnit});
+    EXPECT_EQ(Sheet().CurrentTerm(), Months{15 * perUnit});
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), Months{20 * perUnit});
+    EXPECT_EQ(Sheet().OfferOfRow(Row{1}).Term(), Months{30 * perUnit});
 }
 
 using LenderField = WindowTest;

@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "Language.h"
+#include "Overflow.h"
 
 #include <algorithm>
 
@@ -18,7 +19,7 @@ double PeriodsOfTerm(const Frequency& frequency, int termMonths) {
         return termMonths / 12.0 * frequency.periodsPerYear;
     }
     int periods = 0;
-    if (__builtin_mul_overflow(termMonths, frequency.wholePeriodsPerMonth, &periods)) {
+    if (ProductOverflows(termMonths, frequency.wholePeriodsPerMonth, periods)) {
         throw OverflowFailure("PeriodsOfTerm");
     }
     return periods;

@@ -3,7 +3,6 @@
 #include "StoreCheck.h"
 
 #include "StoreFixture.h"
-#include "StorePages.h"
 #include "StoreSnapshot.h"
 #include "StoreSoundness.h"
 

@@ -3,6 +3,8 @@
 #include "Failure.h"
 #include "Overflow.h"
 
+namespace quend::calc {
+
 namespace {
 
 constexpr std::chrono::sys_days DayZero = std::chrono::year(1899) / std::chrono::December / 30;
@@ -38,3 +40,5 @@ Date Date::PlusOneMonth() const {
 }
 
 void Date::RaiseOverflow() { throw OverflowFailure("Date"); }
+
+} // namespace quend::calc

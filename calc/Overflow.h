@@ -2,6 +2,8 @@
 
 #include <concepts>
 
+namespace quend::calc {
+
 /// Whether a result does not fit into its type; `result` then holds nothing useful. The one place
 /// of these compiler functions: a compiler without them needs another implementation here.
 
@@ -19,3 +21,5 @@ template <std::integral Integer>
 constexpr bool ProductOverflows(Integer left, Integer right, Integer& result) {
     return __builtin_mul_overflow(left, right, &result);
 }
+
+} // namespace quend::calc

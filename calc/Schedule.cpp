@@ -3,6 +3,8 @@
 #include "Failure.h"
 #include "Overflow.h"
 
+namespace quend::calc {
+
 namespace {
 
 constexpr auto Unwatched = [](const SchedulePeriod&) {};
@@ -29,3 +31,5 @@ Payoff RunToPayoff(const ScheduleTerms& terms) { return RunToPayoff(terms, Unwat
 ScheduleTotals RunSchedule(const ScheduleTerms& terms) {
     return ScheduleLoop::Totals(terms, RunToPayoff(terms));
 }
+
+} // namespace quend::calc

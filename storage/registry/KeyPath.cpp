@@ -5,6 +5,8 @@
 
 #include <string_view>
 
+namespace quend::registry {
+
 namespace {
 
 std::string_view UpToNul(std::string_view text) { return text.substr(0, text.find('\0')); }
@@ -34,3 +36,5 @@ std::optional<std::string> ValueNameOf(const std::string& valueName) {
     const std::string_view name = UpToNul(valueName);
     return Fits(name, LongestValueName) ? std::optional<std::string>(name) : std::nullopt;
 }
+
+} // namespace quend::registry

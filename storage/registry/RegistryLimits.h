@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <string>
 
+namespace quend::registry {
+
 /// The limits of the store. They match the platform's registry, so that a store can move between
 /// platforms.
 
@@ -21,3 +23,5 @@ inline constexpr std::size_t NoSubkeysLength = 260;
 
 /// Whether the text (UTF-8) has at most LongestText characters.
 bool IsReadableLength(const std::string& text);
+
+} // namespace quend::registry

@@ -9,6 +9,8 @@
 
 #include <optional>
 
+namespace quend::storage {
+
 namespace {
 
 /// No value for an invalid name: it would address a different key.
@@ -133,3 +135,5 @@ void WorksheetStore::Delete(const QString& name) const {
         }
     });
 }
+
+} // namespace quend::storage

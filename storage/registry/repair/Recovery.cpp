@@ -15,6 +15,8 @@
 #include <string_view>
 #include <vector>
 
+namespace quend::registry {
+
 namespace {
 
 /// Whether the name is valid and matches its folded form.
@@ -184,3 +186,5 @@ Recovery::Counts Recovery::WriteTo(KeyTree& keys, const NamedKeys& named) const 
     writer.WriteLost();
     return writer.Written();
 }
+
+} // namespace quend::registry

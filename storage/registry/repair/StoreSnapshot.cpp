@@ -9,6 +9,8 @@
 #include <map>
 #include <utility>
 
+namespace quend::registry {
+
 namespace {
 
 constexpr std::size_t UsualPageSize = 4'096;
@@ -162,3 +164,5 @@ std::string StoreSnapshot::AsPlainFile() && {
     }
     return std::move(m_bytes);
 }
+
+} // namespace quend::registry

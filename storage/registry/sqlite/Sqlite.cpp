@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace quend::registry {
+
 namespace {
 
 constexpr const char* FileSystemName = "quend-loan";
@@ -180,3 +182,5 @@ void Transaction::Keep() {
     m_connection->Execute("COMMIT");
     m_open = false;
 }
+
+} // namespace quend::registry

@@ -6,6 +6,8 @@
 #include <QStringDecoder>
 #include <QTextBoundaryFinder>
 
+namespace quend::registry {
+
 namespace {
 
 /// Each invalid byte becomes U+FFFD. QString::fromUtf8 would drop a U+FEFF at the start, which may
@@ -42,3 +44,5 @@ bool IsReadableLength(const std::string& text) {
     }
     return count <= LongestText;
 }
+
+} // namespace quend::registry

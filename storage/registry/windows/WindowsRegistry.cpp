@@ -15,6 +15,8 @@
 #include <optional>
 #include <type_traits>
 
+namespace quend::registry {
+
 namespace {
 
 constexpr std::size_t MostBytesOfCharacter = 3; // for each UTF-16 unit
@@ -239,3 +241,5 @@ RegistryAPI::ReadInTransaction(const std::function<void(const RegistryAPI&)>& st
     steps(*this);
     return StoreTrouble::None;
 }
+
+} // namespace quend::registry

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::registry {
+
 namespace {
 
 constexpr std::string_view Replacement = "\xEF\xBF\xBD"; // U+FFFD
@@ -106,3 +108,5 @@ bool IsReadableLength(const std::string& text) {
     }
     return count <= LongestText;
 }
+
+} // namespace quend::registry

@@ -12,6 +12,8 @@
 
 #include <QLineEdit>
 
+namespace quend::window {
+
 FieldBehaviour::FieldBehaviour(Worksheet& worksheet, const ControlMap& controls, OfferRows& rows,
                                MessageQueue& messages)
     : m_worksheet(&worksheet), m_controls(&controls), m_rows(&rows), m_messages(&messages) {}
@@ -96,3 +98,5 @@ bool FieldBehaviour::MoveByArrow(Field field, int key) {
     }
     return true;
 }
+
+} // namespace quend::window

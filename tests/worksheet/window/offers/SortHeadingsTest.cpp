@@ -1,6 +1,7 @@
 // The headings sort the offers, and everything afterwards uses the right offer.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "SortButton.h"
 #include "WindowFixture.h"
 
@@ -226,7 +227,7 @@ QPalette Dark() {
     return dark;
 }
 
-TEST_F(SortHeadings, TheArrowStandsBesideTheCaptionAndOutInEveryPalette) {
+TEST_F(SortHeadings, TheArrowIsBesideTheCaptionAndVisibleInEveryPalette) {
     for (const QPalette& palette : {QApplication::palette(), Dark()}) {
         auto& button = Get<SortButton>(u"cmdInterest");
         button.setPalette(palette);

@@ -1,13 +1,11 @@
 #include "WorksheetStore.h"
 
-#include "KeyPath.h"
 #include "Language.h"
+#include "RegistryLimits.h"
 #include "StoreNames.h"
 #include "StoredWorksheet.h"
 #include "TextNumbers.h"
 #include "WorksheetValues.h"
-
-#include <QTextBoundaryFinder>
 
 #include <optional>
 
@@ -20,16 +18,6 @@ std::optional<std::string> KeyOf(const QString& name) {
     return WorksheetStore::CanBeKept(name)
                ? std::optional(std::string(BaseKey) + '\\' + name.toStdString())
                : std::nullopt;
-}
-
-/// Counts as users do: a letter with its accents is one character.
-qsizetype CharactersOf(const QString& text) {
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    qsizetype count = 0;
-    while (finder.toNextBoundary() != -1) {
-        ++count;
-    }
-    return count;
 }
 
 void WriteOffer(const RegistryAPI& store, const std::string& key, const CLoan& offer, int number,
@@ -75,8 +63,7 @@ NameFault WorksheetStore::FaultOf(const QString& name) {
 }
 
 bool WorksheetStore::CanHoldLender(const QString& who) {
-    constexpr qsizetype longest = 1023;
-    return CharactersOf(who) <= longest;
+    return IsReadableLength(who.toStdString());
 }
 
 bool WorksheetStore::IsWorthKeeping(const CLoan& offer) {
@@ -91,8 +78,7 @@ QStringList WorksheetStore::Names() const {
         names.append(QString::fromStdString(key));
     }
     // The placeholder for "none" has more blanks than any name can have.
-    constexpr qsizetype none = 260;
-    if (names.size() == 1 && names.front() == QString(none, u' ')) {
+    if (names.size() == 1 && names.front() == QString(qsizetype{NoSubkeysLength}, u' ')) {
         names.clear();
     }
     return names;

@@ -3,6 +3,7 @@
 #include "Language.h"
 #include "LoanForm.h"
 #include "PrintServerFixture.h"
+#include "TextNumbers.h"
 
 #include <QAction>
 #include <QApplication>
@@ -302,7 +303,7 @@ TEST_F(ServerOnlyTest, NoPrinterAtAllIsToldInsteadOfAsking) {
     EXPECT_EQ(answer.Count(), 0);
     EXPECT_EQ(Job(), nullptr);
     EXPECT_EQ(Text(u"cboLoanName"), u"Our home");
-    ExpectNoTrace({GetResourceText(660)});
+    ExpectNoTrace({GetResourceText(TextNumber::NoPrinter)});
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "DragFixture.h"
 #include "Language.h"
+#include "TextNumbers.h"
 
 #include <QAction>
 #include <QApplication>
@@ -286,7 +287,7 @@ TEST_F(FieldClipboard, TheMenuPastesAsADropDoes) {
 TEST_F(FieldClipboard, TheMenuPastesACellAsItsValue) {
     Clip(u"0.05\r\n");
     InMenu(u"txtInterestRate(0)", [](const QMenu& menu) {
-        QAction& paste = Entry(menu, GetResourceText(541));
+        QAction& paste = Entry(menu, GetResourceText(TextNumber::PasteValue));
         EXPECT_TRUE(paste.isEnabled());
         paste.trigger();
     });

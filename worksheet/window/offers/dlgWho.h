@@ -11,6 +11,7 @@ namespace Ui {
 class dlgWho;
 }
 
+class FailureReport;
 class Worksheet;
 
 /// The lender dialog of one offer. OK stores the text, of any length and any number of lines;
@@ -23,11 +24,9 @@ class dlgWho : public QDialog {
 
 public:
     /// Throws std::out_of_range for an offer that does not exist.
-    dlgWho(Worksheet& worksheet, OfferIndex whoOfferIndex, QWidget& parent);
-    dlgWho(const dlgWho&) = delete;
-    dlgWho& operator=(const dlgWho&) = delete;
-    dlgWho(dlgWho&&) = delete;
-    dlgWho& operator=(dlgWho&&) = delete;
+    dlgWho(Worksheet& worksheet, OfferIndex whoOfferIndex, QWidget& parent,
+           const FailureReport& report);
+    Q_DISABLE_COPY_MOVE(dlgWho)
     ~dlgWho() override;
 
 protected:

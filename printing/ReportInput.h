@@ -5,7 +5,6 @@
 #include <QString>
 
 #include <array>
-#include <cstddef>
 #include <vector>
 
 /// What the report shows of the main window, read at one moment. Positions are in pixels of the
@@ -36,11 +35,9 @@ struct FormColumn {
     Side side = Side::Left;
 };
 
-inline constexpr std::size_t OfferColumnCount = 11;
-
-/// The texts of an offer in the order of the columns. The tick box shows "x" or nothing. The last
-/// text describes the lender and may contain "\r\n".
-using FormRow = std::array<QString, OfferColumnCount>;
+/// The texts of an offer, one for each column. The tick box shows "x" or nothing. The last text
+/// describes the lender and may contain "\r\n".
+using FormRow = std::vector<QString>;
 
 struct ReportInput {
     double width = 0;          ///< of the window
@@ -55,9 +52,9 @@ struct ReportInput {
     std::vector<FormLabel> headings;
     double offersLeft = 0; ///< of the offer area
     double offersTop = 0;
-    std::array<FormColumn, OfferColumnCount> columns;
-    double scrollBarWidth = 0; ///< beside the offers
-    double fieldHeight = 0;    ///< of a field in an offer row
+    std::vector<FormColumn> columns; ///< the last one holds the lender
+    double scrollBarWidth = 0;       ///< beside the offers
+    double fieldHeight = 0;          ///< of a field in an offer row
     std::vector<FormRow> rows;
     QString legalNotice;
 };

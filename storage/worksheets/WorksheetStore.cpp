@@ -13,11 +13,16 @@
 
 namespace {
 
+/// A name that equals the entry for a new loan is allowed here.
+bool CanBeKept(const QString& name) {
+    return !Worksheet::IsEmptyName(name) && name.size() <= static_cast<qsizetype>(LongestKeyName) &&
+           name.isValidUtf16() && !name.contains(u'\\') && !name.contains(QChar::Null);
+}
+
 /// No value for an invalid name: it would address a different key.
 std::optional<std::string> KeyOf(const QString& name) {
-    return WorksheetStore::CanBeKept(name)
-               ? std::optional(std::string(BaseKey) + '\\' + name.toStdString())
-               : std::nullopt;
+    return CanBeKept(name) ? std::optional(std::string(BaseKey) + '\\' + name.toStdString())
+                           : std::nullopt;
 }
 
 /// Counts as users do: a letter with its accents is one character.
@@ -55,11 +60,6 @@ void Write(const RegistryAPI& store, const std::string& key, const Worksheet& wo
 
 } // namespace
 
-bool WorksheetStore::CanBeKept(const QString& name) {
-    return !Worksheet::IsEmptyName(name) && name.size() <= static_cast<qsizetype>(LongestKeyName) &&
-           name.isValidUtf16() && !name.contains(u'\\') && !name.contains(QChar::Null);
-}
-
 NameFault WorksheetStore::FaultOf(const QString& name) {
     if (Worksheet::IsEmptyName(name)) {
         return NameFault::Empty;
@@ -94,11 +94,6 @@ QStringList WorksheetStore::Names() const {
         names.clear();
     }
     return names;
-}
-
-bool WorksheetStore::Exists(const QString& name) const {
-    const auto key = KeyOf(name);
-    return key && m_store.KeyExists(StoreRoot, *key);
 }
 
 void WorksheetStore::Save(Worksheet& worksheet) const {

@@ -24,7 +24,7 @@ namespace {
 
 /// Screen readers also find the edits inside some controls.
 void NameInnerEdits(const Ui::Loan& form) {
-    constexpr const char* number = "accessibleText";
+    constexpr const char* number = TextProperty::Name;
     form.cboLoanName->lineEdit()->setProperty(number, TextNumber::LoanNameEdit);
     form.dtNextPayment->findChild<QLineEdit*>()->setProperty(number,
                                                              form.dtNextPayment->property(number));
@@ -87,10 +87,10 @@ Loan::Loan(const World& world, Settings settings)
       m_dragHandlers(m_values, m_controls), m_dragScroll(m_rows, *m_ui->picScroll),
       m_dragging({this, m_ui->picScroll}, m_dragHandlers, m_controls, m_dragScroll, m_report),
       m_clipboard(m_values, m_controls, m_messages, m_report),
-      m_languages(*m_ui->mnuToolsLanguage, {m_ui->mnuToolsLanguageOpt1, m_ui->mnuToolsLanguageOpt2},
-                  {.commit = [this] { return m_focus.Commit(); },
-                   .guard = [this](const auto& handler) { m_report.Guard(handler); },
-                   .renew = [this] { RenewLanguage(); }}),
+      m_languages(
+          *m_ui->mnuToolsLanguage, {m_ui->mnuToolsLanguageOpt1, m_ui->mnuToolsLanguageOpt2},
+          {.commit = [this] { return m_focus.Commit(); }, .renew = [this] { RenewLanguage(); }},
+          m_report),
       m_resultKeys(*this, m_controls, m_rows) {
     WireFields();
     m_report.Guard([this] { Form_Load(); });
@@ -126,7 +126,11 @@ bool Loan::Form_Unload() { return m_focus.Commit() && (!m_mayClose || m_mayClose
 
 void Loan::mnuFileExit_Click() { close(); }
 
-void Loan::closeEvent(QCloseEvent* event) { event->setAccepted(Form_Unload()); }
+void Loan::closeEvent(QCloseEvent* event) {
+    bool closes = false;
+    m_report.Guard([&] { closes = Form_Unload(); });
+    event->setAccepted(closes);
+}
 
 void Loan::WireFields() {
     m_focus.Watch(*this);

@@ -47,10 +47,7 @@ public:
         std::function<Date()> today;
     };
     Loan(const World& world, Settings settings);
-    Loan(const Loan&) = delete;
-    Loan& operator=(const Loan&) = delete;
-    Loan(Loan&&) = delete;
-    Loan& operator=(Loan&&) = delete;
+    Q_DISABLE_COPY_MOVE(Loan)
     ~Loan() override;
 
     // For the commands objects of the subsystems, which own the handlers of their menu entries.

@@ -5,7 +5,6 @@
 #include "Language.h"
 #include "LoanNameBox.h"
 #include "SettingsStore.h"
-#include "StartUp.h"
 #include "StoreCheck.h"
 #include "StoreFolder.h"
 #include "WindowFixture.h"

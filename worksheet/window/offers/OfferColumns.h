@@ -4,11 +4,22 @@
 
 #include <QRect>
 
+#include <span>
 #include <vector>
 
 class ControlMap;
 class DisplayFormats;
 class QWidget;
+
+/// A heading belongs to one column; the first one to the tick box and the points beside it.
+struct OfferHeading {
+    const char* control;
+    FieldId first;
+    FieldId last;
+};
+
+/// The headings above the columns of OfferFields(), from left to right.
+std::span<const OfferHeading> OfferHeadings();
 
 /// The column positions of the offers. Each column is as wide as its values and headings need; the
 /// rest of the width is distributed. Headings and rows use the same columns. Does not scroll.

@@ -2,6 +2,7 @@
 // texts, without painting.
 
 #include "Frequency.h"
+#include "QuendNames.h"
 #include "Worksheet.h"
 
 #include <benchmark/benchmark.h>

@@ -6,6 +6,8 @@
 
 #include <utility>
 
+namespace quend::calc {
+
 void CLoan::SetInterestRate(double rate) {
     Change(m_interestRate, rate);
     if (m_interestRate != 0.0 && m_term == 0) {
@@ -78,3 +80,5 @@ Date CLoan::PayoffDate() {
     m_interest = payoff.interest;
     return payoff.date;
 }
+
+} // namespace quend::calc

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+namespace quend::calc {
+
 /// What an offer needs from its worksheet, and what it reports to it.
 class LoanContext {
 public:
@@ -113,3 +115,5 @@ private:
     Money m_interest;
     QString m_who;
 };
+
+} // namespace quend::calc

@@ -2,6 +2,8 @@
 
 #include "Failure.h"
 
+namespace quend::calc {
+
 namespace {
 
 constexpr std::chrono::sys_days DayZero = std::chrono::year(1899) / std::chrono::December / 30;
@@ -37,3 +39,5 @@ Date Date::PlusOneMonth() const {
 }
 
 void Date::RaiseOverflow() { throw OverflowFailure("Date"); }
+
+} // namespace quend::calc

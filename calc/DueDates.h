@@ -2,6 +2,8 @@
 
 #include "Date.h"
 
+namespace quend::calc {
+
 /// A date that advances month by month. It keeps the calendar fields beside the day count, so that
 /// a step needs no conversion. A day reduced to a short month's end stays reduced.
 class MonthlyDates {
@@ -74,3 +76,5 @@ private:
     Date m_date;
     int m_days;
 };
+
+} // namespace quend::calc

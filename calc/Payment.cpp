@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+namespace quend::calc {
+
 Money PrincipalAndInterest(Money principal, double rate, int termMonths, const QString& code) {
     const Frequency* const frequency = FindFrequency(code);
     if (principal.IsZero() || rate == 0.0 || termMonths == 0 || frequency == nullptr) {
@@ -14,3 +16,5 @@ Money PrincipalAndInterest(Money principal, double rate, int termMonths, const Q
     const double annuity = (1.0 - std::pow(1.0 + periodRate, -periods)) / periodRate;
     return Money::FromDoubleInCents(principal.ToDouble() / annuity);
 }
+
+} // namespace quend::calc

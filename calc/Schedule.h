@@ -7,6 +7,8 @@
 
 #include <cstdint>
 
+namespace quend::calc {
+
 /// The inputs of a schedule.
 struct ScheduleTerms {
     Money balance;
@@ -159,3 +161,5 @@ template <typename Watch>
 ScheduleTotals RunSchedule(const ScheduleTerms& terms, Watch watch) {
     return ScheduleLoop::Totals(terms, RunToPayoff(terms, watch));
 }
+
+} // namespace quend::calc

@@ -8,6 +8,8 @@
 
 #include <utility>
 
+namespace quend::extras {
+
 AboutCommands::AboutCommands(Loan& window, RegistryAPI store, SystemInfoInterface system)
     : m_window(&window), m_store(std::move(store)), m_system(std::move(system)) {
     QAction* entry = window.Form().mnuHelpAbout;
@@ -27,3 +29,5 @@ void AboutCommands::cmdSysInfo_Click() {
         m_window->GetMessages().Post(GetResourceText(TextNumber::NoSystemInfo));
     }
 }
+
+} // namespace quend::extras

@@ -9,6 +9,8 @@
 #include <cmath>
 #include <utility>
 
+namespace quend::extras {
+
 namespace {
 
 const QLatin1String Marker("?ID");
@@ -49,3 +51,5 @@ void ShareCommands::cmdShare_Click() {
     m_mail->Send(session, {GetResourceText(TextNumber::MailSubject), body});
     m_mail->SignOff(session);
 }
+
+} // namespace quend::extras

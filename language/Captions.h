@@ -2,6 +2,8 @@
 
 class QObject;
 
+namespace quend::language {
+
 /// The unit in which terms are typed.
 enum class TermUnit { Months, Years };
 
@@ -34,3 +36,5 @@ inline constexpr const char* ActiveAway     = "activeTextAway";     ///< true wh
 /// An `ordinal` above 0 replaces "%1" in accessible names. It is stored in `window`, so that a
 /// later call for an enclosing window finds it.
 void ApplyTexts(QObject& window, TermUnit unit, int ordinal = 0);
+
+} // namespace quend::language

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace quend::language {
+
 /// The numbers of the texts that code uses, in ascending order. A number is written only here and
 /// in the tables of the languages; those that only forms use are not listed.
 namespace TextNumber {
@@ -110,3 +112,5 @@ inline constexpr int PartMissing = 666; ///< %1: the file
 inline constexpr int LegalNotice = 682;
 
 } // namespace TextNumber
+
+} // namespace quend::language

@@ -15,6 +15,8 @@
 
 #include <utility>
 
+namespace quend::printing {
+
 namespace {
 
 QString TextOf(const PrintOutcome& outcome) {
@@ -140,3 +142,5 @@ void PrintCommands::EndJob() {
         QCoreApplication::quit();
     }
 }
+
+} // namespace quend::printing

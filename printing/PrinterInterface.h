@@ -11,6 +11,8 @@
 
 class QWidget;
 
+namespace quend::printing {
+
 /// A refusal: why nothing can be printed or was printed.
 enum class PrintFault {
     None,
@@ -53,3 +55,5 @@ public:
     /// function is called, and refusals are that function's result.
     virtual HandOver Document(const PrintedPages& pages) = 0;
 };
+
+} // namespace quend::printing

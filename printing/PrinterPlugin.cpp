@@ -2,6 +2,9 @@
 
 #include "Language.h"
 #include "Plugin.h"
+#include "PrintingNames.h"
+
+namespace quend::printing {
 
 PrinterInterface& PrinterOfPlugin::Printer() {
     if (!m_printer) {
@@ -10,3 +13,5 @@ PrinterInterface& PrinterOfPlugin::Printer() {
     }
     return *m_printer;
 }
+
+} // namespace quend::printing

@@ -9,6 +9,8 @@
 
 class QString;
 
+namespace quend::printing {
+
 /// The interface of the plugin that accesses the printers of this system.
 class PrinterPlugin {
 public:
@@ -19,10 +21,6 @@ public:
 
     virtual std::unique_ptr<PrinterInterface> Printers(Words words) const = 0;
 };
-
-// A macro, because moc reads it.
-#define PrinterPlugin_iid "quend.loan.PrinterPlugin/2"
-Q_DECLARE_INTERFACE(PrinterPlugin, PrinterPlugin_iid)
 
 /// The printers of this system. Loads the printing plugin on the first call; while the plugin is
 /// missing, every call throws ComponentFailure.
@@ -40,3 +38,9 @@ private:
 
     std::unique_ptr<PrinterInterface> m_printer;
 };
+
+} // namespace quend::printing
+
+// A macro, because moc reads it.
+#define PrinterPlugin_iid "quend.loan.PrinterPlugin/2"
+Q_DECLARE_INTERFACE(quend::printing::PrinterPlugin, PrinterPlugin_iid)

@@ -7,6 +7,8 @@
 #include <array>
 #include <vector>
 
+namespace quend::printing {
+
 /// What the report shows of the main window, read at one moment. Positions are in pixels of the
 /// window below its menu bar.
 
@@ -58,3 +60,5 @@ struct ReportInput {
     std::vector<FormRow> rows;
     QString legalNotice;
 };
+
+} // namespace quend::printing

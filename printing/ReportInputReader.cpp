@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::printing {
+
 namespace {
 
 /// A field and its label.
@@ -267,3 +269,5 @@ ReportInput ReadForm(Loan& window, double widest) {
     window.Reenter();
     return form;
 }
+
+} // namespace quend::printing

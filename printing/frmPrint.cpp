@@ -15,6 +15,8 @@
 #include <exception>
 #include <utility>
 
+namespace quend::printing {
+
 namespace {
 
 std::unique_ptr<Ui::frmPrint> FormOf(frmPrint& window) {
@@ -215,3 +217,5 @@ void frmPrint::Unload() {
         Q_EMIT Unloaded();
     }
 }
+
+} // namespace quend::printing

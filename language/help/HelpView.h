@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <QTextBrowser>
 
+namespace quend::help {
+
 class HelpCollection;
 
 /// The colour of links on a background of this palette. Few dark palettes define one, and Qt's
@@ -38,3 +40,5 @@ private:
     QString m_section;    ///< the name of the requested section
     int m_sectionTop = 0; ///< in pixels from the start of the page
 };
+
+} // namespace quend::help

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "HelpNames.h"
+
 #include <QRect>
 #include <QSortFilterProxyModel>
 #include <QString>
@@ -12,8 +14,11 @@ namespace Ui {
 class HelpWindow;
 }
 
-class HelpCollection;
 class QModelIndex;
+
+namespace quend::help {
+
+class HelpCollection;
 
 /// The initial geometry of the help window in 1024ths of the screen, so that it is beside the main
 /// window and covers the lower right of any screen.
@@ -87,3 +92,5 @@ private:
     std::shared_ptr<HelpCollection> m_collection;
     QSortFilterProxyModel m_keywords;
 };
+
+} // namespace quend::help

@@ -4,6 +4,8 @@
 
 class QWidget;
 
+namespace quend::storage {
+
 /// Where the search for a picture starts. The file and the folder need not exist.
 struct PictureRequest {
     QString file;
@@ -23,3 +25,5 @@ class PictureDialog : public PictureChooser {
 public:
     QString Choose(QWidget& parent, const PictureRequest& request) override;
 };
+
+} // namespace quend::storage

@@ -13,6 +13,8 @@
 #include <string>
 #include <variant>
 
+namespace quend::storage {
+
 namespace {
 
 constexpr const char* CurrentLanguageName = "CurrentLanguage";
@@ -145,3 +147,5 @@ void SaveSettings(const RegistryAPI& store, const Settings& settings) {
         // Settings that were not saved can be set again; they must not block closing the program.
     }
 }
+
+} // namespace quend::storage

@@ -16,6 +16,8 @@
 
 #include <utility>
 
+namespace quend::storage {
+
 namespace {
 
 std::unique_ptr<Ui::frmOptions> FormOf(frmOptions& dialog) {
@@ -160,3 +162,5 @@ bool frmOptions::eventFilter(QObject* watched, QEvent* event) {
     return event->type() == QEvent::Shortcut && watched != m_ui->CancelButton &&
            !txtLoans_Validate();
 }
+
+} // namespace quend::storage

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace quend::storage {
+
 namespace {
 
 template <class Owner>
@@ -61,3 +63,5 @@ RepairedWorksheets FindIncomplete(const RegistryAPI& store) {
     }
     return found;
 }
+
+} // namespace quend::storage

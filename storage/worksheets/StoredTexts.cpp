@@ -9,6 +9,8 @@
 #include <initializer_list>
 #include <limits>
 
+namespace quend::storage {
+
 namespace {
 
 bool IsDecimalSymbol(QChar c) {
@@ -76,3 +78,5 @@ Date StoredTexts::ReadDate(const std::string& text) const {
     }
     throw ConversionFailure(ProgramSource);
 }
+
+} // namespace quend::storage

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <string_view>
 
+namespace quend::storage {
+
 namespace {
 
 template <class Owner>
@@ -99,3 +101,5 @@ void StoredWorksheet::PutOffers(Worksheet& worksheet) {
         Try(OfferPrefix(row.value + 1), [&] { worksheet.ShowOffer(row); });
     }
 }
+
+} // namespace quend::storage

@@ -3,6 +3,7 @@
 #include "DisplayFormats.h"
 #include "Failure.h"
 #include "RegistryAPI.h"
+#include "StorageNames.h"
 #include "Worksheet.h"
 
 #include <QString>
@@ -11,6 +12,8 @@
 #include <functional>
 #include <string>
 #include <vector>
+
+namespace quend::storage {
 
 /// The largest number of offers that is ever saved; a larger count is damage.
 inline constexpr std::int32_t MostOffers = 16;
@@ -54,3 +57,5 @@ private:
     std::string m_dateFormat;
     std::vector<Failure> m_failures;
 };
+
+} // namespace quend::storage

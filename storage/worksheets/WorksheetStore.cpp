@@ -11,6 +11,8 @@
 
 #include <optional>
 
+namespace quend::storage {
+
 namespace {
 
 /// A name that equals the entry for a new loan is allowed here.
@@ -142,3 +144,5 @@ void WorksheetStore::Delete(const QString& name) const {
         }
     });
 }
+
+} // namespace quend::storage

@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "RegistryAPI.h"
+#include "StorageNames.h"
 #include "Worksheet.h"
 
 #include <QString>
@@ -10,12 +11,14 @@
 #include <functional>
 #include <vector>
 
+namespace quend::storage {
+
 /// Why a name is not allowed for a worksheet.
 enum class NameFault {
     None,
-    Empty, ///< a single blank also counts as empty
-    NoKey, ///< too long, incomplete characters, or contains a backslash or NUL: nothing under such
-           ///< a name exists, loads or is deleted
+    Empty,  ///< a single blank also counts as empty
+    NoKey,  ///< too long, incomplete characters, or contains a backslash or NUL: nothing under such
+            ///< a name exists, loads or is deleted
     NewLoan ///< equals the entry for a new loan in some language
 };
 
@@ -64,3 +67,5 @@ public:
 private:
     RegistryAPI m_store;
 };
+
+} // namespace quend::storage

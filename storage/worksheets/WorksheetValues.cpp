@@ -8,6 +8,8 @@
 
 #include <array>
 
+namespace quend::storage {
+
 namespace {
 
 constexpr std::int16_t Text = RegistryType::Text;
@@ -161,3 +163,5 @@ const std::array OfferValueTable{
 std::span<const KeptValue<Worksheet>> KeptWorksheetValues() { return LoanValueTable; }
 
 std::span<const KeptValue<CLoan>> KeptOfferValues() { return OfferValueTable; }
+
+} // namespace quend::storage

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "RegistryAPI.h"
+#include "StorageNames.h"
 #include "StoredTexts.h"
 #include "Worksheet.h"
 
@@ -9,6 +10,8 @@
 #include <span>
 #include <string>
 #include <vector>
+
+namespace quend::storage {
 
 /// One value of a saved worksheet: its name, and the conversion from and to its property. Reading
 /// throws Failure for an invalid value.
@@ -44,3 +47,5 @@ std::vector<const KeptValue<Owner>*> InOrderOfReading(std::span<const KeptValue<
     std::ranges::sort(ordered, {}, &KeptValue<Owner>::readPlace);
     return ordered;
 }
+
+} // namespace quend::storage

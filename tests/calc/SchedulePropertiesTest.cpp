@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "PreciseLoan.h"
+#include "QuendNames.h"
 #include "RandomLoan.h"
 #include "Schedule.h"
 

@@ -4,6 +4,7 @@
 #include "DesktopMail.h"
 #include "Fuzzing.h"
 #include "HostileTexts.h"
+#include "QuendNames.h"
 #include "StoreFolder.h"
 #include "SystemInfo.h"
 

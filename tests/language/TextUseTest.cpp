@@ -1,6 +1,7 @@
 #include "Forms.h"
 #include "Language.h"
 #include "ProgramFolder.h"
+#include "QuendNames.h"
 #include "TextTable.h"
 
 #include <QRegularExpression>

@@ -1,6 +1,7 @@
 // The entries of the File menu, with a fake printer.
 
 #include "PrintCommands.h"
+#include "QuendNames.h"
 
 #include "DrawnItems.h"
 #include "FakePrinter.h"
@@ -97,7 +98,7 @@ TEST_F(PrintCommandsTest, SetUpNeverStartsAJob) {
     EXPECT_TRUE(Printer().printed.empty());
 }
 
-TEST_F(PrintCommandsTest, AFailureOfTheDialogIsNotTold) {
+TEST_F(PrintCommandsTest, AFailureOfTheDialogIsNotReported) {
     Begin();
     Printer().whileAsking = [] { throw std::runtime_error("no printing system"); };
     Print();
@@ -222,7 +223,7 @@ TEST_P(EndsOfProgram, PrintTheReportThatIsNotYetDrawn) {
     EXPECT_EQ(Printer().printed.size(), 1U);
 }
 
-TEST_P(EndsOfProgram, TellOfAReportThatCannotBePrinted) {
+TEST_P(EndsOfProgram, ReportAPrintJobThatFails) {
     Begin(1h);
     Printer().outcome = {PrintFault::NoServer};
     Print();
@@ -283,7 +284,7 @@ TEST_F(PrintCommandsTest, WhereNothingCanPrintNoJobStarts) {
     EXPECT_TRUE(Printer().printed.empty());
 }
 
-TEST_F(PrintCommandsTest, ALostDocumentIsToldOnce) {
+TEST_F(PrintCommandsTest, ALostDocumentIsReportedOnce) {
     Begin();
     for (const Fault& fault : Faults()) {
         Printer().outcome = fault.outcome;
@@ -299,7 +300,7 @@ TEST_F(PrintCommandsTest, ALostDocumentIsToldOnce) {
                                              QStringLiteral("\n\nToo hot.")});
 }
 
-TEST_F(PrintCommandsTest, MarginsWithoutRoomForARowAreRefused) {
+TEST_F(PrintCommandsTest, MarginsWithoutSpaceForARowAreRefused) {
     struct {
         QSizeF space; // inches
         bool prints;

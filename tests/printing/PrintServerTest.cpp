@@ -3,6 +3,7 @@
 
 #include "Language.h"
 #include "PrintServerFixture.h"
+#include "QuendNames.h"
 #include "TextNumbers.h"
 
 #include <QDir>
@@ -102,7 +103,7 @@ TEST_F(ServerOnlyTest, AStoppedQueueKeepsTheJob) {
     EXPECT_TRUE(WaitForPaper(1));
 }
 
-TEST_F(ServerOnlyTest, AQueueThatRejectsIsToldAndStartsNoJob) {
+TEST_F(ServerOnlyTest, AQueueThatRejectsIsReportedAndStartsNoJob) {
     PrintServer::Run(QStringLiteral("cupsreject"), {QStringLiteral("Lab")});
     Begin();
     FillRows(1);
@@ -111,7 +112,7 @@ TEST_F(ServerOnlyTest, AQueueThatRejectsIsToldAndStartsNoJob) {
     ExpectNoTrace({GetResourceText(TextNumber::PrinterRejects).arg(QStringLiteral("Lab"))});
 }
 
-TEST_F(ServerOnlyTest, AQueueThatRejectsMeanwhileIsTold) {
+TEST_F(ServerOnlyTest, AQueueThatRejectsMeanwhileIsReported) {
     ASSERT_TRUE(BeginJob());
     PrintServer::Run(QStringLiteral("cupsreject"), {QStringLiteral("Lab")});
     HurryJob();
@@ -119,7 +120,7 @@ TEST_F(ServerOnlyTest, AQueueThatRejectsMeanwhileIsTold) {
     ExpectNoTrace({GetResourceText(TextNumber::PrinterRejects).arg(QStringLiteral("Lab"))});
 }
 
-TEST_F(ServerOnlyTest, AServerThatIsGoneIsTold) {
+TEST_F(ServerOnlyTest, AServerThatIsGoneIsReported) {
     ASSERT_TRUE(BeginJob());
     Server()->EndServer();
     HurryJob();
@@ -154,7 +155,7 @@ private:
     QString m_process;
 };
 
-TEST_F(ServerOnlyTest, AServerThatHangsIsToldInsteadOfAsking) {
+TEST_F(ServerOnlyTest, AServerThatHangsIsReportedInsteadOfAsking) {
     Begin();
     FillRows(1);
     const HungServer hung;

@@ -1,5 +1,6 @@
 #include "PrinterPlugin.h"
 #include "Failure.h"
+#include "QuendNames.h"
 
 #include <QPluginLoader>
 #include <QString>
@@ -8,7 +9,7 @@
 
 namespace {
 
-TEST(PrinterPlugin, KnowsThePrintersFromALibraryOfItsOwn) {
+TEST(PrinterPlugin, GetsPrintersFromASeparateLibrary) {
     QPluginLoader library(QStringLiteral(QUEND_PROGRAM_DIR "/Loan.Printers"));
     const auto* part = qobject_cast<PrinterPlugin*>(library.instance());
     ASSERT_NE(part, nullptr) << library.errorString().toStdString();

@@ -1,6 +1,7 @@
 // What the report reads from the live window.
 
 #include "ReportInputReader.h"
+#include "QuendNames.h"
 
 #include "WindowFixture.h"
 
@@ -56,7 +57,7 @@ QString SidesOf(const std::vector<FormEntry>& entries) {
     return sides;
 }
 
-TEST_F(ReportInputReaderTest, TextsAndListsStandLeftNumbersRight) {
+TEST_F(ReportInputReaderTest, TextsAndListsAreLeftNumbersRight) {
     Open();
     const ReportInput form = Read();
     EXPECT_EQ(SidesOf(form.header), u"llrrrrr");

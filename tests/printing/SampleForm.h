@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuendNames.h"
 #include "ReportInput.h"
 
 #include <cstddef>

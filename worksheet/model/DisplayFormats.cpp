@@ -8,6 +8,8 @@
 #include <cmath>
 #include <limits>
 
+namespace quend::model {
+
 namespace {
 
 constexpr int SignificantDigits = 15;
@@ -138,3 +140,5 @@ QString DisplayFormats::PlainNumber(const QString& text) const {
     QString plain = text;
     return plain.replace(m_separator, u'.').remove(u'+');
 }
+
+} // namespace quend::model

@@ -2,10 +2,13 @@
 
 #include "Date.h"
 #include "DigitGroups.h"
+#include "ModelNames.h"
 #include "Money.h"
 
 #include <QLocale>
 #include <QString>
+
+namespace quend::model {
 
 /// Formats values for display and reads typed numbers, both by the user's locale. Does not know
 /// that zero shows as an empty field; FieldFormats does that.
@@ -57,3 +60,5 @@ private:
     QString m_shortDate;
     DigitGroups m_groups;
 };
+
+} // namespace quend::model

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::model {
+
 namespace {
 
 using enum FieldId;
@@ -69,3 +71,5 @@ QLatin1String NumberPicture(int decimals) {
     constexpr std::array pictures{" nnn"_name, " nnnn.n"_name, " nnnn.nn"_name, " nnnn.nnn"_name};
     return pictures.at(static_cast<std::size_t>(decimals));
 }
+
+} // namespace quend::model

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+namespace quend::model {
+
 namespace {
 
 constexpr double MonthsPerYear = 12;
@@ -80,3 +82,5 @@ Months FieldFormats::ReadTerm(ValueKind kind, const QString& text) const {
                ? WholeMonths(RoundedHalfToEven(value * MonthsPerYear))
                : WholeMonths(RoundedHalfToEven(value) * MonthsPerYear);
 }
+
+} // namespace quend::model

@@ -2,9 +2,12 @@
 
 #include "DisplayFormats.h"
 #include "Field.h"
+#include "ModelNames.h"
 
 #include <utility>
 #include <variant>
+
+namespace quend::model {
 
 /// A term in whole months.
 struct Months {
@@ -43,3 +46,5 @@ private:
     DisplayFormats m_formats;
     bool m_termInMonths;
 };
+
+} // namespace quend::model

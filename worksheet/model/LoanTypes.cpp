@@ -1,10 +1,13 @@
 #include "LoanTypes.h"
 
 #include "Language.h"
+#include "ModelNames.h"
 #include "TextNumbers.h"
 
 #include <algorithm>
 #include <array>
+
+namespace quend::model {
 
 namespace {
 
@@ -56,3 +59,5 @@ QStringList LoanTypeTexts() {
     }
     return {texts.begin(), texts.end()};
 }
+
+} // namespace quend::model

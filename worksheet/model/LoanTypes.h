@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+namespace quend::model {
+
 /// The purpose of a loan is stored as a letter and shown as a text of the current language. An
 /// unknown letter or text gives the empty text.
 QString LoanTypeCodeToText(const QString& code);
@@ -13,3 +15,5 @@ QString LoanTypeTextToCodeInAnyLanguage(const QString& text);
 
 /// The texts in the order of the list.
 QStringList LoanTypeTexts();
+
+} // namespace quend::model

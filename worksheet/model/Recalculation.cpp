@@ -2,12 +2,15 @@
 
 #include "Failure.h"
 #include "Frequency.h"
+#include "ModelNames.h"
 #include "Payment.h"
 #include "Schedule.h"
 #include "Worksheet.h"
 
 #include <array>
 #include <exception>
+
+namespace quend::model {
 
 namespace {
 
@@ -217,3 +220,5 @@ void Worksheet::ShowAmount(Field field, Money amount) const {
 void Worksheet::ShowDate(Field field, Date date) const {
     m_display->ShowText(field, date.IsNone() ? QString() : m_texts.Formats().ShortDate(date));
 }
+
+} // namespace quend::model

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::model {
+
 namespace {
 
 const DisplayFormats& FormatsOf(const Worksheet& worksheet) { return worksheet.Texts().Formats(); }
@@ -95,3 +97,5 @@ void StoreDropped(Worksheet& worksheet, Field field, const DroppedValue& value) 
         worksheet.StoreOfferNumber(field, std::get<double>(value));
     }
 }
+
+} // namespace quend::model

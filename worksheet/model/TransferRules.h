@@ -1,11 +1,14 @@
 #pragma once
 
 #include "Field.h"
+#include "ModelNames.h"
 #include "Money.h"
 
 #include <QString>
 
 #include <variant>
+
+namespace quend::model {
 
 class Worksheet;
 
@@ -40,3 +43,5 @@ DroppedValue ReadDropped(const Worksheet& worksheet, FieldId field, const QStrin
 /// Stores a received value as if it had been typed: recalculates the row and sets Dirty if the
 /// value changed. Throws what the recalculation throws.
 void StoreDropped(Worksheet& worksheet, Field field, const DroppedValue& value);
+
+} // namespace quend::model

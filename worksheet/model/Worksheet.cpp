@@ -5,6 +5,8 @@
 
 #include <utility>
 
+namespace quend::model {
+
 Worksheet::Worksheet(WorksheetDisplay& display, FieldFormats texts, std::function<Date()> today)
     : m_display(&display), m_texts(std::move(texts)), m_today(std::move(today)) {}
 
@@ -119,3 +121,5 @@ void Worksheet::PaymentRefused() {
     m_paymentNoticeShown = true;
     m_display->PaymentRefused();
 }
+
+} // namespace quend::model

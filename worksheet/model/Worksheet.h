@@ -2,12 +2,15 @@
 
 #include "CLoan.h"
 #include "FieldValue.h"
+#include "ModelNames.h"
 #include "OfferOrder.h"
 #include "WorksheetDisplay.h"
 
 #include <functional>
 #include <set>
 #include <vector>
+
+namespace quend::model {
 
 /// One worksheet: the loan wanted, the current loan and the offers, one in each row.
 ///
@@ -230,3 +233,5 @@ private:
     bool m_paymentNoticeShown = false;
     bool m_paymentRefused = false;
 };
+
+} // namespace quend::model

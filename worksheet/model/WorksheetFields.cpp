@@ -4,11 +4,14 @@
 #include "Frequency.h"
 #include "IsValidNumber.h"
 #include "LoanTypes.h"
+#include "ModelNames.h"
 #include "TypedDate.h"
 #include "Worksheet.h"
 
 #include <array>
 #include <utility>
+
+namespace quend::model {
 
 QString Worksheet::EntryText(Field field) const {
     if (field.id == FieldId::NextPayment) {
@@ -304,3 +307,5 @@ void Worksheet::StoreWho(Row row, const QString& who) {
     OfferOfRow(row).SetWho(who);
     Show({FieldId::Who, row});
 }
+
+} // namespace quend::model

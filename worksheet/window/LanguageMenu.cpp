@@ -2,11 +2,14 @@
 
 #include "FailureReport.h"
 #include "Language.h"
+#include "WindowNames.h"
 
 #include <QActionGroup>
 #include <QMenu>
 
 #include <utility>
+
+namespace quend::window {
 
 LanguageMenu::LanguageMenu(QMenu& menu, const std::vector<QAction*>& known, Callbacks callbacks,
                            const FailureReport& report)
@@ -37,3 +40,5 @@ void LanguageMenu::mnuToolsLanguageOpt_Click(int index) const {
         m_callbacks.renew();
     }
 }
+
+} // namespace quend::window

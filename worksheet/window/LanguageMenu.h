@@ -9,6 +9,8 @@ class QAction;
 class QActionGroup;
 class QMenu;
 
+namespace quend::window {
+
 class FailureReport;
 
 /// The entries of the language menu, one for each language; the active one has the check mark.
@@ -34,3 +36,5 @@ private:
     const FailureReport* m_report;
     QActionGroup* m_entries;
 };
+
+} // namespace quend::window

@@ -14,6 +14,8 @@
 
 #include <utility>
 
+namespace quend::window {
+
 WindowDisplay::WindowDisplay(const ControlMap& controls, Notices notices)
     : m_controls(&controls), m_notices(std::move(notices)) {}
 
@@ -63,3 +65,5 @@ void WindowDisplay::ShowToolTip(Field field, bool shown) {
             shown ? GetResourceText(control->property(TextProperty::ToolTip).toInt()) : QString());
     }
 }
+
+} // namespace quend::window

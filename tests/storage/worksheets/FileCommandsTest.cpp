@@ -1,6 +1,7 @@
 // The File menu and the loan name box, operated by a user in the real window.
 
 #include "FileCommandsFixture.h"
+#include "QuendNames.h"
 
 #include "Colours.h"
 
@@ -123,7 +124,7 @@ TEST_F(FileCommandsTest, ALenderTextThatIsTooLongIsRefused) {
     EXPECT_TRUE(Sheet().Dirty());
 }
 
-TEST_F(FileCommandsTest, ASaveThatFailsIsToldAndStaysDirty) {
+TEST_F(FileCommandsTest, ASaveThatFailsIsReportedAndStaysDirty) {
     Begin({}, RegistryAPI("/dev/null/no/such/place/Loan.store"));
     TypeName(u"Home");
     Fill(u"txtLoanAmount", u"7");

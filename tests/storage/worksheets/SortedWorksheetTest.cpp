@@ -1,6 +1,7 @@
 // Worksheets with sorted rows: offers are saved in the order of entry.
 
 #include "FileCommands.h"
+#include "QuendNames.h"
 #include "SortButton.h"
 #include "StoreFolder.h"
 #include "WindowFixture.h"

@@ -1,4 +1,5 @@
 #include "FieldValue.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 #include "Printing.h"

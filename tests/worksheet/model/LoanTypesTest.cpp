@@ -1,4 +1,5 @@
 #include "LoanTypes.h"
+#include "QuendNames.h"
 
 #include "Language.h"
 #include "Printing.h"

@@ -1,4 +1,5 @@
 #include "TransferRules.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 #include "Printing.h"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Printing.h"
+#include "QuendNames.h"
 #include "RecordingDisplay.h"
 #include "Worksheet.h"
 

@@ -12,6 +12,8 @@
 
 #include <QLineEdit>
 
+namespace quend::window {
+
 FieldBehaviour::FieldBehaviour(Worksheet& worksheet, const ControlMap& controls, OfferRows& rows,
                                MessageQueue& messages)
     : m_worksheet(&worksheet), m_controls(&controls), m_rows(&rows), m_messages(&messages) {}
@@ -56,7 +58,7 @@ bool FieldBehaviour::Check(Field field) {
             return true;
         }
         Refuse(field, RefusalOf(field, text));
-    } catch (const Failure& failure) {
+    } catch (const Failure& failure) { // refuses the field instead of ending its handler
         Refuse(field, FailureMessage(failure));
     }
     return false;
@@ -96,3 +98,5 @@ bool FieldBehaviour::MoveByArrow(Field field, int key) {
     }
     return true;
 }
+
+} // namespace quend::window

@@ -1,15 +1,22 @@
 #pragma once
 
 #include "Field.h"
+#include "WindowNames.h"
 
 #include <QChar>
 #include <QString>
 
+class QLineEdit;
+
+namespace quend::model {
+class Worksheet;
+}
+
+namespace quend::window {
+
 class ControlMap;
 class MessageQueue;
 class OfferRows;
-class QLineEdit;
-class Worksheet;
 
 /// The common behaviour of every typed field. On entry it shows the bare value, all selected; while
 /// typing it allows only the characters of a number; before leaving it checks the form; after
@@ -47,3 +54,5 @@ private:
     MessageQueue* m_messages;
     QString m_entryText;
 };
+
+} // namespace quend::window

@@ -16,6 +16,8 @@
 #include <array>
 #include <type_traits>
 
+namespace quend::window {
+
 using enum FieldId;
 
 namespace {
@@ -332,3 +334,5 @@ void FieldHandlers::txtWho_LostFocus(int index) {
         m_worksheet->StoreWho(Row{index}, WithLenderLines(edit->text()));
     }
 }
+
+} // namespace quend::window

@@ -3,8 +3,11 @@
 #include "Failure.h"
 #include "Language.h"
 #include "TextNumbers.h"
+#include "WindowNames.h"
 
 #include <QStringList>
+
+namespace quend::window {
 
 QString FailureText(const Failure& failure) {
     return QStringLiteral("errn=%1  src=%2  desc=%3")
@@ -60,3 +63,5 @@ bool FailureReport::Guard(const std::function<void()>& handler, Wording wording)
         return false;
     }
 }
+
+} // namespace quend::window

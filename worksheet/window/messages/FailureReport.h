@@ -9,6 +9,8 @@
 #include <functional>
 #include <vector>
 
+namespace quend::window {
+
 /// The text of a failure: "errn=" number "  src=" source "  desc=" description.
 QString FailureText(const Failure& failure);
 
@@ -31,7 +33,7 @@ QString FailureLines(const std::vector<Failure>& failures);
 /// turned into a result or another text, or where ignoring it is the stated behaviour.
 class FailureReport {
 public:
-    /// What the user is told about a failure; an empty text is not shown.
+    /// What the user reads about a failure; an empty text is not shown.
     using Wording = QString (*)(const std::exception& failure);
 
     explicit FailureReport(MessageQueue& messages) : m_messages(&messages) {}
@@ -42,3 +44,5 @@ public:
 private:
     MessageQueue* m_messages;
 };
+
+} // namespace quend::window

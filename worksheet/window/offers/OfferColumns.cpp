@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::window {
+
 namespace {
 
 constexpr int Gap = 4;
@@ -126,3 +128,5 @@ void OfferColumns::PlaceRow(Row row, int height) const {
         control->move(column.left, (height - control->height()) / 2);
     }
 }
+
+} // namespace quend::window

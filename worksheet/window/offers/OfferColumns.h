@@ -1,15 +1,22 @@
 #pragma once
 
 #include "Field.h"
+#include "WindowNames.h"
 
 #include <QRect>
 
 #include <span>
 #include <vector>
 
-class ControlMap;
-class DisplayFormats;
 class QWidget;
+
+namespace quend::model {
+class DisplayFormats;
+}
+
+namespace quend::window {
+
+class ControlMap;
 
 /// A heading belongs to one column; the first one to the tick box and the points beside it.
 struct OfferHeading {
@@ -55,3 +62,5 @@ private:
     std::vector<Column> m_columns;
     int m_rowHeight = 0;
 };
+
+} // namespace quend::window

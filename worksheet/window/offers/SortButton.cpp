@@ -2,10 +2,13 @@
 
 #include "Captions.h"
 #include "Language.h"
+#include "WindowNames.h"
 
 #include <QPainter>
 #include <QPolygonF>
 #include <QStyle>
+
+namespace quend::window {
 
 namespace {
 
@@ -54,3 +57,5 @@ void SortButton::paintEvent(QPaintEvent* event) {
     painter.drawPolygon(QPolygonF(
         {arrow.bottomLeft(), QPointF(arrow.center().x(), arrow.top()), arrow.bottomRight()}));
 }
+
+} // namespace quend::window

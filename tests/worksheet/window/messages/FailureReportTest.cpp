@@ -1,9 +1,10 @@
-// What the user is told about a handler that failed.
+// What the user reads about a handler that failed.
 
 #include "FailureReport.h"
 
 #include "FakeMessages.h"
 #include "Language.h"
+#include "QuendNames.h"
 #include "TextNumbers.h"
 
 #include <gtest/gtest.h>
@@ -20,18 +21,19 @@ std::function<void()> Throwing(const Exception& exception) {
     return [exception] { throw exception; };
 }
 
-TEST(FailureReport, TellsOfEveryExceptionByItsWording) {
+TEST(FailureReport, ReportsEveryExceptionInItsWording) {
     const QString large = GetResourceText(TextNumber::NumberTooLarge);
     const QString never = GetResourceText(TextNumber::NeverRepaid);
     const struct {
         std::function<void()> handler;
         FailureReport::Wording wording;
-        QString told;
+        QString shown;
     } cases[] = {
         {Throwing(Failure(7, "a", "b")), FailureMessage, u"errn=7  src=a  desc=b"_s},
-        {Throwing(OverflowFailure("a")), FailureMessage, large + u"\nerrn=6  src=a  desc=Overflow"},
+        {Throwing(OverflowFailure("a")), FailureMessage,
+         large + u"\nerrn=6  src=a  desc=Overflow"_s},
         {Throwing(NeverRepaidFailure("")), FailureMessage,
-         never + u"\nerrn=6  src=  desc=Overflow"},
+         never + u"\nerrn=6  src=  desc=Overflow"_s},
         {Throwing(std::bad_alloc()), FailureMessage, u"errn=5  src=Loan  desc=std::bad_alloc"_s},
         {Throwing(std::logic_error("b")), FailureMessage, u"errn=5  src=Loan  desc=b"_s},
         {Throwing(Failure(7, "a", "é")), FailureDescription, u"é"_s},
@@ -44,7 +46,7 @@ TEST(FailureReport, TellsOfEveryExceptionByItsWording) {
         EXPECT_TRUE(report.Guard([] {}, row.wording));
         EXPECT_FALSE(report.Guard(row.handler, row.wording));
         queue.ShowRest();
-        EXPECT_EQ(boxes.Texts(), row.told.isEmpty() ? QStringList() : QStringList(row.told));
+        EXPECT_EQ(boxes.Texts(), row.shown.isEmpty() ? QStringList() : QStringList(row.shown));
     }
 }
 

@@ -1,6 +1,7 @@
 // The lender dialog over the main window.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 #include "dlgWho.h"
 

@@ -1,5 +1,7 @@
 #include "DragFixture.h"
 
+#include "QuendNames.h"
+
 #include <QApplication>
 #include <QTest>
 #include <QWindow>

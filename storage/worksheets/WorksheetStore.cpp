@@ -13,11 +13,16 @@ namespace quend::storage {
 
 namespace {
 
+/// A name that equals the entry for a new loan is allowed here.
+bool CanBeKept(const QString& name) {
+    return !Worksheet::IsEmptyName(name) && name.size() <= static_cast<qsizetype>(LongestKeyName) &&
+           name.isValidUtf16() && !name.contains(u'\\') && !name.contains(QChar::Null);
+}
+
 /// No value for an invalid name: it would address a different key.
 std::optional<std::string> KeyOf(const QString& name) {
-    return WorksheetStore::CanBeKept(name)
-               ? std::optional(std::string(BaseKey) + '\\' + name.toStdString())
-               : std::nullopt;
+    return CanBeKept(name) ? std::optional(std::string(BaseKey) + '\\' + name.toStdString())
+                           : std::nullopt;
 }
 
 void WriteOffer(const RegistryAPI& store, const std::string& key, const CLoan& offer, int number,
@@ -44,11 +49,6 @@ void Write(const RegistryAPI& store, const std::string& key, const Worksheet& wo
 }
 
 } // namespace
-
-bool WorksheetStore::CanBeKept(const QString& name) {
-    return !Worksheet::IsEmptyName(name) && name.size() <= static_cast<qsizetype>(LongestKeyName) &&
-           name.isValidUtf16() && !name.contains(u'\\') && !name.contains(QChar::Null);
-}
 
 NameFault WorksheetStore::FaultOf(const QString& name) {
     if (Worksheet::IsEmptyName(name)) {
@@ -82,11 +82,6 @@ QStringList WorksheetStore::Names() const {
         names.clear();
     }
     return names;
-}
-
-bool WorksheetStore::Exists(const QString& name) const {
-    const auto key = KeyOf(name);
-    return key && m_store.KeyExists(StoreRoot, *key);
 }
 
 void WorksheetStore::Save(Worksheet& worksheet) const {

@@ -119,7 +119,7 @@ const std::array LoanValueTable{
 const std::array OfferValueTable{
     KeptValue<CLoan>{" FinancePoints", RegistryType::Number, "", 3,
         [](const CLoan& offer, const StoredTexts&) {
-            return RegistryValue(std::int32_t{offer.FinancePoints() ? -1 : 0});
+            return RegistryValue(RegistryFlag(offer.FinancePoints()));
         },
         [](CLoan& offer, const RegistryValue& value, const StoredTexts&) {
             offer.SetFinancePoints(std::get<std::int32_t>(value) != 0);

@@ -26,7 +26,7 @@ namespace {
 
 /// Screen readers also find the edits inside some controls.
 void NameInnerEdits(const Ui::Loan& form) {
-    constexpr const char* number = "accessibleText";
+    constexpr const char* number = TextProperty::Name;
     form.cboLoanName->lineEdit()->setProperty(number, TextNumber::LoanNameEdit);
     form.dtNextPayment->findChild<QLineEdit*>()->setProperty(number,
                                                              form.dtNextPayment->property(number));
@@ -110,8 +110,8 @@ Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
       languages(*window.m_ui->mnuToolsLanguage,
                 {window.m_ui->mnuToolsLanguageOpt1, window.m_ui->mnuToolsLanguageOpt2},
                 {.commit = [this] { return focus.Commit(); },
-                 .guard = [this](const auto& handler) { report.Guard(handler); },
-                 .renew = [&window] { window.RenewLanguage(); }}),
+                 .renew = [&window] { window.RenewLanguage(); }},
+                report),
       resultKeys(window, controls, rows) {}
 
 Loan::Loan(const World& world, Settings settings) : m_ui(FormOf(*this)) {
@@ -152,7 +152,11 @@ bool Loan::Form_Unload() {
 
 void Loan::mnuFileExit_Click() { close(); }
 
-void Loan::closeEvent(QCloseEvent* event) { event->setAccepted(Form_Unload()); }
+void Loan::closeEvent(QCloseEvent* event) {
+    bool closes = false;
+    m_parts->report.Guard([&] { closes = Form_Unload(); });
+    event->setAccepted(closes);
+}
 
 void Loan::WireFields() {
     m_parts->focus.Watch(*this);

@@ -41,6 +41,7 @@ public:
         std::function<Date()> today;
     };
     Loan(const World& world, Settings settings);
+    Q_DISABLE_COPY_MOVE(Loan)
     ~Loan() override;
 
     // For the commands objects of the subsystems, which own the handlers of their menu entries.

@@ -59,7 +59,7 @@ void OfferCommands::txtWho_DblClick(int index) {
         return;
     }
     Worksheet& worksheet = m_window->GetWorksheet();
-    dlgWho(worksheet, worksheet.OfferIndexOfRow(Row{index}), *m_window).exec();
+    dlgWho(worksheet, worksheet.OfferIndexOfRow(Row{index}), *m_window, m_window->Report()).exec();
     worksheet.Show({FieldId::Who, Row{index}});
 }
 

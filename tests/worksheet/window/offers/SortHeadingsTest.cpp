@@ -3,6 +3,7 @@
 #include "Language.h"
 #include "QuendNames.h"
 #include "SortButton.h"
+#include "TextNumbers.h"
 #include "WindowFixture.h"
 
 #include <QAccessible>
@@ -38,7 +39,8 @@ protected:
             SheetToWrite().StoreWho(row, QLatin1String(offer.who));
             SheetToWrite().StoreNumber({FieldId::InterestRate, row}, QLatin1String(offer.rate));
             SheetToWrite().StoreNumber({FieldId::Term, row}, QString::number(offer.years));
-            SheetToWrite().StoreChoice({FieldId::Frequency, row}, GetResourceText(114));
+            SheetToWrite().StoreChoice({FieldId::Frequency, row},
+                                       GetResourceText(TextNumber::FrequencyMonthly));
             ++row.value;
         }
         SheetToWrite().ClearRaisedMarks();
@@ -76,7 +78,8 @@ TEST_F(SortHeadings, SortByOneAndByTheOther) {
 TEST_F(SortHeadings, EveryFieldOfTheRowGoesAlong) {
     SheetToWrite().StoreFinancePoints(Row{2}, true);
     SheetToWrite().StoreNumber({FieldId::Points, Row{2}}, u"1.5"_s);
-    SheetToWrite().StoreChoice({FieldId::Frequency, Row{2}}, GetResourceText(112));
+    SheetToWrite().StoreChoice({FieldId::Frequency, Row{2}},
+                               GetResourceText(TextNumber::FrequencyEveryTwoWeeks));
     std::vector<QString> before;
     for (const FieldRule& field : OfferFields()) {
         before.push_back(Text(RowName(QString(field.control), 2)));

@@ -1,5 +1,6 @@
 #include "PrintCommands.h"
 
+#include "FailureReport.h"
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"

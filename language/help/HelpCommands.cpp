@@ -1,5 +1,6 @@
 #include "HelpCommands.h"
 
+#include "FailureReport.h"
 #include "HelpTopic.h"
 #include "HelpView.h"
 #include "HelpWindow.h"

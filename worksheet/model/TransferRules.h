@@ -1,11 +1,8 @@
 #pragma once
 
-#include "Field.h"
-#include "Money.h"
+#include "FieldValue.h"
 
 #include <QString>
-
-#include <variant>
 
 class Worksheet;
 
@@ -30,13 +27,6 @@ QString DraggedText(const Worksheet& worksheet, Field field, const QString& show
 /// too many. Checks the form only: a lone sign passes here and fails in ReadDropped.
 bool MayDrop(const Worksheet& worksheet, FieldId field, const QString& text);
 
-/// Points or a rate, an amount, a lender.
-using DroppedValue = std::variant<double, Money, QString>;
-
 /// The value of a received text. Nothing is divided by a hundred: a rate arrives as a fraction. A
 /// lender gets the line ends of WithLenderLines. Throws ConversionFailure or OverflowFailure.
-DroppedValue ReadDropped(const Worksheet& worksheet, FieldId field, const QString& text);
-
-/// Stores a received value as if it had been typed: recalculates the row and sets Dirty if the
-/// value changed. Throws what the recalculation throws.
-void StoreDropped(Worksheet& worksheet, Field field, const DroppedValue& value);
+FieldValue ReadDropped(const Worksheet& worksheet, FieldId field, const QString& text);

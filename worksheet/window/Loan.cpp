@@ -157,7 +157,7 @@ void Loan::WireRow(int row, const QWidget* controls) {
 
 /// A choice from a list is stored at once, not only when the list is left.
 void Loan::WireChoice(Field field) {
-    if (RuleOf(field.id).kind == ValueKind::Choice) {
+    if (RuleOf(field.id).IsChoice()) {
         connect(m_controls.ControlOf<QComboBox>(field), &QComboBox::activated, this,
                 [this, field] { m_report.Guard([&] { m_handlers.Click(field); }); });
     }
@@ -206,7 +206,7 @@ void Loan::MeasureFields() {
     for (const FieldRule& rule : LoanFields()) {
         if (auto* edit = m_controls.ControlOf<QLineEdit>({rule.id})) {
             edit->setMinimumWidth(LeastFieldWidth(rule.id, edit->fontMetrics(), formats));
-        } else if (rule.kind == ValueKind::Choice) {
+        } else if (rule.IsChoice()) {
             // Qt keeps the minimum width of the first font.
             QWidget* list = m_controls.ControlOf({rule.id});
             list->setMinimumWidth(list->sizeHint().width());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Field.h"
+#include "FieldValue.h"
 
 #include <QChar>
 
@@ -13,7 +13,7 @@ class Worksheet;
 /// the worksheet throws.
 class FieldHandlers {
 public:
-    FieldHandlers(Worksheet& worksheet, const ControlMap& controls, FieldBehaviour& discipline);
+    FieldHandlers(Worksheet& worksheet, const ControlMap& controls, FieldBehaviour& behaviour);
 
     /// Passes an event of a field to the handler of its control. A control without such a handler
     /// ignores the event: keys and checks then pass.
@@ -111,18 +111,14 @@ public:
     void txtWho_LostFocus(int index);
 
 private:
-    void Enter(Field field);
-    void EnterRow(int index);
-    bool Allows(Field field, QChar key) const;
-    bool Check(Field field);
-    void Leave(Field field);
-    bool Move(Field field, int key);
+    using enum FieldId;
+
     void StoreChoice(Field field);
     void LeaveChoice(Field field);
-    QString ChosenText(Field field) const;
-    bool IsTicked(Row row) const;
+    FieldValue ChosenIn(Field field) const;
+    bool IsTicked(Field field) const;
 
     Worksheet* m_worksheet;
     const ControlMap* m_controls;
-    FieldBehaviour* m_discipline;
+    FieldBehaviour* m_fields;
 };

@@ -53,6 +53,6 @@ bool ValueTransfer::Take(Field field, const QString& text) {
             m_discipline->EnterRow(field.row);
         }
     });
-    StoreDropped(*m_worksheet, field, value);
+    m_worksheet->Store(field, value);
     return true;
 }

@@ -22,7 +22,7 @@ inline BareLoan BareLoanOf(const ScheduleTerms& terms) {
     return {terms.balance.TenThousandths(),
             terms.payment.TenThousandths(),
             0,
-            terms.rate,
+            terms.rate.Fraction(),
             2026,
             7,
             21,

@@ -49,9 +49,10 @@ double NanosecondsOf(Call call) {
 
 ScheduleTerms TermsFor(const Frequency& frequency) {
     const Money balance = Money::FromDouble(100'000.0);
+    const Rate rate = Rate::FromFraction(0.06);
     return {.balance = balance,
-            .rate = 0.06,
-            .payment = PrincipalAndInterest(balance, 0.06, 360, frequency.Code()),
+            .rate = rate,
+            .payment = PrincipalAndInterest(balance, rate, Months{360}, frequency.Code()),
             .escrowShare = Money(),
             .frequency = &frequency,
             .start = Date::FromCalendar(2026, 7, 21)};
@@ -89,10 +90,10 @@ void RecalculateOffers(benchmark::State& state, std::size_t row) {
     double rate = 0.05;
     for (CLoan& offer : offers) {
         offer.SetStartingAmount(Money::FromDouble(100'000.0));
-        offer.SetPoints(1.25);
+        offer.SetPoints(Percent::FromPercent(1.25));
         offer.SetFinancePoints(true);
-        offer.SetTerm(360);
-        offer.SetInterestRate(rate += 0.00125);
+        offer.SetTerm(Months{360});
+        offer.SetInterestRate(Rate::FromFraction(rate += 0.00125));
         offer.SetFrequencyCode(Frequencies.at(row).Code());
     }
     for ([[maybe_unused]] auto turn : state) {

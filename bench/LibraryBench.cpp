@@ -18,14 +18,15 @@
 namespace {
 
 constexpr double Amount = 100'000.0;
-constexpr double Rate = 0.06;
+constexpr double Fraction = 0.06;
 
 ScheduleTerms TermsOf(int months) {
     const Frequency& monthly = Frequencies.front();
     const Money balance = Money::FromDouble(Amount);
+    const Rate rate = Rate::FromFraction(Fraction);
     return {.balance = balance,
-            .rate = Rate,
-            .payment = PrincipalAndInterest(balance, Rate, months, monthly.Code()),
+            .rate = rate,
+            .payment = PrincipalAndInterest(balance, rate, Months{months}, monthly.Code()),
             .escrowShare = Money(),
             .frequency = &monthly,
             .start = Date::FromCalendar(2026, 7, 21)};
@@ -51,10 +52,10 @@ void BareLoop(benchmark::State& state) {
 double InterestOfBond(int months) {
     using namespace QuantLib;
     const QuantLib::Date start(21, July, 2026);
-    const Period term(months, Months);
-    const AmortizingFixedRateBond bond(0, sinkingNotionals(term, Monthly, Rate, Amount),
+    const Period term(months, QuantLib::Months);
+    const AmortizingFixedRateBond bond(0, sinkingNotionals(term, Monthly, Fraction, Amount),
                                        sinkingSchedule(start, term, Monthly, NullCalendar()),
-                                       {Rate}, SimpleDayCounter());
+                                       {Fraction}, SimpleDayCounter());
     double interest = 0;
     for (const auto& flow : bond.cashflows()) {
         if (ext::dynamic_pointer_cast<Coupon>(flow)) {
@@ -77,15 +78,15 @@ void LibraryBond(benchmark::State& state) {
     }
 }
 
-void Months(benchmark::internal::Benchmark* bench) {
+void InMonths(benchmark::internal::Benchmark* bench) {
     for (const int months : {12, 60, 120, 360, 1'200}) {
         bench->Arg(months);
     }
     bench->Unit(benchmark::kMicrosecond);
 }
 
-BENCHMARK(Schedule_)->Name("Schedule")->Apply(Months);
-BENCHMARK(BareLoop)->Apply(Months);
-BENCHMARK(LibraryBond)->Apply(Months);
+BENCHMARK(Schedule_)->Name("Schedule")->Apply(InMonths);
+BENCHMARK(BareLoop)->Apply(InMonths);
+BENCHMARK(LibraryBond)->Apply(InMonths);
 
 } // namespace

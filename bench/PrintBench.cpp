@@ -32,9 +32,9 @@ void Fill(Loan& window, int offers, int words) {
     }
     for (Row row{0}; row < Row{offers}; ++row.value) {
         CLoan& offer = sheet.OfferOfRow(row);
-        offer.SetTerm(360);
-        offer.SetInterestRate(0.055 + 0.00125 * row.value);
-        offer.SetFrequencyCode(QStringLiteral("M"));
+        offer.SetTerm(Months{360});
+        offer.SetInterestRate(Rate::FromFraction(0.055 + 0.00125 * row.value));
+        offer.SetFrequencyCode(FrequencyCode(QStringLiteral("M")));
         offer.SetWho(lender.join(u' '));
         sheet.ShowOffer(row);
     }

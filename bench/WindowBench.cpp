@@ -36,9 +36,9 @@ void Fill(Loan& window, int offers) {
     sheet.SetLoanAmount(Money::FromDouble(250'000));
     for (Row row{0}; row < Row{offers}; ++row.value) {
         CLoan& offer = sheet.OfferOfRow(row);
-        offer.SetTerm(360);
-        offer.SetInterestRate(0.055 + 0.00125 * row.value);
-        offer.SetFrequencyCode(QStringLiteral("M"));
+        offer.SetTerm(Months{360});
+        offer.SetInterestRate(Rate::FromFraction(0.055 + 0.00125 * row.value));
+        offer.SetFrequencyCode(FrequencyCode(QStringLiteral("M")));
         sheet.ShowOffer(row);
     }
 }

@@ -37,7 +37,8 @@ void Fill(Worksheet& worksheet, int offers = 16) {
     worksheet.StoreNumber({FieldId::CurInterestRate}, QStringLiteral("7.25"));
     worksheet.StoreNumber({FieldId::CurrentBalance}, QStringLiteral("198450.75"));
     worksheet.StoreNumber({FieldId::CurActualPayment}, QStringLiteral("2050"));
-    worksheet.StoreChoice({FieldId::ActPaymentFrequency}, FrequencyCodeToText(QStringLiteral("M")));
+    worksheet.StoreChoice({FieldId::ActPaymentFrequency},
+                          FrequencyCodeToText(FrequencyCode(QStringLiteral("M"))));
 }
 
 /// Changes the annual taxes back and forth: the escrow, every offer and the current loan change.

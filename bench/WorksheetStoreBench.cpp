@@ -35,14 +35,14 @@ constexpr int ManyWorksheets = 10'000;
 /// Sets every stored value of a worksheet with this many offers.
 void FillSheet(Worksheet& worksheet, int offers = Rows) {
     FillSampleLoans(worksheet);
-    worksheet.SetCurrentActualFrequency(FrequencyCodeToText(QStringLiteral("M")));
+    worksheet.SetCurrentActualFrequency(FrequencyCodeToText(FrequencyCode(QStringLiteral("M"))));
     for (Row row{0}; row.value < offers; ++row.value) {
         CLoan& offer = worksheet.OfferOfRow(row);
         offer.SetFinancePoints(true);
-        offer.SetPoints(1.125);
-        offer.SetTerm(360);
-        offer.SetInterestRate(SampleRate(row));
-        offer.SetFrequencyCode(QStringLiteral("M"));
+        offer.SetPoints(Percent::FromPercent(1.125));
+        offer.SetTerm(Months{360});
+        offer.SetInterestRate(Rate::FromFraction(SampleRate(row)));
+        offer.SetFrequencyCode(FrequencyCode(QStringLiteral("M")));
         offer.SetActualPayment(Money::FromDouble(5'000));
         offer.SetWho(QStringLiteral("First Prairie Bank, office %1").arg(row.value));
     }

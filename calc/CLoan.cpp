@@ -6,9 +6,9 @@
 
 #include <utility>
 
-void CLoan::SetInterestRate(double rate) {
+void CLoan::SetInterestRate(Rate rate) {
     Change(m_interestRate, rate);
-    if (m_interestRate != 0.0 && m_term == 0) {
+    if (!m_interestRate.IsZero() && m_term.IsZero()) {
         SetTerm(m_context->LoanTerm());
     }
 }
@@ -20,7 +20,7 @@ void CLoan::SetFrequency(const QString& text) { SetFrequencyCode(FrequencyTextTo
 Money CLoan::StartingPrinciple() const {
     Money principal = m_startingAmount;
     if (m_financePoints) {
-        principal += Money::FromDouble(m_startingAmount.ToDouble() * m_points / 100.0);
+        principal += Money::FromDouble(m_points.Of(m_startingAmount.ToDouble()));
     }
     if (m_financeClosingCosts) {
         principal += m_closingCosts;
@@ -61,7 +61,7 @@ void CLoan::SetActualPayment(Money payment) {
 Date CLoan::PayoffDate() {
     m_interest = Money(); // remains if the schedule fails
     const Money principal = StartingPrinciple();
-    if (principal.IsZero() || m_interestRate == 0.0 || m_frequencyCode.isEmpty() ||
+    if (principal.IsZero() || m_interestRate.IsZero() || m_frequencyCode.IsNone() ||
         m_actualPayment.IsZero()) {
         return {};
     }

@@ -2,6 +2,7 @@
 
 #include "Date.h"
 #include "Money.h"
+#include "Quantities.h"
 
 #include <QString>
 
@@ -15,8 +16,8 @@ public:
     LoanContext& operator=(LoanContext&&) = delete;
     virtual ~LoanContext() = default;
 
-    /// The default term in months.
-    virtual int LoanTerm() const = 0;
+    /// The default term.
+    virtual Months LoanTerm() const = 0;
     virtual Money EscrowMonthly() const = 0;
     virtual Date Today() const = 0;
 
@@ -29,8 +30,7 @@ public:
 
 /// One loan offer: its inputs, and the payment, payoff date and interest that follow from them.
 /// It shows no message and does not know its row. Results are computed when read, not cached. The
-/// context must outlive it. Points are in percent, the rate is annual and a fraction, the term is
-/// in months.
+/// context must outlive it.
 ///
 /// A missing input (zero, or no frequency) gives zero results or no date, never a failure. A result
 /// outside the range of money or of a date raises OverflowFailure from the reading function.
@@ -42,21 +42,21 @@ public:
     // the starting amount, which belongs to the worksheet.
     bool FinancePoints() const { return m_financePoints; }
     void SetFinancePoints(bool finance) { Change(m_financePoints, finance); }
-    double Points() const { return m_points; }
-    void SetPoints(double percent) { Change(m_points, percent); }
+    Percent Points() const { return m_points; }
+    void SetPoints(Percent points) { Change(m_points, points); }
     bool FinanceClosingCosts() const { return m_financeClosingCosts; }
     void SetFinanceClosingCosts(bool finance) { Change(m_financeClosingCosts, finance); }
     Money ClosingCosts() const { return m_closingCosts; }
     void SetClosingCosts(Money costs) { Change(m_closingCosts, costs); }
     void SetStartingAmount(Money amount) { m_startingAmount = amount; }
-    int Term() const { return m_term; }
-    void SetTerm(int months) { Change(m_term, months); }
-    double InterestRate() const { return m_interestRate; }
+    Months Term() const { return m_term; }
+    void SetTerm(Months term) { Change(m_term, term); }
+    Rate InterestRate() const { return m_interestRate; }
     /// A nonzero rate sets a missing term to the worksheet's default term.
-    void SetInterestRate(double rate);
-    const QString& FrequencyCode() const { return m_frequencyCode; }
+    void SetInterestRate(Rate rate);
+    const ::FrequencyCode& FrequencyCode() const { return m_frequencyCode; }
     /// Any text is stored unchanged; an unknown code is not a failure.
-    void SetFrequencyCode(const QString& code) { Change(m_frequencyCode, code); }
+    void SetFrequencyCode(const ::FrequencyCode& code) { Change(m_frequencyCode, code); }
     /// The frequency's name in the current language; empty for an unknown code.
     QString Frequency() const;
     /// A text that names no frequency clears the code.
@@ -103,13 +103,13 @@ private:
 
     LoanContext* m_context;
     bool m_financePoints = false;
-    double m_points = 0.0;
+    Percent m_points;
     bool m_financeClosingCosts = false;
     Money m_closingCosts;
     Money m_startingAmount;
-    int m_term = 0;
-    double m_interestRate = 0.0;
-    QString m_frequencyCode;
+    Months m_term;
+    Rate m_interestRate;
+    ::FrequencyCode m_frequencyCode;
     Money m_actualPayment;
     bool m_forced = false;
     Money m_interest;

@@ -2,15 +2,9 @@
 
 #include "Failure.h"
 
-namespace {
-
-constexpr std::chrono::sys_days DayZero = std::chrono::year(1899) / std::chrono::December / 30;
-
-} // namespace
-
 Date Date::FromCalendar(int year, int month, int day) {
     // std::chrono's month and day hold at most 255 and would truncate larger values.
-    if (year < 1 || year > 9999 || month < 1 || month > 12 || day < 1 || day > 31) {
+    if (year < 1 || year > LastYear || month < 1 || month > 12 || day < 1 || day > 31) {
         RaiseOverflow();
     }
     const auto calendar = std::chrono::year(year) / month / day;
@@ -28,12 +22,6 @@ Date Date::PlusDays(int days) const {
         RaiseOverflow();
     }
     return FromDays(sum);
-}
-
-Date Date::PlusOneMonth() const {
-    const auto next = Calendar() + std::chrono::months(1);
-    const auto day = next.ok() ? next : next.year() / next.month() / std::chrono::last;
-    return FromDays(static_cast<int>((std::chrono::sys_days(day) - DayZero).count()));
 }
 
 void Date::RaiseOverflow() { throw OverflowFailure("Date"); }

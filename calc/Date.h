@@ -8,6 +8,8 @@
 /// Does not read the clock and does not format.
 class Date {
 public:
+    static constexpr int LastYear = 9999;
+
     constexpr Date() = default;
 
     static constexpr Date FromDays(int days) {
@@ -19,15 +21,16 @@ public:
     /// Raises OverflowFailure also for a day that does not exist, such as 31 April.
     static Date FromCalendar(int year, int month, int day);
 
+    /// The last day of the range.
+    static constexpr Date Last() { return Date(LastDay); }
+
     constexpr int Days() const { return m_days; }
     constexpr bool IsNone() const { return m_days == 0; }
     /// No date gives 30 December 1899.
     std::chrono::year_month_day Calendar() const;
 
-    /// No date counts as 30 December 1899 in both.
+    /// No date counts as 30 December 1899. A step by a month: MonthlyDates (DueDates.h).
     Date PlusDays(int days) const;
-    /// The same day of the next month, or that month's last day where it has no such day.
-    Date PlusOneMonth() const;
 
     friend constexpr bool operator==(Date, Date) = default;
     friend constexpr auto operator<=>(Date left, Date right) {
@@ -35,8 +38,9 @@ public:
     }
 
 private:
+    static constexpr std::chrono::sys_days DayZero = std::chrono::year(1899) / 12 / 30;
     static constexpr int FirstDay = -693'593;
-    static constexpr int LastDay = 2'958'465;
+    static constexpr int LastDay = 2'958'465; // 31 December of LastYear
 
     explicit constexpr Date(int days) : m_days(days) {}
 

@@ -2,8 +2,11 @@
 
 #include "Date.h"
 
-/// A date that advances month by month. It keeps the calendar fields beside the day count, so that
-/// a step needs no conversion. A day reduced to a short month's end stays reduced.
+#include <array>
+
+/// A date that advances month by month, to the same day of the next month, or to that month's last
+/// day where it has no such day; a day once reduced stays reduced. Keeps the calendar fields beside
+/// the day count, so that a step needs no conversion.
 class MonthlyDates {
 public:
     explicit MonthlyDates(Date start)
@@ -26,10 +29,9 @@ public:
 
 private:
     int DaysInMonth() const {
-        if (m_month == 2) {
-            return std::chrono::year(m_year).is_leap() ? 29 : 28;
-        }
-        return 30 + static_cast<int>((m_month ^ (m_month >> 3U)) & 1U);
+        constexpr std::array Lengths{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+        const bool isLeapDay = m_month == 2 && std::chrono::year(m_year).is_leap();
+        return Lengths[m_month - 1] + (isLeapDay ? 1 : 0);
     }
 
     Date m_date;

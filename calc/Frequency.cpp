@@ -5,26 +5,26 @@
 
 #include <algorithm>
 
-const Frequency* FindFrequency(QStringView code) {
-    const auto* const row =
-        std::find_if(Frequencies.begin(), Frequencies.end(), [code](const Frequency& frequency) {
-            return code.size() == 1 && code.front() == QChar(frequency.code);
+const Frequency* FindFrequency(const FrequencyCode& code) {
+    const auto* const row = std::find_if(
+        Frequencies.begin(), Frequencies.end(), [&text = code.Text()](const Frequency& frequency) {
+            return text.size() == 1 && text.front() == QChar(frequency.code);
         });
     return row == Frequencies.end() ? nullptr : row;
 }
 
-double PeriodsOfTerm(const Frequency& frequency, int termMonths) {
+double PeriodsOfTerm(const Frequency& frequency, Months term) {
     if (frequency.wholePeriodsPerMonth == 0) {
-        return termMonths / 12.0 * frequency.periodsPerYear;
+        return term.InYears() * frequency.periodsPerYear;
     }
     int periods = 0;
-    if (__builtin_mul_overflow(termMonths, frequency.wholePeriodsPerMonth, &periods)) {
+    if (__builtin_mul_overflow(term.count, frequency.wholePeriodsPerMonth, &periods)) {
         throw OverflowFailure("PeriodsOfTerm");
     }
     return periods;
 }
 
-Money EscrowShare(QStringView code, Money monthlyEscrow) {
+Money EscrowShare(const FrequencyCode& code, Money monthlyEscrow) {
     const Frequency* const frequency = FindFrequency(code);
     if (frequency != nullptr && !frequency->halvesEscrow) {
         return monthlyEscrow;
@@ -32,12 +32,12 @@ Money EscrowShare(QStringView code, Money monthlyEscrow) {
     return Money::FromDouble(monthlyEscrow.ToDouble() / 2.0);
 }
 
-QString FrequencyCodeToText(const QString& code) {
+QString FrequencyCodeToText(const FrequencyCode& code) {
     const Frequency* const frequency = FindFrequency(code);
     return frequency == nullptr ? QString() : GetResourceText(frequency->textNumber);
 }
 
-QString FrequencyTextToCode(const QString& text) {
+FrequencyCode FrequencyTextToCode(const QString& text) {
     if (text.isEmpty()) {
         return {};
     }
@@ -45,7 +45,7 @@ QString FrequencyTextToCode(const QString& text) {
         std::find_if(Frequencies.begin(), Frequencies.end(), [&text](const Frequency& frequency) {
             return text == GetResourceText(frequency.textNumber);
         });
-    return row == Frequencies.end() ? QString() : row->Code();
+    return row == Frequencies.end() ? FrequencyCode() : row->Code();
 }
 
 QStringList FrequencyTexts() {

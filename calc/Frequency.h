@@ -1,11 +1,11 @@
 #pragma once
 
 #include "Money.h"
+#include "Quantities.h"
 #include "TextNumbers.h"
 
 #include <QString>
 #include <QStringList>
-#include <QStringView>
 
 #include <array>
 
@@ -31,7 +31,7 @@ struct Frequency {
     DateStep step;
     bool halvesEscrow; ///< half the monthly escrow per payment, whatever periodsPerYear is
 
-    QString Code() const { return {QChar(code)}; }
+    FrequencyCode Code() const { return FrequencyCode(QChar(code)); }
 };
 
 /// In the order of every list of frequencies.
@@ -46,23 +46,23 @@ inline constexpr std::array<Frequency, 4> Frequencies{{
 // clang-format on
 
 /// Null for no frequency and for an unknown code. The row has static lifetime.
-const Frequency* FindFrequency(QStringView code);
+const Frequency* FindFrequency(const FrequencyCode& code);
 
 /// The number of payments in a term; not rounded: 100 months have 216.67 payments every two weeks.
 /// Raises OverflowFailure if a whole number of payments is outside the 32-bit range.
-double PeriodsOfTerm(const Frequency& frequency, int termMonths);
+double PeriodsOfTerm(const Frequency& frequency, Months term);
 
 /// The part of the monthly escrow in one payment: all of it for M and Q, half of it (computed in
 /// double, rounded as Money::FromDouble does) for every other code, including unknown and empty
 /// ones.
-Money EscrowShare(QStringView code, Money monthlyEscrow);
+Money EscrowShare(const FrequencyCode& code, Money monthlyEscrow);
 
 /// The code's text in the current language; empty for an unknown code.
-QString FrequencyCodeToText(const QString& code);
+QString FrequencyCodeToText(const FrequencyCode& code);
 
-/// The code whose text in the current language equals the given one; otherwise empty. The empty
+/// The code whose text in the current language equals the given one; otherwise none. The empty
 /// text has no code, even if the language lacks a text.
-QString FrequencyTextToCode(const QString& text);
+FrequencyCode FrequencyTextToCode(const QString& text);
 
 /// The four texts in list order.
 QStringList FrequencyTexts();

@@ -4,13 +4,13 @@
 
 #include <cmath>
 
-Money PrincipalAndInterest(Money principal, double rate, int termMonths, const QString& code) {
+Money PrincipalAndInterest(Money principal, Rate rate, Months term, const FrequencyCode& code) {
     const Frequency* const frequency = FindFrequency(code);
-    if (principal.IsZero() || rate == 0.0 || termMonths == 0 || frequency == nullptr) {
+    if (principal.IsZero() || rate.IsZero() || term.IsZero() || frequency == nullptr) {
         return {};
     }
-    const double periodRate = rate / frequency->periodsPerYear;
-    const double periods = PeriodsOfTerm(*frequency, termMonths);
+    const double periodRate = rate.Fraction() / frequency->periodsPerYear;
+    const double periods = PeriodsOfTerm(*frequency, term);
     const double annuity = (1.0 - std::pow(1.0 + periodRate, -periods)) / periodRate;
     return Money::FromDoubleInCents(principal.ToDouble() / annuity);
 }

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "Money.h"
-
-#include <QString>
+#include "Quantities.h"
 
 /// The payment (principal and interest) that repays a loan within its term, rounded to the nearest
-/// cent, halves to even. The rate is annual, as a fraction. Zero for a zero principal, rate or term
+/// cent, halves to even. Zero for a zero principal, rate or term
 /// and for an unknown code: there is no formula without interest. Raises OverflowFailure for a
 /// payment outside the range of money or NaN, and for "B" if twice the term is outside the 32-bit
 /// range.
-Money PrincipalAndInterest(Money principal, double rate, int termMonths, const QString& code);
+Money PrincipalAndInterest(Money principal, Rate rate, Months term, const FrequencyCode& code);

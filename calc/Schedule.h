@@ -4,13 +4,14 @@
 #include "DueDates.h"
 #include "Frequency.h"
 #include "Money.h"
+#include "Quantities.h"
 
 #include <cstdint>
 
 /// The inputs of a schedule.
 struct ScheduleTerms {
     Money balance;
-    double rate = 0.0; ///< annual, as a fraction
+    Rate rate;
     Money payment;     ///< of one period, including its escrow share
     Money escrowShare; ///< of one period
     /// Null for an unknown code: no interest accrues and the date does not advance.
@@ -88,7 +89,7 @@ template <typename Dates, typename Watch>
 Payoff RunPeriods(const ScheduleTerms& terms, Dates dates, Watch& watch) {
     const double year = terms.frequency->interestYear;
     const double parts = terms.frequency->interestParts;
-    const double rate = terms.rate;
+    const double rate = terms.rate.Fraction();
     const Money available = terms.payment - terms.escrowShare;
     Money balance = terms.balance;
     Payoff payoff;

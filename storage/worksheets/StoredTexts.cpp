@@ -5,9 +5,7 @@
 
 #include <QLocale>
 
-#include <cmath>
 #include <initializer_list>
-#include <limits>
 
 namespace {
 
@@ -22,8 +20,14 @@ std::string StoredTexts::Write(Money amount) const {
     return m_formats.GeneralNumber(amount).toStdString();
 }
 
-std::string StoredTexts::Write(double number) const {
-    return m_formats.GeneralNumber(number).toStdString();
+std::string StoredTexts::Write(Percent percent) const {
+    return m_formats.GeneralNumber(percent.Value()).toStdString();
+}
+
+std::string StoredTexts::Write(Rate rate) const { return Write(Percent::FromRate(rate)); }
+
+std::string StoredTexts::Write(Months term) const {
+    return m_formats.GeneralNumber(static_cast<double>(term.count)).toStdString();
 }
 
 std::string StoredTexts::Write(Date date) const {
@@ -47,16 +51,14 @@ Money StoredTexts::ReadAmount(const std::string& text) const {
     return m_formats.ReadAmount(InOwnSymbol(text));
 }
 
-double StoredTexts::ReadReal(const std::string& text) const {
-    return m_formats.ReadReal(InOwnSymbol(text));
+Percent StoredTexts::ReadPercent(const std::string& text) const {
+    return Percent::FromPercent(m_formats.ReadReal(InOwnSymbol(text)));
 }
 
-int StoredTexts::ReadMonths(const std::string& text) const {
-    const double months = std::nearbyint(ReadReal(text));
-    if (!(std::abs(months) <= std::numeric_limits<int>::max())) {
-        throw OverflowFailure(ProgramSource);
-    }
-    return static_cast<int>(months);
+Rate StoredTexts::ReadRate(const std::string& text) const { return ReadPercent(text).ToRate(); }
+
+Months StoredTexts::ReadMonths(const std::string& text) const {
+    return Months::Nearest(m_formats.ReadReal(InOwnSymbol(text)));
 }
 
 Date StoredTexts::ReadDate(const std::string& text) const {

@@ -24,15 +24,20 @@ public:
         : m_formats(std::move(formats)), m_writtenDateFormat(QString::fromStdString(dateFormat)) {}
 
     std::string Write(Money amount) const;
-    std::string Write(double number) const;
+    std::string Write(Percent percent) const;
+    /// In percent.
+    std::string Write(Rate rate) const;
+    std::string Write(Months term) const;
     /// An empty text means no date.
     std::string Write(Date date) const;
     std::string DateFormat() const;
 
     Money ReadAmount(const std::string& text) const;
-    double ReadReal(const std::string& text) const;
-    /// Whole months, halves to even.
-    int ReadMonths(const std::string& text) const;
+    Percent ReadPercent(const std::string& text) const;
+    /// From a text in percent.
+    Rate ReadRate(const std::string& text) const;
+    /// Rounds halves to even.
+    Months ReadMonths(const std::string& text) const;
     Date ReadDate(const std::string& text) const;
 
 private:

@@ -79,7 +79,7 @@ bool WorksheetStore::CanHoldLender(const QString& who) {
 
 bool WorksheetStore::IsWorthKeeping(const CLoan& offer) {
     return !offer.Who().isEmpty() || !offer.ActualPayment().IsZero() || offer.FinancePoints() ||
-           offer.InterestRate() != 0 || offer.Points() != 0;
+           !offer.InterestRate().IsZero() || !offer.Points().IsZero();
 }
 
 QStringList WorksheetStore::Names() const {

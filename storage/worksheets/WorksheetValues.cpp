@@ -23,65 +23,40 @@ struct PlainText {
     static QString Read(const QString& text, const StoredTexts&) { return text; }
 };
 
-struct Amount {
-    static std::string Write(Money amount, const StoredTexts& texts) { return texts.Write(amount); }
-    static Money Read(const QString& text, const StoredTexts& texts) {
-        return texts.ReadAmount(text.toStdString());
+/// A number or date, converted by the reader and the matching writer.
+template <class Value, Value (StoredTexts::*Reader)(const std::string&) const>
+struct Converted {
+    static std::string Write(Value value, const StoredTexts& texts) { return texts.Write(value); }
+    static Value Read(const QString& text, const StoredTexts& texts) {
+        return (texts.*Reader)(text.toStdString());
     }
 };
 
-struct Months {
-    static std::string Write(int months, const StoredTexts& texts) {
-        return texts.Write(static_cast<double>(months));
-    }
-    static int Read(const QString& text, const StoredTexts& texts) {
-        return texts.ReadMonths(text.toStdString());
-    }
-};
-
-struct Real {
-    static std::string Write(double number, const StoredTexts& texts) {
-        return texts.Write(number);
-    }
-    static double Read(const QString& text, const StoredTexts& texts) {
-        return texts.ReadReal(text.toStdString());
-    }
-};
-
-/// A fraction, saved in percent.
-struct Percent {
-    static constexpr double Whole = 100;
-    static std::string Write(double fraction, const StoredTexts& texts) {
-        return texts.Write(fraction * Whole);
-    }
-    static double Read(const QString& text, const StoredTexts& texts) {
-        return texts.ReadReal(text.toStdString()) / Whole;
-    }
-};
-
-struct Day {
-    static std::string Write(Date date, const StoredTexts& texts) { return texts.Write(date); }
-    static Date Read(const QString& text, const StoredTexts& texts) {
-        return texts.ReadDate(text.toStdString());
-    }
-};
+using Amount = Converted<Money, &StoredTexts::ReadAmount>;
+using Term = Converted<Months, &StoredTexts::ReadMonths>;
+using Points = Converted<Percent, &StoredTexts::ReadPercent>;
+using InterestRate = Converted<Rate, &StoredTexts::ReadRate>;
+using Day = Converted<Date, &StoredTexts::ReadDate>;
 
 /// A loan type, written as text in the current language; accepted in any language.
 struct LoanTypeText {
-    static std::string Write(const QString& code, const StoredTexts&) {
+    static std::string Write(const LoanTypeCode& code, const StoredTexts&) {
         return LoanTypeCodeToText(code).toStdString();
     }
-    static QString Read(const QString& text, const StoredTexts&) {
-        const QString code = LoanTypeTextToCodeInAnyLanguage(text);
-        return code.isEmpty() && !text.isEmpty() ? throw ConversionFailure(ProgramSource) : code;
+    static LoanTypeCode Read(const QString& text, const StoredTexts&) {
+        const LoanTypeCode code = LoanTypeTextToCodeInAnyLanguage(text);
+        return code.IsNone() && !text.isEmpty() ? throw ConversionFailure(ProgramSource) : code;
     }
 };
 
 /// A frequency code. An unknown code is rejected, because it would silently empty the results.
-struct FrequencyCode {
-    static std::string Write(const QString& code, const StoredTexts&) { return code.toStdString(); }
-    static QString Read(const QString& code, const StoredTexts&) {
-        return code.isEmpty() || FindFrequency(code) != nullptr
+struct KnownFrequency {
+    static std::string Write(const FrequencyCode& code, const StoredTexts&) {
+        return code.Text().toStdString();
+    }
+    static FrequencyCode Read(const QString& text, const StoredTexts&) {
+        const FrequencyCode code(text);
+        return code.IsNone() || FindFrequency(code) != nullptr
                    ? code
                    : throw ConversionFailure(ProgramSource);
     }
@@ -90,10 +65,10 @@ struct FrequencyCode {
 /// The same for a property that holds the display text of the frequency.
 struct FrequencyShown {
     static std::string Write(const QString& text, const StoredTexts&) {
-        return FrequencyTextToCode(text).toStdString();
+        return FrequencyTextToCode(text).Text().toStdString();
     }
     static QString Read(const QString& code, const StoredTexts& texts) {
-        return FrequencyCodeToText(FrequencyCode::Read(code, texts));
+        return FrequencyCodeToText(KnownFrequency::Read(code, texts));
     }
 };
 
@@ -125,12 +100,12 @@ const std::array LoanValueTable{
     OfLoan<PlainText,      &W::LoanName,                &W::SetLoanName>(                LoanNameName,             "",   0),
     OfLoan<LoanTypeText,   &W::LoanType,                &W::SetLoanType>(                "LoanType",               "",   1),
     OfLoan<Amount,         &W::LoanAmount,              &W::SetLoanAmount>(              "LoanAmount",             "0",  2),
-    OfLoan<Months,         &W::LoanTerm,                &W::SetLoanTerm>(                "LoanTerm",               "0",  3),
+    OfLoan<Term,           &W::LoanTerm,                &W::SetLoanTerm>(                "LoanTerm",               "0",  3),
     OfLoan<Amount,         &W::EscrowTaxes,             &W::SetEscrowTaxes>(             "EscrowTaxes",            "0",  4),
     OfLoan<Amount,         &W::EscrowInsurance,         &W::SetEscrowInsurance>(         "EscrowInsurance",        "0",  5),
     OfLoan<Amount,         &W::CurrentLoanAmount,       &W::SetCurrentLoanAmount>(       "CurrentLoanAmount",      "0",  6),
-    OfLoan<Months,         &W::CurrentTerm,             &W::SetCurrentTerm>(             "CurrentTerm",            "0",  7),
-    OfLoan<Percent,        &W::CurrentInterestRate,     &W::SetCurrentInterestRate>(     "CurrentInterestRate",    "0",  8),
+    OfLoan<Term,           &W::CurrentTerm,             &W::SetCurrentTerm>(             "CurrentTerm",            "0",  7),
+    OfLoan<InterestRate,   &W::CurrentInterestRate,     &W::SetCurrentInterestRate>(     "CurrentInterestRate",    "0",  8),
     OfLoan<Amount,         &W::CurrentBalance,          &W::SetCurrentBalance>(          "CurrentBalance",         "0",  9),
     OfLoan<Amount,         &W::CurrentActualPayment,    &W::SetCurrentActualPayment>(    "CurrentActualPayment",   "0", 14),
     OfLoan<FrequencyShown, &W::CurrentFrequency,        &W::SetCurrentFrequency>(        "CurrentFrequency",       "",  11),
@@ -147,12 +122,12 @@ const std::array OfferValueTable{
         [](CLoan& offer, const RegistryValue& value, const StoredTexts&) {
             offer.SetFinancePoints(std::get<std::int32_t>(value) != 0);
         }},
-    OfOffer<Real,          &C::Points,                  &C::SetPoints>(                  " Points",                "0",  4),
-    OfOffer<Months,        &C::Term,                    &C::SetTerm>(                    " Term",                  "0",  2),
-    OfOffer<Percent,       &C::InterestRate,            &C::SetInterestRate>(            " InterestRate",          "0",  5),
-    OfOffer<FrequencyCode, &C::FrequencyCode,           &C::SetFrequencyCode>(           " Frequency",             "",   6),
-    OfOffer<Amount,        &C::ActualPayment,           &C::SetActualPayment>(           " ActualPayment",         "0",  1),
-    OfOffer<PlainText,     &C::Who,                     &C::SetWho>(                     " Who",                   "",   7),
+    OfOffer<Points,         &C::Points,                 &C::SetPoints>(                 " Points",                "0",  4),
+    OfOffer<Term,           &C::Term,                   &C::SetTerm>(                   " Term",                  "0",  2),
+    OfOffer<InterestRate,   &C::InterestRate,           &C::SetInterestRate>(           " InterestRate",          "0",  5),
+    OfOffer<KnownFrequency, &C::FrequencyCode,          &C::SetFrequencyCode>(          " Frequency",             "",   6),
+    OfOffer<Amount,         &C::ActualPayment,          &C::SetActualPayment>(          " ActualPayment",         "0",  1),
+    OfOffer<PlainText,      &C::Who,                    &C::SetWho>(                    " Who",                   "",   7),
 };
 // clang-format on
 

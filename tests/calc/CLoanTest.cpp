@@ -28,9 +28,9 @@ protected:
         m_context.escrowMonthly = Units(250.0);
         m_context.today = Date::FromCalendar(2026, 3, 10);
         m_loan.SetStartingAmount(Units(100'000.0));
-        m_loan.SetTerm(360);
-        m_loan.SetInterestRate(0.06);
-        m_loan.SetFrequencyCode(u"M"_s);
+        m_loan.SetTerm(Months{360});
+        m_loan.SetInterestRate(Rate::FromFraction(0.06));
+        m_loan.SetFrequencyCode(FrequencyCode(u"M"_s));
         m_context.dirtied = 0;
     }
 
@@ -39,15 +39,15 @@ protected:
 };
 
 TEST_F(CLoanTest, StartsEmpty) {
-    m_context.loanTerm = 360;
+    m_context.loanTerm = Months{360};
     CLoan fresh(m_context);
     EXPECT_FALSE(fresh.FinancePoints());
-    EXPECT_EQ(fresh.Points(), 0.0);
+    EXPECT_TRUE(fresh.Points().IsZero());
     EXPECT_FALSE(fresh.FinanceClosingCosts());
     EXPECT_EQ(fresh.ClosingCosts(), Money());
-    EXPECT_EQ(fresh.Term(), 0);
-    EXPECT_EQ(fresh.InterestRate(), 0.0);
-    EXPECT_EQ(fresh.FrequencyCode(), QString());
+    EXPECT_TRUE(fresh.Term().IsZero());
+    EXPECT_TRUE(fresh.InterestRate().IsZero());
+    EXPECT_TRUE(fresh.FrequencyCode().IsNone());
     EXPECT_EQ(fresh.Frequency(), QString());
     EXPECT_EQ(fresh.ActualPayment(), Money());
     EXPECT_FALSE(fresh.Forced());
@@ -79,7 +79,7 @@ TEST_F(CLoanTest, AddsTheEscrowShareToThePayment) {
     };
     // clang-format on
     for (const auto& [code, principalAndInterest, payment] : cases) {
-        m_loan.SetFrequencyCode(code);
+        m_loan.SetFrequencyCode(FrequencyCode(code));
         EXPECT_EQ(m_loan.PandI(), Units(principalAndInterest)) << code.toStdString();
         EXPECT_EQ(m_loan.Payment(), Units(payment)) << code.toStdString();
     }
@@ -111,7 +111,7 @@ TEST_F(CLoanTest, BorrowsFinancedPointsAndCostsToo) {
     for (const PrincipalCase& row : cases) {
         SCOPED_TRACE(testing::Message() << row.amount << " " << row.points);
         m_loan.SetStartingAmount(Units(row.amount));
-        m_loan.SetPoints(row.points);
+        m_loan.SetPoints(Percent::FromPercent(row.points));
         m_loan.SetFinancePoints(row.financePoints);
         m_loan.SetClosingCosts(Units(row.costs));
         m_loan.SetFinanceClosingCosts(row.financeCosts);
@@ -129,12 +129,12 @@ TEST_F(CLoanTest, MarksTheWorksheetDirtyWhenAValueChanges) {
     const QString weekly = GetResourceText(112);
     const std::vector<DirtyCase> cases{
         {"FinancePoints", [](CLoan& loan) { loan.SetFinancePoints(true); }},
-        {"Points", [](CLoan& loan) { loan.SetPoints(1.25); }},
+        {"Points", [](CLoan& loan) { loan.SetPoints(Percent::FromPercent(1.25)); }},
         {"FinanceClosingCosts", [](CLoan& loan) { loan.SetFinanceClosingCosts(true); }},
         {"ClosingCosts", [](CLoan& loan) { loan.SetClosingCosts(Units(1.0)); }},
-        {"Term", [](CLoan& loan) { loan.SetTerm(180); }},
-        {"InterestRate", [](CLoan& loan) { loan.SetInterestRate(0.07); }},
-        {"FrequencyCode", [](CLoan& loan) { loan.SetFrequencyCode(u"B"_s); }},
+        {"Term", [](CLoan& loan) { loan.SetTerm(Months{180}); }},
+        {"InterestRate", [](CLoan& loan) { loan.SetInterestRate(Rate::FromFraction(0.07)); }},
+        {"FrequencyCode", [](CLoan& loan) { loan.SetFrequencyCode(FrequencyCode(u"B"_s)); }},
         {"Frequency", [&weekly](CLoan& loan) { loan.SetFrequency(weekly); }},
         {"ActualPayment", [](CLoan& loan) { loan.SetActualPayment(Units(5'000.0)); }},
         {"Who", [](CLoan& loan) { loan.SetWho(u"First Bank"_s); }},
@@ -171,30 +171,30 @@ TEST_F(CLoanTest, TakesTheDefaultTermWithARate) {
     };
     // clang-format on
     for (const auto& [term, rate, defaultTerm, termAfter] : cases) {
-        m_loan.SetTerm(term);
-        m_context.loanTerm = defaultTerm;
-        m_loan.SetInterestRate(rate);
-        EXPECT_EQ(m_loan.Term(), termAfter) << term << " at " << rate;
-        EXPECT_EQ(m_loan.InterestRate(), rate);
+        m_loan.SetTerm(Months{term});
+        m_context.loanTerm = Months{defaultTerm};
+        m_loan.SetInterestRate(Rate::FromFraction(rate));
+        EXPECT_EQ(m_loan.Term().count, termAfter) << term << " at " << rate;
+        EXPECT_EQ(m_loan.InterestRate().Fraction(), rate);
     }
 }
 
 TEST_F(CLoanTest, TakesTheDefaultTermEvenWhenTheRateStaysTheSame) {
-    m_loan.SetTerm(0);
-    m_context.loanTerm = 240;
-    m_loan.SetInterestRate(0.06);
-    EXPECT_EQ(m_loan.Term(), 240);
+    m_loan.SetTerm(Months{0});
+    m_context.loanTerm = Months{240};
+    m_loan.SetInterestRate(Rate::FromFraction(0.06));
+    EXPECT_EQ(m_loan.Term(), Months{240});
 }
 
 TEST_F(CLoanTest, KnowsItsFrequencyByTextAndByCode) {
     m_loan.SetFrequency(GetResourceText(115));
-    EXPECT_EQ(m_loan.FrequencyCode(), u"Q"_s);
+    EXPECT_EQ(m_loan.FrequencyCode(), FrequencyCode(u"Q"_s));
     EXPECT_EQ(m_loan.Frequency(), GetResourceText(115));
-    m_loan.SetFrequencyCode(u"x1"_s);
-    EXPECT_EQ(m_loan.FrequencyCode(), u"x1"_s);
+    m_loan.SetFrequencyCode(FrequencyCode(u"x1"_s));
+    EXPECT_EQ(m_loan.FrequencyCode(), FrequencyCode(u"x1"_s));
     EXPECT_EQ(m_loan.Frequency(), QString());
     m_loan.SetFrequency(u"now and then"_s);
-    EXPECT_EQ(m_loan.FrequencyCode(), QString());
+    EXPECT_TRUE(m_loan.FrequencyCode().IsNone());
     EXPECT_EQ(m_loan.PandI(), Money());
     EXPECT_EQ(m_loan.Payment(), Money());
     EXPECT_TRUE(m_loan.PayoffDate().IsNone());
@@ -210,14 +210,14 @@ TEST_F(CLoanTest, RaisesALowActualPaymentAndTellsOnce) {
     m_loan.Payment(); // now high enough
     EXPECT_FALSE(m_loan.Forced());
     EXPECT_EQ(m_context.dirtied, 1);
-    m_loan.SetInterestRate(0.05); // does not lower the actual payment
+    m_loan.SetInterestRate(Rate::FromFraction(0.05)); // does not lower the actual payment
     EXPECT_EQ(m_loan.Payment(), Units(786.82));
     EXPECT_EQ(m_loan.ActualPayment(), Units(849.55));
     EXPECT_FALSE(m_loan.Forced());
 }
 
 TEST_F(CLoanTest, RaisesNothingWithoutAPayment) {
-    m_loan.SetInterestRate(0.0);
+    m_loan.SetInterestRate(Rate::FromFraction(0.0));
     EXPECT_EQ(m_loan.PandI(), Money());
     EXPECT_EQ(m_loan.Payment(), Money());
     EXPECT_EQ(m_loan.ActualPayment(), Money());
@@ -279,8 +279,8 @@ TEST_F(CLoanTest, RaisesAnAcceptedZeroAtTheNextReading) {
 
 TEST_F(CLoanTest, PaysOffFromTodayOn) {
     m_loan.SetStartingAmount(Units(1'000.0));
-    m_loan.SetInterestRate(0.12);
-    m_loan.SetTerm(2);
+    m_loan.SetInterestRate(Rate::FromFraction(0.12));
+    m_loan.SetTerm(Months{2});
     m_context.escrowMonthly = Money();
     m_loan.SetActualPayment(Units(600.0));
     EXPECT_EQ(m_loan.PandI(), Units(507.51));
@@ -296,7 +296,7 @@ TEST_F(CLoanTest, PaysOffFromTodayOn) {
 }
 
 TEST_F(CLoanTest, PaysOffAnUnknownFrequencyWithoutInterestOrTime) {
-    m_loan.SetFrequencyCode(u"X"_s);
+    m_loan.SetFrequencyCode(FrequencyCode(u"X"_s));
     m_loan.SetActualPayment(Units(1'000.0));
     EXPECT_EQ(m_loan.PayoffDate(), m_context.today);
     EXPECT_EQ(m_loan.Interest(), Money());
@@ -312,8 +312,8 @@ struct NoDateCase {
 TEST_F(CLoanTest, HasNoPayoffDateWhileAnInputIsMissing) {
     const std::vector<NoDateCase> cases{
         {"principal", [](CLoan& loan) { loan.SetStartingAmount(Money()); }},
-        {"rate", [](CLoan& loan) { loan.SetInterestRate(0.0); }},
-        {"frequency", [](CLoan& loan) { loan.SetFrequencyCode(QString()); }},
+        {"rate", [](CLoan& loan) { loan.SetInterestRate(Rate::FromFraction(0.0)); }},
+        {"frequency", [](CLoan& loan) { loan.SetFrequencyCode(FrequencyCode()); }},
         {"actual payment", [](CLoan& loan) { loan.SetActualPayment(Money()); }},
     };
     for (const auto& [missing, clear] : cases) {
@@ -338,7 +338,7 @@ TEST_F(CLoanTest, ForgetsItsInterestWhenThePayoffFails) {
     m_loan.SetActualPayment(Units(1'000.0));
     m_loan.PayoffDate();
     m_loan.SetStartingAmount(Units(9e14));
-    m_loan.SetPoints(50.0);
+    m_loan.SetPoints(Percent::FromPercent(50.0));
     m_loan.SetFinancePoints(true);
     EXPECT_THROW(m_loan.PayoffDate(), OverflowFailure);
     EXPECT_EQ(m_loan.Interest(), Money());
@@ -346,8 +346,8 @@ TEST_F(CLoanTest, ForgetsItsInterestWhenThePayoffFails) {
 
 TEST_F(CLoanTest, PassesOverflowOnAndKeepsWhatWasStored) {
     m_loan.SetActualPayment(Units(900.0));
-    m_loan.SetFrequencyCode(u"B"_s);
-    m_loan.SetTerm(std::numeric_limits<int>::max());
+    m_loan.SetFrequencyCode(FrequencyCode(u"B"_s));
+    m_loan.SetTerm(Months{std::numeric_limits<int>::max()});
     EXPECT_THROW(m_loan.PandI(), OverflowFailure);
     EXPECT_THROW(m_loan.Payment(), OverflowFailure);
     EXPECT_THROW(m_loan.SetActualPayment(Units(1'000.0)), OverflowFailure);
@@ -358,10 +358,10 @@ TEST_F(CLoanTest, PassesOverflowOnAndKeepsWhatWasStored) {
 TEST_F(CLoanTest, LivesInAVector) {
     std::vector<CLoan> offers;
     for (int i = 0; i < 20; ++i) {
-        offers.emplace_back(m_context).SetPoints(i);
+        offers.emplace_back(m_context).SetPoints(Percent::FromPercent(i));
     }
     offers.push_back(std::move(m_loan));
-    EXPECT_EQ(offers.at(7).Points(), 7.0);
+    EXPECT_EQ(offers.at(7).Points(), Percent::FromPercent(7.0));
     EXPECT_EQ(offers.back().Payment(), Units(849.55));
 }
 

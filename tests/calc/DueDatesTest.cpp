@@ -1,6 +1,7 @@
 #include "DueDates.h"
 
 #include "Failure.h"
+#include "MonthAfter.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +32,8 @@ TEST(DueDates, OfAMonthlyLoanKeepADayOnceCutShort) {
         {2026y / 3 / 10, 2026y / 4 / 10, 2026y / 5 / 10, 2026y / 6 / 10},
         {2026y / 1 / 31, 2026y / 2 / 28, 2026y / 3 / 28, 2026y / 4 / 28},
         {2028y / 1 / 31, 2028y / 2 / 29, 2028y / 3 / 29, 2028y / 4 / 29},
+        {2000y / 1 / 30, 2000y / 2 / 29, 2000y / 3 / 29},
+        {2100y / 1 / 29, 2100y / 2 / 28, 2100y / 3 / 28}, // not a leap year
         {2026y / 10 / 31, 2026y / 11 / 30, 2026y / 12 / 30, 2027y / 1 / 30, 2027y / 2 / 28},
         {1899y / 12 / 30, 1900y / 1 / 30, 1900y / 2 / 28, 1900y / 3 / 28}, // from no date
     };
@@ -66,7 +69,7 @@ TEST(DueDates, OfAMonthlyLoanFollowTheCalendarToItsEnd) {
         Date expected = Date::FromDays(start);
         MonthlyDates dates(expected);
         while (expected <= Date::FromCalendar(9999, 11, 30)) {
-            expected = expected.PlusOneMonth();
+            expected = MonthAfter(expected);
             dates.Step();
             ASSERT_EQ(dates.Current(), expected) << "from " << start;
         }

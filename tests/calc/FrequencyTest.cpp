@@ -51,16 +51,17 @@ const std::vector<FrequencyCase>& Cases() {
 TEST(Frequency, HasAPlaceATextPeriodsAndAnEscrowShare) {
     for (const FrequencyCase& row : Cases()) {
         SCOPED_TRACE(row.code.toStdString());
-        const Frequency* const frequency = FindFrequency(row.code);
+        const FrequencyCode code(row.code);
+        const Frequency* const frequency = FindFrequency(code);
         ASSERT_NE(frequency, nullptr);
         EXPECT_EQ(frequency - Frequencies.data(), row.listIndex);
-        EXPECT_EQ(frequency->Code(), row.code);
+        EXPECT_EQ(frequency->Code(), code);
         EXPECT_EQ(frequency->textNumber, row.textNumber);
-        EXPECT_EQ(PeriodsOfTerm(*frequency, 360), row.periodsOf360);
-        EXPECT_EQ(PeriodsOfTerm(*frequency, 100), row.periodsOf100);
-        EXPECT_EQ(PeriodsOfTerm(*frequency, 0), 0.0);
-        const auto share = [&row](std::int64_t monthly) {
-            return EscrowShare(row.code, Money::FromTenThousandths(monthly)).TenThousandths();
+        EXPECT_EQ(PeriodsOfTerm(*frequency, Months{360}), row.periodsOf360);
+        EXPECT_EQ(PeriodsOfTerm(*frequency, Months{100}), row.periodsOf100);
+        EXPECT_EQ(PeriodsOfTerm(*frequency, Months()), 0.0);
+        const auto share = [&code](std::int64_t monthly) {
+            return EscrowShare(code, Money::FromTenThousandths(monthly)).TenThousandths();
         };
         EXPECT_EQ(share(2'500'000), row.escrowOf250);
         EXPECT_EQ(share(1), row.escrowOf1);
@@ -70,8 +71,9 @@ TEST(Frequency, HasAPlaceATextPeriodsAndAnEscrowShare) {
 }
 
 TEST(Frequency, OfAnyOtherCodeIsNoneAndHalvesTheEscrow) {
-    for (const QString& code : CodesWithoutFrequency) {
-        SCOPED_TRACE(code.toStdString());
+    for (const QString& text : CodesWithoutFrequency) {
+        SCOPED_TRACE(text.toStdString());
+        const FrequencyCode code(text);
         EXPECT_EQ(FindFrequency(code), nullptr);
         EXPECT_EQ(FrequencyCodeToText(code), QString());
         EXPECT_EQ(EscrowShare(code, Money::FromTenThousandths(2'500'000)),
@@ -104,11 +106,11 @@ TEST(Frequency, CountsPaymentsTwiceAMonthInWholeNumbersOnly) {
     // clang-format on
     for (const auto& [code, months, overflows] : cases) {
         SCOPED_TRACE(testing::Message() << code.toStdString() << " " << months);
-        const Frequency& frequency = *FindFrequency(code);
+        const Frequency& frequency = *FindFrequency(FrequencyCode(code));
         if (overflows) {
-            EXPECT_THROW(PeriodsOfTerm(frequency, months), OverflowFailure);
+            EXPECT_THROW(PeriodsOfTerm(frequency, Months{months}), OverflowFailure);
         } else {
-            EXPECT_EQ(PeriodsOfTerm(frequency, months) < 0.0, months < 0);
+            EXPECT_EQ(PeriodsOfTerm(frequency, Months{months}) < 0.0, months < 0);
         }
     }
 }
@@ -118,15 +120,15 @@ TEST(Frequency, IsShownAndReadBackInTheLanguageInUse) {
     for (const FrequencyCase& row : Cases()) {
         const QString text = GetResourceText(row.textNumber);
         ASSERT_FALSE(text.isEmpty()) << row.textNumber;
-        EXPECT_EQ(FrequencyCodeToText(row.code), text);
-        EXPECT_EQ(FrequencyTextToCode(text), row.code);
-        EXPECT_EQ(FrequencyTextToCode(text + u' '), QString());
-        EXPECT_EQ(FrequencyTextToCode(text.toUpper()), QString());
+        EXPECT_EQ(FrequencyCodeToText(FrequencyCode(row.code)), text);
+        EXPECT_EQ(FrequencyTextToCode(text), FrequencyCode(row.code));
+        EXPECT_TRUE(FrequencyTextToCode(text + u' ').IsNone());
+        EXPECT_TRUE(FrequencyTextToCode(text.toUpper()).IsNone());
         expected.append(text);
     }
     EXPECT_EQ(FrequencyTexts(), expected);
-    EXPECT_EQ(FrequencyTextToCode(QString()), QString());
-    EXPECT_EQ(FrequencyTextToCode(QStringLiteral("M")), QString());
+    EXPECT_TRUE(FrequencyTextToCode(QString()).IsNone());
+    EXPECT_TRUE(FrequencyTextToCode(QStringLiteral("M")).IsNone());
 }
 
 } // namespace

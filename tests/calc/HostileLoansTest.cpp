@@ -2,6 +2,7 @@
 
 #include "CLoan.h"
 #include "Failure.h"
+#include "MonthAfter.h"
 #include "RecordingLoanContext.h"
 
 #include <gtest/gtest.h>
@@ -68,23 +69,25 @@ private:
     }
     double InterestUnits() const {
         const double units = m_balance.ToDouble();
-        const QString& code = m_loan.code;
-        return code == u"M"   ? units * m_loan.rate / 12
-               : code == u"B" ? units * m_loan.rate / 24
-               : code == u"W" ? units * m_loan.rate / 365 * 14
-               : code == u"Q" ? units * m_loan.rate / 365 * 28
+        const double rate = m_loan.rate.Fraction();
+        const QString& code = m_loan.code.Text();
+        return code == u"M"   ? units * rate / 12
+               : code == u"B" ? units * rate / 24
+               : code == u"W" ? units * rate / 365 * 14
+               : code == u"Q" ? units * rate / 365 * 28
                               : 0.0;
     }
     void Step() {
-        if (m_loan.code == u"M") {
-            m_date = m_date.PlusOneMonth();
-        } else if (m_loan.code == u"W") {
+        const QString& code = m_loan.code.Text();
+        if (code == u"M") {
+            m_date = MonthAfter(m_date);
+        } else if (code == u"W") {
             m_date = m_date.PlusDays(14);
-        } else if (m_loan.code == u"Q") {
+        } else if (code == u"Q") {
             m_date = m_date.PlusDays(28);
-        } else if (m_loan.code == u"B") {
+        } else if (code == u"B") {
             const Date before = m_date;
-            m_date = m_secondHalf ? m_saved.PlusOneMonth() : m_date.PlusDays(14);
+            m_date = m_secondHalf ? MonthAfter(m_saved) : m_date.PlusDays(14);
             m_saved = m_secondHalf ? m_saved : before;
             m_secondHalf = !m_secondHalf;
         }
@@ -102,10 +105,10 @@ TEST(HostileLoans, AllEndAsThePlainLoopDoes) {
     std::map<std::string, int> compared;
     for (const HostileLoan& loan : HostileLoans::Make(LoanCount)) {
         SCOPED_TRACE(testing::Message()
-                     << loan.kind << ": " << loan.amount.ToDouble() << " at " << loan.rate << " "
-                     << loan.code.toStdString() << " pays " << loan.actualPayment.ToDouble()
-                     << " escrow " << loan.escrowMonthly.ToDouble() << " from "
-                     << loan.start.Days());
+                     << loan.kind << ": " << loan.amount.ToDouble() << " at "
+                     << loan.rate.Fraction() << " " << loan.code.Text().toStdString() << " pays "
+                     << loan.actualPayment.ToDouble() << " escrow " << loan.escrowMonthly.ToDouble()
+                     << " from " << loan.start.Days());
         const std::optional<ScheduleTotals> fast = Fast(loan);
         PlainLoop plain(loan);
         const PlainLoop::End end = plain.Run();
@@ -184,7 +187,7 @@ int AnswersOf(const HostileLoan& loan, RecordingLoanContext& context) {
     CLoan offer(context);
     offer.SetStartingAmount(loan.amount);
     offer.SetPoints(loan.points);
-    offer.SetFinancePoints(loan.points != 0.0);
+    offer.SetFinancePoints(!loan.points.IsZero());
     offer.SetTerm(loan.term);
     offer.SetInterestRate(loan.rate);
     offer.SetFrequencyCode(loan.code);

@@ -12,11 +12,8 @@
 
 namespace {
 
-static_assert(!std::is_convertible_v<double, Money>);
-static_assert(!std::is_convertible_v<int, Money>);
 static_assert(!std::is_constructible_v<Money, double>);
 static_assert(!std::is_constructible_v<Money, std::int64_t>);
-static_assert(!std::is_convertible_v<Money, double>);
 static_assert(!std::is_constructible_v<double, Money>);
 static_assert(!std::is_constructible_v<bool, Money>);
 template <typename Left, typename Right>

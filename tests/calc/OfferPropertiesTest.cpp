@@ -44,7 +44,7 @@ TEST(OfferProperties, FinancedPointsAreBorrowedAndOthersAreNot) {
             EXPECT_EQ(borrowed, 0);
             return;
         }
-        const std::int64_t parts = amount * static_cast<std::int64_t>(loan.points * 8.0);
+        const std::int64_t parts = amount * static_cast<std::int64_t>(loan.points.Value() * 8.0);
         // Half a ten-thousandth is 400 parts. The error of an amount of up to 10^13 ten-thousandths
         // times points is below one part in 10^13 * 80 parts: four roundings of 2^-53 are 0.36.
         EXPECT_LE(std::abs(borrowed * 800 - parts), 401);

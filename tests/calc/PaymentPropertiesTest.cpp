@@ -18,8 +18,8 @@ TEST(PaymentProperties, AgreesToTheCentWithThePrecisePayment) {
         const RandomLoan loan = RandomLoan::Make(random);
         SCOPED_TRACE(loan);
         const Money payment = PrincipalAndInterest(loan.amount, loan.rate, loan.term, loan.code);
-        const PreciseAmount precise =
-            PrecisePayment(*FindFrequency(loan.code), loan.amount, loan.rate, loan.term);
+        const PreciseAmount precise = PrecisePayment(*FindFrequency(loan.code), loan.amount,
+                                                     loan.rate.Fraction(), loan.term.count);
         ASSERT_EQ(payment.TenThousandths() % 100, 0);
         const std::int64_t cents = payment.TenThousandths() / 100;
         const std::optional<std::int64_t> nearest = precise.Nearest();
@@ -55,15 +55,17 @@ TEST(PaymentProperties, NeverFallsWithPrincipalOrRateNorRisesWithTheTerm) {
     ForRandomCases(4'000, [](Random& random) {
         const RandomLoan loan = RandomLoan::Make(random);
         SCOPED_TRACE(loan);
-        const auto payment = [&loan](Money amount, double rate, int term) {
+        const auto payment = [&loan](Money amount, Rate rate, Months term) {
             return PrincipalAndInterest(amount, rate, term, loan.code);
         };
         const Money usual = payment(loan.amount, loan.rate, loan.term);
         const Money more = loan.amount + Money::FromTenThousandths(random.Whole(1, 1'000'000));
         EXPECT_GE(payment(more, loan.rate, loan.term), usual);
+        const Rate higher = Rate::FromFraction(loan.rate.Fraction() * 1.01 + 0.0001);
+        const Months longer{loan.term.count + random.Int(1, 60)};
         // The steps are so wide that the error of double precision is negligible.
-        EXPECT_GE(payment(loan.amount, loan.rate * 1.01 + 0.0001, loan.term), usual);
-        EXPECT_LE(payment(loan.amount, loan.rate, loan.term + random.Int(1, 60)), usual);
+        EXPECT_GE(payment(loan.amount, higher, loan.term), usual);
+        EXPECT_LE(payment(loan.amount, loan.rate, longer), usual);
     });
 }
 

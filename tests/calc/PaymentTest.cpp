@@ -54,12 +54,14 @@ TEST(Payment, RepaysALoanWithinItsTerm) {
     for (const auto& [principal, rate, term, code, cents] : cases) {
         SCOPED_TRACE(testing::Message() << principal << " at " << rate << " for " << term << " "
                                         << code.toStdString());
-        const Money amount = Money::FromDouble(principal);
+        const auto payment = [&, p = principal, r = rate, t = term, c = code] {
+            return PrincipalAndInterest(Money::FromDouble(p), Rate::FromFraction(r), Months{t},
+                                        FrequencyCode(c));
+        };
         if (cents) {
-            EXPECT_EQ(PrincipalAndInterest(amount, rate, term, code),
-                      Money::FromTenThousandths(*cents * 100));
+            EXPECT_EQ(payment(), Money::FromTenThousandths(*cents * 100));
         } else {
-            EXPECT_THROW(PrincipalAndInterest(amount, rate, term, code), OverflowFailure);
+            EXPECT_THROW(payment(), OverflowFailure);
         }
     }
 }

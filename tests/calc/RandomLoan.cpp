@@ -48,10 +48,10 @@ Money AmountOf(Random& random, double low, double high) {
 RandomLoan RandomLoan::Make(Random& random) {
     RandomLoan loan;
     loan.amount = AmountOf(random, random.OneIn(8) ? 0.01 : 1'000.0, 1e9);
-    loan.points = random.OneIn(2) ? 0.0 : random.Int(1, 80) / 8.0;
+    loan.points = Percent::FromPercent(random.OneIn(2) ? 0.0 : random.Int(1, 80) / 8.0);
     loan.financePoints = random.OneIn(2);
-    loan.term = TermOf(random);
-    loan.rate = RateOf(random);
+    loan.term = Months{TermOf(random)};
+    loan.rate = Rate::FromFraction(RateOf(random));
     loan.code = random.OneOf(Frequencies).Code();
     loan.escrowMonthly = random.OneIn(3) ? Money() : AmountOf(random, 1.0, 5'000.0);
     loan.start = Date::FromDays(random.Int(46'000, 48'000));
@@ -74,8 +74,9 @@ ScheduleTerms RandomLoan::Terms(Money payment) const {
 }
 
 std::ostream& operator<<(std::ostream& out, const RandomLoan& loan) {
-    return out << loan.amount.TenThousandths() << " ten-thousandths at " << loan.rate << " for "
-               << loan.term << " months " << loan.code.toStdString() << ", points " << loan.points
-               << (loan.financePoints ? " financed" : " paid") << ", escrow "
-               << loan.escrowMonthly.TenThousandths() << ", from " << loan.start.Days();
+    return out << loan.amount.TenThousandths() << " ten-thousandths at " << loan.rate.Fraction()
+               << " for " << loan.term.count << " months " << loan.code.Text().toStdString()
+               << ", points " << loan.points.Value() << (loan.financePoints ? " financed" : " paid")
+               << ", escrow " << loan.escrowMonthly.TenThousandths() << ", from "
+               << loan.start.Days();
 }

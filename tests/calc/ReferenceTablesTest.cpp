@@ -79,11 +79,11 @@ void CheckOffer(const Row& row) {
     CLoan offer(context);
     offer.SetActualPayment(ToMoney(row.at("actual_payment")));
     offer.SetStartingAmount(ToMoney(row.at("starting_amount")));
-    offer.SetPoints(ToNumber<double>(row.at("points")));
+    offer.SetPoints(Percent::FromPercent(ToNumber<double>(row.at("points"))));
     offer.SetFinancePoints(row.at("finance_points") == "1");
-    offer.SetInterestRate(ToNumber<double>(row.at("interest_rate")));
-    offer.SetTerm(ToNumber<int>(row.at("term")));
-    offer.SetFrequencyCode(QString::fromStdString(row.at("frequency_code")));
+    offer.SetInterestRate(Rate::FromFraction(ToNumber<double>(row.at("interest_rate"))));
+    offer.SetTerm(Months{ToNumber<int>(row.at("term"))});
+    offer.SetFrequencyCode(FrequencyCode(QString::fromStdString(row.at("frequency_code"))));
 
     EXPECT_EQ(offer.StartingPrinciple(), ToMoney(row.at("starting_principle")));
     EXPECT_EQ(offer.PandI(), ToMoney(row.at("p_and_i")));
@@ -108,10 +108,10 @@ TEST(ReferenceTables, OfOffers) {
 }
 
 void CheckCurrentLoan(const Row& row) {
-    const QString code = QString::fromStdString(row.at("actual_frequency_code"));
+    const FrequencyCode code(QString::fromStdString(row.at("actual_frequency_code")));
     const ScheduleTerms terms{
         .balance = ToMoney(row.at("balance")),
-        .rate = ToNumber<double>(row.at("interest_rate")),
+        .rate = Rate::FromFraction(ToNumber<double>(row.at("interest_rate"))),
         .payment = ToMoney(row.at("actual_payment")),
         .escrowShare = EscrowShare(code, ToMoney(row.at("escrow_monthly"))),
         .frequency = FindFrequency(code),

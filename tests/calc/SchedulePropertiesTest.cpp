@@ -1,6 +1,7 @@
 // Properties of the schedule of every loan, tested over random ones.
 
 #include "Failure.h"
+#include "MonthAfter.h"
 #include "PreciseLoan.h"
 #include "RandomLoan.h"
 #include "Schedule.h"
@@ -91,7 +92,7 @@ TEST(ScheduleProperties, PrincipalPartsAreThePrincipalAndTheSumsAgree) {
 TEST(ScheduleProperties, BalancesAndInterestNeverGrow) {
     ForRandomCases(500, [](Random& random) {
         RandomLoan loan = RandomLoan::Make(random);
-        loan.rate = random.OneIn(10) ? 0.0 : loan.rate;
+        loan.rate = random.OneIn(10) ? Rate() : loan.rate;
         SCOPED_TRACE(loan);
         const Money least = loan.LeastPayment();
         const Money payment = random.OneIn(3)
@@ -120,7 +121,7 @@ TEST(ScheduleProperties, BalancesGrowUnderANegativeRateAlone) {
     int grown = 0;
     ForRandomCases(100, [&grown](Random& random) {
         RandomLoan loan = RandomLoan::Make(random);
-        loan.rate = -random.OfAnySize(1e-3, 10.0);
+        loan.rate = Rate::FromFraction(-random.OfAnySize(1e-3, 10.0));
         SCOPED_TRACE(loan);
         const double part = random.Between(-0.05, 0.1);
         const ScheduleTerms terms = loan.Terms(Money::FromDouble(loan.amount.ToDouble() * part));
@@ -166,7 +167,8 @@ public:
         : m_terms(terms), m_balance(terms.balance), m_date(terms.start), m_ofMonth(terms.start) {}
 
     void Check(const SchedulePeriod& period) {
-        const PreciseAmount interest = PreciseInterest(*m_terms.frequency, m_terms.rate, m_balance);
+        const PreciseAmount interest =
+            PreciseInterest(*m_terms.frequency, m_terms.rate.Fraction(), m_balance);
         const std::int64_t rounded = period.interest.TenThousandths();
         ASSERT_TRUE(interest.MayRoundTo(rounded));
         ASSERT_EQ(interest.Nearest().value_or(rounded), rounded);
@@ -192,7 +194,7 @@ private:
         if (code == u'W' || code == u'Q') {
             m_date = m_terms.start.PlusDays(m_steps * (code == u'W' ? 14 : 28));
         } else if (code == u'M' || m_steps % 2 == 0) {
-            m_ofMonth = m_ofMonth.PlusOneMonth();
+            m_ofMonth = MonthAfter(m_ofMonth);
             m_date = m_ofMonth;
         } else {
             m_date = m_ofMonth.PlusDays(14);
@@ -237,12 +239,12 @@ TEST(ScheduleProperties, BalancesFollowTheClosedFormula) {
         const RandomLoan loan = RandomLoan::Make(random);
         SCOPED_TRACE(loan);
         const ScheduleTerms terms = loan.Terms(PaymentOf(loan, random));
-        const Precise x = PeriodRate(*terms.frequency, terms.rate);
+        const Precise x = PeriodRate(*terms.frequency, terms.rate.Fraction());
         const auto principal = static_cast<Precise>(terms.balance.TenThousandths());
         const auto available =
             static_cast<Precise>((terms.payment - terms.escrowShare).TenThousandths());
         const Precise straying =
-            PreciseInterest(*terms.frequency, terms.rate, terms.balance).strays;
+            PreciseInterest(*terms.frequency, terms.rate.Fraction(), terms.balance).strays;
         const auto half = static_cast<Precise>(0.5);
         Precise growth = 1;
         std::vector<SchedulePeriod> periods = Watch(terms).periods;
@@ -271,7 +273,7 @@ TEST(ScheduleProperties, TheComputedPaymentRepaysWithinTheTerm) {
         SCOPED_TRACE(loan);
         const Frequency& frequency = *FindFrequency(loan.code);
         const double n = PeriodsOfTerm(frequency, loan.term);
-        const double x = loan.rate / frequency.periodsPerYear;
+        const double x = loan.rate.Fraction() / frequency.periodsPerYear;
         const double rounded = 0.00505 * (std::pow(1.0 + x, n) - 1.0) / x;
         const Money payment = loan.LeastPayment();
         if (rounded > (payment - loan.EscrowPart()).ToDouble() / 2.0) {

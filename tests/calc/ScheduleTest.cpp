@@ -25,10 +25,10 @@ struct TotalsCase {
 
 ScheduleTerms TermsOf(const TotalsCase& row) {
     return {.balance = Money::FromTenThousandths(row.balance),
-            .rate = row.rate,
+            .rate = Rate::FromFraction(row.rate),
             .payment = Money::FromTenThousandths(row.payment),
             .escrowShare = Money::FromTenThousandths(row.escrowShare),
-            .frequency = FindFrequency(QString(QChar(row.code))),
+            .frequency = FindFrequency(FrequencyCode(QChar(row.code))),
             .start = row.start};
 }
 
@@ -141,7 +141,7 @@ TEST(Schedule, FailsAtOnceWhereTheBalanceCanNeverFall) {
 
 TEST(Schedule, OfNothingHasNoPeriod) {
     const ScheduleTerms nothing;
-    EXPECT_EQ(nothing.rate, 0.0);
+    EXPECT_TRUE(nothing.rate.IsZero());
     EXPECT_EQ(nothing.frequency, nullptr);
     EXPECT_EQ(RunToPayoff(nothing).periods, 0);
     EXPECT_EQ(RunSchedule(nothing).periods, 0);
@@ -160,10 +160,10 @@ TEST(Schedule, MayUseTheLastDate) {
 TEST(Schedule, RunsOnWhileANegativeRateMayStillRepay) {
     const auto termsAt = [](double rate, std::int64_t balance, std::int64_t payment) {
         return ScheduleTerms{.balance = Money::FromTenThousandths(balance),
-                             .rate = rate,
+                             .rate = Rate::FromFraction(rate),
                              .payment = Money::FromTenThousandths(payment),
                              .escrowShare = Money(),
-                             .frequency = FindFrequency(u"M"),
+                             .frequency = FindFrequency(FrequencyCode(QStringLiteral("M"))),
                              .start = Day(2026, 5, 10)};
     };
     // At -120 % the balance falls by a tenth each month; a payment of 0.0001 clears the rest.

@@ -46,12 +46,12 @@ protected:
         Worksheet& sheet = SheetToWrite();
         constexpr std::array codes{"M", "B", "W", "Q"};
         CLoan& offer = sheet.OfferOfRow(row);
-        offer.SetPoints(row.value % 3 * 0.5);
+        offer.SetPoints(Percent::FromPercent(row.value % 3 * 0.5));
         offer.SetFinancePoints(row.value % 3 == 1);
-        offer.SetInterestRate(SampleRate(row));
-        offer.SetTerm(360);
-        offer.SetFrequencyCode(
-            QLatin1String(codes.at(static_cast<std::size_t>(row.value) % codes.size())));
+        offer.SetInterestRate(Rate::FromFraction(SampleRate(row)));
+        offer.SetTerm(Months{360});
+        offer.SetFrequencyCode(FrequencyCode(
+            QLatin1String(codes.at(static_cast<std::size_t>(row.value) % codes.size()))));
         const int words = GetParam().lenderWords * (row.value == 0 ? 10 : 1);
         QStringList text;
         constexpr std::array lenders{"First", "Prairie", "Savings-Bank", "Mrs.", "Miller"};

@@ -5,8 +5,6 @@
 #include "Money.h"
 #include "Schedule.h"
 
-#include <QString>
-
 #include <array>
 #include <cstdint>
 #include <limits>
@@ -17,12 +15,12 @@
 struct HostileLoan {
     const char* kind = "";
     Money amount;
-    double rate = 0.0;
-    int term = 0;
-    QString code;
+    Rate rate;
+    Months term;
+    FrequencyCode code;
     Money actualPayment;
     Money escrowMonthly;
-    double points = 0.0;
+    Percent points;
     Date start;
 
     ScheduleTerms Terms() const {
@@ -76,7 +74,7 @@ private:
         return Money::FromTenThousandths(static_cast<std::int64_t>(m_random() >> AnyShift()));
     }
     unsigned AnyShift() { return static_cast<unsigned>(Between(0, 50)); }
-    QString AnyCode() { return Frequencies.at(m_random() % Frequencies.size()).Code(); }
+    FrequencyCode AnyCode() { return Frequencies.at(m_random() % Frequencies.size()).Code(); }
 
     void Leave(HostileLoan&) {}
     void PayFirstInterest(HostileLoan& loan) {
@@ -85,13 +83,13 @@ private:
     }
     void LastToTheEndOfTime(HostileLoan& loan) {
         loan.amount = Money::FromTenThousandths(Between(1, 9) * 10'000'000'000'000);
-        loan.rate = AnyOf(std::array{0.0, 0.0, -0.0, 1e-12, -1e-9});
+        loan.rate = Rate::FromFraction(AnyOf(std::array{0.0, 0.0, -0.0, 1e-12, -1e-9}));
         loan.escrowMonthly = Money();
         loan.actualPayment = FirstInterest(loan) + Cents(1, 100);
         loan.start = Date::FromDays(static_cast<int>(Between(1, 50'000)));
     }
     void GrowUnderANegativeRate(HostileLoan& loan) {
-        loan.rate = -static_cast<double>(Between(1, 100'000)) / 1000.0;
+        loan.rate = Rate::FromFraction(-static_cast<double>(Between(1, 100'000)) / 1000.0);
         loan.actualPayment = -loan.actualPayment;
     }
     void TurnSigns(HostileLoan& loan) {
@@ -99,20 +97,22 @@ private:
         loan.amount = (turned & 1U) != 0U ? -loan.amount : loan.amount;
         loan.actualPayment = (turned & 2U) != 0U ? -loan.actualPayment : loan.actualPayment;
         loan.escrowMonthly = (turned & 4U) != 0U ? -loan.escrowMonthly : loan.escrowMonthly;
-        loan.rate = (turned & 8U) != 0U ? -loan.rate : loan.rate;
-        loan.term = (turned & 16U) != 0U ? -loan.term : loan.term;
+        loan.rate = Rate::FromFraction(loan.rate.Fraction() * ((turned & 8U) != 0U ? -1 : 1));
+        loan.term.count *= (turned & 16U) != 0U ? -1 : 1;
     }
     void StretchTerm(HostileLoan& loan) {
         using Limits = std::numeric_limits<int>;
-        loan.term = AnyOf(std::array{Limits::max(), Limits::min(), Limits::max() / 2,
-                                     Limits::max() / 2 + 1, Limits::min() / 2, 1'000'000, -1});
+        loan.term.count =
+            AnyOf(std::array{Limits::max(), Limits::min(), Limits::max() / 2, Limits::max() / 2 + 1,
+                             Limits::min() / 2, 1'000'000, -1});
     }
     void BreakRate(HostileLoan& loan) {
         using Limits = std::numeric_limits<double>;
-        loan.rate =
-            AnyOf(std::array{Limits::quiet_NaN(), Limits::infinity(), -Limits::infinity(),
-                             Limits::max(), Limits::denorm_min(), 1e-17, 1e9, -12.0, -26.5, -1e30});
-        loan.points = AnyOf(std::array{0.0, 1e30, Limits::quiet_NaN(), -100.0});
+        loan.rate = Rate::FromFraction(AnyOf(
+            std::array{Limits::quiet_NaN(), Limits::infinity(), -Limits::infinity(), Limits::max(),
+                       Limits::denorm_min(), 1e-17, 1e9, -12.0, -26.5, -1e30}));
+        loan.points =
+            Percent::FromPercent(AnyOf(std::array{0.0, 1e30, Limits::quiet_NaN(), -100.0}));
     }
     void FillTheRange(HostileLoan& loan) {
         loan.amount = AnyMoney();
@@ -120,18 +120,19 @@ private:
         loan.escrowMonthly = AnyMoney();
     }
     void LoseFrequency(HostileLoan& loan) {
-        loan.code = AnyOf(std::array{QString(), QStringLiteral("X"), QStringLiteral("m"),
-                                     QStringLiteral("MM"), QStringLiteral(" ")});
+        loan.code =
+            FrequencyCode(AnyOf(std::array{QString(), QStringLiteral("X"), QStringLiteral("m"),
+                                           QStringLiteral("MM"), QStringLiteral(" ")}));
         loan.amount = AnyMoney();
     }
     void StartLate(HostileLoan& loan) {
-        loan.start = Date::FromDays(static_cast<int>(Between(2'958'000, 2'958'465)));
+        loan.start = Date::FromDays(static_cast<int>(Between(2'958'000, Date::Last().Days())));
     }
 
     Money FirstInterest(const HostileLoan& loan) {
         const Frequency* const frequency = FindFrequency(loan.code);
-        return Money::FromDouble(loan.amount.ToDouble() * loan.rate / frequency->interestYear *
-                                 frequency->interestParts);
+        return Money::FromDouble(loan.amount.ToDouble() * loan.rate.Fraction() /
+                                 frequency->interestYear * frequency->interestParts);
     }
 
     std::mt19937_64 m_random{20'260'721};
@@ -155,14 +156,14 @@ constexpr auto HostileLoans::Kinds() {
 inline HostileLoan HostileLoans::One() {
     HostileLoan loan;
     loan.amount = Cents(1, 100'000'000);
-    loan.rate = static_cast<double>(Between(1, 30'000)) / 100'000.0;
-    loan.term = static_cast<int>(Between(1, 480));
+    loan.rate = Rate::FromFraction(static_cast<double>(Between(1, 30'000)) / 100'000.0);
+    loan.term = Months{static_cast<int>(Between(1, 480))};
     loan.code = AnyCode();
     // Between a long and a short repayment.
     loan.actualPayment =
         Money::FromDoubleInCents(loan.amount.ToDouble() / static_cast<double>(Between(2, 200)));
     loan.escrowMonthly = Cents(0, 30'000);
-    loan.points = static_cast<double>(Between(0, 8)) / 2.0;
+    loan.points = Percent::FromPercent(static_cast<double>(Between(0, 8)) / 2.0);
     loan.start = Date::FromDays(static_cast<int>(Between(0, 60'000)));
 
     auto left = Between(0, 99);

@@ -5,13 +5,13 @@
 /// A worksheet for one offer: returns values that the test sets, and counts reports.
 class RecordingLoanContext : public LoanContext {
 public:
-    int LoanTerm() const override { return loanTerm; }
+    Months LoanTerm() const override { return loanTerm; }
     Money EscrowMonthly() const override { return escrowMonthly; }
     Date Today() const override { return today; }
     void MarkDirty() override { ++dirtied; }
     void PaymentRefused() override { ++refused; }
 
-    int loanTerm = 0;
+    Months loanTerm;
     Money escrowMonthly;
     Date today = Date::FromDays(46'000);
     int dirtied = 0;

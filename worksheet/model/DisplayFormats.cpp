@@ -92,8 +92,8 @@ QString DisplayFormats::ThreeDecimals(double value) const {
     return InOwnDigits(WithSeparator(number));
 }
 
-QString DisplayFormats::Percent(double fraction) const {
-    return ThreeDecimals(fraction * 100) + u'%';
+QString DisplayFormats::Percent(Rate rate) const {
+    return ThreeDecimals(::Percent::FromRate(rate).Value()) + u'%';
 }
 
 QString DisplayFormats::ShortDate(Date date) const {

@@ -3,6 +3,7 @@
 #include "Date.h"
 #include "DigitGroups.h"
 #include "Money.h"
+#include "Quantities.h"
 
 #include <QLocale>
 #include <QString>
@@ -33,8 +34,8 @@ public:
     /// "#.000": three decimals, and no zero in front of the symbol (".500").
     QString ThreeDecimals(double value) const;
 
-    /// "#.000%": a fraction shown in percent.
-    QString Percent(double fraction) const;
+    /// "#.000%": a rate shown in percent.
+    QString Percent(Rate rate) const;
 
     /// "short date", with four digits for the year in every locale.
     QString ShortDate(Date date) const;

@@ -57,8 +57,8 @@ enum class FieldId {
 /// What a field holds; it decides how the text is read and shown.
 enum class ValueKind {
     Amount,         ///< Money, shown as currency
-    Percent,        ///< a fraction (0.065), typed and shown in percent (6.5)
-    Decimal,        ///< a real number
+    Percent,        ///< a Rate, typed and shown in percent (6.5)
+    Decimal,        ///< points, a Percent
     WholeTerm,      ///< whole months; typed in whole months or whole years
     FractionalTerm, ///< whole months; typed in whole months or in years and parts of years
     LoanType,       ///< a LoanTypeCode, picked from a list

@@ -18,28 +18,29 @@ constexpr std::array LoanTypes{
     TypeEntry{u'D', 29, 5}, TypeEntry{u'H', 39, 4}, TypeEntry{u'M', 83, 0},
 };
 
-/// The letter of the first matching type; empty if none matches.
+/// The letter of the first matching type; none if none matches.
 template <class IsMeant>
-QString CodeOf(IsMeant isMeant) {
+LoanTypeCode CodeOf(IsMeant isMeant) {
     const auto* type = std::ranges::find_if(LoanTypes, isMeant);
-    return type == LoanTypes.end() ? QString() : QString(type->code);
+    return type == LoanTypes.end() ? LoanTypeCode() : LoanTypeCode(type->code);
 }
 
 } // namespace
 
-QString LoanTypeCodeToText(const QString& code) {
+QString LoanTypeCodeToText(const LoanTypeCode& code) {
+    const QString& letter = code.Text();
     const auto* type = std::ranges::find_if(
-        LoanTypes, [&](const TypeEntry& t) { return code.size() == 1 && code[0] == t.code; });
+        LoanTypes, [&](const TypeEntry& t) { return letter.size() == 1 && letter[0] == t.code; });
     return type == LoanTypes.end() ? QString() : GetResourceText(type->text);
 }
 
-QString LoanTypeTextToCode(const QString& text) {
+LoanTypeCode LoanTypeTextToCode(const QString& text) {
     return CodeOf([&](const TypeEntry& type) { return GetResourceText(type.text) == text; });
 }
 
-QString LoanTypeTextToCodeInAnyLanguage(const QString& text) {
-    const QString code = LoanTypeTextToCode(text);
-    return !code.isEmpty() ? code : CodeOf([&](const TypeEntry& type) {
+LoanTypeCode LoanTypeTextToCodeInAnyLanguage(const QString& text) {
+    const LoanTypeCode code = LoanTypeTextToCode(text);
+    return !code.IsNone() ? code : CodeOf([&](const TypeEntry& type) {
         return Language::Instance().TextInEveryLanguage(type.text).contains(text);
     });
 }

@@ -1,15 +1,20 @@
 #pragma once
 
+#include "Quantities.h"
+
 #include <QString>
 #include <QStringList>
 
-/// The purpose of a loan is stored as a letter and shown as a text of the current language. An
-/// unknown letter or text gives the empty text.
-QString LoanTypeCodeToText(const QString& code);
-QString LoanTypeTextToCode(const QString& text);
+/// The code of the purpose of a loan.
+using LoanTypeCode = StoredCode<struct LoanTypeCodeKind>;
 
-/// The letter for a text of any installed language; empty if no language has the text.
-QString LoanTypeTextToCodeInAnyLanguage(const QString& text);
+/// The purpose of a loan is stored as a letter and shown as a text of the current language. An
+/// unknown letter or text gives none.
+QString LoanTypeCodeToText(const LoanTypeCode& code);
+LoanTypeCode LoanTypeTextToCode(const QString& text);
+
+/// The letter for a text of any installed language; none if no language has the text.
+LoanTypeCode LoanTypeTextToCodeInAnyLanguage(const QString& text);
 
 /// The texts in the order of the list.
 QStringList LoanTypeTexts();

@@ -12,13 +12,13 @@ struct KeysWithout {
     Key blank;
 };
 
-constexpr KeysWithout<Date> NoDate{Date::FromDays(2'958'464), Date::FromDays(2'958'465)};
+constexpr KeysWithout<Date> NoDate{Date::FromDays(Date::Last().Days() - 1), Date::Last()};
 constexpr KeysWithout<Money> NoInterest{Money::FromTenThousandths(999'999'998'0000),
                                         Money::FromTenThousandths(999'999'999'0000)};
 
 /// A rate, a frequency or a tick alone does not count as an entry.
 bool HasEntry(const CLoan& offer) {
-    return offer.Points() != 0 || !offer.Interest().IsZero() || offer.Term() != 0 ||
+    return !offer.Points().IsZero() || !offer.Interest().IsZero() || !offer.Term().IsZero() ||
            !offer.ActualPayment().IsZero() || !offer.Who().isEmpty();
 }
 

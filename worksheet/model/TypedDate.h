@@ -11,7 +11,7 @@ class DisplayFormats;
 
 /// The years that can be typed. Before 1753 the Gregorian calendar was not in use everywhere.
 inline constexpr int FirstTypedYear = 1753;
-inline constexpr int LastTypedYear = 9999;
+inline constexpr int LastTypedYear = Date::LastYear;
 
 /// One part of a date's text: a number, or the name of a month.
 struct DatePart {

@@ -53,7 +53,7 @@ DatePicker::Writing WritingOf(const Worksheet& worksheet) {
     const DisplayFormats& formats = worksheet.Texts().Formats();
     return {.locale = formats.Locale(),
             .first = QDate(FirstTypedYear, 1, 1),
-            .last = QDate(LastTypedYear, 12, 31),
+            .last = ToCalendar(Date::Last()),
             .write = [&](const QDate& date) { return formats.ShortDate(FromCalendar(date)); },
             .read =
                 [&](const QString& text) {

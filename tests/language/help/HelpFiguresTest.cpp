@@ -86,11 +86,11 @@ private:
         worksheet.today = Date::FromCalendar(2026, 1, 2);
         CLoan offer(worksheet);
         offer.SetStartingAmount(Money::FromDouble(example.amount));
-        offer.SetPoints(example.points);
+        offer.SetPoints(Percent::FromPercent(example.points));
         offer.SetFinancePoints(example.financed);
-        offer.SetTerm(example.months);
-        offer.SetInterestRate(example.percent / 100);
-        offer.SetFrequencyCode(QString::fromLatin1(example.frequency));
+        offer.SetTerm(Months{example.months});
+        offer.SetInterestRate(Rate::FromFraction(example.percent / 100));
+        offer.SetFrequencyCode(FrequencyCode(QString::fromLatin1(example.frequency)));
         offer.SetActualPayment(Money::FromDouble(example.pays));
         Results results;
         results.amounts[QStringLiteral("escrow")] = worksheet.escrowMonthly;
@@ -113,7 +113,7 @@ private:
                                                    .rate = rate,
                                                    .payment = pays,
                                                    .escrowShare = escrow,
-                                                   .frequency = FindFrequency(u"M"),
+                                                   .frequency = FindFrequency(FrequencyCode(u"M")),
                                                    .start = Date::FromCalendar(2026, 2, 1)});
         results.payoff = totals.payoff;
         results.amounts[QStringLiteral("interest")] = totals.interest;

@@ -130,13 +130,13 @@ TEST_F(WorksheetLoading, ThePaymentOfTheLoanHeldTodayIsTheOneThatWasKept) {
 TEST_F(WorksheetLoading, WhatIsMissingOfTheLoanHeldTodayIsMarked) {
     Sheet sheet;
     sheet.worksheet.SetLoanName(u"Our new home"_s);
-    sheet.worksheet.SetCurrentInterestRate(0.05);
+    sheet.worksheet.SetCurrentInterestRate(Rate::FromFraction(0.05));
     Save(sheet);
     Sheet read;
     EXPECT_TRUE(Load(read).empty());
     EXPECT_EQ(Mark::Missing, read.display.Of({FieldId::CurLoanAmount}).mark);
     EXPECT_EQ(Mark::None, read.display.Of({FieldId::CurInterestRate}).mark);
-    EXPECT_EQ(FrequencyCodeToText(u"M"_s), read.worksheet.CurrentFrequency());
+    EXPECT_EQ(FrequencyCodeToText(FrequencyCode(u"M"_s)), read.worksheet.CurrentFrequency());
 }
 
 /// The intended payment is assigned before the rate, so an old offer must not reject it.
@@ -144,9 +144,9 @@ TEST_F(WorksheetLoading, LoadingOverOtherOffersRefusesNoPayment) {
     Sheet sheet;
     Fill(sheet.worksheet);
     CLoan& offer = sheet.worksheet.OfferOfRow(Row{0});
-    offer.SetTerm(360);
-    offer.SetInterestRate(0.03);
-    offer.SetFrequencyCode(u"M"_s);
+    offer.SetTerm(Months{360});
+    offer.SetInterestRate(Rate::FromFraction(0.03));
+    offer.SetFrequencyCode(FrequencyCode(u"M"_s));
     offer.SetActualPayment(Units(1'600));
     Save(sheet);
     Sheet other;

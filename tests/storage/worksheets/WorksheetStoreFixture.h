@@ -20,17 +20,17 @@ inline Money Units(double units) { return Money::FromDouble(units); }
 /// Gives every saved value a different content.
 inline void Fill(Worksheet& w) {
     w.SetLoanName(QStringLiteral("Our new home"));
-    w.SetLoanType(QStringLiteral("M"));
+    w.SetLoanType(LoanTypeCode(QStringLiteral("M")));
     w.SetLoanAmount(Units(250'000.5));
-    w.SetLoanTerm(360);
+    w.SetLoanTerm(Months{360});
     w.SetEscrowTaxes(Units(3'600));
     w.SetEscrowInsurance(Units(1'200.25));
     w.SetCurrentLoanAmount(Units(230'000));
-    w.SetCurrentTerm(342);
-    w.SetCurrentInterestRate(0.07125);
-    w.SetCurrentFrequency(FrequencyCodeToText(QStringLiteral("B")));
+    w.SetCurrentTerm(Months{342});
+    w.SetCurrentInterestRate(Rate::FromFraction(0.07125));
+    w.SetCurrentFrequency(FrequencyCodeToText(FrequencyCode(QStringLiteral("B"))));
     w.SetCurrentBalance(Units(198'450.75));
-    w.SetCurrentActualFrequency(FrequencyCodeToText(QStringLiteral("W")));
+    w.SetCurrentActualFrequency(FrequencyCodeToText(FrequencyCode(QStringLiteral("W"))));
     w.SetCurrentNextPayment(Date::FromCalendar(2026, 12, 3));
     w.SetCurrentPayment(Units(1'186.35));
     w.SetCurrentActualPayment(Units(2'050));
@@ -39,10 +39,10 @@ inline void Fill(Worksheet& w) {
 inline void FillOffer(Worksheet& w, Row row, const QString& who) {
     CLoan& offer = w.OfferOfRow(row);
     offer.SetFinancePoints(true);
-    offer.SetPoints(1.125);
-    offer.SetTerm(186);
-    offer.SetInterestRate(0.0625);
-    offer.SetFrequencyCode(QStringLiteral("Q"));
+    offer.SetPoints(Percent::FromPercent(1.125));
+    offer.SetTerm(Months{186});
+    offer.SetInterestRate(Rate::FromFraction(0.0625));
+    offer.SetFrequencyCode(FrequencyCode(QStringLiteral("Q")));
     offer.SetActualPayment(Units(5'000));
     offer.SetWho(who);
 }

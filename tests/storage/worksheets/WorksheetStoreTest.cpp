@@ -186,13 +186,16 @@ TEST_F(WorksheetStoreTest, WhatMakesAnOfferWorthKeeping) {
     };
     for (const Case& row : {
              Case{"nothing", [](CLoan&) {}, false},
-             Case{"a term", [](CLoan& offer) { offer.SetTerm(360); }, false},
-             Case{"a frequency", [](CLoan& offer) { offer.SetFrequencyCode(u"M"_s); }, false},
+             Case{"a term", [](CLoan& offer) { offer.SetTerm(Months{360}); }, false},
+             Case{"a frequency",
+                  [](CLoan& offer) { offer.SetFrequencyCode(FrequencyCode(u"M"_s)); }, false},
              Case{"a lender", [](CLoan& offer) { offer.SetWho(u"x"_s); }, true},
              Case{"a payment", [](CLoan& offer) { offer.SetActualPayment(Units(1)); }, true},
              Case{"financed", [](CLoan& offer) { offer.SetFinancePoints(true); }, true},
-             Case{"a rate", [](CLoan& offer) { offer.SetInterestRate(0.01); }, true},
-             Case{"points", [](CLoan& offer) { offer.SetPoints(-0.5); }, true},
+             Case{"a rate", [](CLoan& offer) { offer.SetInterestRate(Rate::FromFraction(0.01)); },
+                  true},
+             Case{"points", [](CLoan& offer) { offer.SetPoints(Percent::FromPercent(-0.5)); },
+                  true},
          }) {
         Sheet sheet;
         sheet.worksheet.SetLoanName(u"Our new home"_s);

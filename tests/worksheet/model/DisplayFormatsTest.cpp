@@ -211,7 +211,8 @@ TEST(DisplayFormats, PercentShowsAFraction) {
     };
     // clang-format on
     for (const auto& [locale, value, text] : cases) {
-        EXPECT_EQ(FormatsOf(locale).Percent(value), text) << locale.toStdString();
+        EXPECT_EQ(FormatsOf(locale).Percent(Rate::FromFraction(value)), text)
+            << locale.toStdString();
     }
 }
 

@@ -25,9 +25,10 @@ FieldFormats TextsIn(const QString& locale, Unit unit) {
 }
 
 FieldNumber Units(double units) { return Money::FromDouble(units); }
+FieldNumber Yearly(double fraction) { return Rate::FromFraction(fraction); }
+FieldNumber Points(double percent) { return ::Percent::FromPercent(percent); }
 
 struct ShowCase {
-    ValueKind kind;
     FieldNumber number;
     Unit unit;
     QString entry;
@@ -37,42 +38,39 @@ struct ShowCase {
 TEST(FieldFormats, ShowsBareForEntryAndDressedForDisplay) {
     // clang-format off
     const std::vector<ShowCase> cases{
-        // kind          number          terms in      for entry               for display
-        {Amount,         Units(1234.5),  Unit::Months, u"1234.5"_s,           u"$1,234.50"_s},
-        {Amount,         Units(-1234.5), Unit::Years,  u"-1234.5"_s,          u"($1,234.50)"_s},
-        {Amount,         Units(0.0049),  Unit::Months, u"0.0049"_s,           u"$0.00"_s},
-        {Amount,         Units(0),       Unit::Months, u""_s,                 u""_s},
-        {Percent,        0.065,          Unit::Months, u"6.5"_s,              u"6.500%"_s},
-        {Percent,        0.07337,        Unit::Months, u"7.337"_s,            u"7.337%"_s},
-        {Percent,        -0.005,         Unit::Years,  u"-0.5"_s,             u"-.500%"_s},
-        {Percent,        0.0,            Unit::Months, u""_s,                 u""_s},
-        {Percent,        -0.0,           Unit::Months, u""_s,                 u""_s},
-        {Decimal,        1.5,            Unit::Months, u"1.5"_s,              u"1.500"_s},
-        {Decimal,        0.5,            Unit::Months, u"0.5"_s,              u".500"_s},
-        {Decimal,        0.0,            Unit::Months, u""_s,                 u""_s},
-        {WholeTerm,      Months{360},    Unit::Months, u"360"_s,              u"360"_s},
-        {WholeTerm,      Months{360},    Unit::Years,  u"30"_s,               u"30"_s},
-        {WholeTerm,      Months{186},    Unit::Years,  u"15.5"_s,             u"15.5"_s},
-        {WholeTerm,      Months{100},    Unit::Years,  u"8.33333333333333"_s, u"8.33333333333333"_s},
-        {WholeTerm,      Months{-12},    Unit::Years,  u"-1"_s,               u"-1"_s},
-        {WholeTerm,      Months{0},      Unit::Months, u""_s,                 u""_s},
-        {WholeTerm,      Months{0},      Unit::Years,  u""_s,                 u""_s},
-        {FractionalTerm, Months{186},    Unit::Months, u"186"_s,              u"186"_s},
-        {FractionalTerm, Months{186},    Unit::Years,  u"15.5"_s,             u"15.5"_s},
-        {FractionalTerm, Months{12000},  Unit::Months, u"12000"_s,            u"12000"_s},
-        {FractionalTerm, Months{0},      Unit::Years,  u""_s,                 u""_s},
+        // number          terms in      for entry               for display
+        {Units(1234.5),   Unit::Months, u"1234.5"_s,           u"$1,234.50"_s},
+        {Units(-1234.5),  Unit::Years,  u"-1234.5"_s,          u"($1,234.50)"_s},
+        {Units(0.0049),   Unit::Months, u"0.0049"_s,           u"$0.00"_s},
+        {Units(0),        Unit::Months, u""_s,                 u""_s},
+        {Yearly(0.065),   Unit::Months, u"6.5"_s,              u"6.500%"_s},
+        {Yearly(0.07337), Unit::Months, u"7.337"_s,            u"7.337%"_s},
+        {Yearly(-0.005),  Unit::Years,  u"-0.5"_s,             u"-.500%"_s},
+        {Yearly(0.0),     Unit::Months, u""_s,                 u""_s},
+        {Yearly(-0.0),    Unit::Months, u""_s,                 u""_s},
+        {Points(1.5),     Unit::Months, u"1.5"_s,              u"1.500"_s},
+        {Points(0.5),     Unit::Months, u"0.5"_s,              u".500"_s},
+        {Points(0.0),     Unit::Months, u""_s,                 u""_s},
+        {Months{360},     Unit::Months, u"360"_s,              u"360"_s},
+        {Months{360},     Unit::Years,  u"30"_s,               u"30"_s},
+        {Months{186},     Unit::Years,  u"15.5"_s,             u"15.5"_s},
+        {Months{100},     Unit::Years,  u"8.33333333333333"_s, u"8.33333333333333"_s},
+        {Months{-12},     Unit::Years,  u"-1"_s,               u"-1"_s},
+        {Months{0},       Unit::Months, u""_s,                 u""_s},
+        {Months{12000},   Unit::Months, u"12000"_s,            u"12000"_s},
+        {Months{0},       Unit::Years,  u""_s,                 u""_s},
     };
     // clang-format on
     for (const ShowCase& c : cases) {
         const FieldFormats texts = TextsIn(u"en_US"_s, c.unit);
-        EXPECT_EQ(texts.EntryText(c.kind, c.number), c.entry);
-        EXPECT_EQ(texts.DisplayText(c.kind, c.number), c.display);
+        EXPECT_EQ(texts.EntryText(c.number), c.entry);
+        EXPECT_EQ(texts.DisplayText(c.number), c.display);
     }
 }
 
 TEST(FieldFormats, ShowsTermsWithTheDecimalSymbolOfTheLocale) {
-    EXPECT_EQ(TextsIn(u"de_DE"_s, Unit::Years).EntryText(WholeTerm, Months{186}), u"15,5"_s);
-    EXPECT_EQ(TextsIn(u"de_DE"_s, Unit::Years).DisplayText(WholeTerm, Months{186}), u"15,5"_s);
+    EXPECT_EQ(TextsIn(u"de_DE"_s, Unit::Years).EntryText(Months{186}), u"15,5"_s);
+    EXPECT_EQ(TextsIn(u"de_DE"_s, Unit::Years).DisplayText(Months{186}), u"15,5"_s);
 }
 
 struct ReadCase {
@@ -91,12 +89,12 @@ TEST(FieldFormats, ReadsWhatTheKindHolds) {
         {Amount,         u"1234.56"_s,    Unit::Months, Units(1234.56)},
         {Amount,         u"-5"_s,         Unit::Months, Units(-5)},
         {Amount,         u""_s,           Unit::Months, Units(0)},
-        {Percent,        u"6.5"_s,        Unit::Months, 6.5 / 100},
-        {Percent,        u"6.875"_s,      Unit::Months, 6.875 / 100},
-        {Percent,        u"-.5"_s,        Unit::Months, -0.005},
-        {Percent,        u""_s,           Unit::Months, 0.0},
-        {Decimal,        u"1.25"_s,       Unit::Months, 1.25},
-        {Decimal,        u""_s,           Unit::Months, 0.0},
+        {Percent,        u"6.5"_s,        Unit::Months, Yearly(6.5 / 100)},
+        {Percent,        u"6.875"_s,      Unit::Months, Yearly(6.875 / 100)},
+        {Percent,        u"-.5"_s,        Unit::Months, Yearly(-0.005)},
+        {Percent,        u""_s,           Unit::Months, Yearly(0.0)},
+        {Decimal,        u"1.25"_s,       Unit::Months, Points(1.25)},
+        {Decimal,        u""_s,           Unit::Months, Points(0.0)},
         {WholeTerm,      u""_s,           Unit::Months, Months{0}},
         {WholeTerm,      u""_s,           Unit::Years,  Months{0}},
         {FractionalTerm, u""_s,           Unit::Years,  Months{0}},
@@ -129,7 +127,7 @@ TEST(FieldFormats, ReadsWhatTheKindHolds) {
 TEST(FieldFormats, ReadsTheDecimalSymbolOfTheLocale) {
     const FieldFormats texts = TextsIn(u"de_DE"_s, Unit::Years);
     EXPECT_TRUE(texts.Read(Amount, u"6,5"_s) == Units(6.5));
-    EXPECT_TRUE(texts.Read(Percent, u"6,5"_s) == FieldNumber(0.065));
+    EXPECT_TRUE(texts.Read(Percent, u"6,5"_s) == Yearly(0.065));
     EXPECT_TRUE(texts.Read(FractionalTerm, u"12,5"_s) == FieldNumber(Months{150}));
     EXPECT_THROW(static_cast<void>(texts.Read(Percent, u"6.5"_s)), ConversionFailure);
 }
@@ -176,11 +174,11 @@ TEST(FieldFormats, ReadingFailsWithItsReason) {
 
 TEST(FieldFormats, KnowsZero) {
     EXPECT_TRUE(IsZero(Money()));
-    EXPECT_TRUE(IsZero(0.0));
-    EXPECT_TRUE(IsZero(-0.0));
+    EXPECT_TRUE(IsZero(Yearly(0.0)));
+    EXPECT_TRUE(IsZero(Points(-0.0)));
     EXPECT_TRUE(IsZero(Months{}));
     EXPECT_FALSE(IsZero(Money::FromTenThousandths(1)));
-    EXPECT_FALSE(IsZero(1e-300));
+    EXPECT_FALSE(IsZero(Yearly(1e-300)));
     EXPECT_FALSE(IsZero(Months{-1}));
 }
 

@@ -1,5 +1,6 @@
 #include "LoanTypes.h"
 
+#include "Conversions.h"
 #include "Language.h"
 #include "Printing.h"
 
@@ -10,6 +11,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+static_assert(AreApart<LoanTypeCode, FrequencyCode, Rate, Percent, Months>);
 
 struct Case {
     QString code;
@@ -38,25 +41,25 @@ protected:
 
 TEST_F(LoanTypesTest, AreTextsOfTheLanguageInUse) {
     for (const auto& [code, english, spanish] : Types()) {
-        EXPECT_EQ(LoanTypeCodeToText(code), english);
-        EXPECT_EQ(LoanTypeTextToCode(english), code);
-        EXPECT_EQ(LoanTypeTextToCode(spanish), QString());
+        EXPECT_EQ(LoanTypeCodeToText(LoanTypeCode(code)), english);
+        EXPECT_EQ(LoanTypeTextToCode(english), LoanTypeCode(code));
+        EXPECT_TRUE(LoanTypeTextToCode(spanish).IsNone());
     }
     Language::Instance().LoadLanguage(2);
     for (const auto& [code, english, spanish] : Types()) {
-        EXPECT_EQ(LoanTypeCodeToText(code), spanish);
-        EXPECT_EQ(LoanTypeTextToCode(spanish), code);
-        EXPECT_EQ(LoanTypeTextToCode(english), QString());
+        EXPECT_EQ(LoanTypeCodeToText(LoanTypeCode(code)), spanish);
+        EXPECT_EQ(LoanTypeTextToCode(spanish), LoanTypeCode(code));
+        EXPECT_TRUE(LoanTypeTextToCode(english).IsNone());
     }
 }
 
 TEST_F(LoanTypesTest, UnknownOnesAreEmpty) {
     for (const QString& code : {u""_s, u"Z"_s, u"m"_s, u"MM"_s, u" M"_s, u"Mortgage"_s, u"10"_s}) {
-        EXPECT_EQ(LoanTypeCodeToText(code), QString()) << code.toStdString();
+        EXPECT_EQ(LoanTypeCodeToText(LoanTypeCode(code)), QString()) << code.toStdString();
     }
     for (const QString& text :
          {u""_s, u"M"_s, u"mortgage"_s, u"Mortgage "_s, u"Mort"_s, u"Monthly"_s}) {
-        EXPECT_EQ(LoanTypeTextToCode(text), QString()) << text.toStdString();
+        EXPECT_TRUE(LoanTypeTextToCode(text).IsNone()) << text.toStdString();
     }
 }
 

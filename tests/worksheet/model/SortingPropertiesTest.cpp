@@ -99,9 +99,9 @@ protected:
             return offer.SetWho(u"Bank"_s);
         default:
             offer.SetStartingAmount(Units(10'000));
-            offer.SetTerm(12 * random.Int(1, 3));
-            offer.SetInterestRate(random.Int(4, 6) / 100.0);
-            offer.SetFrequencyCode(random.OneIn(2) ? u"M"_s : u"B"_s);
+            offer.SetTerm(Months{12 * random.Int(1, 3)});
+            offer.SetInterestRate(Rate::FromFraction(random.Int(4, 6) / 100.0));
+            offer.SetFrequencyCode(FrequencyCode(random.OneIn(2) ? u"M"_s : u"B"_s));
             offer.Payment();
             offer.PayoffDate();
         }

@@ -58,21 +58,23 @@ bool HasDigit(const QString& text) {
 }
 
 bool IsFinite(const FieldNumber& number) {
-    const auto* real = std::get_if<double>(&number);
-    return real == nullptr || std::isfinite(*real);
+    const auto* rate = std::get_if<Rate>(&number);
+    const auto* points = std::get_if<Percent>(&number);
+    return (rate == nullptr || std::isfinite(rate->Fraction())) &&
+           (points == nullptr || std::isfinite(points->Value()));
 }
 
 /// Checks what reading and showing guarantee for one number.
 void ExpectShowsAndReadsTheSame(const FieldFormats& texts, ValueKind kind,
                                 const FieldNumber& number) {
     ASSERT_TRUE(IsFinite(number));
-    const QString entry = texts.EntryText(kind, number);
+    const QString entry = texts.EntryText(number);
     EXPECT_EQ(entry.isEmpty(), IsZero(number));
-    EXPECT_EQ(texts.DisplayText(kind, number).isEmpty(), IsZero(number));
+    EXPECT_EQ(texts.DisplayText(number).isEmpty(), IsZero(number));
     EXPECT_TRUE(IsValidNumber(entry, 400, texts.Formats().DecimalSeparator()))
         << entry.toStdString();
     if (kind != ValueKind::WholeTerm || texts.TermInMonths()) { // in years only whole ones are read
-        EXPECT_EQ(texts.EntryText(kind, texts.Read(kind, entry)), entry);
+        EXPECT_EQ(texts.EntryText(texts.Read(kind, entry)), entry);
     }
 }
 

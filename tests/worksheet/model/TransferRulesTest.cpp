@@ -63,9 +63,9 @@ TEST(TransferRules, TravelsAsThisText) {
             Sheet sheet(locale);
             CLoan& offer = sheet.worksheet.OfferOfRow(Third);
             if (row.field == Points) {
-                offer.SetPoints(row.value);
+                offer.SetPoints(Percent::FromPercent(row.value));
             } else if (row.field == InterestRate) {
-                offer.SetInterestRate(row.value);
+                offer.SetInterestRate(Rate::FromFraction(row.value));
             } else {
                 offer.SetActualPayment(Money::FromDouble(row.value));
             }
@@ -158,11 +158,11 @@ TEST(TransferRules, IsReadAsThisValue) {
     // clang-format off
     const IsRead table[]{
         // field        text                      fault              value
-        {Points,        u"1.5",                   Fault::None,       1.5},
-        {Points,        u"-5",                    Fault::None,       -5.0},
-        {Points,        u"0",                     Fault::None,       0.0},
-        {InterestRate,  u"0.065",                 Fault::None,       0.065}, // not divided by 100
-        {InterestRate,  u"6.5",                   Fault::None,       6.5},
+        {Points,        u"1.5",                   Fault::None,       Percent::FromPercent(1.5)},
+        {Points,        u"-5",                    Fault::None,       Percent::FromPercent(-5.0)},
+        {Points,        u"0",                     Fault::None,       Percent()},
+        {InterestRate,  u"0.065",                 Fault::None,       Rate::FromFraction(0.065)}, // not divided by 100
+        {InterestRate,  u"6.5",                   Fault::None,       Rate::FromFraction(6.5)},
         {ActualPayment, u"599.55",                Fault::None,       Money::FromDouble(599.55)},
         {ActualPayment, u"90071992547409.93",     Fault::None,       Money::FromTenThousandths(900719925474099300)},
         {ActualPayment, u"99999999999999999999",  Fault::Overflow,   {}},
@@ -190,9 +190,9 @@ struct Filled : Sheet {
         worksheet.SetLoanAmount(Money::FromDouble(100'000));
         for (const Row row : {First, Third}) {
             CLoan& offer = worksheet.OfferOfRow(row);
-            offer.SetTerm(360);
-            offer.SetFrequencyCode(u"M"_s);
-            offer.SetInterestRate(0.06);
+            offer.SetTerm(Months{360});
+            offer.SetFrequencyCode(FrequencyCode(u"M"_s));
+            offer.SetInterestRate(Rate::FromFraction(0.06));
             worksheet.ShowOffer(row);
         }
         worksheet.ClearDirty();
@@ -204,9 +204,9 @@ using Shown = std::vector<Field>;
 
 TEST(TransferRules, PointsAreStoredAndTheRowCalculated) {
     Filled sheet;
-    StoreDropped(sheet.worksheet, {Points, Third}, 1.5);
-    EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).Points(), 1.5);
-    EXPECT_EQ(sheet.worksheet.OfferOfRow(First).Points(), 0);
+    StoreDropped(sheet.worksheet, {Points, Third}, Percent::FromPercent(1.5));
+    EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).Points(), Percent::FromPercent(1.5));
+    EXPECT_TRUE(sheet.worksheet.OfferOfRow(First).Points().IsZero());
     EXPECT_TRUE(sheet.worksheet.Dirty());
     EXPECT_EQ(sheet.display.TextOf({Points, Third}), u"1.500"_s);
     EXPECT_EQ(sheet.display.TextsInOrder(), (Shown{{Points, Third},
@@ -218,8 +218,8 @@ TEST(TransferRules, PointsAreStoredAndTheRowCalculated) {
 
 TEST(TransferRules, RateIsStoredAsTheFractionItIs) {
     Filled sheet;
-    StoreDropped(sheet.worksheet, {InterestRate, Third}, 0.065);
-    EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).InterestRate(), 0.065);
+    StoreDropped(sheet.worksheet, {InterestRate, Third}, Rate::FromFraction(0.065));
+    EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).InterestRate(), Rate::FromFraction(0.065));
     EXPECT_TRUE(sheet.worksheet.Dirty());
     EXPECT_EQ(sheet.display.TextOf({InterestRate, Third}), u"6.500%"_s);
     EXPECT_EQ(sheet.display.TextOf({PandI, Third}), u"$632.07"_s);
@@ -227,8 +227,8 @@ TEST(TransferRules, RateIsStoredAsTheFractionItIs) {
 
 TEST(TransferRules, RateBringsTheDefaultTerm) {
     Sheet sheet;
-    sheet.worksheet.SetLoanTerm(180);
-    StoreDropped(sheet.worksheet, {InterestRate, First}, 0.065);
+    sheet.worksheet.SetLoanTerm(Months{180});
+    StoreDropped(sheet.worksheet, {InterestRate, First}, Rate::FromFraction(0.065));
     EXPECT_EQ(sheet.display.TextOf({Term, First}), u"15"_s);
 }
 
@@ -259,8 +259,8 @@ TEST(TransferRules, LenderIsStoredAlone) {
 
 TEST(TransferRules, TheSameValueChangesNothing) {
     Filled sheet;
-    StoreDropped(sheet.worksheet, {InterestRate, Third}, 0.06);
-    StoreDropped(sheet.worksheet, {Points, Third}, 0.0);
+    StoreDropped(sheet.worksheet, {InterestRate, Third}, Rate::FromFraction(0.06));
+    StoreDropped(sheet.worksheet, {Points, Third}, Percent());
     StoreDropped(sheet.worksheet, {Who, Third}, QString());
     EXPECT_FALSE(sheet.worksheet.Dirty());
 }

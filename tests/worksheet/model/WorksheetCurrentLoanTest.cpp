@@ -35,8 +35,8 @@ TEST_F(WorksheetCurrentLoanTest, MarksWhatIsMissingAndIsMonthlyUnlessToldOtherwi
     for (const MarkCase& c : cases) {
         SCOPED_TRACE(testing::Message() << c.amount << ", " << c.term << ", " << c.rate);
         m_worksheet.SetCurrentLoanAmount(Units(c.amount));
-        m_worksheet.SetCurrentTerm(c.term);
-        m_worksheet.SetCurrentInterestRate(c.rate);
+        m_worksheet.SetCurrentTerm(Months{c.term});
+        m_worksheet.SetCurrentInterestRate(Rate::FromFraction(c.rate));
         m_worksheet.SetCurrentFrequency(u""_s);
         m_worksheet.RecalculateCurrentPayment();
         EXPECT_EQ(m_display.Of({FieldId::CurLoanAmount}).mark, c.amountMark);
@@ -156,7 +156,7 @@ TEST_F(WorksheetCurrentLoanTest, TheScheduleStartsAtTheNextPayment) {
     };
     // clang-format on
     EnterCurrentLoan();
-    m_worksheet.SetCurrentInterestRate(0.06);
+    m_worksheet.SetCurrentInterestRate(Rate::FromFraction(0.06));
     for (const ScheduleCase& c : cases) {
         SCOPED_TRACE(c.frequency.toStdString());
         m_worksheet.SetEscrowTaxes(Units(c.taxes));
@@ -169,7 +169,7 @@ TEST_F(WorksheetCurrentLoanTest, TheScheduleStartsAtTheNextPayment) {
         EXPECT_EQ(m_worksheet.CurrentAmountLeft(), Units(c.amountLeft));
         EXPECT_EQ(m_worksheet.CurrentInterestLeft(), Units(c.interestLeft));
         const auto currency = [&](double units) {
-            return m_worksheet.Texts().DisplayText(ValueKind::Amount, Units(units));
+            return m_worksheet.Texts().DisplayText(Units(units));
         };
         EXPECT_EQ(TextOf({FieldId::CurAmountLeft}), currency(c.amountLeft));
         EXPECT_EQ(TextOf({FieldId::CurInterestLeft}), currency(c.interestLeft));
@@ -178,13 +178,13 @@ TEST_F(WorksheetCurrentLoanTest, TheScheduleStartsAtTheNextPayment) {
 
 TEST_F(WorksheetCurrentLoanTest, TheScheduleFollowsWhatItDependsOn) {
     EnterCurrentLoan();
-    m_worksheet.SetCurrentInterestRate(0.06);
+    m_worksheet.SetCurrentInterestRate(Rate::FromFraction(0.06));
     EXPECT_EQ(m_worksheet.CurrentPayoffDate(), Date::FromCalendar(2027, 1, 1));
     EXPECT_EQ(TextOf({FieldId::CurAmountLeft}), u"$10,284.79"_s);
     EXPECT_EQ(TextOf({FieldId::CurInterestLeft}), u"$284.79"_s);
     m_worksheet.SetCurrentNextPayment(Date::FromCalendar(2026, 4, 15));
     EXPECT_EQ(TextOf({FieldId::CurPayoffDate}), u"2/15/2027"_s);
-    m_worksheet.SetCurrentInterestRate(0);
+    m_worksheet.SetCurrentInterestRate(Rate::FromFraction(0));
     EXPECT_EQ(TextOf({FieldId::CurInterestLeft}), QString());
     EXPECT_EQ(TextOf({FieldId::CurAmountLeft}), u"$10,000.00"_s);
     m_worksheet.SetCurrentBalance(Units(2'000));

@@ -114,7 +114,7 @@ TEST_F(WorksheetFailureTest, AnOfferWhosePaymentsAreTooManyKeepsItsFrequency) {
     EXPECT_NO_THROW(Store({FieldId::Term, Row1}, u"1073741824"_s));
     EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_s),
                  OverflowFailure);
-    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"B"_s);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), FrequencyCode(u"B"_s));
     EXPECT_EQ(TextOf({FieldId::Frequency, Row1}), u"Twice a month"_s);
     EXPECT_EQ(ResultTexts(Row1), NoTexts);
     EXPECT_TRUE(m_worksheet.Dirty());

@@ -96,10 +96,10 @@ TEST_F(WorksheetFieldsTest, AnEmptyTextStoresZero) {
         EXPECT_EQ(TextOf(c.field), QString());
     }
     EXPECT_EQ(m_worksheet.LoanAmount(), Money());
-    EXPECT_EQ(m_worksheet.LoanTerm(), 0);
-    EXPECT_EQ(m_worksheet.CurrentInterestRate(), 0.0);
-    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).InterestRate(), 0.0);
-    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).Term(), 0);
+    EXPECT_TRUE(m_worksheet.LoanTerm().IsZero());
+    EXPECT_TRUE(m_worksheet.CurrentInterestRate().IsZero());
+    EXPECT_TRUE(m_worksheet.OfferOfRow(Row1).InterestRate().IsZero());
+    EXPECT_TRUE(m_worksheet.OfferOfRow(Row1).Term().IsZero());
 }
 
 struct AcceptCase {
@@ -153,9 +153,9 @@ TEST_F(WorksheetFieldsTest, TermsAreYearsWhereTheUserWantsYears) {
     sheet.StoreNumber({FieldId::LoanTerm}, u"15"_s);
     sheet.StoreNumber(offer, u"12,5"_s);
     sheet.StoreNumber({FieldId::CurLoanTerm}, u"12,5"_s);
-    EXPECT_EQ(sheet.LoanTerm(), 180);
-    EXPECT_EQ(sheet.OfferOfRow(Row{0}).Term(), 144);
-    EXPECT_EQ(sheet.CurrentTerm(), 150);
+    EXPECT_EQ(sheet.LoanTerm(), Months{180});
+    EXPECT_EQ(sheet.OfferOfRow(Row{0}).Term(), Months{144});
+    EXPECT_EQ(sheet.CurrentTerm(), Months{150});
     EXPECT_EQ(display.TextOf({FieldId::LoanTerm}), u"15"_s);
     EXPECT_EQ(display.TextOf(offer), u"12"_s);
     EXPECT_EQ(display.TextOf({FieldId::CurLoanTerm}), u"12,5"_s);
@@ -173,12 +173,13 @@ struct ChoiceCase {
 const std::vector<ChoiceCase>& ChoiceCases() {
     using W = Worksheet;
     constexpr auto OfferCode = [](const W& sheet) {
-        return sheet.OfferOfRow(Row1).FrequencyCode();
+        return sheet.OfferOfRow(Row1).FrequencyCode().Text();
     };
+    constexpr auto TypeCode = [](const W& sheet) { return sheet.LoanType().Text(); };
     // clang-format off
     static const std::vector<ChoiceCase> cases{
         // field                         picked                  stored as                   is                     others
-        {{FieldId::LoanType},            u"Home equity"_s,      &W::LoanType,               u"H"_s,               {}},
+        {{FieldId::LoanType},            u"Home equity"_s,      TypeCode,                   u"H"_s,               {}},
         {{FieldId::CurPaymentFrequency}, u"Twice a month"_s,    &W::CurrentFrequency,       u"Twice a month"_s,   CurrentLoan},
         {{FieldId::ActPaymentFrequency}, u"Every two weeks"_s,  &W::CurrentActualFrequency, u"Every two weeks"_s, CurrentLoan},
         {{FieldId::Frequency, Row1},     u"Every four weeks"_s, OfferCode,                  u"Q"_s,               OfferResults(Row1)},
@@ -304,13 +305,13 @@ TEST_F(WorksheetFieldsTest, ChoicesStayTheSameInAnotherLanguage) {
         m_worksheet.ShowChoices();
         EXPECT_EQ(Sorted({m_display.TextsInOrder()}), choices);
         EXPECT_EQ(TextsOf(choices), expected.at(static_cast<std::size_t>(language - 1)));
-        EXPECT_EQ(m_worksheet.LoanType(), u"H"_s);
-        EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"Q"_s);
+        EXPECT_EQ(m_worksheet.LoanType(), LoanTypeCode(u"H"_s));
+        EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), FrequencyCode(u"Q"_s));
         EXPECT_FALSE(m_worksheet.Dirty());
     }
     // A choice is now made in Spanish.
     m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Mensual"_s);
-    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), u"M"_s);
+    EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), FrequencyCode(u"M"_s));
 }
 
 } // namespace

@@ -228,7 +228,7 @@ TEST_F(WorksheetOfferTest, ARateFillsAMissingTermWithTheDefault) {
     // clang-format on
     const Field term{FieldId::Term, Row0};
     for (const DefaultTermCase& c : cases) {
-        m_worksheet.SetLoanTerm(c.defaultTerm);
+        m_worksheet.SetLoanTerm(Months{c.defaultTerm});
         Store({FieldId::InterestRate, Row0}, u""_s);
         Store(term, c.term);
         StartCounting();
@@ -279,7 +279,7 @@ TEST_F(WorksheetOfferTest, GrowingKeepsWhatIsThere) {
 
     // A new row uses the same amount, and an old one keeps its worksheet.
     const Row last{15};
-    m_worksheet.SetLoanTerm(360);
+    m_worksheet.SetLoanTerm(Months{360});
     m_worksheet.StoreChoice({FieldId::Frequency, last}, u"Monthly"_s);
     Store({FieldId::InterestRate, last}, u"6"_s);
     EXPECT_EQ(TextOf({FieldId::PandI, last}), u"$599.55"_s);

@@ -15,7 +15,7 @@ QString SampleOf(FieldId field, const DisplayFormats& formats) {
     constexpr double payment = 88'888.88;
     switch (RuleOf(field).kind) {
     case ValueKind::Percent:
-        return formats.Percent(0.88888);
+        return formats.Percent(Rate::FromFraction(0.88888));
     case ValueKind::Decimal:
         return formats.ThreeDecimals(88.888);
     case ValueKind::WholeTerm:

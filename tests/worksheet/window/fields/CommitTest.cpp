@@ -147,9 +147,9 @@ TEST_F(LeavingUntouched, ARateGivesAMissingTermTheDefaultOne) {
 TEST_F(LeavingUntouched, ChangesNoValueAndSavesNothing) {
     Open({.termInMonths = false});
     FillFirstOffer();
-    SheetToWrite().OfferOfRow(Row{0}).SetTerm(30); // shown as 2.5 years
+    SheetToWrite().OfferOfRow(Row{0}).SetTerm(Months{30}); // shown as 2.5 years
     SheetToWrite().ShowOffer(Row{0});
-    SheetToWrite().SetLoanTerm(30);
+    SheetToWrite().SetLoanTerm(Months{30});
     SheetToWrite().ClearDirty();
     Click(u"cboLoanName");
     for (int stop = 0; stop < 40; ++stop) {

@@ -214,8 +214,8 @@ TEST_P(TermEntry, PassingThroughAFieldKeepsItsMonths) {
     const bool inMonths = GetParam();
     Open({.termInMonths = inMonths});
     const QStringView shown = inMonths ? u"30" : u"2.5";
-    SheetToWrite().SetLoanTerm(30);
-    SheetToWrite().SetCurrentTerm(30);
+    SheetToWrite().SetLoanTerm(Months{30});
+    SheetToWrite().SetCurrentTerm(Months{30});
     Fill(u"txtInterestRate(0)", u"6"); // an offer without a term takes the default term
     for (const QStringView field : {u"txtLoanTerm", u"txtCurLoanTerm", u"txtTerm(0)"}) {
         EXPECT_EQ(Text(field), shown);

@@ -61,10 +61,10 @@ void DragTest::FillOffers() {
     for (Row row{0}; row.value < 3; ++row.value) {
         const auto index = static_cast<std::size_t>(row.value);
         CLoan& offer = sheet.OfferOfRow(row);
-        offer.SetPoints(points.at(index));
-        offer.SetTerm(360);
-        offer.SetFrequencyCode(u"M"_s);
-        offer.SetInterestRate(rates.at(index));
+        offer.SetPoints(Percent::FromPercent(points.at(index)));
+        offer.SetTerm(Months{360});
+        offer.SetFrequencyCode(FrequencyCode(u"M"_s));
+        offer.SetInterestRate(Rate::FromFraction(rates.at(index)));
         offer.SetActualPayment(Money::FromDouble(payments.at(index)));
         offer.SetWho(u"Bank %1"_s.arg(row.value + 1));
         sheet.ShowOffer(row);

@@ -5,16 +5,6 @@
 #include "IsValidNumber.h"
 #include "TypedDate.h"
 
-namespace {
-
-/// One function for each type that a value may have.
-template <class... Functions>
-struct ByType : Functions... {
-    using Functions::operator()...;
-};
-
-} // namespace
-
 bool IsZero(const FieldValue& value) {
     return std::visit([](const auto& held) { return held == std::decay_t<decltype(held)>{}; },
                       value);

@@ -15,6 +15,12 @@
 using FieldValue =
     std::variant<Money, Rate, Percent, Months, LoanTypeCode, FrequencyCode, Date, bool, QString>;
 
+/// For std::visit: one function for each type that a value may have.
+template <class... Functions>
+struct ByType : Functions... {
+    using Functions::operator()...;
+};
+
 /// Whether nothing is entered: zero, none, empty or not ticked.
 bool IsZero(const FieldValue& value);
 

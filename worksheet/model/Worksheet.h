@@ -108,8 +108,7 @@ public:
     Row RowOfOffer(OfferIndex offer) const { return m_order.RowOfOffer(offer); }
     const CLoan& OfferOfRow(Row row) const { return Offer(OfferIndexOfRow(row)); }
     const CLoan& Offer(OfferIndex offer) const { return m_offers.at(offer.value); }
-    /// All offers in the order of entry, whatever the order of the rows.
-    const std::vector<CLoan>& OffersAsEntered() const { return m_offers; }
+    std::size_t OfferCount() const { return m_offers.size(); }
 
     // The order of the rows. New entries do not change it; only a sort or Clear does.
     SortOrder Order() const { return m_order.Order(); }

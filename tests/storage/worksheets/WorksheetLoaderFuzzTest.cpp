@@ -168,13 +168,13 @@ protected:
     /// The numeric values of the worksheet, independent of their texts.
     static std::vector<std::int64_t> FiguresOf(const Worksheet& sheet) {
         std::vector<std::int64_t> figures{
-            sheet.LoanAmount().TenThousandths(),        sheet.LoanTerm(),
+            sheet.LoanAmount().TenThousandths(),        sheet.LoanTerm().count,
             sheet.EscrowMonthly().TenThousandths(),     sheet.CurrentBalance().TenThousandths(),
             sheet.CurrentAmountLeft().TenThousandths(), sheet.CurrentPayoffDate().Days(),
             sheet.CurrentNextPayment().Days()};
         for (Row row{0}; row <= sheet.HighestOfferRow(); ++row.value) {
             if (WorksheetStore::IsWorthKeeping(sheet.OfferOfRow(row))) {
-                figures.push_back(sheet.OfferOfRow(row).Term());
+                figures.push_back(sheet.OfferOfRow(row).Term().count);
                 figures.push_back(sheet.OfferOfRow(row).ActualPayment().TenThousandths());
             }
         }

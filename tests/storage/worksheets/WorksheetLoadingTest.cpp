@@ -92,7 +92,7 @@ TEST_F(WorksheetLoading, MissingValuesTakeTheirDefaults) {
     FillOffer(read.worksheet, Row{0}, u"Of before"_s);
     EXPECT_TRUE(Load(read).empty());
     EXPECT_EQ(Money(), read.worksheet.LoanAmount());
-    EXPECT_EQ(u"", read.worksheet.LoanType());
+    EXPECT_EQ(u"", read.worksheet.LoanType().Text());
     EXPECT_EQ(u"", read.worksheet.OfferOfRow(Row{0}).Who());
     EXPECT_EQ(Money(), read.worksheet.OfferOfRow(Row{0}).ActualPayment());
     EXPECT_EQ(read.worksheet.Today(), read.worksheet.CurrentNextPayment());

@@ -27,7 +27,7 @@ protected:
         const QString name = nameFits ? text : QStringLiteral("any");
         const QString who = WorksheetStore::CanHoldLender(text) ? text : QString();
         sheet.worksheet.SetLoanName(name);
-        sheet.worksheet.StoreOfferNumber({FieldId::Points, Row{0}}, 1.0);
+        sheet.worksheet.StoreOfferNumber({FieldId::Points, Row{0}}, Percent::FromPercent(1.0));
         sheet.worksheet.StoreWho(Row{0}, who);
         store.Save(sheet.worksheet);
         EXPECT_TRUE(store.Exists(name));

@@ -120,12 +120,13 @@ TEST_F(WorksheetStoreTest, NoFigureChangesUnderAnotherLocaleOrLanguage) {
         Language::Instance().LoadLanguage(abroad.readerLanguage);
         Sheet read(abroad.reader);
         EXPECT_TRUE(Load(read).empty()) << abroad.name;
-        EXPECT_EQ(u"M", read.worksheet.LoanType()) << abroad.name;
+        EXPECT_EQ(u"M", read.worksheet.LoanType().Text()) << abroad.name;
         EXPECT_EQ(Units(250'000.5), read.worksheet.LoanAmount()) << abroad.name;
-        EXPECT_EQ(0.07125, read.worksheet.CurrentInterestRate()) << abroad.name;
+        EXPECT_EQ(Rate::FromFraction(0.07125), read.worksheet.CurrentInterestRate()) << abroad.name;
         EXPECT_EQ(Date::FromCalendar(2026, 12, 3), read.worksheet.CurrentNextPayment())
             << abroad.name;
-        EXPECT_EQ(1.125, read.worksheet.OfferOfRow(Row{0}).Points()) << abroad.name;
+        EXPECT_EQ(Percent::FromPercent(1.125), read.worksheet.OfferOfRow(Row{0}).Points())
+            << abroad.name;
     }
 }
 
@@ -147,7 +148,7 @@ TEST_F(WorksheetStoreTest, OffersComeBackPacked) {
         EXPECT_EQ(expected.at(static_cast<std::size_t>(row.value)),
                   other.worksheet.OfferOfRow(row).Who());
     }
-    EXPECT_EQ(0, other.worksheet.OfferOfRow(Row{4}).Term());
+    EXPECT_EQ(Months{0}, other.worksheet.OfferOfRow(Row{4}).Term());
     EXPECT_EQ(u"", other.display.TextOf({FieldId::Payment, Row{4}}));
 }
 

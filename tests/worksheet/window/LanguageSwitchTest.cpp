@@ -67,8 +67,8 @@ TEST_F(LanguageSwitch, RefillsEveryListAndKeepsItsChoice) {
             EXPECT_EQ(Text(list), row == 0 ? Frequencies[text].at(1) : QString());
         }
     }
-    EXPECT_EQ(Sheet().LoanType(), u"D");
-    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).FrequencyCode(), u"B");
+    EXPECT_EQ(Sheet().LoanType().Text(), u"D");
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).FrequencyCode().Text(), u"B");
 }
 
 TEST_F(LanguageSwitch, KeepsEveryValueAndTheResults) {

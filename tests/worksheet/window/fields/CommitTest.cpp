@@ -139,7 +139,7 @@ TEST_F(LeavingUntouched, ARateGivesAMissingTermTheDefaultOne) {
         Enter(u"txtInterestRate(0)");
         way.pass();
         EXPECT_EQ(Text(u"txtTerm(0)"), u"30");
-        EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), 360);
+        EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), Months{360});
         Shut();
     }
 }
@@ -156,8 +156,8 @@ TEST_F(LeavingUntouched, ChangesNoValueAndSavesNothing) {
         Tab();
     }
     EXPECT_FALSE(Sheet().Dirty());
-    EXPECT_EQ(Sheet().LoanTerm(), 30);
-    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), 30);
+    EXPECT_EQ(Sheet().LoanTerm(), Months{30});
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), Months{30});
     EXPECT_TRUE(SettledMessages().isEmpty()) << Messages().Texts().join(u'\n').toStdString();
 }
 

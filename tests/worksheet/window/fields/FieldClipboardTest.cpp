@@ -97,7 +97,7 @@ TEST_F(FieldClipboard, APastedValueIsStoredAtOnce) {
     Copy();
     Enter(u"txtInterestRate(1)");
     PasteClipped();
-    EXPECT_EQ(Sheet().OfferOfRow(Row{1}).InterestRate(), 0.065);
+    EXPECT_EQ(Sheet().OfferOfRow(Row{1}).InterestRate(), Rate::FromFraction(0.065));
     EXPECT_EQ(Text(u"txtInterestRate(1)"), u"6.5"); // the bare value, for editing
     EXPECT_EQ(Text(u"txtPandI(1)"), Text(u"txtPandI(0)"));
 }
@@ -204,7 +204,8 @@ TEST_F(FieldClipboard, WhatIsBeingTypedIsText) {
     EXPECT_EQ(Clipped(), u"7");
     Enter(u"txtInterestRate(1)");
     PasteClipped();
-    EXPECT_EQ(Sheet().OfferOfRow(Row{1}).InterestRate(), 0.0625); // not stored yet
+    EXPECT_EQ(Sheet().OfferOfRow(Row{1}).InterestRate(),
+              Rate::FromFraction(0.0625)); // not stored yet
     Tab();
     EXPECT_EQ(Text(u"txtInterestRate(1)"), u"7.000%");
 }
@@ -215,7 +216,7 @@ TEST_F(FieldClipboard, TheMenuStoresWhatIsBeingTypedBeforeItIsCopied) {
     Type(u"7");
     InMenu(u"txtInterestRate(0)", copy);
     EXPECT_EQ(Clipped(), u"0.07");
-    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).InterestRate(), 0.07);
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).InterestRate(), Rate::FromFraction(0.07));
 
     Paste(u"1.2.3");
     Clip(u"as before");
@@ -277,7 +278,7 @@ TEST_F(FieldClipboard, TheMenuPastesAsADropDoes) {
     Clip(u"0.07"); // from elsewhere
     InMenu(u"txtInterestRate(1)",
            [](const QMenu& menu) { Entry(menu, u"Paste Va&lue"_s).trigger(); });
-    EXPECT_EQ(Sheet().OfferOfRow(Row{1}).InterestRate(), 0.07);
+    EXPECT_EQ(Sheet().OfferOfRow(Row{1}).InterestRate(), Rate::FromFraction(0.07));
     Clip(u"-");
     InMenu(u"txtPoints(1)", [](const QMenu& menu) { Entry(menu, u"Paste Va&lue"_s).trigger(); });
     EXPECT_EQ(SettledMessages(), QStringList{u"errn=13  src=Loan  desc=Type mismatch"_s});
@@ -290,7 +291,7 @@ TEST_F(FieldClipboard, TheMenuPastesACellAsItsValue) {
         EXPECT_TRUE(paste.isEnabled());
         paste.trigger();
     });
-    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).InterestRate(), 0.05);
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).InterestRate(), Rate::FromFraction(0.05));
     EXPECT_TRUE(SettledMessages().isEmpty());
 }
 

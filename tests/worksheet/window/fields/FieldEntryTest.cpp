@@ -225,9 +225,9 @@ TEST_P(TermEntry, PassingThroughAFieldKeepsItsMonths) {
         Tab();
         EXPECT_EQ(Text(field), shown);
     }
-    EXPECT_EQ(Sheet().LoanTerm(), 30);
-    EXPECT_EQ(Sheet().CurrentTerm(), 30);
-    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), 30);
+    EXPECT_EQ(Sheet().LoanTerm(), Months{30});
+    EXPECT_EQ(Sheet().CurrentTerm(), Months{30});
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), Months{30});
     EXPECT_TRUE(SettledMessages().isEmpty());
 }
 
@@ -240,10 +240,10 @@ TEST_P(TermEntry, ReadsTermsInTheUnitOfTheUser) {
     Click(u"txtTerm(1)");
     Paste(u"30.5"); // halves go to the even number
     Tab();
-    EXPECT_EQ(Sheet().LoanTerm(), 30 * perUnit);
-    EXPECT_EQ(Sheet().CurrentTerm(), 15 * perUnit);
-    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), 20 * perUnit);
-    EXPECT_EQ(Sheet().OfferOfRow(Row{1}).Term(), 30 * perUnit);
+    EXPECT_EQ(Sheet().LoanTerm(), Months{30 * perUnit});
+    EXPECT_EQ(Sheet().CurrentTerm(), Months{15 * perUnit});
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), Months{20 * perUnit});
+    EXPECT_EQ(Sheet().OfferOfRow(Row{1}).Term(), Months{30 * perUnit});
 }
 
 using LenderField = WindowTest;

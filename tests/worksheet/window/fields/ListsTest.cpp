@@ -42,8 +42,8 @@ TEST_F(ChoiceLists, StoreWhatIsPicked) {
         std::function<QString()> stored;
     };
     const std::vector<Case> rows = {
-        {u"cboLoanType", 1, u"Auto", [&] { return Sheet().LoanType(); }},
-        {u"cboLoanType", 0, u"Mortgage", [&] { return Sheet().LoanType(); }},
+        {u"cboLoanType", 1, u"Auto", [&] { return Sheet().LoanType().Text(); }},
+        {u"cboLoanType", 0, u"Mortgage", [&] { return Sheet().LoanType().Text(); }},
         {u"cboCurPaymentFrequency", 1, u"Twice a month",
          [&] { return Sheet().CurrentFrequency(); }},
         {u"cboActPaymentFrequency", 3, u"Every four weeks",

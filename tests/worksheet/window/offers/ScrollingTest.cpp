@@ -148,7 +148,7 @@ TEST_F(Scrolling, TheWheelScrollsWhereverItTurns) {
     }
     // A focused list keeps its choice, too.
     ScrollTo(0);
-    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).FrequencyCode(), u"B");
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).FrequencyCode().Text(), u"B");
     Click(u"chkPoints(0)");
     for (int step = 0; step < 4; ++step) {
         Tab();

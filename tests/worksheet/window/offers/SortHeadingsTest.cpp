@@ -51,7 +51,9 @@ protected:
         }
         return all;
     }
-    double RateOf(std::size_t offer) const { return Sheet().Offer({offer}).InterestRate(); }
+    double RateOf(std::size_t offer) const {
+        return Sheet().Offer({offer}).InterestRate().Fraction();
+    }
     static QString Description(QWidget& control) {
         auto* interface = QAccessible::queryAccessibleInterface(&control);
         return interface ? interface->text(QAccessible::Description) : QString();
@@ -161,8 +163,8 @@ TEST_F(SortHeadings, EditsAfterwardsChangeTheOfferInTheRow) {
     Fill(u"txtActualPayment(1)", u"2000");
     Click(Control(u"chkPoints(2)"), {8, Control(u"chkPoints(2)").height() / 2});
     Choose(u"cboFrequency(0)", 2);
-    EXPECT_EQ(Sheet().Offer({2}).Points(), 1);
-    EXPECT_EQ(Sheet().Offer({2}).FrequencyCode(), u"W");
+    EXPECT_EQ(Sheet().Offer({2}).Points(), Percent::FromPercent(1));
+    EXPECT_EQ(Sheet().Offer({2}).FrequencyCode().Text(), u"W");
     EXPECT_EQ(Sheet().Offer({1}).ActualPayment(), Money::FromDouble(2000));
     EXPECT_TRUE(Sheet().Offer({0}).FinancePoints());
     EXPECT_EQ(Lenders(), u"CBA") << "an edit does not sort again";
@@ -176,8 +178,8 @@ TEST_F(SortHeadings, ARowAddedAfterwardsHasItsOwnOffer) {
     Press(Qt::Key_Down);
     Type(u"4");
     Tab();
-    EXPECT_EQ(Sheet().Offer({5}).Points(), 3);
-    EXPECT_EQ(Sheet().Offer({6}).Points(), 4);
+    EXPECT_EQ(Sheet().Offer({5}).Points(), Percent::FromPercent(3));
+    EXPECT_EQ(Sheet().Offer({6}).Points(), Percent::FromPercent(4));
     Click(u"cmdPayoffDate");
     EXPECT_EQ(Sheet().OfferIndexOfRow(Row{7}).value, 7U);
 }
@@ -195,7 +197,7 @@ TEST_F(SortHeadings, TheOrderOutlivesAnotherLanguageAndOtherOptions) {
     EXPECT_EQ(Text(u"cboFrequency(2)"), u"Mensual");
     EXPECT_EQ(RowCount(), 9);
     Fill(u"txtPoints(0)", u"1");
-    EXPECT_EQ(Sheet().Offer({2}).Points(), 1);
+    EXPECT_EQ(Sheet().Offer({2}).Points(), Percent::FromPercent(1));
     EXPECT_TRUE(Get<SortButton>(u"cmdInterest").IsActive());
 }
 

@@ -20,7 +20,7 @@ protected:
 TEST_F(DropOnFields, StoresAndBringsTheRowUpToDate) {
     EXPECT_EQ(Drop(u"txtPoints(3)", u"1.5"), Copied);
     EXPECT_EQ(Text(u"txtPoints(3)"), u"1.500");
-    EXPECT_EQ(Sheet().OfferOfRow(Row{3}).Points(), 1.5);
+    EXPECT_EQ(Sheet().OfferOfRow(Row{3}).Points(), Percent::FromPercent(1.5));
     EXPECT_TRUE(Sheet().Dirty());
 
     EXPECT_EQ(Drop(u"txtInterestRate(1)", u"0.065"), Copied);
@@ -45,8 +45,8 @@ TEST_F(DropOnFields, GoesToTheOfferThatTheRowShowsAfterASort) {
     ASSERT_EQ(second.value, 0U);
     EXPECT_EQ(Drop(u"txtPoints(0)", u"3.125"), Copied);
     EXPECT_EQ(Drop(u"txtWho(1)", u"Old Mill"), Copied);
-    EXPECT_EQ(Sheet().Offer(first).Points(), 3.125);
-    EXPECT_EQ(Sheet().Offer(second).Points(), 1.5);
+    EXPECT_EQ(Sheet().Offer(first).Points(), Percent::FromPercent(3.125));
+    EXPECT_EQ(Sheet().Offer(second).Points(), Percent::FromPercent(1.5));
     EXPECT_EQ(Sheet().Offer(first).Who(), u"Bank 2");
     EXPECT_EQ(Sheet().Offer(second).Who(), u"Old Mill");
     EXPECT_EQ(Text(u"txtPoints(0)"), u"3.125");
@@ -192,7 +192,7 @@ TEST_F(DropOnFields, StoresFirstWhatIsBeingTypedInTheRow) {
     Enter(u"txtTerm(0)");
     Type(u"15"); // a dropped rate shows the term again
     EXPECT_EQ(Drop(u"txtInterestRate(0)", u"0.06"), Copied);
-    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), 180);
+    EXPECT_EQ(Sheet().OfferOfRow(Row{0}).Term(), Months{180});
     EXPECT_EQ(FocusName(), u"txtTerm(0)");
     EXPECT_EQ(Text(u"txtTerm(0)"), u"15");
     EXPECT_EQ(Text(u"txtPandI(0)"), u"$843.86");
@@ -242,7 +242,7 @@ TEST_F(DropOnFields, ARowHalfOutOfSightTakesItAndComesIntoSight) {
     ASSERT_FALSE(frame.rect().contains(half.mapTo(&frame, half.rect().bottomLeft())));
     EXPECT_EQ(Drop(u"txtPoints(6)", u"2.5", Qt::CopyAction, visible), Copied);
     Bar().setSliderDown(false);
-    EXPECT_EQ(Sheet().OfferOfRow(Row{6}).Points(), 2.5);
+    EXPECT_EQ(Sheet().OfferOfRow(Row{6}).Points(), Percent::FromPercent(2.5));
     EXPECT_TRUE(frame.rect().contains(half.mapTo(&frame, half.rect().bottomLeft())));
 }
 

@@ -1,6 +1,7 @@
 // The entries of the File menu, with a fake printer.
 
 #include "PrintCommands.h"
+#include "Enter.h"
 
 #include "DrawnItems.h"
 #include "FakePrinter.h"
@@ -309,8 +310,8 @@ TEST_F(PrintCommandsTest, MarginsWithoutRoomForARowAreRefused) {
         {{0, 10.5}, false}, {{0, 0}, false},
     };
     Begin();
-    SheetToWrite().StoreWho(Row{0}, QStringLiteral("Bank of the far prairie ").repeated(40));
-    SheetToWrite().ShowOffer(Row{0});
+    Enter(SheetToWrite(), {FieldId::Who, Row{0}},
+          QStringLiteral("Bank of the far prairie ").repeated(40));
     for (const auto& row : table) {
         Printer().space = row.space * TwipsPerInch;
         Printer().printed.clear();

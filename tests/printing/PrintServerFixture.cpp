@@ -1,4 +1,5 @@
 #include "PrintServerFixture.h"
+#include "Enter.h"
 
 #include "FilePrinter.h"
 #include "Language.h"
@@ -85,9 +86,8 @@ void PrintServerTest::FillRows(int count) {
     Window().Rows().GrowTo(Row{count - 1});
     for (int row = 0; row < count; ++row) {
         const QString name = QStringLiteral("Bank%1").arg(row);
-        SheetToWrite().StoreWho(
-            Row{row}, (name + QStringLiteral(" of the far prairie ")).repeated(5).trimmed());
-        SheetToWrite().ShowOffer(Row{row});
+        Enter(SheetToWrite(), {FieldId::Who, Row{row}},
+              (name + QStringLiteral(" of the far prairie ")).repeated(5).trimmed());
     }
 }
 

@@ -1,6 +1,7 @@
 // What the report reads from the live window.
 
 #include "ReportInputReader.h"
+#include "Enter.h"
 
 #include "WindowFixture.h"
 
@@ -134,8 +135,7 @@ TEST_F(ReportInputReaderTest, RowsOutOfSightAreThere) {
     Open();
     Window().Rows().GrowTo(Row{15});
     for (int row = 0; row < 16; ++row) {
-        SheetToWrite().StoreWho(Row{row}, QStringLiteral("Bank %1").arg(row));
-        SheetToWrite().ShowOffer(Row{row});
+        Enter(SheetToWrite(), {FieldId::Who, Row{row}}, QStringLiteral("Bank %1").arg(row));
     }
     Window().Rows().ShowOfferRow(Row{15});
     ASSERT_GT(Bar().value(), 0);
@@ -210,8 +210,7 @@ TEST_F(ReportInputReaderTest, BreaksAndStrayCharactersAreCleaned) {
         {QStringLiteral("café 🏠"), QStringLiteral("café 🏠")},
     };
     for (const auto& lender : cases) {
-        SheetToWrite().StoreWho(Row{0}, lender.stored);
-        SheetToWrite().ShowOffer(Row{0});
+        Enter(SheetToWrite(), {FieldId::Who, Row{0}}, lender.stored);
         EXPECT_EQ(Read().rows.front().back().toStdString(), lender.printed.toStdString());
     }
 }

@@ -1,5 +1,6 @@
 // The hourglass is shown during a long action and disappears afterwards.
 
+#include "Enter.h"
 #include "FileCommands.h"
 #include "LoanNameBox.h"
 #include "OptionsFixture.h"
@@ -29,7 +30,7 @@ TEST_F(BusyPointerOfTheStore, StandsWhileAWorksheetIsLoaded) {
     const FileCommands files(Window(), WorksheetStore(folder.Store()));
     Window().Rows().GrowTo(Row{7});
     for (Row row{0}; row <= Row{7}; ++row.value) {
-        SheetToWrite().StoreWho(row, u"Bank"_s);
+        Enter(SheetToWrite(), {FieldId::Who, row}, u"Bank"_s);
     }
     SheetToWrite().SetLoanName(u"Home"_s);
     WorksheetStore(folder.Store()).Save(SheetToWrite());

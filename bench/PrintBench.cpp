@@ -1,7 +1,7 @@
 // Cost of a report: reading the window, drawing the pages, and delivering the finished document;
 // without the time that the progress window stays open.
 
-#include "Enter.h"
+#include "EnterValues.h"
 #include "FakeMessages.h"
 #include "Loan.h"
 #include "PagePainter.h"

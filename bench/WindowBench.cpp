@@ -3,7 +3,7 @@
 // bench/measure times the same from outside.
 
 #include "ControlMap.h"
-#include "Enter.h"
+#include "EnterValues.h"
 #include "FakeMessages.h"
 #include "Frequency.h"
 #include "Loan.h"

@@ -1,7 +1,7 @@
 // Cost of one edit: recomputing everything that a full window of sixteen offers shows, including
 // texts, without painting.
 
-#include "Enter.h"
+#include "EnterValues.h"
 #include "Frequency.h"
 #include "Worksheet.h"
 
@@ -27,18 +27,19 @@ void Fill(Worksheet& worksheet, int offers = 16) {
     worksheet.SetLoanAmount(Money::FromDouble(250'000));
     for (Row row{0}; row < Row{offers}; ++row.value) {
         const auto frequency = static_cast<std::size_t>(row.value) % Frequencies.size();
-        Enter(worksheet, {FieldId::Term, row}, QStringLiteral("30"));
-        Enter(worksheet, {FieldId::InterestRate, row}, QString::number(5.5 + 0.125 * row.value));
-        Enter(worksheet, {FieldId::Frequency, row},
-              FrequencyCodeToText(Frequencies.at(frequency).Code()));
+        EnterText(worksheet, {FieldId::Term, row}, QStringLiteral("30"));
+        EnterText(worksheet, {FieldId::InterestRate, row},
+                  QString::number(5.5 + 0.125 * row.value));
+        EnterText(worksheet, {FieldId::Frequency, row},
+                  FrequencyCodeToText(Frequencies.at(frequency).Code()));
     }
-    Enter(worksheet, {FieldId::CurLoanAmount}, QStringLiteral("230000"));
-    Enter(worksheet, {FieldId::CurLoanTerm}, QStringLiteral("30"));
-    Enter(worksheet, {FieldId::CurInterestRate}, QStringLiteral("7.25"));
-    Enter(worksheet, {FieldId::CurrentBalance}, QStringLiteral("198450.75"));
-    Enter(worksheet, {FieldId::CurActualPayment}, QStringLiteral("2050"));
-    Enter(worksheet, {FieldId::ActPaymentFrequency},
-          FrequencyCodeToText(FrequencyCode(QStringLiteral("M"))));
+    EnterText(worksheet, {FieldId::CurLoanAmount}, QStringLiteral("230000"));
+    EnterText(worksheet, {FieldId::CurLoanTerm}, QStringLiteral("30"));
+    EnterText(worksheet, {FieldId::CurInterestRate}, QStringLiteral("7.25"));
+    EnterText(worksheet, {FieldId::CurrentBalance}, QStringLiteral("198450.75"));
+    EnterText(worksheet, {FieldId::CurActualPayment}, QStringLiteral("2050"));
+    EnterText(worksheet, {FieldId::ActPaymentFrequency},
+              FrequencyCodeToText(FrequencyCode(QStringLiteral("M"))));
 }
 
 /// Changes the annual taxes back and forth: the escrow, every offer and the current loan change.

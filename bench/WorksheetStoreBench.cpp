@@ -3,7 +3,7 @@
 // calls that wait for the disk, "flush_ms" is their time and "rest_ms" the remaining time. A figure
 // that misses its target is an error.
 
-#include "Enter.h"
+#include "EnterValues.h"
 #include "FileCommands.h"
 #include "FlushCount.h"
 #include "Frequency.h"

@@ -1,7 +1,7 @@
 // The entries of the File menu, with a fake printer.
 
 #include "PrintCommands.h"
-#include "Enter.h"
+#include "EnterValues.h"
 
 #include "DrawnItems.h"
 #include "FakePrinter.h"
@@ -310,8 +310,8 @@ TEST_F(PrintCommandsTest, MarginsWithoutRoomForARowAreRefused) {
         {{0, 10.5}, false}, {{0, 0}, false},
     };
     Begin();
-    Enter(SheetToWrite(), {FieldId::Who, Row{0}},
-          QStringLiteral("Bank of the far prairie ").repeated(40));
+    EnterText(SheetToWrite(), {FieldId::Who, Row{0}},
+              QStringLiteral("Bank of the far prairie ").repeated(40));
     for (const auto& row : table) {
         Printer().space = row.space * TwipsPerInch;
         Printer().printed.clear();

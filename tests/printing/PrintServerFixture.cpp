@@ -1,5 +1,5 @@
 #include "PrintServerFixture.h"
-#include "Enter.h"
+#include "EnterValues.h"
 
 #include "FilePrinter.h"
 #include "Language.h"
@@ -86,8 +86,8 @@ void PrintServerTest::FillRows(int count) {
     Window().Rows().GrowTo(Row{count - 1});
     for (int row = 0; row < count; ++row) {
         const QString name = QStringLiteral("Bank%1").arg(row);
-        Enter(SheetToWrite(), {FieldId::Who, Row{row}},
-              (name + QStringLiteral(" of the far prairie ")).repeated(5).trimmed());
+        EnterText(SheetToWrite(), {FieldId::Who, Row{row}},
+                  (name + QStringLiteral(" of the far prairie ")).repeated(5).trimmed());
     }
 }
 

@@ -2,7 +2,7 @@
 // each version of Qt, because each draws text a little differently. To store new pictures, run with
 // QUEND_KEEP_PAGES=1 and check them by eye.
 
-#include "Enter.h"
+#include "EnterValues.h"
 #include "PagePainter.h"
 #include "Report.h"
 #include "ReportInputReader.h"

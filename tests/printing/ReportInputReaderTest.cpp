@@ -1,7 +1,7 @@
 // What the report reads from the live window.
 
 #include "ReportInputReader.h"
-#include "Enter.h"
+#include "EnterValues.h"
 
 #include "WindowFixture.h"
 
@@ -135,7 +135,7 @@ TEST_F(ReportInputReaderTest, RowsOutOfSightAreThere) {
     Open();
     Window().Rows().GrowTo(Row{15});
     for (int row = 0; row < 16; ++row) {
-        Enter(SheetToWrite(), {FieldId::Who, Row{row}}, QStringLiteral("Bank %1").arg(row));
+        EnterText(SheetToWrite(), {FieldId::Who, Row{row}}, QStringLiteral("Bank %1").arg(row));
     }
     Window().Rows().ShowOfferRow(Row{15});
     ASSERT_GT(Bar().value(), 0);
@@ -210,7 +210,7 @@ TEST_F(ReportInputReaderTest, BreaksAndStrayCharactersAreCleaned) {
         {QStringLiteral("café 🏠"), QStringLiteral("café 🏠")},
     };
     for (const auto& lender : cases) {
-        Enter(SheetToWrite(), {FieldId::Who, Row{0}}, lender.stored);
+        EnterText(SheetToWrite(), {FieldId::Who, Row{0}}, lender.stored);
         EXPECT_EQ(Read().rows.front().back().toStdString(), lender.printed.toStdString());
     }
 }

@@ -1,6 +1,6 @@
 // The hourglass is shown during a long action and disappears afterwards.
 
-#include "Enter.h"
+#include "EnterValues.h"
 #include "FileCommands.h"
 #include "LoanNameBox.h"
 #include "OptionsFixture.h"
@@ -30,7 +30,7 @@ TEST_F(BusyPointerOfTheStore, StandsWhileAWorksheetIsLoaded) {
     const FileCommands files(Window(), WorksheetStore(folder.Store()));
     Window().Rows().GrowTo(Row{7});
     for (Row row{0}; row <= Row{7}; ++row.value) {
-        Enter(SheetToWrite(), {FieldId::Who, row}, u"Bank"_s);
+        EnterText(SheetToWrite(), {FieldId::Who, row}, u"Bank"_s);
     }
     SheetToWrite().SetLoanName(u"Home"_s);
     WorksheetStore(folder.Store()).Save(SheetToWrite());

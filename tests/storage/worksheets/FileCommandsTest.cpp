@@ -1,6 +1,6 @@
 // The File menu and the loan name box, operated by a user in the real window.
 
-#include "Enter.h"
+#include "EnterValues.h"
 #include "FileCommandsFixture.h"
 
 #include "Colours.h"
@@ -116,7 +116,7 @@ TEST_F(FileCommandsTest, NamesThatCannotBeKeptAreRefusedAndNothingIsLost) {
 TEST_F(FileCommandsTest, ALenderTextThatIsTooLongIsRefused) {
     TypeName(u"Home");
     Tab();
-    Enter(Window().GetWorksheet(), {FieldId::Who, Row{2}}, QString(1024, u'x'));
+    EnterText(Window().GetWorksheet(), {FieldId::Who, Row{2}}, QString(1024, u'x'));
     Trigger(u"mnuFileSave");
     ASSERT_EQ(SettledMessages().size(), 1);
     EXPECT_TRUE(SettledMessages().front().contains(u"the lender of offer 3 is too long"));

@@ -1,7 +1,7 @@
 // Any text as a worksheet name or as a text about a lender: what the store accepts is read back
 // unchanged.
 
-#include "Enter.h"
+#include "EnterValues.h"
 #include "Fuzzing.h"
 #include "HostileTexts.h"
 #include "Language.h"
@@ -29,7 +29,7 @@ protected:
         const QString who = WorksheetStore::CanHoldLender(text) ? text : QString();
         sheet.worksheet.SetLoanName(name);
         sheet.worksheet.Store({FieldId::Points, Row{0}}, Percent::FromPercent(1.0));
-        Enter(sheet.worksheet, {FieldId::Who, Row{0}}, who);
+        EnterText(sheet.worksheet, {FieldId::Who, Row{0}}, who);
         store.Save(sheet.worksheet);
         EXPECT_TRUE(store.Exists(name));
         EXPECT_EQ(store.Names(), QStringList(name));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Enter.h"
+#include "EnterValues.h"
 #include "Frequency.h"
 #include "Language.h"
 #include "Printing.h"

@@ -1,7 +1,7 @@
 // Any text in any field, typed, pasted or dropped, in any locale, is either a number that shows and
 // reads back the same, or refused.
 
-#include "Enter.h"
+#include "EnterValues.h"
 #include "Failure.h"
 #include "Fuzzing.h"
 #include "HostileTexts.h"
@@ -98,7 +98,7 @@ void EnterInto(Sheet& sheet, Field field, const QString& text) {
         return;
     }
     try {
-        Enter(sheet.worksheet, field, text);
+        EnterText(sheet.worksheet, field, text);
     } catch (const OverflowFailure&) { // a result is out of range; the number itself is stored
     }
 }

@@ -1,6 +1,6 @@
 #include "TransferRules.h"
 
-#include "Enter.h"
+#include "EnterValues.h"
 #include "Failure.h"
 #include "Printing.h"
 #include "Sheet.h"

@@ -76,14 +76,14 @@ TEST_F(WorksheetCurrentLoanTest, AnIncompleteLoanHasNoPayment) {
         for (const FieldId entered :
              {FieldId::CurLoanAmount, FieldId::CurLoanTerm, FieldId::CurInterestRate}) {
             if (entered != missing) {
-                Enter(sheet, {entered}, u"6"_s);
+                EnterText(sheet, {entered}, u"6"_s);
             }
         }
         EXPECT_EQ(display.TextOf({FieldId::CurPayment}), QString());
         EXPECT_EQ(sheet.CurrentPayment(), Money());
-        Enter(sheet, {missing}, u"6"_s);
+        EnterText(sheet, {missing}, u"6"_s);
         EXPECT_NE(display.TextOf({FieldId::CurPayment}), QString());
-        Enter(sheet, {missing}, QString());
+        EnterText(sheet, {missing}, QString());
         EXPECT_EQ(display.TextOf({FieldId::CurPayment}), QString()) << "no longer complete";
         EXPECT_EQ(sheet.CurrentPayment(), Money());
     }

@@ -149,9 +149,9 @@ TEST_F(WorksheetFieldsTest, TermsAreYearsWhereTheUserWantsYears) {
                     [] { return Date(); });
     sheet.GrowOfferArrays(sheet.HighestOfferRow(), Row{0});
     const Field offer{FieldId::Term, Row{0}};
-    Enter(sheet, {FieldId::LoanTerm}, u"15"_s);
-    Enter(sheet, offer, u"12,5"_s);
-    Enter(sheet, {FieldId::CurLoanTerm}, u"12,5"_s);
+    EnterText(sheet, {FieldId::LoanTerm}, u"15"_s);
+    EnterText(sheet, offer, u"12,5"_s);
+    EnterText(sheet, {FieldId::CurLoanTerm}, u"12,5"_s);
     EXPECT_EQ(sheet.LoanTerm(), Months{180});
     EXPECT_EQ(sheet.OfferOfRow(Row{0}).Term(), Months{144});
     EXPECT_EQ(sheet.CurrentTerm(), Months{150});

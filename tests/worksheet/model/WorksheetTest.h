@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Enter.h"
+#include "EnterValues.h"
 #include "Printing.h"
 #include "RecordingDisplay.h"
 #include "Worksheet.h"
@@ -32,7 +32,7 @@ protected:
     /// Resets what entering has changed: Dirty, the counts and the schedules run.
     void StartCounting();
 
-    void Store(Field field, const QString& text) { Enter(m_worksheet, field, text); }
+    void Store(Field field, const QString& text) { EnterText(m_worksheet, field, text); }
     QString TextOf(Field field) const { return m_display.TextOf(field); }
     std::vector<QString> TextsOf(const std::vector<Field>& fields) const;
     /// The texts of an offer's results, from the payment to the interest.

@@ -1,6 +1,6 @@
 // The headings sort the offers, and everything afterwards uses the right offer.
 
-#include "Enter.h"
+#include "EnterValues.h"
 #include "Language.h"
 #include "SortButton.h"
 #include "WindowFixture.h"
@@ -35,10 +35,10 @@ protected:
         SheetToWrite().SetLoanAmount(Money::FromDouble(100'000));
         Row row{0};
         for (const Offer& offer : {Offer{"A", "7", 20}, Offer{"B", "6", 15}, Offer{"C", "1", 30}}) {
-            Enter(SheetToWrite(), {FieldId::Who, row}, QLatin1String(offer.who));
-            Enter(SheetToWrite(), {FieldId::InterestRate, row}, QLatin1String(offer.rate));
-            Enter(SheetToWrite(), {FieldId::Term, row}, QString::number(offer.years));
-            Enter(SheetToWrite(), {FieldId::Frequency, row}, GetResourceText(114));
+            EnterText(SheetToWrite(), {FieldId::Who, row}, QLatin1String(offer.who));
+            EnterText(SheetToWrite(), {FieldId::InterestRate, row}, QLatin1String(offer.rate));
+            EnterText(SheetToWrite(), {FieldId::Term, row}, QString::number(offer.years));
+            EnterText(SheetToWrite(), {FieldId::Frequency, row}, GetResourceText(114));
             ++row.value;
         }
         SheetToWrite().ClearRaisedMarks();
@@ -75,8 +75,8 @@ TEST_F(SortHeadings, SortByOneAndByTheOther) {
 
 TEST_F(SortHeadings, EveryFieldOfTheRowGoesAlong) {
     SheetToWrite().Store({FieldId::FinancePoints, Row{2}}, true);
-    Enter(SheetToWrite(), {FieldId::Points, Row{2}}, u"1.5"_s);
-    Enter(SheetToWrite(), {FieldId::Frequency, Row{2}}, GetResourceText(112));
+    EnterText(SheetToWrite(), {FieldId::Points, Row{2}}, u"1.5"_s);
+    EnterText(SheetToWrite(), {FieldId::Frequency, Row{2}}, GetResourceText(112));
     std::vector<QString> before;
     for (const FieldRule& field : OfferFields()) {
         before.push_back(Text(RowName(QString(field.control), 2)));

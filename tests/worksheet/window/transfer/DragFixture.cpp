@@ -1,6 +1,6 @@
 #include "DragFixture.h"
 
-#include "Enter.h"
+#include "EnterValues.h"
 
 #include <QApplication>
 #include <QTest>

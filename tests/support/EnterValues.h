@@ -6,7 +6,7 @@
 #include <utility>
 
 /// Stores the value of a text, in any form that the field's kind can be read from.
-inline void Enter(Worksheet& sheet, Field field, const QString& text) {
+inline void EnterText(Worksheet& sheet, Field field, const QString& text) {
     sheet.Store(field, sheet.Texts().Read(RuleOf(field.id).kind, text));
 }
 

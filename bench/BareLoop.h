@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuendNames.h"
 #include "Schedule.h"
 
 #include <cstdint>

@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "HostileLoans.h"
 #include "Payment.h"
+#include "QuendNames.h"
 #include "RecordingLoanContext.h"
 #include "Schedule.h"
 

@@ -4,6 +4,7 @@
 
 #include "BareLoop.h"
 #include "Payment.h"
+#include "QuendNames.h"
 #include "Schedule.h"
 
 #include <benchmark/benchmark.h>

@@ -5,6 +5,7 @@
 #include "FakeMessages.h"
 #include "Loan.h"
 #include "PagePainter.h"
+#include "QuendNames.h"
 #include "Report.h"
 #include "ReportInputReader.h"
 #include "SystemPrinter.h"

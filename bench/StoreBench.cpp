@@ -2,6 +2,7 @@
 // start. "flushes" counts the system calls per round that wait for the disk; "disk_ms" is the time
 // of one such call on this machine, so that the rest of a save can be computed.
 #include "FlushCount.h"
+#include "QuendNames.h"
 #include "RegistryAPI.h"
 #include "StoreCheck.h"
 

@@ -8,6 +8,7 @@
 #include "Frequency.h"
 #include "Loan.h"
 #include "LoanForm.h"
+#include "QuendNames.h"
 #include "WindowMain.h"
 
 #include <benchmark/benchmark.h>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Language.h"
+#include "QuendNames.h"
 
 #include <QApplication>
 

@@ -3,6 +3,7 @@
 
 #include "EnterValues.h"
 #include "Frequency.h"
+#include "QuendNames.h"
 #include "Worksheet.h"
 
 #include <benchmark/benchmark.h>

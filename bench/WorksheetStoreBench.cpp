@@ -11,6 +11,7 @@
 #include "Loan.h"
 #include "LoanForm.h"
 #include "LoanNameBox.h"
+#include "QuendNames.h"
 #include "SampleSheet.h"
 #include "Sheet.h"
 #include "StoreCheck.h"

@@ -6,6 +6,8 @@
 
 #include <utility>
 
+namespace quend::calc {
+
 void CLoan::SetInterestRate(Rate rate) {
     Change(m_interestRate, rate);
     if (!m_interestRate.IsZero() && m_term.IsZero()) {
@@ -75,3 +77,5 @@ Date CLoan::PayoffDate() {
     m_interest = payoff.interest;
     return payoff.date;
 }
+
+} // namespace quend::calc

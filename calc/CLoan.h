@@ -6,6 +6,8 @@
 
 #include <QString>
 
+namespace quend::calc {
+
 /// What an offer needs from its worksheet, and what it reports to it.
 class LoanContext {
 public:
@@ -54,9 +56,9 @@ public:
     Rate InterestRate() const { return m_interestRate; }
     /// A nonzero rate sets a missing term to the worksheet's default term.
     void SetInterestRate(Rate rate);
-    const ::FrequencyCode& FrequencyCode() const { return m_frequencyCode; }
+    const calc::FrequencyCode& FrequencyCode() const { return m_frequencyCode; }
     /// Any text is stored unchanged; an unknown code is not a failure.
-    void SetFrequencyCode(const ::FrequencyCode& code) { Change(m_frequencyCode, code); }
+    void SetFrequencyCode(const calc::FrequencyCode& code) { Change(m_frequencyCode, code); }
     /// The frequency's name in the current language; empty for an unknown code.
     QString Frequency() const;
     /// A text that names no frequency clears the code.
@@ -109,9 +111,11 @@ private:
     Money m_startingAmount;
     Months m_term;
     Rate m_interestRate;
-    ::FrequencyCode m_frequencyCode;
+    calc::FrequencyCode m_frequencyCode;
     Money m_actualPayment;
     bool m_forced = false;
     Money m_interest;
     QString m_who;
 };
+
+} // namespace quend::calc

@@ -2,6 +2,8 @@
 
 #include "Failure.h"
 
+namespace quend::calc {
+
 Date Date::FromCalendar(int year, int month, int day) {
     // std::chrono's month and day hold at most 255 and would truncate larger values.
     if (year < 1 || year > LastYear || month < 1 || month > 12 || day < 1 || day > 31) {
@@ -25,3 +27,5 @@ Date Date::PlusDays(int days) const {
 }
 
 void Date::RaiseOverflow() { throw OverflowFailure("Date"); }
+
+} // namespace quend::calc

@@ -3,6 +3,8 @@
 #include <chrono>
 #include <compare>
 
+namespace quend::calc {
+
 /// A calendar day: whole days since 30 December 1899. Zero, the default, means no date.
 /// The range is 1 January of the year 1 to 31 December 9999; a date outside raises OverflowFailure.
 /// Does not read the clock and does not format.
@@ -48,3 +50,5 @@ private:
 
     int m_days = 0;
 };
+
+} // namespace quend::calc

@@ -4,6 +4,8 @@
 
 #include <array>
 
+namespace quend::calc {
+
 /// A date that advances month by month, to the same day of the next month, or to that month's last
 /// day where it has no such day; a day once reduced stays reduced. Keeps the calendar fields beside
 /// the day count, so that a step needs no conversion.
@@ -76,3 +78,5 @@ private:
     Date m_date;
     int m_days;
 };
+
+} // namespace quend::calc

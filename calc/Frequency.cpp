@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace quend::calc {
+
 const Frequency* FindFrequency(const FrequencyCode& code) {
     const auto* const row = std::find_if(
         Frequencies.begin(), Frequencies.end(), [&text = code.Text()](const Frequency& frequency) {
@@ -55,3 +57,5 @@ QStringList FrequencyTexts() {
     }
     return texts;
 }
+
+} // namespace quend::calc

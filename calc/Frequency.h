@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CalcNames.h"
 #include "Money.h"
 #include "Quantities.h"
 #include "TextNumbers.h"
@@ -8,6 +9,8 @@
 #include <QStringList>
 
 #include <array>
+
+namespace quend::calc {
 
 /// How the due dates of a frequency follow one another.
 enum class DateStep {
@@ -66,3 +69,5 @@ FrequencyCode FrequencyTextToCode(const QString& text);
 
 /// The four texts in list order.
 QStringList FrequencyTexts();
+
+} // namespace quend::calc

@@ -2,6 +2,8 @@
 
 #include "Failure.h"
 
+namespace quend::calc {
+
 namespace {
 
 constexpr std::int64_t PerCent = 100;
@@ -26,3 +28,5 @@ Money Money::RoundedToCents() const {
 }
 
 void Money::RaiseOverflow() { throw OverflowFailure("Money"); }
+
+} // namespace quend::calc

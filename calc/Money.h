@@ -4,6 +4,8 @@
 #include <compare>
 #include <cstdint>
 
+namespace quend::calc {
+
 /// An amount of money: whole ten-thousandths of the currency unit.
 /// Sums and differences raise OverflowFailure outside the 64-bit range; nothing wraps or saturates.
 /// No multiplication: proportional amounts (interest, points, a share) are computed in double and
@@ -67,3 +69,5 @@ private:
 
     std::int64_t m_count = 0;
 };
+
+} // namespace quend::calc

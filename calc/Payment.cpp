@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+namespace quend::calc {
+
 Money PrincipalAndInterest(Money principal, Rate rate, Months term, const FrequencyCode& code) {
     const Frequency* const frequency = FindFrequency(code);
     if (principal.IsZero() || rate.IsZero() || term.IsZero() || frequency == nullptr) {
@@ -14,3 +16,5 @@ Money PrincipalAndInterest(Money principal, Rate rate, Months term, const Freque
     const double annuity = (1.0 - std::pow(1.0 + periodRate, -periods)) / periodRate;
     return Money::FromDoubleInCents(principal.ToDouble() / annuity);
 }
+
+} // namespace quend::calc

@@ -3,9 +3,13 @@
 #include "Money.h"
 #include "Quantities.h"
 
+namespace quend::calc {
+
 /// The payment (principal and interest) that repays a loan within its term, rounded to the nearest
 /// cent, halves to even. Zero for a zero principal, rate or term
 /// and for an unknown code: there is no formula without interest. Raises OverflowFailure for a
 /// payment outside the range of money or NaN, and for "B" if twice the term is outside the 32-bit
 /// range.
 Money PrincipalAndInterest(Money principal, Rate rate, Months term, const FrequencyCode& code);
+
+} // namespace quend::calc

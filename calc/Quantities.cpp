@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+namespace quend::calc {
+
 Months Months::Nearest(double months) {
     const double nearest = std::nearbyint(months);
     if (!(std::abs(nearest) <= std::numeric_limits<int>::max())) {
@@ -14,3 +16,5 @@ Months Months::Nearest(double months) {
 }
 
 Months Months::FromWholeYears(double years) { return FromYears(std::nearbyint(years)); }
+
+} // namespace quend::calc

@@ -5,6 +5,8 @@
 #include <compare>
 #include <utility>
 
+namespace quend::calc {
+
 // Rates, percentages, terms and codes. None converts to another, to a number or to a text unless a
 // call names the conversion. The default of each is zero or empty and means "not entered".
 
@@ -97,3 +99,5 @@ private:
 
 /// The code of a payment frequency (Frequency.h).
 using FrequencyCode = StoredCode<struct FrequencyCodeKind>;
+
+} // namespace quend::calc

@@ -2,6 +2,8 @@
 
 #include "Failure.h"
 
+namespace quend::calc {
+
 namespace {
 
 constexpr auto Unwatched = [](const SchedulePeriod&) {};
@@ -28,3 +30,5 @@ Payoff RunToPayoff(const ScheduleTerms& terms) { return RunToPayoff(terms, Unwat
 ScheduleTotals RunSchedule(const ScheduleTerms& terms) {
     return ScheduleLoop::Totals(terms, RunToPayoff(terms));
 }
+
+} // namespace quend::calc

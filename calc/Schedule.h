@@ -8,6 +8,8 @@
 
 #include <cstdint>
 
+namespace quend::calc {
+
 /// The inputs of a schedule.
 struct ScheduleTerms {
     Money balance;
@@ -160,3 +162,5 @@ template <typename Watch>
 ScheduleTotals RunSchedule(const ScheduleTerms& terms, Watch watch) {
     return ScheduleLoop::Totals(terms, RunToPayoff(terms, watch));
 }
+
+} // namespace quend::calc

@@ -20,8 +20,8 @@ function(add_layer name)
 endfunction()
 
 # add_headers(<target> <scope> <header>…)
-# The folders of the headers are include directories. One file set a folder, because those of one set must not
-# contain each other.
+# The folders of the headers are include directories. One file set a folder, because the folders of
+# one set must not contain each other.
 function(add_headers target scope)
   set(folders)
   foreach(header IN LISTS ARGN)

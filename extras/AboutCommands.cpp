@@ -8,6 +8,8 @@
 
 #include <utility>
 
+namespace quend::extras {
+
 AboutCommands::AboutCommands(Loan& window, RegistryAPI store, SystemInfoInterface system)
     : m_window(&window), m_store(std::move(store)), m_system(std::move(system)) {
     QAction* entry = window.Form().mnuHelpAbout;
@@ -24,3 +26,5 @@ void AboutCommands::mnuHelpAbout_Click() {
     });
     about.exec();
 }
+
+} // namespace quend::extras

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "ExtrasNames.h"
 #include "RegistryAPI.h"
 #include "SystemInfo.h"
 
 #include <QObject>
 
+namespace quend::window {
 class Loan;
+}
+
+namespace quend::extras {
 
 /// The About entry of the Help menu.
 class AboutCommands : public QObject {
@@ -22,3 +27,5 @@ private:
     RegistryAPI m_store;
     SystemInfoInterface m_system;
 };
+
+} // namespace quend::extras

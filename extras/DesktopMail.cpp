@@ -4,6 +4,8 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+namespace quend::extras {
+
 namespace {
 
 QString Client() { return QStandardPaths::findExecutable(QStringLiteral("xdg-email")); }
@@ -35,3 +37,5 @@ void DesktopMail::SignOff(int /*session*/) {
 QByteArray DesktopMail::AddressOf(const MailMessage& message) {
     return "mailto:?subject=" + Encoded(message.subject) + "&body=" + Encoded(message.body);
 }
+
+} // namespace quend::extras

@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+namespace quend::extras {
+
 /// The desktop's mail client, started through xdg-email. It runs separately: the program neither
 /// waits for it nor knows its result.
 class DesktopMail : public MailInterface {
@@ -17,3 +19,5 @@ public:
     /// percent-encoded: xdg-email is a shell script, and no shell may interpret a text.
     static QByteArray AddressOf(const MailMessage& message);
 };
+
+} // namespace quend::extras

@@ -5,6 +5,8 @@
 
 #include <array>
 
+namespace quend::extras {
+
 namespace {
 
 /// In order of preference: tools that only show information before those that also change settings.
@@ -27,3 +29,5 @@ SystemInfoInterface InstalledSystemInfo() {
     return {.installed = FirstInstalled,
             .start = [](const QString& path) { return QProcess::startDetached(path, {}); }};
 }
+
+} // namespace quend::extras

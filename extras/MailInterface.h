@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace quend::extras {
+
 /// The initial content of a new message.
 struct MailMessage {
     QString subject;
@@ -25,3 +27,5 @@ public:
     virtual void Send(int session, const MailMessage& message) = 0;
     virtual void SignOff(int session) = 0;
 };
+
+} // namespace quend::extras

@@ -2,5 +2,9 @@
 
 #include <QIcon>
 
+namespace quend::extras {
+
 /// The program's icon in its sizes; the build draws them from icon/loan.svg.
 QIcon ProgramIcon();
+
+} // namespace quend::extras

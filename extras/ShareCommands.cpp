@@ -9,6 +9,8 @@
 #include <cmath>
 #include <utility>
 
+namespace quend::extras {
+
 namespace {
 
 const QLatin1String Marker("?ID");
@@ -51,3 +53,5 @@ void ShareCommands::cmdShare_Click() {
     } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): intentionally silent
     }
 }
+
+} // namespace quend::extras

@@ -1,9 +1,16 @@
 #pragma once
 
+#include "ExtrasNames.h"
+
 #include <QObject>
 #include <QString>
 
+namespace quend::window {
 class Loan;
+}
+
+namespace quend::extras {
+
 class MailInterface;
 
 /// The body of the recommendation: the first "?ID" is replaced by "?ref=" and the referral
@@ -25,3 +32,5 @@ private:
     MailInterface* m_mail;
     QString m_referral;
 };
+
+} // namespace quend::extras

@@ -7,6 +7,8 @@
 #include <variant>
 #include <vector>
 
+namespace quend::extras {
+
 namespace {
 
 constexpr const char* ToolKey = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
@@ -70,3 +72,5 @@ bool StartSysInfo(const RegistryAPI& store, const SystemInfoInterface& system) {
     const std::optional<QString> tool = PathOfTool(store, system);
     return tool && system.start(*tool);
 }
+
+} // namespace quend::extras

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "ExtrasNames.h"
 #include "RegistryAPI.h"
 
 #include <QString>
 
 #include <functional>
 #include <optional>
+
+namespace quend::extras {
 
 /// A registry value as text: a text unchanged, a number in decimal, any other value's bytes as
 /// characters. No value if the key or value is missing, or the value is longer than 1,023
@@ -24,3 +27,5 @@ struct SystemInfoInterface {
 /// Finds the system-information tool, in the registry or else among the installed programs, and
 /// starts it. False if there is none, or it cannot be started.
 bool StartSysInfo(const RegistryAPI& store, const SystemInfoInterface& system);
+
+} // namespace quend::extras

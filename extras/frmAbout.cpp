@@ -7,6 +7,8 @@
 #include "VersionRecord.h"
 #include "ui_frmAbout.h"
 
+namespace quend::extras {
+
 namespace {
 
 /// Layouts give wrapped text too little height with large fonts.
@@ -47,3 +49,5 @@ void frmAbout::Form_Load() {
     m_ui->picIcon->setPixmap(ProgramIcon().pixmap(QSize(size, size), devicePixelRatio()));
     m_ui->cmdOK->setFocus();
 }
+
+} // namespace quend::extras

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ExtrasNames.h"
+
 #include <QDialog>
 
 #include <functional>
@@ -8,6 +10,8 @@
 namespace Ui {
 class frmAbout;
 }
+
+namespace quend::extras {
 
 /// The About box: shows the version record. The caller supplies the action of its System Info
 /// button.
@@ -27,3 +31,5 @@ private:
 
     std::unique_ptr<Ui::frmAbout> m_ui;
 };
+
+} // namespace quend::extras

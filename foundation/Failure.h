@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+namespace quend {
+
 /// The source of a failure raised by the program itself.
 inline constexpr const char* ProgramSource = "Loan";
 
@@ -47,3 +49,5 @@ public:
     explicit ComponentFailure(const std::string& source)
         : Failure(429, source, "Unable to create the component") {}
 };
+
+} // namespace quend

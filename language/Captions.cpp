@@ -11,6 +11,8 @@
 
 #include <array>
 
+namespace quend::language {
+
 namespace {
 
 constexpr const char* CaptionNumber = "captionText";
@@ -149,3 +151,5 @@ void ApplyTexts(QObject& window, TermUnit unit, int ordinal) {
     }
     ApplyToTree(window, unit, 0);
 }
+
+} // namespace quend::language

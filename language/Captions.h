@@ -2,6 +2,8 @@
 
 class QObject;
 
+namespace quend::language {
+
 /// The unit in which terms are typed.
 enum class TermUnit { Months, Years };
 
@@ -28,3 +30,5 @@ enum class TermUnit { Months, Years };
 /// later call for an enclosing window finds it.
 void ApplyTexts(QObject& window, TermUnit unit, int ordinal = 0);
 // clang-format on
+
+} // namespace quend::language

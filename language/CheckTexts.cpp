@@ -7,6 +7,9 @@
 #include <cstdlib>
 #include <iostream>
 
+using namespace quend;
+using namespace quend::language;
+
 int main(int argc, char* argv[]) {
     if (argc != 2) {
         std::cerr << "usage: checktexts TABLE\n";

@@ -10,6 +10,8 @@
 
 #include <map>
 
+namespace quend::language {
+
 namespace {
 
 const QString& Resources() {
@@ -88,3 +90,5 @@ const LanguageComponent* Load(const QString& file) {
 }
 
 } // namespace ComponentFile
+
+} // namespace quend::language

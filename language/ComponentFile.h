@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace quend::language {
+
 class LanguageComponent;
 
 /// The metadata of a component, readable without loading it.
@@ -35,3 +37,5 @@ std::optional<LanguageLabel> Label(const QString& file);
 const LanguageComponent* Load(const QString& file);
 
 } // namespace ComponentFile
+
+} // namespace quend::language

@@ -3,6 +3,8 @@
 #include "LanguageComponent.h"
 #include "TextTable.h"
 
+namespace quend::language {
+
 /// The built-in English texts, so that a lookup works without a loaded component. They come from
 /// the same table as the English component.
 class DefaultTexts final : public LanguageComponent {
@@ -14,3 +16,5 @@ public:
 private:
     TextTable m_table;
 };
+
+} // namespace quend::language

@@ -9,6 +9,8 @@
 #include <array>
 #include <optional>
 
+namespace quend::language {
+
 namespace {
 
 constexpr int English = 1;
@@ -167,3 +169,5 @@ QString GetResourceText(int id) {
     const QString text = language.Text(id);
     return text.isNull() ? language.DefaultText(id) : text;
 }
+
+} // namespace quend::language

@@ -7,6 +7,8 @@
 #include <memory>
 #include <vector>
 
+namespace quend::language {
+
 class DefaultTexts;
 class LanguageComponent;
 struct LanguageLabel;
@@ -105,3 +107,5 @@ private:
 /// The text of this number in the current language, else in English, else (for an unknown number) a
 /// null QString.
 QString GetResourceText(int id);
+
+} // namespace quend::language

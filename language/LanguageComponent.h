@@ -3,6 +3,8 @@
 #include <QString>
 #include <QtPlugin>
 
+namespace quend::language {
+
 /// The interface of a language component: texts by number. A component does not know which window
 /// shows a text or which language is current.
 class LanguageComponent {
@@ -19,7 +21,9 @@ public:
     virtual QString Text(int id) const = 0;
 };
 
+} // namespace quend::language
+
 // A macro, because moc reads it. Change the number with the interface, so that components built for
 // another version are not loaded.
 #define LanguageComponent_iid "quend.loan.LanguageComponent/1"
-Q_DECLARE_INTERFACE(LanguageComponent, LanguageComponent_iid)
+Q_DECLARE_INTERFACE(quend::language::LanguageComponent, LanguageComponent_iid)

@@ -12,6 +12,8 @@
 #include <array>
 #endif
 
+namespace quend::language {
+
 #ifdef Q_OS_WIN
 
 std::uint16_t LanguageIdentifierOf(const QString& localeName) {
@@ -48,3 +50,5 @@ std::uint16_t UserDefaultLanguageIdentifier() {
 }
 
 #endif
+
+} // namespace quend::language

@@ -10,6 +10,8 @@
 #include <array>
 #include <string_view>
 
+namespace quend::language {
+
 namespace {
 
 /// A source text of Qt, and the number of the program's own text for it.
@@ -71,3 +73,5 @@ QString QtTexts::translate(const char* context, const char* source, const char* 
     const bool moved = std::string_view(context) == "QAbstractFileIconProvider";
     return QTranslator::translate(moved ? "QFileDialog" : context, source, comment, count);
 }
+
+} // namespace quend::language

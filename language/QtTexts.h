@@ -2,6 +2,8 @@
 
 #include <QTranslator>
 
+namespace quend::language {
+
 /// Translates Qt's own texts (context menus of fields, dialogs for files and printers, names of
 /// keys) into the current language. They come from Qt's catalogue for that language, searched
 /// beside the program and then in Qt's folder, and from the program's own table where the catalogue
@@ -17,3 +19,5 @@ public:
                       int count) const override;
     bool isEmpty() const override { return false; }
 };
+
+} // namespace quend::language

@@ -2,6 +2,8 @@
 
 #include <array>
 
+namespace quend::language {
+
 /// The numbers of the texts that code uses. Numbers that forms use are not listed here.
 namespace TextNumber {
 
@@ -221,3 +223,5 @@ inline constexpr std::array All{
 };
 
 } // namespace TextNumber
+
+} // namespace quend::language

@@ -6,6 +6,8 @@
 #include <limits>
 #include <optional>
 
+namespace quend::language {
+
 namespace {
 
 constexpr int WholeTable = 0;
@@ -101,3 +103,5 @@ void TextTable::ReadText(int line, QStringView key, const QString& text) {
 void TextTable::AddFault(int line, const QString& description) {
     m_faults.push_back({line, description});
 }
+
+} // namespace quend::language

@@ -6,6 +6,8 @@
 #include <map>
 #include <vector>
 
+namespace quend::language {
+
 /// What is wrong with a table of texts, and where.
 struct TextTableFault {
     int line; ///< counted from 1; 0 for a fault of the whole table
@@ -51,3 +53,5 @@ private:
     QString m_languageName;
     QString m_tag;
 };
+
+} // namespace quend::language

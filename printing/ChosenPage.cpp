@@ -11,6 +11,8 @@
 #include <array>
 #include <utility>
 
+namespace quend::printing {
+
 namespace {
 
 // The object names in Qt's dialog.
@@ -93,3 +95,5 @@ void ChosenPage::Settle() const {
         m_printer->setPageLayout(m_page);
     }
 }
+
+} // namespace quend::printing

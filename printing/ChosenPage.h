@@ -8,6 +8,8 @@
 class QPrinter;
 class QWidget;
 
+namespace quend::printing {
+
 /// Keeps paper, orientation and margins through a print dialog. Qt's dialog starts with the
 /// printer's default page each time and sets it on OK, even if the user never looked at it.
 ///
@@ -32,3 +34,5 @@ private:
     QPageLayout m_page;
     QPointer<QWidget> m_seen; ///< Qt creates a new properties dialog for another printer
 };
+
+} // namespace quend::printing

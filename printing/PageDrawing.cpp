@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace quend::printing {
+
 namespace {
 
 constexpr int BoxPen = 2;
@@ -126,3 +128,5 @@ void PageDrawing::PrintAt(QPointF place, const QString& text) {
 }
 
 void PageDrawing::NewPage() { m_pages.pages.emplace_back(); }
+
+} // namespace quend::printing

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "PrintedPage.h"
+#include "PrintingNames.h"
 #include "TextMetrics.h"
 
 #include <utility>
+
+namespace quend::printing {
 
 /// Draws boxes, lines and texts on pages in memory. Positions and sizes are given in window units
 /// and multiplied by ScaleFactor() just before drawing. Sends nothing to a printer.
@@ -64,3 +67,5 @@ private:
     double m_scaleFactor = 1;
     double m_offsetX = 0;
 };
+
+} // namespace quend::printing

@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace quend::printing {
+
 namespace {
 
 /// Sized in whole twips, because a size in points would be scaled along with the painter.
@@ -169,3 +171,5 @@ bool PaintPages(QPagedPaintDevice& device, const PrintedPages& pages) {
     SetSizesAnew(pages);
     return ended;
 }
+
+} // namespace quend::printing

@@ -10,6 +10,8 @@
 class QPagedPaintDevice;
 class QPainter;
 
+namespace quend::printing {
+
 /// Measures with the fonts that PaintPage draws with.
 class FontMetrics : public TextMetrics {
 public:
@@ -29,3 +31,5 @@ void PaintPage(QPainter& painter, const PrintedPage& page);
 
 /// Draws all pages on a printer or into a document. False if drawing cannot begin.
 bool PaintPages(QPagedPaintDevice& device, const PrintedPages& pages);
+
+} // namespace quend::printing

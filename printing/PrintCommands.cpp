@@ -16,6 +16,8 @@
 #include <exception>
 #include <utility>
 
+namespace quend::printing {
+
 namespace {
 
 QString TextOf(const PrintOutcome& outcome) {
@@ -145,3 +147,5 @@ void PrintCommands::EndJob() {
         QCoreApplication::quit();
     }
 }
+
+} // namespace quend::printing

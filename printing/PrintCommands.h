@@ -1,13 +1,18 @@
 #pragma once
 
 #include "PagePainter.h"
+#include "PrintingNames.h"
 #include "frmPrint.h"
 
 #include <QObject>
 
 #include <memory>
 
+namespace quend::window {
 class Loan;
+}
+
+namespace quend::printing {
 
 /// The File menu's Print and Print Setup. One report is printed at a time: until it is sent the
 /// entries are disabled and the program does not quit. A document that cannot be printed is
@@ -49,3 +54,5 @@ private:
     std::unique_ptr<frmPrint> m_job;
     bool m_quits = false; ///< the program was asked to quit during the job
 };
+
+} // namespace quend::printing

@@ -1,5 +1,7 @@
 #include "PrintQueue.h"
 
+namespace quend::printing {
+
 #ifdef QUEND_CUPS
 
 #include <cups/cups.h>
@@ -233,3 +235,5 @@ PrintOutcome Send(const QueuedDocument& /*document*/, const std::stop_token& /*s
 void ChooseUserPrinter(const QString& /*queue*/) {}
 
 #endif
+
+} // namespace quend::printing

@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+namespace quend::printing {
+
 // The print server of this system. No call waits longer than stated for a server that does not
 // answer. Without a printing system there is no queue, and Qt prints directly.
 
@@ -41,3 +43,5 @@ PrintOutcome Send(const QueuedDocument& document, const std::stop_token& stop);
 /// Sets a printer as this user's default printer if the printing system stores one; otherwise does
 /// nothing. A printer that does not exist is not set.
 void ChooseUserPrinter(const QString& queue);
+
+} // namespace quend::printing

@@ -10,6 +10,8 @@
 #include <variant>
 #include <vector>
 
+namespace quend::printing {
+
 /// Positions and sizes on paper are twips, 1/1440 inch, from the top left of the printable part of
 /// a page; font sizes are points, pen widths are dots of 1/300 inch.
 inline constexpr double TwipsPerPoint = 20;
@@ -58,3 +60,5 @@ struct PrintedPages {
     QSizeF space; ///< the printable part of each page
     std::vector<PrintedPage> pages;
 };
+
+} // namespace quend::printing

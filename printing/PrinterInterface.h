@@ -11,6 +11,8 @@
 
 class QWidget;
 
+namespace quend::printing {
+
 /// Why nothing can be printed or was printed.
 enum class PrintFault {
     None,
@@ -47,3 +49,5 @@ public:
     /// function is called.
     virtual HandOver Document(const PrintedPages& pages) = 0;
 };
+
+} // namespace quend::printing

@@ -3,6 +3,9 @@
 #include "Language.h"
 #include "Plugin.h"
 #include "PrinterPlugin.h"
+#include "PrintingNames.h"
+
+namespace quend::printing {
 
 PrinterInterface& PrinterOfPlugin::Printer() {
     if (!m_printer) {
@@ -11,3 +14,5 @@ PrinterInterface& PrinterOfPlugin::Printer() {
     }
     return *m_printer;
 }
+
+} // namespace quend::printing

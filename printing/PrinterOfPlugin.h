@@ -4,6 +4,8 @@
 
 #include <memory>
 
+namespace quend::printing {
+
 /// The printers of this system. Loads the printing plugin on the first call; if the plugin is
 /// missing, every call throws ComponentFailure.
 class PrinterOfPlugin : public PrinterInterface {
@@ -20,3 +22,5 @@ private:
 
     std::unique_ptr<PrinterInterface> m_printer;
 };
+
+} // namespace quend::printing

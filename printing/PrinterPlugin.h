@@ -9,6 +9,8 @@
 
 class QString;
 
+namespace quend::printing {
+
 /// The interface of the plugin that accesses the printers of this system.
 class PrinterPlugin {
 public:
@@ -25,6 +27,8 @@ public:
     virtual std::unique_ptr<PrinterInterface> Printers(Words words) const = 0;
 };
 
+} // namespace quend::printing
+
 // A macro, because moc reads it.
 #define PrinterPlugin_iid "quend.loan.PrinterPlugin/2"
-Q_DECLARE_INTERFACE(PrinterPlugin, PrinterPlugin_iid)
+Q_DECLARE_INTERFACE(quend::printing::PrinterPlugin, PrinterPlugin_iid)

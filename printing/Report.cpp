@@ -8,6 +8,8 @@
 #include <cmath>
 #include <utility>
 
+namespace quend::printing {
+
 namespace {
 
 constexpr int SeparatorPen = 5;
@@ -231,3 +233,5 @@ void Report::PrintPageFooter() {
     m_page.SetItalic(false);
     TakeLabelFont(lblLoanName());
 }
+
+} // namespace quend::printing

@@ -5,6 +5,8 @@
 
 #include <array>
 
+namespace quend::printing {
+
 /// Draws the report of a worksheet on pages in memory: the window on paper, black on white, its
 /// offers split over as many pages as they need. Computes nothing and reads nothing from the
 /// window. The job (frmPrint) decides when to draw, when to stop and whether anything is printed.
@@ -64,3 +66,5 @@ private:
     double m_rowHeight = 0;
     double m_lenderColumnWidth = 0;
 };
+
+} // namespace quend::printing

@@ -8,6 +8,8 @@
 #include <cstddef>
 #include <vector>
 
+namespace quend::printing {
+
 /// What the report shows of the main window, read at one moment. Positions are in pixels of the
 /// window below its menu bar.
 
@@ -61,3 +63,5 @@ struct ReportInput {
     std::vector<FormRow> rows;
     QString legalNotice;
 };
+
+} // namespace quend::printing

@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::printing {
+
 namespace {
 
 struct EntryOf {
@@ -284,3 +286,5 @@ ReportInput ReadForm(Loan& window, double widest) {
     window.Reenter();
     return form;
 }
+
+} // namespace quend::printing

@@ -1,8 +1,13 @@
 #pragma once
 
+#include "PrintingNames.h"
 #include "ReportInput.h"
 
+namespace quend::window {
 class Loan;
+}
+
+namespace quend::printing {
 
 /// Reads what the window shows, sheet and layout, including rows that are scrolled out of view. A
 /// window wider than `widest` pixels is laid out at that width while it is read and then restored.
@@ -15,3 +20,5 @@ double LabelPoints(const Loan& window);
 
 /// A caption as it is shown: "&Loan" reads "Loan", "P && I" reads "P & I".
 QString ShownCaption(const QString& caption);
+
+} // namespace quend::printing

@@ -3,6 +3,7 @@
 #include "ChosenPage.h"
 #include "PagePainter.h"
 #include "PrintQueue.h"
+#include "PrintingNames.h"
 #include "TextNumbers.h"
 #include "VersionRecord.h"
 
@@ -16,6 +17,8 @@
 #include <QPushButton>
 
 #include <array>
+
+namespace quend::printing {
 
 namespace {
 
@@ -220,3 +223,5 @@ HandOver SystemPrinter::Document(const PrintedPages& pages) {
         return Send(document, stop);
     };
 }
+
+} // namespace quend::printing

@@ -10,6 +10,8 @@
 
 class QPrintDialog;
 
+namespace quend::printing {
+
 /// The printers of this system through Qt and its dialogs; documents go directly to the print
 /// server if there is one. Keeps the user's last choices while the program runs, except the number
 /// of copies. Does not offer printing to a file.
@@ -39,3 +41,5 @@ private:
 void PrepareDocument(QPrinter& printer);
 /// The printable part of the current page, in twips.
 QSizeF PageSpaceOf(const QPrinter& printer);
+
+} // namespace quend::printing

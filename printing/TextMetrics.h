@@ -2,6 +2,8 @@
 
 #include "PrintedPage.h"
 
+namespace quend::printing {
+
 /// The size of text on paper, in twips.
 class TextMetrics {
 public:
@@ -11,3 +13,5 @@ public:
     /// The height of one line; depends only on the font.
     virtual double Height(const PrintFont& font) const = 0;
 };
+
+} // namespace quend::printing

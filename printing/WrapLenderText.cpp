@@ -7,6 +7,8 @@
 
 #include <optional>
 
+namespace quend::printing {
+
 namespace {
 
 /// The end of one line: how much text it shows and how much it consumes.
@@ -85,3 +87,5 @@ QString WrapLenderText(const QString& text, double columnWidth,
     }
     return wrapped;
 }
+
+} // namespace quend::printing

@@ -14,6 +14,8 @@
 #include <exception>
 #include <utility>
 
+namespace quend::printing {
+
 namespace {
 
 std::unique_ptr<Ui::frmPrint> FormOf(frmPrint& window) {
@@ -214,3 +216,5 @@ void frmPrint::Unload() {
         Q_EMIT Unloaded();
     }
 }
+
+} // namespace quend::printing

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PrinterInterface.h"
+#include "PrintingNames.h"
 #include "Report.h"
 
 #include <QDialog>
@@ -13,6 +14,8 @@
 namespace Ui {
 class frmPrint;
 }
+
+namespace quend::printing {
 
 /// One print job and its progress window. Draws the report section by section and allows Cancel in
 /// between; stays open for at least three seconds; then sends the pages to the printer in a
@@ -94,3 +97,5 @@ private:
     PrintOutcome m_outcome;
     std::jthread m_handingOver; // last member: ends before what it uses
 };
+
+} // namespace quend::printing

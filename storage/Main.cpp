@@ -36,6 +36,17 @@
 #include <future>
 #include <optional>
 
+using namespace quend;
+using namespace quend::calc;
+using namespace quend::extras;
+using namespace quend::help;
+using namespace quend::language;
+using namespace quend::model;
+using namespace quend::printing;
+using namespace quend::registry;
+using namespace quend::storage;
+using namespace quend::window;
+
 namespace {
 
 Date Today() { return FromCalendar(QDate::currentDate()); }

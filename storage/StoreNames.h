@@ -1,6 +1,9 @@
 #pragma once
 
 #include "RegistryAPI.h"
+#include "StorageNames.h"
+
+namespace quend::storage {
 
 /// The root of the program's key: all data is per user.
 inline constexpr RegistryRoot StoreRoot = RegistryRoot::CurrentUser;
@@ -12,3 +15,5 @@ inline constexpr const char* BaseKey = "Software\\Quend Halverworks\\Loan";
 /// Each worksheet repeats its name in this value, so that recovery can find it again.
 inline constexpr const char* LoanNameName = "LoanName";
 inline NamedKeys NamedLoans() { return {StoreRoot, BaseKey, LoanNameName}; }
+
+} // namespace quend::storage

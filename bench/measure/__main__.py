@@ -14,7 +14,7 @@ import traceback
 from dataclasses import replace
 
 from . import benches, report, start_up, tables, window, worksheets
-from .programs import PEERS, ROOT, Program, own
+from .programs import PEERS, ROOT, Program, empty_window, own
 from .screen import Screen
 
 _BUILD = ROOT / "build/release"
@@ -32,7 +32,7 @@ def _say(what: str) -> None:
 
 
 def _starts(folder: pathlib.Path) -> dict[str, str]:
-    programs = [own(_BUILD / "bin"), *PEERS]
+    programs = [own(_BUILD / "bin"), empty_window(_BENCH), *PEERS]
     screen = Screen()
     try:
         starter = start_up.Starter(screen, folder)
@@ -64,9 +64,9 @@ def _starts_with_worksheets(starter: start_up.Starter, program: Program) -> str:
 
 
 def _screens(folder: pathlib.Path) -> dict[str, str]:
-    """New screens, because a toolkit may leave data on a screen for the next program."""
+    """New screens, because a GUI library may leave data on a screen for the next program."""
     _say("starts on new screens")
-    programs = [own(_BUILD / "bin"), *PEERS]
+    programs = [own(_BUILD / "bin"), empty_window(_BENCH), *PEERS]
     measured: dict[str, list[start_up.Start]] = {program.name: [] for program in programs}
     for program in programs:
         for _ in range(1 + _NEW_SCREENS):

@@ -1,4 +1,4 @@
-"""The measured programs: this one and its peers, general calculators and a finance program as packaged by
+"""The measured programs: this one, an empty window, and its peers: general calculators and a finance program as packaged by
 Debian, with default settings."""
 
 from __future__ import annotations
@@ -60,6 +60,11 @@ show-at-startup=false
 
 def own(folder: pathlib.Path) -> Program:
     return Program("Quend Loan", (str(folder / "Loan"),))
+
+
+def empty_window(folder: pathlib.Path) -> Program:
+    """What any Qt window with as many entry fields costs."""
+    return Program("an empty window of 300 fields", (str(folder / "empty_window"),))
 
 
 PEERS = (

@@ -74,7 +74,7 @@ class Screen:
 
     def is_main_window(self, event) -> bool:
         """Whether it is a main window: not a splash screen, a dialog or a small internal window of a
-        toolkit."""
+        GUI library."""
         if event.type != X.MapNotify or event.override:
             return False
         try:

@@ -6,6 +6,8 @@
 #include <QLatin1String>
 #include <QPluginLoader>
 
+namespace quend {
+
 namespace {
 
 #ifdef _WIN32
@@ -24,3 +26,5 @@ QObject* LoadPlugin(const QString& name) {
     const QString file = PluginFile(name);
     return IsSealed(file) ? QPluginLoader(file).instance() : nullptr;
 }
+
+} // namespace quend

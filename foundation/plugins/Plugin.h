@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QString>
 
+namespace quend {
+
 /// Loads a plugin from the program's folder by its name without suffix; it stays loaded. Null if it
 /// is missing, damaged or incompatible.
 QObject* LoadPlugin(const QString& name);
@@ -23,3 +25,5 @@ Part& Plugin(const QString& name) {
     }
     return *part;
 }
+
+} // namespace quend

@@ -3,6 +3,8 @@
 #include <QCryptographicHash>
 #include <QFile>
 
+namespace quend {
+
 bool IsSealed(const QString& library) {
     constexpr qsizetype sealSize = 32; // MD5 in hexadecimal digits, which cmake/Seal.cmake appends
     QFile file(library);
@@ -18,3 +20,5 @@ bool IsSealed(const QString& library) {
     const QByteArray hash = QCryptographicHash::hash(content, QCryptographicHash::Md5);
     return hash.toHex() == bytes.last(sealSize);
 }
+
+} // namespace quend

@@ -14,6 +14,8 @@
 #include <chrono>
 #include <utility>
 
+namespace quend::help {
+
 namespace {
 
 constexpr int HelpFailure = 5;
@@ -128,3 +130,5 @@ QUrl CompiledHelp::PageOfKeyword(const QString& keyword) const {
 QByteArray CompiledHelp::Data(const QUrl& page) const {
     return m_engine.fileData(page.adjusted(QUrl::RemoveFragment));
 }
+
+} // namespace quend::help

@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <QtHelp/QHelpEngine>
 
+namespace quend::help {
+
 /// A compiled Qt help file, read by Qt's help engine. The engine writes to a temporary folder that
 /// is removed with the collection.
 class CompiledHelp : public HelpCollection {
@@ -43,3 +45,5 @@ private:
     bool m_busy = false; ///< indexing or searching, in a thread of Qt
     QString m_next;
 };
+
+} // namespace quend::help

@@ -1,6 +1,7 @@
 #include "HelpAccess.h"
 
 #include "HelpView.h"
+#include "HelpWindow.h"
 
 #include <QAccessible>
 #include <QAccessibleTextInterface>
@@ -11,6 +12,8 @@
 
 #include <algorithm>
 #include <memory>
+
+namespace quend::help {
 
 namespace {
 
@@ -180,13 +183,17 @@ void PageAccess::scrollToSubstring(int start, int /*end*/) {
 
 /// Qt owns the result.
 QAccessibleInterface* MakeHelpAccess(const QString& className, QObject* object) {
-    if (className == u"HelpWindow") {
+    if (className == QLatin1String(HelpWindow::staticMetaObject.className())) {
         return std::make_unique<WindowAccess>(*qobject_cast<QWidget*>(object)).release();
     }
-    auto* view = className == u"HelpView" ? qobject_cast<HelpView*>(object) : nullptr;
+    auto* view = className == QLatin1String(HelpView::staticMetaObject.className())
+                     ? qobject_cast<HelpView*>(object)
+                     : nullptr;
     return view ? std::make_unique<PageAccess>(*view).release() : nullptr;
 }
 
 } // namespace
 
 void InstallHelpAccess() { QAccessible::installFactory(MakeHelpAccess); }
+
+} // namespace quend::help

@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+namespace quend::help {
+
 QUrl HelpCollection::FirstPage() const { return Page(QStringLiteral("welcome.html")); }
 
 bool HelpCollection::Has(const QUrl& page) const { return !Data(page).isEmpty(); }
@@ -16,3 +18,5 @@ QString HelpCollection::TopicText(int topic) const {
                ? QStringLiteral("<p><b>%1</b></p>%2").arg(found.captured(1), found.captured(2))
                : QString();
 }
+
+} // namespace quend::help

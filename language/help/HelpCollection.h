@@ -11,6 +11,8 @@
 
 class QAbstractItemModel;
 
+namespace quend::help {
+
 /// An open help file: its pages, their topics, and models of its contents and index. Shows nothing,
 /// and does not read the file: CompiledHelp does.
 class HelpCollection {
@@ -66,3 +68,5 @@ public:
 
 /// Opens a help file. Throws Failure with its own description if the file is missing or damaged.
 using HelpOpener = std::function<std::shared_ptr<HelpCollection>(const QString& file)>;
+
+} // namespace quend::help

@@ -18,6 +18,8 @@
 
 #include <utility>
 
+namespace quend::help {
+
 namespace {
 
 /// The object that help is requested for: the active entry of an open menu, else the focus widget.
@@ -162,3 +164,5 @@ HelpWindow& HelpCommands::Window() {
     m_help->SetCollection(m_collection);
     return *m_help;
 }
+
+} // namespace quend::help

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HelpCollection.h"
+#include "HelpNames.h"
 #include "WhatsThisMode.h"
 
 #include <QObject>
@@ -8,11 +9,17 @@
 #include <functional>
 #include <memory>
 
-class HelpWindow;
-class Loan;
 class QPoint;
 class QUrl;
 class QWidget;
+
+namespace quend::window {
+class Loan;
+}
+
+namespace quend::help {
+
+class HelpWindow;
 
 /// The Help menu's Contents and Search, the F1 key, and what's-this help, all from the help file of
 /// the current language. A missing or damaged file is reported with its description, and nothing
@@ -58,3 +65,5 @@ private:
     std::shared_ptr<HelpCollection> m_collection;
     std::unique_ptr<HelpWindow> m_help;
 };
+
+} // namespace quend::help

@@ -4,6 +4,8 @@
 
 #include <QHeaderView>
 
+namespace quend::help {
+
 QVariant HelpContents::Model::headerData(int /*section*/, Qt::Orientation /*orientation*/,
                                          int /*role*/) const {
     return {};
@@ -51,3 +53,5 @@ void HelpContents::Choose(const QModelIndex& chapter) {
 QUrl HelpContents::PageOf(const QModelIndex& chapter) const {
     return m_collection->PageOfChapter(m_model.mapToSource(chapter)).adjusted(QUrl::RemoveFragment);
 }
+
+} // namespace quend::help

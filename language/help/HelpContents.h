@@ -4,6 +4,8 @@
 #include <QTreeView>
 #include <QUrl>
 
+namespace quend::help {
+
 class HelpCollection;
 
 /// The contents of a help collection as an expanded tree. The selection follows the current page;
@@ -42,3 +44,5 @@ private:
     Model m_model;
     QUrl m_page; ///< the current page
 };
+
+} // namespace quend::help

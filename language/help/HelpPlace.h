@@ -2,6 +2,8 @@
 
 #include <QRect>
 
+namespace quend::help {
+
 /// The initial geometry of the help window in 1024ths of the screen, so that it is beside the main
 /// window and covers the lower right of any screen.
 struct HelpPlace {
@@ -18,3 +20,5 @@ struct HelpPlace {
                 width * screen.width() / Units, height * screen.height() / Units};
     }
 };
+
+} // namespace quend::help

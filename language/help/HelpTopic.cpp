@@ -7,6 +7,8 @@
 #include <QVariant>
 #include <QWidget>
 
+namespace quend::help {
+
 namespace {
 
 int OwnTopicOf(const QObject& object) { return object.property("helpTopic").toInt(); }
@@ -43,3 +45,5 @@ int TopicAt(const QWidget& widget, QPoint at) {
     const int topic = entry ? OwnTopicOf(*entry) : 0;
     return topic != 0 ? topic : TopicOf(&widget);
 }
+
+} // namespace quend::help

@@ -14,6 +14,8 @@
 #include <cmath>
 #include <optional>
 
+namespace quend::help {
+
 namespace {
 
 /// Where a section begins, in pixels from the start of the page.
@@ -107,3 +109,5 @@ QVariant HelpView::loadResource(int type, const QUrl& name) {
     }
     return picture;
 }
+
+} // namespace quend::help

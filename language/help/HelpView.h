@@ -2,6 +2,8 @@
 
 #include <QTextBrowser>
 
+namespace quend::help {
+
 class HelpCollection;
 
 /// Shows pages of a help collection. Only links to pages of the collection work; an image wider
@@ -32,3 +34,5 @@ private:
     QString m_section;    ///< the name of the requested section
     int m_sectionTop = 0; ///< in pixels from the start of the page
 };
+
+} // namespace quend::help

@@ -19,6 +19,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace quend::help {
+
 namespace {
 
 constexpr int MostFound = 100;
@@ -277,3 +279,5 @@ void HelpWindow::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
     }
 }
+
+} // namespace quend::help

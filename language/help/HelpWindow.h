@@ -1,5 +1,6 @@
 #pragma once
 
+#include "HelpNames.h"
 #include "HelpPlace.h"
 
 #include <QSortFilterProxyModel>
@@ -13,8 +14,11 @@ namespace Ui {
 class HelpWindow;
 }
 
-class HelpCollection;
 class QModelIndex;
+
+namespace quend::help {
+
+class HelpCollection;
 
 /// The window that shows a help collection: its contents, its index and a search beside the page.
 /// It is independent of the main window and does not keep the program running. It does not choose
@@ -74,3 +78,5 @@ private:
     std::shared_ptr<HelpCollection> m_collection;
     QSortFilterProxyModel m_keywords;
 };
+
+} // namespace quend::help

@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <QString>
 
+namespace quend::help {
+
 /// The colour of links on a background of this palette. Few dark palettes define one, and Qt's
 /// default blue is unreadable there.
 inline QColor LinkColour(const QPalette& palette, QPalette::ColorRole background) {
@@ -13,3 +15,5 @@ inline QColor LinkColour(const QPalette& palette, QPalette::ColorRole background
         palette.color(background).lightness() < half && link.lightness() <= half;
     return darkOnDark ? QColor(122, 184, 255) : link;
 }
+
+} // namespace quend::help

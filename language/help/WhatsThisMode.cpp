@@ -11,6 +11,8 @@
 #include <QMouseEvent>
 #include <QWindow>
 
+namespace quend::help {
+
 namespace {
 
 /// The child of this widget at the position, or the widget itself; null if the position is outside.
@@ -205,3 +207,5 @@ void WhatsThisMode::Ask(int topic, const QPoint& at, QWidget& asked) {
     ClosePopups();
     Q_EMIT Asked(topic, at, &window);
 }
+
+} // namespace quend::help

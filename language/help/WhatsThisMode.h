@@ -8,6 +8,8 @@ class QMouseEvent;
 class QPoint;
 class QWidget;
 
+namespace quend::help {
+
 /// The mode in which a click on a control asks for its help instead of using it; this includes
 /// read-only and disabled controls, headings, menus and their entries. Does not show the help.
 ///
@@ -50,3 +52,5 @@ private:
     bool m_on = false;
     bool m_pressed = false; ///< the press was intercepted; its release is still to come
 };
+
+} // namespace quend::help

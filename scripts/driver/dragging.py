@@ -15,7 +15,7 @@ from waiting import wait_for
 _NEIGHBOUR = Path(__file__).with_name("neighbour.py")
 _ROUNDS = 10  # round trips, after which a program has processed all earlier events
 _BESIDE = 8   # pixels: a press at this distance from the previous one is not a double click
-_START = 24   # pixels, more than the drag distance of any toolkit
+_START = 24   # pixels, more than the drag distance of any GUI library
 
 
 class Neighbour:

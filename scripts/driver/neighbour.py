@@ -1,5 +1,5 @@
-"""Another program on the same desktop, using another toolkit: it provides a text to drag, and shows what is
-dropped on it.
+"""Another program on the same desktop, which uses GTK: it provides a text to drag, and shows what is dropped
+on it.
 
 Argument: the text to provide. Prints one line per event:
 
@@ -57,7 +57,7 @@ def _giver(text: str) -> Gtk.Widget:
 
 
 def _taker() -> Gtk.Widget:
-    """A field to drop on, with the toolkit's standard behaviour."""
+    """A field to drop on, with GTK's standard behaviour."""
     taker = Gtk.Entry()
     taker.connect("drag-motion", lambda *_: _say("over"))
     taker.connect("changed", lambda entry: _say("got", entry.get_text()))

@@ -16,7 +16,8 @@ CALC, SORTS = "calc_tests", "worksheet_model_tests"
 SOURCES = {
     "calc/Money.h": CALC, "calc/Money.cpp": CALC, "calc/Date.h": CALC, "calc/Date.cpp": CALC,
     "calc/DueDates.h": CALC, "calc/Frequency.h": CALC, "calc/Frequency.cpp": CALC,
-    "calc/Payment.cpp": CALC, "calc/Schedule.h": CALC, "calc/Schedule.cpp": CALC,
+    "calc/Payment.cpp": CALC, "calc/Quantities.h": CALC, "calc/Quantities.cpp": CALC,
+    "calc/Schedule.h": CALC, "calc/Schedule.cpp": CALC,
     "calc/CLoan.h": CALC, "calc/CLoan.cpp": CALC,
     "worksheet/model/OfferOrder.h": SORTS, "worksheet/model/SortKeys.cpp": SORTS,
     "worksheet/model/WorksheetSorting.cpp": SORTS,

@@ -4,7 +4,7 @@ matches no change any more, is a fault."""
 
 OVERWRITTEN = "The built-in function stores its result there, whether it overflows or not."
 NO_ZERO = "A balance of zero never comes here: a schedule has no period then, and ends with it."
-RANGE = "if (year < 1 || year > 9999 || month < 1 || month > 12 || day < 1 || day > 31) {"
+RANGE = "if (year < 1 || year > LastYear || month < 1 || month > 12 || day < 1 || day > 31) {"
 NO_DAY = "Months and days that fit the calendar type and do not exist are refused by the next lines."
 REST = "const std::int64_t beyondHalf = (rest < 0 ? -rest : rest) * 2 - PerCent;"
 STEP = "const std::int64_t step = rest < 0 ? -1 : 1;"

@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+namespace quend::registry {
+
 namespace {
 
 std::string_view UpToNul(std::string_view text) { return text.substr(0, text.find('\0')); }
@@ -33,3 +35,5 @@ std::optional<std::string> ValueNameOf(const std::string& valueName) {
     const std::string_view name = UpToNul(valueName);
     return Fits(name, LongestValueName) ? std::optional<std::string>(name) : std::nullopt;
 }
+
+} // namespace quend::registry

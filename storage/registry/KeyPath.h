@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace quend::registry {
+
 /// Limits on the length of names, in UTF-16 units, and on the depth of paths. They match the
 /// platform's registry, so that a store can move between platforms.
 inline constexpr std::size_t LongestKeyName = 255;
@@ -19,3 +21,5 @@ std::optional<std::vector<std::string>> PathElements(const std::string& keyName)
 
 /// The name of a value up to its first NUL; no value for an invalid name.
 std::optional<std::string> ValueNameOf(const std::string& valueName);
+
+} // namespace quend::registry

@@ -12,6 +12,8 @@
 #include <variant>
 #include <vector>
 
+namespace quend::registry {
+
 /// The root of a tree of keys; the values are the platform's own handles.
 enum class RegistryRoot : std::uint32_t {
     CurrentUser = 0x80000001,
@@ -154,3 +156,5 @@ private:
     std::shared_ptr<StoreTransaction>
         m_step; ///< the transaction that this object belongs to, if any
 };
+
+} // namespace quend::registry

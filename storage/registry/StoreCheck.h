@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <string>
 
+namespace quend::registry {
+
 /// The state of the store at program start.
 struct StoreCondition {
     enum class State {
@@ -39,3 +41,5 @@ StoreCondition RepairStore(const std::filesystem::path& store, const std::string
 /// Leaves the store as one file without a long log beside it. Called at program end; does nothing
 /// when it is not possible or not necessary.
 void TidyStore(const std::filesystem::path& store);
+
+} // namespace quend::registry

@@ -2,6 +2,8 @@
 
 #include <array>
 
+namespace quend::registry {
+
 namespace {
 
 constexpr std::string_view Replacement = "\xEF\xBF\xBD";
@@ -100,3 +102,5 @@ std::size_t Utf16Length(std::string_view text) {
     }
     return units;
 }
+
+} // namespace quend::registry

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+namespace quend::registry {
+
 /// Texts of the store are UTF-8. These functions check only the encoding, not the meaning.
 
 /// Replaces bytes that are not a character.
@@ -20,3 +22,5 @@ std::string MadeUtf8(std::string_view text);
 
 /// The length of the text in UTF-16 units, in which both platforms measure names.
 std::size_t Utf16Length(std::string_view text);
+
+} // namespace quend::registry

@@ -5,6 +5,8 @@
 
 #include <charconv>
 
+namespace quend::registry {
+
 namespace {
 
 std::string NumberBytes(std::int32_t number) {
@@ -103,3 +105,5 @@ std::optional<RegistryValue> ValueOfBytes(std::int16_t type, const std::string& 
     }
     return std::nullopt;
 }
+
+} // namespace quend::registry

@@ -6,6 +6,8 @@
 #include <optional>
 #include <string>
 
+namespace quend::registry {
+
 /// The bytes of a value, the same on every platform: the characters of a text, the bytes of a
 /// binary value, the four bytes of a number, low byte first. A text is stored without a terminator
 /// and read with one NUL after it.
@@ -23,3 +25,5 @@ std::optional<std::string> BytesOfValue(std::int16_t type, const RegistryValue& 
 /// Interprets the bytes as that type, whatever type was written. A text loses one NUL at its end.
 /// No value when there are too many bytes for the type.
 std::optional<RegistryValue> ValueOfBytes(std::int16_t type, const std::string& bytes);
+
+} // namespace quend::registry

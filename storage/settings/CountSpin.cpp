@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace quend::storage {
+
 namespace {
 
 bool IsDigit(QChar character) { return character >= u'0' && character <= u'9'; }
@@ -96,3 +98,5 @@ void CountSpin::OnTextChanged() {
     QAccessibleValueChangeEvent changed(this, ValueOrZero());
     QAccessible::updateAccessibility(&changed);
 }
+
+} // namespace quend::storage

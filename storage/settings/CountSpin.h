@@ -4,6 +4,8 @@
 
 #include <optional>
 
+namespace quend::storage {
+
 /// A spin box for a count. Accepts only digits, typed or pasted, and does not correct them: the
 /// field can hold a number out of range, which the caller checks. The buttons stay within the
 /// range.
@@ -45,3 +47,5 @@ private:
     int m_minimum = 0;
     int m_maximum = 99;
 };
+
+} // namespace quend::storage

@@ -10,6 +10,8 @@
 
 #include <utility>
 
+namespace quend::storage {
+
 OptionsCommands::OptionsCommands(Loan& window, RegistryAPI store, PictureChooser& pictures)
     : m_window(&window), m_store(std::move(store)), m_pictures(&pictures) {
     QAction* entry = window.Form().mnuToolsOptions;
@@ -36,3 +38,5 @@ std::optional<Settings> OptionsCommands::AskUser() {
     frmOptions dialog(m_window->GetSettings(), m_window->GetMessages(), *m_pictures, m_window);
     return dialog.exec() == QDialog::Accepted ? std::optional(dialog.Chosen()) : std::nullopt;
 }
+
+} // namespace quend::storage

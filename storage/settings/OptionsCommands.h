@@ -2,12 +2,18 @@
 
 #include "RegistryAPI.h"
 #include "Settings.h"
+#include "StorageNames.h"
 
 #include <QObject>
 
 #include <optional>
 
+namespace quend::window {
 class Loan;
+}
+
+namespace quend::storage {
+
 class PictureChooser;
 
 /// The Options entry of the Tools menu: runs the dialog, saves the settings and passes them to the
@@ -27,3 +33,5 @@ private:
     RegistryAPI m_store;
     PictureChooser* m_pictures;
 };
+
+} // namespace quend::storage

@@ -4,6 +4,8 @@
 
 class QWidget;
 
+namespace quend::storage {
+
 /// Where the search for a picture starts. The file and the folder need not exist.
 struct PictureRequest {
     QString file;
@@ -17,3 +19,5 @@ public:
     /// The full path of an existing file; empty when the user cancelled.
     virtual QString Choose(QWidget& parent, const PictureRequest& request) = 0;
 };
+
+} // namespace quend::storage

@@ -2,11 +2,14 @@
 
 #include "Language.h"
 #include "PictureFile.h"
+#include "StorageNames.h"
 #include "TextNumbers.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStandardPaths>
+
+namespace quend::storage {
 
 namespace {
 
@@ -44,3 +47,5 @@ QString PictureDialog::Choose(QWidget& parent, const PictureRequest& request) {
     }
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
+
+} // namespace quend::storage

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+namespace quend::storage {
+
 /// Qt's dialog for opening a file, or the native one of the desktop where available.
 class PictureDialog : public PictureChooser {
 public:
@@ -12,3 +14,5 @@ public:
     /// The file name filters, bitmaps first.
     static QStringList Filters();
 };
+
+} // namespace quend::storage

@@ -2,12 +2,15 @@
 
 #include "Language.h"
 #include "PictureFile.h"
+#include "StorageNames.h"
 #include "TextNumbers.h"
 
 #include <QEvent>
 #include <QImageReader>
 #include <QPainter>
 #include <QPixmap>
+
+namespace quend::storage {
 
 namespace {
 
@@ -110,3 +113,5 @@ void PicturePreview::ShowPicture() {
     pixmap.setDevicePixelRatio(devicePixelRatioF());
     setPixmap(pixmap);
 }
+
+} // namespace quend::storage

@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QLabel>
 
+namespace quend::storage {
+
 /// A preview of a picture file: the whole picture in its proportions, never enlarged. Shows a text
 /// when there is no picture, when the file cannot be displayed, or when the picture is cut off. A
 /// damaged or huge file costs neither time nor memory.
@@ -30,3 +32,5 @@ private:
     QSize m_ownSize;
     QString m_note; ///< the message about a picture that is shown
 };
+
+} // namespace quend::storage

@@ -13,6 +13,8 @@
 #include <string>
 #include <variant>
 
+namespace quend::storage {
+
 namespace {
 
 /// One value of the base key. Number 0 and the empty text mean that the value is missing.
@@ -127,3 +129,5 @@ void SaveSettings(const RegistryAPI& store, const Settings& settings) {
         // Settings that were not saved can be set again; they must not block closing the program.
     }
 }
+
+} // namespace quend::storage

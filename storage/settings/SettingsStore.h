@@ -2,10 +2,15 @@
 
 #include "Failure.h"
 #include "Settings.h"
+#include "StorageNames.h"
 
 #include <vector>
 
+namespace quend::registry {
 class RegistryAPI;
+}
+
+namespace quend::storage {
 
 /// How many offers can be displayed at a time.
 inline constexpr int FewestOffersDisplayed = 1;
@@ -26,3 +31,5 @@ StoredSettings LoadSettings(const RegistryAPI& store);
 /// Writes the settings and the current language in one transaction. Empty texts are deleted. The
 /// key must exist. A read-only store stays unchanged; that is not a failure.
 void SaveSettings(const RegistryAPI& store, const Settings& settings);
+
+} // namespace quend::storage

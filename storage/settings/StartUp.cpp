@@ -4,6 +4,8 @@
 #include "RegistryAPI.h"
 #include "StoreNames.h"
 
+namespace quend::storage {
+
 namespace {
 
 /// 0 or less when none was ever set; below 0 means that the language was only detected.
@@ -25,3 +27,5 @@ void PrepareKeyAndLanguage(const RegistryAPI& store, std::uint16_t languageIdent
         language.DetectLanguage(languageIdentifier);
     }
 }
+
+} // namespace quend::storage

@@ -9,6 +9,8 @@
 #include <QStyle>
 #include <QWidget>
 
+namespace quend::storage {
+
 namespace {
 
 constexpr qint64 LongestPlace = 1'000; // bytes; Qt writes 66
@@ -65,3 +67,5 @@ void SaveGeometry(const QWidget& window, const QString& file) {
         kept.commit();
     }
 }
+
+} // namespace quend::storage

@@ -3,6 +3,8 @@
 class QString;
 class QWidget;
 
+namespace quend::storage {
+
 /// The user's file for the window geometry, separate from the settings of the program.
 QString UserPlace();
 
@@ -14,3 +16,5 @@ void FitToScreen(QWidget& window);
 /// save is not reported.
 void RestoreGeometry(QWidget& window, const QString& file);
 void SaveGeometry(const QWidget& window, const QString& file);
+
+} // namespace quend::storage

@@ -15,6 +15,8 @@
 
 #include <utility>
 
+namespace quend::storage {
+
 namespace {
 
 std::unique_ptr<Ui::frmOptions> FormOf(frmOptions& dialog) {
@@ -151,3 +153,5 @@ bool frmOptions::eventFilter(QObject* watched, QEvent* event) {
     return event->type() == QEvent::Shortcut && watched != m_ui->CancelButton &&
            !txtLoans_Validate();
 }
+
+} // namespace quend::storage

@@ -2,6 +2,7 @@
 
 #include "ClickSwallower.h"
 #include "Settings.h"
+#include "StorageNames.h"
 
 #include <QDialog>
 #include <QString>
@@ -12,9 +13,15 @@ namespace Ui {
 class frmOptions;
 }
 
-class MessageQueue;
-class PictureChooser;
 class QRadioButton;
+
+namespace quend::window {
+class MessageQueue;
+}
+
+namespace quend::storage {
+
+class PictureChooser;
 
 /// The settings dialog. Works on a copy: it neither saves the settings nor changes the main window.
 /// After OK the copy holds the user's choices, otherwise the initial settings.
@@ -59,3 +66,5 @@ private:
     QString m_previewed;
     ClickSwallower m_clicks;
 };
+
+} // namespace quend::storage

@@ -13,6 +13,8 @@
 #include <array>
 #include <utility>
 
+namespace quend::storage {
+
 namespace {
 
 /// The question about a loan: the text before the name, the name, the text after it.
@@ -223,3 +225,5 @@ void FileCommands::Report(const QString& text, const QString& details) const {
     m_window->GetMessages().Post(details.isEmpty() ? text
                                                    : text + QStringLiteral("\n\n") + details);
 }
+
+} // namespace quend::storage

@@ -1,12 +1,17 @@
 #pragma once
 
+#include "StorageNames.h"
 #include "WorksheetStore.h"
 
 #include <QObject>
 #include <QString>
 
+namespace quend::window {
 class Loan;
 class LoanNameBox;
+} // namespace quend::window
+
+namespace quend::storage {
 
 /// The File menu's New, Save and Delete, and the loan name box: selects, saves, deletes and clears
 /// worksheets. Asks before unsaved changes are dropped.
@@ -42,3 +47,5 @@ private:
     Worksheet* m_worksheet;
     LoanNameBox* m_cboLoanName;
 };
+
+} // namespace quend::storage

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace quend::storage {
+
 namespace {
 
 bool HasAll(const RegistryAPI& store, const std::string& key, const std::string& prefix,
@@ -60,3 +62,5 @@ RepairedWorksheets FindIncomplete(const RegistryAPI& store) {
     }
     return found;
 }
+
+} // namespace quend::storage

@@ -1,8 +1,14 @@
 #pragma once
 
+#include "StorageNames.h"
+
 #include <QStringList>
 
+namespace quend::registry {
 class RegistryAPI;
+}
+
+namespace quend::storage {
 
 /// The worksheets of a store after recovery.
 struct RepairedWorksheets {
@@ -14,3 +20,5 @@ struct RepairedWorksheets {
 /// opened. The next save of the worksheet removes the mark. The contents of values are not checked.
 /// A read-only store gets no marks.
 RepairedWorksheets FindIncomplete(const RegistryAPI& store);
+
+} // namespace quend::storage

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace quend::storage {
+
 namespace {
 
 QString Names(const QStringList& names) {
@@ -65,3 +67,5 @@ RegistryAPI ReportingStore(const std::filesystem::path& place, MessageQueue& mes
     };
     return RegistryAPI(place, RegistryAPI::UsualWait, {std::move(today), tell, NamedLoans()});
 }
+
+} // namespace quend::storage

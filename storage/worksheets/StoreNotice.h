@@ -1,13 +1,19 @@
 #pragma once
 
 #include "RegistryAPI.h"
+#include "StorageNames.h"
 
 #include <QString>
 
 #include <functional>
 #include <string>
 
+namespace quend::window {
 class MessageQueue;
+}
+
+namespace quend::storage {
+
 struct RepairedWorksheets;
 
 /// The message about a recovery, in the current language: where the damaged file is, how many
@@ -25,3 +31,5 @@ QString StoreFailureText(const Failure& failure);
 /// outlive the store and its copies. `today` is as in RepairInterface.
 RegistryAPI ReportingStore(const std::filesystem::path& place, MessageQueue& messages,
                            std::function<std::string()> today);
+
+} // namespace quend::storage

@@ -7,6 +7,8 @@
 
 #include <initializer_list>
 
+namespace quend::storage {
+
 namespace {
 
 bool IsDecimalSymbol(QChar c) {
@@ -78,3 +80,5 @@ Date StoredTexts::ReadDate(const std::string& text) const {
     }
     throw ConversionFailure(ProgramSource);
 }
+
+} // namespace quend::storage

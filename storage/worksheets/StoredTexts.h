@@ -1,11 +1,14 @@
 #pragma once
 
 #include "DisplayFormats.h"
+#include "StorageNames.h"
 
 #include <QString>
 
 #include <string>
 #include <utility>
+
+namespace quend::storage {
 
 /// Converts numbers, dates and texts to and from the form in which a worksheet is saved: plain
 /// numbers without grouping ("general number") with the user's decimal symbol, dates in the user's
@@ -46,3 +49,5 @@ private:
     DisplayFormats m_formats;
     QString m_writtenDateFormat;
 };
+
+} // namespace quend::storage

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <string_view>
 
+namespace quend::storage {
+
 namespace {
 
 /// After the values of one group.
@@ -136,3 +138,5 @@ void StoredWorksheet::Compute(Worksheet& worksheet, Field result, Step step) {
         Try(place, cause.name, [&] { PutValue(worksheet, result, m_loan.at(index)); });
     }
 }
+
+} // namespace quend::storage

@@ -3,6 +3,7 @@
 #include "DisplayFormats.h"
 #include "Failure.h"
 #include "RegistryAPI.h"
+#include "StorageNames.h"
 #include "Worksheet.h"
 
 #include <QString>
@@ -12,6 +13,8 @@
 #include <map>
 #include <string>
 #include <vector>
+
+namespace quend::storage {
 
 /// The largest number of offers that is ever saved; a larger count is damage.
 inline constexpr std::int32_t MostOffers = 16;
@@ -68,3 +71,5 @@ private:
     std::string m_dateFormat;
     std::multimap<Place, Failure> m_failures;
 };
+
+} // namespace quend::storage

@@ -11,6 +11,8 @@
 
 #include <optional>
 
+namespace quend::storage {
+
 namespace {
 
 /// No value for an invalid name: it would address a different key.
@@ -150,3 +152,5 @@ void WorksheetStore::Delete(const QString& name) const {
         }
     });
 }
+
+} // namespace quend::storage

@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "RegistryAPI.h"
+#include "StorageNames.h"
 #include "Worksheet.h"
 
 #include <QString>
@@ -9,6 +10,8 @@
 
 #include <functional>
 #include <vector>
+
+namespace quend::storage {
 
 /// Why a name is not allowed for a worksheet.
 enum class NameFault {
@@ -67,3 +70,5 @@ public:
 private:
     RegistryAPI m_store;
 };
+
+} // namespace quend::storage

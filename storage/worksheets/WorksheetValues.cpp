@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::storage {
+
 namespace {
 
 // clang-format off
@@ -101,3 +103,5 @@ FieldValue FromStored(const RegistryValue& stored, const FieldValue& present,
     };
     return std::visit(read, present);
 }
+
+} // namespace quend::storage

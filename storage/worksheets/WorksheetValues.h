@@ -2,12 +2,15 @@
 
 #include "FieldValue.h"
 #include "RegistryAPI.h"
+#include "StorageNames.h"
 #include "StoredTexts.h"
 
 #include <cstdint>
 #include <span>
 #include <string>
 #include <vector>
+
+namespace quend::storage {
 
 /// One value of a saved worksheet: its name and its field.
 struct KeptValue {
@@ -38,3 +41,5 @@ RegistryValue ToStored(const FieldValue& value, const StoredTexts& texts);
 /// an invalid one. An unknown frequency is invalid, because it would silently empty the results.
 FieldValue FromStored(const RegistryValue& stored, const FieldValue& present,
                       const StoredTexts& texts);
+
+} // namespace quend::storage

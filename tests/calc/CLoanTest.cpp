@@ -1,4 +1,5 @@
 #include "CLoan.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 #include "Language.h"
@@ -200,7 +201,7 @@ TEST_F(CLoanTest, KnowsItsFrequencyByTextAndByCode) {
     EXPECT_TRUE(m_loan.PayoffDate().IsNone());
 }
 
-TEST_F(CLoanTest, RaisesALowActualPaymentAndTellsOnce) {
+TEST_F(CLoanTest, RaisesALowActualPaymentAndReportsItOnce) {
     EXPECT_EQ(m_loan.Payment(), Units(849.55));
     EXPECT_EQ(m_loan.ActualPayment(), Units(849.55));
     EXPECT_EQ(m_context.dirtied, 1);

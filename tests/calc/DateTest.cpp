@@ -1,4 +1,5 @@
 #include "Date.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 

@@ -1,4 +1,5 @@
 #include "DueDates.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 #include "MonthAfter.h"

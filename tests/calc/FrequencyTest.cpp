@@ -1,4 +1,5 @@
 #include "Frequency.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 #include "Language.h"

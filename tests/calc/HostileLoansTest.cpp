@@ -1,4 +1,5 @@
 #include "HostileLoans.h"
+#include "QuendNames.h"
 
 #include "CLoan.h"
 #include "Failure.h"

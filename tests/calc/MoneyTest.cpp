@@ -1,4 +1,5 @@
 #include "Money.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 

@@ -1,6 +1,7 @@
 // An offer over random loans: its results follow from the rules of payment and schedule.
 
 #include "CLoan.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 #include "Payment.h"

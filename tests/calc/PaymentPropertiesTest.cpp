@@ -1,6 +1,7 @@
 // The payment over random loans, compared with a slow computation without double precision.
 
 #include "Payment.h"
+#include "QuendNames.h"
 
 #include "PreciseLoan.h"
 #include "RandomLoan.h"

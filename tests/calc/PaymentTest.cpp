@@ -1,4 +1,5 @@
 #include "Payment.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 

@@ -2,6 +2,7 @@
 
 #include "Frequency.h"
 #include "Money.h"
+#include "QuendNames.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,4 +1,5 @@
 #include "Quantities.h"
+#include "QuendNames.h"
 
 #include "Conversions.h"
 #include "Date.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuendNames.h"
 #include "RandomCases.h"
 #include "Schedule.h"
 

@@ -1,6 +1,7 @@
 #include "CLoan.h"
 #include "Failure.h"
 #include "Frequency.h"
+#include "QuendNames.h"
 #include "RecordingLoanContext.h"
 #include "Schedule.h"
 

@@ -3,6 +3,7 @@
 #include "Failure.h"
 #include "MonthAfter.h"
 #include "PreciseLoan.h"
+#include "QuendNames.h"
 #include "RandomLoan.h"
 #include "Schedule.h"
 

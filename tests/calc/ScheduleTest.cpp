@@ -1,4 +1,5 @@
 #include "Schedule.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 
@@ -185,7 +186,7 @@ TEST(Schedule, RunsOnWhileANegativeRateMayStillRepay) {
     EXPECT_EQ(overtaken.paid.TenThousandths(), -80'000);
 }
 
-TEST(Schedule, TellsTheWatchEveryPeriod) {
+TEST(Schedule, ReportsEveryPeriodToTheObserver) {
     std::vector<SchedulePeriod> periods;
     const auto watch = [&periods](const SchedulePeriod& period) { periods.push_back(period); };
     const TotalsCase twoPayments{"",   10'000'000,       0.12, 8'500'000, 2'500'000,

@@ -1,5 +1,6 @@
 #include "AboutCommands.h"
 #include "ProgramIcon.h"
+#include "QuendNames.h"
 #include "StoreFolder.h"
 #include "VersionRecord.h"
 #include "WindowFixture.h"
@@ -64,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(Languages, About, ::testing::Values(English, Spanish),
                              return language.param == English ? "English" : "Spanish";
                          });
 
-TEST_P(About, TellsTheVersionRecord) {
+TEST_P(About, ShowsTheVersionRecord) {
     const bool english = GetParam() == English;
     While([&](const QDialog& dialog) {
         EXPECT_TRUE(dialog.isModal());
@@ -115,7 +116,7 @@ TEST_P(About, KeyboardAloneSuffices) {
     EXPECT_EQ(m_started, QStringList(*m_tool));
 }
 
-TEST_P(About, SystemInfoThatIsMissingIsTold) {
+TEST_P(About, SystemInfoThatIsMissingIsReported) {
     While([](const QDialog& dialog) {
         dialog.findChild<QPushButton*>(QStringLiteral("cmdSysInfo"))->click();
     });

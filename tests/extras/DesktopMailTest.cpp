@@ -2,6 +2,7 @@
 
 #include "DesktopMail.h"
 #include "Language.h"
+#include "QuendNames.h"
 #include "ShareCommands.h"
 #include "TextNumbers.h"
 #include "WindowFixture.h"

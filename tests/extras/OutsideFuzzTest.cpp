@@ -5,6 +5,7 @@
 #include "Fuzzing.h"
 #include "HostileTexts.h"
 #include "InstalledSystemInfo.h"
+#include "QuendNames.h"
 #include "StoreFolder.h"
 #include "SystemInfo.h"
 

@@ -1,4 +1,5 @@
 #include "MailInterface.h"
+#include "QuendNames.h"
 #include "ShareCommands.h"
 #include "WindowFixture.h"
 

@@ -1,4 +1,5 @@
 #include "SystemInfo.h"
+#include "QuendNames.h"
 #include "StoreFolder.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 #include "Captions.h"
+#include "QuendNames.h"
 
 #include "Language.h"
 #include "ProgramFolder.h"
@@ -194,7 +195,7 @@ TEST_F(Captions, GapThatTheFormDoesNotFillIsEnglish) {
     EXPECT_EQ(QStringLiteral("Design label"), m_sample.m_label.text());
 }
 
-TEST_F(Captions, OrdinalStandsInNamesForScreenReaders) {
+TEST_F(Captions, OrdinalIsInNamesForScreenReaders) {
     struct Case {
         int language;
         int ordinal;
@@ -228,7 +229,7 @@ TEST_F(Captions, WindowAroundKeepsTheOrdinalsOfItsRows) {
     other.m_group.setParent(&other.m_window);
 }
 
-TEST_F(Captions, ActionHasATooltipOfItsOwnOnlyWhenTheFormSaysSo) {
+TEST_F(Captions, ActionHasASeparateTooltipOnlyWhenTheFormSaysSo) {
     Apply(Spanish);
     EXPECT_EQ(QStringLiteral("Opciones"), m_sample.m_action->toolTip());
     m_sample.m_action->setProperty("toolTipText", 343);

@@ -1,4 +1,5 @@
 #include "ProgramFolder.h"
+#include "QuendNames.h"
 #include "TextTable.h"
 
 #include <QDir>
@@ -145,7 +146,7 @@ TEST_P(Texts, EntriesOfOneListDiffer) {
     }
 }
 
-TEST_P(Texts, LanguagesAreNamedInTheirOwnWords) {
+TEST_P(Texts, LanguagesAreNamedInTheirOwnLanguage) {
     EXPECT_EQ(QStringLiteral("English"), m_table.Text(260));
     EXPECT_EQ(QStringLiteral("Español"), m_table.Text(261));
 }

@@ -1,4 +1,5 @@
 #include "LanguageIdentifier.h"
+#include "QuendNames.h"
 
 #include <QByteArray>
 

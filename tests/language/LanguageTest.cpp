@@ -1,4 +1,5 @@
 #include "Language.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 #include "ProgramFolder.h"

@@ -1,6 +1,7 @@
 // Qt's own texts, as its menus and dialogs request them.
 
 #include "QtTexts.h"
+#include "QuendNames.h"
 
 #include "Language.h"
 #include "ProgramFolder.h"

@@ -1,4 +1,5 @@
 #include "TextTable.h"
+#include "QuendNames.h"
 
 #include <gtest/gtest.h>
 

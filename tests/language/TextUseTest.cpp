@@ -1,6 +1,7 @@
 #include "Forms.h"
 #include "Language.h"
 #include "ProgramFolder.h"
+#include "QuendNames.h"
 #include "TextNumbers.h"
 #include "TextTable.h"
 

@@ -8,6 +8,7 @@
 #include "LanguageComponent.h"
 #include "LanguageIdentifier.h"
 #include "ProgramFolder.h"
+#include "QuendNames.h"
 #include "TextTable.h"
 
 #include <QDir>
@@ -67,9 +68,9 @@ const FuzzTarget& TableTarget() {
     return target;
 }
 
-TEST(TextTableFuzz, TheCorpusIsReadOrToldByItsLines) { TableTarget().TryCorpus(); }
+TEST(TextTableFuzz, TheCorpusIsReadOrReportedByLine) { TableTarget().TryCorpus(); }
 
-TEST(TextTableFuzz, AnyTableIsReadOrToldByItsLines) {
+TEST(TextTableFuzz, AnyTableIsReadOrReportedByLine) {
     constexpr std::array pieces{"language",   "tag", " = ", "=",   "\n",   "\n",          "\n7 = ",
                                 "\n8 =",      "# ",  "\\",  "\\n", "\\\\", "\r\n",        "\t",
                                 "2147483648", "0",   "x",   "&",   "\xFF", "\xEF\xBB\xBF"};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PrintedPage.h"
+#include "QuendNames.h"
 
 #include <QStringList>
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PrinterInterface.h"
+#include "QuendNames.h"
 
 #include <atomic>
 #include <functional>

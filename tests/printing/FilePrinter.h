@@ -2,6 +2,7 @@
 
 #include "PagePainter.h"
 #include "PrinterInterface.h"
+#include "QuendNames.h"
 #include "SystemPrinter.h"
 
 #include <QPrinter>

@@ -1,5 +1,6 @@
 #include "PageDrawing.h"
 #include "DrawnItems.h"
+#include "QuendNames.h"
 #include "RulerMetrics.h"
 
 #include <gtest/gtest.h>
@@ -79,7 +80,7 @@ const std::vector<InBox> BoxCases{
     {"a single break of another kind is none", 0, "a\nb", false, {At(172, 300, "a\nb")}},
 };
 
-TEST_P(TextInBox, StandsInItsPlace) {
+TEST_P(TextInBox, IsInItsPlace) {
     Page().SetOffsetX(GetParam().offset);
     Page().PrintTextInBox(50, 100, 500, 200, QString::fromUtf8(GetParam().text), GetParam().right);
     const auto texts = Texts();
@@ -122,7 +123,7 @@ TEST_P(Fitting, SmallerThenShorter) {
 }
 
 /// A character is 100 twips wide; at least 20 twips stay free on each side.
-TEST_F(PageDrawingTest, TheRoomBesideATextGivesWayBeforeItsType) {
+TEST_F(PageDrawingTest, TheSpaceBesideATextIsUsedBeforeItsTypeShrinks) {
     struct {
         const char* text;
         double width; // twips
@@ -177,7 +178,7 @@ INSTANTIATE_TEST_SUITE_P(
                     LabelCase{"a width without the flag", 300, false, 400, {100, 400}},
                     LabelCase{"the flag without a width", 300, true, -1, {100, 400}}));
 
-TEST_P(Labels, StandInTheirPlace) {
+TEST_P(Labels, AreInTheirPlace) {
     Page().SetOffsetX(1000); // for boxes, not for labels
     Page().PrintLabel(50, 100, QStringLiteral("abc"), GetParam().height, GetParam().centred,
                       GetParam().width);

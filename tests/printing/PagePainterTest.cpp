@@ -1,6 +1,7 @@
 // Painting into a document: letters become text, emoji become pictures.
 
 #include "PagePainter.h"
+#include "QuendNames.h"
 
 #include <QBuffer>
 #include <QFontDatabase>

@@ -2,6 +2,7 @@
 
 #include "PrintCommands.h"
 #include "EnterValues.h"
+#include "QuendNames.h"
 
 #include "DrawnItems.h"
 #include "FakePrinter.h"

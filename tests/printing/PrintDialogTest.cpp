@@ -3,6 +3,7 @@
 #include "Language.h"
 #include "LoanForm.h"
 #include "PrintServerFixture.h"
+#include "QuendNames.h"
 
 #include <QAction>
 #include <QApplication>
@@ -293,7 +294,7 @@ TEST_F(ServerOnlyTest, CopiesAreThoseOfOneJob) {
     EXPECT_EQ(CopiesOf(2), 1);
 }
 
-TEST_F(ServerOnlyTest, NoPrinterAtAllIsToldInsteadOfAsking) {
+TEST_F(ServerOnlyTest, NoPrinterAtAllIsReportedInsteadOfAsking) {
     PrintServer::Run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), QStringLiteral("Lab")});
     Begin();
     FillRows(1);

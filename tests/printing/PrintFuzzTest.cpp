@@ -5,6 +5,7 @@
 #include "FilePrinter.h"
 #include "Fuzzing.h"
 #include "HostileTexts.h"
+#include "QuendNames.h"
 #include "QuietQt.h"
 #include "Report.h"
 #include "RulerMetrics.h"

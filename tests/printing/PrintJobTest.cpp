@@ -4,6 +4,7 @@
 #include "DrawnItems.h"
 #include "FakePrinter.h"
 #include "Language.h"
+#include "QuendNames.h"
 #include "RulerMetrics.h"
 #include "SampleForm.h"
 #include "WindowFixture.h"
@@ -86,9 +87,7 @@ TEST_F(PrintJobTest, WaitsForItsTimer) {
     EXPECT_EQ(TextsOf(page).last(), u"Legal");
 }
 
-TEST_F(PrintJobTest, TakesThreeSecondsUnlessToldOtherwise) {
-    EXPECT_EQ(frmPrint::Pace().shownAtLeast, 3s);
-}
+TEST_F(PrintJobTest, TakesThreeSecondsByDefault) { EXPECT_EQ(frmPrint::Pace().shownAtLeast, 3s); }
 
 /// If drawing lasts longer than the timer, the window closes as soon as drawing is done.
 TEST_F(PrintJobTest, ClosesAtOnceWhenTheTimerHasTicked) {

@@ -3,6 +3,7 @@
 #include "PrintCommands.h"
 #include "PrintServer.h"
 #include "PrinterInterface.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QObject>

@@ -3,6 +3,7 @@
 
 #include "Language.h"
 #include "PrintServerFixture.h"
+#include "QuendNames.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -104,7 +105,7 @@ TEST_F(ServerOnlyTest, AStoppedQueueKeepsTheJob) {
     EXPECT_TRUE(WaitForPaper(1));
 }
 
-TEST_F(ServerOnlyTest, AQueueThatRejectsIsToldAndStartsNoJob) {
+TEST_F(ServerOnlyTest, AQueueThatRejectsIsReportedAndStartsNoJob) {
     PrintServer::Run(QStringLiteral("cupsreject"), {QStringLiteral("Lab")});
     Begin();
     FillRows(1);
@@ -113,7 +114,7 @@ TEST_F(ServerOnlyTest, AQueueThatRejectsIsToldAndStartsNoJob) {
     ExpectNoTrace({GetResourceText(663).arg(QStringLiteral("Lab"))});
 }
 
-TEST_F(ServerOnlyTest, AQueueThatRejectsMeanwhileIsTold) {
+TEST_F(ServerOnlyTest, AQueueThatRejectsMeanwhileIsReported) {
     Begin(1h);
     FillRows(1);
     Print();
@@ -124,7 +125,7 @@ TEST_F(ServerOnlyTest, AQueueThatRejectsMeanwhileIsTold) {
     ExpectNoTrace({GetResourceText(663).arg(QStringLiteral("Lab"))});
 }
 
-TEST_F(ServerOnlyTest, AServerThatIsGoneIsTold) {
+TEST_F(ServerOnlyTest, AServerThatIsGoneIsReported) {
     Begin(1h);
     FillRows(1);
     Print();
@@ -165,7 +166,7 @@ private:
     QString m_process;
 };
 
-TEST_F(ServerOnlyTest, AServerThatHangsIsToldInsteadOfAsking) {
+TEST_F(ServerOnlyTest, AServerThatHangsIsReportedInsteadOfAsking) {
     Begin();
     FillRows(1);
     const HungServer hung;

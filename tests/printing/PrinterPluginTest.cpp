@@ -1,6 +1,7 @@
 #include "PrinterPlugin.h"
 #include "Failure.h"
 #include "PrinterOfPlugin.h"
+#include "QuendNames.h"
 
 #include <QPluginLoader>
 #include <QString>
@@ -9,7 +10,7 @@
 
 namespace {
 
-TEST(PrinterPlugin, KnowsThePrintersFromALibraryOfItsOwn) {
+TEST(PrinterPlugin, GetsPrintersFromASeparateLibrary) {
     QPluginLoader library(QStringLiteral(QUEND_PROGRAM_DIR "/Loan.Printers"));
     const auto* part = qobject_cast<PrinterPlugin*>(library.instance());
     ASSERT_NE(part, nullptr) << library.errorString().toStdString();

@@ -4,6 +4,7 @@
 
 #include "EnterValues.h"
 #include "PagePainter.h"
+#include "QuendNames.h"
 #include "Report.h"
 #include "ReportInputReader.h"
 #include "SampleSheet.h"

@@ -2,6 +2,7 @@
 
 #include "Report.h"
 #include "DrawnItems.h"
+#include "QuendNames.h"
 #include "RulerMetrics.h"
 #include "SampleForm.h"
 
@@ -63,7 +64,7 @@ QStringList RowTexts(int first, int last) {
     return texts;
 }
 
-TEST_F(ReportTest, StandsInItsOrder) {
+TEST_F(ReportTest, HasItsOrder) {
     const PrintedPages& pages = Draw(SampleForm(2), 1000);
     ASSERT_EQ(pages.pages.size(), 1U);
     EXPECT_EQ(TextsOf(pages.pages.front()),
@@ -106,7 +107,7 @@ TEST_F(ReportTest, TheHeadingIsCentredAndBold) {
         TextNamed(Draw(SampleForm(1), 1000).pages.front(), QStringLiteral("Header0")).font.bold);
 }
 
-TEST_F(ReportTest, LabelsStandOnTheirSide) {
+TEST_F(ReportTest, LabelsAreOnTheirSide) {
     ReportInput form = SampleForm(1);
     form.header.at(2).label.side = Side::Right;
     form.headings.at(3).side = Side::Centre;
@@ -134,7 +135,7 @@ TEST_F(ReportTest, OnlyATickedBoxPrintsAnX) {
     EXPECT_EQ(texts.count(QStringLiteral("x")), 2); // rows 1 and 3
 }
 
-TEST_F(ReportTest, TextsOfARowStandOnTheSideOfTheirColumn) {
+TEST_F(ReportTest, TextsOfARowAreOnTheSideOfTheirColumn) {
     const PrintedPage& page = Draw(SampleForm(2), 1000).pages.front();
     const auto x = [&](const char* text) {
         return TextNamed(page, QLatin1String(text)).place.x() / Unit;
@@ -290,7 +291,7 @@ TEST_F(ReportTest, ARowHigherThanAPageGoesOn) {
     EXPECT_FALSE(ItemsOf<PrintedText>(pages.pages.back()).empty());
 }
 
-TEST_F(ReportTest, APageWithoutRoomForALineStillEnds) {
+TEST_F(ReportTest, APageWithoutSpaceForALineStillEnds) {
     ReportInput form = SampleForm(3);
     form.rows.front().back() = QStringLiteral("a\r\nb\r\nc");
     EXPECT_EQ(Draw(form, 30).pages.size(), 1U + 3 + 2);

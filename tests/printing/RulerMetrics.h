@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuendNames.h"
 #include "TextMetrics.h"
 
 /// Simple font metrics: every character is half as wide as the font size, every line as high as the

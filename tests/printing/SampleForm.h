@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuendNames.h"
 #include "ReportInput.h"
 
 /// A window 1,000 pixels wide on a screen of one pixel per point, so that on a page of 20,000 twips

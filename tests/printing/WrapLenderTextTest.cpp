@@ -1,4 +1,5 @@
 #include "WrapLenderText.h"
+#include "QuendNames.h"
 
 #include <QStringList>
 

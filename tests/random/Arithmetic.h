@@ -1,5 +1,7 @@
 #pragma once
 
+#include "QuendNames.h"
+
 #include <QChar>
 #include <QDate>
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuendNames.h"
 #include "ReferenceModel.h"
 #include "WindowTexts.h"
 

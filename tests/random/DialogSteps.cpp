@@ -1,6 +1,7 @@
 // Other features: language, options, printing, help and similar.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "RandomUser.h"
 #include "StepTexts.h"
 #include "TextNumbers.h"

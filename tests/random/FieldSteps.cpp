@@ -1,6 +1,7 @@
 // Typing, and moving from field to field.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "RandomUser.h"
 #include "StepTexts.h"
 #include "TextNumbers.h"

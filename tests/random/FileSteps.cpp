@@ -1,6 +1,7 @@
 // Worksheets are named, saved, picked, deleted and created; the program is closed and restarted.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "RandomUser.h"
 #include "StepTexts.h"
 #include "TextNumbers.h"

@@ -1,5 +1,7 @@
 #include "Forms.h"
 
+#include "QuendNames.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 // Intended payments of offers that can be computed, and existing values entered again: the program
 // may then raise an intended payment although nothing else changes.
 
+#include "QuendNames.h"
 #include "RandomUser.h"
 
 #include <QComboBox>

@@ -10,6 +10,7 @@
 #include "OptionsCommands.h"
 #include "PictureChooser.h"
 #include "PrintCommands.h"
+#include "QuendNames.h"
 #include "ShareCommands.h"
 #include "StoreFolder.h"
 

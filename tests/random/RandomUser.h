@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Program.h"
+#include "QuendNames.h"
 #include "ReferenceModel.h"
 
 #include <QPointer>

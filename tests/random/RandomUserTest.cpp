@@ -5,6 +5,7 @@
 
 #include "RandomUser.h"
 #include "Checks.h"
+#include "QuendNames.h"
 #include "Shorten.h"
 #include "Trail.h"
 

@@ -3,6 +3,7 @@
 #include "Arithmetic.h"
 #include "Field.h"
 #include "Forms.h"
+#include "QuendNames.h"
 
 #include <QChar>
 #include <QDate>

@@ -1,6 +1,7 @@
 // What each field accepts and shows.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "ReferenceModel.h"
 #include "TextNumbers.h"
 

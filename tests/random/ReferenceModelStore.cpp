@@ -1,6 +1,7 @@
 // Saving and loading worksheets.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "ReferenceModel.h"
 #include "TextNumbers.h"
 

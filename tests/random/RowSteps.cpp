@@ -1,5 +1,6 @@
 // Actions on the rows of offers other than typing.
 
+#include "QuendNames.h"
 #include "RandomUser.h"
 #include "StepTexts.h"
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Field.h"
+#include "QuendNames.h"
 
 #include <QChar>
 #include <QString>

@@ -1,5 +1,6 @@
 #include "WindowTexts.h"
 
+#include "QuendNames.h"
 #include "TextTable.h"
 #include "TextsOfControls.h"
 

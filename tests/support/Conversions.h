@@ -9,13 +9,11 @@
 template <class One, class Other>
 constexpr bool IsApart = !std::is_convertible_v<One, Other> && !std::is_convertible_v<Other, One>;
 
-/// Whether a type is apart from all others, itself excepted, and from numbers and texts.
+/// Whether a type is apart from all others, itself excepted.
 template <class Value, class... Others>
-constexpr bool
-    IsApartFrom = (... && (std::is_same_v<Value, Others> || IsApart<Value, Others>)) &&
-                  IsApart<Value, double>&& IsApart<Value, int>&& IsApart<Value, bool>&& IsApart<
-                      Value, QString>&& IsApart<Value, QStringView>;
+constexpr bool IsApartFrom = (... && (std::is_same_v<Value, Others> || IsApart<Value, Others>));
 
-/// The same for each pair of a list.
+/// Whether each type of a list is apart from the others, and from numbers and texts.
 template <class... Values>
-constexpr bool AreApart = (... && IsApartFrom<Values, Values...>);
+constexpr bool AreApart = (... &&
+                           IsApartFrom<Values, Values..., double, int, bool, QString, QStringView>);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuendNames.h"
 #include "Worksheet.h"
 
 #include <initializer_list>

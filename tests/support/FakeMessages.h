@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MessageQueue.h"
+#include "QuendNames.h"
 
 #include <QString>
 #include <QStringList>

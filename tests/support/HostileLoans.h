@@ -3,6 +3,7 @@
 #include "Date.h"
 #include "Frequency.h"
 #include "Money.h"
+#include "QuendNames.h"
 #include "Schedule.h"
 
 #include <array>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CLoan.h"
+#include "QuendNames.h"
 
 /// A worksheet for one offer: returns values that the test sets, and counts reports.
 class RecordingLoanContext : public LoanContext {

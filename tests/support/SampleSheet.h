@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuendNames.h"
 #include "Worksheet.h"
 
 /// Every value of the new loan and the current loan; the caller adds the offers.

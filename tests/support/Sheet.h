@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuendNames.h"
 #include "RecordingDisplay.h"
 #include "Worksheet.h"
 

@@ -2,6 +2,7 @@
 
 #include "FakeMessages.h"
 #include "Loan.h"
+#include "QuendNames.h"
 #include "UserInput.h"
 
 #include <QLocale>

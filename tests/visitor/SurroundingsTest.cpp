@@ -3,6 +3,7 @@
 
 #include "Fuzzing.h"
 #include "HostileTexts.h"
+#include "QuendNames.h"
 
 #include <QDir>
 #include <QFile>
@@ -217,7 +218,7 @@ TEST_F(Surroundings, FilesAreWhereTheManualSays) {
     }
 }
 
-TEST_F(Surroundings, OfAnyToolkitSettingsAreTaken) {
+TEST_F(Surroundings, OfAnyQtSettingsAreTaken) {
     const std::vector<Variable> variables = {{"QT_STYLE_OVERRIDE", "nonsense"},
                                              {"QT_SCALE_FACTOR", "x"},
                                              {"QT_SCREEN_SCALE_FACTORS", ";;=%n"},

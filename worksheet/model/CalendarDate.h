@@ -1,8 +1,11 @@
 #pragma once
 
 #include "Date.h"
+#include "ModelNames.h"
 
 #include <QDate>
+
+namespace quend::model {
 
 /// Converts between the dates of the arithmetic and QDate. No date on one side is no date on the
 /// other.
@@ -18,3 +21,5 @@ inline QDate ToCalendar(Date date) {
 inline Date FromCalendar(const QDate& date) {
     return date.isValid() ? Date::FromCalendar(date.year(), date.month(), date.day()) : Date();
 }
+
+} // namespace quend::model

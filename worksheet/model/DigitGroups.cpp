@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <limits>
 
+namespace quend::model {
+
 DigitGroups::DigitGroups(const QLocale& locale)
     : m_separator(locale.groupSeparator()), m_zero(locale.zeroDigit()) {
     // Its highest group has two digits, so that every locale groups it, whatever its minimum is.
@@ -49,3 +51,5 @@ QString DigitGroups::Localized(const QString& number) const {
     }
     return localized;
 }
+
+} // namespace quend::model

@@ -8,6 +8,8 @@
 #include <cmath>
 #include <limits>
 
+namespace quend::model {
+
 namespace {
 
 constexpr int SignificantDigits = 15;
@@ -93,7 +95,7 @@ QString DisplayFormats::ThreeDecimals(double value) const {
 }
 
 QString DisplayFormats::Percent(Rate rate) const {
-    return ThreeDecimals(::Percent::FromRate(rate).Value()) + u'%';
+    return ThreeDecimals(calc::Percent::FromRate(rate).Value()) + u'%';
 }
 
 QString DisplayFormats::ShortDate(Date date) const {
@@ -138,3 +140,5 @@ QString DisplayFormats::PlainNumber(const QString& text) const {
     QString plain = text;
     return plain.replace(m_separator, u'.').remove(u'+');
 }
+
+} // namespace quend::model

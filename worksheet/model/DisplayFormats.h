@@ -2,11 +2,14 @@
 
 #include "Date.h"
 #include "DigitGroups.h"
+#include "ModelNames.h"
 #include "Money.h"
 #include "Quantities.h"
 
 #include <QLocale>
 #include <QString>
+
+namespace quend::model {
 
 /// Formats values for display and reads typed numbers, both by the user's locale. Does not know
 /// that zero shows as an empty field; FieldFormats does that.
@@ -58,3 +61,5 @@ private:
     QString m_shortDate;
     DigitGroups m_groups;
 };
+
+} // namespace quend::model

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::model {
+
 namespace {
 
 constexpr QLatin1String operator""_name(const char* text, std::size_t length) {
@@ -73,3 +75,5 @@ QLatin1String NumberPicture(int decimals) {
     constexpr std::array pictures{" nnn"_name, " nnnn.n"_name, " nnnn.nn"_name, " nnnn.nnn"_name};
     return pictures.at(static_cast<std::size_t>(decimals));
 }
+
+} // namespace quend::model

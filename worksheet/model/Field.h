@@ -1,10 +1,14 @@
 #pragma once
 
+#include "ModelNames.h"
+
 #include <QLatin1String>
 
 #include <compare>
 #include <cstddef>
 #include <span>
+
+namespace quend::model {
 
 /// A row of the offer area, counted from 0 at the top. Not an offer: after a sort row 0 shows an
 /// offer other than offer 0. Only OfferOrder maps one to the other.
@@ -116,3 +120,5 @@ const FieldRule& RuleOf(FieldId id);
 /// The format hint for a number with this many decimals, such as " nnnn.nn". It begins with a blank
 /// and is the same in every language and locale.
 QLatin1String NumberPicture(int decimals);
+
+} // namespace quend::model

@@ -5,6 +5,8 @@
 #include "IsValidNumber.h"
 #include "TypedDate.h"
 
+namespace quend::model {
+
 bool IsZero(const FieldValue& value) {
     return std::visit([](const auto& held) { return held == std::decay_t<decltype(held)>{}; },
                       value);
@@ -115,3 +117,5 @@ bool FieldFormats::AllowsKey(FieldId field, QChar key) const {
     return (key >= u'0' && key <= u'9') ||
            (rule.separatorKey && key == m_formats.DecimalSeparator());
 }
+
+} // namespace quend::model

@@ -4,12 +4,15 @@
 #include "DisplayFormats.h"
 #include "Field.h"
 #include "LoanTypes.h"
+#include "ModelNames.h"
 #include "Money.h"
 #include "Quantities.h"
 
 #include <optional>
 #include <utility>
 #include <variant>
+
+namespace quend::model {
 
 /// The value of a field. The field's kind decides which of these it holds (ValueKind).
 using FieldValue =
@@ -59,3 +62,5 @@ private:
     DisplayFormats m_formats;
     bool m_termInMonths;
 };
+
+} // namespace quend::model

@@ -1,5 +1,7 @@
 #include "IsValidNumber.h"
 
+namespace quend::model {
+
 bool IsValidNumber(QStringView text, int decimals, QChar decimalSeparator) {
     const qsizetype separator = text.indexOf(decimalSeparator);
     int decimalDigits = 0;
@@ -19,3 +21,5 @@ bool IsValidNumber(QStringView text, int decimals, QChar decimalSeparator) {
     }
     return true;
 }
+
+} // namespace quend::model

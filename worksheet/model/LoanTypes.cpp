@@ -1,9 +1,12 @@
 #include "LoanTypes.h"
 
 #include "Language.h"
+#include "ModelNames.h"
 
 #include <algorithm>
 #include <array>
+
+namespace quend::model {
 
 namespace {
 
@@ -52,3 +55,5 @@ QStringList LoanTypeTexts() {
     }
     return {texts.begin(), texts.end()};
 }
+
+} // namespace quend::model

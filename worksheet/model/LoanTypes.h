@@ -1,9 +1,12 @@
 #pragma once
 
+#include "ModelNames.h"
 #include "Quantities.h"
 
 #include <QString>
 #include <QStringList>
+
+namespace quend::model {
 
 /// The code of the purpose of a loan.
 using LoanTypeCode = StoredCode<struct LoanTypeCodeKind>;
@@ -18,3 +21,5 @@ LoanTypeCode LoanTypeTextToCodeInAnyLanguage(const QString& text);
 
 /// The texts in the order of the list.
 QStringList LoanTypeTexts();
+
+} // namespace quend::model

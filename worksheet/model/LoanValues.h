@@ -2,10 +2,13 @@
 
 #include "Date.h"
 #include "LoanTypes.h"
+#include "ModelNames.h"
 #include "Money.h"
 #include "Quantities.h"
 
 #include <QString>
+
+namespace quend::model {
 
 // The values of a worksheet above its offers. Only the worksheet computes the results.
 
@@ -35,3 +38,5 @@ struct CurrentLoan {
     Money interestLeft;
     Date payoffDate;
 };
+
+} // namespace quend::model

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <vector>
 
+namespace quend::model {
+
 /// What the rows are ordered by.
 enum class SortOrder : std::int32_t {
     Entry = 1,      ///< row n shows offer n
@@ -48,3 +50,5 @@ private:
     SortOrder m_order = SortOrder::Entry;
     std::vector<OfferIndex> m_offers; // one for each row
 };
+
+} // namespace quend::model

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "Field.h"
+#include "ModelNames.h"
 
 #include <set>
+
+namespace quend::model {
 
 /// What is to be computed anew once values have been stored, each step at most once.
 class Pending {
@@ -42,3 +45,5 @@ private:
     std::set<Row> m_offers;
     std::set<Row> m_payoffs;
 };
+
+} // namespace quend::model

@@ -2,12 +2,15 @@
 
 #include "Failure.h"
 #include "Frequency.h"
+#include "ModelNames.h"
 #include "Payment.h"
 #include "Schedule.h"
 #include "Worksheet.h"
 
 #include <array>
 #include <exception>
+
+namespace quend::model {
 
 namespace {
 
@@ -197,3 +200,5 @@ void Worksheet::RecalculateCurrentSchedule() {
     }
     show();
 }
+
+} // namespace quend::model

@@ -3,6 +3,8 @@
 #include "CLoan.h"
 #include "Failure.h"
 
+namespace quend::model {
+
 namespace {
 
 /// The keys of offers without a result: partly filled ones sort before the blank rows.
@@ -45,3 +47,5 @@ Date PayoffDateKey(CLoan& offer) {
 Money InterestKey(const CLoan& offer) {
     return offer.Interest().IsZero() ? KeyWithout(offer, NoInterest) : offer.Interest();
 }
+
+} // namespace quend::model

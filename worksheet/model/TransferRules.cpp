@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::model {
+
 namespace {
 
 QString PointsText(const DisplayFormats& formats, const FieldValue& value) {
@@ -86,3 +88,5 @@ bool MayDrop(const Worksheet& worksheet, FieldId field, const QString& text) {
 FieldValue ReadDropped(const Worksheet& worksheet, FieldId field, const QString& text) {
     return TransferRuleOf(field).read(worksheet.Texts().Formats(), text);
 }
+
+} // namespace quend::model

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "FieldValue.h"
+#include "ModelNames.h"
 
 #include <QString>
+
+namespace quend::model {
 
 class Worksheet;
 
@@ -30,3 +33,5 @@ bool MayDrop(const Worksheet& worksheet, FieldId field, const QString& text);
 /// The value of a received text. Nothing is divided by a hundred: a rate arrives as a fraction. A
 /// lender gets the line ends of WithLenderLines. Throws ConversionFailure or OverflowFailure.
 FieldValue ReadDropped(const Worksheet& worksheet, FieldId field, const QString& text);
+
+} // namespace quend::model

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace quend::model {
+
 namespace {
 
 /// A date format without its quoted parts.
@@ -150,3 +152,5 @@ std::optional<Date> ReadTypedDate(const QString& text, const DisplayFormats& for
                     month != 0 ? month : number(u'M').toInt(), number(u'd').toInt());
     return day.isValid() ? std::optional(FromCalendar(day)) : std::nullopt;
 }
+
+} // namespace quend::model

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "Date.h"
+#include "ModelNames.h"
 
 #include <QString>
 
 #include <optional>
 #include <vector>
+
+namespace quend::model {
 
 class DisplayFormats;
 
@@ -37,3 +40,5 @@ bool MayTypeDate(QChar key, const DisplayFormats& formats);
 /// year of two digits lies between nineteen years ago and eighty years ahead. Returns nothing for
 /// any other text, a day that does not exist, or a year out of range.
 std::optional<Date> ReadTypedDate(const QString& text, const DisplayFormats& formats, Date today);
+
+} // namespace quend::model

@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace quend::model {
+
 Worksheet::Worksheet(WorksheetDisplay& display, FieldFormats texts, std::function<Date()> today)
     : m_display(&display), m_texts(std::move(texts)), m_today(std::move(today)) {}
 
@@ -53,3 +55,5 @@ void Worksheet::PaymentRefused() {
     m_paymentNoticeShown = true;
     m_display->PaymentRefused();
 }
+
+} // namespace quend::model

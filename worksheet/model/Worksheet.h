@@ -3,6 +3,7 @@
 #include "CLoan.h"
 #include "FieldValue.h"
 #include "LoanValues.h"
+#include "ModelNames.h"
 #include "OfferOrder.h"
 #include "Pending.h"
 #include "WorksheetDisplay.h"
@@ -10,6 +11,8 @@
 #include <functional>
 #include <set>
 #include <vector>
+
+namespace quend::model {
 
 /// One worksheet: the loan wanted, the current loan and the offers, one in each row.
 ///
@@ -182,3 +185,5 @@ private:
     bool m_paymentNoticeShown = false;
     bool m_paymentRefused = false;
 };
+
+} // namespace quend::model

@@ -3,9 +3,12 @@
 #include "Date.h"
 #include "Field.h"
 #include "Mark.h"
+#include "ModelNames.h"
 #include "OfferOrder.h"
 
 #include <QString>
+
+namespace quend::model {
 
 /// Shows which field, text and mark the worksheet passes. Decides and computes nothing. The window
 /// implements it; a test may record the calls instead.
@@ -29,3 +32,5 @@ public:
     /// An intended payment was refused: tell the user once for each refusal.
     virtual void PaymentRefused() = 0;
 };
+
+} // namespace quend::model

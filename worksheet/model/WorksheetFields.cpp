@@ -1,6 +1,7 @@
 // Maps the fields to the values of the worksheet.
 
 #include "Failure.h"
+#include "ModelNames.h"
 #include "Worksheet.h"
 
 #include <QScopeGuard>
@@ -9,6 +10,8 @@
 #include <array>
 #include <functional>
 #include <utility>
+
+namespace quend::model {
 
 /// How one field is stored: the one way into the worksheet. The results of an offer have no row:
 /// they are not stored.
@@ -220,3 +223,5 @@ void Worksheet::ShowChoices() const {
         Show({FieldId::Frequency, row});
     }
 }
+
+} // namespace quend::model

@@ -1,10 +1,13 @@
 // Sorts the rows and shows them after a sort.
 
 #include "Failure.h"
+#include "ModelNames.h"
 #include "SortKeys.h"
 #include "Worksheet.h"
 
 #include <vector>
+
+namespace quend::model {
 
 template <class Key, class KeyOf>
 void Worksheet::SortBy(SortOrder order, KeyOf keyOf) {
@@ -75,3 +78,5 @@ void Worksheet::ClearRaisedMarks() {
         m_display->ShowMark({FieldId::ActualPayment, row}, Mark::None);
     }
 }
+
+} // namespace quend::model

@@ -6,6 +6,8 @@
 
 #include <memory>
 
+namespace quend::window {
+
 namespace {
 
 constexpr auto ToolkitsOwn = "fusion";
@@ -76,3 +78,5 @@ void ClearEdges::drawComplexControl(ComplexControl control, const QStyleOptionCo
         DrawEdge(*option, *painter);
     }
 }
+
+} // namespace quend::window

@@ -2,6 +2,8 @@
 
 #include <QProxyStyle>
 
+namespace quend::window {
+
 /// Draws visible edges in a dark palette. Qt's Fusion style draws the edges of fields, lists and
 /// boxes a shade darker than the window, which is invisible there. This style draws them half as
 /// light as the text, and as light as the text around the focused control. Other styles are not
@@ -21,3 +23,5 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget) const override;
 };
+
+} // namespace quend::window

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+namespace quend::window {
+
 void ClickSwallower::SwallowNext() { QCoreApplication::instance()->installEventFilter(this); }
 
 /// Only events of widgets: the QWindow must receive press and release to track the button state.
@@ -18,3 +20,5 @@ bool ClickSwallower::eventFilter(QObject* watched, QEvent* event) {
     }
     return true;
 }
+
+} // namespace quend::window

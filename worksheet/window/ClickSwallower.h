@@ -2,6 +2,8 @@
 
 #include <QObject>
 
+namespace quend::window {
+
 /// Swallows a click whose press has already been refused: the pending press and every mouse event
 /// up to the release.
 class ClickSwallower : public QObject {
@@ -13,3 +15,5 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 };
+
+} // namespace quend::window

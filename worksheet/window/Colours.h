@@ -1,9 +1,12 @@
 #pragma once
 
 #include "Mark.h"
+#include "WindowNames.h"
 
 #include <QColor>
 #include <QPalette>
+
+namespace quend::window {
 
 /// The background colours of marks. Both are light in every palette, so the text on them is dark.
 namespace Colours {
@@ -23,3 +26,5 @@ inline QPalette MarkedPalette(Mark mark) {
 }
 
 } // namespace Colours
+
+} // namespace quend::window

@@ -1,11 +1,14 @@
 #include "LanguageMenu.h"
 
 #include "Language.h"
+#include "WindowNames.h"
 
 #include <QActionGroup>
 #include <QMenu>
 
 #include <utility>
+
+namespace quend::window {
 
 LanguageMenu::LanguageMenu(QMenu& menu, const std::vector<QAction*>& known, Callbacks callbacks)
     : m_callbacks(std::move(callbacks)), m_entries(new QActionGroup(this)) {
@@ -35,3 +38,5 @@ void LanguageMenu::mnuToolsLanguageOpt_Click(int index) const {
         m_callbacks.renew();
     }
 }
+
+} // namespace quend::window

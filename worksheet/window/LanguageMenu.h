@@ -9,6 +9,8 @@ class QAction;
 class QActionGroup;
 class QMenu;
 
+namespace quend::window {
+
 /// The entries of the language menu, one for each language; the active one has the check mark.
 class LanguageMenu : public QObject {
     Q_OBJECT
@@ -31,3 +33,5 @@ private:
     Callbacks m_callbacks;
     QActionGroup* m_entries;
 };
+
+} // namespace quend::window

@@ -20,6 +20,8 @@
 
 #include <utility>
 
+namespace quend::window {
+
 namespace {
 
 /// Screen readers also find the edits inside some controls.
@@ -303,3 +305,5 @@ void Loan::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     m_wallpaper.Paint(painter, size());
 }
+
+} // namespace quend::window

@@ -22,6 +22,7 @@
 #include "Wallpaper.h"
 #include "WholeText.h"
 #include "WindowDisplay.h"
+#include "WindowNames.h"
 #include "Worksheet.h"
 
 #include <QLocale>
@@ -34,6 +35,8 @@
 namespace Ui {
 class Loan;
 }
+
+namespace quend::window {
 
 /// The main window: one worksheet in its controls. It only creates its parts and connects them.
 class Loan : public QMainWindow {
@@ -130,3 +133,5 @@ private:
     ResultKeys m_resultKeys;
     WholeText m_wholeText;
 };
+
+} // namespace quend::window

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace quend::window {
+
 LoanNameBox::LoanNameBox(QWidget* parent) : QComboBox(parent) {
     setEditable(true);
     setInsertPolicy(NoInsert);
@@ -108,3 +110,5 @@ bool LoanNameBox::eventFilter(QObject* watched, QEvent* event) {
     }
     return QComboBox::eventFilter(watched, event);
 }
+
+} // namespace quend::window

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "Mark.h"
+#include "WindowNames.h"
 
 #include <QComboBox>
+
+namespace quend::window {
 
 /// The box with the loan's name, which is typed or picked from the saved loans. A listener refills
 /// the list each time it opens. Only a pick from the open list counts: keys, the wheel and a typed
@@ -36,3 +39,5 @@ private:
     bool m_picking = false;
     bool m_enteredByClick = false;
 };
+
+} // namespace quend::window

@@ -10,6 +10,8 @@
 #include <cstdlib>
 #include <string_view>
 
+namespace quend::window {
+
 namespace {
 
 constexpr std::array<std::string_view, 15> MadeOfDots{
@@ -94,3 +96,5 @@ bool PictureFile::IsCutOff(const QString& file) {
     }
     return bytes.startsWith("\xFF\xD8") && IsJpegCutOff(bytes);
 }
+
+} // namespace quend::window

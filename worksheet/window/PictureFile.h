@@ -6,6 +6,8 @@
 class QImageReader;
 class QString;
 
+namespace quend::window {
+
 /// Which files may be read as a background picture; every reader uses these rules.
 namespace PictureFile {
 
@@ -22,3 +24,5 @@ bool IsSafe(const QImageReader& reader);
 bool IsCutOff(const QString& file);
 
 } // namespace PictureFile
+
+} // namespace quend::window

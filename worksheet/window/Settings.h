@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace quend::window {
+
 /// The user's settings while the program runs. Does not know where they are stored.
 struct Settings {
     int loansDisplayed = 5; ///< the index of the last row that shows without scrolling
@@ -9,3 +11,5 @@ struct Settings {
     QString wallpaper;          ///< path of the background picture; empty: none
     QString wallpaperDirectory; ///< the folder to look for the next picture; empty: anywhere
 };
+
+} // namespace quend::window

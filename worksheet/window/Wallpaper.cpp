@@ -8,6 +8,8 @@
 #include <QRect>
 #include <QSize>
 
+namespace quend::window {
+
 bool Wallpaper::Load(const QString& path) {
     m_picture = PictureFile::IsSafe(QImageReader(path)) ? QPixmap(path) : QPixmap();
     return path.isEmpty() || IsSet();
@@ -18,3 +20,5 @@ void Wallpaper::Paint(QPainter& painter, const QSize& window) const {
         painter.drawTiledPixmap(QRect(QPoint(), window), m_picture);
     }
 }
+
+} // namespace quend::window

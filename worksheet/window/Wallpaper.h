@@ -6,6 +6,8 @@
 class QPainter;
 class QSize;
 
+namespace quend::window {
+
 /// The background picture, tiled over the window at its own size from the top-left corner.
 class Wallpaper {
 public:
@@ -19,3 +21,5 @@ public:
 private:
     QPixmap m_picture;
 };
+
+} // namespace quend::window

@@ -13,6 +13,8 @@
 
 #include <utility>
 
+namespace quend::window {
+
 WindowDisplay::WindowDisplay(const ControlMap& controls, Notices notices)
     : m_controls(&controls), m_notices(std::move(notices)) {}
 
@@ -62,3 +64,5 @@ void WindowDisplay::ShowToolTip(Field field, bool shown) {
                                   : QString());
     }
 }
+
+} // namespace quend::window

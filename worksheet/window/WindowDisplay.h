@@ -1,8 +1,11 @@
 #pragma once
 
+#include "WindowNames.h"
 #include "WorksheetDisplay.h"
 
 #include <functional>
+
+namespace quend::window {
 
 class ControlMap;
 
@@ -30,3 +33,5 @@ private:
     const ControlMap* m_controls;
     Notices m_notices;
 };
+
+} // namespace quend::window

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace quend::window {
+
 namespace {
 
 /// Small enough that the window fits on any screen beside another one.
@@ -56,3 +58,5 @@ void WindowScroll::BringIntoSight(QWidget* control) {
         ensureVisible(centre.x(), centre.y(), half.width(), half.height());
     }
 }
+
+} // namespace quend::window

@@ -2,6 +2,8 @@
 
 #include <QScrollArea>
 
+namespace quend::window {
+
 /// The content of the main window between menu bar and frame. Shows all of it if there is room, and
 /// scrolls it if the screen is too small. Scrolls the focused control into view. Does not scroll
 /// the rows of offers: they have a separate scroll bar.
@@ -29,3 +31,5 @@ private:
     QSize SizeOfAll(int leastWidth) const;
     void BringIntoSight(QWidget* control);
 };
+
+} // namespace quend::window

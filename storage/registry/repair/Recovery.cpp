@@ -14,6 +14,8 @@
 #include <string_view>
 #include <vector>
 
+namespace quend::registry {
+
 namespace {
 
 /// Whether the name is valid and matches its folded form.
@@ -219,3 +221,5 @@ Recovery::Counts Recovery::WriteTo(KeyTree& keys, const NamedKeys& named) const 
     writer.WriteLost();
     return writer.Written();
 }
+
+} // namespace quend::registry

@@ -6,6 +6,8 @@
 #include <string>
 #include <utility>
 
+namespace quend::registry {
+
 struct NamedKeys;
 class KeyTree;
 class StoreSnapshot;
@@ -47,3 +49,5 @@ private:
     std::multimap<std::int64_t, std::int64_t> m_children;
     std::map<std::pair<std::int64_t, std::string>, Value> m_values; ///< by key and folded name
 };
+
+} // namespace quend::registry

@@ -10,6 +10,8 @@
 
 #include <chrono>
 
+namespace quend::registry {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -181,3 +183,5 @@ void TidyStore(const fs::path& store) {
         CheckpointIfLonger(store, LogWorthFolding);
     }
 }
+
+} // namespace quend::registry

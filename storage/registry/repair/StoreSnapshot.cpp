@@ -8,6 +8,8 @@
 #include <fstream>
 #include <map>
 
+namespace quend::registry {
+
 namespace {
 
 constexpr std::size_t UsualPageSize = 4'096;
@@ -164,3 +166,5 @@ std::string StoreSnapshot::AsPlainFile() const {
     }
     return bytes;
 }
+
+} // namespace quend::registry

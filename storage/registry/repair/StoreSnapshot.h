@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+namespace quend::registry {
+
 /// The bytes of a store file with its log applied: the state after the last commit. Needs only read
 /// permission and tolerates any damage; a missing or unreadable file is empty. Does not interpret
 /// the pages.
@@ -34,3 +36,5 @@ private:
 
 /// The number in `count` bytes of the text from `position`, high byte first. The bytes must exist.
 std::uint64_t BigEndian(std::string_view bytes, std::size_t position, std::size_t count);
+
+} // namespace quend::registry

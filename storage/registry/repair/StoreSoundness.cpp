@@ -12,6 +12,8 @@
 #include <string>
 #include <tuple>
 
+namespace quend::registry {
+
 namespace {
 
 constexpr std::size_t HeaderSize = 100;
@@ -215,3 +217,5 @@ StoreKind KindOf(const StoreSnapshot& image) {
 bool IsSound(const StoreSnapshot& image) {
     return KindOf(image) == StoreKind::Current && Inspection(image).Passes();
 }
+
+} // namespace quend::registry

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+namespace quend::registry {
+
 class StoreSnapshot;
 
 /// The type of the file, according to its first page.
@@ -18,3 +20,5 @@ StoreKind KindOf(const StoreSnapshot& image);
 /// format and its order. Damage inside a text or number that keeps its length is not detected.
 /// Takes some microseconds per worksheet. The check is strict: a store that passes is intact.
 bool IsSound(const StoreSnapshot& image);
+
+} // namespace quend::registry

@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+namespace quend::registry {
+
 namespace {
 
 constexpr const char* FindChild = "SELECT id FROM Keys WHERE parent=? AND folded=?";
@@ -109,3 +111,5 @@ void KeyTree::Set(std::int64_t key, const std::string& name, const Value& value)
 void KeyTree::Remove(std::int64_t key, const std::string& name) {
     Prepared(DropValue).With(key, Folded(name)).Run();
 }
+
+} // namespace quend::registry

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace quend::registry {
+
 /// The keys and values of an open store, inside the caller's transaction. Keys are identified by
 /// number; a root has a negative number and always exists. All functions throw StoreError. Knows no
 /// texts, numbers or defaults: a value is a type code and bytes.
@@ -50,3 +52,5 @@ private:
     std::optional<Found> m_found;
     std::map<const char*, Statement> m_prepared;
 };
+
+} // namespace quend::registry

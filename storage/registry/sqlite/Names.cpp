@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace quend::registry {
+
 namespace {
 
 QChar UpperCase(QChar unit) {
@@ -31,3 +33,5 @@ std::string Unfolded(std::string_view folded) {
     }
     return name.toStdString();
 }
+
+} // namespace quend::registry

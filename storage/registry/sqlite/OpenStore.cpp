@@ -6,6 +6,8 @@
 
 #include <sqlite3.h>
 
+namespace quend::registry {
+
 namespace {
 
 using StoreSchema::State;
@@ -70,3 +72,5 @@ std::unique_ptr<OpenStore> OpenStore::ToWrite(const std::filesystem::path& store
     return std::unique_ptr<OpenStore>(
         new OpenStore(std::move(connection), Transaction::Kind::Write));
 }
+
+} // namespace quend::registry

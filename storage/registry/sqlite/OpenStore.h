@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <memory>
 
+namespace quend::registry {
+
 /// The store file, opened for one transaction: a read snapshot, or writes that Keep() commits as a
 /// whole. All functions throw StoreError. A store of a newer version, an empty store and a foreign
 /// file cannot be opened.
@@ -31,3 +33,5 @@ private:
     Transaction m_transaction;
     KeyTree m_keys;
 };
+
+} // namespace quend::registry

@@ -6,6 +6,8 @@
 #include "StoreTrouble.h"
 #include "ValueBytes.h"
 
+namespace quend::registry {
+
 namespace {
 
 /// Damage, which a recovery may repair.
@@ -261,3 +263,5 @@ RegistryAPI::ReadInTransaction(const std::function<void(const RegistryAPI&)>& st
     }
     return ErrorOfTransaction(*bound.m_step, m_store);
 }
+
+} // namespace quend::registry

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace quend::registry {
+
 namespace {
 
 constexpr const char* FileSystemName = "quend-loan";
@@ -179,3 +181,5 @@ void Transaction::Keep() {
     m_connection->Execute("COMMIT");
     m_open = false;
 }
+
+} // namespace quend::registry

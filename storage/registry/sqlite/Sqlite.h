@@ -11,6 +11,8 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
+namespace quend::registry {
+
 /// The store cannot be opened, read or written, for the reason that SQLite gives.
 class StoreError : public std::runtime_error {
 public:
@@ -115,3 +117,5 @@ private:
     const Connection* m_connection;
     bool m_open = true;
 };
+
+} // namespace quend::registry

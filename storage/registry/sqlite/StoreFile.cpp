@@ -13,6 +13,8 @@
 #include <thread>
 #include <unistd.h>
 
+namespace quend::registry {
+
 namespace StoreFile {
 
 namespace {
@@ -168,3 +170,5 @@ FolderLock::FolderLock(const std::filesystem::path& folder, std::chrono::millise
 FolderLock::~FolderLock() { close(m_folder); }
 
 } // namespace StoreFile
+
+} // namespace quend::registry

@@ -3,6 +3,8 @@
 #include <chrono>
 #include <filesystem>
 
+namespace quend::registry {
+
 class Connection;
 
 /// File operations on the store: creates it readable only by its user, and keeps its log short. The
@@ -60,3 +62,5 @@ private:
 };
 
 } // namespace StoreFile
+
+} // namespace quend::registry

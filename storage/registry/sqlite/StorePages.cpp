@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::registry {
+
 namespace {
 
 constexpr std::size_t FileHeader = 100;
@@ -204,3 +206,5 @@ bool StorePages::Split(std::string_view content, std::vector<RecordField>& field
     }
     return at == *header && body == content.size();
 }
+
+} // namespace quend::registry

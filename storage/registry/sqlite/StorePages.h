@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+namespace quend::registry {
+
 /// One column of a row.
 struct RecordField {
     enum class Kind { Null, Number, Fraction, Text, Blob };
@@ -62,3 +64,5 @@ private:
 
     const StoreSnapshot* m_image;
 };
+
+} // namespace quend::registry

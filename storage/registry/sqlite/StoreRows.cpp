@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <initializer_list>
 
+namespace quend::registry {
+
 namespace {
 
 using Kind = RecordField::Kind;
@@ -43,3 +45,5 @@ std::optional<SchemaRow> AsSchemaRow(const std::vector<RecordField>& fields) {
     return SchemaRow{fields[0].bytes, fields[1].bytes, fields[2].bytes, fields[3].number,
                      fields[4].bytes};
 }
+
+} // namespace quend::registry

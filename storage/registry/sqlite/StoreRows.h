@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+namespace quend::registry {
+
 /// The formats of the rows of a store, so that they are recognized wherever they are found.
 
 /// The name of a key, from the table of keys or, in upper case only, from its index.
@@ -40,3 +42,5 @@ std::optional<KeyRow> AsKeyRow(std::int64_t row, const std::vector<RecordField>&
 std::optional<KeyRow> AsKeyIndexRow(const std::vector<RecordField>& fields);
 std::optional<ValueRow> AsValueRow(const std::vector<RecordField>& fields);
 std::optional<SchemaRow> AsSchemaRow(const std::vector<RecordField>& fields);
+
+} // namespace quend::registry

@@ -2,6 +2,8 @@
 
 #include "Sqlite.h"
 
+namespace quend::registry {
+
 namespace StoreSchema {
 
 namespace {
@@ -48,3 +50,5 @@ const std::vector<Object>& Objects() {
 }
 
 } // namespace StoreSchema
+
+} // namespace quend::registry

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace quend::registry {
+
 class Connection;
 
 /// The schema of the store file and its versions, described in docs/store.md.
@@ -52,3 +54,5 @@ struct Object {
 const std::vector<Object>& Objects();
 
 } // namespace StoreSchema
+
+} // namespace quend::registry

@@ -1,5 +1,7 @@
 #include "StoreTransaction.h"
 
+namespace quend::registry {
+
 bool StoreTransaction::Run(const std::function<void(KeyTree&)>& action) {
     if (!m_store) {
         return false;
@@ -19,3 +21,5 @@ bool StoreTransaction::Keep() {
     Break();
     return kept;
 }
+
+} // namespace quend::registry

@@ -6,6 +6,8 @@
 #include <memory>
 #include <optional>
 
+namespace quend::registry {
+
 /// An open store during a transaction. After its first failure, and after its end, all calls do
 /// nothing, so that nothing of a failed transaction is committed.
 class StoreTransaction {
@@ -36,3 +38,5 @@ private:
     Kind m_kind;
     std::optional<StoreError> m_error;
 };
+
+} // namespace quend::registry

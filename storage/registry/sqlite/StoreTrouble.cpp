@@ -9,6 +9,8 @@
 #include <sys/statvfs.h>
 #include <unistd.h>
 
+namespace quend::registry {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -91,3 +93,5 @@ StoreTrouble TroubleOf(const StoreError& error, const fs::path& store) {
     const StoreTrouble trouble = ErrorOfSystem(error.SystemError());
     return trouble == StoreTrouble::Unknown ? ErrorAt(store) : trouble;
 }
+
+} // namespace quend::registry

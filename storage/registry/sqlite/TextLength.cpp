@@ -3,6 +3,8 @@
 #include <QString>
 #include <QTextBoundaryFinder>
 
+namespace quend::registry {
+
 bool IsReadableLength(const std::string& text) {
     if (text.size() <= LongestText) {
         return true; // a character has at least one byte
@@ -15,3 +17,5 @@ bool IsReadableLength(const std::string& text) {
     }
     return count <= LongestText;
 }
+
+} // namespace quend::registry

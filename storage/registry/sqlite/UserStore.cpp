@@ -4,6 +4,8 @@
 #include <pwd.h>
 #include <unistd.h>
 
+namespace quend::registry {
+
 namespace {
 
 // Relative folders are ignored: they would depend on the working directory.
@@ -29,3 +31,5 @@ std::filesystem::path DataFolder() {
 std::filesystem::path RegistryAPI::UserStore() {
     return DataFolder() / "Quend Halverworks" / "Loan.store";
 }
+
+} // namespace quend::registry

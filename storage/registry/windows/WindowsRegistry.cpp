@@ -13,6 +13,8 @@
 #include <optional>
 #include <utility>
 
+namespace quend::registry {
+
 namespace {
 
 constexpr std::size_t MostBytesOfCharacter = 3; // for each UTF-16 unit
@@ -255,3 +257,5 @@ RegistryAPI::ReadInTransaction(const std::function<void(const RegistryAPI&)>& st
     steps(*this);
     return StoreTrouble::None;
 }
+
+} // namespace quend::registry

@@ -1,5 +1,7 @@
 #include "StoreCheck.h"
 
+namespace quend::registry {
+
 // The platform maintains its registry itself.
 
 StoreCondition PrepareStore(const std::filesystem::path&, const std::string&, const NamedKeys&) {
@@ -11,3 +13,5 @@ StoreCondition RepairStore(const std::filesystem::path&, const std::string&, con
 }
 
 void TidyStore(const std::filesystem::path&) {}
+
+} // namespace quend::registry

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::registry {
+
 namespace {
 
 constexpr char32_t Joiner = 0x200D;
@@ -54,3 +56,5 @@ bool IsReadableLength(const std::string& text) {
     }
     return count <= LongestText;
 }
+
+} // namespace quend::registry

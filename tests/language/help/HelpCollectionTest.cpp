@@ -1,6 +1,7 @@
 #include "CompiledHelp.h"
 #include "Failure.h"
 #include "HelpPlace.h"
+#include "QuendNames.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -53,7 +54,7 @@ TEST(HelpCollection, CutsATopicOutOfItsPage) {
     EXPECT_FALSE(last.contains(QStringLiteral("body")));
 }
 
-TEST(HelpCollection, MissingOrDamagedFileIsAFailureInItsOwnWords) {
+TEST(HelpCollection, MissingOrDamagedFileIsAFailureWithItsMessage) {
     const QTemporaryDir folder;
     const QByteArray sound = BytesOf(Built("loan000.hlp"));
     QByteArray torn = sound;

@@ -5,6 +5,7 @@
 #include "CalendarDate.h"
 #include "DisplayFormats.h"
 #include "HelpPages.h"
+#include "QuendNames.h"
 #include "RecordingLoanContext.h"
 #include "Schedule.h"
 

@@ -2,6 +2,7 @@
 
 #include "HelpCommands.h"
 #include "HelpWindow.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QAction>

@@ -4,6 +4,7 @@
 #include "CompiledHelp.h"
 #include "Failure.h"
 #include "Fuzzing.h"
+#include "QuendNames.h"
 #include "QuietQt.h"
 
 #include <QFile>
@@ -51,7 +52,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-TEST_F(HelpFuzz, ADamagedBookOpensWithItsPagesOrTellsWhy) {
+TEST_F(HelpFuzz, ADamagedHelpFileOpensWithItsPagesOrReportsWhy) {
     const std::string sound = Whole(QStringLiteral(QUEND_PROGRAM_DIR "/loan000.hlp"));
     const FuzzTarget target("help", [this](const std::string& input) { Try(input); });
     target.TryAtRandom([&](FuzzRandom& random) {
@@ -65,7 +66,7 @@ TEST_F(HelpFuzz, ADamagedBookOpensWithItsPagesOrTellsWhy) {
     });
 }
 
-TEST_F(HelpFuzz, OtherFilesAreNoBooks) {
+TEST_F(HelpFuzz, OtherFilesAreNoHelpFiles) {
     for (const QString& path :
          {QStringLiteral(QUEND_PROGRAM_DIR "/Loan"), QStringLiteral("/dev/null"),
           QStringLiteral("/dev/zero"), QStringLiteral("/"), QStringLiteral("/proc/self/mem"),

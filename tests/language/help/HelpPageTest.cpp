@@ -2,6 +2,7 @@
 
 #include "HelpFixture.h"
 #include "HelpView.h"
+#include "QuendNames.h"
 
 #include <QAccessible>
 #include <QItemSelectionModel>

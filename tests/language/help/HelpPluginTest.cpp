@@ -1,5 +1,6 @@
 #include "HelpPlugin.h"
 #include "Failure.h"
+#include "QuendNames.h"
 
 #include <QPluginLoader>
 
@@ -9,7 +10,7 @@ namespace {
 
 const QString Program = QStringLiteral(QUEND_PROGRAM_DIR);
 
-TEST(HelpPlugin, OpensBooksFromALibraryOfItsOwn) {
+TEST(HelpPlugin, OpensHelpFilesFromASeparateLibrary) {
     QPluginLoader library(Program + QStringLiteral("/Loan.Help"));
     const auto* part = qobject_cast<HelpPlugin*>(library.instance());
     ASSERT_NE(part, nullptr) << library.errorString().toStdString();

@@ -2,6 +2,7 @@
 #include "HelpPlace.h"
 #include "HelpView.h"
 #include "Language.h"
+#include "QuendNames.h"
 
 #include <QFile>
 #include <QImage>
@@ -318,7 +319,7 @@ TEST_F(HelpLanguage, SwitchOpensNoHelp) {
 
 using HelpMissing = HelpTest;
 
-TEST_F(HelpMissing, IsToldInItsOwnWordsAndChangesNothing) {
+TEST_F(HelpMissing, IsReportedByItsMessageAndChangesNothing) {
     const QTemporaryDir folder;
     OpenBesides(folder.path());
     Fill(u"txtLoanAmount", u"1000");

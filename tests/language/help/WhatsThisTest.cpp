@@ -1,5 +1,6 @@
 #include "HelpFixture.h"
 #include "HelpTopic.h"
+#include "QuendNames.h"
 #include "WhatsThisMode.h"
 
 #include <QApplication>

@@ -1,6 +1,7 @@
 // The seven functions, the same on every platform: tested on the store file and, cross-compiled for
 // the platform that has a registry, on that registry.
 #include "RegistryAPI.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 #include "TestStore.h"
@@ -257,7 +258,7 @@ TEST_F(RegistryAPITest, ManySubkeysAreAllListed) {
     EXPECT_EQ(registry.GetSubKeys(User, BaseKey), expected);
 }
 
-TEST_F(RegistryAPITest, OneBlankNameStandsForNoSubkeys) {
+TEST_F(RegistryAPITest, OneBlankNameMeansNoSubkeys) {
     EXPECT_EQ(registry.GetSubKeys(User, BaseKey), std::vector<std::string>{std::string(260, ' ')});
     EXPECT_EQ(registry.GetSubKeys(User, Absent), std::vector<std::string>{});
     EXPECT_EQ(registry.GetSubKeys(User, "\\"), std::vector<std::string>{});

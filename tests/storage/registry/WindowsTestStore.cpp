@@ -1,3 +1,4 @@
+#include "QuendNames.h"
 #include "TestStore.h"
 
 namespace {

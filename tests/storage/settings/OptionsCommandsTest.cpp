@@ -4,6 +4,7 @@
 #include "FakeMessages.h"
 #include "Language.h"
 #include "OptionsFixture.h"
+#include "QuendNames.h"
 #include "RegistryAPI.h"
 #include "SettingsStore.h"
 #include "StoreNames.h"
@@ -157,7 +158,7 @@ TEST_F(OptionsOfTheWindow, PictureIsKeptShownAndDropped) {
     EXPECT_TRUE(SettledMessages().isEmpty());
 }
 
-TEST_F(OptionsOfTheWindow, PictureThatCannotBeLoadedIsToldAndForgotten) {
+TEST_F(OptionsOfTheWindow, PictureThatCannotBeLoadedIsReportedAndForgotten) {
     OpenWindow();
     Change([](const frmOptions& options) { SetText(options, u"txtWallpaper", u"/no/such.bmp"); });
     EXPECT_EQ(SettledMessages(),

@@ -3,6 +3,7 @@
 #include "FakeMessages.h"
 #include "MessageQueue.h"
 #include "PictureChooser.h"
+#include "QuendNames.h"
 #include "UserInput.h"
 #include "WindowFixture.h"
 #include "frmOptions.h"

@@ -2,6 +2,7 @@
 
 #include "CountSpin.h"
 #include "OptionsFixture.h"
+#include "QuendNames.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>

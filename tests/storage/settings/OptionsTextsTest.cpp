@@ -3,6 +3,7 @@
 #include "CountSpin.h"
 #include "Language.h"
 #include "OptionsFixture.h"
+#include "QuendNames.h"
 #include "SettingsStore.h"
 
 #include <QAbstractButton>

@@ -2,6 +2,7 @@
 
 #include "PictureDialog.h"
 #include "OptionsFixture.h"
+#include "QuendNames.h"
 
 #include <QApplication>
 #include <QDir>

@@ -4,6 +4,7 @@
 #include "Fuzzing.h"
 #include "OptionsFixture.h"
 #include "PicturePreview.h"
+#include "QuendNames.h"
 #include "QuietQt.h"
 #include "Wallpaper.h"
 

@@ -3,6 +3,7 @@
 #include "OptionsFixture.h"
 #include "PictureDialog.h"
 #include "PicturePreview.h"
+#include "QuendNames.h"
 #include "QuietQt.h"
 
 #include <QApplication>

@@ -3,6 +3,7 @@
 
 #include "Fuzzing.h"
 #include "HostileTexts.h"
+#include "QuendNames.h"
 #include "QuietQt.h"
 #include "SettingsStore.h"
 #include "StoreFolder.h"

@@ -1,6 +1,7 @@
 // The settings in the store: reading, rejected values, writing.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "RegistryAPI.h"
 #include "SettingsStore.h"
 #include "StoreNames.h"
@@ -183,7 +184,7 @@ TEST_F(SettingsInTheStore, ReplaceWhatWasRefused) {
     EXPECT_TRUE(LoadSettings(m_store).failures.empty());
 }
 
-TEST_F(SettingsInTheStore, StandBesideTheWorksheets) {
+TEST_F(SettingsInTheStore, AreBesideTheWorksheets) {
     const std::string worksheet = std::string(BaseKey) + "\\House";
     m_store.CreateKey(Root, worksheet);
     SaveSettings(m_store, {});

@@ -4,6 +4,7 @@
 #include "FileCommands.h"
 #include "Language.h"
 #include "LoanNameBox.h"
+#include "QuendNames.h"
 #include "SettingsStore.h"
 #include "StartUp.h"
 #include "StoreCheck.h"

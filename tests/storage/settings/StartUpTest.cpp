@@ -1,6 +1,7 @@
 // The program's key and language at the start, the window geometry, the busy pointer.
 
 #include "StartUp.h"
+#include "QuendNames.h"
 
 #include "CMouse.h"
 #include "Failure.h"
@@ -80,7 +81,7 @@ TEST_F(StartUp, AKeyThatCannotBeMadeIsAFailure) {
 
 class LanguageOutOfRange : public WindowTest {};
 
-TEST_F(LanguageOutOfRange, IsToldAndNotKept) {
+TEST_F(LanguageOutOfRange, IsReportedAndNotKept) {
     Open({.language = 99});
     const QStringList told = SettledMessages();
     ASSERT_EQ(told.size(), 1);

@@ -4,6 +4,7 @@
 #include "FileCommands.h"
 #include "LoanNameBox.h"
 #include "OptionsFixture.h"
+#include "QuendNames.h"
 #include "StoreFolder.h"
 #include "WindowFixture.h"
 
@@ -24,7 +25,7 @@ std::optional<Qt::CursorShape> Pointer() {
 
 class BusyPointerOfTheStore : public WindowTest {};
 
-TEST_F(BusyPointerOfTheStore, StandsWhileAWorksheetIsLoaded) {
+TEST_F(BusyPointerOfTheStore, IsShownWhileAWorksheetIsLoaded) {
     const StoreFolder folder;
     Open();
     const FileCommands files(Window(), WorksheetStore(folder.Store()));
@@ -48,7 +49,7 @@ TEST_F(BusyPointerOfTheStore, StandsWhileAWorksheetIsLoaded) {
 
 using BusyPointerOfTheOptions = OptionsDialog;
 
-TEST_F(BusyPointerOfTheOptions, StandsWhileAChosenPictureIsShown) {
+TEST_F(BusyPointerOfTheOptions, IsShownWhileAChosenPictureIsLoaded) {
     m_pictures.answer = Picture(u"house.bmp", {30, 20});
     Open();
     std::optional<Qt::CursorShape> meanwhile;

@@ -2,6 +2,7 @@
 
 #include "FileCommands.h"
 #include "LoanNameBox.h"
+#include "QuendNames.h"
 #include "StoreFolder.h"
 #include "WindowFixture.h"
 

@@ -2,6 +2,7 @@
 
 #include "EnterValues.h"
 #include "FileCommandsFixture.h"
+#include "QuendNames.h"
 
 #include "Colours.h"
 
@@ -124,7 +125,7 @@ TEST_F(FileCommandsTest, ALenderTextThatIsTooLongIsRefused) {
     EXPECT_TRUE(Sheet().Dirty());
 }
 
-TEST_F(FileCommandsTest, ASaveThatFailsIsToldAndStaysDirty) {
+TEST_F(FileCommandsTest, ASaveThatFailsIsReportedAndStaysDirty) {
     Begin({}, RegistryAPI("/dev/null/no/such/place/Loan.store"));
     TypeName(u"Home");
     Fill(u"txtLoanAmount", u"7");

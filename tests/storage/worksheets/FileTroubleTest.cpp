@@ -1,6 +1,7 @@
 // The messages of the File menu about invalid names, and about a store that fails or was recovered.
 
 #include "FileCommandsFixture.h"
+#include "QuendNames.h"
 
 #include "StoreNotice.h"
 
@@ -84,7 +85,7 @@ TEST_F(FileTrouble, APickFromAStoreOutOfReachChangesNothing) {
 }
 
 /// Another program is writing: the message gives this reason first, then the failure.
-TEST_F(FileTrouble, AStoreInUseIsToldInBothLanguages) {
+TEST_F(FileTrouble, AStoreInUseIsReportedInBothLanguages) {
     struct {
         int language;
         QStringView reason;
@@ -117,7 +118,7 @@ TEST_F(FileTrouble, AStoreInUseIsToldInBothLanguages) {
     }
 }
 
-TEST_F(FileTrouble, BadValuesAreToldInOneMessage) {
+TEST_F(FileTrouble, BadValuesAreReportedInOneMessage) {
     KeepLoan(u"Beta", u"70000");
     const RegistryAPI store = m_folder.Store();
     const std::string key = StoreFolder::LoanKey("Beta");
@@ -139,7 +140,7 @@ TEST_F(FileTrouble, BadValuesAreToldInOneMessage) {
 }
 
 /// The store is damaged while the program runs; the next save recovers it and succeeds.
-TEST_F(FileTrouble, ARepairInTheMiddleOfASaveIsToldOnce) {
+TEST_F(FileTrouble, ARepairInTheMiddleOfASaveIsReportedOnce) {
     struct {
         int language;
         QStringView told;

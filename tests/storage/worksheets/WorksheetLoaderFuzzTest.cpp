@@ -3,6 +3,7 @@
 //
 // A worksheet is written as lines of "name = text", like those in tests/data/loan-corpus.
 
+#include "QuendNames.h"
 #include "WorksheetStore.h"
 
 #include "Fuzzing.h"

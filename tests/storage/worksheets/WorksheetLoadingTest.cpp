@@ -1,5 +1,6 @@
 // Loading worksheets with missing, invalid or calculated values, and from a store that fails.
 
+#include "QuendNames.h"
 #include "WorksheetStoreFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -178,7 +179,7 @@ TEST_F(WorksheetLoading, AStoreThatCannotBeReadHasLostNothing) {
     EXPECT_TRUE(Loans().Names().isEmpty());
 }
 
-TEST_F(WorksheetLoading, ASaveThatCannotBeMadeIsToldAndLeavesEverything) {
+TEST_F(WorksheetLoading, ASaveThatCannotBeMadeIsReportedAndLeavesEverything) {
     Sheet sheet;
     Fill(sheet.worksheet);
     const WorksheetStore nowhere(RegistryAPI("/proc/no/such/place/Loan.store"));

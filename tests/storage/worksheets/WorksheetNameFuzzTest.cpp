@@ -5,6 +5,7 @@
 #include "Fuzzing.h"
 #include "HostileTexts.h"
 #include "Language.h"
+#include "QuendNames.h"
 #include "Sheet.h"
 #include "StoreFolder.h"
 #include "WorksheetStore.h"

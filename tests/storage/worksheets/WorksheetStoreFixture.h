@@ -4,6 +4,7 @@
 #include "Frequency.h"
 #include "Language.h"
 #include "Printing.h"
+#include "QuendNames.h"
 #include "Sheet.h"
 #include "StoreFolder.h"
 #include "WorksheetStore.h"

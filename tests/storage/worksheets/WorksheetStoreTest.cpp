@@ -1,5 +1,6 @@
 // Worksheets saved and loaded: every value by its name, in any language and locale.
 
+#include "QuendNames.h"
 #include "WorksheetStoreFixture.h"
 
 #include <map>

@@ -1,4 +1,5 @@
 #include "DisplayFormats.h"
+#include "QuendNames.h"
 
 #include "Printing.h"
 

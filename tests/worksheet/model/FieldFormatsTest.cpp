@@ -1,4 +1,5 @@
 #include "FieldValue.h"
+#include "QuendNames.h"
 
 #include "Failure.h"
 #include "Printing.h"
@@ -26,7 +27,7 @@ FieldFormats TextsIn(const QString& locale, Unit unit) {
 
 FieldValue Units(double units) { return Money::FromDouble(units); }
 FieldValue Yearly(double fraction) { return Rate::FromFraction(fraction); }
-FieldValue Points(double percent) { return ::Percent::FromPercent(percent); }
+FieldValue Points(double percent) { return calc::Percent::FromPercent(percent); }
 
 struct ShowCase {
     FieldValue number;

@@ -1,4 +1,5 @@
 #include "Field.h"
+#include "QuendNames.h"
 
 #include "Printing.h"
 

@@ -1,4 +1,5 @@
 #include "IsValidNumber.h"
+#include "QuendNames.h"
 
 #include <QString>
 

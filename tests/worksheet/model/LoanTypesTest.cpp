@@ -1,4 +1,5 @@
 #include "LoanTypes.h"
+#include "QuendNames.h"
 
 #include "Conversions.h"
 #include "Language.h"

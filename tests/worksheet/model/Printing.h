@@ -4,6 +4,7 @@
 #include "Field.h"
 #include "Mark.h"
 #include "Money.h"
+#include "QuendNames.h"
 
 #include <QString>
 

@@ -2,6 +2,7 @@
 // order of entry.
 
 #include "OfferOrder.h"
+#include "QuendNames.h"
 #include "RandomCases.h"
 #include "SortKeys.h"
 #include "WorksheetTest.h"

@@ -1,3 +1,4 @@
+#include "QuendNames.h"
 #include "SortKeys.h"
 #include "WorksheetTest.h"
 
@@ -187,7 +188,7 @@ TEST_F(SortingTest, ByInterestTakesTheLastScheduleAsItIs) {
     EXPECT_EQ(Rows(), Offers({0, 2, 1}));
 }
 
-TEST_F(SortingTest, NothingIsChangedOrToldBySorting) {
+TEST_F(SortingTest, NothingIsChangedOrReportedBySorting) {
     EnterRates({"7", "6", "5"});
     Store({FieldId::ActualPayment, Row{1}}, {});
     StartCounting();

@@ -6,6 +6,7 @@
 #include "Fuzzing.h"
 #include "HostileTexts.h"
 #include "IsValidNumber.h"
+#include "QuendNames.h"
 #include "Sheet.h"
 #include "TransferRules.h"
 

@@ -1,4 +1,5 @@
 #include "TransferRules.h"
+#include "QuendNames.h"
 
 #include "EnterValues.h"
 #include "Failure.h"

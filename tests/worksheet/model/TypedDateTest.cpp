@@ -1,6 +1,7 @@
 // Dates as users type them.
 
 #include "TypedDate.h"
+#include "QuendNames.h"
 
 #include "CalendarDate.h"
 #include "DisplayFormats.h"

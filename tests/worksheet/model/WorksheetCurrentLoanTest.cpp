@@ -1,3 +1,4 @@
+#include "QuendNames.h"
 #include "WorksheetTest.h"
 
 using namespace Qt::StringLiterals;
@@ -16,7 +17,7 @@ struct MarkCase {
     QString frequency; ///< after the recalculation
 };
 
-TEST_F(WorksheetCurrentLoanTest, MarksWhatIsMissingAndIsMonthlyUnlessToldOtherwise) {
+TEST_F(WorksheetCurrentLoanTest, MarksWhatIsMissingAndIsMonthlyByDefault) {
     using enum Mark;
     // clang-format off
     const std::vector<MarkCase> cases{

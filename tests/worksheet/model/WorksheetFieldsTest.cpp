@@ -1,4 +1,5 @@
 #include "Language.h"
+#include "QuendNames.h"
 #include "WorksheetTest.h"
 
 #include "Failure.h"

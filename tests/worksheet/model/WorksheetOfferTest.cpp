@@ -1,3 +1,4 @@
+#include "QuendNames.h"
 #include "WorksheetTest.h"
 
 using namespace Qt::StringLiterals;

@@ -1,3 +1,4 @@
+#include "QuendNames.h"
 #include "WorksheetTest.h"
 
 #include <functional>
@@ -190,7 +191,7 @@ TEST_F(WorksheetPropertiesTest, TheMonthlyEscrowIsATwelfthInWholeCents) {
     }
 }
 
-TEST_F(WorksheetPropertiesTest, TheNoticeIsRememberedAsTold) {
+TEST_F(WorksheetPropertiesTest, TheNoticeIsRememberedAsShown) {
     m_worksheet.SetPaymentNoticeShown(true);
     EXPECT_TRUE(m_worksheet.PaymentNoticeShown());
     m_worksheet.SetPaymentNoticeShown(false);

@@ -2,6 +2,7 @@
 
 #include "EnterValues.h"
 #include "Printing.h"
+#include "QuendNames.h"
 #include "RecordingDisplay.h"
 #include "Worksheet.h"
 

@@ -10,6 +10,7 @@
 // Frames, lines and the inner parts of Qt's own controls need none.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QAbstractButton>
@@ -195,7 +196,7 @@ TEST_P(ControlTexts, EveryFieldOfARowIsNamedWithItsRow) {
                                                           : u"Oferta 1, tasa de interés");
 }
 
-TEST_P(ControlTexts, EveryFieldOfTheUpperBandsHasANameOfItsOwn) {
+TEST_P(ControlTexts, EveryFieldOfTheUpperBandsHasADifferentName) {
     QStringList names;
     for (const FieldRule& field : LoanFields()) {
         const QString name = NameOf(Control(QString(field.control)));

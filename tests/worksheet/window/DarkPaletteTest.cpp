@@ -1,6 +1,7 @@
 // In a dark palette the edges of fields and boxes are visible.
 
 #include "ClearEdges.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QApplication>

@@ -1,6 +1,7 @@
 // The captions in the forms equal the English texts, except for access keys.
 
 #include "Language.h"
+#include "QuendNames.h"
 
 #include <QFile>
 #include <QHash>

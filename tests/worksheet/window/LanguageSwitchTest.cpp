@@ -1,6 +1,7 @@
 // Switches the language while the window is full of values.
 
 #include "Language.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QAction>

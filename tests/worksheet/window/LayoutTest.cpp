@@ -1,5 +1,6 @@
 // The layout of the window at any size.
 
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QAbstractScrollArea>

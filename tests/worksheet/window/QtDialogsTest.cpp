@@ -2,6 +2,7 @@
 
 #include "MessageBoxes.h"
 #include "QtTexts.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QAbstractButton>

@@ -1,5 +1,6 @@
 // Opening and closing the window.
 
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QAction>
@@ -108,7 +109,7 @@ TEST_F(Closing, AnotherDateIsAChange) {
 }
 
 // A loan that is never paid off is reported; the value is kept and everything else is computed.
-TEST_F(Closing, AFailureOfTheArithmeticIsToldAndNothingIsLost) {
+TEST_F(Closing, AFailureOfTheArithmeticIsReportedAndNothingIsLost) {
     Open();
     Fill(u"txtCurrentBalance", u"10000");
     Fill(u"txtCurInterestRate", u"12");

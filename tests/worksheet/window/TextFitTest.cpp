@@ -3,6 +3,7 @@
 #include "DatePicker.h"
 #include "DisplayFormats.h"
 #include "FieldWidth.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QApplication>

@@ -103,7 +103,7 @@ TEST_F(WallpaperOfTheWindow, IsNoneWithoutAPath) {
     EXPECT_TRUE(SettledMessages().isEmpty());
 }
 
-TEST_F(WallpaperOfTheWindow, ThatCannotBeLoadedIsToldOnceAndForgotten) {
+TEST_F(WallpaperOfTheWindow, ThatCannotBeLoadedIsReportedOnceAndForgotten) {
     QByteArray whole;
     {
         const QImage picture = Picture(37, 23);
@@ -128,7 +128,7 @@ TEST_F(WallpaperOfTheWindow, ThatCannotBeLoadedIsToldOnceAndForgotten) {
     }
 }
 
-TEST_F(WallpaperOfTheWindow, ThatCannotBeLoadedIsToldInTheLanguageOfTheUser) {
+TEST_F(WallpaperOfTheWindow, ThatCannotBeLoadedIsReportedInTheLanguageOfTheUser) {
     Open({.language = Spanish, .wallpaper = PathOf(u"nada.bmp"_s)});
     EXPECT_EQ(SettledMessages(),
               QStringList(u"No se pudo cargar esta imagen de fondo: "_s + PathOf(u"nada.bmp"_s)));

@@ -1,5 +1,6 @@
 // Loans that anyone can check by hand, typed key by key.
 
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QComboBox>

@@ -1,5 +1,7 @@
 #include "ControlMap.h"
 
+namespace quend::window {
+
 void ControlMap::Add(const QWidget& parent, std::span<const FieldRule> fields, Row row) {
     for (const FieldRule& rule : fields) {
         auto* control = parent.findChild<QWidget*>(rule.control);
@@ -22,3 +24,5 @@ std::optional<Field> ControlMap::FieldOf(const QObject* control) const {
     const auto found = m_fields.find(control);
     return found == m_fields.end() ? std::nullopt : std::optional(*found);
 }
+
+} // namespace quend::window

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "Field.h"
+#include "WindowNames.h"
 
 #include <QHash>
 #include <QWidget>
 
 #include <map>
 #include <optional>
+
+namespace quend::window {
 
 /// Maps fields to controls and controls to fields.
 class ControlMap {
@@ -26,3 +29,5 @@ private:
     std::map<Field, QWidget*> m_controls;
     QHash<const QObject*, Field> m_fields;
 };
+
+} // namespace quend::window

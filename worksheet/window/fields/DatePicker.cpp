@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace quend::window {
+
 namespace {
 
 QDate Stepped(const QDate& date, char unit, int steps) {
@@ -243,3 +245,5 @@ QSize DatePicker::sizeHint() const {
     initStyleOption(&option);
     return style()->sizeFromContents(QStyle::CT_SpinBox, &option, text, this);
 }
+
+} // namespace quend::window

@@ -2,6 +2,7 @@
 
 #include "EnteringClick.h"
 #include "TypedDate.h"
+#include "WindowNames.h"
 
 #include <QAbstractSpinBox>
 #include <QDate>
@@ -12,6 +13,8 @@
 #include <vector>
 
 class QStyleOptionComboBox;
+
+namespace quend::window {
 
 /// A date field. The date is typed, stepped by the arrow keys or picked from a calendar (Alt+Down,
 /// F4 or the button). Typing over a selected date replaces it as in any text field. Within a date
@@ -75,3 +78,5 @@ private:
     QDate m_date;
     EnteringClick m_click;
 };
+
+} // namespace quend::window

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+namespace quend::window {
+
 bool EnteringClick::Takes(const QEvent& event, QLineEdit& edit) {
     switch (event.type()) {
     case QEvent::MouseButtonPress:
@@ -28,3 +30,5 @@ bool EnteringClick::Takes(const QEvent& event, QLineEdit& edit) {
         return false;
     }
 }
+
+} // namespace quend::window

@@ -5,6 +5,8 @@
 class QEvent;
 class QLineEdit;
 
+namespace quend::window {
+
 /// Selects the whole text when a click enters a field, instead of placing the caret at the click,
 /// unless the user drags a selection. An entering double click selects all, too: Qt would select
 /// one word, which ends at the decimal symbol.
@@ -20,3 +22,5 @@ private:
     bool m_enters = false;
     bool m_hasEntered = false;
 };
+
+} // namespace quend::window

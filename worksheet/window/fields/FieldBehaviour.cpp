@@ -14,6 +14,8 @@
 
 #include <utility>
 
+namespace quend::window {
+
 FieldBehaviour::FieldBehaviour(Worksheet& worksheet, const ControlMap& controls, OfferRows& rows,
                                MessageQueue& messages)
     : m_worksheet(&worksheet), m_controls(&controls), m_rows(&rows), m_messages(&messages) {}
@@ -102,3 +104,5 @@ bool FieldBehaviour::MoveByArrow(Field field, int key) {
     }
     return true;
 }
+
+} // namespace quend::window

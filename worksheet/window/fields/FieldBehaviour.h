@@ -1,17 +1,24 @@
 #pragma once
 
 #include "FieldValue.h"
+#include "WindowNames.h"
 
 #include <QChar>
 #include <QString>
 
 #include <optional>
 
+class QLineEdit;
+
+namespace quend::model {
+class Worksheet;
+}
+
+namespace quend::window {
+
 class ControlMap;
 class MessageQueue;
 class OfferRows;
-class QLineEdit;
-class Worksheet;
 
 /// The common behaviour of every typed field. On entry it shows the bare value, all selected; while
 /// typing it allows only the characters of a number; before leaving it checks the form; after
@@ -50,3 +57,5 @@ private:
     QString m_entryText;
     std::optional<FieldValue> m_read; ///< by Check; none for a text that nobody changed
 };
+
+} // namespace quend::window

@@ -19,6 +19,8 @@
 
 #include <memory>
 
+namespace quend::window {
+
 namespace {
 
 /// Marks a clipboard text as the value of an offer field.
@@ -130,3 +132,5 @@ void FieldClipboard::OpenMenu(Field field, const QContextMenuEvent& event) {
                       m_values->MayTake(field, ValueOn(*clipped)));
     menu->popup(event.globalPos());
 }
+
+} // namespace quend::window

@@ -1,15 +1,19 @@
 #pragma once
 
 #include "Field.h"
+#include "WindowNames.h"
 
 #include <QObject>
+
+class QContextMenuEvent;
+class QKeyEvent;
+class QLineEdit;
+
+namespace quend::window {
 
 class ControlMap;
 class FailureReport;
 class MessageQueue;
-class QContextMenuEvent;
-class QKeyEvent;
-class QLineEdit;
 class ValueTransfer;
 
 /// Copies and pastes the values of offers by keyboard and context menu, with the same texts and
@@ -43,3 +47,5 @@ private:
     MessageQueue* m_messages;
     const FailureReport* m_report;
 };
+
+} // namespace quend::window

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+namespace quend::window {
+
 namespace {
 
 bool IsCellEnd(QChar c) { return c == u'\n' || c == u'\r' || c == u'\t'; }
@@ -87,3 +89,5 @@ void ResultEdit::TakeWindowColour() {
         setPalette(own);
     }
 }
+
+} // namespace quend::window

@@ -2,8 +2,11 @@
 
 #include "EnteringClick.h"
 #include "Mark.h"
+#include "WindowNames.h"
 
 #include <QLineEdit>
+
+namespace quend::window {
 
 /// The text of a cell copied from a table, without its trailing line end or tab; a text of several
 /// cells is unchanged.
@@ -48,3 +51,5 @@ protected:
 private:
     void TakeWindowColour();
 };
+
+} // namespace quend::window

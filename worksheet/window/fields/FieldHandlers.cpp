@@ -16,6 +16,8 @@
 #include <array>
 #include <type_traits>
 
+namespace quend::window {
+
 namespace {
 
 using Handlers = FieldHandlers;
@@ -357,3 +359,5 @@ void FieldHandlers::txtWho_LostFocus(int index) {
         m_worksheet->Store({Who, Row{index}}, WithLenderLines(edit->text()));
     }
 }
+
+} // namespace quend::window

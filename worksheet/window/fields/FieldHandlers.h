@@ -1,12 +1,18 @@
 #pragma once
 
 #include "FieldValue.h"
+#include "WindowNames.h"
 
 #include <QChar>
 
+namespace quend::model {
+class Worksheet;
+}
+
+namespace quend::window {
+
 class ControlMap;
 class FieldBehaviour;
-class Worksheet;
 
 /// The control events of the worksheet, each named after its control. They only identify the field;
 /// FieldBehaviour and the worksheet do the work. Handlers of offers take the row. They throw what
@@ -122,3 +128,5 @@ private:
     const ControlMap* m_controls;
     FieldBehaviour* m_fields;
 };
+
+} // namespace quend::window

@@ -7,6 +7,8 @@
 #include <QStyle>
 #include <QStyleOptionFrame>
 
+namespace quend::window {
+
 namespace {
 
 /// The widest typical text of a field.
@@ -49,3 +51,5 @@ int TextRoomOf(const QLineEdit& edit) {
     return edit.style()->subElementRect(QStyle::SE_LineEditContents, &option, &edit).width() -
            marginsOfTheText;
 }
+
+} // namespace quend::window

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+namespace quend::window {
+
 namespace {
 
 /// The focus leaves for a moment and returns: the field is still being edited. The pop-up of a list
@@ -199,3 +201,5 @@ bool FocusTranslator::OnKeyRelease(Field field, const QKeyEvent& event) {
     }
     return used;
 }
+
+} // namespace quend::window

@@ -2,17 +2,21 @@
 
 #include "ClickSwallower.h"
 #include "Field.h"
+#include "WindowNames.h"
 
 #include <QObject>
 
 #include <optional>
 
-class ControlMap;
-class FailureReport;
-class FieldHandlers;
 class QFocusEvent;
 class QKeyEvent;
 class QWidget;
+
+namespace quend::window {
+
+class ControlMap;
+class FailureReport;
+class FieldHandlers;
 
 /// Translates Qt's focus and key events into the four events of FieldBehaviour: got focus, key
 /// press, validate, lost focus. A menu, a pop-up list, a tooltip or another program does not count
@@ -56,3 +60,5 @@ private:
     std::optional<Field> m_keyDownIn;
     ClickSwallower m_clicks;
 };
+
+} // namespace quend::window

@@ -2,8 +2,11 @@
 
 #include "Frequency.h"
 #include "LoanTypes.h"
+#include "WindowNames.h"
 
 #include <QComboBox>
+
+namespace quend::window {
 
 namespace {
 
@@ -19,3 +22,5 @@ void FillEmpty(QComboBox& list, const QStringList& texts) {
 void FillFrequencyList(QComboBox& list) { FillEmpty(list, FrequencyTexts()); }
 
 void FillLoanTypeList(QComboBox& list) { FillEmpty(list, LoanTypeTexts()); }
+
+} // namespace quend::window

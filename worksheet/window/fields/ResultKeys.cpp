@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace quend::window {
+
 namespace {
 
 bool IsResult(const FieldRule& rule) { return rule.access == Access::Result; }
@@ -96,3 +98,5 @@ bool ResultKeys::eventFilter(QObject* watched, QEvent* event) {
     Walk(*field, static_cast<Qt::Key>(key.key()));
     return true;
 }
+
+} // namespace quend::window

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "Field.h"
+#include "WindowNames.h"
 
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
 
 #include <vector>
+
+namespace quend::window {
 
 class ControlMap;
 class OfferRows;
@@ -38,3 +41,5 @@ private:
     const OfferRows* m_rows;
     QPointer<QWidget> m_cameFrom;
 };
+
+} // namespace quend::window

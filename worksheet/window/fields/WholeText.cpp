@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QToolTip>
 
+namespace quend::window {
+
 namespace {
 
 bool IsCut(const QLineEdit& edit) {
@@ -48,3 +50,5 @@ bool WholeText::eventFilter(QObject* watched, QEvent* event) {
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), ToolTipOf(*edit));
     return true;
 }
+
+} // namespace quend::window

@@ -5,6 +5,8 @@
 class QLineEdit;
 class QWidget;
 
+namespace quend::window {
+
 /// Shows a text that is too wide for its field: the field's tooltip then begins with it. Changes
 /// neither the text nor the field's own tooltip.
 class WholeText : public QObject {
@@ -22,3 +24,5 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 };
+
+} // namespace quend::window

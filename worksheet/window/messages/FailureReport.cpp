@@ -3,8 +3,11 @@
 #include "Failure.h"
 #include "Language.h"
 #include "TextNumbers.h"
+#include "WindowNames.h"
 
 #include <QStringList>
+
+namespace quend::window {
 
 QString FailureText(const Failure& failure) {
     return QStringLiteral("errn=%1  src=%2  desc=%3")
@@ -46,3 +49,5 @@ void FailureReport::Report(const std::exception& failure) const {
         m_messages->Post(FailureText(Failure(unexpected, ProgramSource, failure.what())));
     }
 }
+
+} // namespace quend::window

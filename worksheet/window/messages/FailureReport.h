@@ -8,6 +8,8 @@
 #include <exception>
 #include <vector>
 
+namespace quend::window {
+
 /// The text of a failure: "errn=" number "  src=" source "  desc=" description.
 QString FailureText(const Failure& failure);
 
@@ -40,3 +42,5 @@ private:
 
     MessageQueue* m_messages;
 };
+
+} // namespace quend::window

@@ -2,12 +2,15 @@
 
 #include "Language.h"
 #include "TextNumbers.h"
+#include "WindowNames.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
 
 #include <array>
+
+namespace quend::window {
 
 namespace {
 
@@ -57,3 +60,5 @@ Answer MessageBoxes::Ask(const Question& question) {
     }
     return pressed == QMessageBox::No || !question.mayCancel ? Answer::No : Answer::Cancel;
 }
+
+} // namespace quend::window

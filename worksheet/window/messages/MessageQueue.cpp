@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <chrono>
 
+namespace quend::window {
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -59,3 +61,5 @@ void MessageQueue::ShowNext() {
     }
     m_showing = false;
 }
+
+} // namespace quend::window

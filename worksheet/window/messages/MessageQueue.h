@@ -7,6 +7,8 @@
 #include <deque>
 #include <functional>
 
+namespace quend::window {
+
 /// A question with the answers yes and no and, if possible, cancel, which changes nothing.
 struct Question {
     QString text;
@@ -29,7 +31,7 @@ public:
 /// A user's text as a message quotes it: if long, only its beginning.
 QString Shortened(const QString& text);
 
-/// The message queue. MessageQueue are shown one after another when the event that raised them is
+/// The message queue. Messages are shown one after another when the event that raised them is
 /// over and no mouse button is down: a box that opens during a focus change or a click would leave
 /// the window in an inconsistent state. A text that is already queued is not queued again.
 class MessageQueue : public QObject {
@@ -59,3 +61,5 @@ private:
     QTimer m_later;
     bool m_showing = false;
 };
+
+} // namespace quend::window

@@ -8,6 +8,8 @@
 #include <chrono>
 #include <utility>
 
+namespace quend::window {
+
 using namespace std::chrono_literals;
 
 PaymentNotice::PaymentNotice(QObject& window, Worksheet& worksheet, MessageQueue& messages,
@@ -38,3 +40,5 @@ void PaymentNotice::Timer1_Timer() {
     // The marks show what the notice is about, so they stay until it is closed.
     m_messages->Post(GetResourceText(TextNumber::PaymentRaised), m_clearMarks);
 }
+
+} // namespace quend::window

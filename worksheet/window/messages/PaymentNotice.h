@@ -1,12 +1,19 @@
 #pragma once
 
+#include "WindowNames.h"
+
 #include <QObject>
 #include <QTimer>
 
 #include <functional>
 
-class MessageQueue;
+namespace quend::model {
 class Worksheet;
+}
+
+namespace quend::window {
+
+class MessageQueue;
 
 /// Tells the user, once per run, that an intended payment was raised, and removes the yellow mark
 /// after one timer interval.
@@ -31,3 +38,5 @@ private:
     std::function<void()> m_clearMarks;
     QTimer* m_timer;
 };
+
+} // namespace quend::window

@@ -6,6 +6,8 @@
 
 #include <utility>
 
+namespace quend::window {
+
 namespace {
 
 /// Whether the focus really moves here or away; a menu or another window takes it only for a while.
@@ -63,3 +65,5 @@ void LenderEdit::keyPressEvent(QKeyEvent* event) {
     }
     EntryEdit::keyPressEvent(event);
 }
+
+} // namespace quend::window

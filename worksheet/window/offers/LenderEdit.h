@@ -2,6 +2,8 @@
 
 #include "FieldEdits.h"
 
+namespace quend::window {
+
 /// The lender field of a row: a double click, or F2, asks for the lender dialog. Entering it by
 /// keyboard selects nothing and restores the caret position.
 class LenderEdit : public EntryEdit {
@@ -29,3 +31,5 @@ private:
     bool m_clickedTwice = false;
     int m_caret = 0; ///< in entry form; an unfocused field shows its beginning
 };
+
+} // namespace quend::window

@@ -12,6 +12,8 @@
 #include <array>
 #include <numeric>
 
+namespace quend::window {
+
 namespace {
 
 constexpr int Gap = 4;
@@ -129,3 +131,5 @@ void OfferColumns::PlaceRow(Row row, int height) const {
         control->move(column.left, (height - control->height()) / 2);
     }
 }
+
+} // namespace quend::window

@@ -1,14 +1,21 @@
 #pragma once
 
 #include "Field.h"
+#include "WindowNames.h"
 
 #include <QRect>
 
 #include <vector>
 
-class ControlMap;
-class DisplayFormats;
 class QWidget;
+
+namespace quend::model {
+class DisplayFormats;
+}
+
+namespace quend::window {
+
+class ControlMap;
 
 /// The column positions of the offers. Each column is as wide as its values and headings need; the
 /// rest of the width is distributed. Headings and rows use the same columns. Does not scroll.
@@ -44,3 +51,5 @@ private:
     std::vector<Column> m_columns;
     int m_rowHeight = 0;
 };
+
+} // namespace quend::window

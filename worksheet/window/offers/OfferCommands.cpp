@@ -6,6 +6,8 @@
 #include "SortButton.h"
 #include "dlgWho.h"
 
+namespace quend::window {
+
 OfferCommands::OfferCommands(Loan& window) : m_window(&window) {
     connect(window.Form().cmdPayoffDate, &SortButton::clicked, this,
             [this] { Run(&OfferCommands::cmdPayoffDate_Click); });
@@ -58,3 +60,5 @@ void OfferCommands::txtWho_DblClick(int index) {
     dlgWho(worksheet, worksheet.OfferIndexOfRow(Row{index}), *m_window).exec();
     worksheet.Show({FieldId::Who, Row{index}});
 }
+
+} // namespace quend::window

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "OfferOrder.h"
+#include "WindowNames.h"
 
 #include <QObject>
+
+namespace quend::window {
 
 class LenderEdit;
 class Loan;
@@ -30,3 +33,5 @@ private:
 
     Loan* m_window;
 };
+
+} // namespace quend::window

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace quend::window {
+
 OfferRows::OfferRows(Place place, Worksheet& worksheet, ControlMap& controls, OfferColumns& columns)
     : m_place(place), m_worksheet(&worksheet), m_controls(&controls), m_columns(&columns) {
     m_place.picScroll->installEventFilter(this);
@@ -178,3 +180,5 @@ bool OfferRows::eventFilter(QObject* watched, QEvent* event) {
     }
     return QObject::eventFilter(watched, event);
 }
+
+} // namespace quend::window

@@ -1,17 +1,24 @@
 #pragma once
 
 #include "Field.h"
+#include "WindowNames.h"
 
 #include <QObject>
 
 #include <functional>
 #include <map>
 
-class ControlMap;
-class OfferColumns;
 class QScrollBar;
 class QWidget;
+
+namespace quend::model {
 class Worksheet;
+}
+
+namespace quend::window {
+
+class ControlMap;
+class OfferColumns;
 
 /// The rows of the offers and their scrolling: a canvas as high as all rows moves behind a frame as
 /// high as the displayed rows. Does not handle the fields in the rows.
@@ -78,3 +85,5 @@ private:
     int m_rowHeight = 1;
     int m_wheel = 0;
 };
+
+} // namespace quend::window

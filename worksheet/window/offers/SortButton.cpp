@@ -1,10 +1,13 @@
 #include "SortButton.h"
 
 #include "Language.h"
+#include "WindowNames.h"
 
 #include <QPainter>
 #include <QPolygonF>
 #include <QStyle>
+
+namespace quend::window {
 
 namespace {
 
@@ -52,3 +55,5 @@ void SortButton::paintEvent(QPaintEvent* event) {
     painter.drawPolygon(QPolygonF(
         {arrow.bottomLeft(), QPointF(arrow.center().x(), arrow.top()), arrow.bottomRight()}));
 }
+
+} // namespace quend::window

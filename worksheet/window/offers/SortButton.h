@@ -2,6 +2,8 @@
 
 #include <QPushButton>
 
+namespace quend::window {
+
 /// A column heading that sorts the offers. While the offers are sorted by it, an arrow beside the
 /// caption shows it, and a screen reader reads its `activeText` instead of the tooltip. The caption
 /// does not move. Does not sort.
@@ -25,3 +27,5 @@ private:
 
     bool m_active = false;
 };
+
+} // namespace quend::window

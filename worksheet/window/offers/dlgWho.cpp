@@ -6,6 +6,8 @@
 
 #include <QKeyEvent>
 
+namespace quend::window {
+
 namespace {
 
 /// The field is sized for this many characters and lines, and for at least half as many.
@@ -69,3 +71,5 @@ bool dlgWho::eventFilter(QObject* watched, QEvent* event) {
     }
     return true;
 }
+
+} // namespace quend::window

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Field.h"
+#include "WindowNames.h"
 
 #include <QDialog>
 #include <QString>
@@ -11,7 +12,11 @@ namespace Ui {
 class dlgWho;
 }
 
+namespace quend::model {
 class Worksheet;
+}
+
+namespace quend::window {
 
 /// The lender dialog of one offer. OK stores the text, of any length and any number of lines;
 /// Cancel, Escape and the close box store nothing. Checks nothing, and does not update the row.
@@ -44,3 +49,5 @@ private:
     OfferIndex m_whoOfferIndex;
     QString m_linesLoaded;
 };
+
+} // namespace quend::window

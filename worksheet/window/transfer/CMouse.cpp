@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::window {
+
 namespace {
 
 struct PointerShape {
@@ -45,3 +47,5 @@ CMouse::~CMouse() {
         QGuiApplication::restoreOverrideCursor();
     }
 }
+
+} // namespace quend::window

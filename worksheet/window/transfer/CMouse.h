@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+namespace quend::window {
+
 /// The pointer codes that the program uses by name.
 namespace MousePointer {
 inline constexpr std::int32_t Hourglass = 11;
@@ -24,3 +26,5 @@ public:
 private:
     bool m_hasSaved = false;
 };
+
+} // namespace quend::window

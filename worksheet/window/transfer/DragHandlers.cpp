@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <array>
 
+namespace quend::window {
+
 namespace {
 
 using Handlers = DragHandlers;
@@ -164,3 +166,5 @@ Qt::DropAction DragHandlers::txtWho_OLEDragDrop(int index, const QMimeData& data
                                                 Qt::DropActions effect) {
     return Store({FieldId::Who, Row{index}}, data, effect);
 }
+
+} // namespace quend::window

@@ -1,13 +1,17 @@
 #pragma once
 
 #include "Field.h"
+#include "WindowNames.h"
 
 #include <QtGlobal>
 
 #include <Qt>
 
-class ControlMap;
 class QMimeData;
+
+namespace quend::window {
+
+class ControlMap;
 class ValueTransfer;
 
 /// The drag events, each named after its control. TransferRules.h defines which values can be
@@ -61,3 +65,5 @@ private:
     ValueTransfer* m_values;
     const ControlMap* m_controls;
 };
+
+} // namespace quend::window

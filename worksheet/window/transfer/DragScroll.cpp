@@ -6,6 +6,8 @@
 
 #include <chrono>
 
+namespace quend::window {
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -33,3 +35,5 @@ void DragScroll::Over(const QWidget& control, QPoint at) {
         m_timer->start();
     }
 }
+
+} // namespace quend::window

@@ -2,8 +2,11 @@
 
 #include <QTimer>
 
-class OfferRows;
 class QWidget;
+
+namespace quend::window {
+
+class OfferRows;
 
 /// Scrolls the rows, one per timer tick, while something is dragged near the upper or lower edge of
 /// the frame. Does not know what is dragged or whether it may be dropped there.
@@ -22,3 +25,5 @@ private:
     QTimer* m_timer;     // a child of the frame, where it is found by its name
     int m_direction = 0; ///< rows per tick: down is positive
 };
+
+} // namespace quend::window

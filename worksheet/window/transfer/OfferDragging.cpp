@@ -19,6 +19,8 @@
 #include <memory>
 #include <utility>
 
+namespace quend::window {
+
 namespace {
 
 bool IsAllSelected(const QLineEdit& edit, bool isNumber) {
@@ -239,3 +241,5 @@ void OfferDragging::OnDrop(Field field, QDropEvent& event) {
     event.setDropAction(done);
     event.setAccepted(done != Qt::IgnoreAction);
 }
+
+} // namespace quend::window

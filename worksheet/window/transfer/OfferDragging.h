@@ -1,19 +1,23 @@
 #pragma once
 
 #include "Field.h"
+#include "WindowNames.h"
 
 #include <QObject>
 #include <QPoint>
 
 #include <optional>
 
+class QDropEvent;
+class QLineEdit;
+class QMouseEvent;
+
+namespace quend::window {
+
 class ControlMap;
 class DragHandlers;
 class DragScroll;
 class FailureReport;
-class QDropEvent;
-class QLineEdit;
-class QMouseEvent;
 
 /// Translates Qt's mouse and drag events of the offer fields into the events of DragHandlers.
 ///
@@ -66,3 +70,5 @@ private:
     std::optional<Press> m_press;
     Qt::DropActions m_effect; ///< the actions that the field under the mouse allows
 };
+
+} // namespace quend::window

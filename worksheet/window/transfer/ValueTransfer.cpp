@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QScopeGuard>
 
+namespace quend::window {
+
 ValueTransfer::ValueTransfer(Worksheet& worksheet, const ControlMap& controls,
                              FocusTranslator& focus, FieldBehaviour& discipline)
     : m_worksheet(&worksheet), m_controls(&controls), m_focus(&focus), m_discipline(&discipline) {}
@@ -56,3 +58,5 @@ bool ValueTransfer::Take(Field field, const QString& text) {
     m_worksheet->Store(field, value);
     return true;
 }
+
+} // namespace quend::window

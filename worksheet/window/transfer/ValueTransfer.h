@@ -1,14 +1,21 @@
 #pragma once
 
 #include "Field.h"
+#include "WindowNames.h"
 
 #include <QString>
+
+class QLineEdit;
+
+namespace quend::model {
+class Worksheet;
+}
+
+namespace quend::window {
 
 class ControlMap;
 class FieldBehaviour;
 class FocusTranslator;
-class QLineEdit;
-class Worksheet;
 
 /// Gives and takes the values of offers for dragging and copying without losing what is being
 /// typed. Shows no messages other than those of storing a field.
@@ -41,3 +48,5 @@ private:
     FocusTranslator* m_focus;
     FieldBehaviour* m_discipline;
 };
+
+} // namespace quend::window

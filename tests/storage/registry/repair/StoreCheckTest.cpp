@@ -1,5 +1,6 @@
 // A store that is damaged, foreign or from a later version, as the program finds it at the start.
 #include "StoreCheck.h"
+#include "QuendNames.h"
 
 #include "Sqlite.h"
 #include "StoreFile.h"
@@ -177,7 +178,7 @@ TEST_F(StoreCheckTest, DamageWhileTheProgramRunsIsRepairedByTheNextSave) {
     EXPECT_GE(repaired, 4U); // the first page, and the roots of the three trees
 }
 
-TEST_F(StoreCheckTest, WithoutADoorNothingIsRepairedInTheMiddleOfAStep) {
+TEST_F(StoreCheckTest, WithoutRepairInterfaceATransactionRepairsNothing) {
     const std::string damaged = Over(0, PageSize)(Build());
     WriteBytes(store, damaged);
     EXPECT_EQ(FailureOf([&] { SaveWorksheet(RegistryAPI(store), "3", "new"); }), NotMade);
@@ -285,7 +286,7 @@ TEST_F(StoreCheckTest, OfAFileCutInHalfTheWorksheetsComeBackWhoseNamesAreThere) 
     }
 }
 
-TEST_F(StoreCheckTest, WhatStandsInTheLogAloneIsRecoveredToo) {
+TEST_F(StoreCheckTest, WhatIsOnlyInTheLogIsRecoveredToo) {
     Build();
     SaveWorksheet(registry, "0", "last"); // in the log
     ASSERT_GT(fs::file_size(StoreFile::LogOf(store)), PageSize);

@@ -1,5 +1,6 @@
 // One wrong number at a time, in a store that has every kind of page: all damage is detected, and
 // all readable data is recovered.
+#include "QuendNames.h"
 #include "StoreCheck.h"
 
 #include "StoreFixture.h"

@@ -1,4 +1,5 @@
 // Random damage, as much as fits into the time: nothing may crash, hang or trust its input.
+#include "QuendNames.h"
 #include "StoreCheck.h"
 
 #include "Fuzzing.h"

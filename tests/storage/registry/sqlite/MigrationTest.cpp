@@ -1,4 +1,5 @@
 // Migration of a store with data from an earlier schema through all versions to a later one.
+#include "QuendNames.h"
 #include "Sqlite.h"
 #include "StoreFile.h"
 #include "StoreFixture.h"

@@ -1,4 +1,5 @@
 // Real faults: killed processes, full disks, locked folders, held locks.
+#include "QuendNames.h"
 #include "StoreCheck.h"
 #include "StoreFile.h"
 #include "StoreFixture.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QuendNames.h"
 #include "RegistryAPI.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,5 @@
 // Names and files at the limits of the store file.
+#include "QuendNames.h"
 #include "StoreCheck.h"
 
 #include "Sqlite.h"
@@ -55,7 +56,7 @@ TEST_F(StoreLimitsTest, KeysThatCannotBeHoldNothing) {
 }
 
 /// The last key found is cached within a transaction, for its own root only.
-TEST_F(StoreLimitsTest, EachRootHasKeysOfItsOwn) {
+TEST_F(StoreLimitsTest, EachRootHasSeparateKeys) {
     registry.InTransaction([](const RegistryAPI& step) {
         step.SetValue(User, Base, "None", RegistryType::Text, "lost"); // the key does not exist yet
         step.CreateKey(User, Base);
@@ -80,7 +81,7 @@ TEST_F(StoreLimitsTest, ARootIsNeverDeleted) {
     EXPECT_EQ(registry.GetValue(User, "", "Root", RegistryType::Text, ""), RegistryValue("user"));
 }
 
-TEST_F(StoreLimitsTest, AValueTellsItsType) {
+TEST_F(StoreLimitsTest, TheTypeOfAValueIsReported) {
     registry.CreateKey(User, Base);
     registry.SetValue(User, Base, "Text", RegistryType::Text, "1");
     registry.SetValue(User, Base, "Number", RegistryType::Number, 1);

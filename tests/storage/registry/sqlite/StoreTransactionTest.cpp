@@ -1,5 +1,6 @@
 // Transactions on the store file: atomicity and cost.
 #include "FlushCount.h"
+#include "QuendNames.h"
 #include "StoreCheck.h"
 #include "StoreFile.h"
 #include "StoreFixture.h"
@@ -131,7 +132,7 @@ TEST_F(StoreTransactionTest, StoreAndFoldersAreForTheUserAlone) {
     }
 }
 
-TEST_F(StoreTransactionTest, RootsAreTreesOfTheirOwn) {
+TEST_F(StoreTransactionTest, RootsAreSeparateTrees) {
     registry.CreateKey(RegistryRoot::LocalMachine, Base);
     EXPECT_FALSE(registry.KeyExists(User, Base));
     EXPECT_EQ(registry.GetSubKeys(RegistryRoot::LocalMachine, ""),
@@ -200,7 +201,7 @@ struct PlaceCase {
     const char* folder;
 };
 
-TEST(UserStore, StandsInTheUsersDataFolder) {
+TEST(UserStore, IsInTheUsersDataFolder) {
     // clang-format off
     const std::vector<PlaceCase> cases{
         // XDG_DATA_HOME  HOME          folder

@@ -2,6 +2,7 @@
 
 #include "Language.h"
 #include "NumberFields.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QAction>
@@ -160,7 +161,7 @@ TEST_F(LeavingUntouched, ChangesNoValueAndSavesNothing) {
     EXPECT_TRUE(SettledMessages().isEmpty()) << Messages().Texts().join(u'\n').toStdString();
 }
 
-TEST_F(LeavingUntouched, AScheduleThatNeverEndsIsToldOnce) {
+TEST_F(LeavingUntouched, AScheduleThatNeverEndsIsReportedOnce) {
     Open();
     Fill(u"txtCurrentBalance", u"10000");
     Fill(u"txtCurInterestRate", u"12");
@@ -177,7 +178,7 @@ TEST_F(LeavingUntouched, AScheduleThatNeverEndsIsToldOnce) {
     EXPECT_EQ(SettledMessages().size(), 2);
 }
 
-TEST_F(LeavingUntouched, OneEditOfARowIsToldOnce) {
+TEST_F(LeavingUntouched, OneEditOfARowIsReportedOnce) {
     Open();
     Fill(u"txtLoanAmount", u"900000000000000");
     Fill(u"txtPoints(0)", u"900000");

@@ -1,6 +1,7 @@
 // The date of the next payment: typed, stepped, picked or refused.
 
 #include "DatePicker.h"
+#include "QuendNames.h"
 #include "QuietQt.h"
 #include "WindowFixture.h"
 
@@ -117,7 +118,7 @@ TEST_F(DateField, IsStoredWhenItIsLeftOrByReturn) {
     EXPECT_EQ(Stored(), QDate(2028, 3, 2));
 }
 
-TEST_F(DateField, WhatIsNoDateIsToldAndKeepsTheFocus) {
+TEST_F(DateField, WhatIsNoDateIsReportedAndKeepsTheFocus) {
     Open();
     for (const QStringView typed : {u"2/31/2026", u"1/1/1700", u"3/1", u"7", u"1/1/12345"}) {
         Messages().Clear();

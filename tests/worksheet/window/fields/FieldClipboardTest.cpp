@@ -2,6 +2,7 @@
 
 #include "DragFixture.h"
 #include "Language.h"
+#include "QuendNames.h"
 
 #include <QAction>
 #include <QApplication>
@@ -102,7 +103,7 @@ TEST_F(FieldClipboard, APastedValueIsStoredAtOnce) {
     EXPECT_EQ(Text(u"txtPandI(1)"), Text(u"txtPandI(0)"));
 }
 
-TEST_F(FieldClipboard, ARefusedValueIsToldAndChangesNothing) {
+TEST_F(FieldClipboard, ARefusedValueIsReportedAndChangesNothing) {
     struct {
         QStringView copied;
         QStringView target;

@@ -1,6 +1,7 @@
 // What a number field shows on entry and afterwards, and what can be typed into it.
 
 #include "NumberFields.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QApplication>
@@ -83,7 +84,7 @@ TEST_P(FieldEntry, ASecondClickPlacesTheCaret) {
     EXPECT_EQ(Field().text(), GetParam().entered);
 }
 
-TEST_P(FieldEntry, EmptyStandsForZeroBothWays) {
+TEST_P(FieldEntry, EmptyMeansZeroBothWays) {
     Fill(GetParam().name, GetParam().typed);
     BackTab();
     Press(Qt::Key_Delete);

@@ -9,6 +9,7 @@
 #include "Language.h"
 #include "MessageBoxes.h"
 #include "NumberFields.h"
+#include "QuendNames.h"
 #include "QuietQt.h"
 #include "TextNumbers.h"
 

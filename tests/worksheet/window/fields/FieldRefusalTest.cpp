@@ -2,6 +2,7 @@
 
 #include "MessageBoxes.h"
 #include "NumberFields.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QAbstractButton>
@@ -95,7 +96,7 @@ TEST_P(FieldRefusal, OfNumbersThatNothingCanHold) {
     EXPECT_NE(FocusName(), GetParam().name);
 }
 
-TEST_P(FieldRefusal, TellsAgainOnTheNextTry) {
+TEST_P(FieldRefusal, ReportsAgainOnTheNextTry) {
     ExpectRefused(u"5-", Refusal());
     BackTab();
     EXPECT_EQ(SettledMessages(), QStringList({Refusal(), Refusal()}));

@@ -1,6 +1,7 @@
 // The lists and the box for financed points.
 
 #include "Lists.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QCheckBox>
@@ -76,7 +77,7 @@ TEST_F(ChoiceLists, CanBeChosenFromByKeyAlone) {
     EXPECT_EQ(Text(u"txtPandI(0)"), u"$599.55");
 }
 
-TEST_F(ChoiceLists, LeavingStoresWhatStandsThere) {
+TEST_F(ChoiceLists, LeavingStoresTheEntryShown) {
     Open();
     FillFirstOffer();
     List(u"cboFrequency(0)").setCurrentIndex(3); // set by the program, not picked by the user
@@ -166,7 +167,7 @@ TEST_F(PointsBox, TheSpaceBarDoesTheSame) {
     EXPECT_EQ(Text(u"txtPandI(0)"), u"$611.54");
 }
 
-TEST_F(PointsBox, LeavingItStoresWhatStandsThere) {
+TEST_F(PointsBox, LeavingItStoresTheStateShown) {
     for (const bool ticked : {true, false}) {
         Click(u"txtPoints(0)");
         BackTab();

@@ -1,6 +1,7 @@
 // A refused field cannot be left, and what the user tries has no other effect.
 
 #include "NumberFields.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QApplication>
@@ -110,7 +111,7 @@ TEST_F(RefusedFieldLater, ClicksWorkAgainOnceTheTextIsMended) {
     EXPECT_EQ(SettledMessages().size(), 1);
 }
 
-TEST_F(RefusedFieldLater, IsToldOnceForEveryTry) {
+TEST_F(RefusedFieldLater, IsReportedOnceForEveryTry) {
     Open();
     Click(u"txtPoints(1)");
     Paste(u"1.2.3");

@@ -2,6 +2,7 @@
 
 #include "FieldEdits.h"
 #include "Language.h"
+#include "QuendNames.h"
 #include "TextNumbers.h"
 #include "WindowFixture.h"
 
@@ -56,7 +57,7 @@ TEST_F(Marks, ARaisedPaymentIsYellowUntilTheNoticeHasBeenRead) {
     EXPECT_TRUE(Sheet().PaymentNoticeShown());
 }
 
-TEST_F(Marks, TheNoticeIsToldOnceInARun) {
+TEST_F(Marks, TheNoticeIsShownOnceInARun) {
     Open();
     FillFirstOffer();
     HurryTimer();
@@ -85,7 +86,7 @@ TEST_F(Marks, SeveralRaisedPaymentsShareOneNotice) {
     EXPECT_EQ(Text(u"txtActualPayment(1)"), u"$843.86");
 }
 
-TEST_F(Marks, ARefusedPaymentIsToldAtOnceAndNotAgainByTheTimer) {
+TEST_F(Marks, ARefusedPaymentIsReportedAtOnceAndNotAgainByTheTimer) {
     Open();
     FillFirstOffer();
     Fill(u"txtActualPayment(0)", u"100");
@@ -97,7 +98,7 @@ TEST_F(Marks, ARefusedPaymentIsToldAtOnceAndNotAgainByTheTimer) {
     EXPECT_EQ(SettledMessages(), QStringList(Notice()));
 }
 
-TEST_F(Marks, EveryRefusalIsTold) {
+TEST_F(Marks, EveryRefusalIsReported) {
     Open();
     FillFirstOffer();
     for (int told = 1; told <= 3; ++told) {

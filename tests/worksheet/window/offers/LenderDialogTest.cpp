@@ -2,6 +2,7 @@
 
 #include "EnterValues.h"
 #include "Language.h"
+#include "QuendNames.h"
 #include "WindowFixture.h"
 #include "dlgWho.h"
 

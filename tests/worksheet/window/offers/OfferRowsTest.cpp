@@ -1,5 +1,6 @@
 // The number of offer rows, and moving through them by arrow keys.
 
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QCheckBox>
@@ -69,7 +70,7 @@ TEST_P(RowsDisplayed, ThereIsNoRowBeyondTheCap) {
     EXPECT_EQ(RowCount(), RowCap);
 }
 
-TEST_P(RowsDisplayed, RowsStandOneBelowTheOther) {
+TEST_P(RowsDisplayed, RowsAreOneBelowTheOther) {
     WalkDown(30);
     for (int row = 0; row < RowCap; ++row) {
         const QWidget& controls = Control(RowName(u"OfferRow", row));

@@ -1,5 +1,6 @@
 // Sixteen rows of offers behind a frame of six.
 
+#include "QuendNames.h"
 #include "WindowFixture.h"
 
 #include <QComboBox>

@@ -2,6 +2,7 @@
 
 #include "EnterValues.h"
 #include "Language.h"
+#include "QuendNames.h"
 #include "SortButton.h"
 #include "WindowFixture.h"
 
@@ -229,7 +230,7 @@ QPalette Dark() {
     return dark;
 }
 
-TEST_F(SortHeadings, TheArrowStandsBesideTheCaptionAndOutInEveryPalette) {
+TEST_F(SortHeadings, TheArrowIsBesideTheCaptionAndVisibleInEveryPalette) {
     for (const QPalette& palette : {QApplication::palette(), Dark()}) {
         auto& button = Get<SortButton>(u"cmdInterest");
         button.setPalette(palette);

@@ -1,6 +1,7 @@
 #include "DragFixture.h"
 
 #include "EnterValues.h"
+#include "QuendNames.h"
 
 #include <QApplication>
 #include <QTest>

@@ -1,6 +1,7 @@
 // What may be dropped on an offer field, and its effects.
 
 #include "DragFixture.h"
+#include "QuendNames.h"
 
 #include <QLineEdit>
 #include <QScrollBar>

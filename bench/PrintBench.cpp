@@ -1,6 +1,7 @@
 // Cost of a report: reading the window, drawing the pages, and delivering the finished document;
 // without the time that the progress window stays open.
 
+#include "EnterValues.h"
 #include "FakeMessages.h"
 #include "Loan.h"
 #include "OfferRows.h"
@@ -34,12 +35,11 @@ void Fill(Loan& window, int offers, int words) {
         lender << QStringLiteral("lender%1").arg(word);
     }
     for (Row row{0}; row < Row{offers}; ++row.value) {
-        CLoan& offer = sheet.OfferOfRow(row);
-        offer.SetTerm(Months{360});
-        offer.SetInterestRate(Rate::FromFraction(0.055 + 0.00125 * row.value));
-        offer.SetFrequencyCode(FrequencyCode(QStringLiteral("M")));
-        offer.SetWho(lender.join(u' '));
-        sheet.ShowOffer(row);
+        EnterOffer(sheet, row,
+                   {{FieldId::Term, Months{360}},
+                    {FieldId::InterestRate, Rate::FromFraction(0.055 + 0.00125 * row.value)},
+                    {FieldId::Frequency, FrequencyCode(QStringLiteral("M"))},
+                    {FieldId::Who, lender.join(u' ')}});
     }
 }
 

@@ -3,6 +3,7 @@
 // bench/measure times the same from outside.
 
 #include "ControlMap.h"
+#include "EnterValues.h"
 #include "FakeMessages.h"
 #include "Frequency.h"
 #include "Loan.h"
@@ -38,11 +39,10 @@ void Fill(Loan& window, int offers) {
     Worksheet& sheet = window.GetWorksheet();
     sheet.SetLoanAmount(Money::FromDouble(250'000));
     for (Row row{0}; row < Row{offers}; ++row.value) {
-        CLoan& offer = sheet.OfferOfRow(row);
-        offer.SetTerm(Months{360});
-        offer.SetInterestRate(Rate::FromFraction(0.055 + 0.00125 * row.value));
-        offer.SetFrequencyCode(FrequencyCode(QStringLiteral("M")));
-        sheet.ShowOffer(row);
+        EnterOffer(sheet, row,
+                   {{FieldId::Term, Months{360}},
+                    {FieldId::InterestRate, Rate::FromFraction(0.055 + 0.00125 * row.value)},
+                    {FieldId::Frequency, FrequencyCode(QStringLiteral("M"))}});
     }
 }
 

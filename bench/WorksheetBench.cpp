@@ -1,6 +1,7 @@
 // Cost of one edit: recomputing everything that a full window of sixteen offers shows, including
 // texts, without painting.
 
+#include "EnterValues.h"
 #include "Frequency.h"
 #include "QuendNames.h"
 #include "Worksheet.h"
@@ -27,19 +28,19 @@ void Fill(Worksheet& worksheet, int offers = 16) {
     worksheet.SetLoanAmount(Money::FromDouble(250'000));
     for (Row row{0}; row < Row{offers}; ++row.value) {
         const auto frequency = static_cast<std::size_t>(row.value) % Frequencies.size();
-        worksheet.StoreNumber({FieldId::Term, row}, QStringLiteral("30"));
-        worksheet.StoreNumber({FieldId::InterestRate, row},
-                              QString::number(5.5 + 0.125 * row.value));
-        worksheet.StoreChoice({FieldId::Frequency, row},
-                              FrequencyCodeToText(Frequencies.at(frequency).Code()));
+        EnterText(worksheet, {FieldId::Term, row}, QStringLiteral("30"));
+        EnterText(worksheet, {FieldId::InterestRate, row},
+                  QString::number(5.5 + 0.125 * row.value));
+        EnterText(worksheet, {FieldId::Frequency, row},
+                  FrequencyCodeToText(Frequencies.at(frequency).Code()));
     }
-    worksheet.StoreNumber({FieldId::CurLoanAmount}, QStringLiteral("230000"));
-    worksheet.StoreNumber({FieldId::CurLoanTerm}, QStringLiteral("30"));
-    worksheet.StoreNumber({FieldId::CurInterestRate}, QStringLiteral("7.25"));
-    worksheet.StoreNumber({FieldId::CurrentBalance}, QStringLiteral("198450.75"));
-    worksheet.StoreNumber({FieldId::CurActualPayment}, QStringLiteral("2050"));
-    worksheet.StoreChoice({FieldId::ActPaymentFrequency},
-                          FrequencyCodeToText(FrequencyCode(QStringLiteral("M"))));
+    EnterText(worksheet, {FieldId::CurLoanAmount}, QStringLiteral("230000"));
+    EnterText(worksheet, {FieldId::CurLoanTerm}, QStringLiteral("30"));
+    EnterText(worksheet, {FieldId::CurInterestRate}, QStringLiteral("7.25"));
+    EnterText(worksheet, {FieldId::CurrentBalance}, QStringLiteral("198450.75"));
+    EnterText(worksheet, {FieldId::CurActualPayment}, QStringLiteral("2050"));
+    EnterText(worksheet, {FieldId::ActPaymentFrequency},
+              FrequencyCodeToText(FrequencyCode(QStringLiteral("M"))));
 }
 
 /// Changes the annual taxes back and forth: the escrow, every offer and the current loan change.

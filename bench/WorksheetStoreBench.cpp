@@ -3,6 +3,7 @@
 // calls that wait for the disk, "flush_ms" is their time and "rest_ms" the remaining time. A figure
 // that misses its target is an error.
 
+#include "EnterValues.h"
 #include "FileCommands.h"
 #include "FlushCount.h"
 #include "Frequency.h"
@@ -40,14 +41,15 @@ void FillSheet(Worksheet& worksheet, int offers = Rows) {
     FillSampleLoans(worksheet);
     worksheet.SetCurrentActualFrequency(FrequencyCodeToText(FrequencyCode(QStringLiteral("M"))));
     for (Row row{0}; row.value < offers; ++row.value) {
-        CLoan& offer = worksheet.OfferOfRow(row);
-        offer.SetFinancePoints(true);
-        offer.SetPoints(Percent::FromPercent(1.125));
-        offer.SetTerm(Months{360});
-        offer.SetInterestRate(Rate::FromFraction(SampleRate(row)));
-        offer.SetFrequencyCode(FrequencyCode(QStringLiteral("M")));
-        offer.SetActualPayment(Money::FromDouble(5'000));
-        offer.SetWho(QStringLiteral("First Prairie Bank, office %1").arg(row.value));
+        EnterOffer(
+            worksheet, row,
+            {{FieldId::FinancePoints, true},
+             {FieldId::Points, Percent::FromPercent(1.125)},
+             {FieldId::Term, Months{360}},
+             {FieldId::InterestRate, Rate::FromFraction(SampleRate(row))},
+             {FieldId::Frequency, FrequencyCode(QStringLiteral("M"))},
+             {FieldId::ActualPayment, Money::FromDouble(5'000)},
+             {FieldId::Who, QStringLiteral("First Prairie Bank, office %1").arg(row.value)}});
     }
 }
 

@@ -34,17 +34,14 @@ Money CLoan::PandI() const {
     return PrincipalAndInterest(StartingPrinciple(), m_interestRate, m_term, m_frequencyCode);
 }
 
-Money CLoan::LeastPayment() const {
-    const Money principalAndInterest = PandI();
-    if (principalAndInterest.IsZero()) {
-        return {};
-    }
-    return principalAndInterest + EscrowShare(m_frequencyCode, m_context->EscrowMonthly());
+Money CLoan::LeastPayment(Money pAndI) const {
+    return pAndI.IsZero() ? Money()
+                          : pAndI + EscrowShare(m_frequencyCode, m_context->EscrowMonthly());
 }
 
-Money CLoan::Payment() {
-    const Money payment = LeastPayment();
-    if (payment > m_actualPayment && !PandI().IsZero()) {
+Money CLoan::Payment(Money pAndI) {
+    const Money payment = LeastPayment(pAndI);
+    if (payment > m_actualPayment && !pAndI.IsZero()) {
         Change(m_actualPayment, payment);
         m_forced = true;
     }
@@ -60,7 +57,7 @@ void CLoan::SetActualPayment(Money payment) {
         return;
     }
     m_context->PaymentRefused();
-    Change(m_actualPayment, Payment());
+    Change(m_actualPayment, least);
 }
 
 Date CLoan::PayoffDate() {

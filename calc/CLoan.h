@@ -74,9 +74,11 @@ public:
     /// One payment with its share of the escrow. If the actual payment is lower, raises it to this
     /// value, marks the worksheet dirty and sets Forced. While PandI is zero, returns zero and
     /// raises nothing.
-    Money Payment();
+    Money Payment() { return Payment(PandI()); }
+    // The same for a caller that has just read PandI, which takes long to compute.
+    Money Payment(Money pAndI);
     /// As Payment, but raises and marks nothing.
-    Money LeastPayment() const;
+    Money LeastPayment(Money pAndI) const;
     /// True once after Payment has raised the actual payment; reading it clears it.
     bool Forced();
 

@@ -12,10 +12,9 @@ namespace quend::storage {
 
 namespace {
 
-template <class Owner>
 bool HasAll(const RegistryAPI& store, const std::string& key, const std::string& prefix,
-            std::span<const KeptValue<Owner>> values) {
-    return std::ranges::all_of(values, [&](const KeptValue<Owner>& value) {
+            std::span<const KeptValue> values) {
+    return std::ranges::all_of(values, [&](const KeptValue& value) {
         return value.readPlace == 0 ||
                store.GetValueType(StoreRoot, key, prefix + value.name) == value.type;
     });

@@ -10,14 +10,26 @@ namespace quend::storage {
 
 namespace {
 
-template <class Owner>
+/// After the values of one group.
+constexpr int Last = 100;
+
+/// The value under which a failed recalculation is reported, by the first field that it shows.
+const KeptValue& CauseOf(FieldId result) {
+    const char* name = result == FieldId::MonthlyEscrow ? EscrowInsuranceName
+                       : result == FieldId::CurPayment  ? CurrentPaymentName
+                                                        : CurrentActualPaymentName;
+    return *std::ranges::find_if(KeptWorksheetValues(), [&](const KeptValue& value) {
+        return value.name == std::string_view(name);
+    });
+}
+
 std::vector<RegistryValue> ReadValues(const RegistryAPI& store, const std::string& key,
                                       const std::string& prefix,
-                                      std::span<const KeptValue<Owner>> values) {
+                                      std::span<const KeptValue> values) {
     std::vector<RegistryValue> read;
-    for (const KeptValue<Owner>* value : InOrderOfReading(values)) {
+    for (const KeptValue& value : InOrderOfReading(values)) {
         read.push_back(
-            store.GetValue(StoreRoot, key, prefix + value->name, value->type, value->Missing()));
+            store.GetValue(StoreRoot, key, prefix + value.name, value.type, value.Missing()));
     }
     return read;
 }
@@ -38,67 +50,92 @@ void StoredWorksheet::Read(const RegistryAPI& store, const std::string& key) {
 }
 
 template <class Step>
-void StoredWorksheet::Try(const std::string& value, Step step) {
+void StoredWorksheet::Try(Place place, const std::string& value, Step step) {
     try {
         step();
     } catch (const Failure& failure) {
-        m_failures.emplace_back(failure.Number(), value, failure.Description());
+        m_failures.emplace(place, Failure(failure.Number(), value, failure.Description()));
+    }
+}
+
+std::vector<Failure> StoredWorksheet::Put(Worksheet& worksheet, const QString& name,
+                                          const std::function<void(Row)>& growTo) {
+    const auto store = [&] {
+        worksheet.Clear();
+        worksheet.SetLoanName(name);
+        PutLoan(worksheet);
+        CheckCount();
+        if (!m_offers.empty()) {
+            growTo(Row{static_cast<int>(m_offers.size()) - 1});
+        }
+        PutOffers(worksheet);
+    };
+    worksheet.StoreTogether(
+        store, [&](Field result, const auto& step) { Compute(worksheet, result, step); });
+    worksheet.ClearDirty();
+    std::vector<Failure> failures;
+    for (const auto& [place, failure] : m_failures) {
+        failures.push_back(failure);
+    }
+    return failures;
+}
+
+void StoredWorksheet::PutValue(Worksheet& worksheet, Field field,
+                               const RegistryValue& value) const {
+    const StoredTexts texts(m_formats, m_dateFormat);
+    worksheet.Store(field, FromStored(value, worksheet.Value(field), texts));
+}
+
+/// All but the payment, which is computed first.
+void StoredWorksheet::PutLoan(Worksheet& worksheet) {
+    const auto values = InOrderOfReading(KeptWorksheetValues());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const KeptValue& value = values[i];
+        if (value.field != FieldId::CurPayment && m_loan.at(i) != value.Missing()) {
+            Try({0, value.readPlace}, value.name,
+                [&] { PutValue(worksheet, {value.field}, m_loan[i]); });
+        }
     }
 }
 
 void StoredWorksheet::CheckCount() {
-    Try(LoanCountName, [&] {
+    Try({0, Last}, LoanCountName, [&] {
         if (m_count < 0 || m_count > MostOffers) {
             throw OverflowFailure(LoanCountName);
         }
     });
 }
 
-std::vector<Failure> StoredWorksheet::Put(Worksheet& worksheet, const QString& name,
-                                          const std::function<void(Row)>& growTo) {
-    // An old offer must not be calculated with a new amount.
-    worksheet.Clear();
-    worksheet.SetLoanName(name);
-    const StoredTexts texts(m_formats, m_dateFormat);
-    const auto values = InOrderOfReading(KeptWorksheetValues());
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        const bool isPayment = values[i]->name == std::string_view(CurrentPaymentName);
-        if (isPayment) {
-            // Its inputs are loaded by now, and missing ones get marked. The payment itself keeps
-            // the saved value until one of its inputs is entered again.
-            Try(CurrentPaymentName, [&] { worksheet.RecalculateCurrentPayment(); });
-        }
-        const bool isMissing = m_loan.at(i) == values[i]->Missing();
-        Try(values[i]->name, [&] {
-            if (!isMissing || isPayment) {
-                values[i]->read(worksheet, m_loan.at(i), texts);
-            }
-        });
-    }
-    CheckCount();
-    if (!m_offers.empty()) {
-        growTo(Row{static_cast<int>(m_offers.size()) - 1});
-    }
-    PutOffers(worksheet);
-    worksheet.ClearDirty();
-    return m_failures;
-}
-
 /// The offers fill the first rows without gaps.
 void StoredWorksheet::PutOffers(Worksheet& worksheet) {
-    const StoredTexts texts(m_formats, m_dateFormat);
     const auto values = InOrderOfReading(KeptOfferValues());
     for (std::size_t i = 0; i < m_offers.size(); ++i) {
         const Row row{static_cast<int>(i)};
         if (row > worksheet.HighestOfferRow()) {
             break;
         }
-        CLoan& offer = worksheet.OfferOfRow(row);
+        const int number = row.value + 1;
         for (std::size_t v = 0; v < values.size(); ++v) {
-            Try(OfferPrefix(row.value + 1) + values[v]->name,
-                [&] { values[v]->read(offer, m_offers[i].at(v), texts); });
+            Try({number, values[v].readPlace}, OfferPrefix(number) + values[v].name, [&] {
+                PutValue(worksheet, {values[v].field, row}, m_offers[i].at(v));
+            });
         }
-        Try(OfferPrefix(row.value + 1), [&] { worksheet.ShowOffer(row); });
+    }
+}
+
+template <class Step>
+void StoredWorksheet::Compute(Worksheet& worksheet, Field result, Step step) {
+    if (result.row != Field::NoRow) {
+        const int number = result.row.value + 1;
+        return Try({number, Last}, OfferPrefix(number), step);
+    }
+    const KeptValue& cause = CauseOf(result.id);
+    const Place place{0, cause.readPlace};
+    Try(place, cause.name, step);
+    if (result.id == FieldId::CurPayment) {
+        // It keeps the saved value until one of its inputs is entered again.
+        const auto index = static_cast<std::size_t>(cause.readPlace - 1);
+        Try(place, cause.name, [&] { PutValue(worksheet, result, m_loan.at(index)); });
     }
 }
 

@@ -25,23 +25,26 @@ std::optional<std::string> KeyOf(const QString& name) {
                            : std::nullopt;
 }
 
-void WriteOffer(const RegistryAPI& store, const std::string& key, const CLoan& offer, int number,
-                const StoredTexts& texts) {
-    for (const KeptValue<CLoan>& value : KeptOfferValues()) {
-        store.SetValue(StoreRoot, key, OfferPrefix(number) + value.name, value.type,
-                       value.write(offer, texts));
+/// Writes the values of the loan, or of the offer with this prefix; `valueOf` gives that of a
+/// field.
+template <class ValueOf>
+void WriteValues(const RegistryAPI& store, const std::string& key, const std::string& prefix,
+                 std::span<const KeptValue> values, ValueOf valueOf) {
+    for (const KeptValue& value : values) {
+        store.SetValue(StoreRoot, key, prefix + value.name, value.type, valueOf(value.field));
     }
 }
 
 void Write(const RegistryAPI& store, const std::string& key, const Worksheet& worksheet) {
     const StoredTexts texts(worksheet.Texts().Formats());
-    for (const KeptValue<Worksheet>& value : KeptWorksheetValues()) {
-        store.SetValue(StoreRoot, key, value.name, value.type, value.write(worksheet, texts));
-    }
+    WriteValues(store, key, "", KeptWorksheetValues(),
+                [&](FieldId field) { return ToStored(worksheet.Value({field}), texts); });
     std::int32_t count = 0;
-    for (const CLoan& offer : worksheet.OffersAsEntered()) {
-        if (WorksheetStore::IsWorthKeeping(offer)) {
-            WriteOffer(store, key, offer, ++count, texts);
+    for (OfferIndex offer{0}; offer.value < worksheet.OfferCount(); ++offer.value) {
+        if (WorksheetStore::IsWorthKeeping(worksheet.Offer(offer))) {
+            WriteValues(store, key, OfferPrefix(++count), KeptOfferValues(), [&](FieldId field) {
+                return ToStored(worksheet.Value(field, offer), texts);
+            });
         }
     }
     store.SetValue(StoreRoot, key, LoanCountName, RegistryType::Number, count);

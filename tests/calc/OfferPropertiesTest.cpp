@@ -62,7 +62,7 @@ TEST(OfferProperties, ResultsAreThoseOfItsPrincipalPaymentAndSchedule) {
         EXPECT_EQ(tried.offer.PandI(),
                   PrincipalAndInterest(loan.amount, loan.rate, loan.term, loan.code));
         const Money least = tried.offer.PandI().IsZero() ? Money() : loan.LeastPayment();
-        EXPECT_EQ(tried.offer.LeastPayment(), least);
+        EXPECT_EQ(tried.offer.LeastPayment(tried.offer.PandI()), least);
         EXPECT_EQ(tried.offer.Payment(), least);
         EXPECT_EQ(tried.offer.ActualPayment(), least);
         EXPECT_EQ(tried.offer.Forced(), !least.IsZero());
@@ -88,7 +88,7 @@ TEST(OfferProperties, AnIntendedPaymentBelowTheComputedOneIsRefused) {
     ForRandomCases(2'000, [](Random& random) {
         RandomOffer tried(random);
         SCOPED_TRACE(tried.loan);
-        const Money least = tried.offer.LeastPayment();
+        const Money least = tried.offer.LeastPayment(tried.offer.PandI());
         const Money entered = Money::FromTenThousandths(
             random.OneIn(3) ? least.TenThousandths() + random.Whole(-1, 1)
                             : random.Whole(-10'000, least.TenThousandths() * 2));

@@ -1,6 +1,7 @@
 // The entries of the File menu, with a fake printer.
 
 #include "PrintCommands.h"
+#include "EnterValues.h"
 #include "QuendNames.h"
 
 #include "DrawnItems.h"
@@ -98,7 +99,7 @@ TEST_F(PrintCommandsTest, SetUpNeverStartsAJob) {
     EXPECT_TRUE(Printer().printed.empty());
 }
 
-TEST_F(PrintCommandsTest, AFailureOfTheDialogIsNotReported) {
+TEST_F(PrintCommandsTest, AFailureOfTheDialogIsNotTold) {
     Begin();
     Printer().whileAsking = [] { throw std::runtime_error("no printing system"); };
     Print();
@@ -223,7 +224,7 @@ TEST_P(EndsOfProgram, PrintTheReportThatIsNotYetDrawn) {
     EXPECT_EQ(Printer().printed.size(), 1U);
 }
 
-TEST_P(EndsOfProgram, ReportAPrintJobThatFails) {
+TEST_P(EndsOfProgram, TellOfAReportThatCannotBePrinted) {
     Begin(1h);
     Printer().outcome = {PrintFault::NoServer};
     Print();
@@ -284,7 +285,7 @@ TEST_F(PrintCommandsTest, WhereNothingCanPrintNoJobStarts) {
     EXPECT_TRUE(Printer().printed.empty());
 }
 
-TEST_F(PrintCommandsTest, ALostDocumentIsReportedOnce) {
+TEST_F(PrintCommandsTest, ALostDocumentIsToldOnce) {
     Begin();
     for (const Fault& fault : Faults()) {
         Printer().outcome = fault.outcome;
@@ -300,7 +301,7 @@ TEST_F(PrintCommandsTest, ALostDocumentIsReportedOnce) {
                                              QStringLiteral("\n\nToo hot.")});
 }
 
-TEST_F(PrintCommandsTest, MarginsWithoutSpaceForARowAreRefused) {
+TEST_F(PrintCommandsTest, MarginsWithoutRoomForARowAreRefused) {
     struct {
         QSizeF space; // inches
         bool prints;
@@ -313,8 +314,8 @@ TEST_F(PrintCommandsTest, MarginsWithoutSpaceForARowAreRefused) {
         {{0, 10.5}, false}, {{0, 0}, false},
     };
     Begin();
-    SheetToWrite().StoreWho(Row{0}, QStringLiteral("Bank of the far prairie ").repeated(40));
-    SheetToWrite().ShowOffer(Row{0});
+    EnterText(SheetToWrite(), {FieldId::Who, Row{0}},
+              QStringLiteral("Bank of the far prairie ").repeated(40));
     for (const auto& row : table) {
         Printer().space = row.space * TwipsPerInch;
         Printer().printed.clear();

@@ -1,4 +1,5 @@
 #include "PrintServerFixture.h"
+#include "EnterValues.h"
 
 #include "FilePrinter.h"
 #include "Language.h"
@@ -86,9 +87,8 @@ void PrintServerTest::FillRows(int count) {
     Window().Rows().GrowTo(Row{count - 1});
     for (int row = 0; row < count; ++row) {
         const QString name = QStringLiteral("Bank%1").arg(row);
-        SheetToWrite().StoreWho(
-            Row{row}, (name + QStringLiteral(" of the far prairie ")).repeated(5).trimmed());
-        SheetToWrite().ShowOffer(Row{row});
+        EnterText(SheetToWrite(), {FieldId::Who, Row{row}},
+                  (name + QStringLiteral(" of the far prairie ")).repeated(5).trimmed());
     }
 }
 

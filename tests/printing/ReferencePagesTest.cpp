@@ -2,6 +2,7 @@
 // each version of Qt, because each draws text a little differently. To store new pictures, run with
 // QUEND_KEEP_PAGES=1 and check them by eye.
 
+#include "EnterValues.h"
 #include "OfferRows.h"
 #include "PagePainter.h"
 #include "QuendNames.h"
@@ -45,23 +46,21 @@ protected:
         Settle();
     }
     void FillRow(Row row) {
-        Worksheet& sheet = SheetToWrite();
         constexpr std::array codes{"M", "B", "W", "Q"};
-        CLoan& offer = sheet.OfferOfRow(row);
-        offer.SetPoints(Percent::FromPercent(row.value % 3 * 0.5));
-        offer.SetFinancePoints(row.value % 3 == 1);
-        offer.SetInterestRate(Rate::FromFraction(SampleRate(row)));
-        offer.SetTerm(Months{360});
-        offer.SetFrequencyCode(FrequencyCode(
-            QLatin1String(codes.at(static_cast<std::size_t>(row.value) % codes.size()))));
+        const QLatin1String code(codes.at(static_cast<std::size_t>(row.value) % codes.size()));
         const int words = GetParam().lenderWords * (row.value == 0 ? 10 : 1);
         QStringList text;
         constexpr std::array lenders{"First", "Prairie", "Savings-Bank", "Mrs.", "Miller"};
         for (int word = 0; word < words; ++word) {
             text << QLatin1String(lenders.at(static_cast<std::size_t>(word) % lenders.size()));
         }
-        offer.SetWho(text.join(u' '));
-        sheet.ShowOffer(row);
+        EnterOffer(SheetToWrite(), row,
+                   {{FieldId::Points, Percent::FromPercent(row.value % 3 * 0.5)},
+                    {FieldId::FinancePoints, row.value % 3 == 1},
+                    {FieldId::InterestRate, Rate::FromFraction(SampleRate(row))},
+                    {FieldId::Term, Months{360}},
+                    {FieldId::Frequency, FrequencyCode(code)},
+                    {FieldId::Who, text.join(u' ')}});
     }
 };
 

@@ -1,6 +1,7 @@
 // What the report reads from the live window.
 
 #include "ReportInputReader.h"
+#include "EnterValues.h"
 #include "OfferRows.h"
 #include "QuendNames.h"
 
@@ -58,7 +59,7 @@ QString SidesOf(const std::vector<FormEntry>& entries) {
     return sides;
 }
 
-TEST_F(ReportInputReaderTest, TextsAndListsAreLeftNumbersRight) {
+TEST_F(ReportInputReaderTest, TextsAndListsStandLeftNumbersRight) {
     Open();
     const ReportInput form = Read();
     EXPECT_EQ(SidesOf(form.header), u"llrrrrr");
@@ -136,8 +137,7 @@ TEST_F(ReportInputReaderTest, RowsOutOfSightAreThere) {
     Open();
     Window().Rows().GrowTo(Row{15});
     for (int row = 0; row < 16; ++row) {
-        SheetToWrite().StoreWho(Row{row}, QStringLiteral("Bank %1").arg(row));
-        SheetToWrite().ShowOffer(Row{row});
+        EnterText(SheetToWrite(), {FieldId::Who, Row{row}}, QStringLiteral("Bank %1").arg(row));
     }
     Window().Rows().ShowOfferRow(Row{15});
     ASSERT_GT(Bar().value(), 0);
@@ -212,8 +212,7 @@ TEST_F(ReportInputReaderTest, BreaksAndStrayCharactersAreCleaned) {
         {QStringLiteral("café 🏠"), QStringLiteral("café 🏠")},
     };
     for (const auto& lender : cases) {
-        SheetToWrite().StoreWho(Row{0}, lender.stored);
-        SheetToWrite().ShowOffer(Row{0});
+        EnterText(SheetToWrite(), {FieldId::Who, Row{0}}, lender.stored);
         EXPECT_EQ(Read().rows.front().back().toStdString(), lender.printed.toStdString());
     }
 }

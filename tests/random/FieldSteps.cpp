@@ -52,7 +52,7 @@ void RandomUser::EnterField(unsigned a, unsigned /*b*/) { Enter(AnyInput(a)); }
 
 void RandomUser::Enter(Field field) {
     const View before = Look();
-    if (field.id == FieldId::FinancePoints || RuleOf(field.id).kind == ValueKind::Choice) {
+    if (field.id == FieldId::FinancePoints || RuleOf(field.id).IsChoice()) {
         return; // a click there makes a choice
     }
     if (Click(*Control(field)) && m_edited != field) {
@@ -206,7 +206,7 @@ void RandomUser::Arrow(unsigned a, unsigned /*b*/) {
     const View before = Look();
     const Qt::Key key = a % 3 == 0 ? Qt::Key_Up : Qt::Key_Down;
     Press(key);
-    if (RuleOf(field.id).kind == ValueKind::Choice) {
+    if (RuleOf(field.id).IsChoice()) {
         const QString now = LookAt(field).text;
         if (now != before.text) {
             m_model.StoreChoice(field, now);

@@ -286,7 +286,7 @@ void RandomUser::LeaveInModel(const View& before) {
         }
         break;
     default:
-        if (RuleOf(field.id).kind == ValueKind::Choice) {
+        if (RuleOf(field.id).IsChoice()) {
             m_model.LeaveChoice(field, before.text);
         } else {
             m_model.Leave(field, before.text);

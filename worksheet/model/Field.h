@@ -65,7 +65,8 @@ enum class ValueKind {
     Decimal,        ///< points, a Percent
     WholeTerm,      ///< whole months; typed in whole months or whole years
     FractionalTerm, ///< whole months; typed in whole months or in years and parts of years
-    Choice,         ///< a text picked from a list
+    LoanType,       ///< a LoanTypeCode, picked from a list
+    Frequency,      ///< a FrequencyCode, picked from a list
     Flag,           ///< ticked or not
     Date,           ///< a calendar date
     Text,           ///< free text
@@ -95,6 +96,10 @@ struct FieldRule {
         return kind == ValueKind::Amount || kind == ValueKind::Percent ||
                kind == ValueKind::Decimal || kind == ValueKind::WholeTerm ||
                kind == ValueKind::FractionalTerm;
+    }
+
+    constexpr bool IsChoice() const {
+        return kind == ValueKind::LoanType || kind == ValueKind::Frequency;
     }
 
     /// Its text is read when the field is left, and may be refused.

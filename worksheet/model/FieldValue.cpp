@@ -1,43 +1,55 @@
 #include "FieldValue.h"
 
+#include "Failure.h"
+#include "Frequency.h"
+#include "IsValidNumber.h"
+#include "TypedDate.h"
+
 namespace quend::model {
 
-bool IsZero(const FieldNumber& number) {
-    return std::visit([](const auto& value) { return value.IsZero(); }, number);
+bool IsZero(const FieldValue& value) {
+    return std::visit([](const auto& held) { return held == std::decay_t<decltype(held)>{}; },
+                      value);
 }
 
-QString FieldFormats::EntryText(const FieldNumber& number) const {
-    if (IsZero(number)) {
+QString FieldFormats::EntryText(const FieldValue& value) const {
+    if (IsZero(value)) {
         return {};
     }
-    if (const auto* amount = std::get_if<Money>(&number)) {
-        return m_formats.GeneralNumber(*amount);
-    }
-    if (const auto* term = std::get_if<Months>(&number)) {
-        return m_formats.GeneralNumber(m_termInMonths ? term->count : term->InYears());
-    }
-    const auto* rate = std::get_if<Rate>(&number);
-    const Percent percent = rate != nullptr ? Percent::FromRate(*rate) : std::get<Percent>(number);
-    return m_formats.GeneralNumber(percent.Value());
+    const ByType text{
+        [&](Money amount) { return m_formats.GeneralNumber(amount); },
+        [&](Rate rate) { return m_formats.GeneralNumber(Percent::FromRate(rate).Value()); },
+        [&](Percent percent) { return m_formats.GeneralNumber(percent.Value()); },
+        [&](Months term) {
+            return m_formats.GeneralNumber(m_termInMonths ? term.count : term.InYears());
+        },
+        [&](Date date) { return m_formats.ShortDate(date); },
+        [](const LoanTypeCode& code) { return LoanTypeCodeToText(code); },
+        [](const FrequencyCode& code) { return FrequencyCodeToText(code); },
+        [](const QString& free) { return free; },
+        [](bool /*ticked*/) { return QString(); },
+    };
+    return std::visit(text, value);
 }
 
-QString FieldFormats::DisplayText(const FieldNumber& number) const {
-    if (IsZero(number)) {
+QString FieldFormats::DisplayText(const FieldValue& value) const {
+    if (IsZero(value)) {
         return {};
     }
-    if (const auto* amount = std::get_if<Money>(&number)) {
+    if (const auto* amount = std::get_if<Money>(&value)) {
         return m_formats.Currency(*amount);
     }
-    if (const auto* rate = std::get_if<Rate>(&number)) {
+    if (const auto* rate = std::get_if<Rate>(&value)) {
         return m_formats.Percent(*rate);
     }
-    if (const auto* points = std::get_if<Percent>(&number)) {
-        return m_formats.ThreeDecimals(points->Value());
+    if (const auto* percent = std::get_if<Percent>(&value)) {
+        return m_formats.ThreeDecimals(percent->Value());
     }
-    return m_formats.InOwnDigits(EntryText(number));
+    const QString text = EntryText(value);
+    return std::holds_alternative<Months>(value) ? m_formats.InOwnDigits(text) : text;
 }
 
-FieldNumber FieldFormats::Read(ValueKind kind, const QString& text) const {
+FieldValue FieldFormats::Read(ValueKind kind, const QString& text) const {
     const auto percent = [&] {
         return text.isEmpty() ? Percent() : Percent::FromPercent(m_formats.ReadReal(text));
     };
@@ -48,9 +60,20 @@ FieldNumber FieldFormats::Read(ValueKind kind, const QString& text) const {
         return percent().ToRate();
     case ValueKind::Decimal:
         return percent();
-    default:
+    case ValueKind::WholeTerm:
+    case ValueKind::FractionalTerm:
         return text.isEmpty() ? Months() : ReadTerm(kind, text);
+    case ValueKind::LoanType:
+        return LoanTypeTextToCode(text);
+    case ValueKind::Frequency:
+        return FrequencyTextToCode(text);
+    case ValueKind::Text:
+        return text;
+    case ValueKind::Flag:
+    case ValueKind::Date:
+        break;
     }
+    throw ConversionFailure(ProgramSource);
 }
 
 Months FieldFormats::ReadTerm(ValueKind kind, const QString& text) const {
@@ -62,6 +85,37 @@ Months FieldFormats::ReadTerm(ValueKind kind, const QString& text) const {
     // lenders offer whole years, while any number of months may be left to pay.
     return kind == ValueKind::FractionalTerm ? Months::FromYears(value)
                                              : Months::FromWholeYears(value);
+}
+
+std::optional<FieldValue> FieldFormats::ReadTyped(FieldId field, const QString& text,
+                                                  Date today) const {
+    const FieldRule& rule = RuleOf(field);
+    if (rule.kind == ValueKind::Date) {
+        const auto date = ReadTypedDate(text, m_formats, today);
+        return date ? std::optional<FieldValue>(*date) : std::nullopt;
+    }
+    if (rule.IsNumber() && !IsValidNumber(text, rule.decimals, m_formats.DecimalSeparator())) {
+        return std::nullopt;
+    }
+    try {
+        return Read(rule.kind, text);
+    } catch (const ConversionFailure&) { // a lone sign or decimal symbol
+        return std::nullopt;
+    }
+}
+
+bool FieldFormats::AllowsKey(FieldId field, QChar key) const {
+    constexpr char16_t firstPrinted = 32;
+    constexpr char16_t deleteKey = 127;
+    const FieldRule& rule = RuleOf(field);
+    if (key.unicode() < firstPrinted || key.unicode() == deleteKey) {
+        return true;
+    }
+    if (rule.kind == ValueKind::Date) {
+        return MayTypeDate(key, m_formats);
+    }
+    return (key >= u'0' && key <= u'9') ||
+           (rule.separatorKey && key == m_formats.DecimalSeparator());
 }
 
 } // namespace quend::model

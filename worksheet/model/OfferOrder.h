@@ -26,6 +26,13 @@ public:
         return m_offers.at(static_cast<std::size_t>(row.value));
     }
 
+    /// Throws std::out_of_range for an offer that does not exist.
+    Row RowOfOffer(OfferIndex offer) const {
+        const auto row = std::ranges::find(m_offers, offer) - m_offers.begin();
+        static_cast<void>(m_offers.at(static_cast<std::size_t>(row)));
+        return Row{static_cast<int>(row)};
+    }
+
     /// Adds one row at the end for one more offer, in any order.
     void Append() { m_offers.push_back({m_offers.size()}); }
 

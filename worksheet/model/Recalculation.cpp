@@ -40,25 +40,34 @@ private:
 
 } // namespace
 
-void Worksheet::Recalculate(unsigned pending) {
-    AllSteps steps;
-    if ((pending & Escrow) != 0) {
-        // Every payment includes its share of the escrow.
-        steps.Run([&] { RecalculateEscrow(); });
-        pending |= Offers | Payment | Schedule;
+void Worksheet::Recalculate(unsigned steps, Row row) {
+    m_pending.Add(steps, row);
+    if (!m_deferred) {
+        AllSteps all;
+        ComputePending([&](Field /*result*/, const auto& step) { all.Run(step); });
+        all.ThrowFirst();
     }
-    if ((pending & Offers) != 0) {
-        for (Row row{0}; row <= HighestOfferRow(); ++row.value) {
-            steps.Run([&] { RecalculateOffer(row); });
+}
+
+void Worksheet::ComputePending(const RunStep& run) {
+    if (m_pending.Take(Pending::Escrow)) {
+        run({FieldId::MonthlyEscrow}, [this] { RecalculateEscrow(); });
+    }
+    const bool all = m_pending.Take(Pending::Offers);
+    for (Row row{0}; row <= HighestOfferRow(); ++row.value) {
+        const bool payoff = m_pending.TakePayoff(row);
+        if (m_pending.TakeOffer(row) || all) {
+            run({FieldId::PandI, row}, [this, row] { RecalculateOffer(row); });
+        } else if (payoff) {
+            run({FieldId::PayoffDate, row}, [this, row] { RecalculatePayoff(row); });
         }
     }
-    if ((pending & Payment) != 0) {
-        steps.Run([&] { RecalculateCurrentPayment(); });
+    if (m_pending.Take(Pending::Payment)) {
+        run({FieldId::CurPayment}, [this] { RecalculateCurrentPayment(); });
     }
-    if ((pending & Schedule) != 0) {
-        steps.Run([&] { RecalculateCurrentSchedule(); });
+    if (m_pending.Take(Pending::Schedule)) {
+        run({FieldId::CurPayoffDate}, [this] { RecalculateCurrentSchedule(); });
     }
-    steps.ThrowFirst();
 }
 
 void Worksheet::RecalculateEscrow() {
@@ -74,14 +83,19 @@ void Worksheet::RecalculateEscrow() {
 }
 
 void Worksheet::RecalculateOffer(Row row) {
-    CLoan& offer = OfferOfRow(row);
+    CLoan& offer = OfferIn(row);
     constexpr std::array results{FieldId::PandI, FieldId::Payment, FieldId::PayoffDate,
                                  FieldId::Interest};
     std::size_t shown = 0;
     try {
-        ShowAmount({FieldId::PandI, row}, offer.PandI());
+        const Money pAndI = offer.PandI();
+        ShowText({FieldId::PandI, row}, pAndI);
         shown = 1;
-        ShowPayment(offer, row);
+        ShowText({FieldId::Payment, row}, offer.Payment(pAndI));
+        if (offer.Forced()) {
+            Show({FieldId::ActualPayment, row});
+            MarkRaised(row);
+        }
         shown = 2;
         // The payoff date needs an intended payment that is too low to be raised first, which the
         // payment does; the interest is that of the schedule just run.
@@ -95,54 +109,28 @@ void Worksheet::RecalculateOffer(Row row) {
     }
 }
 
-void Worksheet::ShowPayment(CLoan& offer, Row row) {
-    ShowAmount({FieldId::Payment, row}, offer.Payment());
-    if (offer.Forced()) {
-        MarkRaised(row);
-    }
-}
-
 void Worksheet::ShowPayoff(CLoan& offer, Row row) {
     const Date payoff = offer.PayoffDate();
-    ShowDate({FieldId::PayoffDate, row}, payoff);
+    ShowText({FieldId::PayoffDate, row}, payoff);
     m_display->ShowToolTip({FieldId::PayoffDate, row}, !payoff.IsNone());
-    ShowAmount({FieldId::Interest, row}, offer.Interest());
+    ShowText({FieldId::Interest, row}, offer.Interest());
     m_display->ShowToolTip({FieldId::Interest, row}, false);
 }
 
 void Worksheet::MarkRaised(Row row) {
-    const Field field{FieldId::ActualPayment, row};
-    Show(field);
     m_raised.insert(OfferIndexOfRow(row));
-    m_display->ShowMark(field, Mark::Raised);
+    m_display->ShowMark({FieldId::ActualPayment, row}, Mark::Raised);
     m_display->PaymentRaised();
 }
 
-/// The intended payment is the only input that the calculator may replace. Only what depends on it
-/// is shown again.
-void Worksheet::StoreActualPayment(Row row, Money payment) {
-    CLoan& offer = OfferOfRow(row);
-    const Field field{FieldId::ActualPayment, row};
-    m_paymentRefused = false;
+/// Only these results depend on the intended payment.
+void Worksheet::RecalculatePayoff(Row row) {
     try {
-        offer.SetActualPayment(payment);
+        ShowPayoff(OfferIn(row), row);
     } catch (const Failure&) {
-        Show(field);
-        throw;
-    }
-    // The check reads the payment. That may have raised a value that this one has just replaced.
-    static_cast<void>(offer.Forced());
-    if (m_paymentRefused) {
-        MarkRaised(row);
-    } else {
-        Show(field);
-    }
-    try {
-        ShowPayoff(offer, row);
-    } catch (const Failure&) {
-        ShowDate({FieldId::PayoffDate, row}, {});
+        m_display->ShowText({FieldId::PayoffDate, row}, {});
         m_display->ShowToolTip({FieldId::PayoffDate, row}, false);
-        ShowAmount({FieldId::Interest, row}, {});
+        m_display->ShowText({FieldId::Interest, row}, {});
         throw;
     }
 }
@@ -157,7 +145,8 @@ void Worksheet::RecalculateCurrentPayment() {
     MarkMissing(FieldId::CurLoanTerm, noTerm && !none);
     MarkMissing(FieldId::CurInterestRate, noRate && !none);
     if (!none && m_current.frequency.IsNone()) {
-        SetCurrentFrequency(FrequencyCodeToText(FrequencyCode(QStringLiteral("M"))));
+        Write(m_current.frequency, FrequencyCode(QStringLiteral("M")),
+              FieldId::CurPaymentFrequency);
     }
     if (noAmount || noTerm || noRate) {
         m_current.pAndI = Money();
@@ -189,7 +178,7 @@ void Worksheet::RecalculateCurrentSchedule() {
         m_current.payoffDate = totals.payoff;
         m_current.amountLeft = totals.paid;
         m_current.interestLeft = totals.interest;
-        ShowDate({FieldId::CurPayoffDate}, totals.payoff);
+        Show({FieldId::CurPayoffDate});
         m_display->ShowToolTip({FieldId::CurPayoffDate}, false);
         Show({FieldId::CurAmountLeft});
         Show({FieldId::CurInterestLeft});
@@ -210,14 +199,6 @@ void Worksheet::RecalculateCurrentSchedule() {
         throw;
     }
     show();
-}
-
-void Worksheet::ShowAmount(Field field, Money amount) const {
-    m_display->ShowText(field, m_texts.DisplayText(amount));
-}
-
-void Worksheet::ShowDate(Field field, Date date) const {
-    m_display->ShowText(field, date.IsNone() ? QString() : m_texts.Formats().ShortDate(date));
 }
 
 } // namespace quend::model

@@ -10,60 +10,55 @@ namespace quend::model {
 
 namespace {
 
-const DisplayFormats& FormatsOf(const Worksheet& worksheet) { return worksheet.Texts().Formats(); }
-
-QString PointsText(const Worksheet& worksheet, Row row, const QString& /*shown*/) {
-    return FormatsOf(worksheet).GeneralNumber(worksheet.OfferOfRow(row).Points().Value());
+QString PointsText(const DisplayFormats& formats, const FieldValue& value) {
+    return formats.GeneralNumber(std::get<Percent>(value).Value());
 }
 
-QString RateText(const Worksheet& worksheet, Row row, const QString& /*shown*/) {
-    return FormatsOf(worksheet).GeneralNumber(worksheet.OfferOfRow(row).InterestRate().Fraction());
+FieldValue ReadPoints(const DisplayFormats& formats, const QString& text) {
+    return Percent::FromPercent(formats.ReadReal(text));
+}
+
+QString RateText(const DisplayFormats& formats, const FieldValue& value) {
+    return formats.GeneralNumber(std::get<Rate>(value).Fraction());
+}
+
+FieldValue ReadRate(const DisplayFormats& formats, const QString& text) {
+    return Rate::FromFraction(formats.ReadReal(text));
 }
 
 /// The displayed payment, read back as a plain number.
-QString PaymentText(const Worksheet& worksheet, Row row, const QString& /*shown*/) {
-    const Money payment = worksheet.OfferOfRow(row).ActualPayment();
-    return payment.IsZero() ? QString()
-                            : FormatsOf(worksheet).GeneralNumber(payment.RoundedToCents());
+QString PaymentText(const DisplayFormats& formats, const FieldValue& value) {
+    const Money payment = std::get<Money>(value);
+    return payment.IsZero() ? QString() : formats.GeneralNumber(payment.RoundedToCents());
 }
 
-QString WhoText(const Worksheet& /*worksheet*/, Row /*row*/, const QString& shown) { return shown; }
-
-DroppedValue ReadPoints(const Worksheet& worksheet, const QString& text) {
-    return Percent::FromPercent(FormatsOf(worksheet).ReadReal(text));
+FieldValue ReadPayment(const DisplayFormats& formats, const QString& text) {
+    return formats.ReadAmount(text);
 }
 
-DroppedValue ReadRate(const Worksheet& worksheet, const QString& text) {
-    return Rate::FromFraction(FormatsOf(worksheet).ReadReal(text));
-}
-
-DroppedValue ReadAmount(const Worksheet& worksheet, const QString& text) {
-    return FormatsOf(worksheet).ReadAmount(text);
-}
-
-DroppedValue ReadWho(const Worksheet& /*worksheet*/, const QString& text) {
+FieldValue ReadWho(const DisplayFormats& /*formats*/, const QString& text) {
     return WithLenderLines(text);
 }
 
-struct TransferRules {
+struct TransferRule {
     FieldId field;
-    QString (*text)(const Worksheet&, Row, const QString&);
-    DroppedValue (*read)(const Worksheet&, const QString&);
+    QString (*text)(const DisplayFormats&, const FieldValue&); ///< null: the text that is shown
+    FieldValue (*read)(const DisplayFormats&, const QString&);
 };
 
 // clang-format off
 // The field's rule decides whether a text has the right form.
-constexpr std::array TransferRuless{
+constexpr std::array TransferRules{
     //           field                   travels as   is read as
-    TransferRules{FieldId::Points,        PointsText,  ReadPoints},
-    TransferRules{FieldId::InterestRate,  RateText,    ReadRate}, // a fraction, both ways
-    TransferRules{FieldId::ActualPayment, PaymentText, ReadAmount},
-    TransferRules{FieldId::Who,           WhoText,     ReadWho},
+    TransferRule{FieldId::Points,        PointsText,  ReadPoints},
+    TransferRule{FieldId::InterestRate,  RateText,    ReadRate}, // a fraction, both ways
+    TransferRule{FieldId::ActualPayment, PaymentText, ReadPayment},
+    TransferRule{FieldId::Who,           nullptr,     ReadWho},
 };
 // clang-format on
 
-const TransferRules& ValueOf(FieldId field) {
-    return *std::ranges::find(TransferRuless, field, &TransferRules::field);
+const TransferRule& TransferRuleOf(FieldId field) {
+    return *std::ranges::find(TransferRules, field, &TransferRule::field);
 }
 
 } // namespace
@@ -74,34 +69,24 @@ QString WithLenderLines(QString text) {
 }
 
 bool IsDraggable(FieldId field) {
-    return std::ranges::find(TransferRuless, field, &TransferRules::field) != TransferRuless.end();
+    return std::ranges::find(TransferRules, field, &TransferRule::field) != TransferRules.end();
 }
 
 QString DraggedText(const Worksheet& worksheet, Field field, const QString& shown) {
-    return ValueOf(field.id).text(worksheet, field.row, shown);
+    const TransferRule& rule = TransferRuleOf(field.id);
+    return rule.text == nullptr ? shown
+                                : rule.text(worksheet.Texts().Formats(), worksheet.Value(field));
 }
 
 bool MayDrop(const Worksheet& worksheet, FieldId field, const QString& text) {
     const FieldRule& rule = RuleOf(field);
     return !rule.IsNumber() ||
            (!text.isEmpty() &&
-            IsValidNumber(text, rule.decimals, FormatsOf(worksheet).DecimalSeparator()));
+            IsValidNumber(text, rule.decimals, worksheet.Texts().Formats().DecimalSeparator()));
 }
 
-DroppedValue ReadDropped(const Worksheet& worksheet, FieldId field, const QString& text) {
-    return ValueOf(field).read(worksheet, text);
-}
-
-void StoreDropped(Worksheet& worksheet, Field field, const DroppedValue& value) {
-    if (const auto* who = std::get_if<QString>(&value)) {
-        worksheet.StoreWho(field.row, *who);
-    } else if (const auto* amount = std::get_if<Money>(&value)) {
-        worksheet.StoreOfferNumber(field, *amount);
-    } else if (const auto* rate = std::get_if<Rate>(&value)) {
-        worksheet.StoreOfferNumber(field, *rate);
-    } else {
-        worksheet.StoreOfferNumber(field, std::get<Percent>(value));
-    }
+FieldValue ReadDropped(const Worksheet& worksheet, FieldId field, const QString& text) {
+    return TransferRuleOf(field).read(worksheet.Texts().Formats(), text);
 }
 
 } // namespace quend::model

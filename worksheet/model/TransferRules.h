@@ -1,13 +1,9 @@
 #pragma once
 
-#include "Field.h"
+#include "FieldValue.h"
 #include "ModelNames.h"
-#include "Money.h"
-#include "Quantities.h"
 
 #include <QString>
-
-#include <variant>
 
 namespace quend::model {
 
@@ -34,15 +30,8 @@ QString DraggedText(const Worksheet& worksheet, Field field, const QString& show
 /// too many. Checks the form only: a lone sign passes here and fails in ReadDropped.
 bool MayDrop(const Worksheet& worksheet, FieldId field, const QString& text);
 
-/// Points, a rate, an amount, a lender.
-using DroppedValue = std::variant<Percent, Rate, Money, QString>;
-
 /// The value of a received text. Nothing is divided by a hundred: a rate arrives as a fraction. A
 /// lender gets the line ends of WithLenderLines. Throws ConversionFailure or OverflowFailure.
-DroppedValue ReadDropped(const Worksheet& worksheet, FieldId field, const QString& text);
-
-/// Stores a received value as if it had been typed: recalculates the row and sets Dirty if the
-/// value changed. Throws what the recalculation throws.
-void StoreDropped(Worksheet& worksheet, Field field, const DroppedValue& value);
+FieldValue ReadDropped(const Worksheet& worksheet, FieldId field, const QString& text);
 
 } // namespace quend::model

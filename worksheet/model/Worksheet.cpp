@@ -9,68 +9,10 @@ namespace quend::model {
 Worksheet::Worksheet(WorksheetDisplay& display, FieldFormats texts, std::function<Date()> today)
     : m_display(&display), m_texts(std::move(texts)), m_today(std::move(today)) {}
 
-// A name alone does not make a worksheet worth saving, so it does not set Dirty.
-void Worksheet::SetLoanName(const QString& name) {
-    m_loan.name = name;
-    Show({FieldId::LoanName});
-}
-
-void Worksheet::SetLoanType(const LoanTypeCode& code) {
-    Write(m_loan.type, code, FieldId::LoanType);
-}
-
-void Worksheet::SetLoanAmount(Money amount) {
-    Write(m_loan.amount, amount, FieldId::LoanAmount);
-    SetStartingAmounts();
-    Recalculate(Offers);
-}
-
-void Worksheet::SetLoanTerm(Months term) { Write(m_loan.term, term, FieldId::LoanTerm); }
-
-void Worksheet::SetEscrowTaxes(Money perYear) {
-    Write(m_loan.taxes, perYear, FieldId::AnnualTaxes);
-    Recalculate(Escrow);
-}
-
-void Worksheet::SetEscrowInsurance(Money perYear) {
-    Write(m_loan.insurance, perYear, FieldId::AnnualInsurance);
-    Recalculate(Escrow);
-}
-
-void Worksheet::SetCurrentLoanAmount(Money amount) {
-    Write(m_current.amount, amount, FieldId::CurLoanAmount);
-    Recalculate(Schedule);
-}
-
-void Worksheet::SetCurrentTerm(Months term) {
-    Write(m_current.term, term, FieldId::CurLoanTerm);
-    Recalculate(Schedule);
-}
-
-void Worksheet::SetCurrentInterestRate(Rate rate) {
-    Write(m_current.rate, rate, FieldId::CurInterestRate);
-    Recalculate(Schedule);
-}
-
 QString Worksheet::CurrentFrequency() const { return FrequencyCodeToText(m_current.frequency); }
 
 void Worksheet::SetCurrentFrequency(const QString& text) {
-    Write(m_current.frequency, FrequencyTextToCode(text), FieldId::CurPaymentFrequency);
-}
-
-void Worksheet::SetCurrentPayment(Money payment) {
-    Write(m_current.payment, payment, FieldId::CurPayment);
-    Recalculate(Schedule);
-}
-
-void Worksheet::SetCurrentBalance(Money balance) {
-    Write(m_current.balance, balance, FieldId::CurrentBalance);
-    Recalculate(Schedule);
-}
-
-void Worksheet::SetCurrentActualPayment(Money payment) {
-    Write(m_current.actualPayment, payment, FieldId::CurActualPayment);
-    Recalculate(Schedule);
+    Store({FieldId::CurPaymentFrequency}, FrequencyTextToCode(text));
 }
 
 QString Worksheet::CurrentActualFrequency() const {
@@ -78,12 +20,7 @@ QString Worksheet::CurrentActualFrequency() const {
 }
 
 void Worksheet::SetCurrentActualFrequency(const QString& text) {
-    Write(m_current.actualFrequency, FrequencyTextToCode(text), FieldId::ActPaymentFrequency);
-}
-
-void Worksheet::SetCurrentNextPayment(Date date) {
-    Write(m_current.nextPayment, date, FieldId::NextPayment);
-    Recalculate(Schedule);
+    Store({FieldId::ActPaymentFrequency}, FrequencyTextToCode(text));
 }
 
 void Worksheet::GrowOfferArrays(Row from, Row to) {
@@ -103,18 +40,14 @@ void Worksheet::Clear() {
     GrowOfferArrays(Row{-1}, highest);
     ClearRaisedMarks();
     m_display->ShowSortOrder(Order());
-    ShowLoan();
+    for (const FieldRule& rule : LoanFields()) {
+        Show({rule.id});
+    }
     for (Row row{0}; row <= highest; ++row.value) {
-        ShowOffer(row);
+        ShowRow(row);
     }
-    Recalculate(Payment | Schedule);
+    Recalculate(Pending::Payment | Pending::Schedule);
     m_dirty = false;
-}
-
-void Worksheet::SetStartingAmounts() {
-    for (CLoan& offer : m_offers) {
-        offer.SetStartingAmount(m_loan.amount);
-    }
 }
 
 void Worksheet::PaymentRefused() {

@@ -2,9 +2,10 @@
 
 #include "CLoan.h"
 #include "FieldValue.h"
-#include "LoanTypes.h"
+#include "LoanValues.h"
 #include "ModelNames.h"
 #include "OfferOrder.h"
+#include "Pending.h"
 #include "WorksheetDisplay.h"
 
 #include <functional>
@@ -15,11 +16,11 @@ namespace quend::model {
 
 /// One worksheet: the loan wanted, the current loan and the offers, one in each row.
 ///
-/// Each value is a property with a getter and a setter. A setter stores, sets Dirty if an input
-/// changed, shows the value in its display format and recalculates what depends on it.
-/// Zero and empty mean "not entered" and show as an empty field.
+/// Every value enters through Store: typed, dropped, picked, ticked or loaded. Store keeps it, sets
+/// Dirty if an input changed, shows it in its display format and recalculates what depends on it.
+/// Zero means "not entered" and shows as an empty field.
 ///
-/// If a setter fails (Failure.h), every input keeps either its old or its new value, results that
+/// If storing fails (Failure.h), every input keeps either its old or its new value, results that
 /// could not be computed show as empty, all other recalculations finish, and then the failure is
 /// thrown.
 ///
@@ -34,43 +35,70 @@ public:
     Worksheet& operator=(Worksheet&&) = delete;
     ~Worksheet() override = default;
 
-    // The loan wanted. Types and frequencies are codes; ChoiceText gives their texts.
+    // Any field, by one table (WorksheetFields.cpp).
+    /// The stored value. Not for the results of an offer: they are not stored.
+    FieldValue Value(Field field) const;
+    /// The same for a field of one offer, whatever the order of the rows.
+    FieldValue Value(FieldId field, OfferIndex offer) const;
+    /// Stores an input, or the current payment. The value is of the field's kind.
+    void Store(Field field, const FieldValue& value);
+    /// The same for a field that is left, where the value may be the stored one: follows the rules
+    /// of a changed value, but throws only if something changed, such as a term that was missing.
+    void StoreAgain(Field field, const FieldValue& value);
+    /// The value of a typed or picked text, as FieldFormats::ReadTyped.
+    std::optional<FieldValue> Read(FieldId field, const QString& text) const;
+    QString EntryText(Field field) const { return m_texts.EntryText(Value(field)); }
+    /// Shows the stored value in its display format. Not for the results of an offer.
+    void Show(Field field) const;
+    /// Shows every choice again in the current language.
+    void ShowChoices() const;
+    const FieldFormats& Texts() const { return m_texts; }
+    /// Sets whether terms are typed and shown in months or in years, and shows them again.
+    void SetTermInMonths(bool inMonths);
+
+    /// Runs a recalculation; `result` is the first field that it shows. Catches what `step` throws.
+    using RunStep = std::function<void(Field result, const std::function<void()>& step)>;
+    /// Calls `store`, which stores values; they are shown, but nothing is computed until its end.
+    /// Then passes each recalculation that is due to `run`, once; `run` may store further values.
+    void StoreTogether(const std::function<void()>& store, const RunStep& run);
+
+    // The loan wanted.
     QString LoanName() const { return m_loan.name; }
     /// One blank counts as no name, too.
     static bool IsEmptyName(const QString& name) { return name.isEmpty() || name == u" "; }
-    void SetLoanName(const QString& name);
+    void SetLoanName(const QString& name) { Store({FieldId::LoanName}, name); }
     LoanTypeCode LoanType() const { return m_loan.type; }
-    void SetLoanType(const LoanTypeCode& code);
+    void SetLoanType(const LoanTypeCode& code) { Store({FieldId::LoanType}, code); }
     Money LoanAmount() const { return m_loan.amount; }
-    void SetLoanAmount(Money amount);
+    void SetLoanAmount(Money amount) { Store({FieldId::LoanAmount}, amount); }
     Months LoanTerm() const override { return m_loan.term; }
-    void SetLoanTerm(Months term);
+    void SetLoanTerm(Months term) { Store({FieldId::LoanTerm}, term); }
     Money EscrowTaxes() const { return m_loan.taxes; }
-    void SetEscrowTaxes(Money perYear);
+    void SetEscrowTaxes(Money perYear) { Store({FieldId::AnnualTaxes}, perYear); }
     Money EscrowInsurance() const { return m_loan.insurance; }
-    void SetEscrowInsurance(Money perYear);
+    void SetEscrowInsurance(Money perYear) { Store({FieldId::AnnualInsurance}, perYear); }
     Money EscrowMonthly() const override { return m_loan.escrowMonthly; }
 
-    // The current loan.
+    // The current loan. Its frequencies are texts of the current language.
     Money CurrentLoanAmount() const { return m_current.amount; }
-    void SetCurrentLoanAmount(Money amount);
+    void SetCurrentLoanAmount(Money amount) { Store({FieldId::CurLoanAmount}, amount); }
     Months CurrentTerm() const { return m_current.term; }
-    void SetCurrentTerm(Months term);
+    void SetCurrentTerm(Months term) { Store({FieldId::CurLoanTerm}, term); }
     Rate CurrentInterestRate() const { return m_current.rate; }
-    void SetCurrentInterestRate(Rate rate);
+    void SetCurrentInterestRate(Rate rate) { Store({FieldId::CurInterestRate}, rate); }
     QString CurrentFrequency() const;
     void SetCurrentFrequency(const QString& text);
     Money CurrentPandI() const { return m_current.pAndI; }
     Money CurrentPayment() const { return m_current.payment; }
-    void SetCurrentPayment(Money payment);
+    void SetCurrentPayment(Money payment) { Store({FieldId::CurPayment}, payment); }
     Money CurrentBalance() const { return m_current.balance; }
-    void SetCurrentBalance(Money balance);
+    void SetCurrentBalance(Money balance) { Store({FieldId::CurrentBalance}, balance); }
     Money CurrentActualPayment() const { return m_current.actualPayment; }
-    void SetCurrentActualPayment(Money payment);
+    void SetCurrentActualPayment(Money payment) { Store({FieldId::CurActualPayment}, payment); }
     QString CurrentActualFrequency() const;
     void SetCurrentActualFrequency(const QString& text);
     Date CurrentNextPayment() const { return m_current.nextPayment; }
-    void SetCurrentNextPayment(Date date);
+    void SetCurrentNextPayment(Date date) { Store({FieldId::NextPayment}, date); }
     Money CurrentAmountLeft() const { return m_current.amountLeft; }
     Money CurrentInterestLeft() const { return m_current.interestLeft; }
     Date CurrentPayoffDate() const { return m_current.payoffDate; }
@@ -80,15 +108,10 @@ public:
     /// Adds calculators for the offers after `from` up to `to`; existing ones are kept.
     void GrowOfferArrays(Row from, Row to);
     OfferIndex OfferIndexOfRow(Row row) const { return m_order.OfferIndexOfRow(row); }
-    const CLoan& OfferOfRow(Row row) const { return m_offers.at(OfferIndexOfRow(row).value); }
-    /// The calculator itself, for callers that set a whole offer; ShowOffer then shows it.
-    CLoan& OfferOfRow(Row row) { return m_offers.at(OfferIndexOfRow(row).value); }
-    /// All offers in the order of entry, whatever the order of the rows.
-    const std::vector<CLoan>& OffersAsEntered() const { return m_offers; }
+    Row RowOfOffer(OfferIndex offer) const { return m_order.RowOfOffer(offer); }
+    const CLoan& OfferOfRow(Row row) const { return Offer(OfferIndexOfRow(row)); }
     const CLoan& Offer(OfferIndex offer) const { return m_offers.at(offer.value); }
-    CLoan& Offer(OfferIndex offer) { return m_offers.at(offer.value); }
-    /// Shows the inputs of the offer in this row, then calculates it and shows the results.
-    void ShowOffer(Row row);
+    std::size_t OfferCount() const { return m_offers.size(); }
 
     // The order of the rows. New entries do not change it; only a sort or Clear does.
     SortOrder Order() const { return m_order.Order(); }
@@ -102,44 +125,9 @@ public:
     /// Removes the marks of raised payments.
     void ClearRaisedMarks();
 
-    // The worksheet as a whole.
     /// Restores the initial state: nothing entered, the next payment today, nothing to save. The
     /// rows stay, empty.
     void Clear();
-    /// Sets whether terms are typed and shown in months or in years, and shows them again.
-    void SetTermInMonths(bool inMonths);
-
-    // For the fields: one way in and out for every value that is typed, picked or ticked.
-    const FieldFormats& Texts() const { return m_texts; }
-    QString EntryText(Field field) const;
-    /// Whether a text has the form of the field's number and has a value; a lone sign has none.
-    /// Throws OverflowFailure for a number that the field cannot hold.
-    bool Accepts(Field field, const QString& text) const;
-    /// Whether this character may be typed into the field.
-    bool AllowsKey(FieldId field, QChar key) const;
-    /// Stores the text of a typed field. Throws ConversionFailure or OverflowFailure.
-    void StoreTyped(Field field, const QString& text);
-    /// Stores the field's present value again. An untouched field follows the same rules as a
-    /// changed one when it is left, but keeps the precision that its text cannot show. Throws only
-    /// if something changed, such as a term that was missing.
-    void StoreAgain(Field field);
-    /// Call when the list or the box of financed points loses the focus. As in StoreAgain, an
-    /// unchanged value throws only if something else changed.
-    void LeaveChoice(Field field, const QString& text);
-    void LeaveFinancePoints(Row row, bool financed);
-    /// Stores the text of a number field. Throws ConversionFailure or OverflowFailure.
-    void StoreNumber(Field field, const QString& text);
-    /// The same for an offer's number that is already converted: points, rate, term or intended
-    /// payment.
-    void StoreOfferNumber(Field field, const FieldNumber& number);
-    void StoreChoice(Field field, const QString& text);
-    void StoreFinancePoints(Row row, bool financed);
-    void StoreWho(Row row, const QString& who);
-    /// Shows the value of a field in its display format. Not for the results of an offer: they are
-    /// not stored, and RecalculateOffer shows them.
-    void Show(Field field) const;
-    /// Shows every choice again in the current language.
-    void ShowChoices() const;
 
     // The four recalculations.
     void RecalculateEscrow();
@@ -159,77 +147,40 @@ public:
     void PaymentRefused() override;
 
 private:
-    struct Loan {
-        QString name;
-        LoanTypeCode type;
-        Money amount;
-        Months term;
-        Money taxes;
-        Money insurance;
-        Money escrowMonthly;
-    };
-    struct CurrentLoan {
-        Money amount;
-        Months term;
-        Rate rate;
-        FrequencyCode frequency;
-        Money pAndI;
-        Money payment;
-        Money balance;
-        Money actualPayment;
-        FrequencyCode actualFrequency;
-        Date nextPayment;
-        Money amountLeft;
-        Money interestLeft;
-        Date payoffDate;
-    };
-    /// What to recalculate after a setter, each at most once and in this order.
-    enum Pending : unsigned {
-        Nothing = 0,
-        Escrow = 1,
-        Offers = 2,
-        Payment = 4,
-        Schedule = 8,
-    };
+    struct FieldAccess;
 
-    /// Stores and shows an input; sets Dirty if it changed.
-    template <class Value>
-    void Write(Value& stored, const Value& value, FieldId field) {
-        if (stored != value) {
-            stored = value;
+    CLoan& OfferIn(Row row) { return m_offers.at(OfferIndexOfRow(row).value); }
+    /// Keeps and shows a value; sets Dirty if it changed.
+    template <class Kept>
+    void Write(Kept& kept, const Kept& value, FieldId field) {
+        if (kept != value) {
+            kept = value;
             m_dirty = true;
         }
         Show({field});
     }
-    template <class Step>
-    void TellOnlyNews(Step step);
-    void Store(Field field, const FieldNumber& number);
-    void Recalculate(unsigned pending);
-    void SetStartingAmounts();
-    void StoreLoanNumber(FieldId field, const FieldNumber& number);
-    void StoreActualPayment(Row row, Money payment);
-    void ShowAmount(Field field, Money amount) const;
-    void ShowDate(Field field, Date date) const;
+    void Recalculate(unsigned steps, Row row = Field::NoRow);
+    void ComputePending(const RunStep& run);
+    void RecalculatePayoff(Row row);
+    void ShowText(Field field, const FieldValue& value) const;
+    void ShowRow(Row row);
+    void ShowResult(CLoan& offer, Field field, Money& pAndI);
     void ShowPayoff(CLoan& offer, Row row);
-    void ShowPayment(CLoan& offer, Row row);
-    void ShowAsItStands(Row row);
-    void ShowResultAsItStands(CLoan& offer, Field field);
-    template <class Key, class KeyOf>
-    void SortBy(SortOrder order, KeyOf keyOf);
     void MarkRaised(Row row);
     void MarkMissing(FieldId field, bool missing);
-    FieldNumber NumberOf(Field field) const;
-    QString ChoiceText(Field field) const;
-    void ShowLoan() const;
+    template <class Key, class KeyOf>
+    void SortBy(SortOrder order, KeyOf keyOf);
 
     WorksheetDisplay* m_display;
     FieldFormats m_texts;
     std::function<Date()> m_today;
-    Loan m_loan;
+    WantedLoan m_loan;
     CurrentLoan m_current;
     std::vector<CLoan> m_offers;
     OfferOrder m_order;
     std::set<OfferIndex> m_raised; // offers whose intended payment is marked
+    Pending m_pending;
+    bool m_deferred = false;
     bool m_dirty = false;
     bool m_paymentNoticeShown = false;
     bool m_paymentRefused = false;

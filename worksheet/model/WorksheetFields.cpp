@@ -1,140 +1,208 @@
-// Maps the fields to the properties of the worksheet.
+// Maps the fields to the values of the worksheet.
 
 #include "Failure.h"
-#include "Frequency.h"
-#include "IsValidNumber.h"
-#include "LoanTypes.h"
 #include "ModelNames.h"
-#include "TypedDate.h"
 #include "Worksheet.h"
 
+#include <QScopeGuard>
+
+#include <algorithm>
 #include <array>
+#include <functional>
 #include <utility>
 
 namespace quend::model {
 
-QString Worksheet::EntryText(Field field) const {
-    if (field.id == FieldId::NextPayment) {
-        return m_current.nextPayment.IsNone() ? QString()
-                                              : m_texts.Formats().ShortDate(m_current.nextPayment);
+/// How one field is stored: the one way into the worksheet. The results of an offer have no row:
+/// they are not stored.
+struct Worksheet::FieldAccess {
+    FieldId id = FieldId::LoanName;
+    /// `offer` is null for a field above the offers.
+    FieldValue (*get)(const Worksheet& sheet, const CLoan* offer) = nullptr;
+    /// Keeps the value and shows the field. Null for a result.
+    void (*put)(Worksheet& sheet, Field field, const FieldValue& value) = nullptr;
+    unsigned due = Pending::Nothing; ///< what is computed anew
+    unsigned dueUnchanged = due;     ///< the same if the field is left unchanged
+
+    static const FieldAccess& Of(FieldId id);
+
+    // The values above the offers.
+    template <class Sheet, class Kept>
+    static auto& In(Sheet& sheet, Kept WantedLoan::*member) {
+        return sheet.m_loan.*member;
     }
-    return m_texts.EntryText(NumberOf(field));
+    template <class Sheet, class Kept>
+    static auto& In(Sheet& sheet, Kept CurrentLoan::*member) {
+        return sheet.m_current.*member;
+    }
+    template <auto Member>
+    static FieldValue Get(const Worksheet& sheet, const CLoan* /*offer*/) {
+        return In(sheet, Member);
+    }
+    template <auto Member>
+    static void Put(Worksheet& sheet, Field field, const FieldValue& value) {
+        auto& kept = In(sheet, Member);
+        sheet.Write(kept, std::get<std::decay_t<decltype(kept)>>(value), field.id);
+    }
+
+    // The values of an offer.
+    template <auto Getter>
+    static FieldValue OfferGet(const Worksheet& /*sheet*/, const CLoan* offer) {
+        return (offer->*Getter)();
+    }
+    template <class Kept, void (CLoan::*Setter)(Kept)>
+    static void OfferPut(Worksheet& sheet, Field field, const FieldValue& value) {
+        (sheet.OfferIn(field.row).*Setter)(std::get<std::decay_t<Kept>>(value));
+        sheet.Show(field);
+    }
+
+    static void PutName(Worksheet& sheet, Field field, const FieldValue& value);
+    static void PutAmount(Worksheet& sheet, Field field, const FieldValue& value);
+    static void PutRate(Worksheet& sheet, Field field, const FieldValue& value);
+    static void PutActualPayment(Worksheet& sheet, Field field, const FieldValue& value);
+};
+
+/// A name alone does not make a worksheet worth saving, so it does not set Dirty.
+void Worksheet::FieldAccess::PutName(Worksheet& sheet, Field field, const FieldValue& value) {
+    sheet.m_loan.name = std::get<QString>(value);
+    sheet.Show(field);
 }
 
-bool Worksheet::Accepts(Field field, const QString& text) const {
-    const FieldRule& rule = RuleOf(field.id);
-    if (rule.kind == ValueKind::Date) {
-        return ReadTypedDate(text, m_texts.Formats(), m_today()).has_value();
+void Worksheet::FieldAccess::PutAmount(Worksheet& sheet, Field field, const FieldValue& value) {
+    Put<&WantedLoan::amount>(sheet, field, value);
+    for (CLoan& offer : sheet.m_offers) {
+        offer.SetStartingAmount(sheet.m_loan.amount);
     }
-    if (!IsValidNumber(text, rule.decimals, m_texts.Formats().DecimalSeparator())) {
-        return false;
-    }
+}
+
+/// Entering a rate gives an offer without a term the default term.
+void Worksheet::FieldAccess::PutRate(Worksheet& sheet, Field field, const FieldValue& value) {
+    sheet.OfferIn(field.row).SetInterestRate(std::get<Rate>(value));
+    sheet.Show({FieldId::Term, field.row});
+    sheet.Show(field);
+}
+
+/// The intended payment is the only input that the calculator may replace.
+void Worksheet::FieldAccess::PutActualPayment(Worksheet& sheet, Field field,
+                                              const FieldValue& value) {
+    CLoan& offer = sheet.OfferIn(field.row);
+    sheet.m_paymentRefused = false;
     try {
-        m_texts.Read(rule.kind, text);
-    } catch (const ConversionFailure&) { // a lone sign or decimal symbol
-        return false;
+        offer.SetActualPayment(std::get<Money>(value));
+    } catch (const Failure&) {
+        sheet.Show(field);
+        throw;
     }
-    return true;
-}
-
-bool Worksheet::AllowsKey(FieldId field, QChar key) const {
-    constexpr char16_t firstPrinted = 32;
-    constexpr char16_t deleteKey = 127;
-    const FieldRule& rule = RuleOf(field);
-    if (key.unicode() < firstPrinted || key.unicode() == deleteKey) {
-        return true;
-    }
-    if (rule.kind == ValueKind::Date) {
-        return MayTypeDate(key, m_texts.Formats());
-    }
-    return (key >= u'0' && key <= u'9') ||
-           (rule.separatorKey && key == m_texts.Formats().DecimalSeparator());
-}
-
-FieldNumber Worksheet::NumberOf(Field field) const {
-    switch (field.id) {
-    case FieldId::LoanAmount:
-        return m_loan.amount;
-    case FieldId::LoanTerm:
-        return m_loan.term;
-    case FieldId::AnnualTaxes:
-        return m_loan.taxes;
-    case FieldId::AnnualInsurance:
-        return m_loan.insurance;
-    case FieldId::MonthlyEscrow:
-        return m_loan.escrowMonthly;
-    case FieldId::CurLoanAmount:
-        return m_current.amount;
-    case FieldId::CurLoanTerm:
-        return m_current.term;
-    case FieldId::CurInterestRate:
-        return m_current.rate;
-    case FieldId::CurPayment:
-        return m_current.payment;
-    case FieldId::CurrentBalance:
-        return m_current.balance;
-    case FieldId::CurActualPayment:
-        return m_current.actualPayment;
-    case FieldId::CurAmountLeft:
-        return m_current.amountLeft;
-    case FieldId::CurInterestLeft:
-        return m_current.interestLeft;
-    case FieldId::Points:
-        return OfferOfRow(field.row).Points();
-    case FieldId::InterestRate:
-        return OfferOfRow(field.row).InterestRate();
-    case FieldId::Term:
-        return OfferOfRow(field.row).Term();
-    case FieldId::ActualPayment:
-        return OfferOfRow(field.row).ActualPayment();
-    default:
-        return Money();
+    // The check reads the payment. That may have raised a value that this one has just replaced.
+    static_cast<void>(offer.Forced());
+    sheet.Show(field);
+    if (sheet.m_paymentRefused) {
+        sheet.MarkRaised(field.row);
     }
 }
 
-QString Worksheet::ChoiceText(Field field) const {
-    switch (field.id) {
-    case FieldId::LoanType:
-        return LoanTypeCodeToText(m_loan.type);
-    case FieldId::CurPaymentFrequency:
-        return CurrentFrequency();
-    case FieldId::ActPaymentFrequency:
-        return CurrentActualFrequency();
-    default:
-        return OfferOfRow(field.row).Frequency();
+const Worksheet::FieldAccess& Worksheet::FieldAccess::Of(FieldId id) {
+    using enum FieldId;
+    using Wanted = WantedLoan;
+    using Current = CurrentLoan;
+    constexpr auto nothing = Pending::Nothing;
+    constexpr auto offers = Pending::Offers;
+    constexpr auto offer = Pending::Offer;
+    constexpr auto payoff = Pending::Payoff;
+    constexpr auto payment = Pending::Payment;
+    constexpr auto schedule = Pending::Schedule;
+    constexpr unsigned current = payment | schedule;
+    // Every payment includes its share of the escrow.
+    constexpr unsigned everything = Pending::Escrow | offers | current;
+    // clang-format off
+    static constexpr std::array table{
+        //          field                value                                  stored by                                                 computed anew, if unchanged
+        FieldAccess{LoanName,            Get<&Wanted::name>,                    PutName,                                                  nothing},
+        FieldAccess{LoanType,            Get<&Wanted::type>,                    Put<&Wanted::type>,                                       nothing},
+        FieldAccess{LoanAmount,          Get<&Wanted::amount>,                  PutAmount,                                                offers},
+        FieldAccess{LoanTerm,            Get<&Wanted::term>,                    Put<&Wanted::term>,                                       nothing},
+        FieldAccess{AnnualTaxes,         Get<&Wanted::taxes>,                   Put<&Wanted::taxes>,                                      everything},
+        FieldAccess{AnnualInsurance,     Get<&Wanted::insurance>,               Put<&Wanted::insurance>,                                  everything},
+        FieldAccess{MonthlyEscrow,       Get<&Wanted::escrowMonthly>},
+        FieldAccess{CurLoanAmount,       Get<&Current::amount>,                 Put<&Current::amount>,                                    current},
+        FieldAccess{CurLoanTerm,         Get<&Current::term>,                   Put<&Current::term>,                                      current},
+        FieldAccess{CurInterestRate,     Get<&Current::rate>,                   Put<&Current::rate>,                                      current},
+        FieldAccess{CurPaymentFrequency, Get<&Current::frequency>,              Put<&Current::frequency>,                                 current,       payment},
+        FieldAccess{CurPayment,          Get<&Current::payment>,                Put<&Current::payment>,                                   schedule},
+        FieldAccess{CurrentBalance,      Get<&Current::balance>,                Put<&Current::balance>,                                   current},
+        FieldAccess{CurActualPayment,    Get<&Current::actualPayment>,          Put<&Current::actualPayment>,                             current},
+        FieldAccess{ActPaymentFrequency, Get<&Current::actualFrequency>,        Put<&Current::actualFrequency>,                           current,       payment},
+        FieldAccess{NextPayment,         Get<&Current::nextPayment>,            Put<&Current::nextPayment>,                               schedule,      nothing},
+        FieldAccess{CurAmountLeft,       Get<&Current::amountLeft>},
+        FieldAccess{CurInterestLeft,     Get<&Current::interestLeft>},
+        FieldAccess{CurPayoffDate,       Get<&Current::payoffDate>},
+        FieldAccess{FinancePoints,       OfferGet<&CLoan::FinancePoints>,       OfferPut<bool, &CLoan::SetFinancePoints>,                 offer},
+        FieldAccess{Points,              OfferGet<&CLoan::Points>,              OfferPut<Percent, &CLoan::SetPoints>,                     offer},
+        FieldAccess{InterestRate,        OfferGet<&CLoan::InterestRate>,        PutRate,                                                  offer},
+        FieldAccess{Term,                OfferGet<&CLoan::Term>,                OfferPut<Months, &CLoan::SetTerm>,                        offer},
+        FieldAccess{Frequency,           OfferGet<&CLoan::FrequencyCode>,       OfferPut<const FrequencyCode&, &CLoan::SetFrequencyCode>, offer},
+        FieldAccess{ActualPayment,       OfferGet<&CLoan::ActualPayment>,       PutActualPayment,                                         payoff},
+        FieldAccess{Who,                 OfferGet<&CLoan::Who>,                 OfferPut<const QString&, &CLoan::SetWho>,                 nothing},
+    };
+    // clang-format on
+    return *std::ranges::find(table, id, &FieldAccess::id);
+}
+
+FieldValue Worksheet::Value(Field field) const {
+    const CLoan* offer = field.row == Field::NoRow ? nullptr : &OfferOfRow(field.row);
+    return FieldAccess::Of(field.id).get(*this, offer);
+}
+
+FieldValue Worksheet::Value(FieldId field, OfferIndex offer) const {
+    return FieldAccess::Of(field).get(*this, &Offer(offer));
+}
+
+void Worksheet::Store(Field field, const FieldValue& value) {
+    const FieldAccess& access = FieldAccess::Of(field.id);
+    access.put(*this, field, value);
+    Recalculate(access.due, field.row);
+}
+
+void Worksheet::StoreAgain(Field field, const FieldValue& value) {
+    const FieldAccess& access = FieldAccess::Of(field.id);
+    const bool unchanged = value == Value(field);
+    const bool wasDirty = std::exchange(m_dirty, false);
+    try {
+        access.put(*this, field, value);
+        Recalculate(unchanged ? access.dueUnchanged : access.due, field.row);
+    } catch (const Failure&) { // reported when the values were entered
+        if (m_dirty) {
+            throw;
+        }
     }
+    m_dirty = m_dirty || wasDirty;
+}
+
+void Worksheet::StoreTogether(const std::function<void()>& store, const RunStep& run) {
+    m_deferred = true;
+    const auto end = qScopeGuard([this] { m_deferred = false; });
+    store();
+    ComputePending(run);
+}
+
+std::optional<FieldValue> Worksheet::Read(FieldId field, const QString& text) const {
+    return m_texts.ReadTyped(field, text, m_today());
 }
 
 void Worksheet::Show(Field field) const {
-    switch (const FieldRule& rule = RuleOf(field.id); rule.kind) {
-    case ValueKind::Flag:
-        return m_display->ShowTicked(field, OfferOfRow(field.row).FinancePoints());
-    case ValueKind::Choice:
-        return m_display->ShowText(field, ChoiceText(field));
-    case ValueKind::Text:
-        return m_display->ShowText(field, field.id == FieldId::Who ? OfferOfRow(field.row).Who()
-                                                                   : m_loan.name);
-    case ValueKind::Date:
-        return field.id == FieldId::NextPayment ? m_display->ShowDate(field, m_current.nextPayment)
-                                                : ShowDate(field, m_current.payoffDate);
-    default:
-        return m_display->ShowText(field, m_texts.DisplayText(NumberOf(field)));
+    const FieldValue value = Value(field);
+    const auto* date = std::get_if<Date>(&value);
+    if (const auto* ticked = std::get_if<bool>(&value)) {
+        m_display->ShowTicked(field, *ticked);
+    } else if (date != nullptr && RuleOf(field.id).access == Access::Input) {
+        m_display->ShowDate(field, *date);
+    } else {
+        ShowText(field, value);
     }
 }
 
-void Worksheet::ShowLoan() const {
-    for (const FieldRule& rule : LoanFields()) {
-        Show({rule.id});
-    }
-}
-
-void Worksheet::ShowOffer(Row row) {
-    for (const FieldRule& rule : OfferFields()) {
-        if (rule.access == Access::Input) {
-            Show({rule.id, row});
-        }
-    }
-    RecalculateOffer(row);
+void Worksheet::ShowText(Field field, const FieldValue& value) const {
+    m_display->ShowText(field, m_texts.DisplayText(value));
 }
 
 void Worksheet::SetTermInMonths(bool inMonths) {
@@ -154,158 +222,6 @@ void Worksheet::ShowChoices() const {
     for (Row row{0}; row <= HighestOfferRow(); ++row.value) {
         Show({FieldId::Frequency, row});
     }
-}
-
-void Worksheet::StoreTyped(Field field, const QString& text) {
-    if (field.id != FieldId::NextPayment) {
-        return StoreNumber(field, text);
-    }
-    const auto date = ReadTypedDate(text, m_texts.Formats(), m_today());
-    if (!date) {
-        throw ConversionFailure(ProgramSource);
-    }
-    if (*date != m_current.nextPayment) { // after an arrow key it is equal: the step has stored it
-        SetCurrentNextPayment(*date);
-    }
-    Show(field);
-}
-
-/// The step's failure was reported when the values were entered; it is thrown only if a value has
-/// changed since.
-template <class Step>
-void Worksheet::TellOnlyNews(Step step) {
-    const bool wasDirty = std::exchange(m_dirty, false);
-    try {
-        step();
-    } catch (const Failure&) {
-        if (m_dirty) {
-            throw;
-        }
-    }
-    m_dirty = m_dirty || wasDirty;
-}
-
-void Worksheet::StoreAgain(Field field) {
-    if (RuleOf(field.id).IsNumber()) {
-        TellOnlyNews([&] { Store(field, NumberOf(field)); });
-    } else {
-        Show(field);
-    }
-}
-
-void Worksheet::LeaveChoice(Field field, const QString& text) {
-    TellOnlyNews([&] {
-        const bool isFrequency =
-            field.id == FieldId::CurPaymentFrequency || field.id == FieldId::ActPaymentFrequency;
-        if (isFrequency && text == ChoiceText(field)) {
-            return Recalculate(Payment);
-        }
-        StoreChoice(field, text);
-    });
-}
-
-/// A ticked box is stored and recalculated whenever it is left, an unticked one only if the offer
-/// is still ticked.
-void Worksheet::LeaveFinancePoints(Row row, bool financed) {
-    if (financed || OfferOfRow(row).FinancePoints()) {
-        TellOnlyNews([&] { StoreFinancePoints(row, financed); });
-    }
-}
-
-void Worksheet::StoreNumber(Field field, const QString& text) {
-    Store(field, m_texts.Read(RuleOf(field.id).kind, text));
-}
-
-void Worksheet::Store(Field field, const FieldNumber& number) {
-    if (field.row == Field::NoRow) {
-        StoreLoanNumber(field.id, number);
-    } else {
-        StoreOfferNumber(field, number);
-    }
-}
-
-void Worksheet::StoreLoanNumber(FieldId field, const FieldNumber& number) {
-    // Where the amounts of the upper bands are stored, and what is recalculated when they are left.
-    struct AmountField {
-        FieldId field;
-        Money& stored;
-        unsigned pending;
-    };
-    const std::array amounts{
-        AmountField{FieldId::AnnualTaxes, m_loan.taxes, Escrow},
-        AmountField{FieldId::AnnualInsurance, m_loan.insurance, Escrow},
-        AmountField{FieldId::CurLoanAmount, m_current.amount, Payment | Schedule},
-        AmountField{FieldId::CurrentBalance, m_current.balance, Payment | Schedule},
-        AmountField{FieldId::CurActualPayment, m_current.actualPayment, Payment | Schedule},
-    };
-    for (const AmountField& amount : amounts) {
-        if (amount.field == field) {
-            Write(amount.stored, std::get<Money>(number), field);
-            return Recalculate(amount.pending);
-        }
-    }
-    switch (field) {
-    case FieldId::LoanAmount:
-        return SetLoanAmount(std::get<Money>(number));
-    case FieldId::LoanTerm:
-        return SetLoanTerm(std::get<Months>(number));
-    case FieldId::CurLoanTerm:
-        Write(m_current.term, std::get<Months>(number), field);
-        return Recalculate(Payment | Schedule);
-    case FieldId::CurInterestRate:
-        Write(m_current.rate, std::get<Rate>(number), field);
-        return Recalculate(Payment | Schedule);
-    default:
-        return;
-    }
-}
-
-void Worksheet::StoreOfferNumber(Field field, const FieldNumber& number) {
-    switch (CLoan& offer = OfferOfRow(field.row); field.id) {
-    case FieldId::Points:
-        offer.SetPoints(std::get<Percent>(number));
-        break;
-    case FieldId::InterestRate:
-        offer.SetInterestRate(std::get<Rate>(number));
-        // Entering a rate gives an offer without a term the default term.
-        Show({FieldId::Term, field.row});
-        break;
-    case FieldId::Term:
-        offer.SetTerm(std::get<Months>(number));
-        break;
-    default:
-        return StoreActualPayment(field.row, std::get<Money>(number));
-    }
-    Show(field);
-    RecalculateOffer(field.row);
-}
-
-void Worksheet::StoreChoice(Field field, const QString& text) {
-    switch (field.id) {
-    case FieldId::LoanType:
-        return SetLoanType(LoanTypeTextToCode(text));
-    case FieldId::CurPaymentFrequency:
-        SetCurrentFrequency(text);
-        return Recalculate(Payment | Schedule);
-    case FieldId::ActPaymentFrequency:
-        SetCurrentActualFrequency(text);
-        return Recalculate(Payment | Schedule);
-    default:
-        OfferOfRow(field.row).SetFrequency(text);
-        Show(field);
-        return RecalculateOffer(field.row);
-    }
-}
-
-void Worksheet::StoreFinancePoints(Row row, bool financed) {
-    OfferOfRow(row).SetFinancePoints(financed);
-    Show({FieldId::FinancePoints, row});
-    RecalculateOffer(row);
-}
-
-void Worksheet::StoreWho(Row row, const QString& who) {
-    OfferOfRow(row).SetWho(who);
-    Show({FieldId::Who, row});
 }
 
 } // namespace quend::model

@@ -26,16 +26,17 @@ void Worksheet::SortByInterest() { SortBy<Money>(SortOrder::Interest, InterestKe
 
 void Worksheet::ShowOffers() {
     for (Row row{0}; row <= HighestOfferRow(); ++row.value) {
-        ShowAsItStands(row);
+        ShowRow(row);
         const bool raised = m_raised.contains(OfferIndexOfRow(row));
         m_display->ShowMark({FieldId::ActualPayment, row}, raised ? Mark::Raised : Mark::None);
     }
 }
 
-/// Shows the results in column order. If one cannot be computed, the later ones are empty, too, as
+/// Shows the row in column order. If a result cannot be computed, the later ones are empty, too, as
 /// they have been since it was entered.
-void Worksheet::ShowAsItStands(Row row) {
-    CLoan& offer = OfferOfRow(row);
+void Worksheet::ShowRow(Row row) {
+    CLoan& offer = OfferIn(row);
+    Money pAndI;
     bool failed = false;
     for (const FieldRule& rule : OfferFields()) {
         const Field field{rule.id, row};
@@ -45,7 +46,7 @@ void Worksheet::ShowAsItStands(Row row) {
         }
         try {
             if (!failed) {
-                ShowResultAsItStands(offer, field);
+                ShowResult(offer, field, pAndI);
             }
         } catch (const Failure&) {
             failed = true;
@@ -59,16 +60,15 @@ void Worksheet::ShowAsItStands(Row row) {
     }
 }
 
-void Worksheet::ShowResultAsItStands(CLoan& offer, Field field) {
-    switch (field.id) {
-    case FieldId::PandI:
-        return ShowAmount(field, offer.PandI());
-    case FieldId::Payment:
-        return ShowAmount(field, offer.LeastPayment());
-    case FieldId::PayoffDate:
-        return ShowPayoff(offer, field.row); // and the interest with it
-    default:
-        return;
+/// `pAndI` is computed with its own field, and used by the next.
+void Worksheet::ShowResult(CLoan& offer, Field field, Money& pAndI) {
+    if (field.id == FieldId::PandI) {
+        pAndI = offer.PandI();
+        ShowText(field, pAndI);
+    } else if (field.id == FieldId::Payment) {
+        ShowText(field, offer.LeastPayment(pAndI));
+    } else if (field.id == FieldId::PayoffDate) {
+        ShowPayoff(offer, field.row); // and the interest with it
     }
 }
 

@@ -189,7 +189,7 @@ void Loan::WireRow(int row, const QWidget* controls) {
 
 /// A choice from a list is stored at once, not only when the list is left.
 void Loan::WireChoice(Field field) {
-    if (RuleOf(field.id).kind == ValueKind::Choice) {
+    if (RuleOf(field.id).IsChoice()) {
         connect(m_parts->controls.ControlOf<QComboBox>(field), &QComboBox::activated, this,
                 [this, field] { m_parts->report.Guard([&] { m_parts->handlers.Click(field); }); });
     }

@@ -22,7 +22,7 @@ void WindowSize::Measure() {
     for (const FieldRule& rule : LoanFields()) {
         if (auto* edit = m_controls->ControlOf<QLineEdit>({rule.id})) {
             edit->setMinimumWidth(LeastFieldWidth(rule.id, edit->fontMetrics(), *m_formats));
-        } else if (rule.kind == ValueKind::Choice) {
+        } else if (rule.IsChoice()) {
             // Qt keeps the minimum width of the first font.
             QWidget* list = m_controls->ControlOf({rule.id});
             list->setMinimumWidth(list->sizeHint().width());

@@ -1,5 +1,6 @@
 // The hourglass is shown during a long action and disappears afterwards.
 
+#include "EnterValues.h"
 #include "FileCommands.h"
 #include "LoanNameBox.h"
 #include "OfferRows.h"
@@ -31,7 +32,7 @@ TEST_F(BusyPointerOfTheStore, IsShownWhileAWorksheetIsLoaded) {
     const FileCommands files(Window(), WorksheetStore(folder.Store()));
     Window().Rows().GrowTo(Row{7});
     for (Row row{0}; row <= Row{7}; ++row.value) {
-        SheetToWrite().StoreWho(row, u"Bank"_s);
+        EnterText(SheetToWrite(), {FieldId::Who, row}, u"Bank"_s);
     }
     SheetToWrite().SetLoanName(u"Home"_s);
     WorksheetStore(folder.Store()).Save(SheetToWrite());

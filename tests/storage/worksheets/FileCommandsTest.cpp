@@ -1,5 +1,6 @@
 // The File menu and the loan name box, operated by a user in the real window.
 
+#include "EnterValues.h"
 #include "FileCommandsFixture.h"
 #include "QuendNames.h"
 
@@ -116,7 +117,7 @@ TEST_F(FileCommandsTest, NamesThatCannotBeKeptAreRefusedAndNothingIsLost) {
 TEST_F(FileCommandsTest, ALenderTextThatIsTooLongIsRefused) {
     TypeName(u"Home");
     Tab();
-    Window().GetWorksheet().StoreWho(Row{2}, QString(1024, u'x'));
+    EnterText(Window().GetWorksheet(), {FieldId::Who, Row{2}}, QString(1024, u'x'));
     Trigger(u"mnuFileSave");
     ASSERT_EQ(SettledMessages().size(), 1);
     EXPECT_TRUE(SettledMessages().front().contains(u"the lender of offer 3 is too long"));

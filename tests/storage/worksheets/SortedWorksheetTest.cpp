@@ -1,5 +1,6 @@
 // Worksheets with sorted rows: offers are saved in the order of entry.
 
+#include "EnterValues.h"
 #include "FileCommands.h"
 #include "OfferRows.h"
 #include "QuendNames.h"
@@ -24,11 +25,10 @@ protected:
         SheetToWrite().SetLoanAmount(Money::FromDouble(100'000));
         Row row{0};
         for (const char* who : {"dear", "middle", "cheap"}) {
-            SheetToWrite().StoreWho(row, QLatin1String(who));
-            SheetToWrite().StoreNumber({FieldId::InterestRate, row},
-                                       QString::number(7 - row.value));
-            SheetToWrite().StoreNumber({FieldId::Term, row}, u"30"_s);
-            SheetToWrite().StoreChoice({FieldId::Frequency, row}, u"Monthly"_s);
+            EnterText(SheetToWrite(), {FieldId::Who, row}, QLatin1String(who));
+            EnterText(SheetToWrite(), {FieldId::InterestRate, row}, QString::number(7 - row.value));
+            EnterText(SheetToWrite(), {FieldId::Term, row}, u"30"_s);
+            EnterText(SheetToWrite(), {FieldId::Frequency, row}, u"Monthly"_s);
             ++row.value;
         }
         SheetToWrite().ClearRaisedMarks();
@@ -125,7 +125,7 @@ TEST_F(SortedWorksheet, StartsAfreshInTheOrderOfEntry) {
 TEST_F(SortedWorksheet, LendersOfSeveralLinesComeBackWhole) {
     for (const QString& who : {u"Bank\r\nMs. Ñandú, 中文 \U0001F3E0\r\n\ttel. 555\u00A00100"_s,
                                u"one\ntwo"_s, u"\u05D0\u05D1 e\u0301"_s}) {
-        SheetToWrite().StoreWho(Row{1}, who);
+        EnterText(SheetToWrite(), {FieldId::Who, Row{1}}, who);
         Trigger(u"mnuFileSave");
         LoadAgain();
         EXPECT_EQ(Sheet().Offer({1}).Who(), who);

@@ -144,11 +144,11 @@ TEST_F(WorksheetLoading, WhatIsMissingOfTheLoanHeldTodayIsMarked) {
 TEST_F(WorksheetLoading, LoadingOverOtherOffersRefusesNoPayment) {
     Sheet sheet;
     Fill(sheet.worksheet);
-    CLoan& offer = sheet.worksheet.OfferOfRow(Row{0});
-    offer.SetTerm(Months{360});
-    offer.SetInterestRate(Rate::FromFraction(0.03));
-    offer.SetFrequencyCode(FrequencyCode(u"M"_s));
-    offer.SetActualPayment(Units(1'600));
+    EnterOffer(sheet.worksheet, Row{0},
+               {{FieldId::Term, Months{360}},
+                {FieldId::InterestRate, Rate::FromFraction(0.03)},
+                {FieldId::Frequency, FrequencyCode(u"M"_s)},
+                {FieldId::ActualPayment, Units(1'600)}});
     Save(sheet);
     Sheet other;
     Fill(other.worksheet);

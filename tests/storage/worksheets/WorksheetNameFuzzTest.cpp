@@ -1,6 +1,7 @@
 // Any text as a worksheet name or as a text about a lender: what the store accepts is read back
 // unchanged.
 
+#include "EnterValues.h"
 #include "Fuzzing.h"
 #include "HostileTexts.h"
 #include "Language.h"
@@ -28,8 +29,8 @@ protected:
         const QString name = nameFits ? text : QStringLiteral("any");
         const QString who = WorksheetStore::CanHoldLender(text) ? text : QString();
         sheet.worksheet.SetLoanName(name);
-        sheet.worksheet.StoreOfferNumber({FieldId::Points, Row{0}}, Percent::FromPercent(1.0));
-        sheet.worksheet.StoreWho(Row{0}, who);
+        sheet.worksheet.Store({FieldId::Points, Row{0}}, Percent::FromPercent(1.0));
+        EnterText(sheet.worksheet, {FieldId::Who, Row{0}}, who);
         store.Save(sheet.worksheet);
         EXPECT_EQ(store.Names(), QStringList(name));
         Sheet again;

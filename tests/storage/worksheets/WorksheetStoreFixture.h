@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EnterValues.h"
 #include "Frequency.h"
 #include "Language.h"
 #include "Printing.h"
@@ -33,19 +34,19 @@ inline void Fill(Worksheet& w) {
     w.SetCurrentBalance(Units(198'450.75));
     w.SetCurrentActualFrequency(FrequencyCodeToText(FrequencyCode(QStringLiteral("W"))));
     w.SetCurrentNextPayment(Date::FromCalendar(2026, 12, 3));
-    w.SetCurrentPayment(Units(1'186.35));
     w.SetCurrentActualPayment(Units(2'050));
+    w.SetCurrentPayment(Units(1'186.35)); // last: any other value of the loan computes it anew
 }
 
 inline void FillOffer(Worksheet& w, Row row, const QString& who) {
-    CLoan& offer = w.OfferOfRow(row);
-    offer.SetFinancePoints(true);
-    offer.SetPoints(Percent::FromPercent(1.125));
-    offer.SetTerm(Months{186});
-    offer.SetInterestRate(Rate::FromFraction(0.0625));
-    offer.SetFrequencyCode(FrequencyCode(QStringLiteral("Q")));
-    offer.SetActualPayment(Units(5'000));
-    offer.SetWho(who);
+    EnterOffer(w, row,
+               {{FieldId::FinancePoints, true},
+                {FieldId::Points, Percent::FromPercent(1.125)},
+                {FieldId::Term, Months{186}},
+                {FieldId::InterestRate, Rate::FromFraction(0.0625)},
+                {FieldId::Frequency, FrequencyCode(QStringLiteral("Q"))},
+                {FieldId::ActualPayment, Units(5'000)},
+                {FieldId::Who, who}});
 }
 
 /// A separate store for worksheets without a window.

@@ -183,25 +183,22 @@ TEST_F(WorksheetStoreTest, MoreOffersThanRowsAddRows) {
 TEST_F(WorksheetStoreTest, WhatMakesAnOfferWorthKeeping) {
     struct Case {
         const char* name;
-        void (*enter)(CLoan&);
+        std::pair<FieldId, FieldValue> entered;
         bool worth;
     };
     for (const Case& row : {
-             Case{"nothing", [](CLoan&) {}, false},
-             Case{"a term", [](CLoan& offer) { offer.SetTerm(Months{360}); }, false},
-             Case{"a frequency",
-                  [](CLoan& offer) { offer.SetFrequencyCode(FrequencyCode(u"M"_s)); }, false},
-             Case{"a lender", [](CLoan& offer) { offer.SetWho(u"x"_s); }, true},
-             Case{"a payment", [](CLoan& offer) { offer.SetActualPayment(Units(1)); }, true},
-             Case{"financed", [](CLoan& offer) { offer.SetFinancePoints(true); }, true},
-             Case{"a rate", [](CLoan& offer) { offer.SetInterestRate(Rate::FromFraction(0.01)); },
-                  true},
-             Case{"points", [](CLoan& offer) { offer.SetPoints(Percent::FromPercent(-0.5)); },
-                  true},
+             Case{"nothing", {FieldId::Term, Months()}, false},
+             Case{"a term", {FieldId::Term, Months{360}}, false},
+             Case{"a frequency", {FieldId::Frequency, FrequencyCode(u"M"_s)}, false},
+             Case{"a lender", {FieldId::Who, u"x"_s}, true},
+             Case{"a payment", {FieldId::ActualPayment, Units(1)}, true},
+             Case{"financed", {FieldId::FinancePoints, true}, true},
+             Case{"a rate", {FieldId::InterestRate, Rate::FromFraction(0.01)}, true},
+             Case{"points", {FieldId::Points, Percent::FromPercent(-0.5)}, true},
          }) {
         Sheet sheet;
         sheet.worksheet.SetLoanName(u"Our new home"_s);
-        row.enter(sheet.worksheet.OfferOfRow(Row{3}));
+        EnterOffer(sheet.worksheet, Row{3}, {row.entered});
         Save(sheet);
         EXPECT_EQ(row.worth ? 1 : 0, m_folder.Number(Key, "LoanCount")) << row.name;
     }

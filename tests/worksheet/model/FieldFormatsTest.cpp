@@ -25,12 +25,12 @@ FieldFormats TextsIn(const QString& locale, Unit unit) {
     return {DisplayFormats(QLocale(locale)), unit == Unit::Months};
 }
 
-FieldNumber Units(double units) { return Money::FromDouble(units); }
-FieldNumber Yearly(double fraction) { return Rate::FromFraction(fraction); }
-FieldNumber Points(double percent) { return calc::Percent::FromPercent(percent); }
+FieldValue Units(double units) { return Money::FromDouble(units); }
+FieldValue Yearly(double fraction) { return Rate::FromFraction(fraction); }
+FieldValue Points(double percent) { return calc::Percent::FromPercent(percent); }
 
 struct ShowCase {
-    FieldNumber number;
+    FieldValue number;
     Unit unit;
     QString entry;
     QString display;
@@ -78,7 +78,7 @@ struct ReadCase {
     ValueKind kind;
     QString text;
     Unit unit;
-    FieldNumber number;
+    FieldValue number;
 };
 
 constexpr int LargestTerm = std::numeric_limits<int>::max();
@@ -129,7 +129,7 @@ TEST(FieldFormats, ReadsTheDecimalSymbolOfTheLocale) {
     const FieldFormats texts = TextsIn(u"de_DE"_s, Unit::Years);
     EXPECT_TRUE(texts.Read(Amount, u"6,5"_s) == Units(6.5));
     EXPECT_TRUE(texts.Read(Percent, u"6,5"_s) == Yearly(0.065));
-    EXPECT_TRUE(texts.Read(FractionalTerm, u"12,5"_s) == FieldNumber(Months{150}));
+    EXPECT_TRUE(texts.Read(FractionalTerm, u"12,5"_s) == FieldValue(Months{150}));
     EXPECT_THROW(static_cast<void>(texts.Read(Percent, u"6.5"_s)), ConversionFailure);
 }
 

@@ -91,20 +91,16 @@ protected:
     static constexpr int OfferCount = 12;
 
     void EnterAny(Row row, Random& random) {
-        CLoan& offer = m_worksheet.OfferOfRow(row);
-        offer = CLoan(m_worksheet);
         switch (random.Int(0, 3)) {
         case 0:
             return;
         case 1:
-            return offer.SetWho(u"Bank"_s);
+            return Store({FieldId::Who, row}, u"Bank"_s);
         default:
-            offer.SetStartingAmount(Units(10'000));
-            offer.SetTerm(Months{12 * random.Int(1, 3)});
-            offer.SetInterestRate(Rate::FromFraction(random.Int(4, 6) / 100.0));
-            offer.SetFrequencyCode(FrequencyCode(random.OneIn(2) ? u"M"_s : u"B"_s));
-            offer.Payment();
-            offer.PayoffDate();
+            EnterOffer(m_worksheet, row,
+                       {{FieldId::Term, Months{12 * random.Int(1, 3)}},
+                        {FieldId::InterestRate, Rate::FromFraction(random.Int(4, 6) / 100.0)},
+                        {FieldId::Frequency, FrequencyCode(random.OneIn(2) ? u"M"_s : u"B"_s)}});
         }
     }
     std::vector<std::size_t> Rows() const {
@@ -116,9 +112,10 @@ protected:
     }
     template <class KeyOf>
     auto Keys(KeyOf keyOf) {
-        std::vector<decltype(keyOf(m_worksheet.Offer({0})))> keys;
+        std::vector<std::invoke_result_t<KeyOf, CLoan&>> keys;
         for (std::size_t offer = 0; offer < OfferCount; ++offer) {
-            keys.push_back(keyOf(m_worksheet.Offer({offer})));
+            CLoan copy = m_worksheet.Offer({offer});
+            keys.push_back(keyOf(copy));
         }
         return keys;
     }
@@ -127,6 +124,8 @@ protected:
 TEST_F(OffersSortingProperties, SortByTheirResultsAndElseAsEntered) {
     m_worksheet.GrowOfferArrays(m_worksheet.HighestOfferRow(), Row{OfferCount - 1});
     ForRandomCases(250, [this](Random& random) {
+        m_worksheet.Clear();
+        m_worksheet.SetLoanAmount(Units(10'000));
         for (Row row{0}; row < Row{OfferCount}; ++row.value) {
             EnterAny(row, random);
         }

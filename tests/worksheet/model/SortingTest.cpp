@@ -50,11 +50,11 @@ protected:
         m_worksheet.GrowOfferArrays(m_worksheet.HighestOfferRow(), Row{rows - 1});
         switch (field) {
         case FieldId::Who:
-            return m_worksheet.StoreWho(row, text);
+            return Store({FieldId::Who, row}, text);
         case FieldId::Frequency:
-            return m_worksheet.StoreChoice({field, row}, text);
+            return Store({field, row}, text);
         case FieldId::FinancePoints:
-            return m_worksheet.StoreFinancePoints(row, true);
+            return m_worksheet.Store({FieldId::FinancePoints, row}, true);
         default:
             return Store({field, row}, text);
         }
@@ -89,7 +89,7 @@ TEST_F(SortingTest, KeysOfOffersWithoutAResultAreFixed) {
         SCOPED_TRACE(tested.what);
         m_worksheet.Clear();
         EnterAlone(1, Top, tested.field, tested.text);
-        CLoan& offer = m_worksheet.OfferOfRow(Top);
+        CLoan offer = m_worksheet.OfferOfRow(Top);
         EXPECT_EQ(PayoffDateKey(offer), Date::FromCalendar(9999, 12, tested.isEntry ? 30 : 31));
         EXPECT_EQ(PayoffDateKey(offer).Days(), Date::Last().Days() - (tested.isEntry ? 1 : 0));
         EXPECT_EQ(InterestKey(offer), Units(tested.isEntry ? 999'999'998 : 999'999'999));
@@ -98,7 +98,7 @@ TEST_F(SortingTest, KeysOfOffersWithoutAResultAreFixed) {
 
 TEST_F(SortingTest, KeysOfOffersWithAResultAreTheResults) {
     EnterOffers(1);
-    CLoan& offer = m_worksheet.OfferOfRow(Top);
+    CLoan offer = m_worksheet.OfferOfRow(Top);
     EXPECT_EQ(PayoffDateKey(offer), Date::FromCalendar(2056, 3, 10));
     EXPECT_EQ(InterestKey(offer), offer.Interest());
     EXPECT_EQ(TextOf({FieldId::Interest, Top}), u"$115,838.53"_s);
@@ -106,7 +106,7 @@ TEST_F(SortingTest, KeysOfOffersWithAResultAreTheResults) {
 
 TEST_F(SortingTest, AScheduleWithoutAnEndCountsAsNoDate) {
     EnterOffers(1);
-    CLoan& offer = m_worksheet.OfferOfRow(Top);
+    CLoan offer = m_worksheet.OfferOfRow(Top);
     offer.SetActualPayment(Units(-5));
     EXPECT_EQ(PayoffDateKey(offer), Date::FromCalendar(9999, 12, 30));
     EXPECT_EQ(InterestKey(offer), Units(999'999'998));
@@ -127,8 +127,11 @@ TEST_F(SortingTest, LoneEntriesComeBeforeBlankRows) {
 
 TEST_F(SortingTest, PayoffDatesThenPartlyFilledThenBlank) {
     EnterTerms({51, 360, 23, 360});
-    m_worksheet.OfferOfRow(Row{1}) = CLoan(m_worksheet);
-    m_worksheet.OfferOfRow(Row{3}) = CLoan(m_worksheet);
+    for (const Row row : {Row{1}, Row{3}}) {
+        for (const FieldId field : {FieldId::InterestRate, FieldId::Term, FieldId::ActualPayment}) {
+            Store({field, row}, {});
+        }
+    }
     Store({FieldId::InterestRate, Row{1}}, u"6"_s);
     EXPECT_EQ(TextOf({FieldId::PayoffDate, Top}), u"5/10/2030"_s);
     EXPECT_EQ(TextOf({FieldId::PayoffDate, Row{2}}), u"1/10/2028"_s);
@@ -235,9 +238,9 @@ TEST_F(SortingTest, WhatIsEnteredGoesToTheOfferInTheRow) {
     EnterRates({"7", "6", "5"});
     m_worksheet.SortByInterest();
     Store({FieldId::Points, Top}, u"1.5"_s);
-    m_worksheet.StoreWho(Row{1}, u"Middle"_s);
-    m_worksheet.StoreFinancePoints(Row{2}, true);
-    m_worksheet.StoreChoice({FieldId::Frequency, Top}, u"Every two weeks"_s);
+    Store({FieldId::Who, Row{1}}, u"Middle"_s);
+    m_worksheet.Store({FieldId::FinancePoints, Row{2}}, true);
+    Store({FieldId::Frequency, Top}, u"Every two weeks"_s);
     EXPECT_EQ(m_worksheet.Offer({2}).Points(), Percent::FromPercent(1.5));
     EXPECT_EQ(m_worksheet.Offer({2}).FrequencyCode(), FrequencyCode(u"W"_s));
     EXPECT_EQ(m_worksheet.Offer({1}).Who(), u"Middle"_s);
@@ -251,7 +254,7 @@ TEST_F(SortingTest, ARowAddedAfterASortShowsItsOwnOffer) {
     m_worksheet.SortByInterest();
     m_worksheet.GrowOfferArrays(Row{2}, Row{4});
     EXPECT_EQ(Rows(), Offers({2, 1, 0, 3, 4}));
-    m_worksheet.StoreWho(Row{3}, u"New"_s);
+    Store({FieldId::Who, Row{3}}, u"New"_s);
     EXPECT_EQ(m_worksheet.Offer({3}).Who(), u"New"_s);
     m_worksheet.SortByPayoffDate();
     EXPECT_EQ(Rows(), Offers({2, 0, 1, 3, 4})) << "a month apart, by the cents of their payments";

@@ -1,6 +1,7 @@
 // Any text in any field, typed, pasted or dropped, in any locale, is either a number that shows and
 // reads back the same, or refused.
 
+#include "EnterValues.h"
 #include "Failure.h"
 #include "Fuzzing.h"
 #include "HostileTexts.h"
@@ -58,7 +59,7 @@ bool HasDigit(const QString& text) {
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
-bool IsFinite(const FieldNumber& number) {
+bool IsFinite(const FieldValue& number) {
     const auto* rate = std::get_if<Rate>(&number);
     const auto* points = std::get_if<Percent>(&number);
     return (rate == nullptr || std::isfinite(rate->Fraction())) &&
@@ -67,7 +68,7 @@ bool IsFinite(const FieldNumber& number) {
 
 /// Checks what reading and showing guarantee for one number.
 void ExpectShowsAndReadsTheSame(const FieldFormats& texts, ValueKind kind,
-                                const FieldNumber& number) {
+                                const FieldValue& number) {
     ASSERT_TRUE(IsFinite(number));
     const QString entry = texts.EntryText(number);
     EXPECT_EQ(entry.isEmpty(), IsZero(number));
@@ -86,7 +87,7 @@ void EnterInto(Sheet& sheet, Field field, const QString& text) {
     EXPECT_EQ(IsValidNumber(text, rule.decimals, texts.Formats().DecimalSeparator()), form);
     const QString before = sheet.worksheet.EntryText(field);
     try {
-        const bool accepted = sheet.worksheet.Accepts(field, text);
+        const bool accepted = sheet.worksheet.Read(field.id, text).has_value();
         EXPECT_EQ(accepted, form && (text.isEmpty() || HasDigit(text)));
         if (!accepted) {
             return;
@@ -98,7 +99,7 @@ void EnterInto(Sheet& sheet, Field field, const QString& text) {
         return;
     }
     try {
-        sheet.worksheet.StoreNumber(field, text);
+        EnterText(sheet.worksheet, field, text);
     } catch (const OverflowFailure&) { // a result is out of range; the number itself is stored
     }
 }
@@ -113,7 +114,7 @@ void DropInto(Sheet& sheet, Field field, const QString& text) {
         return;
     }
     try {
-        StoreDropped(sheet.worksheet, field, ReadDropped(sheet.worksheet, field.id, text));
+        sheet.worksheet.Store(field, ReadDropped(sheet.worksheet, field.id, text));
     } catch (const ConversionFailure&) {
         EXPECT_FALSE(HasDigit(text));
         return;

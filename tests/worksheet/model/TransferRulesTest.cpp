@@ -1,6 +1,7 @@
 #include "TransferRules.h"
 #include "QuendNames.h"
 
+#include "EnterValues.h"
 #include "Failure.h"
 #include "Printing.h"
 #include "Sheet.h"
@@ -33,27 +34,27 @@ TEST(TransferRules, TravelsFromFourFields) {
 
 struct Travels {
     FieldId field;
-    double value; ///< points in percent, a rate as a fraction, a payment
+    FieldValue value;
     QStringView inTheStates;
     QStringView inGermany;
 };
 
 // clang-format off
-constexpr Travels TravelTable[]{
-    // field        value      in the States  in Germany
-    {Points,        1.5,       u"1.5",        u"1,5"},
-    {Points,        0,         u"0",          u"0"},        // never entered
-    {Points,        -0.125,    u"-0.125",     u"-0,125"},
-    {Points,        1234.5,    u"1234.5",     u"1234,5"},   // no grouping
-    {InterestRate,  0.065,     u"0.065",      u"0,065"},    // a fraction, not a percentage
-    {InterestRate,  0.0625,    u"0.0625",     u"0,0625"},
-    {InterestRate,  0.07337,   u"0.07337",    u"0,07337"},
-    {InterestRate,  0,         u"0",          u"0"},
-    {ActualPayment, 1234.5,    u"1234.5",     u"1234,5"},   // of "$1,234.50" and "1.234,50 €"
-    {ActualPayment, 1234567,   u"1234567",    u"1234567"},
-    {ActualPayment, 341.305,   u"341.3",      u"341,3"},    // as displayed: halves to the even cent
-    {ActualPayment, 341.315,   u"341.32",     u"341,32"},
-    {ActualPayment, 0,         u"",           u""},         // an empty field
+const Travels TravelTable[]{
+    // field        value                          in the States  in Germany
+    {Points,        Percent::FromPercent(1.5),     u"1.5",        u"1,5"},
+    {Points,        Percent::FromPercent(0),       u"0",          u"0"},        // never entered
+    {Points,        Percent::FromPercent(-0.125),  u"-0.125",     u"-0,125"},
+    {Points,        Percent::FromPercent(1234.5),  u"1234.5",     u"1234,5"},   // no grouping
+    {InterestRate,  Rate::FromFraction(0.065),     u"0.065",      u"0,065"},    // a fraction, not a percentage
+    {InterestRate,  Rate::FromFraction(0.0625),    u"0.0625",     u"0,0625"},
+    {InterestRate,  Rate::FromFraction(0.07337),   u"0.07337",    u"0,07337"},
+    {InterestRate,  Rate::FromFraction(0),         u"0",          u"0"},
+    {ActualPayment, Money::FromDouble(1234.5),     u"1234.5",     u"1234,5"},   // of "$1,234.50" and "1.234,50 €"
+    {ActualPayment, Money::FromDouble(1234567),    u"1234567",    u"1234567"},
+    {ActualPayment, Money::FromDouble(341.305),    u"341.3",      u"341,3"},    // as displayed: halves to the even cent
+    {ActualPayment, Money::FromDouble(341.315),    u"341.32",     u"341,32"},
+    {ActualPayment, Money::FromDouble(0),          u"",           u""},         // an empty field
 };
 // clang-format on
 
@@ -62,14 +63,7 @@ TEST(TransferRules, TravelsAsThisText) {
         for (const auto& [locale, text] : {std::pair(UnitedStates, row.inTheStates.toString()),
                                            std::pair(Germany, row.inGermany.toString())}) {
             Sheet sheet(locale);
-            CLoan& offer = sheet.worksheet.OfferOfRow(Third);
-            if (row.field == Points) {
-                offer.SetPoints(Percent::FromPercent(row.value));
-            } else if (row.field == InterestRate) {
-                offer.SetInterestRate(Rate::FromFraction(row.value));
-            } else {
-                offer.SetActualPayment(Money::FromDouble(row.value));
-            }
+            sheet.worksheet.Store({row.field, Third}, row.value);
             EXPECT_EQ(DraggedText(sheet.worksheet, {row.field, Third}, u"shown"_s), text);
         }
     }
@@ -140,10 +134,10 @@ struct IsRead {
     FieldId field;
     QStringView text;
     Fault fault;
-    DroppedValue value;
+    FieldValue value;
 };
 
-Fault FaultOf(FieldId field, const QString& text, DroppedValue& value) {
+Fault FaultOf(FieldId field, const QString& text, FieldValue& value) {
     const Sheet sheet;
     try {
         value = ReadDropped(sheet.worksheet, field, text);
@@ -178,7 +172,7 @@ TEST(TransferRules, IsReadAsThisValue) {
     };
     // clang-format on
     for (const IsRead& row : table) {
-        DroppedValue value;
+        FieldValue value;
         EXPECT_EQ(FaultOf(row.field, row.text.toString(), value), row.fault)
             << row.text.toString().toStdString();
         EXPECT_TRUE(value == row.value) << row.text.toString().toStdString();
@@ -190,11 +184,10 @@ struct Filled : Sheet {
     Filled() {
         worksheet.SetLoanAmount(Money::FromDouble(100'000));
         for (const Row row : {First, Third}) {
-            CLoan& offer = worksheet.OfferOfRow(row);
-            offer.SetTerm(Months{360});
-            offer.SetFrequencyCode(FrequencyCode(u"M"_s));
-            offer.SetInterestRate(Rate::FromFraction(0.06));
-            worksheet.ShowOffer(row);
+            EnterOffer(worksheet, row,
+                       {{Term, Months{360}},
+                        {Frequency, FrequencyCode(u"M"_s)},
+                        {InterestRate, Rate::FromFraction(0.06)}});
         }
         worksheet.ClearDirty();
         display.ForgetCalls();
@@ -205,7 +198,7 @@ using Shown = std::vector<Field>;
 
 TEST(TransferRules, PointsAreStoredAndTheRowCalculated) {
     Filled sheet;
-    StoreDropped(sheet.worksheet, {Points, Third}, Percent::FromPercent(1.5));
+    sheet.worksheet.Store({Points, Third}, Percent::FromPercent(1.5));
     EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).Points(), Percent::FromPercent(1.5));
     EXPECT_TRUE(sheet.worksheet.OfferOfRow(First).Points().IsZero());
     EXPECT_TRUE(sheet.worksheet.Dirty());
@@ -219,7 +212,7 @@ TEST(TransferRules, PointsAreStoredAndTheRowCalculated) {
 
 TEST(TransferRules, RateIsStoredAsTheFractionItIs) {
     Filled sheet;
-    StoreDropped(sheet.worksheet, {InterestRate, Third}, Rate::FromFraction(0.065));
+    sheet.worksheet.Store({InterestRate, Third}, Rate::FromFraction(0.065));
     EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).InterestRate(), Rate::FromFraction(0.065));
     EXPECT_TRUE(sheet.worksheet.Dirty());
     EXPECT_EQ(sheet.display.TextOf({InterestRate, Third}), u"6.500%"_s);
@@ -229,13 +222,13 @@ TEST(TransferRules, RateIsStoredAsTheFractionItIs) {
 TEST(TransferRules, RateBringsTheDefaultTerm) {
     Sheet sheet;
     sheet.worksheet.SetLoanTerm(Months{180});
-    StoreDropped(sheet.worksheet, {InterestRate, First}, Rate::FromFraction(0.065));
+    sheet.worksheet.Store({InterestRate, First}, Rate::FromFraction(0.065));
     EXPECT_EQ(sheet.display.TextOf({Term, First}), u"15"_s);
 }
 
 TEST(TransferRules, PaymentIsStoredWithoutAFullCalculation) {
     Filled sheet;
-    StoreDropped(sheet.worksheet, {ActualPayment, Third}, Money::FromDouble(700));
+    sheet.worksheet.Store({ActualPayment, Third}, Money::FromDouble(700));
     EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).ActualPayment(), Money::FromDouble(700));
     EXPECT_TRUE(sheet.worksheet.Dirty());
     EXPECT_EQ(sheet.display.TextOf({ActualPayment, Third}), u"$700.00"_s);
@@ -245,14 +238,14 @@ TEST(TransferRules, PaymentIsStoredWithoutAFullCalculation) {
 
 TEST(TransferRules, PaymentThatIsTooLowIsRefusedAsWhenTyped) {
     Filled sheet;
-    StoreDropped(sheet.worksheet, {ActualPayment, Third}, Money::FromDouble(100));
+    sheet.worksheet.Store({ActualPayment, Third}, Money::FromDouble(100));
     EXPECT_EQ(sheet.display.TextOf({ActualPayment, Third}), u"$599.55"_s);
     EXPECT_EQ(sheet.display.PaymentsRefused(), 1);
 }
 
 TEST(TransferRules, LenderIsStoredAlone) {
     Filled sheet;
-    StoreDropped(sheet.worksheet, {Who, Third}, u"Old Mill"_s);
+    sheet.worksheet.Store({Who, Third}, u"Old Mill"_s);
     EXPECT_EQ(sheet.worksheet.OfferOfRow(Third).Who(), u"Old Mill"_s);
     EXPECT_TRUE(sheet.worksheet.Dirty());
     EXPECT_EQ(sheet.display.TextsInOrder(), (Shown{{Who, Third}}));
@@ -260,9 +253,9 @@ TEST(TransferRules, LenderIsStoredAlone) {
 
 TEST(TransferRules, TheSameValueChangesNothing) {
     Filled sheet;
-    StoreDropped(sheet.worksheet, {InterestRate, Third}, Rate::FromFraction(0.06));
-    StoreDropped(sheet.worksheet, {Points, Third}, Percent());
-    StoreDropped(sheet.worksheet, {Who, Third}, QString());
+    sheet.worksheet.Store({InterestRate, Third}, Rate::FromFraction(0.06));
+    sheet.worksheet.Store({Points, Third}, Percent());
+    sheet.worksheet.Store({Who, Third}, QString());
     EXPECT_FALSE(sheet.worksheet.Dirty());
 }
 

@@ -88,7 +88,7 @@ TEST_F(WorksheetFailureTest, AnEscrowTooLargeCountsAsNone) {
 }
 
 TEST_F(WorksheetFailureTest, OneOfferThatFailsLeavesTheOthersShown) {
-    m_worksheet.StoreFinancePoints(Row1, true);
+    m_worksheet.Store({FieldId::FinancePoints, Row1}, true);
     Store({FieldId::Points, Row1}, u"5000"_s); // the points are fifty times the loan, added to it
     ASSERT_FALSE(TextOf({FieldId::Interest, Row1}).isEmpty());
     StartCounting();
@@ -113,8 +113,7 @@ TEST_F(WorksheetFailureTest, OneOfferThatFailsLeavesTheOthersShown) {
 
 TEST_F(WorksheetFailureTest, AnOfferWhosePaymentsAreTooManyKeepsItsFrequency) {
     EXPECT_NO_THROW(Store({FieldId::Term, Row1}, u"1073741824"_s));
-    EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_s),
-                 OverflowFailure);
+    EXPECT_THROW(Store({FieldId::Frequency, Row1}, u"Twice a month"_s), OverflowFailure);
     EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), FrequencyCode(u"B"_s));
     EXPECT_EQ(TextOf({FieldId::Frequency, Row1}), u"Twice a month"_s);
     EXPECT_EQ(ResultTexts(Row1), NoTexts);
@@ -145,7 +144,7 @@ TEST_F(WorksheetFailureTest, AnIntendedPaymentThatNeverRepaysIsKept) {
 
 TEST_F(WorksheetFailureTest, AnIntendedPaymentThatCannotBeCheckedStaysAsItWas) {
     const Field intended{FieldId::ActualPayment, Row1};
-    m_worksheet.StoreFinancePoints(Row1, true);
+    m_worksheet.Store({FieldId::FinancePoints, Row1}, true);
     EXPECT_THROW(Store({FieldId::Points, Row1}, u"1000000000000"_s), OverflowFailure);
     EXPECT_EQ(m_worksheet.EntryText({FieldId::Points, Row1}), u"1000000000000"_s);
     EXPECT_EQ(TextOf({FieldId::Points, Row1}), u"1000000000000.000"_s);
@@ -162,8 +161,7 @@ TEST_F(WorksheetFailureTest, AnIntendedPaymentThatCannotBeCheckedStaysAsItWas) {
 TEST_F(WorksheetFailureTest, AnOfferThatFailsHasNoToolTipAtItsPayoffDate) {
     ASSERT_TRUE(m_display.Of({FieldId::PayoffDate, Row1}).toolTip);
     Store({FieldId::Term, Row1}, u"1073741824"_s);
-    EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_s),
-                 OverflowFailure);
+    EXPECT_THROW(Store({FieldId::Frequency, Row1}, u"Twice a month"_s), OverflowFailure);
     EXPECT_FALSE(m_display.Of({FieldId::PayoffDate, Row1}).toolTip);
 
     const Row last{2};
@@ -176,8 +174,7 @@ TEST_F(WorksheetFailureTest, AnOfferThatFailsHasNoToolTipAtItsPayoffDate) {
 /// These tooltips would never return if they were removed.
 TEST_F(WorksheetFailureTest, AnOfferThatFailsKeepsItsOtherToolTipsWhenSorted) {
     Store({FieldId::Term, Row1}, u"1073741824"_s);
-    EXPECT_THROW(m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Twice a month"_s),
-                 OverflowFailure);
+    EXPECT_THROW(Store({FieldId::Frequency, Row1}, u"Twice a month"_s), OverflowFailure);
     m_worksheet.SortByPayoffDate();
     m_worksheet.ShowOffers();
     for (Row row{0}; row <= m_worksheet.HighestOfferRow(); ++row.value) {

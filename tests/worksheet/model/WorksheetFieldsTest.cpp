@@ -135,11 +135,10 @@ TEST_F(WorksheetFieldsTest, AcceptsTheFormOfEachField) {
     };
     // clang-format on
     for (const auto& [id, text, accepted] : cases) {
-        const Field field{id, id < FieldId::FinancePoints ? Field::NoRow : Row1};
-        EXPECT_EQ(m_worksheet.Accepts(field, text), accepted)
+        EXPECT_EQ(m_worksheet.Read(id, text).has_value(), accepted)
             << RuleOf(id).control.latin1() << " \"" << text.toStdString() << '"';
     }
-    EXPECT_THROW(static_cast<void>(m_worksheet.Accepts({FieldId::LoanTerm}, u"2147483648"_s)),
+    EXPECT_THROW(static_cast<void>(m_worksheet.Read(FieldId::LoanTerm, u"2147483648"_s)),
                  OverflowFailure);
     EXPECT_TRUE(m_display.TextsInOrder().empty());
     EXPECT_FALSE(m_worksheet.Dirty());
@@ -151,9 +150,9 @@ TEST_F(WorksheetFieldsTest, TermsAreYearsWhereTheUserWantsYears) {
                     [] { return Date(); });
     sheet.GrowOfferArrays(sheet.HighestOfferRow(), Row{0});
     const Field offer{FieldId::Term, Row{0}};
-    sheet.StoreNumber({FieldId::LoanTerm}, u"15"_s);
-    sheet.StoreNumber(offer, u"12,5"_s);
-    sheet.StoreNumber({FieldId::CurLoanTerm}, u"12,5"_s);
+    EnterText(sheet, {FieldId::LoanTerm}, u"15"_s);
+    EnterText(sheet, offer, u"12,5"_s);
+    EnterText(sheet, {FieldId::CurLoanTerm}, u"12,5"_s);
     EXPECT_EQ(sheet.LoanTerm(), Months{180});
     EXPECT_EQ(sheet.OfferOfRow(Row{0}).Term(), Months{144});
     EXPECT_EQ(sheet.CurrentTerm(), Months{150});
@@ -172,18 +171,17 @@ struct ChoiceCase {
 };
 
 const std::vector<ChoiceCase>& ChoiceCases() {
-    using W = Worksheet;
-    constexpr auto OfferCode = [](const W& sheet) {
+    constexpr auto OfferCode = [](const Worksheet& sheet) {
         return sheet.OfferOfRow(Row1).FrequencyCode().Text();
     };
-    constexpr auto TypeCode = [](const W& sheet) { return sheet.LoanType().Text(); };
+    constexpr auto TypeCode = [](const Worksheet& sheet) { return sheet.LoanType().Text(); };
     // clang-format off
     static const std::vector<ChoiceCase> cases{
         // field                         picked                  stored as                   is                     others
-        {{FieldId::LoanType},            u"Home equity"_s,      TypeCode,                   u"H"_s,               {}},
-        {{FieldId::CurPaymentFrequency}, u"Twice a month"_s,    &W::CurrentFrequency,       u"Twice a month"_s,   CurrentLoan},
-        {{FieldId::ActPaymentFrequency}, u"Every two weeks"_s,  &W::CurrentActualFrequency, u"Every two weeks"_s, CurrentLoan},
-        {{FieldId::Frequency, Row1},     u"Every four weeks"_s, OfferCode,                  u"Q"_s,               OfferResults(Row1)},
+        {{FieldId::LoanType},            u"Home equity"_s,      TypeCode,                           u"H"_s,               {}},
+        {{FieldId::CurPaymentFrequency}, u"Twice a month"_s,    &Worksheet::CurrentFrequency,       u"Twice a month"_s,   CurrentLoan},
+        {{FieldId::ActPaymentFrequency}, u"Every two weeks"_s,  &Worksheet::CurrentActualFrequency, u"Every two weeks"_s, CurrentLoan},
+        {{FieldId::Frequency, Row1},     u"Every four weeks"_s, OfferCode,                          u"Q"_s,               OfferResults(Row1)},
     };
     // clang-format on
     return cases;
@@ -193,13 +191,13 @@ TEST_F(WorksheetFieldsTest, AChoiceIsStoredShownAndComputedOnce) {
     for (const ChoiceCase& c : ChoiceCases()) {
         SCOPED_TRACE(testing::PrintToString(c.field));
         StartCounting();
-        m_worksheet.StoreChoice(c.field, c.picked);
+        Store(c.field, c.picked);
         EXPECT_TRUE(m_worksheet.Dirty());
         EXPECT_EQ(c.stored(m_worksheet), c.code);
         EXPECT_EQ(TextOf(c.field), c.picked);
         EXPECT_EQ(Sorted({m_display.TextsInOrder()}), Sorted({{c.field}, c.others}));
         m_worksheet.ClearDirty();
-        m_worksheet.StoreChoice(c.field, c.picked);
+        Store(c.field, c.picked);
         EXPECT_FALSE(m_worksheet.Dirty()) << "the same choice again";
     }
 }
@@ -207,8 +205,8 @@ TEST_F(WorksheetFieldsTest, AChoiceIsStoredShownAndComputedOnce) {
 TEST_F(WorksheetFieldsTest, AChoiceThatIsNoneIsEmpty) {
     for (const ChoiceCase& c : ChoiceCases()) {
         SCOPED_TRACE(testing::PrintToString(c.field));
-        m_worksheet.StoreChoice(c.field, c.picked);
-        m_worksheet.StoreChoice(c.field, u"Nothing of the kind"_s);
+        Store(c.field, c.picked);
+        Store(c.field, u"Nothing of the kind"_s);
         // The current loan is monthly by default.
         const bool monthly = c.field.id == FieldId::CurPaymentFrequency;
         EXPECT_EQ(c.stored(m_worksheet), monthly ? u"Monthly"_s : QString());
@@ -221,7 +219,7 @@ TEST_F(WorksheetFieldsTest, ATickIsStoredShownAndComputedOnce) {
     for (const bool ticked : {true, false}) {
         for (const bool changed : {true, false}) {
             StartCounting();
-            m_worksheet.StoreFinancePoints(Row1, ticked);
+            m_worksheet.Store({FieldId::FinancePoints, Row1}, ticked);
             EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FinancePoints(), ticked);
             EXPECT_EQ(m_display.Of(box).ticked, ticked);
             EXPECT_EQ(m_display.Of(box).ticks, 1);
@@ -235,13 +233,13 @@ TEST_F(WorksheetFieldsTest, ALenderIsKeptAsTyped) {
     const Field who{FieldId::Who, Row1};
     for (const QString& name : {u"  Peña & Söhne "_s, u"0"_s, u""_s}) {
         StartCounting();
-        m_worksheet.StoreWho(Row1, name);
+        Store({FieldId::Who, Row1}, name);
         EXPECT_EQ(m_worksheet.OfferOfRow(Row1).Who(), name);
         EXPECT_EQ(TextOf(who), name);
         EXPECT_EQ(m_display.TextsInOrder(), std::vector{who});
         EXPECT_TRUE(m_worksheet.Dirty());
         m_worksheet.ClearDirty();
-        m_worksheet.StoreWho(Row1, name);
+        Store({FieldId::Who, Row1}, name);
         EXPECT_FALSE(m_worksheet.Dirty());
     }
 }
@@ -255,10 +253,10 @@ protected:
             Store(c.field, c.typed);
         }
         for (const ChoiceCase& c : ChoiceCases()) {
-            m_worksheet.StoreChoice(c.field, c.picked);
+            Store(c.field, c.picked);
         }
-        m_worksheet.StoreFinancePoints(Row1, true);
-        m_worksheet.StoreWho(Row1, u"First Bank"_s);
+        m_worksheet.Store({FieldId::FinancePoints, Row1}, true);
+        Store({FieldId::Who, Row1}, u"First Bank"_s);
     }
 
     void ExpectShown(Field field) {
@@ -287,7 +285,7 @@ TEST_F(WorksheetShowTest, ShowsEveryFieldAsItStood) {
 
 TEST_F(WorksheetFieldsTest, ChoicesStayTheSameInAnotherLanguage) {
     for (const ChoiceCase& c : ChoiceCases()) {
-        m_worksheet.StoreChoice(c.field, c.picked);
+        Store(c.field, c.picked);
     }
     const std::vector<Field> choices = Sorted({{{FieldId::LoanType},
                                                 {FieldId::CurPaymentFrequency},
@@ -311,7 +309,7 @@ TEST_F(WorksheetFieldsTest, ChoicesStayTheSameInAnotherLanguage) {
         EXPECT_FALSE(m_worksheet.Dirty());
     }
     // A choice is now made in Spanish.
-    m_worksheet.StoreChoice({FieldId::Frequency, Row1}, u"Mensual"_s);
+    Store({FieldId::Frequency, Row1}, u"Mensual"_s);
     EXPECT_EQ(m_worksheet.OfferOfRow(Row1).FrequencyCode(), FrequencyCode(u"M"_s));
 }
 

@@ -47,7 +47,7 @@ TEST_F(WorksheetOfferTest, ComputesEveryFrequencyWithItsShareOfTheEscrow) {
     for (const auto& [frequency, taxes, pAndI, payment, payoff, interest] : cases) {
         SCOPED_TRACE(frequency.toStdString());
         m_worksheet.SetEscrowTaxes(Units(taxes));
-        m_worksheet.StoreChoice({FieldId::Frequency, Row0}, frequency);
+        Store({FieldId::Frequency, Row0}, frequency);
         ClearIntended();
         m_worksheet.RecalculateOffer(Row0);
         EXPECT_EQ(ResultTexts(Row0), (std::vector{pAndI, payment, payoff, interest}));
@@ -90,7 +90,7 @@ TEST_F(WorksheetOfferTest, ShowsNothingWhereAnInputIsMissing) {
         SCOPED_TRACE(testing::PrintToString(field));
         StartCounting();
         if (missing == FieldId::Frequency) {
-            m_worksheet.StoreChoice(field, u""_s);
+            Store(field, u""_s);
         } else {
             Store(field, u""_s);
         }
@@ -202,11 +202,11 @@ TEST_F(WorksheetOfferTest, AClearedIntendedPaymentIsRaisedByTheNextRecalculation
 TEST_F(WorksheetOfferTest, FinancedPointsAreBorrowed) {
     Store({FieldId::Points, Row0}, u"1.25"_s);
     EXPECT_EQ(TextOf({FieldId::PandI, Row0}), u"$599.55"_s) << "paid up front";
-    m_worksheet.StoreFinancePoints(Row0, true);
+    m_worksheet.Store({FieldId::FinancePoints, Row0}, true);
     EXPECT_EQ(ResultTexts(Row0),
               (std::vector{u"$607.04"_s, u"$607.04"_s, u"3/10/2056"_s, u"$117,289.36"_s}));
     EXPECT_EQ(TextOf(Intended), u"$607.04"_s);
-    m_worksheet.StoreFinancePoints(Row0, false);
+    m_worksheet.Store({FieldId::FinancePoints, Row0}, false);
     EXPECT_EQ(TextOf({FieldId::PandI, Row0}), u"$599.55"_s);
 }
 
@@ -263,7 +263,7 @@ TEST_F(WorksheetOfferTest, EveryRowFollowsTheLoanAmountAndTheEscrow) {
 
 TEST_F(WorksheetOfferTest, GrowingKeepsWhatIsThere) {
     Store(Intended, u"900"_s);
-    m_worksheet.StoreWho(Row0, u"First Bank"_s);
+    Store({FieldId::Who, Row0}, u"First Bank"_s);
     StartCounting();
     m_worksheet.GrowOfferArrays(Row0, Row{15});
     EXPECT_EQ(m_worksheet.HighestOfferRow(), Row{15});
@@ -281,11 +281,11 @@ TEST_F(WorksheetOfferTest, GrowingKeepsWhatIsThere) {
     // A new row uses the same amount, and an old one keeps its worksheet.
     const Row last{15};
     m_worksheet.SetLoanTerm(Months{360});
-    m_worksheet.StoreChoice({FieldId::Frequency, last}, u"Monthly"_s);
+    Store({FieldId::Frequency, last}, u"Monthly"_s);
     Store({FieldId::InterestRate, last}, u"6"_s);
     EXPECT_EQ(TextOf({FieldId::PandI, last}), u"$599.55"_s);
     StartCounting();
-    m_worksheet.StoreWho(Row0, u"Second Bank"_s);
+    Store({FieldId::Who, Row0}, u"Second Bank"_s);
     EXPECT_TRUE(m_worksheet.Dirty());
 }
 

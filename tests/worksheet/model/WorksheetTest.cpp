@@ -36,7 +36,7 @@ void WorksheetTest::EnterOffers(int count) {
     for (Row row{0}; row.value < count; ++row.value) {
         Store({FieldId::InterestRate, row}, u"6"_s);
         Store({FieldId::Term, row}, u"360"_s);
-        m_worksheet.StoreChoice({FieldId::Frequency, row}, u"Monthly"_s);
+        Store({FieldId::Frequency, row}, u"Monthly"_s);
     }
 }
 
@@ -46,7 +46,7 @@ void WorksheetTest::EnterCurrentLoan() {
     Store({FieldId::CurInterestRate}, u"6.5"_s);
     Store({FieldId::CurrentBalance}, u"10000"_s);
     Store({FieldId::CurActualPayment}, u"1000"_s);
-    m_worksheet.StoreChoice({FieldId::ActPaymentFrequency}, u"Monthly"_s);
+    Store({FieldId::ActPaymentFrequency}, u"Monthly"_s);
     m_worksheet.SetCurrentNextPayment(Date::FromCalendar(2026, 3, 1));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EnterValues.h"
 #include "Printing.h"
 #include "QuendNames.h"
 #include "RecordingDisplay.h"
@@ -32,7 +33,7 @@ protected:
     /// Resets what entering has changed: Dirty, the counts and the schedules run.
     void StartCounting();
 
-    void Store(Field field, const QString& text) { m_worksheet.StoreNumber(field, text); }
+    void Store(Field field, const QString& text) { EnterText(m_worksheet, field, text); }
     QString TextOf(Field field) const { return m_display.TextOf(field); }
     std::vector<QString> TextsOf(const std::vector<Field>& fields) const;
     /// The texts of an offer's results, from the payment to the interest.

@@ -12,6 +12,8 @@
 
 #include <QLineEdit>
 
+#include <utility>
+
 namespace quend::window {
 
 FieldBehaviour::FieldBehaviour(Worksheet& worksheet, const ControlMap& controls, OfferRows& rows,
@@ -42,7 +44,7 @@ void FieldBehaviour::Enter(Field field) {
 }
 
 bool FieldBehaviour::Allows(Field field, QChar key) const {
-    return m_worksheet->AllowsKey(field.id, key);
+    return m_worksheet->Texts().AllowsKey(field.id, key);
 }
 
 /// A text that the program wrote is never refused or read back: 30 months show as 2.5 years, and
@@ -50,18 +52,20 @@ bool FieldBehaviour::Allows(Field field, QChar key) const {
 /// with all recalculations.
 bool FieldBehaviour::Check(Field field) {
     const QString text = EditOf(field).text();
+    m_read.reset();
     if (text == m_entryText) {
         return true;
     }
     try {
-        if (m_worksheet->Accepts(field, text)) {
-            return true;
-        }
-        Refuse(field, RefusalOf(field, text));
+        m_read = m_worksheet->Read(field.id, text);
     } catch (const Failure& failure) { // refuses the field instead of ending its handler
         Refuse(field, FailureMessage(failure));
+        return false;
     }
-    return false;
+    if (!m_read) {
+        Refuse(field, RefusalOf(field, text));
+    }
+    return m_read.has_value();
 }
 
 QString FieldBehaviour::RefusalOf(Field field, const QString& text) const {
@@ -80,11 +84,13 @@ void FieldBehaviour::Refuse(Field field, const QString& message) {
 }
 
 void FieldBehaviour::Leave(Field field) {
-    const QString text = EditOf(field).text();
-    if (text == m_entryText) {
-        m_worksheet->StoreAgain(field);
+    const std::optional<FieldValue> read = std::exchange(m_read, std::nullopt);
+    if (!read) {
+        m_worksheet->StoreAgain(field, m_worksheet->Value(field));
+    } else if (RuleOf(field.id).kind == ValueKind::Date) {
+        m_worksheet->StoreAgain(field, *read); // a step by an arrow key has stored its date
     } else {
-        m_worksheet->StoreTyped(field, text);
+        m_worksheet->Store(field, *read);
     }
 }
 

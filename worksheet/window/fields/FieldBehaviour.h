@@ -1,10 +1,12 @@
 #pragma once
 
-#include "Field.h"
+#include "FieldValue.h"
 #include "WindowNames.h"
 
 #include <QChar>
 #include <QString>
+
+#include <optional>
 
 class QLineEdit;
 
@@ -34,10 +36,10 @@ public:
     void Enter(Field field);
     /// Whether this character may be typed into the field.
     bool Allows(Field field, QChar key) const;
-    /// Whether the field may be left with its present text. If not, tells the user why and selects
-    /// the whole text.
+    /// Reads the field's text. False if it may not be left with this text: tells the user why and
+    /// selects the whole text.
     bool Check(Field field);
-    /// The field was left. Throws what the conversion and the recalculation throw.
+    /// The field was left: stores what Check has read. Throws what the recalculation throws.
     void Leave(Field field);
     /// A key was pressed in a row: the up and down arrows go to the same field of the row above or
     /// below. True for an arrow, even if there is no such row.
@@ -53,6 +55,7 @@ private:
     OfferRows* m_rows;
     MessageQueue* m_messages;
     QString m_entryText;
+    std::optional<FieldValue> m_read; ///< by Check; none for a text that nobody changed
 };
 
 } // namespace quend::window

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Field.h"
+#include "FieldValue.h"
 #include "WindowNames.h"
 
 #include <QChar>
@@ -19,7 +19,7 @@ class FieldBehaviour;
 /// the worksheet throws.
 class FieldHandlers {
 public:
-    FieldHandlers(Worksheet& worksheet, const ControlMap& controls, FieldBehaviour& discipline);
+    FieldHandlers(Worksheet& worksheet, const ControlMap& controls, FieldBehaviour& behaviour);
 
     /// Passes an event of a field to the handler of its control. A control without such a handler
     /// ignores the event: keys and checks then pass.
@@ -117,20 +117,16 @@ public:
     void txtWho_LostFocus(int index);
 
 private:
-    void Enter(Field field);
-    void EnterRow(int index);
-    bool Allows(Field field, QChar key) const;
-    bool Check(Field field);
-    void Leave(Field field);
-    bool Move(Field field, int key);
+    using enum FieldId;
+
     void StoreChoice(Field field);
     void LeaveChoice(Field field);
-    QString ChosenText(Field field) const;
-    bool IsTicked(Row row) const;
+    FieldValue ChosenIn(Field field) const;
+    bool IsTicked(Field field) const;
 
     Worksheet* m_worksheet;
     const ControlMap* m_controls;
-    FieldBehaviour* m_discipline;
+    FieldBehaviour* m_fields;
 };
 
 } // namespace quend::window

@@ -50,7 +50,7 @@ void dlgWho::cmdOK_Click() {
     QString lines = LinesShown();
     if (lines != m_linesLoaded) {
         lines.replace(QChar::ParagraphSeparator, QStringLiteral("\r\n"));
-        m_worksheet->Offer(m_whoOfferIndex).SetWho(lines);
+        m_worksheet->Store({FieldId::Who, m_worksheet->RowOfOffer(m_whoOfferIndex)}, lines);
     }
     accept();
 }

@@ -12,29 +12,31 @@ namespace quend::window {
 
 namespace {
 
-using H = DragHandlers;
+using Handlers = DragHandlers;
 
 /// The handlers of one control. Null: no such handler.
 struct DragEvents {
     FieldId field;
-    bool (H::*mouseDown)(int, Qt::MouseButton);
-    Qt::DropActions (H::*startDrag)(int, QMimeData&);
-    Qt::DropActions (H::*dragOver)(int, const QMimeData&, Qt::DropActions);
-    Qt::DropAction (H::*dragDrop)(int, const QMimeData&, Qt::DropActions);
-    void (H::*completeDrag)(int);
+    bool (Handlers::*mouseDown)(int, Qt::MouseButton);
+    Qt::DropActions (Handlers::*startDrag)(int, QMimeData&);
+    Qt::DropActions (Handlers::*dragOver)(int, const QMimeData&, Qt::DropActions);
+    Qt::DropAction (Handlers::*dragDrop)(int, const QMimeData&, Qt::DropActions);
+    void (Handlers::*completeDrag)(int);
 };
 
 constexpr std::array DragEventTable{
-    DragEvents{FieldId::Points, &H::txtPoints_MouseDown, &H::txtPoints_OLEStartDrag,
-               &H::txtPoints_OLEDragOver, &H::txtPoints_OLEDragDrop, &H::txtPoints_OLECompleteDrag},
-    DragEvents{FieldId::InterestRate, &H::txtInterestRate_MouseDown,
-               &H::txtInterestRate_OLEStartDrag, &H::txtInterestRate_OLEDragOver,
-               &H::txtInterestRate_OLEDragDrop, &H::txtInterestRate_OLECompleteDrag},
-    DragEvents{FieldId::ActualPayment, &H::txtActualPayment_MouseDown,
-               &H::txtActualPayment_OLEStartDrag, &H::txtActualPayment_OLEDragOver,
-               &H::txtActualPayment_OLEDragDrop, &H::txtActualPayment_OLECompleteDrag},
-    DragEvents{FieldId::Who, &H::txtWho_MouseDown, &H::txtWho_OLEStartDrag, &H::txtWho_OLEDragOver,
-               &H::txtWho_OLEDragDrop, nullptr},
+    DragEvents{FieldId::Points, &Handlers::txtPoints_MouseDown, &Handlers::txtPoints_OLEStartDrag,
+               &Handlers::txtPoints_OLEDragOver, &Handlers::txtPoints_OLEDragDrop,
+               &Handlers::txtPoints_OLECompleteDrag},
+    DragEvents{FieldId::InterestRate, &Handlers::txtInterestRate_MouseDown,
+               &Handlers::txtInterestRate_OLEStartDrag, &Handlers::txtInterestRate_OLEDragOver,
+               &Handlers::txtInterestRate_OLEDragDrop, &Handlers::txtInterestRate_OLECompleteDrag},
+    DragEvents{FieldId::ActualPayment, &Handlers::txtActualPayment_MouseDown,
+               &Handlers::txtActualPayment_OLEStartDrag, &Handlers::txtActualPayment_OLEDragOver,
+               &Handlers::txtActualPayment_OLEDragDrop,
+               &Handlers::txtActualPayment_OLECompleteDrag},
+    DragEvents{FieldId::Who, &Handlers::txtWho_MouseDown, &Handlers::txtWho_OLEStartDrag,
+               &Handlers::txtWho_OLEDragOver, &Handlers::txtWho_OLEDragDrop, nullptr},
 };
 
 const DragEvents& EventsOf(Field field) {

@@ -55,7 +55,7 @@ bool ValueTransfer::Take(Field field, const QString& text) {
             m_discipline->EnterRow(field.row);
         }
     });
-    StoreDropped(*m_worksheet, field, value);
+    m_worksheet->Store(field, value);
     return true;
 }
 

@@ -36,7 +36,8 @@ public:
     bool MayTake(Field field, const QString& text) const;
     /// Stores a received value. It replaces what is being typed into the same field. What is being
     /// typed elsewhere in the row is stored first; if that is refused, the user is told and the
-    /// result is false. Throws like ReadDropped, which keeps the typed text, or like StoreDropped.
+    /// result is false. Throws like ReadDropped, which keeps the typed text, or like
+    /// Worksheet::Store.
     bool Take(Field field, const QString& text);
 
 private:

@@ -148,8 +148,7 @@ TEST_F(LeavingUntouched, ARateGivesAMissingTermTheDefaultOne) {
 TEST_F(LeavingUntouched, ChangesNoValueAndSavesNothing) {
     Open({.termInMonths = false});
     FillFirstOffer();
-    SheetToWrite().OfferOfRow(Row{0}).SetTerm(Months{30}); // shown as 2.5 years
-    SheetToWrite().ShowOffer(Row{0});
+    SheetToWrite().Store({FieldId::Term, Row{0}}, Months{30}); // shown as 2.5 years
     SheetToWrite().SetLoanTerm(Months{30});
     SheetToWrite().ClearDirty();
     Click(u"cboLoanName");

@@ -1,5 +1,6 @@
 // The lender dialog over the main window.
 
+#include "EnterValues.h"
 #include "Language.h"
 #include "QuendNames.h"
 #include "WindowFixture.h"
@@ -104,7 +105,7 @@ const std::vector<DialogEnd>& DialogEnds() {
 TEST_F(LenderDialog, EveryWayOutStoresOrDoesNot) {
     for (const DialogEnd& way : DialogEnds()) {
         SCOPED_TRACE(way.name);
-        SheetToWrite().StoreWho(Row{1}, u"Old Bank"_s);
+        EnterText(SheetToWrite(), {FieldId::Who, Row{1}}, u"Old Bank"_s);
         SheetToWrite().ClearDirty();
         EXPECT_TRUE(DoubleClick(u"txtWho(1)", [&](dlgWho& dialog) {
             EXPECT_EQ(TextOf(dialog).toPlainText(), u"Old Bank");
@@ -121,7 +122,7 @@ TEST_F(LenderDialog, EveryWayOutStoresOrDoesNot) {
 }
 
 TEST_F(LenderDialog, AnEmptyTextClearsTheLender) {
-    SheetToWrite().StoreWho(Row{0}, u"Bank"_s);
+    EnterText(SheetToWrite(), {FieldId::Who, Row{0}}, u"Bank"_s);
     EXPECT_TRUE(DoubleClick(u"txtWho(0)", [](dlgWho& dialog) {
         Replace(dialog, {});
         Button(dialog, u"cmdOK").click();
@@ -131,7 +132,7 @@ TEST_F(LenderDialog, AnEmptyTextClearsTheLender) {
 }
 
 TEST_F(LenderDialog, AfterASortTheOfferInTheRowIsEdited) {
-    SheetToWrite().StoreWho(Row{2}, u"Third"_s); // the only offer with an entry
+    EnterText(SheetToWrite(), {FieldId::Who, Row{2}}, u"Third"_s); // the only offer with an entry
     Click(u"cmdPayoffDate");
     ASSERT_EQ(Text(u"txtWho(0)"), u"Third");
     EXPECT_TRUE(DoubleClick(u"txtWho(0)", [](dlgWho& dialog) {
@@ -176,7 +177,7 @@ TEST_F(LenderDialog, LinesAndCharactersSurvive) {
     for (const QString& text :
          {Contact, u"one\ntwo"_s, u"one\rtwo"_s, u"a\u2028b\u2029c"_s, u"  blanks  "_s,
           u"\u05D0\u05D1 e\u0301 \U0001D11E"_s, QString(40'000, u'x')}) {
-        SheetToWrite().StoreWho(Row{0}, text);
+        EnterText(SheetToWrite(), {FieldId::Who, Row{0}}, text);
         SheetToWrite().ClearDirty();
         // Only viewed, in the row and in the dialog.
         Enter(u"txtPoints(0)");
@@ -191,7 +192,7 @@ TEST_F(LenderDialog, LinesAndCharactersSurvive) {
 }
 
 TEST_F(LenderDialog, EditedLinesKeepTheirCharacters) {
-    SheetToWrite().StoreWho(Row{0}, Contact);
+    EnterText(SheetToWrite(), {FieldId::Who, Row{0}}, Contact);
     EXPECT_TRUE(DoubleClick(u"txtWho(0)", [](dlgWho& dialog) {
         Key(dialog, Qt::Key_Return, Qt::ShiftModifier);
         Key(dialog, Qt::Key_Return, Qt::ControlModifier);

@@ -1,5 +1,6 @@
 // The headings sort the offers, and everything afterwards uses the right offer.
 
+#include "EnterValues.h"
 #include "Language.h"
 #include "QuendNames.h"
 #include "SortButton.h"
@@ -36,11 +37,11 @@ protected:
         SheetToWrite().SetLoanAmount(Money::FromDouble(100'000));
         Row row{0};
         for (const Offer& offer : {Offer{"A", "7", 20}, Offer{"B", "6", 15}, Offer{"C", "1", 30}}) {
-            SheetToWrite().StoreWho(row, QLatin1String(offer.who));
-            SheetToWrite().StoreNumber({FieldId::InterestRate, row}, QLatin1String(offer.rate));
-            SheetToWrite().StoreNumber({FieldId::Term, row}, QString::number(offer.years));
-            SheetToWrite().StoreChoice({FieldId::Frequency, row},
-                                       GetResourceText(TextNumber::FrequencyMonthly));
+            EnterText(SheetToWrite(), {FieldId::Who, row}, QLatin1String(offer.who));
+            EnterText(SheetToWrite(), {FieldId::InterestRate, row}, QLatin1String(offer.rate));
+            EnterText(SheetToWrite(), {FieldId::Term, row}, QString::number(offer.years));
+            EnterText(SheetToWrite(), {FieldId::Frequency, row},
+                      GetResourceText(TextNumber::FrequencyMonthly));
             ++row.value;
         }
         SheetToWrite().ClearRaisedMarks();
@@ -76,10 +77,10 @@ TEST_F(SortHeadings, SortByOneAndByTheOther) {
 }
 
 TEST_F(SortHeadings, EveryFieldOfTheRowGoesAlong) {
-    SheetToWrite().StoreFinancePoints(Row{2}, true);
-    SheetToWrite().StoreNumber({FieldId::Points, Row{2}}, u"1.5"_s);
-    SheetToWrite().StoreChoice({FieldId::Frequency, Row{2}},
-                               GetResourceText(TextNumber::FrequencyEveryTwoWeeks));
+    SheetToWrite().Store({FieldId::FinancePoints, Row{2}}, true);
+    EnterText(SheetToWrite(), {FieldId::Points, Row{2}}, u"1.5"_s);
+    EnterText(SheetToWrite(), {FieldId::Frequency, Row{2}},
+              GetResourceText(TextNumber::FrequencyEveryTwoWeeks));
     std::vector<QString> before;
     for (const FieldRule& field : OfferFields()) {
         before.push_back(Text(RowName(QString(field.control), 2)));

@@ -1,5 +1,6 @@
 #include "DragFixture.h"
 
+#include "EnterValues.h"
 #include "QuendNames.h"
 
 #include <QApplication>
@@ -62,14 +63,13 @@ void DragTest::FillOffers() {
     const std::array payments{700.0, 650.5, 0.0};
     for (Row row{0}; row.value < 3; ++row.value) {
         const auto index = static_cast<std::size_t>(row.value);
-        CLoan& offer = sheet.OfferOfRow(row);
-        offer.SetPoints(Percent::FromPercent(points.at(index)));
-        offer.SetTerm(Months{360});
-        offer.SetFrequencyCode(FrequencyCode(u"M"_s));
-        offer.SetInterestRate(Rate::FromFraction(rates.at(index)));
-        offer.SetActualPayment(Money::FromDouble(payments.at(index)));
-        offer.SetWho(u"Bank %1"_s.arg(row.value + 1));
-        sheet.ShowOffer(row);
+        EnterOffer(sheet, row,
+                   {{FieldId::Points, Percent::FromPercent(points.at(index))},
+                    {FieldId::Term, Months{360}},
+                    {FieldId::Frequency, FrequencyCode(u"M"_s)},
+                    {FieldId::ActualPayment, Money::FromDouble(payments.at(index))},
+                    {FieldId::InterestRate, Rate::FromFraction(rates.at(index))},
+                    {FieldId::Who, u"Bank %1"_s.arg(row.value + 1)}});
     }
     sheet.ClearDirty();
     Settle();

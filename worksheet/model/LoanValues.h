@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Date.h"
+#include "LoanTypes.h"
+#include "ModelNames.h"
+#include "Money.h"
+#include "Quantities.h"
+
+#include <QString>
+
+namespace quend::model {
+
+// The values of a worksheet above its offers. Only the worksheet computes the results.
+
+struct WantedLoan {
+    QString name;
+    LoanTypeCode type;
+    Money amount;
+    Months term;
+    Money taxes; ///< a year, as the insurance
+    Money insurance;
+    Money escrowMonthly; ///< a result
+};
+
+struct CurrentLoan {
+    Money amount;
+    Months term;
+    Rate rate;
+    FrequencyCode frequency;
+    Money balance;
+    Money actualPayment;
+    FrequencyCode actualFrequency;
+    Date nextPayment;
+    // Results.
+    Money pAndI;
+    Money payment;
+    Money amountLeft;
+    Money interestLeft;
+    Date payoffDate;
+};
+
+} // namespace quend::model

@@ -4,11 +4,13 @@
 #include "EnterValues.h"
 #include "FakeMessages.h"
 #include "Loan.h"
+#include "OfferRows.h"
 #include "PagePainter.h"
 #include "QuendNames.h"
 #include "Report.h"
 #include "ReportInputReader.h"
 #include "SystemPrinter.h"
+#include "Worksheet.h"
 
 #include <QApplication>
 #include <QBuffer>

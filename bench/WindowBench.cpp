@@ -8,8 +8,10 @@
 #include "Frequency.h"
 #include "Loan.h"
 #include "LoanForm.h"
+#include "OfferRows.h"
 #include "QuendNames.h"
 #include "WindowMain.h"
+#include "Worksheet.h"
 
 #include <benchmark/benchmark.h>
 

@@ -11,12 +11,14 @@
 #include "Loan.h"
 #include "LoanForm.h"
 #include "LoanNameBox.h"
+#include "MessageQueue.h"
 #include "QuendNames.h"
 #include "SampleSheet.h"
 #include "Sheet.h"
 #include "StoreCheck.h"
 #include "StoreFolder.h"
 #include "WindowMain.h"
+#include "Worksheet.h"
 #include "WorksheetStore.h"
 
 #include <benchmark/benchmark.h>

@@ -1,6 +1,7 @@
 #include "Date.h"
 
 #include "Failure.h"
+#include "Overflow.h"
 
 namespace quend::calc {
 
@@ -20,7 +21,7 @@ std::chrono::year_month_day Date::Calendar() const { return DayZero + std::chron
 
 Date Date::PlusDays(int days) const {
     int sum = 0;
-    if (__builtin_add_overflow(m_days, days, &sum)) {
+    if (SumOverflows(m_days, days, sum)) {
         RaiseOverflow();
     }
     return FromDays(sum);

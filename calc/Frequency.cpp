@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "Language.h"
+#include "Overflow.h"
 
 #include <algorithm>
 
@@ -20,7 +21,7 @@ double PeriodsOfTerm(const Frequency& frequency, Months term) {
         return term.InYears() * frequency.periodsPerYear;
     }
     int periods = 0;
-    if (__builtin_mul_overflow(term.count, frequency.wholePeriodsPerMonth, &periods)) {
+    if (ProductOverflows(term.count, frequency.wholePeriodsPerMonth, periods)) {
         throw OverflowFailure("PeriodsOfTerm");
     }
     return periods;

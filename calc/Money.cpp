@@ -12,7 +12,7 @@ constexpr std::int64_t PerCent = 100;
 
 Money Money::FromDoubleInCents(double units) {
     std::int64_t count = 0;
-    if (__builtin_mul_overflow(Rounded(units * (PerUnit / PerCent)), PerCent, &count)) {
+    if (ProductOverflows(Rounded(units * (PerUnit / PerCent)), PerCent, count)) {
         RaiseOverflow();
     }
     return Money(count);

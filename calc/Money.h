@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Overflow.h"
+
 #include <cmath>
 #include <compare>
 #include <cstdint>
@@ -36,14 +38,14 @@ public:
 
     friend constexpr Money operator+(Money left, Money right) {
         std::int64_t sum = 0;
-        if (__builtin_add_overflow(left.m_count, right.m_count, &sum)) {
+        if (SumOverflows(left.m_count, right.m_count, sum)) {
             RaiseOverflow();
         }
         return Money(sum);
     }
     friend constexpr Money operator-(Money left, Money right) {
         std::int64_t difference = 0;
-        if (__builtin_sub_overflow(left.m_count, right.m_count, &difference)) {
+        if (DifferenceOverflows(left.m_count, right.m_count, difference)) {
             RaiseOverflow();
         }
         return Money(difference);

@@ -1,6 +1,7 @@
 #include "Schedule.h"
 
 #include "Failure.h"
+#include "Overflow.h"
 
 namespace quend::calc {
 
@@ -17,7 +18,7 @@ ScheduleTotals ScheduleLoop::Totals(const ScheduleTerms& terms, const Payoff& pa
         return {};
     }
     std::int64_t fullPayments = 0;
-    if (__builtin_mul_overflow(terms.payment.TenThousandths(), payoff.periods - 1, &fullPayments)) {
+    if (ProductOverflows(terms.payment.TenThousandths(), payoff.periods - 1, fullPayments)) {
         throw OverflowFailure("Schedule");
     }
     const Money lastPayment = terms.escrowShare + payoff.lastPrincipal + payoff.lastInterest;

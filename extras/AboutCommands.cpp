@@ -1,8 +1,10 @@
 #include "AboutCommands.h"
 
+#include "FailureReport.h"
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
+#include "MessageQueue.h"
 #include "TextNumbers.h"
 #include "frmAbout.h"
 
@@ -19,12 +21,15 @@ AboutCommands::AboutCommands(Loan& window, RegistryAPI store, SystemInfoInterfac
 }
 
 void AboutCommands::mnuHelpAbout_Click() {
-    frmAbout about(*m_window, [this] {
-        if (!StartSysInfo(m_store, m_system)) {
-            m_window->GetMessages().Post(GetResourceText(TextNumber::NoSystemInfo));
-        }
-    });
-    about.exec();
+    frmAbout(*m_window, [this] {
+        m_window->Report().Guard([this] { cmdSysInfo_Click(); });
+    }).exec();
+}
+
+void AboutCommands::cmdSysInfo_Click() {
+    if (!StartSysInfo(m_store, m_system)) {
+        m_window->GetMessages().Post(GetResourceText(TextNumber::NoSystemInfo));
+    }
 }
 
 } // namespace quend::extras

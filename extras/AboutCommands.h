@@ -22,6 +22,7 @@ public:
 
 private:
     void mnuHelpAbout_Click();
+    void cmdSysInfo_Click();
 
     Loan* m_window;
     RegistryAPI m_store;

@@ -1,4 +1,4 @@
-#include "InstalledSystemInfo.h"
+#include "SystemInfo.h"
 
 #include <QProcess>
 #include <QStandardPaths>

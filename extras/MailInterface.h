@@ -14,11 +14,6 @@ struct MailMessage {
 /// seen and sent.
 class MailInterface {
 public:
-    MailInterface() = default;
-    MailInterface(const MailInterface&) = delete;
-    MailInterface& operator=(const MailInterface&) = delete;
-    MailInterface(MailInterface&&) = delete;
-    MailInterface& operator=(MailInterface&&) = delete;
     virtual ~MailInterface() = default;
 
     /// The number of the session; 0 if there is none.

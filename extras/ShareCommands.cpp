@@ -34,24 +34,22 @@ QString ShareBody(const QString& text, const QString& referral) {
 }
 
 ShareCommands::ShareCommands(Loan& window, MailInterface& mail, QString referral)
-    : m_mail(&mail), m_referral(std::move(referral)) {
+    : m_window(&window), m_mail(&mail), m_referral(std::move(referral)) {
     QPushButton* button = window.Form().cmdShare;
     button->setEnabled(true);
-    connect(button, &QPushButton::clicked, this, &ShareCommands::cmdShare_Click);
+    // A missing or failing mail client is not reported.
+    connect(button, &QPushButton::clicked, this,
+            [this] { m_window->Report().Guard([this] { cmdShare_Click(); }, NoMessage); });
 }
 
-/// A missing or failing mail client is not reported.
 void ShareCommands::cmdShare_Click() {
-    try {
-        const int session = m_mail->SignOn();
-        if (session == 0) {
-            return;
-        }
-        const QString body = ShareBody(GetResourceText(TextNumber::MailBody), m_referral);
-        m_mail->Send(session, {GetResourceText(TextNumber::MailSubject), body});
-        m_mail->SignOff(session);
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch): intentionally silent
+    const int session = m_mail->SignOn();
+    if (session == 0) {
+        return;
     }
+    const QString body = ShareBody(GetResourceText(TextNumber::MailBody), m_referral);
+    m_mail->Send(session, {GetResourceText(TextNumber::MailSubject), body});
+    m_mail->SignOff(session);
 }
 
 } // namespace quend::extras

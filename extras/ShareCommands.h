@@ -29,6 +29,7 @@ public:
 private:
     void cmdShare_Click();
 
+    Loan* m_window;
     MailInterface* m_mail;
     QString m_referral;
 };

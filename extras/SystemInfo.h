@@ -24,6 +24,9 @@ struct SystemInfoInterface {
     std::function<bool(const QString& path)> start;
 };
 
+/// The real implementation: the tools of Linux desktops, and the start of a detached program.
+SystemInfoInterface InstalledSystemInfo();
+
 /// Finds the system-information tool, in the registry or else among the installed programs, and
 /// starts it. False if there is none, or it cannot be started.
 bool StartSysInfo(const RegistryAPI& store, const SystemInfoInterface& system);

@@ -12,9 +12,8 @@ namespace quend::extras {
 namespace {
 
 /// Layouts give wrapped text too little height with large fonts.
-void ShowLines(QLabel& label, const char* text) {
+void FixSize(QLabel& label) {
     constexpr int letters = 44;
-    label.setText(QString::fromUtf8(text));
     label.setFixedWidth(letters * label.fontMetrics().averageCharWidth());
     label.setFixedHeight(label.heightForWidth(label.width()));
 }
@@ -42,9 +41,8 @@ void frmAbout::Form_Load() {
     m_ui->lblTitle->setText(QString::fromUtf8(ProductName));
     m_ui->lblVersion->setText(GetResourceText(TextNumber::Version) +
                               QStringLiteral(" %1.%2.%3").arg(Major).arg(Minor).arg(Revision));
-    const Words& words = WordsIn(Language::Instance().LanguageTag().toStdString());
-    ShowLines(*m_ui->lblDescription, words.comments);
-    ShowLines(*m_ui->lblDisclaimer, words.legalNotice);
+    FixSize(*m_ui->lblDescription);
+    FixSize(*m_ui->lblDisclaimer);
     constexpr int size = 64;
     m_ui->picIcon->setPixmap(ProgramIcon().pixmap(QSize(size, size), devicePixelRatio()));
     m_ui->cmdOK->setFocus();

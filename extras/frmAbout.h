@@ -20,10 +20,7 @@ class frmAbout : public QDialog {
 
 public:
     frmAbout(QWidget& parent, const std::function<void()>& startSysInfo);
-    frmAbout(const frmAbout&) = delete;
-    frmAbout& operator=(const frmAbout&) = delete;
-    frmAbout(frmAbout&&) = delete;
-    frmAbout& operator=(frmAbout&&) = delete;
+    Q_DISABLE_COPY_MOVE(frmAbout)
     ~frmAbout() override;
 
 private:

@@ -15,9 +15,6 @@ namespace quend::language {
 
 namespace {
 
-constexpr const char* CaptionNumber = "captionText";
-constexpr const char* CaptionNumberInYears = "captionTextInYears";
-constexpr const char* AccessibleText = "accessibleText";
 constexpr const char* Ordinal = "_ordinal";
 
 /// A dynamic property that holds a text's number, and the property that shows the text.
@@ -29,11 +26,11 @@ struct ShownText {
 };
 
 constexpr std::array ShownTexts{
-    ShownText{"toolTipText", "toolTip", "toolTipAway"},
-    ShownText{AccessibleText, "accessibleName"},
-    ShownText{AccessibleText, "accessibleDescription", nullptr, "QComboBox"},
-    ShownText{"activeText", "accessibleDescription", "activeTextAway"},
-    ShownText{"hintText", "placeholderText"},
+    ShownText{TextProperty::ToolTip, "toolTip", TextProperty::ToolTipAway},
+    ShownText{TextProperty::Name, "accessibleName"},
+    ShownText{TextProperty::Name, "accessibleDescription", nullptr, "QComboBox"},
+    ShownText{TextProperty::Active, "accessibleDescription", TextProperty::ActiveAway},
+    ShownText{TextProperty::Hint, "placeholderText"},
 };
 
 /// The dynamic properties of an object. Most objects of a form have none, and reading a missing one
@@ -102,8 +99,8 @@ void ShowInYears(QObject& object, const char* property, int number) {
 }
 
 void ApplyCaption(QObject& object, TermUnit unit, const Given& given) {
-    const bool inYears = unit == TermUnit::Years && given.contains(CaptionNumberInYears);
-    if (!inYears && !given.contains(CaptionNumber)) {
+    const bool inYears = unit == TermUnit::Years && given.contains(TextProperty::CaptionInYears);
+    if (!inYears && !given.contains(TextProperty::Caption)) {
         return;
     }
     const char* property = CaptionPropertyOf(object);
@@ -111,9 +108,9 @@ void ApplyCaption(QObject& object, TermUnit unit, const Given& given) {
         return;
     }
     if (inYears) {
-        ShowInYears(object, property, object.property(CaptionNumberInYears).toInt());
+        ShowInYears(object, property, object.property(TextProperty::CaptionInYears).toInt());
     } else {
-        Show(object, property, object.property(CaptionNumber).toInt(), 0);
+        Show(object, property, object.property(TextProperty::Caption).toInt(), 0);
     }
 }
 
@@ -125,7 +122,7 @@ void ApplyToObject(QObject& object, TermUnit unit, const Given& given, int ordin
     ApplyCaption(object, unit, given);
     for (const ShownText& shown : ShownTexts) {
         if (IsShownBy(shown, object, given)) {
-            const bool isName = qstrcmp(shown.number, AccessibleText) == 0;
+            const bool isName = qstrcmp(shown.number, TextProperty::Name) == 0;
             Show(object, shown.property, object.property(shown.number).toInt(),
                  isName ? ordinal : 0);
         }

@@ -7,18 +7,25 @@ namespace quend::language {
 /// The unit in which terms are typed.
 enum class TermUnit { Months, Years };
 
+/// The dynamic properties of a Designer form that hold the numbers of the texts its controls show,
+/// and two flags that hide one of them.
+namespace TextProperty {
+
 // clang-format off
+inline constexpr const char* Caption        = "captionText";        ///< title, text or window title, the first it has
+inline constexpr const char* CaptionInYears = "captionTextInYears"; ///< instead of it where terms are typed in years
+inline constexpr const char* ToolTip        = "toolTipText";        ///< tooltip
+inline constexpr const char* ToolTipAway    = "toolTipAway";        ///< true while there is no tooltip, in any language
+inline constexpr const char* Name           = "accessibleText";     ///< name for screen readers
+inline constexpr const char* Hint           = "hintText";           ///< text in an empty field
+inline constexpr const char* Active         = "activeText";         ///< description for screen readers while active
+inline constexpr const char* ActiveAway     = "activeTextAway";     ///< true while the control is not active
+// clang-format on
+
+} // namespace TextProperty
+
 /// Applies the texts of the current language to a window and everything in it (controls, menus,
-/// actions). Dynamic properties of the Designer form hold the numbers of the texts:
-///
-///     captionText         caption: title, text or window title, the first it has
-///     captionTextInYears  instead of captionText where terms are typed in years
-///     toolTipText         tooltip
-///     accessibleText      name for screen readers
-///     hintText            text in an empty field
-///     activeText          screen-reader description while active, instead of the tooltip
-///     toolTipAway         true while the control shows no tooltip, in any language
-///     activeTextAway      true while the control is not active
+/// actions), as its text properties say.
 ///
 /// A combo box has its accessible name also as description, because Qt reports its value instead of
 /// the name as soon as it has one.
@@ -29,6 +36,5 @@ enum class TermUnit { Months, Years };
 /// An `ordinal` above 0 replaces "%1" in accessible names. It is stored in `window`, so that a
 /// later call for an enclosing window finds it.
 void ApplyTexts(QObject& window, TermUnit unit, int ordinal = 0);
-// clang-format on
 
 } // namespace quend::language

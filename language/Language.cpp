@@ -49,7 +49,6 @@ Language::~Language() = default;
 void Language::SetUp(const QString& programFolder, const QString& programName) {
     m_programFolder = programFolder;
     m_programName = programName;
-    m_namesTried.clear();
     m_currentLanguage = 0;
     m_component = nullptr;
     FindEntries();
@@ -102,12 +101,10 @@ void Language::TakeTagAndHelpOf(const LanguageEntry& entry) {
 void Language::DetectLanguage(std::uint16_t languageId) {
     const unsigned primary = languageId & PrimaryLanguage;
     m_currentLanguage = primary == PrimarySpanish ? -Spanish : -English;
-    m_namesTried.clear();
     // First the component for the language and country, then the one for the language alone.
     for (const QString& identifier :
          {Hexadecimal(languageId, 1), QStringLiteral("4") + Hexadecimal(primary, 2)}) {
         const QString name = ComponentFile::ComponentName(m_programName, identifier);
-        m_namesTried.append(name);
         m_component = ComponentFile::Load(ComponentFile::Find(m_programFolder, name));
         if (m_component != nullptr) {
             const LanguageEntry* entry = EntryOfComponent(name);

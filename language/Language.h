@@ -29,10 +29,7 @@ class Language {
 public:
     static Language& Instance();
 
-    Language(const Language&) = delete;
-    Language& operator=(const Language&) = delete;
-    Language(Language&&) = delete;
-    Language& operator=(Language&&) = delete;
+    Q_DISABLE_COPY_MOVE(Language)
 
     /// Looks for components in the program's folder and resets the state: CurrentLanguage() is 0
     /// and the texts are the built-in English ones.
@@ -60,9 +57,6 @@ public:
     /// language, or else -1. Uses the texts of that component, or the built-in ones if it is
     /// missing or broken. Never throws.
     void DetectLanguage(std::uint16_t languageId);
-    /// The component names that the last DetectLanguage tried, in order: one, or two if the first
-    /// could not be loaded.
-    const QStringList& NamesTried() const { return m_namesTried; }
     /// Turns a detected language into a chosen one (-2 becomes 2) and keeps its texts. A chosen
     /// language stays; 0 and numbers without an entry become English, whose texts may still have to
     /// be loaded.
@@ -95,7 +89,6 @@ private:
     QString m_programFolder;
     QString m_programName;
     std::vector<LanguageEntry> m_entries;
-    QStringList m_namesTried;
     int m_currentLanguage = 0;
     QString m_languageTag;
     QString m_helpFile;

@@ -9,11 +9,6 @@ namespace quend::language {
 /// shows a text or which language is current.
 class LanguageComponent {
 public:
-    LanguageComponent() = default;
-    LanguageComponent(const LanguageComponent&) = delete;
-    LanguageComponent& operator=(const LanguageComponent&) = delete;
-    LanguageComponent(LanguageComponent&&) = delete;
-    LanguageComponent& operator=(LanguageComponent&&) = delete;
     virtual ~LanguageComponent() = default;
 
     /// The text of this number, with "&" before its access key; a null QString if the component

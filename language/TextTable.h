@@ -33,10 +33,6 @@ public:
     /// In order of their lines, faults of the whole table last; empty for a valid table.
     const std::vector<TextTableFault>& Faults() const { return m_faults; }
 
-    /// The language's name in the language itself, such as "Español".
-    const QString& LanguageName() const { return m_languageName; }
-    /// The language's short mark, such as "span".
-    const QString& Tag() const { return m_tag; }
     /// The text of this number; a null QString if the table lacks it.
     QString Text(int id) const;
     /// All texts by their numbers, which are 1 or more.

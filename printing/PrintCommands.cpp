@@ -1,8 +1,10 @@
 #include "PrintCommands.h"
 
+#include "FailureReport.h"
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
+#include "MessageQueue.h"
 #include "Plugin.h"
 #include "PrinterInterface.h"
 #include "ReportInputReader.h"
@@ -13,7 +15,6 @@
 #include <QEvent>
 #include <QEventLoop>
 
-#include <exception>
 #include <utility>
 
 namespace quend::printing {
@@ -38,15 +39,24 @@ QString TextOf(const PrintOutcome& outcome) {
     return {};
 }
 
+/// A missing printing plugin is reported; every other failure ends the command in silence.
+QString MissingPart(const std::exception& failure) {
+    const auto* missing = dynamic_cast<const ComponentFailure*>(&failure);
+    return missing == nullptr ? QString()
+                              : GetResourceText(TextNumber::PartMissing)
+                                    .arg(PluginFile(QString::fromStdString(missing->Source())));
+}
+
 } // namespace
 
 PrintCommands::PrintCommands(Loan& window, PrinterInterface& printer, frmPrint::Pace pace)
     : m_window(&window), m_printer(&printer), m_pace(std::move(pace)) {
     const Ui::Loan& form = window.Form();
     connect(form.mnuFilePrint, &QAction::triggered, this,
-            [this] { Guarded([this] { mnuFilePrint_Click(); }); });
-    connect(form.mnuFilePrintSetup, &QAction::triggered, this,
-            [this] { Guarded([this] { mnuFilePrintSetup_Click(); }); });
+            [this] { m_window->Report().Guard([this] { mnuFilePrint_Click(); }, MissingPart); });
+    connect(form.mnuFilePrintSetup, &QAction::triggered, this, [this] {
+        m_window->Report().Guard([this] { mnuFilePrintSetup_Click(); }, MissingPart);
+    });
     QCoreApplication::instance()->installEventFilter(this);
     EnableEntries(true);
 }
@@ -59,19 +69,6 @@ PrintCommands::~PrintCommands() {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         }
         m_window->GetMessages().ShowRest();
-    }
-}
-
-/// A missing printing plugin is reported; every other failure is a dialog's and stays silent.
-template <class Handler>
-void PrintCommands::Guarded(Handler&& handler) const {
-    try {
-        handler();
-    } catch (const ComponentFailure& failure) {
-        m_window->GetMessages().Post(
-            GetResourceText(TextNumber::PartMissing)
-                .arg(PluginFile(QString::fromStdString(failure.Source()))));
-    } catch (const std::exception&) { // NOLINT(bugprone-empty-catch)
     }
 }
 

@@ -23,15 +23,9 @@ class PrintCommands : public QObject {
 public:
     /// Window and printer must outlive this object. Enables the entries.
     PrintCommands(Loan& window, PrinterInterface& printer, frmPrint::Pace pace = {});
-    PrintCommands(const PrintCommands&) = delete;
-    PrintCommands& operator=(const PrintCommands&) = delete;
-    PrintCommands(PrintCommands&&) = delete;
-    PrintCommands& operator=(PrintCommands&&) = delete;
+    Q_DISABLE_COPY_MOVE(PrintCommands)
     /// Finishes printing the current report first, unless the user cancels it.
     ~PrintCommands() override;
-
-    /// The current job, if any.
-    frmPrint* Job() const { return m_job.get(); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -44,8 +38,6 @@ private:
     void EndJob();
     void EnableEntries(bool enabled);
     bool MayGoOn(const PrintOutcome& outcome) const;
-    template <class Handler>
-    void Guarded(Handler&& handler) const;
 
     Loan* m_window;
     PrinterInterface* m_printer;

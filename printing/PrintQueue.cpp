@@ -36,10 +36,7 @@ public:
             httpSetTimeout(m_http.get(), LookEvery, &Connection::WaitOn, this);
         }
     }
-    Connection(const Connection&) = delete;
-    Connection& operator=(const Connection&) = delete;
-    Connection(Connection&&) = delete;
-    Connection& operator=(Connection&&) = delete;
+    Q_DISABLE_COPY_MOVE(Connection)
     ~Connection() = default;
 
     http_t* Http() const { return m_http.get(); }
@@ -104,10 +101,7 @@ public:
             m_count = cupsAddOption(name.constData(), value.constData(), m_count, &m_first);
         }
     }
-    Options(const Options&) = delete;
-    Options& operator=(const Options&) = delete;
-    Options(Options&&) = delete;
-    Options& operator=(Options&&) = delete;
+    Q_DISABLE_COPY_MOVE(Options)
     ~Options() { cupsFreeOptions(m_count, m_first); }
 
     int Count() const { return m_count; }

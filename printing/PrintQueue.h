@@ -13,7 +13,8 @@
 namespace quend::printing {
 
 // The print server of this system. No call waits longer than stated for a server that does not
-// answer. Without a printing system there is no queue, and Qt prints directly.
+// answer. What the server refuses is in the outcome; nothing is thrown but for lack of memory.
+// Without a printing system there is no queue, and Qt prints directly.
 
 /// Whether documents go to a print server.
 bool HasPrintServer();

@@ -13,7 +13,7 @@ class QWidget;
 
 namespace quend::printing {
 
-/// Why nothing can be printed or was printed.
+/// A refusal: why nothing can be printed or was printed.
 enum class PrintFault {
     None,
     NoPrinter, ///< the print server has no printers
@@ -29,24 +29,30 @@ struct PrintOutcome {
     QString detail = {};
 };
 
-/// Sends a finished document to the printer; runs once, in any thread. Returns soon after a stop
-/// was requested, and then nothing of the document is printed.
+/// Sends a finished document to the printer; runs once, in any thread. Every refusal is possible.
+/// Returns soon after a stop was requested, and then nothing of the document is printed.
 using HandOver = std::function<PrintOutcome(const std::stop_token& stop)>;
 
-/// The interface to printing: dialogs, page size, print queue. Nothing here throws or shows
-/// anything but the dialogs: errors are in the outcome.
+/// The interface to printing: dialogs, page size, print queue. Shows nothing but the dialogs.
+///
+/// A refusal is expected and returned. A failure is an exception, and nothing is printed:
+/// ComponentFailure if the printing plugin is missing, from whichever function is called first;
+/// otherwise an exception of the printing system or a lack of memory, from any function. A failure
+/// before the job ends the command, with a message only for the plugin; a failure of the job
+/// becomes its outcome, Failed with the exception's description.
 class PrinterInterface {
 public:
     virtual ~PrinterInterface() = default;
     /// Asks which printer to use, and how. Empty if the user cancelled; otherwise whether that
-    /// printer accepts a document now.
+    /// printer accepts a document now. Refusals: NoPrinter, NoServer, Rejects.
     virtual std::optional<PrintOutcome> AskHowToPrint(QWidget& parent) = 0;
-    /// Asks the same without printing afterwards. Returns why it could not ask, if so.
+    /// Asks the same without printing afterwards; cancelling is no refusal. Refusals: NoPrinter,
+    /// NoServer.
     virtual PrintOutcome AskSetUp(QWidget& parent) = 0;
-    /// The printable part of a page, in twips.
+    /// The printable part of a page, in twips. Refuses nothing.
     virtual QSizeF PageSpace() = 0;
     /// Prepares a document for the chosen printer. Pages reach the printer only when the returned
-    /// function is called.
+    /// function is called, and refusals are that function's result.
     virtual HandOver Document(const PrintedPages& pages) = 0;
 };
 

@@ -17,14 +17,26 @@ public:
     /// The texts of the current language, by number.
     using Words = std::function<QString(int number)>;
 
-    PrinterPlugin() = default;
-    PrinterPlugin(const PrinterPlugin&) = delete;
-    PrinterPlugin& operator=(const PrinterPlugin&) = delete;
-    PrinterPlugin(PrinterPlugin&&) = delete;
-    PrinterPlugin& operator=(PrinterPlugin&&) = delete;
     virtual ~PrinterPlugin() = default;
 
     virtual std::unique_ptr<PrinterInterface> Printers(Words words) const = 0;
+};
+
+/// The printers of this system. Loads the printing plugin on the first call; while the plugin is
+/// missing, every call throws ComponentFailure.
+class PrinterOfPlugin : public PrinterInterface {
+public:
+    std::optional<PrintOutcome> AskHowToPrint(QWidget& parent) override {
+        return Printer().AskHowToPrint(parent);
+    }
+    PrintOutcome AskSetUp(QWidget& parent) override { return Printer().AskSetUp(parent); }
+    QSizeF PageSpace() override { return Printer().PageSpace(); }
+    HandOver Document(const PrintedPages& pages) override { return Printer().Document(pages); }
+
+private:
+    PrinterInterface& Printer();
+
+    std::unique_ptr<PrinterInterface> m_printer;
 };
 
 } // namespace quend::printing

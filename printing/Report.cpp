@@ -20,7 +20,6 @@ constexpr double LegiblePoints = 6;
 constexpr double LinesPadding = 4;
 /// The distance of the lender's lines from the right edge, in twips.
 constexpr double LenderGap = 28;
-constexpr std::size_t LenderColumn = OfferColumnCount - 1;
 
 bool StandsRight(Side side) { return side == Side::Right; }
 
@@ -130,7 +129,8 @@ void Report::PrintColumnHeaders() {
 /// The lender's box includes the width of the scroll bar, which is not printed, so that a line that
 /// fits the column fits the box.
 double Report::ColumnWidth(std::size_t column) const {
-    return column == LenderColumn ? m_lenderColumnWidth : m_form.columns.at(column).width;
+    return column + 1 == m_form.columns.size() ? m_lenderColumnWidth
+                                               : m_form.columns.at(column).width;
 }
 
 QString Report::LenderTextOf(const FormRow& row) const {
@@ -183,7 +183,7 @@ void Report::PrintHighRow(FormRow& texts) {
         m_rowHeight = HeightOf(taken);
         PrintRowPart(texts);
         lines.remove(0, taken);
-        texts.fill(QString());
+        std::ranges::fill(texts, QString());
         StartNewPage();
     }
     texts.back() = lines.join(LineBreak);
@@ -191,10 +191,10 @@ void Report::PrintHighRow(FormRow& texts) {
 }
 
 void Report::PrintRowPart(FormRow& texts) {
-    for (std::size_t column = 0; column < OfferColumnCount; ++column) {
+    for (std::size_t column = 0; column < m_form.columns.size(); ++column) {
         m_page.PrintBox(m_form.columns.at(column).left, m_rowTop, ColumnWidth(column), m_rowHeight);
     }
-    for (std::size_t column = 0; column < OfferColumnCount; ++column) {
+    for (std::size_t column = 0; column < m_form.columns.size(); ++column) {
         const FormColumn& place = m_form.columns.at(column);
         m_page.PrintTextInBox(place.left, m_rowTop, ColumnWidth(column), m_rowHeight,
                               texts.at(column), StandsRight(place.side));

@@ -5,7 +5,6 @@
 #include <QString>
 
 #include <array>
-#include <cstddef>
 #include <vector>
 
 namespace quend::printing {
@@ -38,11 +37,9 @@ struct FormColumn {
     Side side = Side::Left;
 };
 
-inline constexpr std::size_t OfferColumnCount = 11;
-
-/// The texts of an offer in the order of the columns. The tick box shows "x" or nothing. The last
-/// text describes the lender and may contain "\r\n".
-using FormRow = std::array<QString, OfferColumnCount>;
+/// The texts of an offer, one for each column. The tick box shows "x" or nothing. The last text
+/// describes the lender and may contain "\r\n".
+using FormRow = std::vector<QString>;
 
 struct ReportInput {
     double width = 0;          ///< of the window
@@ -57,9 +54,9 @@ struct ReportInput {
     std::vector<FormLabel> headings;
     double offersLeft = 0; ///< of the offer area
     double offersTop = 0;
-    std::array<FormColumn, OfferColumnCount> columns;
-    double scrollBarWidth = 0; ///< beside the offers
-    double fieldHeight = 0;    ///< of a field in an offer row
+    std::vector<FormColumn> columns; ///< the last one holds the lender
+    double scrollBarWidth = 0;       ///< beside the offers
+    double fieldHeight = 0;          ///< of a field in an offer row
     std::vector<FormRow> rows;
     QString legalNotice;
 };

@@ -1,10 +1,13 @@
 #include "ReportInputReader.h"
 
+#include "Field.h"
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
+#include "OfferColumns.h"
+#include "OfferRows.h"
 #include "PrintedPage.h"
-#include "VersionRecord.h"
+#include "TextNumbers.h"
 
 #include <QFontInfo>
 #include <QLayout>
@@ -17,62 +20,42 @@ namespace quend::printing {
 
 namespace {
 
+/// A field and its label.
 struct EntryOf {
     const char* label;
-    const char* field;
-    Side side;
+    FieldId field;
 };
 
 constexpr std::array Header{
-    EntryOf{"lblLoanName", "cboLoanName", Side::Left},
-    EntryOf{"lblLoanType", "cboLoanType", Side::Left},
-    EntryOf{"lblLoanAmount", "txtLoanAmount", Side::Right},
-    EntryOf{"lblLoanTerm", "txtLoanTerm", Side::Right},
-    EntryOf{"lblAnnualTaxes", "txtAnnualTaxes", Side::Right},
-    EntryOf{"lblAnnualInsurance", "txtAnnualInsurance", Side::Right},
-    EntryOf{"lblMonthlyEscrow", "txtMonthlyEscrow", Side::Right},
+    EntryOf{"lblLoanName", FieldId::LoanName},
+    EntryOf{"lblLoanType", FieldId::LoanType},
+    EntryOf{"lblLoanAmount", FieldId::LoanAmount},
+    EntryOf{"lblLoanTerm", FieldId::LoanTerm},
+    EntryOf{"lblAnnualTaxes", FieldId::AnnualTaxes},
+    EntryOf{"lblAnnualInsurance", FieldId::AnnualInsurance},
+    EntryOf{"lblMonthlyEscrow", FieldId::MonthlyEscrow},
 };
 
 constexpr std::array CurrentFirstHalf{
-    EntryOf{"lblCurLoanAmount", "txtCurLoanAmount", Side::Right},
-    EntryOf{"lblCurLoanTerm", "txtCurLoanTerm", Side::Right},
-    EntryOf{"lblCurInterestRate", "txtCurInterestRate", Side::Right},
-    EntryOf{"lblCurrentBalance", "txtCurrentBalance", Side::Right},
-    EntryOf{"lblCurPaymentFrequency", "cboCurPaymentFrequency", Side::Left},
-    EntryOf{"lblCurPayment", "txtCurPayment", Side::Right},
+    EntryOf{"lblCurLoanAmount", FieldId::CurLoanAmount},
+    EntryOf{"lblCurLoanTerm", FieldId::CurLoanTerm},
+    EntryOf{"lblCurInterestRate", FieldId::CurInterestRate},
+    EntryOf{"lblCurrentBalance", FieldId::CurrentBalance},
+    EntryOf{"lblCurPaymentFrequency", FieldId::CurPaymentFrequency},
+    EntryOf{"lblCurPayment", FieldId::CurPayment},
 };
 
 constexpr std::array CurrentSecondHalf{
-    EntryOf{"lblCurActualPayment", "txtCurActualPayment", Side::Right},
-    EntryOf{"lblActPaymentFrequency", "cboActPaymentFrequency", Side::Left},
-    EntryOf{"lblNextPayment", "dtNextPayment", Side::Left},
-    EntryOf{"lblCurPayoffDate", "txtCurPayoffDate", Side::Left},
-    EntryOf{"lblCurAmountLeft", "txtCurAmountLeft", Side::Right},
-    EntryOf{"lblCurInterestLeft", "txtCurInterestLeft", Side::Right},
+    EntryOf{"lblCurActualPayment", FieldId::CurActualPayment},
+    EntryOf{"lblActPaymentFrequency", FieldId::ActPaymentFrequency},
+    EntryOf{"lblNextPayment", FieldId::NextPayment},
+    EntryOf{"lblCurPayoffDate", FieldId::CurPayoffDate},
+    EntryOf{"lblCurAmountLeft", FieldId::CurAmountLeft},
+    EntryOf{"lblCurInterestLeft", FieldId::CurInterestLeft},
 };
 
-constexpr std::array Headings{"lblPoints",   "lblInterestRate", "lblTerm",          "lblFrequency",
-                              "lblPandI",    "lblPayment",      "lblActualPayment", "cmdPayoffDate",
-                              "cmdInterest", "lblWho"};
-
-struct ColumnOf {
-    const char* control;
-    Side side;
-};
-
-constexpr std::array<ColumnOf, OfferColumnCount> Columns{{
-    {"chkPoints", Side::Left},
-    {"txtPoints", Side::Right},
-    {"txtInterestRate", Side::Right},
-    {"txtTerm", Side::Right},
-    {"cboFrequency", Side::Left},
-    {"txtPandI", Side::Right},
-    {"txtPayment", Side::Right},
-    {"txtActualPayment", Side::Right},
-    {"txtPayoffDate", Side::Left},
-    {"txtInterest", Side::Right},
-    {"txtWho", Side::Left},
-}};
+/// The side of a field's text.
+Side SideOf(const FieldRule& rule) { return rule.IsNumber() ? Side::Right : Side::Left; }
 
 /// Makes every line break "\r\n" and turns other control characters into blanks.
 QString Cleaned(QString text) {
@@ -96,6 +79,10 @@ QString TextOf(const QWidget& control) {
         }
     }
     return {};
+}
+
+QString TickOf(const QWidget& box) {
+    return box.property("checked").toBool() ? QStringLiteral("x") : QString();
 }
 
 /// The alignment of a label's or button's caption.
@@ -124,8 +111,8 @@ public:
         return *control;
     }
     const QWidget& Control(const char* name) const { return Control(QLatin1String(name)); }
-    const QWidget& Control(const char* name, int row) const {
-        return Control(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(row));
+    const QWidget& Control(const FieldRule& rule, int row) const {
+        return Control(QStringLiteral("%1(%2)").arg(rule.control).arg(row));
     }
 
     QRectF PlaceOf(const QWidget& control) const {
@@ -142,11 +129,12 @@ public:
     }
 
     FormEntry Entry(const EntryOf& entry) const {
-        const QWidget& field = Control(entry.field);
+        const FieldRule& rule = RuleOf(entry.field);
+        const QWidget& field = Control(QString(rule.control));
         return {.label = Label(entry.label),
                 .field = PlaceOf(field),
                 .text = TextOf(field),
-                .side = entry.side};
+                .side = SideOf(rule)};
     }
 
     template <class Table>
@@ -165,20 +153,19 @@ public:
         return {place.left(), place.center().y(), place.right(), place.center().y()};
     }
 
-    FormColumn Column(const ColumnOf& column) const {
-        const QWidget& control = Control(column.control, 0);
+    FormColumn Column(const FieldRule& rule) const {
+        const QWidget& control = Control(rule, 0);
         return {.left = static_cast<double>(control.x()),
                 .width = static_cast<double>(control.width()),
-                .side = column.side};
+                .side = SideOf(rule)};
     }
 
     FormRow Row(int row) const {
         FormRow texts;
-        for (std::size_t column = 0; column < OfferColumnCount; ++column) {
-            texts.at(column) = TextOf(Control(Columns.at(column).control, row));
+        for (const FieldRule& rule : OfferFields()) {
+            texts.push_back(rule.kind == ValueKind::Flag ? TickOf(Control(rule, row))
+                                                         : TextOf(Control(rule, row)));
         }
-        const bool financed = Control(Columns.front().control, row).property("checked").toBool();
-        texts.front() = financed ? QStringLiteral("x") : QString();
         return texts;
     }
 
@@ -188,12 +175,13 @@ private:
 };
 
 void ReadOffers(const Reader& reader, int highestRow, ReportInput& form) {
-    std::ranges::transform(Columns, form.columns.begin(),
-                           [&](const ColumnOf& column) { return reader.Column(column); });
+    for (const FieldRule& rule : OfferFields()) {
+        form.columns.push_back(reader.Column(rule));
+    }
     for (int row = 0; row <= highestRow; ++row) {
         form.rows.push_back(reader.Row(row));
     }
-    form.fieldHeight = reader.Control("txtPoints", 0).height();
+    form.fieldHeight = reader.Control(RuleOf(FieldId::Points), 0).height();
     form.scrollBarWidth = reader.Control("vsbLoans").width();
     const QRectF area = reader.PlaceOf(reader.Control("picScroll"));
     form.offersLeft = area.left();
@@ -213,12 +201,11 @@ ReportInput Read(const Loan& window, int highestRow) {
                   reader.Line("Line4")};
     form.currentFirstHalf = reader.Entries(CurrentFirstHalf);
     form.currentSecondHalf = reader.Entries(CurrentSecondHalf);
-    for (const char* heading : Headings) {
-        form.headings.push_back(reader.Label(heading));
+    for (const OfferHeading& heading : OfferHeadings()) {
+        form.headings.push_back(reader.Label(heading.control));
     }
     ReadOffers(reader, highestRow, form);
-    form.legalNotice = QString::fromUtf8(
-        VersionRecord::WordsIn(Language::Instance().LanguageTag().toStdString()).legalNotice);
+    form.legalNotice = GetResourceText(TextNumber::LegalNotice);
     return form;
 }
 
@@ -231,10 +218,7 @@ public:
         m_frame->setWidgetResizable(false);
         Resize(QSize(width, m_before.height()));
     }
-    OtherWidth(const OtherWidth&) = delete;
-    OtherWidth& operator=(const OtherWidth&) = delete;
-    OtherWidth(OtherWidth&&) = delete;
-    OtherWidth& operator=(OtherWidth&&) = delete;
+    Q_DISABLE_COPY_MOVE(OtherWidth)
     ~OtherWidth() {
         Resize(m_before);
         m_frame->setWidgetResizable(true);

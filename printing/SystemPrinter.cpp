@@ -31,8 +31,7 @@ constexpr std::array NotAsked{
     QAbstractPrintDialog::PrintToFile,
 };
 
-/// Qt offers a page range regardless of the options and shows hidden controls again, so the
-/// controls are moved into a hidden widget.
+/// Qt shows these controls again whatever the options are, so only a hidden parent hides them.
 void HidePageRange(QPrintDialog& dialog) {
     if (auto* range = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange"))) {
         auto* nowhere = new QWidget(&dialog);

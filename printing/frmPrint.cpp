@@ -2,6 +2,7 @@
 
 #include "CMouse.h"
 #include "Captions.h"
+#include "FailureReport.h"
 #include "Language.h"
 #include "TextNumbers.h"
 #include "ui_frmPrint.h"
@@ -34,16 +35,12 @@ bool IsReturn(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-PrintOutcome FailureOf(const std::exception& failure) {
-    return {PrintFault::Failed, QString::fromUtf8(failure.what())};
-}
-
-/// An exception of the printing system must not end the thread and with it the program.
-PrintOutcome Run(const HandOver& handOver, const std::stop_token& stop) {
+/// Runs a step of the job. Its failure becomes the job's outcome, which the command reports.
+PrintOutcome OutcomeOf(const std::function<PrintOutcome()>& step) {
     try {
-        return handOver(stop);
+        return step();
     } catch (const std::exception& failure) {
-        return FailureOf(failure);
+        return {PrintFault::Failed, FailureDescription(failure)};
     }
 }
 
@@ -107,11 +104,13 @@ void frmPrint::Form_Activate() {
         m_tmrPrint->start();
     }
     m_drawing = true;
-    const bool finished = DrawReport();
+    const PrintOutcome drawn = OutcomeOf([this] { return DrawReport(); });
     m_drawing = false;
     if (m_unloaded) {
         Q_EMIT Unloaded();
-    } else if (finished) {
+    } else if (drawn.fault != PrintFault::None) {
+        Arrived(drawn);
+    } else {
         m_printFinished = true;
         if (!m_tmrPrint->isActive()) {
             Form_Unload();
@@ -121,16 +120,16 @@ void frmPrint::Form_Activate() {
 
 void frmPrint::ApplyPrintCaptions() { ApplyTexts(*this, TermUnit::Years); }
 
-/// False if it was cancelled: nothing more is drawn then.
-bool frmPrint::DrawReport() {
+/// Stops when it is cancelled.
+PrintOutcome frmPrint::DrawReport() {
     for (const Report::Section section : Report::Sections) {
         (m_job.report.*section)();
         Yield();
         if (m_printCancelled) {
-            return false;
+            break;
         }
     }
-    return true;
+    return {};
 }
 
 void frmPrint::Yield() const {
@@ -173,21 +172,23 @@ void frmPrint::Form_Unload() {
     if (m_printCancelled) {
         Unload();
     } else if (!m_handingOver.joinable()) {
-        m_job.report.PrintPageFooter();
         GiveToPrinter();
     }
 }
 
 void frmPrint::GiveToPrinter() {
     HandOver handOver;
-    try {
+    const PrintOutcome prepared = OutcomeOf([&]() -> PrintOutcome {
+        m_job.report.PrintPageFooter();
         handOver = m_printer->Document(m_job.report.Pages());
-    } catch (const std::exception& failure) {
-        Arrived(FailureOf(failure));
+        return {};
+    });
+    if (prepared.fault != PrintFault::None) {
+        Arrived(prepared);
         return;
     }
     m_handingOver = std::jthread([this, handOver = std::move(handOver)](std::stop_token stop) {
-        const PrintOutcome outcome = Run(handOver, stop);
+        const PrintOutcome outcome = OutcomeOf([&] { return handOver(stop); });
         QMetaObject::invokeMethod(
             this, [this, outcome] { Arrived(outcome); }, Qt::QueuedConnection);
     });

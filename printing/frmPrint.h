@@ -39,10 +39,7 @@ public:
     };
     /// Window and printer must outlive the job. The job starts when the window is shown.
     frmPrint(QWidget& owner, Job job, PrinterInterface& printer, Pace pace);
-    frmPrint(const frmPrint&) = delete;
-    frmPrint& operator=(const frmPrint&) = delete;
-    frmPrint(frmPrint&&) = delete;
-    frmPrint& operator=(frmPrint&&) = delete;
+    Q_DISABLE_COPY_MOVE(frmPrint)
     ~frmPrint() override;
 
     /// The user pressed Cancel.
@@ -76,7 +73,7 @@ private:
     void cmdCancel_Click();
 
     void ApplyPrintCaptions();
-    bool DrawReport();
+    PrintOutcome DrawReport();
     void Yield() const;
     void GiveToPrinter();
     void Arrived(const PrintOutcome& outcome);

@@ -22,6 +22,7 @@ _FILES = frozenset({
     "storage/registry/sqlite/StoreTrouble.cpp",
     "storage/registry/sqlite/UserStore.cpp",
     "storage/registry/windows/WindowsRegistry.cpp",
+    "storage/registry/windows/WindowsTexts.cpp",
     "foundation/plugins/Plugin.cpp",
 })
 

@@ -4,26 +4,27 @@
 #include "CalendarDate.h"
 #include "ClearEdges.h"
 #include "DesktopMail.h"
+#include "FailureReport.h"
 #include "FileCommands.h"
 #include "HelpCommands.h"
 #include "HelpPlugin.h"
-#include "InstalledSystemInfo.h"
 #include "Language.h"
 #include "LanguageIdentifier.h"
 #include "Loan.h"
 #include "MessageBoxes.h"
+#include "MessageQueue.h"
 #include "OptionsCommands.h"
 #include "PictureDialog.h"
 #include "PrintCommands.h"
-#include "PrinterOfPlugin.h"
+#include "PrinterPlugin.h"
 #include "ProgramIcon.h"
 #include "RepairedWorksheets.h"
 #include "SettingsStore.h"
 #include "ShareCommands.h"
-#include "StartUp.h"
 #include "StoreCheck.h"
 #include "StoreNames.h"
 #include "StoreNotice.h"
+#include "SystemInfo.h"
 #include "TextNumbers.h"
 #include "VersionRecord.h"
 #include "WindowPlace.h"
@@ -72,7 +73,7 @@ std::optional<QString> Obstacle(const RegistryAPI& store, const StoreCondition& 
     }
     try {
         PrepareKeyAndLanguage(store, UserDefaultLanguageIdentifier());
-    } catch (const Failure& failure) {
+    } catch (const Failure& failure) { // becomes the message, because there is no window yet
         return StoreText(TextNumber::StoreUnusable) + QStringLiteral("\n\n") +
                StoreFailureText(failure);
     }
@@ -126,6 +127,19 @@ std::future<StoreCondition> BeginLook(const std::filesystem::path& place) {
         [place, today = TodayInWords()] { return PrepareStore(place, today, NamedLoans()); });
 }
 
+/// The exit code.
+int Start(const std::filesystem::path& place, std::future<StoreCondition> look,
+          MessageBoxes& messages) {
+    const StoreCondition condition = look.get();
+    if (const auto obstacle = Obstacle(RegistryAPI(place), condition)) {
+        messages.Show(*obstacle);
+        return 1;
+    }
+    const int result = Run(place, condition, messages);
+    TidyStore(place);
+    return result;
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
@@ -141,13 +155,11 @@ int main(int argc, char* argv[]) {
     QApplication::setWindowIcon(ProgramIcon());
     ClearEdges::Install();
     SetUpLanguage();
+    // The last resort: a failure that no handler caught ends the program with a message.
     MessageBoxes messages;
-    const StoreCondition condition = look.get();
-    if (const auto obstacle = Obstacle(RegistryAPI(place), condition)) {
-        messages.Show(*obstacle);
-        return 1;
-    }
-    const int result = Run(place, condition, messages);
-    TidyStore(place);
+    MessageQueue queue(messages);
+    int result = 1;
+    FailureReport(queue).Guard([&] { result = Start(place, std::move(look), messages); });
+    queue.ShowRest();
     return result;
 }

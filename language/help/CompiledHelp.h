@@ -13,10 +13,7 @@ class CompiledHelp : public HelpCollection {
 public:
     /// Throws Failure with Qt's description if the file is missing or damaged.
     explicit CompiledHelp(const QString& file);
-    CompiledHelp(const CompiledHelp&) = delete;
-    CompiledHelp& operator=(const CompiledHelp&) = delete;
-    CompiledHelp(CompiledHelp&&) = delete;
-    CompiledHelp& operator=(CompiledHelp&&) = delete;
+    Q_DISABLE_COPY_MOVE(CompiledHelp)
     ~CompiledHelp() override;
 
     const QString& File() const override { return m_file; }

@@ -27,11 +27,6 @@ public:
         std::function<void()> searched;
     };
 
-    HelpCollection() = default;
-    HelpCollection(const HelpCollection&) = delete;
-    HelpCollection& operator=(const HelpCollection&) = delete;
-    HelpCollection(HelpCollection&&) = delete;
-    HelpCollection& operator=(HelpCollection&&) = delete;
     virtual ~HelpCollection() = default;
 
     virtual const QString& File() const = 0;

@@ -1,11 +1,13 @@
 #include "HelpCommands.h"
 
+#include "FailureReport.h"
 #include "HelpTopic.h"
+#include "HelpView.h"
 #include "HelpWindow.h"
 #include "Language.h"
-#include "LinkColour.h"
 #include "Loan.h"
 #include "LoanForm.h"
+#include "MessageQueue.h"
 #include "TextNumbers.h"
 
 #include <QApplication>
@@ -67,7 +69,9 @@ void HelpCommands::mnuHelpSearch_Click() {
     Try([this] { Window().Open(HelpWindow::Side::Search, *m_loan); });
 }
 
-void HelpCommands::cmdWhatsThis_Click() { m_whatsThis.Begin(); }
+void HelpCommands::cmdWhatsThis_Click() {
+    Try([this] { m_whatsThis.Begin(); });
+}
 
 bool HelpCommands::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::WhatsThisClicked) {
@@ -83,7 +87,7 @@ bool HelpCommands::eventFilter(QObject* watched, QEvent* event) {
     }
     if (!key.isAutoRepeat()) {
         if ((key.modifiers() & Qt::ShiftModifier) != 0) {
-            m_whatsThis.Begin();
+            cmdWhatsThis_Click();
         } else {
             OnHelpKey();
         }
@@ -140,12 +144,8 @@ void HelpCommands::FollowLanguage() {
     }
 }
 
-void HelpCommands::Try(const std::function<void()>& help) {
-    try {
-        help();
-    } catch (const std::exception& failure) {
-        m_loan->GetMessages().Post(QString::fromUtf8(failure.what()));
-    }
+void HelpCommands::Try(const std::function<void()>& help) const {
+    m_loan->Report().Guard(help, FailureDescription);
 }
 
 HelpCollection& HelpCommands::Collection() {

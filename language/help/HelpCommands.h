@@ -31,15 +31,8 @@ public:
     /// The window must outlive the commands. Enables the entries and the button. Opens a collection
     /// on first use.
     HelpCommands(Loan& window, HelpOpener open);
-    HelpCommands(const HelpCommands&) = delete;
-    HelpCommands& operator=(const HelpCommands&) = delete;
-    HelpCommands(HelpCommands&&) = delete;
-    HelpCommands& operator=(HelpCommands&&) = delete;
+    Q_DISABLE_COPY_MOVE(HelpCommands)
     ~HelpCommands() override;
-
-    /// Null until the help is first shown.
-    HelpWindow* Shown() const { return m_help.get(); }
-    bool IsAsking() const { return m_whatsThis.IsOn(); }
 
 protected:
     /// Handles the help keys in every window of the program, and the links in what's-this help.
@@ -55,7 +48,7 @@ private:
     void FollowLink(const QString& link);
     void FollowLanguage();
 
-    void Try(const std::function<void()>& help);
+    void Try(const std::function<void()>& help) const;
     HelpCollection& Collection();
     HelpWindow& Window();
 

@@ -9,11 +9,6 @@ namespace quend::help {
 /// The plugin that reads help files.
 class HelpPlugin {
 public:
-    HelpPlugin() = default;
-    HelpPlugin(const HelpPlugin&) = delete;
-    HelpPlugin& operator=(const HelpPlugin&) = delete;
-    HelpPlugin(HelpPlugin&&) = delete;
-    HelpPlugin& operator=(HelpPlugin&&) = delete;
     virtual ~HelpPlugin() = default;
 
     /// Throws Failure like a HelpOpener.

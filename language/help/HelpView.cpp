@@ -1,7 +1,6 @@
 #include "HelpView.h"
 
 #include "HelpCollection.h"
-#include "LinkColour.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QEvent>
@@ -39,6 +38,14 @@ void SetRoomBelow(const QTextDocument& page, double room) {
 }
 
 } // namespace
+
+QColor LinkColour(const QPalette& palette, QPalette::ColorRole background) {
+    constexpr int half = 128;
+    const QColor link = palette.color(QPalette::Link);
+    const bool darkOnDark =
+        palette.color(background).lightness() < half && link.lightness() <= half;
+    return darkOnDark ? QColor(122, 184, 255) : link;
+}
 
 HelpView::HelpView(QWidget* parent) : QTextBrowser(parent) {
     setOpenExternalLinks(false);

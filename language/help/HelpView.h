@@ -1,10 +1,16 @@
 #pragma once
 
+#include <QColor>
+#include <QPalette>
 #include <QTextBrowser>
 
 namespace quend::help {
 
 class HelpCollection;
+
+/// The colour of links on a background of this palette. Few dark palettes define one, and Qt's
+/// default blue is unreadable there.
+QColor LinkColour(const QPalette& palette, QPalette::ColorRole background);
 
 /// Shows pages of a help collection. Only links to pages of the collection work; an image wider
 /// than the view is scaled down. The requested section is at the top, even the last of a page, and

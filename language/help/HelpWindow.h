@@ -1,8 +1,8 @@
 #pragma once
 
 #include "HelpNames.h"
-#include "HelpPlace.h"
 
+#include <QRect>
 #include <QSortFilterProxyModel>
 #include <QString>
 #include <QUrl>
@@ -20,6 +20,23 @@ namespace quend::help {
 
 class HelpCollection;
 
+/// The initial geometry of the help window in 1024ths of the screen, so that it is beside the main
+/// window and covers the lower right of any screen.
+struct HelpPlace {
+    static constexpr int Units = 1024;
+
+    int x = 400;
+    int y = 400;
+    int width = 620;
+    int height = 620;
+
+    /// In the pixels of this screen.
+    QRect On(const QRect& screen) const {
+        return {screen.x() + x * screen.width() / Units, screen.y() + y * screen.height() / Units,
+                width * screen.width() / Units, height * screen.height() / Units};
+    }
+};
+
 /// The window that shows a help collection: its contents, its index and a search beside the page.
 /// It is independent of the main window and does not keep the program running. It does not choose
 /// the collection and uses the language only for its own captions.
@@ -31,10 +48,7 @@ public:
 
     /// Opens at this place on its screen.
     explicit HelpWindow(const HelpPlace& place);
-    HelpWindow(const HelpWindow&) = delete;
-    HelpWindow& operator=(const HelpWindow&) = delete;
-    HelpWindow(HelpWindow&&) = delete;
-    HelpWindow& operator=(HelpWindow&&) = delete;
+    Q_DISABLE_COPY_MOVE(HelpWindow)
     ~HelpWindow() override;
 
     /// Replaces the collection and updates the captions. Keeps the page of the same name, or shows

@@ -22,10 +22,7 @@ class WhatsThisMode : public QObject {
 
 public:
     WhatsThisMode() = default;
-    WhatsThisMode(const WhatsThisMode&) = delete;
-    WhatsThisMode& operator=(const WhatsThisMode&) = delete;
-    WhatsThisMode(WhatsThisMode&&) = delete;
-    WhatsThisMode& operator=(WhatsThisMode&&) = delete;
+    Q_DISABLE_COPY_MOVE(WhatsThisMode)
     ~WhatsThisMode() override;
 
     void Begin();

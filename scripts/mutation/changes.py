@@ -26,9 +26,8 @@ NAMES = {
     "true": ("false",), "false": ("true",),
     "llrint": ("llround", "floor", "trunc"),
     "FromDoubleInCents": ("FromDouble",), "FromDouble": ("FromDoubleInCents",),
-    "__builtin_add_overflow": ("__builtin_sub_overflow",),
-    "__builtin_sub_overflow": ("__builtin_add_overflow",),
-    "__builtin_mul_overflow": ("__builtin_add_overflow",),
+    "SumOverflows": ("DifferenceOverflows",), "DifferenceOverflows": ("SumOverflows",),
+    "ProductOverflows": ("SumOverflows",),
     "stable_sort": ("sort",), "max": ("min",), "min": ("max",),
 }
 ENUMERATORS = {

@@ -1,5 +1,6 @@
 #include "KeyPath.h"
 
+#include "RegistryLimits.h"
 #include "Utf8.h"
 
 #include <string_view>

@@ -1,17 +1,10 @@
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace quend::registry {
-
-/// Limits on the length of names, in UTF-16 units, and on the depth of paths. They match the
-/// platform's registry, so that a store can move between platforms.
-inline constexpr std::size_t LongestKeyName = 255;
-inline constexpr std::size_t LongestValueName = 16'383;
-inline constexpr std::size_t DeepestPath = 512;
 
 /// The elements of a path below a root; none for an empty path, which is the root itself. No value
 /// for an invalid path: an element is empty (a backslash at either end, or two in a row), too long

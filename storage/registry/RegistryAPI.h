@@ -85,8 +85,6 @@ class StoreTransaction;
 /// thrown are named below.
 class RegistryAPI {
 public:
-    /// The length of the single blank name that means "no subkeys".
-    static constexpr std::size_t NoSubkeysLength = 260;
     /// How long a write waits for another program that is writing.
     static constexpr std::chrono::milliseconds UsualWait{5'000};
 
@@ -107,10 +105,9 @@ public:
     /// Deletes a key with its values. A key that has subkeys stays.
     void DeleteKey(RegistryRoot keyRoot, const std::string& keyName) const;
 
-    /// The value, or the default when it is missing, inaccessible or too long (a text of more than
-    /// 1,023 user-perceived characters, or more than 4,096 bytes). `type` is the type of the
-    /// result; the type that was written is not checked. Throws Failure 1001 "Unsupported value
-    /// type" for an unknown type, if the key exists.
+    /// The value, or the default when it is missing, inaccessible or too long (RegistryLimits.h).
+    /// `type` is the type of the result; the type that was written is not checked. Throws Failure
+    /// 1001 "Unsupported value type" for an unknown type, if the key exists.
     RegistryValue GetValue(RegistryRoot keyRoot, const std::string& keyName,
                            const std::string& valueName, std::int16_t type,
                            const RegistryValue& defaultValue) const;
@@ -128,8 +125,8 @@ public:
                      const std::string& valueName) const;
 
     /// The names of the direct subkeys, sorted alphabetically without regard to case; of the root
-    /// for an empty path. One element of 260 blanks means that there are none; no element means
-    /// that the key could not be opened.
+    /// for an empty path. One element of NoSubkeysLength blanks means that there are none; no
+    /// element means that the key could not be opened.
     std::vector<std::string> GetSubKeys(RegistryRoot keyRoot, const std::string& keyName) const;
 
     /// Runs `steps` in one transaction: either all writes are committed or none, and all reads see

@@ -1,6 +1,6 @@
 #include "ValueBytes.h"
 
-#include "TextLength.h"
+#include "RegistryLimits.h"
 #include "Utf8.h"
 
 #include <charconv>

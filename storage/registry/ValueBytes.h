@@ -12,9 +12,6 @@ namespace quend::registry {
 /// binary value, the four bytes of a number, low byte first. A text is stored without a terminator
 /// and read with one NUL after it.
 
-/// The longest binary value that can be read back.
-inline constexpr std::size_t LongestBinary = 4'096;
-
 bool IsKnownType(std::int16_t type);
 
 /// The bytes to store for a value of that type. Converts other types: a number to a decimal text, a

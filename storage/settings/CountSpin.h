@@ -8,7 +8,7 @@ namespace quend::storage {
 
 /// A spin box for a count. Accepts only digits, typed or pasted, and does not correct them: the
 /// field can hold a number out of range, which the caller checks. The buttons stay within the
-/// range.
+/// range. Not a QSpinBox, because that one replaces a number out of range on its own.
 class CountSpin : public QAbstractSpinBox {
     Q_OBJECT
     // Screen readers query these properties of a spin box.

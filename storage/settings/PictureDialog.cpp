@@ -24,9 +24,8 @@ QString ExistingFolder(const QString& folder) {
     return QStandardPaths::writableLocation(QStandardPaths::HomeLocation);
 }
 
-} // namespace
-
-QStringList PictureDialog::Filters() {
+/// The file name filters, bitmaps first.
+QStringList Filters() {
     QStringList patterns;
     for (const QByteArray& ending : PictureFile::Formats()) {
         patterns.append(QStringLiteral("*.") + QString::fromLatin1(ending));
@@ -35,6 +34,8 @@ QStringList PictureDialog::Filters() {
         .arg(patterns.join(u' '))
         .split(QStringLiteral(";;"));
 }
+
+} // namespace
 
 QString PictureDialog::Choose(QWidget& parent, const PictureRequest& request) {
     QFileDialog dialog(&parent, GetResourceText(TextNumber::PictureTitle));

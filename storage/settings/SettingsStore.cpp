@@ -17,6 +17,8 @@ namespace quend::storage {
 
 namespace {
 
+constexpr const char* CurrentLanguageName = "CurrentLanguage";
+
 /// One value of the base key. Number 0 and the empty text mean that the value is missing.
 struct StoredValue {
     const char* name;
@@ -43,9 +45,7 @@ RegistryValue LanguageInUse(const Settings& /*settings*/) {
     return std::int32_t{Language::Instance().CurrentLanguage()};
 }
 
-RegistryValue TermUnitOf(const Settings& settings) {
-    return std::int32_t{settings.termInMonths ? -1 : 0};
-}
+RegistryValue TermUnitOf(const Settings& settings) { return RegistryFlag(settings.termInMonths); }
 
 void TakeTermUnit(Settings& settings, const RegistryValue& value, const char* /*name*/) {
     settings.termInMonths = std::get<std::int32_t>(value) != 0;
@@ -74,7 +74,7 @@ void TakeText(Settings& settings, const RegistryValue& value, const char* name) 
 /// In writing order; they are read in the same order.
 constexpr std::array StoredValues{
     StoredValue{"LoansDisplayed", RegistryType::Number, OffersOf, TakeOffers},
-    StoredValue{"CurrentLanguage", RegistryType::Number, LanguageInUse, nullptr},
+    StoredValue{CurrentLanguageName, RegistryType::Number, LanguageInUse, nullptr},
     StoredValue{"TermInMonths", RegistryType::Number, TermUnitOf, TakeTermUnit},
     StoredValue{"Wallpaper", RegistryType::Text, TextOf<&Settings::wallpaper>,
                 TakeText<&Settings::wallpaper>},
@@ -96,7 +96,25 @@ void Write(const RegistryAPI& store, const StoredValue& stored, const Settings& 
     }
 }
 
+/// 0 or less when none was ever set; below 0 means that the language was only detected.
+int ChosenLanguage(const RegistryAPI& store) {
+    if (!store.KeyExists(StoreRoot, BaseKey)) {
+        store.CreateKey(StoreRoot, BaseKey);
+        return 0;
+    }
+    return std::get<std::int32_t>(store.GetValue(StoreRoot, BaseKey, CurrentLanguageName,
+                                                 RegistryType::Number, std::int32_t{0}));
+}
+
 } // namespace
+
+void PrepareKeyAndLanguage(const RegistryAPI& store, std::uint16_t languageIdentifier) {
+    Language& language = Language::Instance();
+    language.SetCurrentLanguage(ChosenLanguage(store));
+    if (language.CurrentLanguage() < 1) {
+        language.DetectLanguage(languageIdentifier);
+    }
+}
 
 StoredSettings LoadSettings(const RegistryAPI& store) {
     StoredSettings loaded;
@@ -110,7 +128,7 @@ StoredSettings LoadSettings(const RegistryAPI& store) {
                             reading.GetValue(StoreRoot, BaseKey, stored.name, stored.type,
                                              NoValue(stored.type)),
                             stored.name);
-            } catch (const Failure& failure) {
+            } catch (const Failure& failure) { // reported together, once the window is open
                 loaded.failures.push_back(failure);
             }
         }

@@ -4,6 +4,7 @@
 #include "Settings.h"
 #include "StorageNames.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace quend::registry {
@@ -15,6 +16,11 @@ namespace quend::storage {
 /// How many offers can be displayed at a time.
 inline constexpr int FewestOffersDisplayed = 1;
 inline constexpr int MostOffersDisplayed = 15;
+
+/// At start-up: creates the program's key in the store if missing, and selects the language: the
+/// user's setting, otherwise by the user's language identifier. Throws Failure 1001 when the key
+/// cannot be created.
+void PrepareKeyAndLanguage(const RegistryAPI& store, std::uint16_t languageIdentifier);
 
 /// The contents of the store, as far as they are usable.
 struct StoredSettings {

@@ -2,9 +2,10 @@
 
 #include "CMouse.h"
 #include "Captions.h"
+#include "FailureReport.h"
 #include "Language.h"
 #include "MessageQueue.h"
-#include "PictureChooser.h"
+#include "PictureDialog.h"
 #include "SettingsStore.h"
 #include "TextNumbers.h"
 #include "ui_frmOptions.h"
@@ -24,7 +25,7 @@ std::unique_ptr<Ui::frmOptions> FormOf(frmOptions& dialog) {
     form->setupUi(&dialog);
     // Object names that are not possible in a form.
     form->udLoans->Edit().setObjectName(QStringLiteral("txtLoans"));
-    form->udLoans->Edit().setProperty("accessibleText", TextNumber::OffersEdit);
+    form->udLoans->Edit().setProperty(TextProperty::Name, TextNumber::OffersEdit);
     form->optTermMonths->setObjectName(QStringLiteral("optTerm(0)"));
     form->optTermYears->setObjectName(QStringLiteral("optTerm(1)"));
     return form;
@@ -71,10 +72,18 @@ void frmOptions::SelectTermUnit(QRadioButton& selected) {
 }
 
 void frmOptions::Wire() {
-    connect(m_ui->OKButton, &QPushButton::clicked, this, &frmOptions::OKButton_Click);
-    connect(m_ui->CancelButton, &QPushButton::clicked, this, &frmOptions::CancelButton_Click);
-    connect(m_ui->cmdWallpaper, &QToolButton::clicked, this, &frmOptions::cmdWallpaper_Click);
-    connect(m_ui->txtWallpaper, &QLineEdit::editingFinished, this, &frmOptions::txtWallpaper_Left);
+    const auto guarded = [this](void (frmOptions::*handler)()) {
+        return [this, handler] {
+            FailureReport(*m_messages).Guard([this, handler] { (this->*handler)(); });
+        };
+    };
+    connect(m_ui->OKButton, &QPushButton::clicked, this, guarded(&frmOptions::OKButton_Click));
+    connect(m_ui->CancelButton, &QPushButton::clicked, this,
+            guarded(&frmOptions::CancelButton_Click));
+    connect(m_ui->cmdWallpaper, &QToolButton::clicked, this,
+            guarded(&frmOptions::cmdWallpaper_Click));
+    connect(m_ui->txtWallpaper, &QLineEdit::editingFinished, this,
+            guarded(&frmOptions::txtWallpaper_Left));
     connect(qApp, &QApplication::focusChanged, this, &frmOptions::OnFocusChanged);
     for (QAbstractButton* button : findChildren<QAbstractButton*>()) {
         button->installEventFilter(this);

@@ -34,10 +34,7 @@ class frmOptions : public QDialog {
 public:
     frmOptions(Settings settings, MessageQueue& messages, PictureChooser& pictures,
                QWidget* parent);
-    frmOptions(const frmOptions&) = delete;
-    frmOptions& operator=(const frmOptions&) = delete;
-    frmOptions(frmOptions&&) = delete;
-    frmOptions& operator=(frmOptions&&) = delete;
+    Q_DISABLE_COPY_MOVE(frmOptions)
     ~frmOptions() override;
 
     const Settings& Chosen() const { return m_settings; }

@@ -1,12 +1,16 @@
 #include "FileCommands.h"
 
 #include "CMouse.h"
+#include "FailureReport.h"
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
 #include "LoanNameBox.h"
+#include "MessageQueue.h"
+#include "OfferRows.h"
 #include "StoreNotice.h"
 #include "TextNumbers.h"
+#include "Worksheet.h"
 
 #include <QAction>
 
@@ -45,7 +49,8 @@ FileCommands::FileCommands(Loan& window, WorksheetStore store)
             });
         });
     }
-    connect(m_cboLoanName, &LoanNameBox::DropDown, this, &FileCommands::cboLoanName_DropDown);
+    connect(m_cboLoanName, &LoanNameBox::DropDown, this,
+            [this] { m_window->Report().Guard([this] { cboLoanName_DropDown(); }); });
     connect(m_cboLoanName, &LoanNameBox::Picked, this, [this](const QString& picked) {
         m_window->Report().Guard([&] { cboLoanName_Click(picked); });
     });
@@ -147,7 +152,7 @@ bool FileCommands::SaveLoan() {
     mouse.SetPointer(MousePointer::Hourglass);
     try {
         m_store.Save(*m_worksheet);
-    } catch (const Failure& failure) {
+    } catch (const Failure& failure) { // its message says what became of the worksheet
         Report(GetResourceText(TextNumber::NotSaved), StoreFailureText(failure));
         return false;
     }
@@ -209,7 +214,7 @@ bool FileCommands::DeleteLoan() {
     mouse.SetPointer(MousePointer::Hourglass);
     try {
         m_store.Delete(m_worksheet->LoanName());
-    } catch (const StoreFailure& failure) {
+    } catch (const StoreFailure& failure) { // as above
         Report(GetResourceText(TextNumber::NotDeleted), ErrorText(failure.Trouble()));
         return false;
     }

@@ -1,13 +1,11 @@
 #include "WorksheetStore.h"
 
-#include "KeyPath.h"
 #include "Language.h"
+#include "RegistryLimits.h"
 #include "StoreNames.h"
 #include "StoredWorksheet.h"
 #include "TextNumbers.h"
 #include "WorksheetValues.h"
-
-#include <QTextBoundaryFinder>
 
 #include <optional>
 
@@ -15,21 +13,16 @@ namespace quend::storage {
 
 namespace {
 
-/// No value for an invalid name: it would address a different key.
-std::optional<std::string> KeyOf(const QString& name) {
-    return WorksheetStore::CanBeKept(name)
-               ? std::optional(std::string(BaseKey) + '\\' + name.toStdString())
-               : std::nullopt;
+/// A name that equals the entry for a new loan is allowed here.
+bool CanBeKept(const QString& name) {
+    return !Worksheet::IsEmptyName(name) && name.size() <= static_cast<qsizetype>(LongestKeyName) &&
+           name.isValidUtf16() && !name.contains(u'\\') && !name.contains(QChar::Null);
 }
 
-/// Counts as users do: a letter with its accents is one character.
-qsizetype CharactersOf(const QString& text) {
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    qsizetype count = 0;
-    while (finder.toNextBoundary() != -1) {
-        ++count;
-    }
-    return count;
+/// No value for an invalid name: it would address a different key.
+std::optional<std::string> KeyOf(const QString& name) {
+    return CanBeKept(name) ? std::optional(std::string(BaseKey) + '\\' + name.toStdString())
+                           : std::nullopt;
 }
 
 /// Writes the values of the loan, or of the offer with this prefix; `valueOf` gives that of a
@@ -60,11 +53,6 @@ void Write(const RegistryAPI& store, const std::string& key, const Worksheet& wo
 
 } // namespace
 
-bool WorksheetStore::CanBeKept(const QString& name) {
-    return !Worksheet::IsEmptyName(name) && name.size() <= static_cast<qsizetype>(LongestKeyName) &&
-           name.isValidUtf16() && !name.contains(u'\\') && !name.contains(QChar::Null);
-}
-
 NameFault WorksheetStore::FaultOf(const QString& name) {
     if (Worksheet::IsEmptyName(name)) {
         return NameFault::Empty;
@@ -78,8 +66,7 @@ NameFault WorksheetStore::FaultOf(const QString& name) {
 }
 
 bool WorksheetStore::CanHoldLender(const QString& who) {
-    constexpr qsizetype longest = 1023;
-    return CharactersOf(who) <= longest;
+    return IsReadableLength(who.toStdString());
 }
 
 bool WorksheetStore::IsWorthKeeping(const CLoan& offer) {
@@ -94,16 +81,10 @@ QStringList WorksheetStore::Names() const {
         names.append(QString::fromStdString(key));
     }
     // The placeholder for "none" has more blanks than any name can have.
-    constexpr qsizetype none = 260;
-    if (names.size() == 1 && names.front() == QString(none, u' ')) {
+    if (names.size() == 1 && names.front() == QString(qsizetype{NoSubkeysLength}, u' ')) {
         names.clear();
     }
     return names;
-}
-
-bool WorksheetStore::Exists(const QString& name) const {
-    const auto key = KeyOf(name);
-    return key && m_store.KeyExists(StoreRoot, *key);
 }
 
 void WorksheetStore::Save(Worksheet& worksheet) const {

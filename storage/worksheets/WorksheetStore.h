@@ -17,7 +17,8 @@ namespace quend::storage {
 enum class NameFault {
     None,
     Empty,  ///< a single blank also counts as empty
-    NoKey,  ///< too long, incomplete characters, or contains a backslash or NUL
+    NoKey,  ///< too long, incomplete characters, or contains a backslash or NUL: nothing under such
+            ///< a name exists, loads or is deleted
     NewLoan ///< equals the entry for a new loan in some language
 };
 
@@ -36,12 +37,9 @@ class WorksheetStore {
 public:
     explicit WorksheetStore(RegistryAPI store) : m_store(std::move(store)) {}
 
-    /// Why a worksheet cannot be saved under the name.
+    /// Why a worksheet cannot be saved under the name. One under the name NewLoan may exist: it was
+    /// saved before that language was added.
     static NameFault FaultOf(const QString& name);
-    /// Whether a worksheet can be stored under the name at all. Under any other name nothing
-    /// exists, loads or is deleted. A name that equals the entry for a new loan is allowed here: it
-    /// may have been saved before that language was added.
-    static bool CanBeKept(const QString& name);
     /// Whether a text about a lender can be read back unchanged.
     static bool CanHoldLender(const QString& who);
     /// Whether an offer is saved. A term alone is not enough.
@@ -49,7 +47,6 @@ public:
 
     /// In the order of the store; empty when there are none.
     QStringList Names() const;
-    bool Exists(const QString& name) const;
 
     /// Saves the worksheet under its name in one transaction, with its offers in the order of
     /// entry. Replaces the previous worksheet of that name and clears Dirty. Throws StoreFailure

@@ -73,7 +73,7 @@ std::vector<KeptValue> InOrderOfReading(std::span<const KeptValue> values) {
 
 RegistryValue ToStored(const FieldValue& value, const StoredTexts& texts) {
     const ByType stored{
-        [](bool ticked) { return RegistryValue(std::int32_t{ticked ? -1 : 0}); },
+        [](bool ticked) { return RegistryValue(RegistryFlag(ticked)); },
         [](const QString& text) { return RegistryValue(text.toStdString()); },
         [](const LoanTypeCode& code) {
             return RegistryValue(LoanTypeCodeToText(code).toStdString());

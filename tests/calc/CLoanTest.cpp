@@ -4,6 +4,7 @@
 #include "Failure.h"
 #include "Language.h"
 #include "RecordingLoanContext.h"
+#include "TextNumbers.h"
 
 #include <gtest/gtest.h>
 
@@ -127,7 +128,7 @@ struct DirtyCase {
 
 TEST_F(CLoanTest, MarksTheWorksheetDirtyWhenAValueChanges) {
     m_loan.Payment(); // later calls no longer raise the actual payment
-    const QString weekly = GetResourceText(112);
+    const QString weekly = GetResourceText(TextNumber::FrequencyEveryTwoWeeks);
     const std::vector<DirtyCase> cases{
         {"FinancePoints", [](CLoan& loan) { loan.SetFinancePoints(true); }},
         {"Points", [](CLoan& loan) { loan.SetPoints(Percent::FromPercent(1.25)); }},
@@ -188,9 +189,9 @@ TEST_F(CLoanTest, TakesTheDefaultTermEvenWhenTheRateStaysTheSame) {
 }
 
 TEST_F(CLoanTest, KnowsItsFrequencyByTextAndByCode) {
-    m_loan.SetFrequency(GetResourceText(115));
+    m_loan.SetFrequency(GetResourceText(TextNumber::FrequencyEveryFourWeeks));
     EXPECT_EQ(m_loan.FrequencyCode(), FrequencyCode(u"Q"_s));
-    EXPECT_EQ(m_loan.Frequency(), GetResourceText(115));
+    EXPECT_EQ(m_loan.Frequency(), GetResourceText(TextNumber::FrequencyEveryFourWeeks));
     m_loan.SetFrequencyCode(FrequencyCode(u"x1"_s));
     EXPECT_EQ(m_loan.FrequencyCode(), FrequencyCode(u"x1"_s));
     EXPECT_EQ(m_loan.Frequency(), QString());

@@ -92,11 +92,6 @@ TEST_P(About, ShowsTheVersionRecord) {
     });
 }
 
-TEST(VersionRecord, SpeaksEnglishWhereItDoesNotKnowTheLanguage) {
-    EXPECT_STREQ(VersionRecord::WordsIn("deut").comments, VersionRecord::Comments);
-    EXPECT_STREQ(VersionRecord::WordsIn("").legalNotice, VersionRecord::LegalNotice);
-}
-
 TEST_P(About, KeyboardAloneSuffices) {
     m_tool = QStringLiteral("/usr/bin/tool");
     for (const Qt::Key ending : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space}) {

@@ -24,10 +24,7 @@ public:
     Variable(const char* name, const QString& value) : m_name(name), m_before(qgetenv(name)) {
         qputenv(name, value.toLocal8Bit());
     }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-    Variable(Variable&&) = delete;
-    Variable& operator=(Variable&&) = delete;
+    Q_DISABLE_COPY_MOVE(Variable)
     ~Variable() { m_before.isNull() ? qunsetenv(m_name) : qputenv(m_name, m_before); }
 
 private:

@@ -4,7 +4,6 @@
 #include "DesktopMail.h"
 #include "Fuzzing.h"
 #include "HostileTexts.h"
-#include "InstalledSystemInfo.h"
 #include "QuendNames.h"
 #include "StoreFolder.h"
 #include "SystemInfo.h"

@@ -53,10 +53,7 @@ public:
         Set(1, messages);
         Set(2, lang);
     }
-    UserLocale(const UserLocale&) = delete;
-    UserLocale& operator=(const UserLocale&) = delete;
-    UserLocale(UserLocale&&) = delete;
-    UserLocale& operator=(UserLocale&&) = delete;
+    Q_DISABLE_COPY_MOVE(UserLocale)
     ~UserLocale() {
         for (std::size_t i = 0; i < Names.size(); ++i) {
             Put(i, m_before.at(i));

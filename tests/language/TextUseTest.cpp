@@ -2,7 +2,6 @@
 #include "Language.h"
 #include "ProgramFolder.h"
 #include "QuendNames.h"
-#include "TextNumbers.h"
 #include "TextTable.h"
 
 #include <QRegularExpression>
@@ -10,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -34,9 +34,22 @@ Uses UsesOf(const std::vector<FormNumber>& numbers) {
     return uses;
 }
 
+/// In the order of the header.
+std::vector<int> NumbersOfCode() {
+    const QString header =
+        QString::fromUtf8(BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/TextNumbers.h")));
+    const QRegularExpression constant(QStringLiteral("constexpr int \\w+ = (\\d+);"));
+    std::vector<int> numbers;
+    auto matches = constant.globalMatch(header);
+    while (matches.hasNext()) {
+        numbers.push_back(matches.next().captured(1).toInt());
+    }
+    return numbers;
+}
+
 Uses AllUses() {
     Uses uses = UsesOf(NumbersOfForms(TextProperties));
-    for (const int number : TextNumber::All) {
+    for (const int number : NumbersOfCode()) {
         uses.emplace(number, "TextNumbers.h");
     }
     return uses;
@@ -63,20 +76,10 @@ TEST(TextUse, EveryTextIsUsed) {
     }
 }
 
-TEST(TextUse, NumbersOfCodeAreAllListedOnce) {
-    const QString header =
-        QString::fromUtf8(BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/TextNumbers.h")));
-    const QRegularExpression constant(QStringLiteral("constexpr int \\w+ = (\\d+);"));
-    std::vector<int> declared;
-    auto matches = constant.globalMatch(header);
-    while (matches.hasNext()) {
-        declared.push_back(matches.next().captured(1).toInt());
-    }
-    std::vector<int> listed(TextNumber::All.begin(), TextNumber::All.end());
-    std::sort(declared.begin(), declared.end());
-    std::sort(listed.begin(), listed.end());
-    EXPECT_EQ(declared, listed);
-    EXPECT_EQ(listed.end(), std::adjacent_find(listed.begin(), listed.end()));
+TEST(TextUse, NumbersOfCodeAscend) {
+    const std::vector<int> numbers = NumbersOfCode();
+    EXPECT_FALSE(numbers.empty());
+    EXPECT_TRUE(std::ranges::is_sorted(numbers, std::ranges::less_equal()));
 }
 
 TEST(TextUse, BuiltInTextsAreThoseOfTheEnglishTable) {

@@ -9,7 +9,8 @@
 #include <stop_token>
 #include <vector>
 
-/// A test double for PrinterInterface: answers the dialogs and stores what is printed.
+/// A test double for PrinterInterface: answers the dialogs and stores what is printed. A failure is
+/// an exception that `whileAsking` or `whileHandingOver` throws.
 class FakePrinter : public PrinterInterface {
 public:
     std::optional<PrintOutcome> AskHowToPrint(QWidget& /*parent*/) override {

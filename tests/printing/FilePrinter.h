@@ -26,10 +26,10 @@ public:
     PrintOutcome AskSetUp(QWidget& /*parent*/) override { return {}; }
     QSizeF PageSpace() override { return PageSpaceOf(m_printer); }
     HandOver Document(const PrintedPages& pages) override {
-        Print(pages);
-        return [](const std::stop_token& /*stop*/) { return PrintOutcome(); };
+        const PrintFault fault = Print(pages) ? PrintFault::None : PrintFault::Failed;
+        return [fault](const std::stop_token& /*stop*/) { return PrintOutcome{fault}; };
     }
-    void Print(const PrintedPages& pages) { PaintPages(m_printer, pages); }
+    bool Print(const PrintedPages& pages) { return PaintPages(m_printer, pages); }
 
 private:
     QPrinter m_printer{QPrinter::HighResolution};

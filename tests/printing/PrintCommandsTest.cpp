@@ -8,7 +8,8 @@
 #include "FakePrinter.h"
 #include "Language.h"
 #include "LoanForm.h"
-#include "PrinterOfPlugin.h"
+#include "PrinterPlugin.h"
+#include "TextNumbers.h"
 #include "WindowFixture.h"
 
 #include <QAction>
@@ -33,7 +34,7 @@ protected:
     void Print() { Window().Form().mnuFilePrint->trigger(); }
     void SetUpPrinter() { Window().Form().mnuFilePrintSetup->trigger(); }
     FakePrinter& Printer() { return m_printer; }
-    frmPrint* Job() const { return m_commands->Job(); }
+    frmPrint* Job() { return Window().findChild<frmPrint*>(); }
     bool WaitForEnd() {
         return WaitFor([this] { return Job() == nullptr; });
     }
@@ -228,7 +229,7 @@ TEST_P(EndsOfProgram, TellOfAReportThatCannotBePrinted) {
     Printer().outcome = {PrintFault::NoServer};
     Print();
     RunProgram();
-    EXPECT_EQ(Messages().Texts(), QStringList{GetResourceText(661)});
+    EXPECT_EQ(Messages().Texts(), QStringList{GetResourceText(TextNumber::NoPrintServer)});
 }
 
 /// Even with a hanging server the program can end.
@@ -254,10 +255,12 @@ struct Fault {
 
 const std::vector<Fault>& Faults() {
     static const std::vector<Fault> faults{
-        {{PrintFault::NoPrinter}, 660, {}},
-        {{PrintFault::NoServer}, 661, {}},
-        {{PrintFault::Gone, QStringLiteral("Lab")}, 662, QStringLiteral("Lab")},
-        {{PrintFault::Rejects, QStringLiteral("Lab")}, 663, QStringLiteral("Lab")},
+        {{PrintFault::NoPrinter}, TextNumber::NoPrinter, {}},
+        {{PrintFault::NoServer}, TextNumber::NoPrintServer, {}},
+        {{PrintFault::Gone, QStringLiteral("Lab")}, TextNumber::PrinterGone, QStringLiteral("Lab")},
+        {{PrintFault::Rejects, QStringLiteral("Lab")},
+         TextNumber::PrinterRejects,
+         QStringLiteral("Lab")},
     };
     return faults;
 }
@@ -294,8 +297,8 @@ TEST_F(PrintCommandsTest, ALostDocumentIsToldOnce) {
     Printer().outcome = {PrintFault::Failed, QStringLiteral("Too hot.")};
     Print();
     ASSERT_TRUE(WaitForEnd());
-    EXPECT_EQ(SettledMessages(),
-              QStringList{GetResourceText(664) + QStringLiteral("\n\nToo hot.")});
+    EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(TextNumber::NotPrinted) +
+                                             QStringLiteral("\n\nToo hot.")});
 }
 
 TEST_F(PrintCommandsTest, MarginsWithoutRoomForARowAreRefused) {
@@ -318,7 +321,8 @@ TEST_F(PrintCommandsTest, MarginsWithoutRoomForARowAreRefused) {
         Printer().printed.clear();
         Print();
         ASSERT_TRUE(WaitForEnd());
-        const QStringList told = row.prints ? QStringList() : QStringList{GetResourceText(665)};
+        const QStringList told =
+            row.prints ? QStringList() : QStringList{GetResourceText(TextNumber::MarginsTooWide)};
         EXPECT_EQ(SettledMessages(), told) << row.space.width() << ' ' << row.space.height();
         ASSERT_EQ(Printer().printed.size(), row.prints ? 1U : 0U);
         if (row.prints) {
@@ -352,7 +356,8 @@ TEST_F(PrintCommandsTest, AMissingLibraryIsNamed) {
         QCoreApplication::applicationDirPath() + QStringLiteral("/Loan.Printers.so");
     for (QAction* entry : {Window().Form().mnuFilePrint, Window().Form().mnuFilePrintSetup}) {
         entry->trigger();
-        EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(666).arg(file)});
+        EXPECT_EQ(SettledMessages(),
+                  QStringList{GetResourceText(TextNumber::PartMissing).arg(file)});
         Messages().Clear();
     }
 }
@@ -366,7 +371,7 @@ TEST_F(PrintCommandsTest, SpeakTheLanguageInUse) {
     EXPECT_EQ(Job()->windowTitle(), u"Imprimiendo...");
     EXPECT_EQ(Job()->findChild<QPushButton*>()->text(), u"Cancelar");
     EXPECT_EQ(Job()->findChild<QLabel*>(QStringLiteral("lblPrintingText"))->text(),
-              GetResourceText(101) + QStringLiteral("Casa..."));
+              GetResourceText(TextNumber::Printing) + QStringLiteral("Casa..."));
 }
 
 } // namespace

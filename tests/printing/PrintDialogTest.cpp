@@ -4,6 +4,7 @@
 #include "LoanForm.h"
 #include "PrintServerFixture.h"
 #include "QuendNames.h"
+#include "TextNumbers.h"
 
 #include <QAction>
 #include <QApplication>
@@ -303,7 +304,7 @@ TEST_F(ServerOnlyTest, NoPrinterAtAllIsReportedInsteadOfAsking) {
     EXPECT_EQ(answer.Count(), 0);
     EXPECT_EQ(Job(), nullptr);
     EXPECT_EQ(Text(u"cboLoanName"), u"Our home");
-    ExpectNoTrace({GetResourceText(660)});
+    ExpectNoTrace({GetResourceText(TextNumber::NoPrinter)});
 }
 
 } // namespace

@@ -39,7 +39,7 @@ protected:
         ReportInput form = SampleForm(3);
         form.header.front().text = text;
         form.rows.at(number % form.rows.size()).back() = text;
-        form.rows.back().at(number % OfferColumnCount) = text;
+        form.rows.back().at(number % SampleColumns) = text;
         form.legalNotice = number % 7 == 0 ? text : form.legalNotice;
         Report report(form, QSizeF(20'000, 6'000 + static_cast<double>(number % 10'000)),
                       m_metrics);

@@ -7,6 +7,7 @@
 #include "QuendNames.h"
 #include "RulerMetrics.h"
 #include "SampleForm.h"
+#include "TextNumbers.h"
 #include "WindowFixture.h"
 #include "frmPrint.h"
 
@@ -60,7 +61,7 @@ TEST_F(PrintJobTest, NamesTheLoanInTheMiddleOfTheWindow) {
     EXPECT_TRUE(WaitForFinish());
     EXPECT_EQ(Job().windowTitle(), u"Printing...");
     EXPECT_EQ(Job().findChild<QLabel*>(QStringLiteral("lblPrintingText"))->text(),
-              GetResourceText(101) + QStringLiteral("Home..."));
+              GetResourceText(TextNumber::Printing) + QStringLiteral("Home..."));
     EXPECT_EQ(Job().findChild<QPushButton*>(QStringLiteral("cmdCancel"))->text(), u"Cancel");
     EXPECT_FALSE(Job().isModal());
     EXPECT_EQ(Job().parentWidget(), &Window());
@@ -193,7 +194,7 @@ TEST_F(PrintJobTest, ALongNameShowsBothItsEnds) {
         Start(1h, {}, QStringLiteral("Begin") + piece.repeated(60) + QStringLiteral("End"));
         ASSERT_TRUE(WaitForFinish());
         const auto& label = *Job().findChild<QLabel*>(QStringLiteral("lblPrintingText"));
-        const QString name = label.text().mid(GetResourceText(101).size());
+        const QString name = label.text().mid(GetResourceText(TextNumber::Printing).size());
         EXPECT_TRUE(name.startsWith(u"Begin")) << name.toStdString();
         EXPECT_TRUE(name.endsWith(u"End...")) << name.toStdString();
         EXPECT_GE(label.width(), label.fontMetrics().horizontalAdvance(name));
@@ -230,12 +231,16 @@ TEST_F(PrintJobTest, EveryFaultIsItsOutcome) {
     EXPECT_EQ(Printer().printed.size(), 1U);
 }
 
-TEST_F(PrintJobTest, AnExceptionOfThePrinterIsAFault) {
-    Printer().whileHandingOver = [](const std::stop_token&) { throw std::runtime_error("torn"); };
-    Start(0ms);
-    ASSERT_TRUE(WaitForEnd());
-    EXPECT_EQ(Job().Outcome().fault, PrintFault::Failed);
-    EXPECT_EQ(Job().Outcome().detail, u"torn");
+TEST_F(PrintJobTest, AnExceptionIsAFault) {
+    const auto tear = [] { throw std::runtime_error("torn"); };
+    for (const bool drawing : {true, false}) {
+        Printer().whileHandingOver = [&](const std::stop_token&) { tear(); };
+        Start(0ms, drawing ? std::function<void()>(tear) : nullptr);
+        ASSERT_TRUE(WaitForEnd());
+        EXPECT_EQ(Job().Outcome().fault, PrintFault::Failed);
+        EXPECT_EQ(Job().Outcome().detail, u"torn");
+        EXPECT_TRUE(Printer().printed.empty());
+    }
 }
 
 TEST_F(PrintJobTest, CancelAfterTheEndChangesNothing) {

@@ -11,10 +11,7 @@ public:
     static bool IsInstalled();
 
     PrintServer();
-    PrintServer(const PrintServer&) = delete;
-    PrintServer& operator=(const PrintServer&) = delete;
-    PrintServer(PrintServer&&) = delete;
-    PrintServer& operator=(PrintServer&&) = delete;
+    Q_DISABLE_COPY_MOVE(PrintServer)
     ~PrintServer();
 
     /// Runs one of the server's commands and returns its output. Throws if it fails.

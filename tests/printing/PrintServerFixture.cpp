@@ -4,6 +4,7 @@
 #include "FilePrinter.h"
 #include "Language.h"
 #include "LoanForm.h"
+#include "OfferRows.h"
 #include "SystemPrinter.h"
 
 #include <QAction>
@@ -96,7 +97,14 @@ void PrintServerTest::Print(const std::function<void(QPrintDialog&)>& answer) {
     Window().Form().mnuFilePrint->trigger();
 }
 
-QTimer& PrintServerTest::JobTimer() const {
+bool PrintServerTest::BeginJob() {
+    Begin(1h);
+    FillRows(1);
+    Print();
+    return WaitFor([this] { return Job()->PrintFinished(); });
+}
+
+QTimer& PrintServerTest::JobTimer() {
     return *Job()->findChild<QTimer*>(QStringLiteral("tmrPrint"));
 }
 

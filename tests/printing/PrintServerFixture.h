@@ -45,9 +45,11 @@ protected:
     void Begin(std::chrono::milliseconds shownAtLeast = {}, std::function<void()> yield = {});
     void FillRows(int count);
     void Print(const std::function<void(QPrintDialog&)>& answer = Accept);
-    frmPrint* Job() const { return m_commands->Job(); }
-    QTimer& JobTimer() const;
-    void HurryJob() const { JobTimer().setInterval(std::chrono::milliseconds(0)); }
+    frmPrint* Job() { return Window().findChild<frmPrint*>(); }
+    QTimer& JobTimer();
+    /// Begins a job of one offer; its pages are sent once it is hurried. False if it does not draw.
+    bool BeginJob();
+    void HurryJob() { JobTimer().setInterval(std::chrono::milliseconds(0)); }
     bool WaitForEnd();
     QStringList Printed() const;
     /// Documents are printed some time after they were sent.

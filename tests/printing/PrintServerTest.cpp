@@ -4,6 +4,7 @@
 #include "Language.h"
 #include "PrintServerFixture.h"
 #include "QuendNames.h"
+#include "TextNumbers.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -79,16 +80,13 @@ TEST_P(CancelAt, LeavesNoTrace) {
 }
 
 TEST_F(ServerOnlyTest, APrinterThatIsGoneDoesNotPrintOnAnother) {
-    Begin(1h);
-    FillRows(1);
-    Print();
-    ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
+    ASSERT_TRUE(BeginJob());
     AddOther();
     PrintServer::Run(QStringLiteral("lpadmin"), {QStringLiteral("-d"), QStringLiteral("Other")});
     PrintServer::Run(QStringLiteral("lpadmin"), {QStringLiteral("-x"), QStringLiteral("Lab")});
     HurryJob();
     EXPECT_TRUE(WaitForEnd());
-    ExpectNoTrace({GetResourceText(662).arg(QStringLiteral("Lab"))});
+    ExpectNoTrace({GetResourceText(TextNumber::PrinterGone).arg(QStringLiteral("Lab"))});
 }
 
 TEST_F(ServerOnlyTest, AStoppedQueueKeepsTheJob) {
@@ -111,35 +109,29 @@ TEST_F(ServerOnlyTest, AQueueThatRejectsIsReportedAndStartsNoJob) {
     FillRows(1);
     Print();
     EXPECT_EQ(Job(), nullptr);
-    ExpectNoTrace({GetResourceText(663).arg(QStringLiteral("Lab"))});
+    ExpectNoTrace({GetResourceText(TextNumber::PrinterRejects).arg(QStringLiteral("Lab"))});
 }
 
 TEST_F(ServerOnlyTest, AQueueThatRejectsMeanwhileIsReported) {
-    Begin(1h);
-    FillRows(1);
-    Print();
-    ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
+    ASSERT_TRUE(BeginJob());
     PrintServer::Run(QStringLiteral("cupsreject"), {QStringLiteral("Lab")});
     HurryJob();
     EXPECT_TRUE(WaitForEnd());
-    ExpectNoTrace({GetResourceText(663).arg(QStringLiteral("Lab"))});
+    ExpectNoTrace({GetResourceText(TextNumber::PrinterRejects).arg(QStringLiteral("Lab"))});
 }
 
 TEST_F(ServerOnlyTest, AServerThatIsGoneIsReported) {
-    Begin(1h);
-    FillRows(1);
-    Print();
-    ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
+    ASSERT_TRUE(BeginJob());
     Server()->EndServer();
     HurryJob();
     EXPECT_TRUE(WaitForEnd());
-    EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(661)});
+    EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(TextNumber::NoPrintServer)});
     EXPECT_TRUE(Printed().isEmpty());
     EXPECT_EQ(Text(u"cboLoanName"), u"Our home");
     Messages().Clear();
     Print();
     EXPECT_EQ(Job(), nullptr);
-    EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(661)});
+    EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(TextNumber::NoPrintServer)});
 }
 
 /// Stops the server's process during its lifetime: it accepts requests and answers none.
@@ -153,10 +145,7 @@ public:
         m_process = QString::fromLatin1(file.readAll().trimmed());
         Signal(QStringLiteral("-STOP"));
     }
-    HungServer(const HungServer&) = delete;
-    HungServer& operator=(const HungServer&) = delete;
-    HungServer(HungServer&&) = delete;
-    HungServer& operator=(HungServer&&) = delete;
+    Q_DISABLE_COPY_MOVE(HungServer)
     ~HungServer() { Signal(QStringLiteral("-CONT")); }
 
 private:
@@ -177,14 +166,11 @@ TEST_F(ServerOnlyTest, AServerThatHangsIsReportedInsteadOfAsking) {
     EXPECT_LT(clock.elapsed(), 10'000) << "of two seconds";
     EXPECT_EQ(answer.Count(), 0);
     EXPECT_EQ(Job(), nullptr);
-    EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(661)});
+    EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(TextNumber::NoPrintServer)});
 }
 
 TEST_F(ServerOnlyTest, AServerThatHangsIsWaitedFor) {
-    Begin(1h);
-    FillRows(1);
-    Print();
-    ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
+    ASSERT_TRUE(BeginJob());
     {
         const HungServer hung;
         HurryJob();
@@ -199,10 +185,7 @@ TEST_F(ServerOnlyTest, AServerThatHangsIsWaitedFor) {
 }
 
 TEST_F(ServerOnlyTest, CancelLeavesNoTraceInAServerThatHangs) {
-    Begin(1h);
-    FillRows(1);
-    Print();
-    ASSERT_TRUE(WaitFor([&] { return Job()->PrintFinished(); }));
+    ASSERT_TRUE(BeginJob());
     {
         const HungServer hung;
         HurryJob();

@@ -1,6 +1,5 @@
 #include "PrinterPlugin.h"
 #include "Failure.h"
-#include "PrinterOfPlugin.h"
 #include "QuendNames.h"
 
 #include <QPluginLoader>

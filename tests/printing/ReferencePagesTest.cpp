@@ -3,6 +3,7 @@
 // QUEND_KEEP_PAGES=1 and check them by eye.
 
 #include "EnterValues.h"
+#include "OfferRows.h"
 #include "PagePainter.h"
 #include "QuendNames.h"
 #include "Report.h"

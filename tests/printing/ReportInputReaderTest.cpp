@@ -2,6 +2,7 @@
 
 #include "ReportInputReader.h"
 #include "EnterValues.h"
+#include "OfferRows.h"
 #include "QuendNames.h"
 
 #include "WindowFixture.h"

@@ -121,8 +121,8 @@ TEST_F(ReportTest, ARowIsElevenBoxesThenItsTexts) {
     const PrintedPage& page = Draw(SampleForm(1), 1000).pages.front();
     const auto boxes = ItemsOf<PrintedBox>(page);
     ASSERT_EQ(boxes.size(), 7U + 6 + 6 + 11);
-    for (std::size_t column = 0; column < OfferColumnCount; ++column) {
-        const double width = column + 1 < OfferColumnCount ? 80 : 80 + 16;
+    for (std::size_t column = 0; column < SampleColumns; ++column) {
+        const double width = column + 1 < SampleColumns ? 80 : 80 + 16;
         EXPECT_EQ(boxes.at(19 + column).place,
                   QRectF((10 + static_cast<double>(column) * 85) * Unit, FirstRow * Unit,
                          width * Unit, RowHeight * Unit));
@@ -157,7 +157,7 @@ TEST_F(ReportTest, AnEmptyWorksheetPrintsEmptyBoxes) {
         }
     }
     for (FormRow& row : form.rows) {
-        row.fill(QString());
+        std::ranges::fill(row, QString());
     }
     const PrintedPage& page = Draw(form, 1000).pages.front();
     EXPECT_EQ(ItemsOf<PrintedBox>(page).size(), 19U + 6 * 11);
@@ -324,7 +324,7 @@ TEST_F(ReportTest, NoTextLeavesItsBoxHoweverLong) {
             entry.text = QString(300, u'M');
         }
     }
-    form.rows.front().fill(QString(40, u'8'));
+    std::ranges::fill(form.rows.front(), QString(40, u'8'));
     const RulerMetrics metrics;
     const PrintedPage& page = Draw(form, 1000).pages.front();
     QRectF box;

@@ -31,8 +31,8 @@ std::vector<FormEntry> Entries(const QString& name, int count, double top) {
 } // namespace
 
 FormRow SampleRow(int row) {
-    FormRow texts;
-    for (std::size_t column = 1; column < OfferColumnCount; ++column) {
+    FormRow texts(SampleColumns);
+    for (std::size_t column = 1; column < SampleColumns; ++column) {
         texts.at(column) = QStringLiteral("%1.%2").arg(row).arg(column);
     }
     texts.front() = row % 2 == 1 ? QStringLiteral("x") : QString();
@@ -60,11 +60,11 @@ ReportInput SampleForm(int rows) {
     }
     form.offersLeft = 10;
     form.offersTop = 330;
-    for (std::size_t column = 0; column < OfferColumnCount; ++column) {
+    for (std::size_t column = 0; column < SampleColumns; ++column) {
         const bool isText = column == 0 || column == 4 || column == 8 || column == 10;
-        form.columns.at(column) = {.left = static_cast<double>(column) * 85,
-                                   .width = 80,
-                                   .side = isText ? Side::Left : Side::Right};
+        form.columns.push_back({.left = static_cast<double>(column) * 85,
+                                .width = 80,
+                                .side = isText ? Side::Left : Side::Right});
     }
     form.scrollBarWidth = 16;
     form.fieldHeight = 20;

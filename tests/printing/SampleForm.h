@@ -3,6 +3,8 @@
 #include "QuendNames.h"
 #include "ReportInput.h"
 
+#include <cstddef>
+
 /// A window 1,000 pixels wide on a screen of one pixel per point, so that on a page of 20,000 twips
 /// everything keeps its size. Its fields show their own names.
 ReportInput SampleForm(int rows);
@@ -11,3 +13,4 @@ ReportInput SampleForm(int rows);
 FormRow SampleRow(int row);
 
 inline constexpr double SampleWidth = 1000;
+inline constexpr std::size_t SampleColumns = 11;

@@ -3,6 +3,7 @@
 #include "Colours.h"
 #include "DatePicker.h"
 #include "RandomUser.h"
+#include "RegistryLimits.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -248,8 +249,7 @@ void Checks::NamesKept(RandomUser& user) {
     user.keptChanged = false;
     QStringList kept;
     for (const std::string& name : user.TheProgram().Kept()) {
-        if (name.size() != RegistryAPI::NoSubkeysLength ||
-            !QString::fromStdString(name).trimmed().isEmpty()) {
+        if (name.size() != NoSubkeysLength || !QString::fromStdString(name).trimmed().isEmpty()) {
             kept.append(QString::fromStdString(name));
         }
     }

@@ -3,7 +3,6 @@
 #include "CompiledHelp.h"
 #include "Language.h"
 #include "SettingsStore.h"
-#include "StartUp.h"
 
 #include <QImage>
 #include <QTest>
@@ -78,8 +77,7 @@ void Program::Start(const QLocale& locale) {
 
 void Program::Shut() { m_parts.reset(); }
 Loan& Program::Window() const { return m_parts->window; }
-frmPrint* Program::Job() const { return m_parts->printing.Job(); }
-HelpCommands& Program::Help() const { return m_parts->help; }
+frmPrint* Program::Job() const { return m_parts->window.findChild<frmPrint*>(); }
 
 void Program::Activate() const {
     if (m_parts->window.isActiveWindow()) {

@@ -8,7 +8,7 @@
 #include "Loan.h"
 #include "MailInterface.h"
 #include "OptionsCommands.h"
-#include "PictureChooser.h"
+#include "PictureDialog.h"
 #include "PrintCommands.h"
 #include "QuendNames.h"
 #include "ShareCommands.h"
@@ -43,10 +43,7 @@ class Program {
 public:
     Program();
     ~Program();
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
-    Program(Program&&) = delete;
-    Program& operator=(Program&&) = delete;
+    Q_DISABLE_COPY_MOVE(Program)
 
     /// Throws std::runtime_error when the window does not become active.
     void Start(const QLocale& locale);
@@ -54,7 +51,6 @@ public:
     bool IsOpen() const { return m_parts != nullptr; }
     Loan& Window() const;
     frmPrint* Job() const;
-    HelpCommands& Help() const;
     void Activate() const;
     /// The path of a picture that exists.
     QString Picture() const;

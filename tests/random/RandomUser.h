@@ -25,10 +25,7 @@ public:
     /// Starts the program on a separate store, with the formats of a country.
     explicit RandomUser(std::size_t country);
     ~RandomUser();
-    RandomUser(const RandomUser&) = delete;
-    RandomUser& operator=(const RandomUser&) = delete;
-    RandomUser(RandomUser&&) = delete;
-    RandomUser& operator=(RandomUser&&) = delete;
+    Q_DISABLE_COPY_MOVE(RandomUser)
 
     /// Takes a step and processes all events that follow from it.
     void Take(const Step& step);

@@ -1,6 +1,7 @@
 #include "WindowTexts.h"
 
 #include "QuendNames.h"
+#include "TextNumbers.h"
 #include "TextTable.h"
 #include "TextsOfControls.h"
 
@@ -21,8 +22,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// In the order of the lists.
-const std::vector Types{83, 10, 11, 19, 39, 29};
-const std::vector Frequencies{114, 111, 112, 115};
+const std::vector Types{TextNumber::LoanTypeMortgage,   TextNumber::LoanTypeAuto,
+                        TextNumber::LoanTypeBusiness,   TextNumber::LoanTypeConstruction,
+                        TextNumber::LoanTypeHomeEquity, TextNumber::LoanTypeDebtConsolidation};
+const std::vector Frequencies{TextNumber::FrequencyMonthly, TextNumber::FrequencyTwiceAMonth,
+                              TextNumber::FrequencyEveryTwoWeeks,
+                              TextNumber::FrequencyEveryFourWeeks};
 
 QHash<int, QString> ReadTable(const char* identifier) {
     QFile file(QStringLiteral(QUEND_SOURCE_DIR "/language/components/%1/texts.txt")
@@ -130,7 +135,7 @@ void WindowTexts::ListAll(const QWidget& window, const ReferenceModel& model) {
 }
 
 void WindowTexts::ListLoan(const QWidget& window) {
-    m_written.push_back({&window, "title", Title, Text(200)});
+    m_written.push_back({&window, "title", Title, Text(TextNumber::WindowTitle)});
     for (const TextsOfControl& texts : TextsOfTheLoan) {
         const QObject& object = Named(QString::fromLatin1(texts.control));
         const bool inYears = texts.writtenInYears != 0 && !m_inMonths;

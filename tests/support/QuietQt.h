@@ -11,10 +11,7 @@ public:
         : m_before(
               qInstallMessageHandler([](QtMsgType /*type*/, const QMessageLogContext& /*where*/,
                                         const QString& /*text*/) {})) {}
-    QuietQt(const QuietQt&) = delete;
-    QuietQt& operator=(const QuietQt&) = delete;
-    QuietQt(QuietQt&&) = delete;
-    QuietQt& operator=(QuietQt&&) = delete;
+    Q_DISABLE_COPY_MOVE(QuietQt)
     ~QuietQt() { qInstallMessageHandler(m_before); }
 
 private:

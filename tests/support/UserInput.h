@@ -11,10 +11,7 @@
 /// system; controls are found by name.
 class UserInput {
 public:
-    UserInput(const UserInput&) = delete;
-    UserInput& operator=(const UserInput&) = delete;
-    UserInput(UserInput&&) = delete;
-    UserInput& operator=(UserInput&&) = delete;
+    Q_DISABLE_COPY_MOVE(UserInput)
 
 protected:
     UserInput() = default;

@@ -2,8 +2,10 @@
 
 #include "FakeMessages.h"
 #include "Loan.h"
+#include "MessageQueue.h"
 #include "QuendNames.h"
 #include "UserInput.h"
+#include "Worksheet.h"
 
 #include <QLocale>
 #include <QPoint>
@@ -51,10 +53,7 @@ class WindowTest : public ::testing::Test, protected UserInput {
 protected:
     WindowTest();
     ~WindowTest() override;
-    WindowTest(const WindowTest&) = delete;
-    WindowTest& operator=(const WindowTest&) = delete;
-    WindowTest(WindowTest&&) = delete;
-    WindowTest& operator=(WindowTest&&) = delete;
+    Q_DISABLE_COPY_MOVE(WindowTest)
 
     void Open(const Start& start = {});
     /// As a window manager does after another window was closed.

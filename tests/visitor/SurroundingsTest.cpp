@@ -37,10 +37,7 @@ public:
             Set(variable);
         }
     }
-    Environment(const Environment&) = delete;
-    Environment& operator=(const Environment&) = delete;
-    Environment(Environment&&) = delete;
-    Environment& operator=(Environment&&) = delete;
+    Q_DISABLE_COPY_MOVE(Environment)
     ~Environment() { std::for_each(m_before.rbegin(), m_before.rend(), Set); }
 
 private:

@@ -2,6 +2,7 @@
 
 #include "Language.h"
 #include "ModelNames.h"
+#include "TextNumbers.h"
 
 #include <algorithm>
 #include <array>
@@ -17,8 +18,12 @@ struct TypeEntry {
 };
 
 constexpr std::array LoanTypes{
-    TypeEntry{u'A', 10, 1}, TypeEntry{u'B', 11, 2}, TypeEntry{u'C', 19, 3},
-    TypeEntry{u'D', 29, 5}, TypeEntry{u'H', 39, 4}, TypeEntry{u'M', 83, 0},
+    TypeEntry{u'A', TextNumber::LoanTypeAuto, 1},
+    TypeEntry{u'B', TextNumber::LoanTypeBusiness, 2},
+    TypeEntry{u'C', TextNumber::LoanTypeConstruction, 3},
+    TypeEntry{u'D', TextNumber::LoanTypeDebtConsolidation, 5},
+    TypeEntry{u'H', TextNumber::LoanTypeHomeEquity, 4},
+    TypeEntry{u'M', TextNumber::LoanTypeMortgage, 0},
 };
 
 /// The letter of the first matching type; none if none matches.

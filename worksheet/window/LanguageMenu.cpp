@@ -1,5 +1,6 @@
 #include "LanguageMenu.h"
 
+#include "FailureReport.h"
 #include "Language.h"
 #include "WindowNames.h"
 
@@ -10,8 +11,9 @@
 
 namespace quend::window {
 
-LanguageMenu::LanguageMenu(QMenu& menu, const std::vector<QAction*>& known, Callbacks callbacks)
-    : m_callbacks(std::move(callbacks)), m_entries(new QActionGroup(this)) {
+LanguageMenu::LanguageMenu(QMenu& menu, const std::vector<QAction*>& known, Callbacks callbacks,
+                           const FailureReport& report)
+    : m_callbacks(std::move(callbacks)), m_report(&report), m_entries(new QActionGroup(this)) {
     for (const LanguageEntry& language : Language::Instance().Entries()) {
         const auto place = static_cast<std::size_t>(language.number) - 1;
         QAction* entry = place < known.size() ? known[place] : menu.addAction(language.name);
@@ -21,7 +23,7 @@ LanguageMenu::LanguageMenu(QMenu& menu, const std::vector<QAction*>& known, Call
         m_entries->addAction(entry);
     }
     connect(m_entries, &QActionGroup::triggered, this, [this](const QAction* entry) {
-        m_callbacks.guard([&] { mnuToolsLanguageOpt_Click(entry->data().toInt()); });
+        m_report->Guard([&] { mnuToolsLanguageOpt_Click(entry->data().toInt()); });
         MarkCurrent(); // the menu has moved the mark already, even if the language did not change
     });
 }

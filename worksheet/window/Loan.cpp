@@ -3,10 +3,10 @@
 #include "CalendarDate.h"
 #include "Captions.h"
 #include "DatePicker.h"
-#include "FieldWidth.h"
 #include "Language.h"
 #include "LenderEdit.h"
 #include "Lists.h"
+#include "LoanParts.h"
 #include "TextNumbers.h"
 #include "TypedDate.h"
 #include "ui_Loan.h"
@@ -15,8 +15,8 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
-#include <QScreen>
 
 #include <utility>
 
@@ -26,7 +26,7 @@ namespace {
 
 /// Screen readers also find the edits inside some controls.
 void NameInnerEdits(const Ui::Loan& form) {
-    constexpr const char* number = "accessibleText";
+    constexpr const char* number = TextProperty::Name;
     form.cboLoanName->lineEdit()->setProperty(number, TextNumber::LoanNameEdit);
     form.dtNextPayment->findChild<QLineEdit*>()->setProperty(number,
                                                              form.dtNextPayment->property(number));
@@ -69,33 +69,55 @@ TermUnit UnitOf(const Settings& settings) {
     return settings.termInMonths ? TermUnit::Months : TermUnit::Years;
 }
 
+/// The hint below the rows disappears once every started offer is complete.
+void ShowHint(const Ui::Loan& form, const ControlMap& controls, const OfferRows& rows) {
+    bool anyComplete = false;
+    bool anyLacking = false;
+    for (Row row{0}; row <= rows.HighestOfferRow(); ++row.value) {
+        const auto isEmpty = [&](FieldId field) {
+            return controls.ControlOf<QLineEdit>({field, row})->text().isEmpty();
+        };
+        const bool isComplete = !isEmpty(FieldId::PandI);
+        const bool isBegun = !isEmpty(FieldId::InterestRate) || !isEmpty(FieldId::Term);
+        anyComplete = anyComplete || isComplete;
+        anyLacking = anyLacking || (isBegun && !isComplete);
+    }
+    form.lblHint->setVisible(anyLacking || !anyComplete);
+}
+
 } // namespace
 
-Loan::Loan(const World& world, Settings settings)
-    : m_settings(std::move(settings)), m_ui(FormOf(*this)), m_messages(*world.messages),
-      m_report(m_messages), m_controls(ControlsOf(*this)),
-      m_display(m_controls, {.raised = [this] { m_notice.Start(); },
-                             .refused = [this] { m_notice.TellRefused(); },
-                             .sorted = [this](SortOrder order) { m_offers.ShowSortOrder(order); },
-                             .offerShown = [this] { ShowHint(); }}),
-      m_worksheet(m_display, {DisplayFormats(world.locale), m_settings.termInMonths}, world.today),
-      m_columns(*m_ui->picHeadings, m_controls),
-      m_rows({m_ui->picScroll, m_ui->picCanvas, m_ui->vsbLoans}, m_worksheet, m_controls,
-             m_columns),
-      m_notice(*this, m_worksheet, m_messages, [this] { m_worksheet.ClearRaisedMarks(); }),
-      m_discipline(m_worksheet, m_controls, m_rows, m_messages),
-      m_handlers(m_worksheet, m_controls, m_discipline), m_focus(m_handlers, m_controls, m_report),
-      m_offers(*this), m_values(m_worksheet, m_controls, m_focus, m_discipline),
-      m_dragHandlers(m_values, m_controls), m_dragScroll(m_rows, *m_ui->picScroll),
-      m_dragging({this, m_ui->picScroll}, m_dragHandlers, m_controls, m_dragScroll, m_report),
-      m_clipboard(m_values, m_controls, m_messages, m_report),
-      m_languages(*m_ui->mnuToolsLanguage, {m_ui->mnuToolsLanguageOpt1, m_ui->mnuToolsLanguageOpt2},
-                  {.commit = [this] { return m_focus.Commit(); },
-                   .guard = [this](const auto& handler) { m_report.Guard(handler); },
-                   .renew = [this] { RenewLanguage(); }}),
-      m_resultKeys(*this, m_controls, m_rows) {
+Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
+    : settings(std::move(initial)), messages(*world.messages), report(messages),
+      controls(ControlsOf(window)),
+      display(controls,
+              {.raised = [this] { notice.Start(); },
+               .refused = [this] { notice.TellRefused(); },
+               .sorted = [this](SortOrder order) { offers.ShowSortOrder(order); },
+               .offerShown = [this, &window] { ShowHint(window.Form(), controls, rows); }}),
+      worksheet(display, {DisplayFormats(world.locale), settings.termInMonths}, world.today),
+      columns(*window.m_ui->picHeadings, controls),
+      rows({window.m_ui->picScroll, window.m_ui->picCanvas, window.m_ui->vsbLoans}, worksheet,
+           controls, columns),
+      size(window, *window.m_ui, controls, columns, rows, worksheet.Texts().Formats()),
+      notice(window, worksheet, messages, [this] { worksheet.ClearRaisedMarks(); }),
+      behaviour(worksheet, controls, rows, messages), handlers(worksheet, controls, behaviour),
+      focus(handlers, controls, report), offers(window),
+      values(worksheet, controls, focus, behaviour), dragHandlers(values, controls),
+      dragScroll(rows, *window.m_ui->picScroll),
+      dragging({&window, window.m_ui->picScroll}, dragHandlers, controls, dragScroll, report),
+      clipboard(values, controls, messages, report),
+      languages(*window.m_ui->mnuToolsLanguage,
+                {window.m_ui->mnuToolsLanguageOpt1, window.m_ui->mnuToolsLanguageOpt2},
+                {.commit = [this] { return focus.Commit(); },
+                 .renew = [&window] { window.RenewLanguage(); }},
+                report),
+      resultKeys(window, controls, rows) {}
+
+Loan::Loan(const World& world, Settings settings) : m_ui(FormOf(*this)) {
+    m_parts = std::make_unique<Parts>(*this, world, std::move(settings));
     WireFields();
-    m_report.Guard([this] { Form_Load(); });
+    m_parts->report.Guard([this] { Form_Load(); });
 }
 
 Loan::~Loan() = default;
@@ -105,71 +127,79 @@ void Loan::Form_Load() {
     if (language.CurrentLanguage() < 1) {
         language.SettleDetectedLanguage();
     } else {
-        m_report.Guard([&] { language.LoadLanguage(language.CurrentLanguage()); });
+        m_parts->report.Guard([&] { language.LoadLanguage(language.CurrentLanguage()); });
         language.SettleDetectedLanguage(); // replaces the number of a language that does not exist
     }
-    m_toolkitTexts.Renew();
-    m_languages.MarkCurrent();
-    m_rows.CreateRows(Row{m_settings.loansDisplayed});
+    m_parts->qtTexts.Renew();
+    m_parts->languages.MarkCurrent();
+    m_parts->rows.CreateRows(Row{m_parts->settings.loansDisplayed});
     ApplyCaptions();
     RefillLists();
-    m_loaded = true;
-    MeasureFields();
+    m_parts->loaded = true;
+    m_parts->size.Measure();
     resize(sizeHint());
     LoadWallpaper();
-    m_ui->dtNextPayment->SetWriting(WritingOf(m_worksheet));
-    m_worksheet.SetCurrentNextPayment(m_worksheet.Today());
-    m_worksheet.SetPaymentNoticeShown(false);
-    m_worksheet.ClearDirty();
+    m_ui->dtNextPayment->SetWriting(WritingOf(m_parts->worksheet));
+    m_parts->worksheet.SetCurrentNextPayment(m_parts->worksheet.Today());
+    m_parts->worksheet.SetPaymentNoticeShown(false);
+    m_parts->worksheet.ClearDirty();
 }
 
 /// A field that cannot be stored keeps the window open, so that nothing typed is lost.
-bool Loan::Form_Unload() { return m_focus.Commit() && (!m_mayClose || m_mayClose()); }
+bool Loan::Form_Unload() {
+    return m_parts->focus.Commit() && (!m_parts->mayClose || m_parts->mayClose());
+}
 
 void Loan::mnuFileExit_Click() { close(); }
 
-void Loan::closeEvent(QCloseEvent* event) { event->setAccepted(Form_Unload()); }
+void Loan::closeEvent(QCloseEvent* event) {
+    bool closes = false;
+    m_parts->report.Guard([&] { closes = Form_Unload(); });
+    event->setAccepted(closes);
+}
 
 void Loan::WireFields() {
-    m_focus.Watch(*this);
-    m_resultKeys.Watch(*this);
-    m_wholeText.Watch(*this);
+    m_parts->focus.Watch(*this);
+    m_parts->resultKeys.Watch(*this);
+    m_parts->wholeText.Watch(*this);
     for (const FieldRule& rule : LoanFields()) {
         WireChoice({rule.id});
     }
-    connect(m_ui->dtNextPayment, &DatePicker::Picked, this,
-            [this] { m_report.Guard([this] { m_handlers.dtNextPayment_Change(); }); });
-    connect(&m_rows, &OfferRows::RowCreated, this, &Loan::WireRow);
+    connect(m_ui->dtNextPayment, &DatePicker::Picked, this, [this] {
+        m_parts->report.Guard([this] { m_parts->handlers.dtNextPayment_Change(); });
+    });
+    connect(&m_parts->rows, &OfferRows::RowCreated, this, &Loan::WireRow);
     connect(m_ui->mnuFileExit, &QAction::triggered, this, &Loan::mnuFileExit_Click);
 }
 
 void Loan::WireRow(int row, const QWidget* controls) {
-    m_focus.Watch(*controls);
-    m_resultKeys.Watch(*controls);
-    m_wholeText.Watch(*controls);
-    m_dragging.Watch(Row{row});
-    m_clipboard.Watch(Row{row});
+    m_parts->focus.Watch(*controls);
+    m_parts->resultKeys.Watch(*controls);
+    m_parts->wholeText.Watch(*controls);
+    m_parts->dragging.Watch(Row{row});
+    m_parts->clipboard.Watch(Row{row});
     WireChoice({FieldId::Frequency, Row{row}});
-    m_offers.Watch(*m_controls.ControlOf<LenderEdit>({FieldId::Who, Row{row}}), Row{row});
+    m_parts->offers.Watch(*m_parts->controls.ControlOf<LenderEdit>({FieldId::Who, Row{row}}),
+                          Row{row});
     const Field points{FieldId::FinancePoints, Row{row}};
-    connect(m_controls.ControlOf<QCheckBox>(points), &QCheckBox::clicked, this,
-            [this, points] { m_report.Guard([&] { m_handlers.Click(points); }); });
+    connect(m_parts->controls.ControlOf<QCheckBox>(points), &QCheckBox::clicked, this,
+            [this, points] { m_parts->report.Guard([&] { m_parts->handlers.Click(points); }); });
     ApplyRowCaptions(Row{row});
 }
 
 /// A choice from a list is stored at once, not only when the list is left.
 void Loan::WireChoice(Field field) {
     if (RuleOf(field.id).IsChoice()) {
-        connect(m_controls.ControlOf<QComboBox>(field), &QComboBox::activated, this,
-                [this, field] { m_report.Guard([&] { m_handlers.Click(field); }); });
+        connect(m_parts->controls.ControlOf<QComboBox>(field), &QComboBox::activated, this,
+                [this, field] { m_parts->report.Guard([&] { m_parts->handlers.Click(field); }); });
     }
 }
 
-void Loan::ApplyCaptions() { ApplyTexts(*this, UnitOf(m_settings)); }
+void Loan::ApplyCaptions() { ApplyTexts(*this, UnitOf(m_parts->settings)); }
 
 void Loan::ApplyRowCaptions(Row row) {
-    QWidget* controls = m_controls.ControlOf({FieldId::Who, row})->parentWidget();
-    ApplyTexts(*controls, UnitOf(m_settings), row.value + 1);
+    QWidget* controls = m_parts->controls.ControlOf({FieldId::Who, row})->parentWidget();
+    ApplyTexts(*controls, UnitOf(m_parts->settings), row.value + 1);
 }
 
 void Loan::RefillLists() {
@@ -180,122 +210,81 @@ void Loan::RefillLists() {
     refill(*m_ui->cboLoanType, FillLoanTypeList);
     refill(*m_ui->cboCurPaymentFrequency, FillFrequencyList);
     refill(*m_ui->cboActPaymentFrequency, FillFrequencyList);
-    for (Row row{0}; row <= m_rows.HighestOfferRow(); ++row.value) {
-        refill(*m_controls.ControlOf<QComboBox>({FieldId::Frequency, row}), FillFrequencyList);
+    for (Row row{0}; row <= m_parts->rows.HighestOfferRow(); ++row.value) {
+        refill(*m_parts->controls.ControlOf<QComboBox>({FieldId::Frequency, row}),
+               FillFrequencyList);
     }
-    m_worksheet.ShowChoices();
+    m_parts->worksheet.ShowChoices();
 }
 
 void Loan::RenewLanguage() {
-    m_toolkitTexts.Renew();
+    m_parts->qtTexts.Renew();
     ApplyCaptions();
     RefillLists();
-    MeasureAgain();
+    m_parts->size.MeasureAgain();
 }
 
-/// A window that showed everything must still do so.
-void Loan::MeasureAgain() {
-    const bool showedAll = m_ui->scrWindow->ShowsAll();
-    MeasureFields();
-    if (showedAll) {
-        const QSize missing = m_ui->scrWindow->Missing();
-        ResizeBy(missing.expandedTo(QSize(0, 0)));
-    }
-}
+Worksheet& Loan::GetWorksheet() { return m_parts->worksheet; }
 
-void Loan::MeasureFields() {
-    const DisplayFormats& formats = m_worksheet.Texts().Formats();
-    for (const FieldRule& rule : LoanFields()) {
-        if (auto* edit = m_controls.ControlOf<QLineEdit>({rule.id})) {
-            edit->setMinimumWidth(LeastFieldWidth(rule.id, edit->fontMetrics(), formats));
-        } else if (rule.IsChoice()) {
-            // Qt keeps the minimum width of the first font.
-            QWidget* list = m_controls.ControlOf({rule.id});
-            list->setMinimumWidth(list->sizeHint().width());
-        }
-    }
-    m_columns.Measure(formats);
-    const int shown = m_rows.LoansDisplayed().value + 1;
-    m_ui->picScroll->setMinimumSize(m_columns.MinimumWidth(), shown * m_columns.RowHeight());
-    // For both: otherwise the higher one would take room above and below the other.
-    m_ui->picScroll->setMaximumHeight(shown * m_columns.RowHeight() * 3 / 2);
-    m_ui->vsbLoans->setMaximumHeight(m_ui->picScroll->maximumHeight());
-    m_rows.Layout();
-    m_ui->scrWindow->updateGeometry();
-}
+OfferRows& Loan::Rows() { return m_parts->rows; }
 
-/// Fits the window to a changed number of rows.
-void Loan::FitHeight() { ResizeBy({0, m_ui->scrWindow->Missing().height()}); }
+MessageQueue& Loan::GetMessages() { return m_parts->messages; }
 
-/// Does not grow beyond the screen, unless it is larger already. A maximized or full-screen window
-/// keeps its size.
-void Loan::ResizeBy(QSize change) {
-    if (!isMaximized() && !isFullScreen()) {
-        const QSize frame = frameGeometry().size() - size();
-        const QSize most = (screen()->availableGeometry().size() - frame).expandedTo(size());
-        resize((size() + change).boundedTo(most));
-    }
-}
+const FailureReport& Loan::Report() const { return m_parts->report; }
 
-/// The hint below the rows disappears once every started offer is complete.
-void Loan::ShowHint() {
-    bool anyComplete = false;
-    bool anyLacking = false;
-    for (Row row{0}; row <= m_rows.HighestOfferRow(); ++row.value) {
-        const auto isEmpty = [&](FieldId field) {
-            return m_controls.ControlOf<QLineEdit>({field, row})->text().isEmpty();
-        };
-        const bool isComplete = !isEmpty(FieldId::PandI);
-        const bool isBegun = !isEmpty(FieldId::InterestRate) || !isEmpty(FieldId::Term);
-        anyComplete = anyComplete || isComplete;
-        anyLacking = anyLacking || (isBegun && !isComplete);
-    }
-    m_ui->lblHint->setVisible(anyLacking || !anyComplete);
-}
+const Settings& Loan::GetSettings() const { return m_parts->settings; }
+
+void Loan::OnUnload(std::function<bool()> mayClose) { m_parts->mayClose = std::move(mayClose); }
+
+bool Loan::Commit() { return m_parts->focus.Commit(); }
+
+void Loan::Reenter() { m_parts->focus.Reenter(); }
 
 void Loan::ShowEdited() const {
-    if (const auto edited = m_focus.Edited()) {
-        m_worksheet.Show(*edited);
+    if (const auto edited = m_parts->focus.Edited()) {
+        m_parts->worksheet.Show(*edited);
     }
 }
 
-void Loan::MarkNameMissing() { m_display.ShowMark({FieldId::LoanName}, Mark::Missing); }
+void Loan::MarkNameMissing() { m_parts->display.ShowMark({FieldId::LoanName}, Mark::Missing); }
 
-void Loan::ClearNameMark() { m_display.ShowMark({FieldId::LoanName}, Mark::None); }
+void Loan::ClearNameMark() { m_parts->display.ShowMark({FieldId::LoanName}, Mark::None); }
 
 void Loan::ApplySettings(const Settings& settings) {
-    const Settings before = std::exchange(m_settings, settings);
-    if (before.wallpaper != m_settings.wallpaper) {
+    const Settings before = std::exchange(m_parts->settings, settings);
+    if (before.wallpaper != m_parts->settings.wallpaper) {
         LoadWallpaper();
     }
-    m_worksheet.SetTermInMonths(m_settings.termInMonths);
+    m_parts->worksheet.SetTermInMonths(m_parts->settings.termInMonths);
     ApplyCaptions();
-    m_rows.SetLoansDisplayed(Row{m_settings.loansDisplayed});
-    MeasureFields();
-    if (before.loansDisplayed != m_settings.loansDisplayed) {
-        FitHeight();
+    m_parts->rows.SetLoansDisplayed(Row{m_parts->settings.loansDisplayed});
+    m_parts->size.Measure();
+    if (before.loansDisplayed != m_parts->settings.loansDisplayed) {
+        m_parts->size.FitHeight();
     }
     Reenter();
 }
 
 void Loan::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (m_loaded && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
+    if (m_parts && m_parts->loaded &&
+        (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)) {
         // Queued, so that every control has handled the change first.
-        QMetaObject::invokeMethod(this, &Loan::MeasureAgain, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { m_parts->size.MeasureAgain(); }, Qt::QueuedConnection);
     }
 }
 
 /// If the picture cannot be loaded, tells the user once and drops the path.
 void Loan::LoadWallpaper() {
-    if (!m_wallpaper.Load(m_settings.wallpaper)) {
-        m_messages.Post(GetResourceText(TextNumber::PictureNotLoaded) + u' ' +
-                        m_settings.wallpaper);
-        m_settings.wallpaper.clear();
+    if (!m_parts->wallpaper.Load(m_parts->settings.wallpaper)) {
+        m_parts->messages.Post(GetResourceText(TextNumber::PictureNotLoaded) + u' ' +
+                               m_parts->settings.wallpaper);
+        m_parts->settings.wallpaper.clear();
     }
     // Captions get the window's colour as background, so that they are readable over any picture.
     for (QLabel* caption : findChildren<QLabel*>()) {
-        caption->setAutoFillBackground(m_wallpaper.IsSet());
+        caption->setAutoFillBackground(m_parts->wallpaper.IsSet());
     }
     update();
 }
@@ -303,7 +292,7 @@ void Loan::LoadWallpaper() {
 void Loan::paintEvent(QPaintEvent* event) {
     QMainWindow::paintEvent(event);
     QPainter painter(this);
-    m_wallpaper.Paint(painter, size());
+    m_parts->wallpaper.Paint(painter, size());
 }
 
 } // namespace quend::window

@@ -1,6 +1,7 @@
 #include "WindowDisplay.h"
 
 #include "CalendarDate.h"
+#include "Captions.h"
 #include "ControlMap.h"
 #include "DatePicker.h"
 #include "FieldEdits.h"
@@ -59,9 +60,9 @@ void WindowDisplay::ShowMark(Field field, Mark mark) {
 
 void WindowDisplay::ShowToolTip(Field field, bool shown) {
     if (auto* control = m_controls->ControlOf(field)) {
-        control->setProperty("toolTipAway", !shown);
-        control->setToolTip(shown ? GetResourceText(control->property("toolTipText").toInt())
-                                  : QString());
+        control->setProperty(TextProperty::ToolTipAway, !shown);
+        control->setToolTip(
+            shown ? GetResourceText(control->property(TextProperty::ToolTip).toInt()) : QString());
     }
 }
 

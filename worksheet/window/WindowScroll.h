@@ -12,10 +12,7 @@ class WindowScroll : public QScrollArea {
 
 public:
     explicit WindowScroll(QWidget* parent = nullptr);
-    WindowScroll(const WindowScroll&) = delete;
-    WindowScroll& operator=(const WindowScroll&) = delete;
-    WindowScroll(WindowScroll&&) = delete;
-    WindowScroll& operator=(WindowScroll&&) = delete;
+    Q_DISABLE_COPY_MOVE(WindowScroll)
     ~WindowScroll() override;
 
     /// The size that shows everything without scroll bars.

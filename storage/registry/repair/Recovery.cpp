@@ -4,6 +4,7 @@
 #include "KeyTree.h"
 #include "Names.h"
 #include "RegistryAPI.h"
+#include "RegistryLimits.h"
 #include "StorePages.h"
 #include "StoreRows.h"
 #include "StoreSnapshot.h"
@@ -29,42 +30,6 @@ bool IsKeyName(std::string_view name, std::string_view folded) {
            IsNamed(name, folded, LongestKeyName);
 }
 
-/// Marks the free pages; false when the free list is broken.
-bool MarkFreePages(const StoreSnapshot& image, std::vector<bool>& free) {
-    const auto mark = [&free](std::uint64_t number) {
-        const bool fits = number > 1 && number < free.size() && !free[number];
-        if (fits) {
-            free[number] = true;
-        }
-        return fits;
-    };
-    if (image.Bytes().size() < 100) {
-        return false;
-    }
-    for (std::uint64_t trunk = BigEndian(image.Bytes(), 32, 4); trunk != 0;) {
-        const std::string_view page = image.Page(static_cast<std::uint32_t>(trunk));
-        if (page.empty() || !mark(trunk) || BigEndian(page, 4, 4) > page.size() / 4 - 2) {
-            return false;
-        }
-        for (std::uint64_t i = 0; i < BigEndian(page, 4, 4); ++i) {
-            if (!mark(BigEndian(page, 8 + 4 * i, 4))) {
-                return false;
-            }
-        }
-        trunk = BigEndian(page, 0, 4);
-    }
-    return true;
-}
-
-/// Indexed by page number; none are free when the free list is broken.
-std::vector<bool> FreePages(const StoreSnapshot& image) {
-    std::vector<bool> free(image.PageCount() + 1, false);
-    if (!MarkFreePages(image, free)) {
-        free.assign(free.size(), false);
-    }
-    return free;
-}
-
 } // namespace
 
 class Recovery::Reader {
@@ -73,9 +38,9 @@ public:
 
     void Read(const StoreSnapshot& image) {
         const StorePages pages(image);
-        const std::vector<bool> free = FreePages(image);
+        const auto free = pages.FreePages();
         for (std::uint32_t number = 1; number <= image.PageCount(); ++number) {
-            const auto page = free[number] ? std::nullopt : pages.Read(number);
+            const auto page = free && (*free)[number] ? std::nullopt : pages.Read(number);
             if (page && page->kind != TreePage::Kind::InnerTable) {
                 ReadCells(pages, *page);
             }

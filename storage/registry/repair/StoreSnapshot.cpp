@@ -2,11 +2,12 @@
 
 #include "StoreFile.h"
 
-#include <algorithm>
+#include <QtEndian>
+
 #include <bit>
-#include <cstring>
 #include <fstream>
 #include <map>
+#include <utility>
 
 namespace quend::registry {
 
@@ -64,10 +65,8 @@ public:
 
 private:
     std::uint32_t Word(std::string_view bytes, std::size_t position) const {
-        std::uint32_t word = 0;
-        std::memcpy(&word, bytes.data() + position, sizeof(word));
-        const bool swap = m_bigEndian != (std::endian::native == std::endian::big);
-        return swap ? __builtin_bswap32(word) : word;
+        const char* const word = bytes.data() + position;
+        return m_bigEndian ? qFromBigEndian<quint32>(word) : qFromLittleEndian<quint32>(word);
     }
 
     bool m_bigEndian;
@@ -158,13 +157,12 @@ std::string_view StoreSnapshot::Page(std::uint32_t number) const {
                : std::string_view();
 }
 
-std::string StoreSnapshot::AsPlainFile() const {
-    std::string bytes = m_bytes;
-    if (bytes.size() >= FileHeaderSize) {
-        bytes[18] = 1; // the write and read versions: 2 would require a log
-        bytes[19] = 1;
+std::string StoreSnapshot::AsPlainFile() && {
+    if (m_bytes.size() >= FileHeaderSize) {
+        m_bytes[18] = 1; // the write and read versions: 2 would require a log
+        m_bytes[19] = 1;
     }
-    return bytes;
+    return std::move(m_bytes);
 }
 
 } // namespace quend::registry

@@ -24,8 +24,8 @@ public:
     /// All bytes read, including a truncated last page.
     const std::string& Bytes() const { return m_bytes; }
 
-    /// The same content as a file that needs no log.
-    std::string AsPlainFile() const;
+    /// The same content as a file that needs no log. Moves it out, because it may be large.
+    std::string AsPlainFile() &&;
 
 private:
     void LayOver(std::string_view log);

@@ -50,8 +50,7 @@ bool IsOfLayout(const SchemaRow& row) {
 
 class Inspection {
 public:
-    explicit Inspection(const StoreSnapshot& image)
-        : m_image(image), m_pages(image), m_used(image.PageCount() + 1, false) {}
+    explicit Inspection(const StoreSnapshot& image) : m_image(image), m_pages(image) {}
 
     bool Passes() {
         return HeaderFits() && WalkFreePages() && WalkSchema() && WalkTrees() && AllUsed();
@@ -81,26 +80,13 @@ private:
     }
 
     bool WalkFreePages() {
-        const std::string_view bytes = m_image.Bytes();
-        std::uint64_t count = 0;
-        for (auto trunk = static_cast<std::uint32_t>(BigEndian(bytes, 32, 4)); trunk != 0;) {
-            if (!Use(trunk)) {
-                return false;
-            }
-            const std::string_view page = m_image.Page(trunk);
-            const std::uint64_t leaves = BigEndian(page, 4, 4);
-            if (leaves > page.size() / 4 - 2) {
-                return false;
-            }
-            for (std::uint64_t i = 0; i < leaves; ++i) {
-                if (!Use(static_cast<std::uint32_t>(BigEndian(page, 8 + 4 * i, 4)))) {
-                    return false;
-                }
-            }
-            count += leaves + 1;
-            trunk = static_cast<std::uint32_t>(BigEndian(page, 0, 4));
+        const auto free = m_pages.FreePages();
+        if (!free) {
+            return false;
         }
-        return count == BigEndian(bytes, 36, 4);
+        m_used = *free;
+        return static_cast<std::uint64_t>(std::ranges::count(m_used, true)) ==
+               BigEndian(m_image.Bytes(), 36, 4);
     }
 
     bool WalkSchema() {
@@ -188,7 +174,7 @@ private:
 
     const StoreSnapshot& m_image;
     StorePages m_pages;
-    std::vector<bool> m_used;
+    std::vector<bool> m_used; ///< by page number
     std::map<std::string, std::uint32_t> m_roots;
     Order m_last;
     std::string m_collection;

@@ -53,12 +53,12 @@ std::unique_ptr<OpenStore> OpenStore::ToRead(const std::filesystem::path& store,
     try {
         return opened(Connection(store, wait));
     } catch (const StoreError& error) {
-        const std::string image =
+        std::string image =
             IsOutOfReach(error) ? StoreSnapshot(store).AsPlainFile() : std::string();
         if (image.empty()) {
             throw;
         }
-        return opened(Connection::OfBytes(image));
+        return opened(Connection::OfBytes(std::move(image)));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "RegistryAPI.h"
 
 #include "KeyPath.h"
+#include "RegistryLimits.h"
 #include "StoreCheck.h"
 #include "StoreTransaction.h"
 #include "StoreTrouble.h"

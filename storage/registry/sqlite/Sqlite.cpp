@@ -2,7 +2,7 @@
 
 #include <sqlite3.h>
 
-#include <algorithm>
+#include <utility>
 
 namespace quend::registry {
 
@@ -32,6 +32,14 @@ int OpenFile(sqlite3_vfs* system, sqlite3_filename name, sqlite3_file* file, int
         flags &= ~SQLITE_OPEN_CREATE;
     }
     return base->xOpen(base, name, file, flags, outFlags);
+}
+
+/// A foreign file must not run its code here.
+void Distrust(sqlite3* connection) {
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
 }
 
 const char* FileSystem() {
@@ -123,11 +131,7 @@ Connection::Connection(const std::filesystem::path& file, std::chrono::milliseco
     m_connection.reset(connection);
     Check(code, connection);
     Check(sqlite3_busy_timeout(connection, static_cast<int>(wait.count())), connection);
-    // A foreign file must not run its code here.
-    sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-    sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-    sqlite3_db_config(connection, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
-    sqlite3_db_config(connection, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+    Distrust(connection);
     // Checkpoint the log at program start and end, not with every save.
     sqlite3_db_config(connection, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
 }
@@ -142,18 +146,15 @@ Connection Connection::InMemory() {
     return made;
 }
 
-Connection Connection::OfBytes(const std::string& bytes) {
+Connection Connection::OfBytes(std::string bytes) {
     Connection made = InMemory();
-    sqlite3* const connection = made.Handle();
-    auto* const copy = static_cast<unsigned char*>(sqlite3_malloc64(bytes.size()));
-    if (copy == nullptr) {
-        throw StoreError(SQLITE_NOMEM);
-    }
-    std::copy(bytes.begin(), bytes.end(), copy);
-    const auto size = static_cast<sqlite3_int64>(bytes.size());
-    Check(sqlite3_deserialize(connection, "main", copy, size, size,
-                              SQLITE_DESERIALIZE_FREEONCLOSE | SQLITE_DESERIALIZE_READONLY),
-          connection);
+    made.m_bytes = std::make_unique<std::string>(std::move(bytes));
+    const auto size = static_cast<sqlite3_int64>(made.m_bytes->size());
+    Check(sqlite3_deserialize(made.Handle(), "main",
+                              reinterpret_cast<unsigned char*>(made.m_bytes->data()), size, size,
+                              SQLITE_DESERIALIZE_READONLY),
+          made.Handle());
+    Distrust(made.Handle());
     return made;
 }
 

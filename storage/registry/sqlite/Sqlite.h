@@ -77,7 +77,7 @@ public:
     /// An empty store in memory.
     static Connection InMemory();
     /// A read-only store in memory, from the bytes of a file.
-    static Connection OfBytes(const std::string& bytes);
+    static Connection OfBytes(std::string bytes);
 
     sqlite3* Handle() const { return m_connection.get(); }
 
@@ -93,6 +93,7 @@ private:
 
     Connection() = default;
 
+    std::unique_ptr<std::string> m_bytes; ///< of a store in memory, read until it is closed
     std::unique_ptr<sqlite3, Close> m_connection;
 };
 

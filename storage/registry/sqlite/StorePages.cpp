@@ -166,6 +166,38 @@ std::optional<TreePage> StorePages::Read(std::uint32_t number) const {
     return read;
 }
 
+std::optional<std::vector<bool>> StorePages::FreePages() const {
+    std::vector<bool> free(m_image->PageCount() + 1, false);
+    const auto mark = [&free](std::uint64_t number) {
+        const bool fits = number > 1 && number < free.size() && !free[number];
+        if (fits) {
+            free[number] = true;
+        }
+        return fits;
+    };
+    const std::string_view bytes = m_image->Bytes();
+    if (bytes.size() < FileHeader) {
+        return std::nullopt;
+    }
+    for (std::uint64_t trunk = BigEndian(bytes, 32, 4); trunk != 0;) {
+        if (!mark(trunk)) {
+            return std::nullopt;
+        }
+        const std::string_view page = m_image->Page(static_cast<std::uint32_t>(trunk));
+        const std::uint64_t leaves = BigEndian(page, 4, 4);
+        if (leaves > page.size() / 4 - 2) {
+            return std::nullopt;
+        }
+        for (std::uint64_t i = 0; i < leaves; ++i) {
+            if (!mark(BigEndian(page, 8 + 4 * i, 4))) {
+                return std::nullopt;
+            }
+        }
+        trunk = BigEndian(page, 0, 4);
+    }
+    return free;
+}
+
 std::optional<std::string_view> StorePages::Content(const Cell& cell, std::string& whole,
                                                     std::vector<std::uint32_t>* used) const {
     if (cell.overflow == 0) {

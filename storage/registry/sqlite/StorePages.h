@@ -50,6 +50,10 @@ public:
     /// No value when the page is not part of a tree.
     std::optional<TreePage> Read(std::uint32_t number) const;
 
+    /// Whether a page is on the list of free pages, by its number. No value when the list is
+    /// broken.
+    std::optional<std::vector<bool>> FreePages() const;
+
     /// The whole content of a cell. `whole` is the buffer for content on several pages; `used`, if
     /// given, receives the numbers of the overflow pages. No value when pages are missing.
     std::optional<std::string_view> Content(const Cell& cell, std::string& whole,

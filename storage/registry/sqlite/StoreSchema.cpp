@@ -23,15 +23,11 @@ std::vector<Object> ObjectsOfNewStore() {
 
 State StateOf(const Connection& connection) {
     const std::int64_t version = connection.Ask("PRAGMA user_version");
-    const std::int64_t application = connection.Ask("PRAGMA application_id");
-    if (version == 0 && application == 0) {
-        return connection.Ask("SELECT count(*) FROM sqlite_schema") == 0 ? State::Empty
-                                                                         : State::Foreign;
+    if (connection.Ask("PRAGMA application_id") != ApplicationId || version <= 0 ||
+        version > Version) {
+        return State::Other;
     }
-    if (application != ApplicationId || version <= 0) {
-        return State::Foreign;
-    }
-    return version < Version ? State::Older : version == Version ? State::Current : State::Newer;
+    return version < Version ? State::Older : State::Current;
 }
 
 void Migrate(const Connection& connection, std::span<const char* const> steps) {

@@ -29,11 +29,9 @@ inline constexpr std::array<const char*, 1> Steps{
 inline constexpr std::int64_t Version = Steps.size();
 
 enum class State {
-    Empty, ///< a file without content
     Older, ///< can be migrated to this version
     Current,
-    Newer,   ///< from a later version of the program: neither read nor written
-    Foreign, ///< not a store of this program
+    Other, ///< empty, of a later version or of another program: neither read nor written
 };
 
 /// Throws StoreError when the file cannot be read.

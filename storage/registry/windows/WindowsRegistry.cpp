@@ -3,6 +3,7 @@
 #include "RegistryAPI.h"
 
 #include "KeyPath.h"
+#include "RegistryLimits.h"
 #include "Utf8.h"
 #include "ValueBytes.h"
 
@@ -10,8 +11,9 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <optional>
-#include <utility>
+#include <type_traits>
 
 namespace quend::registry {
 
@@ -31,30 +33,12 @@ StoreFailure NotMade(LSTATUS status = ERROR_SUCCESS) {
                                                       : StoreTrouble::Unknown);
 }
 
-/// An open key, closed on destruction, or none. Predefined keys are never closed.
-class OpenKey {
-public:
-    OpenKey() = default;
-    explicit OpenKey(HKEY key) : m_key(key) {}
-    OpenKey(OpenKey&& other) noexcept : m_key(std::exchange(other.m_key, nullptr)) {}
-    OpenKey& operator=(OpenKey&& other) noexcept {
-        std::swap(m_key, other.m_key);
-        return *this;
-    }
-    OpenKey(const OpenKey&) = delete;
-    OpenKey& operator=(const OpenKey&) = delete;
-    ~OpenKey() {
-        if (m_key != nullptr) {
-            RegCloseKey(m_key);
-        }
-    }
-
-    explicit operator bool() const { return m_key != nullptr; }
-    HKEY Handle() const { return m_key; }
-
-private:
-    HKEY m_key = nullptr;
+struct CloseKey {
+    void operator()(HKEY key) const { RegCloseKey(key); }
 };
+
+/// An open key, or none. Predefined keys are never closed, so none of these.
+using OpenKey = std::unique_ptr<std::remove_pointer_t<HKEY>, CloseKey>;
 
 /// A path split into parts of one or more elements each, because a call takes no more than the
 /// length of one name. A usual path is one part. No value for an invalid path.
@@ -87,7 +71,7 @@ OpenKey Open(RegistryRoot root, const std::vector<std::string>& parts, REGSAM ri
         if (RegOpenKeyExA(parent, part, 0, wanted, &opened) != ERROR_SUCCESS) {
             return {};
         }
-        key = OpenKey(opened);
+        key.reset(opened);
         parent = opened;
     }
     return key;
@@ -160,7 +144,7 @@ bool RegistryAPI::CreateKey(RegistryRoot keyRoot, const std::string& keyName) co
         if (status != ERROR_SUCCESS) {
             throw NotMade(status);
         }
-        key = OpenKey(opened);
+        key.reset(opened);
         parent = opened;
     }
     return disposition == REG_OPENED_EXISTING_KEY;
@@ -175,7 +159,7 @@ void RegistryAPI::DeleteKey(RegistryRoot keyRoot, const std::string& keyName) co
     parts->pop_back();
     const OpenKey key = parts->empty() ? OpenKey() : Open(keyRoot, *parts, KEY_READ);
     if (key || parts->empty()) {
-        RegDeleteKeyA(key ? key.Handle() : HandleOf(keyRoot), last.c_str());
+        RegDeleteKeyA(key ? key.get() : HandleOf(keyRoot), last.c_str());
     }
 }
 
@@ -190,7 +174,7 @@ RegistryValue RegistryAPI::GetValue(RegistryRoot keyRoot, const std::string& key
     if (!IsKnownType(type)) {
         throw Failure(1001, "", "Unsupported value type");
     }
-    const auto bytes = name ? Query(key.Handle(), *name) : std::nullopt;
+    const auto bytes = name ? Query(key.get(), *name) : std::nullopt;
     return bytes ? ValueOfBytes(type, *bytes).value_or(defaultValue) : defaultValue;
 }
 
@@ -200,7 +184,7 @@ std::int64_t RegistryAPI::GetValueType(RegistryRoot keyRoot, const std::string& 
     const auto name = ValueNameOf(valueName);
     DWORD type = 0;
     const bool found = key && name &&
-                       RegQueryValueExA(key.Handle(), name->c_str(), nullptr, &type, nullptr,
+                       RegQueryValueExA(key.get(), name->c_str(), nullptr, &type, nullptr,
                                         nullptr) == ERROR_SUCCESS;
     return found ? static_cast<std::int64_t>(type) : 0;
 }
@@ -217,7 +201,7 @@ void RegistryAPI::SetValue(RegistryRoot keyRoot, const std::string& keyName,
     if (type == RegistryType::Text && bytes->ends_with('\0')) {
         *bytes += '\0'; // the platform treats the last NUL as the terminator
     }
-    RegSetValueExA(key.Handle(), name->c_str(), 0, static_cast<DWORD>(type), BytesIn(*bytes),
+    RegSetValueExA(key.get(), name->c_str(), 0, static_cast<DWORD>(type), BytesIn(*bytes),
                    static_cast<DWORD>(bytes->size()));
 }
 
@@ -226,7 +210,7 @@ void RegistryAPI::DeleteValue(RegistryRoot keyRoot, const std::string& keyName,
     const OpenKey key = Open(keyRoot, keyName, KEY_WRITE);
     const auto name = ValueNameOf(valueName);
     if (key && name) {
-        RegDeleteValueA(key.Handle(), name->c_str());
+        RegDeleteValueA(key.get(), name->c_str());
     }
 }
 
@@ -240,7 +224,7 @@ std::vector<std::string> RegistryAPI::GetSubKeys(RegistryRoot keyRoot,
         if (!key) {
             return {};
         }
-        names = NamesBelow(key.Handle());
+        names = NamesBelow(key.get());
     }
     if (names.empty()) {
         names.emplace_back(NoSubkeysLength, ' ');

@@ -1,6 +1,6 @@
 #include "CompiledHelp.h"
 #include "Failure.h"
-#include "HelpPlace.h"
+#include "HelpWindow.h"
 #include "QuendNames.h"
 
 #include <QFile>

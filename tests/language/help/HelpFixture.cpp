@@ -9,6 +9,20 @@
 #include <QTextCursor>
 #include <QUrl>
 
+namespace {
+
+/// Null before the help was first shown.
+HelpWindow* FindHelp() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* help = qobject_cast<HelpWindow*>(window)) {
+            return help;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
 void HelpTest::OpenWithHelp(const Start& start) {
     m_commands.reset();
     Open(start);
@@ -26,10 +40,20 @@ void HelpTest::OpenBesides(const QString& folder, const Start& start) {
 }
 
 HelpWindow& HelpTest::Help() {
-    if (!m_commands->Shown()) {
-        throw std::runtime_error("no help was shown");
+    if (HelpWindow* help = FindHelp()) {
+        return *help;
     }
-    return *m_commands->Shown();
+    throw std::runtime_error("no help was shown");
+}
+
+bool HelpTest::HelpShows() {
+    const HelpWindow* help = FindHelp();
+    return help != nullptr && help->isVisible();
+}
+
+bool HelpTest::IsAsking() {
+    const QCursor* cursor = QApplication::overrideCursor();
+    return cursor != nullptr && cursor->shape() == Qt::WhatsThisCursor;
 }
 
 QAction& HelpTest::Entry(const QString& name) {

@@ -16,9 +16,10 @@ protected:
     /// A temporary program folder, where the help file of the language may be missing.
     void OpenBesides(const QString& folder, const Start& start = {});
 
-    HelpCommands& Commands() { return *m_commands; }
     /// The help window, which must exist.
     HelpWindow& Help();
+    static bool HelpShows();
+    static bool IsAsking();
     template <class Kind>
     Kind& InHelp(const QString& name) {
         auto* control = Help().findChild<Kind*>(name);
@@ -27,7 +28,6 @@ protected:
         }
         return *control;
     }
-    bool HelpShows() { return Commands().Shown() != nullptr && Commands().Shown()->isVisible(); }
     /// A menu entry of the main window.
     QAction& Entry(const QString& name);
     /// The name of the current page, such as "points.html#t1030".

@@ -81,16 +81,16 @@ TEST_F(HelpKey, ShiftAndF1BeginsToAskAndOtherModifiersDoNothing) {
     for (const Qt::KeyboardModifiers other :
          {Qt::KeyboardModifiers(Qt::ControlModifier), Qt::ControlModifier | Qt::ShiftModifier}) {
         Press(Qt::Key_F1, other);
-        EXPECT_FALSE(Commands().IsAsking());
+        EXPECT_FALSE(IsAsking());
         EXPECT_FALSE(HelpShows());
     }
     Press(Qt::Key_F1, Qt::ShiftModifier);
-    EXPECT_TRUE(Commands().IsAsking());
+    EXPECT_TRUE(IsAsking());
     EXPECT_FALSE(HelpShows());
     Press(Qt::Key_F1, Qt::ShiftModifier);
-    EXPECT_TRUE(Commands().IsAsking());
+    EXPECT_TRUE(IsAsking());
     Press(Qt::Key_Escape);
-    EXPECT_FALSE(Commands().IsAsking());
+    EXPECT_FALSE(IsAsking());
 }
 
 /// A dialog blocks all other windows, but its help must remain usable.

@@ -1,5 +1,5 @@
+#include "HelpWindow.h"
 #include "HelpFixture.h"
-#include "HelpPlace.h"
 #include "HelpView.h"
 #include "Language.h"
 #include "QuendNames.h"

@@ -171,10 +171,10 @@ TEST_P(WhatsThisText, ButtonAsksAndTheNextClickIsAnswered) {
          {u"txtLoanAmount", u"txtMonthlyEscrow", u"cmdPayoffDate", u"lblPoints", u"vsbLoans"}) {
         SCOPED_TRACE(control.toString().toStdString());
         Click(u"cmdWhatsThis");
-        EXPECT_TRUE(Commands().IsAsking());
+        EXPECT_TRUE(IsAsking());
         Click(control);
         ASSERT_TRUE(WaitFor([] { return WhatsThisPopup() != nullptr; }));
-        EXPECT_FALSE(Commands().IsAsking());
+        EXPECT_FALSE(IsAsking());
         Press(Qt::Key_Escape);
         EXPECT_TRUE(WaitFor([] { return WhatsThisPopup() == nullptr; }));
     }

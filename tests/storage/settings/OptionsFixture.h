@@ -2,7 +2,7 @@
 
 #include "FakeMessages.h"
 #include "MessageQueue.h"
-#include "PictureChooser.h"
+#include "PictureDialog.h"
 #include "QuendNames.h"
 #include "UserInput.h"
 #include "WindowFixture.h"
@@ -66,7 +66,7 @@ inline Settings WithPicture(const QString& picture, const QString& folder = {}) 
     return settings;
 }
 
-/// The content of text 88.
+/// The content of TextNumber::OffersRefused.
 inline const QString RefusedInEnglish =
     QStringLiteral("Please enter a number of offers from 1 to 15.");
 inline const QString RefusedInSpanish = QStringLiteral("Escriba un número de ofertas del 1 al 15.");

@@ -5,6 +5,7 @@
 #include "OptionsFixture.h"
 #include "QuendNames.h"
 #include "SettingsStore.h"
+#include "TextNumbers.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -114,7 +115,7 @@ TEST_P(OptionsTexts, NoControlIsForgotten) {
 }
 
 TEST_P(OptionsTexts, RefusalNamesTheRange) {
-    const QString refusal = Language::Instance().Text(88);
+    const QString refusal = Language::Instance().Text(TextNumber::OffersRefused);
     EXPECT_TRUE(refusal.contains(QString::number(FewestOffersDisplayed)));
     EXPECT_TRUE(refusal.contains(QString::number(MostOffersDisplayed)));
 }
@@ -161,7 +162,7 @@ void OptionsTexts::ExpectNothingIsCut() {
         EXPECT_TRUE(control->parentWidget()->rect().contains(control->geometry()));
     }
     const auto& picture = Get<QLabel>(u"picWallpaper");
-    const QString words = Language::Instance().Text(521);
+    const QString words = Language::Instance().Text(TextNumber::PictureNotShown);
     EXPECT_GE(picture.contentsRect().width(), picture.fontMetrics().horizontalAdvance(words) / 2);
     const int room = Get<QLineEdit>(u"txtLoans").width();
     EXPECT_GE(room, Dialog().fontMetrics().horizontalAdvance(u"15"_s) + 4);

@@ -59,8 +59,8 @@ protected:
         EXPECT_TRUE(QFile::setPermissions(path, {}));
         return path;
     }
-    QString Link(QStringView name, const QString& target) {
-        QFile::link(target, PathOf(name));
+    QString Link(QStringView name, const QString& file) {
+        QFile::link(file, PathOf(name));
         return PathOf(name);
     }
 

@@ -6,7 +6,6 @@
 #include "LoanNameBox.h"
 #include "QuendNames.h"
 #include "SettingsStore.h"
-#include "StartUp.h"
 #include "StoreCheck.h"
 #include "StoreFolder.h"
 #include "WindowFixture.h"

@@ -1,12 +1,12 @@
 // The program's key and language at the start, the window geometry, the busy pointer.
 
-#include "StartUp.h"
 #include "QuendNames.h"
 
 #include "CMouse.h"
 #include "Failure.h"
 #include "Language.h"
 #include "LoanNameBox.h"
+#include "SettingsStore.h"
 #include "StoreFolder.h"
 #include "TextNumbers.h"
 #include "WindowFixture.h"

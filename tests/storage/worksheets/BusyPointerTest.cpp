@@ -3,6 +3,7 @@
 #include "EnterValues.h"
 #include "FileCommands.h"
 #include "LoanNameBox.h"
+#include "OfferRows.h"
 #include "OptionsFixture.h"
 #include "QuendNames.h"
 #include "StoreFolder.h"

@@ -2,6 +2,7 @@
 
 #include "EnterValues.h"
 #include "FileCommands.h"
+#include "OfferRows.h"
 #include "QuendNames.h"
 #include "SortButton.h"
 #include "StoreFolder.h"

@@ -44,10 +44,7 @@ protected:
         QApplication::setPalette(dark);
         ClearEdges::Install();
     }
-    DarkPalette(const DarkPalette&) = delete;
-    DarkPalette& operator=(const DarkPalette&) = delete;
-    DarkPalette(DarkPalette&&) = delete;
-    DarkPalette& operator=(DarkPalette&&) = delete;
+    Q_DISABLE_COPY_MOVE(DarkPalette)
     ~DarkPalette() override {
         Shut();
         QApplication::setPalette(m_before);

@@ -1,5 +1,6 @@
 // The layout of the window at any size.
 
+#include "OfferRows.h"
 #include "QuendNames.h"
 #include "WindowFixture.h"
 

@@ -43,10 +43,7 @@ public:
         font.setPointSizeF(font.pointSizeF() * size);
         QApplication::setFont(font);
     }
-    Letters(const Letters&) = delete;
-    Letters& operator=(const Letters&) = delete;
-    Letters(Letters&&) = delete;
-    Letters& operator=(Letters&&) = delete;
+    Q_DISABLE_COPY_MOVE(Letters)
     ~Letters() { QApplication::setFont(m_before); }
 
 private:

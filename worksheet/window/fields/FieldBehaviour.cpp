@@ -58,7 +58,7 @@ bool FieldBehaviour::Check(Field field) {
     }
     try {
         m_read = m_worksheet->Read(field.id, text);
-    } catch (const Failure& failure) {
+    } catch (const Failure& failure) { // refuses the field instead of ending its handler
         Refuse(field, FailureMessage(failure));
         return false;
     }

@@ -15,18 +15,29 @@ QString FailureText(const Failure& failure) {
              QString::fromStdString(failure.Description()));
 }
 
-QString FailureMessage(const Failure& failure) {
-    const auto explained = [&failure](int text) {
-        return GetResourceText(text) + u'\n' + FailureText(failure);
+QString FailureMessage(const std::exception& failure) {
+    const auto* ours = dynamic_cast<const Failure*>(&failure);
+    if (ours == nullptr) {
+        constexpr int unexpected = 5;
+        return FailureText(Failure(unexpected, ProgramSource, failure.what()));
+    }
+    const auto explained = [ours](int text) {
+        return GetResourceText(text) + u'\n' + FailureText(*ours);
     };
-    if (dynamic_cast<const NeverRepaidFailure*>(&failure) != nullptr) {
+    if (dynamic_cast<const NeverRepaidFailure*>(ours) != nullptr) {
         return explained(TextNumber::NeverRepaid);
     }
-    if (dynamic_cast<const OverflowFailure*>(&failure) != nullptr) {
+    if (dynamic_cast<const OverflowFailure*>(ours) != nullptr) {
         return explained(TextNumber::NumberTooLarge);
     }
-    return FailureText(failure);
+    return FailureText(*ours);
 }
+
+QString FailureDescription(const std::exception& failure) {
+    return QString::fromUtf8(failure.what());
+}
+
+QString NoMessage(const std::exception& /*failure*/) { return {}; }
 
 QString FailureLines(const std::vector<Failure>& failures) {
     constexpr std::size_t most = 10;
@@ -41,12 +52,15 @@ QString FailureLines(const std::vector<Failure>& failures) {
     return lines.join(u'\n');
 }
 
-void FailureReport::Report(const std::exception& failure) const {
-    if (const auto* ours = dynamic_cast<const Failure*>(&failure)) {
-        m_messages->Post(FailureMessage(*ours));
-    } else {
-        constexpr int unexpected = 5;
-        m_messages->Post(FailureText(Failure(unexpected, ProgramSource, failure.what())));
+bool FailureReport::Guard(const std::function<void()>& handler, Wording wording) const {
+    try {
+        handler();
+        return true;
+    } catch (const std::exception& failure) {
+        if (const QString text = wording(failure); !text.isEmpty()) {
+            m_messages->Post(text);
+        }
+        return false;
     }
 }
 

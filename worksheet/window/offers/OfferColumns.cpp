@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <array>
-#include <numeric>
 
 namespace quend::window {
 
@@ -18,24 +17,17 @@ namespace {
 
 constexpr int Gap = 4;
 
-/// A heading belongs to one column; the first one to the tick box and the points beside it.
-struct Heading {
-    const char* control;
-    FieldId first;
-    FieldId last;
-};
-
 constexpr std::array Headings{
-    Heading{"lblPoints", FieldId::FinancePoints, FieldId::Points},
-    Heading{"lblInterestRate", FieldId::InterestRate, FieldId::InterestRate},
-    Heading{"lblTerm", FieldId::Term, FieldId::Term},
-    Heading{"lblFrequency", FieldId::Frequency, FieldId::Frequency},
-    Heading{"lblPandI", FieldId::PandI, FieldId::PandI},
-    Heading{"lblPayment", FieldId::Payment, FieldId::Payment},
-    Heading{"lblActualPayment", FieldId::ActualPayment, FieldId::ActualPayment},
-    Heading{"cmdPayoffDate", FieldId::PayoffDate, FieldId::PayoffDate},
-    Heading{"cmdInterest", FieldId::Interest, FieldId::Interest},
-    Heading{"lblWho", FieldId::Who, FieldId::Who},
+    OfferHeading{"lblPoints", FieldId::FinancePoints, FieldId::Points},
+    OfferHeading{"lblInterestRate", FieldId::InterestRate, FieldId::InterestRate},
+    OfferHeading{"lblTerm", FieldId::Term, FieldId::Term},
+    OfferHeading{"lblFrequency", FieldId::Frequency, FieldId::Frequency},
+    OfferHeading{"lblPandI", FieldId::PandI, FieldId::PandI},
+    OfferHeading{"lblPayment", FieldId::Payment, FieldId::Payment},
+    OfferHeading{"lblActualPayment", FieldId::ActualPayment, FieldId::ActualPayment},
+    OfferHeading{"cmdPayoffDate", FieldId::PayoffDate, FieldId::PayoffDate},
+    OfferHeading{"cmdInterest", FieldId::Interest, FieldId::Interest},
+    OfferHeading{"lblWho", FieldId::Who, FieldId::Who},
 };
 
 /// A column's share of the spare width.
@@ -54,6 +46,8 @@ int StretchOf(FieldId field) {
 
 } // namespace
 
+std::span<const OfferHeading> OfferHeadings() { return Headings; }
+
 OfferColumns::OfferColumns(QWidget& headings, const ControlMap& controls)
     : m_headings(&headings), m_controls(&controls) {
     for (const FieldRule& rule : OfferFields()) {
@@ -70,7 +64,7 @@ void OfferColumns::Measure(const DisplayFormats& formats) {
                            ? control->sizeHint().width()
                            : LeastFieldWidth(column.field, m_headings->fontMetrics(), formats);
     }
-    for (const Heading& heading : Headings) {
+    for (const OfferHeading& heading : Headings) {
         const auto* control = m_headings->findChild<QWidget*>(QLatin1String(heading.control));
         auto column = std::ranges::find(m_columns, heading.last, &Column::field);
         const int others = heading.first == heading.last ? 0 : m_columns.front().least + Gap;
@@ -81,8 +75,11 @@ void OfferColumns::Measure(const DisplayFormats& formats) {
 }
 
 int OfferColumns::MinimumWidth() const {
-    return std::accumulate(m_columns.begin(), m_columns.end(), -Gap,
-                           [](int sum, const Column& c) { return sum + c.least + Gap; });
+    int width = Gap * (static_cast<int>(m_columns.size()) - 1);
+    for (const Column& column : m_columns) {
+        width += column.least;
+    }
+    return width;
 }
 
 void OfferColumns::Share(int width) {
@@ -113,7 +110,7 @@ QRect OfferColumns::SpanOf(FieldId first, FieldId last) const {
 }
 
 void OfferColumns::PlaceHeadings() const {
-    for (const Heading& heading : Headings) {
+    for (const OfferHeading& heading : Headings) {
         auto* control = m_headings->findChild<QWidget*>(QLatin1String(heading.control));
         control->setGeometry(SpanOf(heading.first, heading.last));
         if (auto* label = qobject_cast<QLabel*>(control)) {

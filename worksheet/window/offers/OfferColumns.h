@@ -5,6 +5,7 @@
 
 #include <QRect>
 
+#include <span>
 #include <vector>
 
 class QWidget;
@@ -16,6 +17,16 @@ class DisplayFormats;
 namespace quend::window {
 
 class ControlMap;
+
+/// A heading belongs to one column; the first one to the tick box and the points beside it.
+struct OfferHeading {
+    const char* control;
+    FieldId first;
+    FieldId last;
+};
+
+/// The headings above the columns of OfferFields(), from left to right.
+std::span<const OfferHeading> OfferHeadings();
 
 /// The column positions of the offers. Each column is as wide as its values and headings need; the
 /// rest of the width is distributed. Headings and rows use the same columns. Does not scroll.

@@ -1,9 +1,11 @@
 #include "OfferCommands.h"
 
+#include "FailureReport.h"
 #include "LenderEdit.h"
 #include "Loan.h"
 #include "LoanForm.h"
 #include "SortButton.h"
+#include "Worksheet.h"
 #include "dlgWho.h"
 
 namespace quend::window {
@@ -57,7 +59,7 @@ void OfferCommands::txtWho_DblClick(int index) {
         return;
     }
     Worksheet& worksheet = m_window->GetWorksheet();
-    dlgWho(worksheet, worksheet.OfferIndexOfRow(Row{index}), *m_window).exec();
+    dlgWho(worksheet, worksheet.OfferIndexOfRow(Row{index}), *m_window, m_window->Report()).exec();
     worksheet.Show({FieldId::Who, Row{index}});
 }
 

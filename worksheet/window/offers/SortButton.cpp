@@ -1,5 +1,6 @@
 #include "SortButton.h"
 
+#include "Captions.h"
 #include "Language.h"
 #include "WindowNames.h"
 
@@ -16,13 +17,14 @@ constexpr int ArrowGap = 4;
 } // namespace
 
 SortButton::SortButton(QWidget* parent) : QPushButton(parent) {
-    setProperty("activeTextAway", true);
+    setProperty(TextProperty::ActiveAway, true);
 }
 
 void SortButton::SetActive(bool active) {
     m_active = active;
-    setProperty("activeTextAway", !active);
-    setAccessibleDescription(active ? GetResourceText(property("activeText").toInt()) : QString());
+    setProperty(TextProperty::ActiveAway, !active);
+    setAccessibleDescription(active ? GetResourceText(property(TextProperty::Active).toInt())
+                                    : QString());
     update();
 }
 

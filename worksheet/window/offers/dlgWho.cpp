@@ -1,6 +1,7 @@
 #include "dlgWho.h"
 
 #include "Captions.h"
+#include "FailureReport.h"
 #include "Worksheet.h"
 #include "ui_dlgWho.h"
 
@@ -16,13 +17,15 @@ constexpr int Lines = 6;
 
 } // namespace
 
-dlgWho::dlgWho(Worksheet& worksheet, OfferIndex whoOfferIndex, QWidget& parent)
+dlgWho::dlgWho(Worksheet& worksheet, OfferIndex whoOfferIndex, QWidget& parent,
+               const FailureReport& report)
     : QDialog(&parent), m_ui(std::make_unique<Ui::dlgWho>()), m_worksheet(&worksheet),
       m_whoOfferIndex(whoOfferIndex) {
     m_ui->setupUi(this);
     Form_Load();
     m_ui->txtWho->installEventFilter(this);
-    connect(m_ui->cmdOK, &QPushButton::clicked, this, &dlgWho::cmdOK_Click);
+    connect(m_ui->cmdOK, &QPushButton::clicked, this,
+            [this, report] { report.Guard([this] { cmdOK_Click(); }); });
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &dlgWho::cmdCancel_Click);
 }
 

@@ -18,6 +18,8 @@ class Worksheet;
 
 namespace quend::window {
 
+class FailureReport;
+
 /// The lender dialog of one offer. OK stores the text, of any length and any number of lines;
 /// Cancel, Escape and the close box store nothing. Checks nothing, and does not update the row.
 ///
@@ -28,11 +30,9 @@ class dlgWho : public QDialog {
 
 public:
     /// Throws std::out_of_range for an offer that does not exist.
-    dlgWho(Worksheet& worksheet, OfferIndex whoOfferIndex, QWidget& parent);
-    dlgWho(const dlgWho&) = delete;
-    dlgWho& operator=(const dlgWho&) = delete;
-    dlgWho(dlgWho&&) = delete;
-    dlgWho& operator=(dlgWho&&) = delete;
+    dlgWho(Worksheet& worksheet, OfferIndex whoOfferIndex, QWidget& parent,
+           const FailureReport& report);
+    Q_DISABLE_COPY_MOVE(dlgWho)
     ~dlgWho() override;
 
 protected:

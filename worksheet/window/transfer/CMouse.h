@@ -14,10 +14,7 @@ inline constexpr std::int32_t Hourglass = 11;
 class CMouse {
 public:
     CMouse() = default;
-    CMouse(const CMouse&) = delete;
-    CMouse& operator=(const CMouse&) = delete;
-    CMouse(CMouse&&) = delete;
-    CMouse& operator=(CMouse&&) = delete;
+    Q_DISABLE_COPY_MOVE(CMouse)
     ~CMouse();
 
     /// An unknown code shows the arrow.

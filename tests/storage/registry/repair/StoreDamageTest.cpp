@@ -4,7 +4,6 @@
 #include "StoreCheck.h"
 
 #include "StoreFixture.h"
-#include "StorePages.h"
 #include "StoreSnapshot.h"
 #include "StoreSoundness.h"
 

@@ -11,10 +11,6 @@
 
 /// A separate folder for a store file, and worksheets to save in it.
 class StoreFixture : public testing::Test {
-public:
-    StoreFixture(const StoreFixture&) = delete;
-    StoreFixture& operator=(const StoreFixture&) = delete;
-
 protected:
     StoreFixture();
     ~StoreFixture() override;

@@ -3,6 +3,7 @@
 #include "DragFixture.h"
 #include "Language.h"
 #include "QuendNames.h"
+#include "TextNumbers.h"
 
 #include <QAction>
 #include <QApplication>
@@ -288,7 +289,7 @@ TEST_F(FieldClipboard, TheMenuPastesAsADropDoes) {
 TEST_F(FieldClipboard, TheMenuPastesACellAsItsValue) {
     Clip(u"0.05\r\n");
     InMenu(u"txtInterestRate(0)", [](const QMenu& menu) {
-        QAction& paste = Entry(menu, GetResourceText(541));
+        QAction& paste = Entry(menu, GetResourceText(TextNumber::PasteValue));
         EXPECT_TRUE(paste.isEnabled());
         paste.trigger();
     });

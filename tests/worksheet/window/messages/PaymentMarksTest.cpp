@@ -181,10 +181,7 @@ QPalette DarkPalette() {
 class Desktop {
 public:
     explicit Desktop(const QPalette& palette) { QApplication::setPalette(palette); }
-    Desktop(const Desktop&) = delete;
-    Desktop& operator=(const Desktop&) = delete;
-    Desktop(Desktop&&) = delete;
-    Desktop& operator=(Desktop&&) = delete;
+    Q_DISABLE_COPY_MOVE(Desktop)
     ~Desktop() { QApplication::setPalette(m_before); }
 
 private:

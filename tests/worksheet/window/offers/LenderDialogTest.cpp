@@ -251,7 +251,8 @@ TEST_F(LenderDialog, TabGoesFromTheTextToTheButtonsAndItGrows) {
 }
 
 TEST_F(LenderDialog, AnOfferThatIsNotThereIsAnInternalError) {
-    EXPECT_THROW(dlgWho(SheetToWrite(), OfferIndex{6}, Window()), std::out_of_range);
+    EXPECT_THROW(dlgWho(SheetToWrite(), OfferIndex{6}, Window(), Window().Report()),
+                 std::out_of_range);
 }
 
 } // namespace

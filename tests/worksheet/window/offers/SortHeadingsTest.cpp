@@ -4,6 +4,7 @@
 #include "Language.h"
 #include "QuendNames.h"
 #include "SortButton.h"
+#include "TextNumbers.h"
 #include "WindowFixture.h"
 
 #include <QAccessible>
@@ -39,7 +40,8 @@ protected:
             EnterText(SheetToWrite(), {FieldId::Who, row}, QLatin1String(offer.who));
             EnterText(SheetToWrite(), {FieldId::InterestRate, row}, QLatin1String(offer.rate));
             EnterText(SheetToWrite(), {FieldId::Term, row}, QString::number(offer.years));
-            EnterText(SheetToWrite(), {FieldId::Frequency, row}, GetResourceText(114));
+            EnterText(SheetToWrite(), {FieldId::Frequency, row},
+                      GetResourceText(TextNumber::FrequencyMonthly));
             ++row.value;
         }
         SheetToWrite().ClearRaisedMarks();
@@ -77,7 +79,8 @@ TEST_F(SortHeadings, SortByOneAndByTheOther) {
 TEST_F(SortHeadings, EveryFieldOfTheRowGoesAlong) {
     SheetToWrite().Store({FieldId::FinancePoints, Row{2}}, true);
     EnterText(SheetToWrite(), {FieldId::Points, Row{2}}, u"1.5"_s);
-    EnterText(SheetToWrite(), {FieldId::Frequency, Row{2}}, GetResourceText(112));
+    EnterText(SheetToWrite(), {FieldId::Frequency, Row{2}},
+              GetResourceText(TextNumber::FrequencyEveryTwoWeeks));
     std::vector<QString> before;
     for (const FieldRule& field : OfferFields()) {
         before.push_back(Text(RowName(QString(field.control), 2)));

@@ -1,6 +1,7 @@
 // Rows scroll while a value is dragged near an edge of their frame.
 
 #include "DragFixture.h"
+#include "OfferRows.h"
 #include "QuendNames.h"
 
 #include <QApplication>

@@ -1,8 +1,7 @@
-#include "PrinterOfPlugin.h"
+#include "PrinterPlugin.h"
 
 #include "Language.h"
 #include "Plugin.h"
-#include "PrinterPlugin.h"
 #include "PrintingNames.h"
 
 namespace quend::printing {

@@ -12,7 +12,8 @@ class WorksheetLoading : public WorksheetStoreTest {};
 struct BadValue {
     const char* value;
     const char* text;
-    int failure; ///< 0: accepted
+    int failure;                  ///< 0: accepted
+    const char* source = nullptr; ///< of the failure; null: the value
 };
 
 TEST_F(WorksheetLoading, ABadValueIsReportedAndTheRestIsLoaded) {
@@ -42,6 +43,11 @@ TEST_F(WorksheetLoading, ABadValueIsReportedAndTheRestIsLoaded) {
              BadValue{"Loan 1 InterestRate", "inf", 13},
              BadValue{"Loan 1 Frequency", "m", 13},
              BadValue{"Loan 1 ActualPayment", "1.2.3", 13},
+             // Valid values whose results cannot be computed.
+             BadValue{"EscrowTaxes", "922337203685477", 6, "EscrowInsurance"},
+             BadValue{"CurrentTerm", "2147483647", 6, "CurrentPayment"},
+             BadValue{"CurrentActualPayment", "1", 6},
+             BadValue{"Loan 1 Points", "1000000000000", 6, "Loan 1"},
          }) {
         SCOPED_TRACE(std::string(bad.value) + " = " + bad.text);
         Sheet sheet;
@@ -54,7 +60,7 @@ TEST_F(WorksheetLoading, ABadValueIsReportedAndTheRestIsLoaded) {
         ASSERT_EQ(bad.failure == 0 ? 0U : 1U, failures.size());
         if (bad.failure != 0) {
             EXPECT_EQ(bad.failure, failures[0].Number());
-            EXPECT_EQ(bad.value, failures[0].Source());
+            EXPECT_EQ(bad.source == nullptr ? bad.value : bad.source, failures[0].Source());
         }
         EXPECT_EQ(u"First", read.worksheet.OfferOfRow(Row{0}).Who());
         EXPECT_EQ(Units(198'450.75), read.worksheet.CurrentBalance());

@@ -283,6 +283,31 @@ TEST_F(WorksheetShowTest, ShowsEveryFieldAsItStood) {
     }
 }
 
+TEST_F(WorksheetFieldsTest, ValuesStoredTogetherAreComputedOnceAtTheEnd) {
+    std::vector<Field> computed;
+    const auto store = [&] {
+        EnterOffer(m_worksheet, Row1,
+                   {{FieldId::ActualPayment, Units(6000)}, {FieldId::Term, Months{180}}});
+        m_worksheet.SetCurrentBalance(Units(9000));
+        m_worksheet.SetCurrentNextPayment(Date::FromCalendar(2026, 4, 1));
+        EXPECT_EQ(m_offerSchedules, 0);
+        m_display.ForgetCalls();
+    };
+    m_worksheet.StoreTogether(store, [&](Field result, const auto& step) {
+        computed.push_back(result);
+        step();
+    });
+    EXPECT_EQ(computed,
+              (std::vector<Field>{
+                  {FieldId::PandI, Row1}, {FieldId::CurPayment}, {FieldId::CurPayoffDate}}));
+    EXPECT_EQ(Sorted({m_display.TextsInOrder()}), Sorted({OfferResults(Row1), CurrentLoan}));
+    EXPECT_EQ(m_offerSchedules, 1);
+    StartCounting();
+    m_worksheet.SetLoanTerm(Months{120});
+    EXPECT_EQ(m_display.TextsInOrder(), std::vector<Field>{{FieldId::LoanTerm}})
+        << "nothing is left";
+}
+
 TEST_F(WorksheetFieldsTest, ChoicesStayTheSameInAnotherLanguage) {
     for (const ChoiceCase& c : ChoiceCases()) {
         Store(c.field, c.picked);

@@ -1,5 +1,6 @@
 #include "ShareCommands.h"
 
+#include "FailureReport.h"
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"

@@ -6,8 +6,8 @@
 #include <QDir>
 #include <QJsonObject>
 #include <QPluginLoader>
-#include <QRegularExpression>
 
+#include <algorithm>
 #include <map>
 
 namespace quend::language {
@@ -19,11 +19,23 @@ const QString& Resources() {
     return resources;
 }
 
-/// Matches file names of this pattern in any case, with or without a library's extension.
-QRegularExpression FileNamed(const QString& pattern) {
-    return QRegularExpression(
-        QRegularExpression::anchoredPattern(pattern + QStringLiteral("(\\.(so|dll|dylib))?")),
-        QRegularExpression::CaseInsensitiveOption);
+/// The name of a file without a library's extension.
+QString WithoutExtension(const QString& file) {
+    for (const QLatin1String extension :
+         {QLatin1String(".so"), QLatin1String(".dll"), QLatin1String(".dylib")}) {
+        if (file.endsWith(extension, Qt::CaseInsensitive)) {
+            return file.chopped(extension.size());
+        }
+    }
+    return file;
+}
+
+/// One to four hexadecimal digits.
+bool IsIdentifier(const QString& text) {
+    const auto isDigit = [](QChar character) {
+        return QStringLiteral("0123456789abcdef").contains(character);
+    };
+    return !text.isEmpty() && text.size() <= 4 && std::ranges::all_of(text, isDigit);
 }
 
 QStringList FilesIn(const QString& folder) {
@@ -39,11 +51,14 @@ QString ComponentName(const QString& programName, const QString& identifier) {
     return programName + identifier + Resources();
 }
 
+// No regular expressions here: their library would be loaded at every start for this alone.
+
 QString Find(const QString& folder, const QString& component) {
-    const QRegularExpression wanted = FileNamed(QRegularExpression::escape(component));
     QString found;
-    for (const QString& file : FilesIn(folder).filter(wanted)) {
-        if (found.isEmpty() || file.startsWith(component)) {
+    for (const QString& file : FilesIn(folder)) {
+        const bool isComponent =
+            WithoutExtension(file).compare(component, Qt::CaseInsensitive) == 0;
+        if (isComponent && (found.isEmpty() || file.startsWith(component))) {
             found = file;
         }
     }
@@ -51,13 +66,13 @@ QString Find(const QString& folder, const QString& component) {
 }
 
 QStringList Identifiers(const QString& folder, const QString& programName) {
-    const QRegularExpression wanted =
-        FileNamed(QRegularExpression::escape(programName) + QStringLiteral("([0-9a-f]{1,4})") +
-                  QRegularExpression::escape(Resources()));
     std::map<std::pair<uint, QString>, QString> byNumber;
     for (const QString& file : FilesIn(folder)) {
-        const QString identifier = wanted.match(file).captured(1).toLower();
-        if (!identifier.isEmpty()) {
+        const QString name = WithoutExtension(file);
+        const qsizetype digits = name.size() - programName.size() - Resources().size();
+        const QString identifier = name.mid(programName.size(), digits).toLower();
+        if (digits > 0 && IsIdentifier(identifier) &&
+            name.compare(ComponentName(programName, identifier), Qt::CaseInsensitive) == 0) {
             byNumber.insert({{identifier.toUInt(nullptr, 16), identifier}, identifier});
         }
     }

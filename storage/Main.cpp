@@ -32,6 +32,7 @@
 #include <QApplication>
 #include <QDate>
 #include <QFileInfo>
+#include <QTimer>
 
 #include <filesystem>
 #include <future>
@@ -118,6 +119,8 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
     RestoreGeometry(window, UserPlace());
     ReportStore(window.GetMessages(), store, condition, refused);
     window.show();
+    // The icon loads Qt's plugins of all picture formats, so it follows the first paint.
+    QTimer::singleShot(0, &window, [] { QApplication::setWindowIcon(ProgramIcon()); });
     return QApplication::exec();
 }
 
@@ -152,7 +155,6 @@ int main(int argc, char* argv[]) {
     QCoreApplication::setApplicationVersion(
         QStringLiteral("%1.%2.%3").arg(Major).arg(Minor).arg(Revision));
     QGuiApplication::setDesktopFileName(QString::fromUtf8(ApplicationId));
-    QApplication::setWindowIcon(ProgramIcon());
     ClearEdges::Install();
     SetUpLanguage();
     // The last resort: a failure that no handler caught ends the program with a message.

@@ -97,7 +97,7 @@ private:
             case ValueKind::Amount:
                 return formats.Currency(::Money::FromDouble(888'888.88));
             case ValueKind::Percent:
-                return formats.Percent(0.88888);
+                return formats.Percent(Rate::FromFraction(0.88888));
             case ValueKind::Decimal:
                 return formats.ThreeDecimals(88.888);
             case ValueKind::Date:

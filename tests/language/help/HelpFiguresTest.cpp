@@ -110,12 +110,13 @@ private:
             OfferOf({"", 180'000, 0, false, rate * 100, 360, "M", escrow.ToDouble(), 0});
         const Money pays = loan.pays == 0 ? results.amounts[QStringLiteral("payment")]
                                           : Money::FromDouble(loan.pays);
-        const ScheduleTotals totals = RunSchedule({.balance = Money::FromDouble(165'000),
-                                                   .rate = rate,
-                                                   .payment = pays,
-                                                   .escrowShare = escrow,
-                                                   .frequency = FindFrequency(FrequencyCode(u"M")),
-                                                   .start = Date::FromCalendar(2026, 2, 1)});
+        const ScheduleTotals totals =
+            RunSchedule({.balance = Money::FromDouble(165'000),
+                         .rate = Rate::FromFraction(rate),
+                         .payment = pays,
+                         .escrowShare = escrow,
+                         .frequency = FindFrequency(FrequencyCode(QStringLiteral("M"))),
+                         .start = Date::FromCalendar(2026, 2, 1)});
         results.payoff = totals.payoff;
         results.amounts[QStringLiteral("interest")] = totals.interest;
         results.amounts[QStringLiteral("left")] = totals.paid;

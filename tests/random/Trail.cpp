@@ -11,55 +11,55 @@
 
 namespace {
 
-using U = RandomUser;
+using User = RandomUser;
 
 constexpr std::array KindTable{
     // Fields
-    StepKind{"Enter", 60, &U::EnterField},
-    StepKind{"Fill", 200, &U::EnterField}, // followed by typing and the Tab key
-    StepKind{"Type", 60, &U::Type},
-    StepKind{"Paste", 40, &U::Paste},
-    StepKind{"Edit", 60, &U::EditText},
-    StepKind{"Clipboard", 30, &U::UseClipboard},
-    StepKind{"Tab", 80, &U::Tab},
-    StepKind{"Return", 20, &U::Return},
-    StepKind{"Arrow", 50, &U::Arrow},
-    StepKind{"Choose", 40, &U::Choose},
-    StepKind{"Day", 15, &U::TypeDay},
-    StepKind{"Offer", 40, &U::FillOffer},
-    StepKind{"Current", 8, &U::FillCurrent},
-    StepKind{"Intend", 8, &U::Intend},
-    StepKind{"Clear", 6, &U::ClearIntended}, // followed by a save and entering a value again
-    StepKind{"Again", 6, &U::EnterAgain},
+    StepKind{"Enter", 60, &User::EnterField},
+    StepKind{"Fill", 200, &User::EnterField}, // followed by typing and the Tab key
+    StepKind{"Type", 60, &User::Type},
+    StepKind{"Paste", 40, &User::Paste},
+    StepKind{"Edit", 60, &User::EditText},
+    StepKind{"Clipboard", 30, &User::UseClipboard},
+    StepKind{"Tab", 80, &User::Tab},
+    StepKind{"Return", 20, &User::Return},
+    StepKind{"Arrow", 50, &User::Arrow},
+    StepKind{"Choose", 40, &User::Choose},
+    StepKind{"Day", 15, &User::TypeDay},
+    StepKind{"Offer", 40, &User::FillOffer},
+    StepKind{"Current", 8, &User::FillCurrent},
+    StepKind{"Intend", 8, &User::Intend},
+    StepKind{"Clear", 6, &User::ClearIntended}, // followed by a save and entering a value again
+    StepKind{"Again", 6, &User::EnterAgain},
     // Rows
-    StepKind{"Tick", 20, &U::Tick},
-    StepKind{"Drop", 40, &U::Drop},
-    StepKind{"Sort", 20, &U::Sort},
-    StepKind{"Wheel", 20, &U::Wheel},
-    StepKind{"Bar", 15, &U::ClickBar},
-    StepKind{"Lender", 4, &U::OpenLender},
-    StepKind{"Second", 20, &U::LetSecondPass},
+    StepKind{"Tick", 20, &User::Tick},
+    StepKind{"Drop", 40, &User::Drop},
+    StepKind{"Sort", 20, &User::Sort},
+    StepKind{"Wheel", 20, &User::Wheel},
+    StepKind{"Bar", 15, &User::ClickBar},
+    StepKind{"Lender", 4, &User::OpenLender},
+    StepKind{"Second", 20, &User::LetSecondPass},
     // Files
-    StepKind{"Name", 15, &U::TypeName},
-    StepKind{"Save", 10, &U::Save},
-    StepKind{"Pick", 10, &U::PickName},
-    StepKind{"Keep", 5, &U::LeaveOut},        // followed by a save and loading the worksheet again
-    StepKind{"Elsewhere", 2, &U::ChooseType}, // loaded again in another language and country
-    StepKind{"Reload", 2, &U::Reload},
-    StepKind{"Unnamed", 4, &U::CloseUnnamed},
-    StepKind{"New", 4, &U::New},
-    StepKind{"Delete", 4, &U::Delete},
-    StepKind{"Close", 2, &U::CloseAndStart},
+    StepKind{"Name", 15, &User::TypeName},
+    StepKind{"Save", 10, &User::Save},
+    StepKind{"Pick", 10, &User::PickName},
+    StepKind{"Keep", 5, &User::LeaveOut}, // followed by a save and loading the worksheet again
+    StepKind{"Elsewhere", 2, &User::ChooseType}, // loaded again in another language and country
+    StepKind{"Reload", 2, &User::Reload},
+    StepKind{"Unnamed", 4, &User::CloseUnnamed},
+    StepKind{"New", 4, &User::New},
+    StepKind{"Delete", 4, &User::Delete},
+    StepKind{"Close", 2, &User::CloseAndStart},
     // Other features
-    StepKind{"Language", 3, &U::SwitchLanguage},
-    StepKind{"Options", 3, &U::OpenOptions},
-    StepKind{"Print", 2, &U::Print},
-    StepKind{"About", 1, &U::OpenAbout},
-    StepKind{"Help", 1, &U::OpenHelp},
-    StepKind{"WhatsThis", 2, &U::AskWhatsThis},
-    StepKind{"Share", 2, &U::Share},
-    StepKind{"Resize", 3, &U::Resize},
-    StepKind{"Click", 20, &U::ClickAnywhere},
+    StepKind{"Language", 3, &User::SwitchLanguage},
+    StepKind{"Options", 3, &User::OpenOptions},
+    StepKind{"Print", 2, &User::Print},
+    StepKind{"About", 1, &User::OpenAbout},
+    StepKind{"Help", 1, &User::OpenHelp},
+    StepKind{"WhatsThis", 2, &User::AskWhatsThis},
+    StepKind{"Share", 2, &User::Share},
+    StepKind{"Resize", 3, &User::Resize},
+    StepKind{"Click", 20, &User::ClickAnywhere},
 };
 
 } // namespace

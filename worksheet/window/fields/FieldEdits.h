@@ -20,7 +20,6 @@ public:
     explicit EntryEdit(QWidget* parent = nullptr);
 
     void SetMark(Mark mark);
-    Mark GetMark() const { return m_mark; }
 
     /// In a number field the entering click selects all, as the tab key does.
     void SetIsNumber(bool isNumber) { m_isNumber = isNumber; }

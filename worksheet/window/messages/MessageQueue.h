@@ -42,7 +42,6 @@ public:
 
     /// `afterwards` runs once the user has closed the message.
     void Post(const QString& text, const std::function<void()>& afterwards = {});
-    bool Waiting() const { return !m_waiting.empty(); }
     /// Shows all waiting messages at once, before the window closes.
     void ShowRest();
 

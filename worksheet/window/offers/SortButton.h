@@ -14,7 +14,6 @@ public:
     explicit SortButton(QWidget* parent = nullptr);
 
     void SetActive(bool active);
-    bool IsActive() const { return m_active; }
 
     /// Includes room for the arrow, drawn or not.
     QSize sizeHint() const override;

@@ -12,8 +12,8 @@
 namespace quend::window {
 
 ValueTransfer::ValueTransfer(Worksheet& worksheet, const ControlMap& controls,
-                             FocusTranslator& focus, FieldBehaviour& discipline)
-    : m_worksheet(&worksheet), m_controls(&controls), m_focus(&focus), m_discipline(&discipline) {}
+                             FocusTranslator& focus, FieldBehaviour& behaviour)
+    : m_worksheet(&worksheet), m_controls(&controls), m_focus(&focus), m_behaviour(&behaviour) {}
 
 QLineEdit& ValueTransfer::EditOf(Field field) const {
     return *m_controls->ControlOf<QLineEdit>(field);
@@ -52,7 +52,7 @@ bool ValueTransfer::Take(Field field, const QString& text) {
         if (sameRow) {
             m_focus->Reenter();
         } else {
-            m_discipline->EnterRow(field.row);
+            m_behaviour->EnterRow(field.row);
         }
     });
     m_worksheet->Store(field, value);

@@ -22,7 +22,7 @@ class FocusTranslator;
 class ValueTransfer {
 public:
     ValueTransfer(Worksheet& worksheet, const ControlMap& controls, FocusTranslator& focus,
-                  FieldBehaviour& discipline);
+                  FieldBehaviour& behaviour);
 
     /// Whether the number in the field differs from its offer's value.
     bool IsBeingTyped(Field field) const;
@@ -46,7 +46,7 @@ private:
     Worksheet* m_worksheet;
     const ControlMap* m_controls;
     FocusTranslator* m_focus;
-    FieldBehaviour* m_discipline;
+    FieldBehaviour* m_behaviour;
 };
 
 } // namespace quend::window

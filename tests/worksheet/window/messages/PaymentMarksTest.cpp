@@ -1,6 +1,6 @@
 // The marks of raised payments and missing inputs, and the notice with the first mark.
 
-#include "FieldEdits.h"
+#include "Colours.h"
 #include "Language.h"
 #include "QuendNames.h"
 #include "TextNumbers.h"
@@ -21,9 +21,14 @@ protected:
         EXPECT_FALSE(text.isEmpty());
         return text;
     }
-    Mark MarkOf(QStringView name) const { return Get<EntryEdit>(name).GetMark(); }
     QColor Background(QStringView name) const {
         return Control(name).palette().color(QPalette::Base);
+    }
+    Mark MarkOf(QStringView name) const {
+        const QColor colour = Background(name);
+        return colour == Colours::Raised    ? Mark::Raised
+               : colour == Colours::Missing ? Mark::Missing
+                                            : Mark::None;
     }
     bool IsPlain(QStringView name) const {
         return Background(name) == QApplication::palette().color(QPalette::Base);

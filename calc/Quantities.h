@@ -80,7 +80,7 @@ struct Months {
 };
 
 /// A code as it is stored. Any text is kept unchanged; an unknown code is not a failure. `Kind`
-/// only tells the codes of one list from those of another. Does not know the list.
+/// only separates the codes of one list from those of another. Does not know the list.
 template <class Kind>
 class StoredCode {
 public:

@@ -2,7 +2,7 @@
 # A minimal Debian system in a temporary folder, for scripts that test the program on a bare system. Source
 # it after scripts/lib.sh, as root. The system is removed when the script ends.
 
-((EUID == 0)) || die "must be run as root, to make a system of its own"
+((EUID == 0)) || die "must be run as root, to make a separate system"
 bare=$(mktemp -d /var/tmp/quend-loan-bare.XXXXXX)
 # Nothing of the host is mounted there, so that the removal cannot delete anything else.
 trap 'rm -rf --one-file-system "$bare"' EXIT

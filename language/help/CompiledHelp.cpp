@@ -26,7 +26,7 @@ Failure Damaged(const QString& description) {
 
 QUrl FirstOf(const QList<QHelpLink>& links) { return links.isEmpty() ? QUrl() : links[0].url; }
 
-void Tell(const std::function<void()>& reader) {
+void Notify(const std::function<void()>& reader) {
     if (reader) {
         reader();
     }
@@ -44,12 +44,12 @@ CompiledHelp::CompiledHelp(const QString& file)
 void CompiledHelp::Listen() {
     const QHelpContentModel* contents = m_engine.contentModel();
     QObject::connect(contents, &QHelpContentModel::contentsCreated, contents,
-                     [this] { Tell(m_reader.contentsListed); });
+                     [this] { Notify(m_reader.contentsListed); });
     const QHelpSearchEngine* search = m_engine.searchEngine();
     QObject::connect(search, &QHelpSearchEngine::indexingFinished, search, [this] { OnIdle(); });
     QObject::connect(search, &QHelpSearchEngine::searchingFinished, search, [this] {
         OnIdle();
-        Tell(m_reader.searched);
+        Notify(m_reader.searched);
     });
 }
 

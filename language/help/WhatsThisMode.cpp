@@ -127,9 +127,9 @@ bool WhatsThisMode::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-bool WhatsThisMode::OnPress(const QObject* told, const QMouseEvent& event) {
+bool WhatsThisMode::OnPress(const QObject* receiver, const QMouseEvent& event) {
     const QPoint at = event.globalPosition().toPoint();
-    const QWidget* widget = WidgetAt(told, at);
+    const QWidget* widget = WidgetAt(receiver, at);
     if (!widget) {
         End();
         return false;
@@ -141,9 +141,9 @@ bool WhatsThisMode::OnPress(const QObject* told, const QMouseEvent& event) {
     return true;
 }
 
-bool WhatsThisMode::OnRelease(const QObject* told, const QMouseEvent& event) {
+bool WhatsThisMode::OnRelease(const QObject* receiver, const QMouseEvent& event) {
     const QPoint at = event.globalPosition().toPoint();
-    QWidget* widget = WidgetAt(told, at);
+    QWidget* widget = WidgetAt(receiver, at);
     // A menu may be opened and an entry chosen in one gesture, with the button held down.
     const auto* menu = qobject_cast<const QMenu*>(widget);
     const QAction* entry = menu != nullptr ? EntryAt(*menu, menu->mapFromGlobal(at)) : nullptr;

@@ -38,8 +38,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    bool OnPress(const QObject* told, const QMouseEvent& event);
-    bool OnRelease(const QObject* told, const QMouseEvent& event);
+    bool OnPress(const QObject* receiver, const QMouseEvent& event);
+    bool OnRelease(const QObject* receiver, const QMouseEvent& event);
     bool OnKey(QObject* watched, const QKeyEvent& event);
     bool OnShortcut(QObject* watched);
     void AskAt(QWidget& widget, const QPoint& at);

@@ -90,7 +90,7 @@ class Window:
     def _must_be_free(self) -> None:
         dialog = self._dialog_now()
         if dialog:
-            raise Refused(f"a message box stands in the way: {words_of(dialog)!r}")
+            raise Refused(f"a message box is in the way: {words_of(dialog)!r}")
 
     def _look_around(self) -> list[str]:
         """Records each control with a known name, and returns all names.
@@ -216,10 +216,10 @@ class Window:
         self._neighbour.wait_for("action")
         drag.over(self._place(end, "takes"))
         self._neighbour.catch_up()
-        told = self._neighbour.wait_for("action")
+        answer = self._neighbour.wait_for("action")
         drag.end()
         self._neighbour.wait_for("end")
-        return told
+        return answer
 
     def _begin_at_neighbour(self) -> Drag | None:
         """A press while the neighbour still finishes its last drag starts no drag; returns None then."""

@@ -62,10 +62,10 @@ QString StoreFailureText(const Failure& failure) {
 
 RegistryAPI ReportingStore(const std::filesystem::path& place, MessageQueue& messages,
                            std::function<std::string()> today) {
-    const auto tell = [place, &messages](const std::filesystem::path& keptAs) {
+    const auto report = [place, &messages](const std::filesystem::path& keptAs) {
         messages.Post(RepairNotice(FindIncomplete(RegistryAPI(place)), keptAs));
     };
-    return RegistryAPI(place, RegistryAPI::UsualWait, {std::move(today), tell, NamedLoans()});
+    return RegistryAPI(place, RegistryAPI::UsualWait, {std::move(today), report, NamedLoans()});
 }
 
 } // namespace quend::storage

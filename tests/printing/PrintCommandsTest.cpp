@@ -265,7 +265,7 @@ const std::vector<Fault>& Faults() {
     return faults;
 }
 
-QString Told(const Fault& fault) {
+QString Reported(const Fault& fault) {
     const QString text = GetResourceText(fault.text);
     return fault.named.isEmpty() ? text : text.arg(fault.named);
 }
@@ -276,10 +276,10 @@ TEST_F(PrintCommandsTest, WhereNothingCanPrintNoJobStarts) {
         Printer().chance = fault.outcome;
         Print();
         EXPECT_EQ(Job(), nullptr);
-        EXPECT_EQ(SettledMessages(), QStringList{Told(fault)});
+        EXPECT_EQ(SettledMessages(), QStringList{Reported(fault)});
         Messages().Clear();
         SetUpPrinter();
-        EXPECT_EQ(SettledMessages(), QStringList{Told(fault)});
+        EXPECT_EQ(SettledMessages(), QStringList{Reported(fault)});
         Messages().Clear();
     }
     EXPECT_TRUE(Printer().printed.empty());
@@ -291,7 +291,7 @@ TEST_F(PrintCommandsTest, ALostDocumentIsToldOnce) {
         Printer().outcome = fault.outcome;
         Print();
         ASSERT_TRUE(WaitForEnd());
-        EXPECT_EQ(SettledMessages(), QStringList{Told(fault)});
+        EXPECT_EQ(SettledMessages(), QStringList{Reported(fault)});
         Messages().Clear();
     }
     Printer().outcome = {PrintFault::Failed, QStringLiteral("Too hot.")};
@@ -321,9 +321,9 @@ TEST_F(PrintCommandsTest, MarginsWithoutRoomForARowAreRefused) {
         Printer().printed.clear();
         Print();
         ASSERT_TRUE(WaitForEnd());
-        const QStringList told =
+        const QStringList reported =
             row.prints ? QStringList() : QStringList{GetResourceText(TextNumber::MarginsTooWide)};
-        EXPECT_EQ(SettledMessages(), told) << row.space.width() << ' ' << row.space.height();
+        EXPECT_EQ(SettledMessages(), reported) << row.space.width() << ' ' << row.space.height();
         ASSERT_EQ(Printer().printed.size(), row.prints ? 1U : 0U);
         if (row.prints) {
             EXPECT_LE(Printer().printed.front().pages.size(), 5U) << row.space.width();

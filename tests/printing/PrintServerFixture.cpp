@@ -129,14 +129,14 @@ bool PrintServerTest::WaitForPaper(int count) {
         30'000);
 }
 
-void PrintServerTest::ExpectNoTrace(const QStringList& told) {
+void PrintServerTest::ExpectNoTrace(const QStringList& reported) {
     Settle();
     EXPECT_TRUE(Printed().isEmpty());
     if (Server() != nullptr) {
         EXPECT_TRUE(PrintServer::Jobs().isEmpty());
         EXPECT_TRUE(Server()->Spooled().isEmpty()) << Server()->Spooled().join(u' ').toStdString();
     }
-    EXPECT_EQ(SettledMessages(), told);
+    EXPECT_EQ(SettledMessages(), reported);
 }
 
 void ServerOnlyTest::SetUp() {

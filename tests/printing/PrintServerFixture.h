@@ -54,7 +54,7 @@ protected:
     QStringList Printed() const;
     /// Documents are printed some time after they were sent.
     bool WaitForPaper(int count);
-    void ExpectNoTrace(const QStringList& told = {});
+    void ExpectNoTrace(const QStringList& reported = {});
 
 private:
     QTemporaryDir m_folder;

@@ -236,7 +236,7 @@ void RandomUser::CloseAndStart(unsigned a, unsigned b) {
     Settle();
     const ReferenceModel left = m_model;
     m_model = ReferenceModel(b);
-    m_model.shelf = left.shelf;
+    m_model.saved = left.saved;
     m_model.spanish = left.spanish;
     m_model.inMonths = left.inMonths;
     m_model.expected = left.expected;

@@ -85,10 +85,10 @@ void Report(std::uint64_t seed, const Failing& failed) {
         failed.trail,
         [&](const Trail& trail) { return !WalkAgain(seed, trail).complaints.isEmpty(); }, 250);
     const Failing again = WalkAgain(seed, shortest);
-    const Failing& told = again.complaints.isEmpty() ? failed : again;
-    ADD_FAILURE() << "shortened to " << told.trail.size() << " steps:\n"
-                  << told.complaints.join(u'\n').toStdString() << "\nQUEND_RANDOM_SEED=" << seed
-                  << " QUEND_RANDOM_TRAIL='" << Written(told.trail).toStdString() << "'\n";
+    const Failing& shown = again.complaints.isEmpty() ? failed : again;
+    ADD_FAILURE() << "shortened to " << shown.trail.size() << " steps:\n"
+                  << shown.complaints.join(u'\n').toStdString() << "\nQUEND_RANDOM_SEED=" << seed
+                  << " QUEND_RANDOM_TRAIL='" << Written(shown.trail).toStdString() << "'\n";
 }
 
 bool WalkADay(std::uint64_t seed, int steps) {

@@ -68,7 +68,7 @@ struct ModelCurrentLoan {
 };
 
 /// A worksheet as saved.
-struct BookPage {
+struct SavedWorksheet {
     QString name;
     ModelLoan loan;
     ModelCurrentLoan current;
@@ -115,8 +115,8 @@ public:
     void Clear();
     void Save();
     void Load(const QString& name);
-    void Throw(const QString& name) { shelf.erase(FoldedName(name)); }
-    bool Holds(const QString& name) const { return shelf.contains(FoldedName(name)); }
+    void Throw(const QString& name) { saved.erase(FoldedName(name)); }
+    bool Holds(const QString& name) const { return saved.contains(FoldedName(name)); }
     QStringList Names() const;
 
     // Expected contents.
@@ -151,7 +151,7 @@ public:
     bool dirty = false;
     bool noticeShown = false;
     bool noticeComes = false;
-    std::map<QString, BookPage> shelf; ///< by folded name
+    std::map<QString, SavedWorksheet> saved; ///< by folded name
     /// The beginnings of messages that have not appeared yet.
     QStringList expected;
 
@@ -204,7 +204,7 @@ private:
     QChar FrequencyCode(const QString& text) const;
 
     double AsKept(double number) const;
-    BookPage Page() const;
+    SavedWorksheet Page() const;
     bool LoadOffer(int row, const ModelOffer& kept);
     void Store(Field field, const QString& text);
     bool Try(const std::function<void()>& action);

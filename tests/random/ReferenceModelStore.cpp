@@ -25,7 +25,7 @@ void ReferenceModel::Clear() {
 
 QStringList ReferenceModel::Names() const {
     QStringList names;
-    for (const auto& [folded, page] : shelf) {
+    for (const auto& [folded, page] : saved) {
         names.append(page.name);
     }
     return names;
@@ -43,8 +43,8 @@ bool IsWorthKeeping(const ModelOffer& offer) {
 /// A number after it was saved as text.
 double ReferenceModel::AsKept(double number) const { return forms.ReadReal(forms.Number(number)); }
 
-BookPage ReferenceModel::Page() const {
-    BookPage page{loan.name, loan, current, {}};
+SavedWorksheet ReferenceModel::Page() const {
+    SavedWorksheet page{loan.name, loan, current, {}};
     page.current.rate = AsKept(page.current.rate * 100) / 100; // saved in percent
     for (ModelOffer offer : offers) {
         if (IsWorthKeeping(offer)) {
@@ -57,7 +57,7 @@ BookPage ReferenceModel::Page() const {
 }
 
 void ReferenceModel::Save() {
-    shelf.insert_or_assign(FoldedName(loan.name), Page());
+    saved.insert_or_assign(FoldedName(loan.name), Page());
     dirty = false;
 }
 
@@ -73,7 +73,7 @@ bool ReferenceModel::LoadOffer(int row, const ModelOffer& kept) {
 }
 
 void ReferenceModel::Load(const QString& name) {
-    const BookPage page = shelf.at(FoldedName(name));
+    const SavedWorksheet page = saved.at(FoldedName(name));
     Clear();
     loan = page.loan;
     loan.name = name;

@@ -23,6 +23,9 @@ template <class... Functions>
 struct ByType : Functions... {
     using Functions::operator()...;
 };
+// For compilers that do not deduce it for an aggregate.
+template <class... Functions>
+ByType(Functions...) -> ByType<Functions...>;
 
 /// Whether nothing is entered: zero, none, empty or not ticked.
 bool IsZero(const FieldValue& value);

@@ -1,10 +1,8 @@
 #pragma once
 
-namespace quend::language {
-
 /// The numbers of the texts that code uses, in ascending order. A number is written only here and
 /// in the tables of the languages; those that only forms use are not listed.
-namespace TextNumber {
+namespace quend::language::TextNumber {
 
 inline constexpr int PaymentRaised = 3;
 inline constexpr int LoanTypeAuto = 10;
@@ -111,6 +109,4 @@ inline constexpr int MarginsTooWide = 665;
 inline constexpr int PartMissing = 666; ///< %1: the file
 inline constexpr int LegalNotice = 682;
 
-} // namespace TextNumber
-
-} // namespace quend::language
+} // namespace quend::language::TextNumber

@@ -6,10 +6,8 @@
 #include <QColor>
 #include <QPalette>
 
-namespace quend::window {
-
 /// The background colours of marks. Both are light in every palette, so the text on them is dark.
-namespace Colours {
+namespace quend::window::Colours {
 
 inline constexpr QColor Missing{255, 208, 215}; ///< light pink
 inline constexpr QColor Raised{255, 255, 128};  ///< light yellow
@@ -25,6 +23,4 @@ inline QPalette MarkedPalette(Mark mark) {
     return palette;
 }
 
-} // namespace Colours
-
-} // namespace quend::window
+} // namespace quend::window::Colours

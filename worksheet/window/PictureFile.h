@@ -6,10 +6,8 @@
 class QImageReader;
 class QString;
 
-namespace quend::window {
-
 /// Which files may be read as a background picture; every reader uses these rules.
-namespace PictureFile {
+namespace quend::window::PictureFile {
 
 /// The formats that can be read here, as file name suffixes. Raster formats only. SVG is excluded:
 /// it can load other files and render arbitrarily long.
@@ -23,6 +21,4 @@ bool IsSafe(const QImageReader& reader);
 /// leaves the rest black or grey; it rejects truncated files of all other formats.
 bool IsCutOff(const QString& file);
 
-} // namespace PictureFile
-
-} // namespace quend::window
+} // namespace quend::window::PictureFile

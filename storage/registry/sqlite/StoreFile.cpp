@@ -13,9 +13,7 @@
 #include <thread>
 #include <unistd.h>
 
-namespace quend::registry {
-
-namespace StoreFile {
+namespace quend::registry::StoreFile {
 
 namespace {
 
@@ -169,6 +167,4 @@ FolderLock::FolderLock(const std::filesystem::path& folder, std::chrono::millise
 
 FolderLock::~FolderLock() { close(m_folder); }
 
-} // namespace StoreFile
-
-} // namespace quend::registry
+} // namespace quend::registry::StoreFile

@@ -2,9 +2,7 @@
 
 #include "Sqlite.h"
 
-namespace quend::registry {
-
-namespace StoreSchema {
+namespace quend::registry::StoreSchema {
 
 namespace {
 
@@ -45,6 +43,4 @@ const std::vector<Object>& Objects() {
     return objects;
 }
 
-} // namespace StoreSchema
-
-} // namespace quend::registry
+} // namespace quend::registry::StoreSchema

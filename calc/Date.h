@@ -41,8 +41,10 @@ public:
 
 private:
     static constexpr std::chrono::sys_days DayZero = std::chrono::year(1899) / 12 / 30;
-    static constexpr int FirstDay = -693'593;
-    static constexpr int LastDay = 2'958'465; // 31 December of LastYear
+    static constexpr int FirstDay =
+        (std::chrono::sys_days(std::chrono::year(1) / 1 / 1) - DayZero).count();
+    static constexpr int LastDay =
+        (std::chrono::sys_days(std::chrono::year(LastYear) / 12 / 31) - DayZero).count();
 
     explicit constexpr Date(int days) : m_days(days) {}
 

@@ -34,6 +34,7 @@
 #include <QFileInfo>
 #include <QTimer>
 
+#include <chrono>
 #include <filesystem>
 #include <future>
 #include <optional>
@@ -119,8 +120,11 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
     RestoreGeometry(window, UserPlace());
     ReportStore(window.GetMessages(), store, condition, refused);
     window.show();
-    // The icon loads Qt's plugins of all picture formats, so it follows the first paint.
-    QTimer::singleShot(0, &window, [] { QApplication::setWindowIcon(ProgramIcon()); });
+    // The icon loads Qt's plugins of all picture formats, so it follows when the window can be
+    // used.
+    constexpr auto afterFirstPaint = std::chrono::milliseconds(100);
+    QTimer::singleShot(afterFirstPaint, &window,
+                       [] { QApplication::setWindowIcon(ProgramIcon()); });
     return QApplication::exec();
 }
 

@@ -45,9 +45,9 @@ AccrualPeriods::AccrualPeriods(const DatedLoan& loan)
     : m_frequency(loan.terms.frequency), m_accrual(loan.accrual),
       m_before(OnePeriodBefore(loan.terms.start, *loan.terms.frequency)), m_due(loan.terms.start) {}
 
-AccrualPeriod AccrualPeriods::Next(const SchedulePeriod& period) {
+AccrualPeriod AccrualPeriods::Next(Date reported) {
     // The schedule takes no date step after a reduced last payment.
-    const Date after = period.date == m_due ? AfterDue() : period.date;
+    const Date after = reported == m_due ? AfterDue() : reported;
     const AccrualPeriod days = m_accrual == Accrual::AfterPayment ? AccrualPeriod{m_due, after}
                                                                   : AccrualPeriod{m_before, m_due};
     m_before = m_due;

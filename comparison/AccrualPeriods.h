@@ -34,8 +34,9 @@ public:
     explicit AccrualPeriods(const DatedLoan& loan);
 
     /// The days in which the interest of the next schedule period accrues. Call it once for each
-    /// period of the schedule, in order. Past the last date an end is that date.
-    AccrualPeriod Next(const SchedulePeriod& period);
+    /// period of the schedule, in order, with the date that the schedule reports. Past the last
+    /// date an end is that date.
+    AccrualPeriod Next(Date reported);
 
 private:
     Date AfterDue() const;

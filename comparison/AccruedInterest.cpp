@@ -24,7 +24,7 @@ bool IsRepaidBy(const DatedLoan& loan, Date day) {
     bool repaid = false;
     try {
         RunToPayoff(loan.terms, [&](const SchedulePeriod& period) {
-            const bool inTime = periods.Next(period).end <= day;
+            const bool inTime = periods.Next(period.date).end <= day;
             repaid = inTime && period.balance.IsZero();
             return inTime;
         });
@@ -48,7 +48,7 @@ std::optional<Money> AccruedInterest(const DatedLoan& loan, Date today, Date day
     Money accrued;
     try {
         RunToPayoff(loan.terms, [&](const SchedulePeriod& period) {
-            const AccrualPeriod days = periods.Next(period);
+            const AccrualPeriod days = periods.Next(period.date);
             accrued += AccruedBetween(today, day, days, period.interest);
             return days.end < day || !EndsInTime(period);
         });
@@ -64,6 +64,10 @@ std::optional<Money> LeastPaymentUntil(const DatedLoan& loan, Date day, Money at
         tried.terms.payment = OfCents(cents);
         return IsRepaidBy(tried, day);
     };
+    // Otherwise the search would go on to the greatest payment.
+    if (AccrualPeriods(loan).Next(loan.terms.start).end > day) {
+        return std::nullopt;
+    }
     std::int64_t low = CentsNotBelow(atLeast);
     if (suffices(low)) {
         return OfCents(low);

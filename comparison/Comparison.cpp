@@ -1,6 +1,7 @@
 #include "Comparison.h"
 
-#include "ComparedLoans.h"
+#include "ComparedCurrent.h"
+#include "ComparedOffer.h"
 #include "CostByMonth.h"
 
 #include <algorithm>

@@ -21,7 +21,7 @@ public:
     }
 
     void Add(const SchedulePeriod& period) {
-        const AccrualPeriod days = m_periods.Next(period);
+        const AccrualPeriod days = m_periods.Next(period.date);
         while (m_day < days.end && m_month <= MostMonths) {
             m_result.costs.push_back(m_result.last +
                                      AccruedBetween(m_today, m_day, days, period.interest));
@@ -30,10 +30,6 @@ public:
         m_result.last += AccruedBetween(m_today, days.end, days, period.interest);
         if (days.end <= m_horizon) {
             m_result.balanceAtHorizon = period.balance;
-        }
-        if (!m_hasPeriod) {
-            m_result.firstEnd = days.end;
-            m_hasPeriod = true;
         }
         m_result.end = days.end;
     }
@@ -49,7 +45,6 @@ private:
     Date m_horizon;
     Date m_day; ///< of m_month
     int m_month = 1;
-    bool m_hasPeriod = false;
     CostByMonth m_result;
 };
 

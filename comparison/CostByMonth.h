@@ -17,8 +17,7 @@ struct CostByMonth {
     std::vector<Money> costs; ///< by month 1, 2, … while a period has not ended; at most MostMonths
     Money last;               ///< by every later month
     Money balanceAtHorizon;
-    Date firstEnd; ///< of the first period
-    Date end;      ///< of the last period
+    Date end; ///< of the last period
     Payoff payoff;
 
     Money By(int month) const;

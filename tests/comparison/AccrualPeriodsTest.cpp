@@ -50,7 +50,7 @@ std::vector<AccrualPeriod> PeriodsOf(const DatedLoan& loan) {
     std::vector<AccrualPeriod> found;
     AccrualPeriods periods(loan);
     RunToPayoff(loan.terms,
-                [&](const SchedulePeriod& period) { found.push_back(periods.Next(period)); });
+                [&](const SchedulePeriod& period) { found.push_back(periods.Next(period.date)); });
     return found;
 }
 

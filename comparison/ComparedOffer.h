@@ -47,12 +47,4 @@ private:
     std::optional<CostByMonth> m_costs;
 };
 
-/// The loan held today of a comparison.
-struct ComparedCurrent {
-    std::optional<CurrentLoanComparison> result; ///< none where there is no such loan
-    std::optional<CostByMonth> costs;            ///< none where it takes no part
-};
-
-ComparedCurrent CompareCurrent(const ComparisonInput& input);
-
 } // namespace quend::comparison

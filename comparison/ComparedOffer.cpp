@@ -1,4 +1,4 @@
-#include "ComparedLoans.h"
+#include "ComparedOffer.h"
 
 #include "AccruedInterest.h"
 #include "ActuarialRate.h"
@@ -7,6 +7,7 @@
 #include "Frequency.h"
 #include "Overflow.h"
 #include "Payment.h"
+#include "PaymentOfMonthly.h"
 
 #include <algorithm>
 #include <array>
@@ -67,23 +68,12 @@ void Fill(OfferComparison& result, CLoan& loan) {
     }
 }
 
-/// An amount of principal and interest a month, as one payment with its escrow share.
-Money PaymentOfMonthly(Money monthly, const Frequency& frequency, Money escrowShare) {
-    return Money::FromDoubleInCents(monthly.ToDouble() * MonthsPerYear / frequency.periodsPerYear) +
-           escrowShare;
-}
-
 std::optional<Payoff> RunUnlessEndless(const ScheduleTerms& terms) {
     try {
         return RunToPayoff(terms);
     } catch (const OverflowFailure&) {
         return std::nullopt;
     }
-}
-
-std::optional<Money> PaymentForHorizon(const DatedLoan& loan, const CostByMonth& costs,
-                                       Date horizon, Money atLeast) {
-    return costs.firstEnd <= horizon ? LeastPaymentUntil(loan, horizon, atLeast) : std::nullopt;
 }
 
 /// The sum of all payments; none outside the range of money.
@@ -222,7 +212,7 @@ OfferComparison ComparedOffer::Finish(const CostByMonth* current, int months, Mo
         m_figures.rateToMatch = FindRateToMatch(cheapest);
     }
     m_figures.paymentForHorizon =
-        PaymentForHorizon(Loan(m_offer->rate, Money()), *m_costs, HorizonDay(), *m_result.payment);
+        LeastPaymentUntil(Loan(m_offer->rate, Money()), HorizonDay(), *m_result.payment);
     m_result.figures = m_figures;
     return m_result;
 }
@@ -284,67 +274,6 @@ bool ComparedOffer::CostsNoMoreAt(Rate rate, Money most) const {
     } catch (const OverflowFailure&) {
         return false;
     }
-}
-
-namespace {
-
-/// As the main window shows it: without balance or payment nothing is left to pay.
-void Fill(CurrentLoanComparison& result, const ScheduleTerms& terms) {
-    try {
-        ScheduleTotals totals;
-        if (!terms.balance.IsZero() && !terms.payment.IsZero()) {
-            totals = RunSchedule(terms);
-        }
-        result.amountLeft = totals.paid;
-        result.interestLeft = totals.interest;
-        if (!totals.payoff.IsNone()) {
-            result.payoffDate = totals.payoff;
-        }
-    } catch (const OverflowFailure&) {
-        result.overflow = true;
-    }
-}
-
-/// Raises OverflowFailure if the loan takes no part because it is never repaid.
-void RunCompared(const ComparisonInput& input, DatedLoan loan, ComparedCurrent& current) {
-    const int horizon = input.years * MonthsPerYear;
-    if (input.choice == PaymentChoice::Monthly) {
-        loan.terms.payment = std::max(
-            loan.terms.payment,
-            PaymentOfMonthly(input.monthlyPayment, *loan.terms.frequency, loan.terms.escrowShare));
-    }
-    current.costs = RunCosts(loan, Money(), input.today, horizon);
-    current.result->costByHorizon = current.costs->By(horizon);
-    current.result->balanceAtHorizon = current.costs->balanceAtHorizon;
-    current.result->paymentForHorizon =
-        PaymentForHorizon(loan, *current.costs, MonthAfter(input.today, horizon), Cent);
-}
-
-} // namespace
-
-ComparedCurrent CompareCurrent(const ComparisonInput& input) {
-    const CurrentLoanInput& held = input.current;
-    ComparedCurrent current;
-    if (held == CurrentLoanInput()) {
-        return current;
-    }
-    const ScheduleTerms terms{
-        .balance = held.balance,
-        .rate = held.rate,
-        .payment = held.actualPayment,
-        .escrowShare = EscrowShare(held.actualFrequency, input.escrowMonthly),
-        .frequency = FindFrequency(held.actualFrequency),
-        .start = held.nextPayment.IsNone() ? input.today : held.nextPayment,
-    };
-    Fill(current.result.emplace(), terms);
-    if (held.balance > Money() && held.actualPayment > Money() && terms.frequency != nullptr) {
-        try {
-            RunCompared(input, {.terms = terms, .accrual = Accrual::BeforePayment}, current);
-        } catch (const OverflowFailure&) {
-            current.costs.reset(); // it is never repaid: no part, and no failure beside its own
-        }
-    }
-    return current;
 }
 
 } // namespace quend::comparison

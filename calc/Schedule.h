@@ -6,7 +6,9 @@
 #include "Money.h"
 #include "Quantities.h"
 
+#include <concepts>
 #include <cstdint>
+#include <type_traits>
 
 namespace quend::calc {
 
@@ -61,6 +63,8 @@ struct ScheduleTotals {
 ///
 /// The watch is called with a SchedulePeriod after each period; the schedule stores none. For an
 /// unknown code, all equal periods are reported as one record, and the last as another.
+/// A watch that returns bool ends the run early with false: the payoff then has no date, and the
+/// interest and periods until there. Without a known frequency the whole run is reported.
 template <typename Watch>
 Payoff RunToPayoff(const ScheduleTerms& terms, Watch watch);
 Payoff RunToPayoff(const ScheduleTerms& terms);
@@ -86,6 +90,17 @@ inline bool IsEndless(Money balance, Money principal, double rate) {
     return principal <= Money() && balance > Money() && (principal.IsZero() || !(rate < 0.0));
 }
 
+/// Reports a period; true if the watch wants no further one.
+template <typename Watch>
+bool EndsEarly(Watch& watch, const SchedulePeriod& period) {
+    if constexpr (std::same_as<std::invoke_result_t<Watch&, const SchedulePeriod&>, bool>) {
+        return !watch(period);
+    } else {
+        watch(period);
+        return false;
+    }
+}
+
 /// The caller resolves the frequency; the loop needs only its dates and two numbers.
 template <typename Dates, typename Watch>
 Payoff RunPeriods(const ScheduleTerms& terms, Dates dates, Watch& watch) {
@@ -108,11 +123,15 @@ Payoff RunPeriods(const ScheduleTerms& terms, Dates dates, Watch& watch) {
         payoff.interest += interest;
         balance -= principal;
         ++payoff.periods;
-        watch(SchedulePeriod{dates.Current(), interest, principal, balance, 1});
+        const bool endsEarly =
+            EndsEarly(watch, SchedulePeriod{dates.Current(), interest, principal, balance, 1});
         if (balance.IsZero()) {
             payoff.date = dates.Current();
             payoff.lastPrincipal = principal;
             payoff.lastInterest = interest;
+            return payoff;
+        }
+        if (endsEarly) {
             return payoff;
         }
     }

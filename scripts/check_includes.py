@@ -19,6 +19,7 @@ _LAYERS: dict[str, tuple[str, ...]] = {
     "language":         ("foundation",),
     "storage/registry": ("foundation",),
     "calc":             ("foundation", "language"),
+    "comparison":       ("foundation", "language", "calc"),
     "worksheet/model":  ("foundation", "language", "calc"),
     "worksheet/window": ("foundation", "language", "calc", "worksheet/model"),
     "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
@@ -33,7 +34,8 @@ _LAYERS: dict[str, tuple[str, ...]] = {
 _COMPOSITION_ROOT = Path("storage/Main.cpp")
 
 # Layers without a window system.
-_WITHOUT_WIDGETS = ("foundation", "language", "storage/registry", "calc", "worksheet/model")
+_WITHOUT_WIDGETS = ("foundation", "language", "storage/registry", "calc", "comparison",
+                    "worksheet/model")
 
 # The private headers of a layer, as its CMakeLists.txt names them.
 _PRIVATE = re.compile(r"PRIVATE_HEADERS\s+([^)]*?)\s+SOURCES")

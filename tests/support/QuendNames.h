@@ -1,6 +1,7 @@
 #pragma once
 
 namespace quend::calc {}
+namespace quend::comparison {}
 namespace quend::extras {}
 namespace quend::help {}
 namespace quend::language {}
@@ -13,6 +14,7 @@ namespace quend::window {}
 // Tests and benchmarks may name every layer without qualification.
 using namespace quend;
 using namespace quend::calc;
+using namespace quend::comparison;
 using namespace quend::extras;
 using namespace quend::help;
 using namespace quend::language;

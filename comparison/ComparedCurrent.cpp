@@ -1,0 +1,74 @@
+#include "ComparedCurrent.h"
+
+#include "AccruedInterest.h"
+#include "Failure.h"
+#include "Frequency.h"
+#include "PaymentOfMonthly.h"
+
+#include <algorithm>
+
+namespace quend::comparison {
+
+namespace {
+
+/// As the main window shows it: without balance or payment nothing is left to pay.
+void Fill(CurrentLoanComparison& result, const ScheduleTerms& terms) {
+    try {
+        ScheduleTotals totals;
+        if (!terms.balance.IsZero() && !terms.payment.IsZero()) {
+            totals = RunSchedule(terms);
+        }
+        result.amountLeft = totals.paid;
+        result.interestLeft = totals.interest;
+        if (!totals.payoff.IsNone()) {
+            result.payoffDate = totals.payoff;
+        }
+    } catch (const OverflowFailure&) {
+        result.overflow = true;
+    }
+}
+
+/// Raises OverflowFailure if the loan takes no part because it is never repaid.
+void RunCompared(const ComparisonInput& input, DatedLoan loan, ComparedCurrent& current) {
+    const int horizon = input.years * MonthsPerYear;
+    if (input.choice == PaymentChoice::Monthly) {
+        loan.terms.payment = std::max(
+            loan.terms.payment,
+            PaymentOfMonthly(input.monthlyPayment, *loan.terms.frequency, loan.terms.escrowShare));
+    }
+    constexpr Money Cent = Money::FromTenThousandths(100);
+    current.costs = RunCosts(loan, Money(), input.today, horizon);
+    current.result->costByHorizon = current.costs->By(horizon);
+    current.result->balanceAtHorizon = current.costs->balanceAtHorizon;
+    current.result->paymentForHorizon =
+        LeastPaymentUntil(loan, MonthAfter(input.today, horizon), Cent);
+}
+
+} // namespace
+
+ComparedCurrent CompareCurrent(const ComparisonInput& input) {
+    const CurrentLoanInput& held = input.current;
+    ComparedCurrent current;
+    if (held == CurrentLoanInput()) {
+        return current;
+    }
+    const ScheduleTerms terms{
+        .balance = held.balance,
+        .rate = held.rate,
+        .payment = held.actualPayment,
+        .escrowShare = EscrowShare(held.actualFrequency, input.escrowMonthly),
+        .frequency = FindFrequency(held.actualFrequency),
+        .start = held.nextPayment.IsNone() ? input.today : held.nextPayment,
+    };
+    Fill(current.result.emplace(), terms);
+    if (held.balance > Money() && held.actualPayment > Money() && terms.frequency != nullptr) {
+        try {
+            RunCompared(input, {.terms = terms, .accrual = Accrual::BeforePayment}, current);
+        } catch (const OverflowFailure&) {
+            current.costs.reset(); // it is never repaid: no part, and no failure beside its own
+        }
+    }
+    return current;
+}
+
+} // namespace quend::comparison

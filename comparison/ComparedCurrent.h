@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Comparison.h"
+#include "CostByMonth.h"
+
+#include <optional>
+
+namespace quend::comparison {
+
+/// The loan held today of a comparison.
+struct ComparedCurrent {
+    std::optional<CurrentLoanComparison> result; ///< none where there is no such loan
+    std::optional<CostByMonth> costs;            ///< none where it takes no part
+};
+
+ComparedCurrent CompareCurrent(const ComparisonInput& input);
+
+} // namespace quend::comparison

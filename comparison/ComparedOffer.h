@@ -1,0 +1,50 @@
+#pragma once
+
+#include "Comparison.h"
+#include "CostByMonth.h"
+#include "Frequency.h"
+
+#include <optional>
+
+namespace quend::comparison {
+
+/// One offer of a comparison: first alone, then, once the costs of all loans are known, against
+/// the others. The input must outlive it.
+class ComparedOffer {
+public:
+    ComparedOffer(const ComparisonInput& input, const OfferInput& offer);
+
+    /// Null where the offer is left out.
+    const CostByMonth* Costs() const { return m_costs ? &*m_costs : nullptr; }
+    /// `current` is null where the loan held today takes no part. `cheapest` is the least cost by
+    /// the horizon. For an offer that is left out, the result has no figures.
+    OfferComparison Finish(const CostByMonth* current, int months, Money cheapest);
+
+private:
+    int Horizon() const { return m_input->years * MonthsPerYear; }
+    Date HorizonDay() const { return MonthAfter(m_input->today, Horizon()); }
+    LeftOut FindLeftOut() const;
+    void RunCompared();
+    void ComputeAmounts();
+    Money PaymentCompared(Money required, Money intended) const;
+    DatedLoan Loan(Rate rate, Money payment) const;
+    /// Of the payment of principal and interest alone; none where it never ends.
+    std::optional<Payoff> RunRequired() const;
+    void AddRates(const Payoff& required);
+    std::optional<Rate> FindRateToMatch(Money cheapest) const;
+    bool CostsNoMoreAt(Rate rate, Money most) const;
+
+    const ComparisonInput* m_input;
+    const OfferInput* m_offer;
+    OfferComparison m_result;
+    OfferFigures m_figures;
+    const Frequency* m_frequency; ///< null: none or unknown
+    Months m_term;
+    Money m_escrowShare;
+    Money m_closing; ///< points and costs, paid in cash or not
+    Money m_received;
+    bool m_hasAmounts = false; ///< all of the above are within the range of money
+    std::optional<CostByMonth> m_costs;
+};
+
+} // namespace quend::comparison

@@ -19,40 +19,42 @@ enum class PaymentChoice {
 };
 
 struct OfferInput {
-    Percent points;
+    Percent points{};
     bool pointsFinanced = false;
-    Money costs; ///< charges besides points, paid in cash; negative for a credit
-    Rate rate;
-    Months term; ///< zero: that of the worksheet
-    FrequencyCode frequency;
-    Money actualPayment; ///< the intended payment, escrow share included; zero: none
+    Money costs{}; ///< charges besides points, paid in cash; negative for a credit
+    Rate rate{};
+    Months term{}; ///< zero: that of the worksheet
+    FrequencyCode frequency{};
+    Money actualPayment{}; ///< the intended payment, escrow share included; zero: none
+
+    friend bool operator==(const OfferInput&, const OfferInput&) = default;
 };
 
 /// The loan held today. All values zero or empty: there is none.
 struct CurrentLoanInput {
-    Money amount;
-    Months term;
-    Rate rate;
-    FrequencyCode frequency;
-    Money balance;
-    Money actualPayment;
-    FrequencyCode actualFrequency;
-    Date nextPayment; ///< none: today
+    Money amount{};
+    Months term{};
+    Rate rate{};
+    FrequencyCode frequency{};
+    Money balance{};
+    Money actualPayment{};
+    FrequencyCode actualFrequency{};
+    Date nextPayment{}; ///< none: today
 
     friend bool operator==(const CurrentLoanInput&, const CurrentLoanInput&) = default;
 };
 
 /// Rates and terms are zero or more.
 struct ComparisonInput {
-    Date today;
+    Date today{};
     int years = 5; ///< how long the loan is kept, from 1 to 50
     PaymentChoice choice = PaymentChoice::Intended;
-    Money monthlyPayment; ///< principal and interest a month, for PaymentChoice::Monthly
-    Money amount;
-    Months term;
-    Money escrowMonthly;
-    CurrentLoanInput current;
-    std::vector<OfferInput> offers; ///< blank ones included: they count as places
+    Money monthlyPayment{}; ///< principal and interest a month, for PaymentChoice::Monthly
+    Money amount{};
+    Months term{};
+    Money escrowMonthly{};
+    CurrentLoanInput current{};
+    std::vector<OfferInput> offers{}; ///< blank ones included: they count as places
 };
 
 /// Why an offer takes no part; the first that holds.

@@ -42,6 +42,13 @@ DatedLoan WithComparedPayment(const ComparisonInput& input, const ScheduleTerms&
 void RunCompared(const ComparisonInput& input, ComparedCurrent& current) {
     const int horizon = input.years * MonthsPerYear;
     current.costs = RunCosts(*current.loan, Money(), input.today, horizon);
+    const ScheduleTerms& terms = current.loan->terms;
+    current.result->figures = {
+        .paymentCompared = terms.payment,
+        .monthlyEquivalent = MonthlyOfPayment(terms.payment, *terms.frequency, terms.escrowShare),
+        .totalCost = current.costs->last,
+        .payoff = current.costs->payoff.date,
+    };
     current.result->costByHorizon = current.costs->By(horizon);
     current.result->balanceAtHorizon = current.costs->balanceAtHorizon;
     current.result->paymentForHorizon =

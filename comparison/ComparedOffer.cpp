@@ -149,6 +149,7 @@ void ComparedOffer::RunCompared() {
         m_figures.totalCost = m_closing + m_costs->payoff.interest;
         m_figures.costByHorizon = m_costs->By(Horizon());
         m_figures.balanceAtHorizon = m_costs->balanceAtHorizon;
+        m_figures.payoff = m_costs->payoff.date;
     } catch (const NeverRepaidFailure&) {
         m_result.leftOut = LeftOut::NeverEnds;
     } catch (const OverflowFailure&) {
@@ -167,9 +168,8 @@ void ComparedOffer::ComputeAmounts() {
     m_figures.upfront = m_offer->pointsFinanced ? m_offer->costs : m_closing;
     m_received = m_input->amount - m_figures.upfront;
     m_figures.paymentCompared = PaymentCompared(*m_result.payment, m_result.actualPayment);
-    const Money repaying = m_figures.paymentCompared - m_escrowShare;
     m_figures.monthlyEquivalent =
-        Money::FromDoubleInCents(repaying.ToDouble() * m_frequency->periodsPerYear / MonthsPerYear);
+        MonthlyOfPayment(m_figures.paymentCompared, *m_frequency, m_escrowShare);
     m_hasAmounts = true;
 }
 

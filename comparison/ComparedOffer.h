@@ -23,6 +23,8 @@ public:
 
     /// With the compared payment; none where the offer is left out.
     std::optional<DatedLoan> Compared() const;
+    /// Points and costs, paid in cash or not.
+    Money Closing() const { return m_closing; }
     /// As LeastPaymentBy does (Solving.h).
     std::optional<Money> LeastPaymentBy(Date day) const;
 

@@ -79,6 +79,7 @@ struct OfferFigures {
     Money costByHorizon;
     Money balanceAtHorizon;
     Money monthlyEquivalent;           ///< of the compared payment without escrow, to the cent
+    Date payoff;                       ///< with the compared payment
     std::optional<Rate> apr;           ///< good to 1e-10; none: not between 0 and 10,000 %
     std::optional<Rate> effectiveRate; ///< none as apr
     // Against the schedule with the required payment; none where that never ends.
@@ -108,6 +109,14 @@ struct OfferComparison {
     std::optional<OfferFigures> figures; ///< none where it is left out
 };
 
+/// Further figures of the loan held today, as those of an offer.
+struct CurrentLoanFigures {
+    Money paymentCompared;
+    Money monthlyEquivalent;
+    Money totalCost; ///< the interest from today on
+    Date payoff;
+};
+
 struct CurrentLoanComparison {
     // Of the actual payment, counted from the next one; none where it never repays the loan.
     std::optional<Money> amountLeft;
@@ -118,6 +127,7 @@ struct CurrentLoanComparison {
     std::optional<Money> costByHorizon;
     std::optional<Money> balanceAtHorizon;
     std::optional<Money> paymentForHorizon;
+    std::optional<CurrentLoanFigures> figures;
 };
 
 struct ComparisonResult {

@@ -1,5 +1,6 @@
 #include "LoanSchedule.h"
 #include "Comparison.h"
+#include "OverTime.h"
 #include "QuendNames.h"
 
 #include <gtest/gtest.h>
@@ -91,6 +92,33 @@ TEST(LoanSchedule, ByYear) {
         EXPECT_EQ(years.back().date, rows.back().date);
     }
     EXPECT_TRUE(ByYear({}).empty());
+}
+
+TEST(OverTime, AgreesWithTheFiguresOfEveryHorizon) {
+    for (const char* const frequency : {"M", "B", "W", "Q"}) {
+        ComparisonInput input = Sheet(frequency);
+        const int months = Compare(input).months;
+        const std::vector<LoanOverTime> lines = OverTime(input, months);
+        ASSERT_EQ(lines.size(), 2U);
+        EXPECT_EQ(lines.front().place, 2);
+        EXPECT_EQ(lines.back().place, CurrentLoanPlace);
+        for (const LoanOverTime& line : lines) {
+            EXPECT_EQ(line.cost.size(), static_cast<std::size_t>(months) + 1);
+            EXPECT_EQ(line.balance.size(), line.cost.size());
+            EXPECT_EQ(line.cost.front(), Money());
+            EXPECT_EQ(line.balance.back(), Money());
+        }
+        for (int years = 1; years * MonthsPerYear <= months; ++years) {
+            input.years = years;
+            const auto month = static_cast<std::size_t>(years) * MonthsPerYear;
+            const ComparisonResult result = Compare(input);
+            const OfferFigures& figures = *result.offers.at(1).figures;
+            EXPECT_EQ(lines.front().cost.at(month), figures.costByHorizon);
+            EXPECT_EQ(lines.front().balance.at(month), figures.balanceAtHorizon);
+            EXPECT_EQ(lines.back().cost.at(month), result.current->costByHorizon);
+            EXPECT_EQ(lines.back().balance.at(month), result.current->balanceAtHorizon);
+        }
+    }
 }
 
 TEST(LoanSchedule, NoneWhereTheLoanTakesNoPart) {

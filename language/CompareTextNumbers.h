@@ -9,4 +9,29 @@ inline constexpr int CompareCurrentLoan = 800;
 inline constexpr int CompareOffer = 801;    ///< %1: the place of an offer without a lender
 inline constexpr int CompareNamesake = 802; ///< %1: the lender, %2: the place of the offer
 
+// The window, and finding a payment.
+inline constexpr int HorizonYear = 1040;
+inline constexpr int HorizonYears = 1041;
+inline constexpr int CompareTitle = 1042; ///< %1: the name of the worksheet
+inline constexpr int CompareTitleUnnamed = 1043;
+inline constexpr int CompareLeftOut = 1044; ///< One loan a line follows.
+inline constexpr int ScheduleFromToday = 1045;
+inline constexpr int ScheduleFromNextPayment = 1046;
+inline constexpr int ScheduleOfNone = 1047;
+inline constexpr int ScheduleTitle = 1048;    ///< %1: the loan
+inline constexpr int PaymentEnds = 1049;      ///< %1: the payment, %2: the loan, %3: a date
+inline constexpr int NoPaymentEnds = 1050;    ///< %1: the loan, %2: a date
+inline constexpr int AmountAfforded = 1051;   ///< %1: the payment, %2: the offer, %3: the amount
+inline constexpr int NoAmountAfforded = 1052; ///< %1: the payment, %2: the offer
+inline constexpr int RateNeeded = 1053;       ///< %1: the payment, %2: the offer, %3: the rate
+inline constexpr int NoRateNeeded = 1054;     ///< %1: the payment, %2: the offer
+inline constexpr int EnterAPayment = 1055;
+inline constexpr int EnterADate = 1056;
+inline constexpr int NoLoanToAskAbout = 1057;
+inline constexpr int ExportSemicolons = 1058;
+inline constexpr int ExportCommas = 1059;
+inline constexpr int ExportPdf = 1060;
+inline constexpr int ExportTitle = 1061;
+inline constexpr int ExportFailed = 1062; ///< %1: why
+
 } // namespace quend::language::TextNumber

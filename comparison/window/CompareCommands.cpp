@@ -1,0 +1,107 @@
+#include "CompareCommands.h"
+
+#include "FailureReport.h"
+#include "Loan.h"
+#include "LoanForm.h"
+#include "Worksheet.h"
+#include "frmCompare.h"
+#include "frmFindPayment.h"
+
+#include <QAction>
+
+#include <utility>
+
+namespace quend::compare {
+
+namespace {
+
+/// The offer at a place, as a row of the main window.
+Row RowAt(const Worksheet& sheet, int place) {
+    return sheet.RowOfOffer(OfferIndex{static_cast<std::size_t>(place) - 1});
+}
+
+} // namespace
+
+CompareCommands::CompareCommands(Loan& window, CompareWorld world)
+    : m_window(&window), m_world(std::move(world)), m_reader(window) {
+    const Ui::Loan& form = window.Form();
+    const auto wire = [this](QAction& entry, void (CompareCommands::*handler)()) {
+        entry.setEnabled(true);
+        connect(&entry, &QAction::triggered, this,
+                [this, handler] { m_window->Report().Guard([&] { (this->*handler)(); }); });
+    };
+    wire(*form.mnuToolsCompare, &CompareCommands::mnuToolsCompare_Click);
+    wire(*form.mnuToolsFindPayment, &CompareCommands::mnuToolsFindPayment_Click);
+    m_later.setSingleShot(true);
+    connect(&m_later, &QTimer::timeout, this,
+            [this] { m_window->Report().Guard([this] { ShowChanges(); }); });
+    connect(&window, &Loan::WorksheetChanged, this, &CompareCommands::FollowWorksheet);
+    connect(&window, &Loan::LanguageChanged, this, &CompareCommands::FollowLanguage);
+}
+
+CompareCommands::~CompareCommands() = default;
+
+void CompareCommands::mnuToolsCompare_Click() {
+    m_reader.Read();
+    if (!m_compare) {
+        m_compare = std::make_unique<frmCompare>(*m_window, m_world);
+        connect(m_compare.get(), &frmCompare::CostsEntered, this, &CompareCommands::EnterCosts);
+        connect(m_compare.get(), &frmCompare::ChoiceChanged, this,
+                &CompareCommands::FollowWorksheet);
+        connect(m_compare.get(), &frmCompare::PaymentAsked, this,
+                [this](int place) { FindPayment(place, *m_compare); });
+    }
+    m_compare->Show(m_reader.Compared());
+    m_compare->Present();
+}
+
+void CompareCommands::mnuToolsFindPayment_Click() {
+    m_reader.Read();
+    const auto places = PlacesToAskAbout(m_reader.Compared());
+    FindPayment(places.empty() ? CurrentLoanPlace : places.front(), *m_window);
+}
+
+/// The answer is stored as if it was typed: the same table of fields, the same checks.
+void CompareCommands::FindPayment(int place, QWidget& parent) {
+    if (!m_window->Commit()) {
+        return;
+    }
+    m_reader.Read();
+    Worksheet& sheet = m_window->GetWorksheet();
+    frmFindPayment dialog(m_reader.Compared(), sheet, place, m_window->GetMessages(), &parent);
+    if (dialog.exec() != QDialog::Accepted || !dialog.Answer().value) {
+        return;
+    }
+    const FieldId field = dialog.Answer().field;
+    const bool inRow = field == FieldId::ActualPayment || field == FieldId::InterestRate;
+    sheet.Store(inRow ? Field{field, RowAt(sheet, dialog.Place())} : Field{field},
+                *dialog.Answer().value);
+    m_window->Reenter();
+}
+
+void CompareCommands::FollowWorksheet() {
+    if (m_compare && m_compare->isVisible() && !m_later.isActive()) {
+        m_later.start(0);
+    }
+}
+
+void CompareCommands::ShowChanges() {
+    if (m_compare && m_compare->isVisible() && m_reader.Read()) {
+        m_compare->Show(m_reader.Compared());
+    }
+}
+
+void CompareCommands::FollowLanguage() {
+    if (m_compare) {
+        m_compare->RenewLanguage();
+    }
+}
+
+void CompareCommands::EnterCosts(int place, Money costs) {
+    m_window->Report().Guard([&] {
+        Worksheet& sheet = m_window->GetWorksheet();
+        sheet.Store({FieldId::Costs, RowAt(sheet, place)}, costs);
+    });
+}
+
+} // namespace quend::compare

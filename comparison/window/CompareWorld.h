@@ -1,0 +1,39 @@
+#pragma once
+
+#include "PrintedPage.h"
+#include "TextMetrics.h"
+
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+class QWidget;
+
+namespace quend::compare {
+
+/// Draws a document on pages of this printable space, in twips.
+using DrawDocument =
+    std::function<printing::PrintedPages(QSizeF space, const printing::TextMetrics& metrics)>;
+
+/// What the comparison window needs of the outside world.
+struct CompareWorld {
+    /// Asks how to print, and prints in the background.
+    std::function<void(QWidget& parent, const QString& title, const DrawDocument& draw)> print;
+    /// Why the file could not be written; empty if it was.
+    std::function<QString(const QString& file, const QString& title, const DrawDocument& draw)>
+        exportPdf;
+    /// The file to export to, and the chosen one of the name filters; an empty name: cancelled.
+    struct ExportFile {
+        QString name;
+        QString filter;
+    };
+    std::function<ExportFile(QWidget& parent, const QString& name, const QStringList& filters)>
+        askForFile;
+    /// Where the window was when it was last closed.
+    std::function<void(QWidget& window)> restoreGeometry;
+    std::function<void(const QWidget& window)> saveGeometry;
+};
+
+} // namespace quend::compare

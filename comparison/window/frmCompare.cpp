@@ -1,0 +1,176 @@
+#include "frmCompare.h"
+
+#include "AmountRules.h"
+#include "Answer.h"
+#include "Captions.h"
+#include "CompareExport.h"
+#include "CompareTextNumbers.h"
+#include "CostsPage.h"
+#include "FailureReport.h"
+#include "FigureTable.h"
+#include "Language.h"
+#include "Loan.h"
+#include "MessageQueue.h"
+#include "OverTimePage.h"
+#include "SchedulePage.h"
+#include "Worksheet.h"
+#include "ui_frmCompare.h"
+
+#include <QCloseEvent>
+#include <QScopedValueRollback>
+
+#include <utility>
+
+namespace quend::compare {
+
+frmCompare::frmCompare(Loan& window, CompareWorld world)
+    : m_ui(std::make_unique<Ui::frmCompare>()), m_window(&window), m_world(std::move(world)),
+      m_costs(new CostsPage(window.GetWorksheet(), window.GetMessages())),
+      m_overTime(new OverTimePage(window.GetWorksheet().Texts().Formats())),
+      m_schedule(new SchedulePage(window.GetWorksheet().Texts().Formats())) {
+    m_ui->setupUi(this);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    for (ComparePage* page : std::initializer_list<ComparePage*>{m_costs, m_overTime, m_schedule}) {
+        m_ui->tabPages->addTab(page, QString());
+    }
+    m_monthly = std::make_unique<AmountEntry>(
+        *m_ui->txtMonthly, AmountRules(window.GetWorksheet(), window.GetMessages()));
+    Form_Load();
+    WireChoice();
+    WireCommands();
+}
+
+frmCompare::~frmCompare() {
+    if (isVisible()) {
+        m_world.saveGeometry(*this);
+    }
+}
+
+void frmCompare::Form_Load() {
+    RenewLanguage();
+    resize(sizeHint());
+    m_world.restoreGeometry(*this);
+    ShowChoice();
+}
+
+void frmCompare::WireChoice() {
+    const auto keep = [this] { KeepChoice(); };
+    connect(m_ui->udYears, &QSpinBox::valueChanged, this, keep);
+    for (const QRadioButton* choice : {m_ui->optIntended, m_ui->optRequired, m_ui->optMonthly}) {
+        connect(choice, &QRadioButton::toggled, this, [this](bool checked) {
+            if (checked) {
+                KeepChoice();
+            }
+        });
+    }
+    connect(m_monthly.get(), &AmountEntry::Entered, this, keep);
+    connect(m_overTime, &OverTimePage::HorizonChanged, m_ui->udYears, &QSpinBox::setValue);
+    connect(m_costs, &CostsPage::CostsEntered, this, &frmCompare::CostsEntered);
+    connect(m_costs, &CostsPage::PaymentAsked, this, &frmCompare::PaymentAsked);
+}
+
+void frmCompare::WireCommands() {
+    const auto wire = [this](QPushButton& button, void (frmCompare::*handler)()) {
+        connect(&button, &QPushButton::clicked, this,
+                [this, handler] { m_window->Report().Guard([&] { (this->*handler)(); }); });
+    };
+    wire(*m_ui->cmdCopy, &frmCompare::cmdCopy_Click);
+    wire(*m_ui->cmdExport, &frmCompare::cmdExport_Click);
+    wire(*m_ui->cmdPrint, &frmCompare::cmdPrint_Click);
+    connect(m_ui->cmdClose, &QPushButton::clicked, this, &QWidget::close);
+}
+
+ComparePage& frmCompare::Page() const {
+    return *static_cast<ComparePage*>(m_ui->tabPages->currentWidget());
+}
+
+void frmCompare::Show(const ComparedWorksheet& worksheet) {
+    m_worksheet = &worksheet;
+    setWindowTitle(WindowTitle());
+    m_ui->lblAnswer->setText(
+        AnswerOf(worksheet, m_window->GetWorksheet().Texts().Formats()).join(u' '));
+    ShowChoice();
+    m_costs->Show(worksheet);
+    m_overTime->Show(worksheet);
+    m_schedule->Show(worksheet);
+}
+
+QString frmCompare::WindowTitle() const {
+    const QString name = m_worksheet != nullptr ? m_worksheet->name.simplified() : QString();
+    return name.isEmpty() ? GetResourceText(TextNumber::CompareTitleUnnamed)
+                          : GetResourceText(TextNumber::CompareTitle).arg(name);
+}
+
+void frmCompare::Present() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmCompare::RenewLanguage() {
+    ApplyTexts(*this, TermUnit::Years);
+    for (int i = 0; i < m_ui->tabPages->count(); ++i) {
+        m_ui->tabPages->setTabText(i, m_ui->tabPages->widget(i)->windowTitle());
+    }
+    ShowYearsUnit();
+    for (ComparePage* page : std::initializer_list<ComparePage*>{m_costs, m_overTime, m_schedule}) {
+        page->RenewLanguage();
+    }
+    if (m_worksheet != nullptr) {
+        Show(*m_worksheet);
+    }
+}
+
+void frmCompare::ShowYearsUnit() {
+    m_ui->lblYearsUnit->setText(GetResourceText(
+        m_ui->udYears->value() == 1 ? TextNumber::HorizonYear : TextNumber::HorizonYears));
+}
+
+/// Shows the settings, which may have changed elsewhere.
+void frmCompare::ShowChoice() {
+    const QScopedValueRollback showing(m_showingChoice, true);
+    const Settings& settings = m_window->GetSettings();
+    m_ui->udYears->setValue(settings.compareYears);
+    m_ui->optIntended->setChecked(settings.comparePayments == PaymentChoice::Intended);
+    m_ui->optRequired->setChecked(settings.comparePayments == PaymentChoice::Required);
+    m_ui->optMonthly->setChecked(settings.comparePayments == PaymentChoice::Monthly);
+    m_ui->txtMonthly->setEnabled(settings.comparePayments == PaymentChoice::Monthly);
+    if (m_monthly->Value() != settings.compareMonthly) {
+        m_monthly->SetValue(settings.compareMonthly);
+    }
+    ShowYearsUnit();
+}
+
+void frmCompare::KeepChoice() {
+    if (m_showingChoice) {
+        return;
+    }
+    const PaymentChoice payments = m_ui->optIntended->isChecked()   ? PaymentChoice::Intended
+                                   : m_ui->optRequired->isChecked() ? PaymentChoice::Required
+                                                                    : PaymentChoice::Monthly;
+    m_window->KeepComparison(m_ui->udYears->value(), payments, m_monthly->Value());
+    ShowChoice();
+    Q_EMIT ChoiceChanged();
+}
+
+void frmCompare::cmdCopy_Click() { Page().Table().CopyAll(); }
+
+void frmCompare::cmdExport_Click() {
+    ExportPage(Page(), *this, m_world, m_window->GetMessages(),
+               m_window->GetWorksheet().Texts().Formats().Locale());
+}
+
+void frmCompare::cmdPrint_Click() {
+    const ComparePage& page = Page();
+    m_world.print(*this, page.Title(), [&page](QSizeF space, const printing::TextMetrics& metrics) {
+        return page.Draw(space, metrics);
+    });
+}
+
+void frmCompare::closeEvent(QCloseEvent* event) {
+    m_world.saveGeometry(*this);
+    event->accept();
+}
+
+} // namespace quend::compare

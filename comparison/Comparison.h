@@ -26,6 +26,8 @@ struct OfferInput {
     Months term; ///< zero: that of the worksheet
     FrequencyCode frequency;
     Money actualPayment; ///< the intended payment, escrow share included; zero: none
+
+    friend bool operator==(const OfferInput&, const OfferInput&) = default;
 };
 
 /// The loan held today. All values zero or empty: there is none.

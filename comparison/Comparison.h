@@ -138,6 +138,10 @@ struct ComparisonResult {
     std::optional<CurrentLoanComparison> current; ///< none where there is no such loan
 };
 
+/// The day up to which a loan is kept: so many years after today, cut to the month's last day; at
+/// most the last date.
+Date HorizonDay(Date today, int years);
+
 /// Computes all figures; nothing is kept between calls. A failure of one loan is its result, and
 /// does not raise.
 ComparisonResult Compare(const ComparisonInput& input);

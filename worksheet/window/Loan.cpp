@@ -1,14 +1,13 @@
 #include "Loan.h"
 
-#include "CalendarDate.h"
 #include "Captions.h"
 #include "DatePicker.h"
+#include "DateWriting.h"
 #include "Language.h"
 #include "LenderEdit.h"
 #include "Lists.h"
 #include "LoanParts.h"
 #include "TextNumbers.h"
-#include "TypedDate.h"
 #include "ui_Loan.h"
 
 #include <QCheckBox>
@@ -49,20 +48,6 @@ ControlMap ControlsOf(const QWidget& window) {
     ControlMap controls;
     controls.Add(window, LoanFields());
     return controls;
-}
-
-DatePicker::Writing WritingOf(const Worksheet& worksheet) {
-    const DisplayFormats& formats = worksheet.Texts().Formats();
-    return {.locale = formats.Locale(),
-            .first = QDate(FirstTypedYear, 1, 1),
-            .last = ToCalendar(Date::Last()),
-            .write = [&](const QDate& date) { return formats.ShortDate(FromCalendar(date)); },
-            .read =
-                [&](const QString& text) {
-                    const auto date = ReadTypedDate(text, formats, worksheet.Today());
-                    return date ? ToCalendar(*date) : QDate();
-                },
-            .parts = [&](const QString& text) { return DateParts(text, formats); }};
 }
 
 TermUnit UnitOf(const Settings& settings) {
@@ -139,7 +124,7 @@ void Loan::Form_Load() {
     m_parts->size.Measure();
     resize(sizeHint());
     LoadWallpaper();
-    m_ui->dtNextPayment->SetWriting(WritingOf(m_parts->worksheet));
+    m_ui->dtNextPayment->SetWriting(DateWritingOf(m_parts->worksheet));
     m_parts->worksheet.SetCurrentNextPayment(m_parts->worksheet.Today());
     m_parts->worksheet.SetPaymentNoticeShown(false);
     m_parts->worksheet.ClearDirty();

@@ -1,5 +1,6 @@
 #include "JsonReader.h"
 
+#include <QLocale>
 #include <QSet>
 #include <QStringDecoder>
 
@@ -16,7 +17,8 @@
 namespace quend::comparison {
 
 std::optional<double> JsonScalar::Number() const {
-    const double number = bytes.toDouble(); // infinite beyond the range
+    // Not QByteArrayView::toDouble, which is zero beyond the range instead of infinite.
+    const double number = QLocale::c().toDouble(QString::fromLatin1(bytes));
     return std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 

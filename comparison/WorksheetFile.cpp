@@ -330,8 +330,10 @@ void WriteMembers(SheetWriter& writer, const Owner& owner) {
 
 ReadResult<ComparisonRequest> ReadRequest(const QByteArray& json) {
     FormEvents form;
-    if (const std::optional<FileError> error = ReadJson(json, form)) {
-        return {.content = {}, .error = *error};
+    const std::optional<FileError> malformed = ReadJson(json, form);
+    // What a number beyond the range of double is depends on its member.
+    if (malformed && malformed->fault != FileFault::NotANumber) {
+        return {.content = {}, .error = *malformed};
     }
     ComparisonRequest request;
     RequestEvents events(form.HasWorksheet() ? Target(&request) : Target(&request.worksheet));

@@ -1,5 +1,6 @@
 #include "JsonReader.h"
 
+#include <QLocale>
 #include <QSet>
 #include <QStringDecoder>
 
@@ -16,7 +17,8 @@
 namespace quend::comparison {
 
 std::optional<double> JsonScalar::Number() const {
-    const double number = bytes.toDouble(); // infinite beyond the range
+    // Not QByteArrayView::toDouble, which is zero beyond the range instead of infinite.
+    const double number = QLocale::c().toDouble(QString::fromLatin1(bytes));
     return std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
 
@@ -156,6 +158,24 @@ QByteArrayView WithoutByteOrderMark(QByteArrayView json) {
     return json.startsWith(Mark) ? json.sliced(Mark.size()) : json;
 }
 
+// Numbers as texts, because they are then exact, and only those in use are converted.
+constexpr unsigned Flags = rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag |
+                           rapidjson::kParseNumbersAsStringsFlag;
+
+/// Why a run that did not reach the end ended.
+FileError ErrorOf(const rapidjson::ParseResult& result, Handler& handler, QByteArrayView text) {
+    const int line = LineAt(text, result.Offset());
+    if (result.Code() == rapidjson::kParseErrorNumberTooBig) {
+        constexpr QByteArrayView TooBig("1e999");
+        handler.RawNumber(TooBig.data(), static_cast<rapidjson::SizeType>(TooBig.size()), false);
+        return {handler.FoundFault().value_or(FileFault::NotANumber), line, handler.Path()};
+    }
+    if (handler.FoundFault()) {
+        return {*handler.FoundFault(), line, handler.Path()};
+    }
+    return {FileFault::NotJson, line, {}};
+}
+
 } // namespace
 
 std::optional<FileError> ReadJson(const QByteArray& json, JsonEvents& events) {
@@ -166,29 +186,14 @@ std::optional<FileError> ReadJson(const QByteArray& json, JsonEvents& events) {
     Handler handler(events);
     rapidjson::MemoryStream stream(text.data(), static_cast<std::size_t>(text.size()));
     rapidjson::Reader reader;
-    // Numbers as texts, because they are then exact, and only those in use are converted.
-    constexpr unsigned Flags = rapidjson::kParseIterativeFlag |
-                               rapidjson::kParseValidateEncodingFlag |
-                               rapidjson::kParseNumbersAsStringsFlag;
     const rapidjson::ParseResult result = reader.Parse<Flags>(stream, handler);
-    if (!result.IsError()) {
-        // RapidJSON takes a zero byte for the end.
-        const bool isWhole = static_cast<qsizetype>(stream.Tell()) == text.size();
-        return isWhole ? std::nullopt
-                       : std::optional<FileError>(
-                             {FileFault::NotJson, LineAt(text, stream.Tell()), {}});
+    if (result.IsError()) {
+        return ErrorOf(result, handler, text);
     }
-    const int line = LineAt(text, result.Offset());
-    if (result.Code() == rapidjson::kParseErrorNumberTooBig) {
-        constexpr QByteArrayView TooBig("1e999");
-        handler.RawNumber(TooBig.data(), static_cast<rapidjson::SizeType>(TooBig.size()), false);
-        return FileError{handler.FoundFault().value_or(FileFault::NotANumber), line,
-                         handler.Path()};
+    if (static_cast<qsizetype>(stream.Tell()) < text.size()) { // RapidJSON ends at a zero byte
+        return FileError{FileFault::NotJson, LineAt(text, stream.Tell()), {}};
     }
-    if (!handler.FoundFault()) {
-        return FileError{FileFault::NotJson, line, {}};
-    }
-    return FileError{*handler.FoundFault(), line, handler.Path()};
+    return std::nullopt;
 }
 
 } // namespace quend::comparison

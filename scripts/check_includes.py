@@ -22,6 +22,8 @@ _LAYERS: dict[str, tuple[str, ...]] = {
     "comparison":       ("foundation", "language", "calc"),
     "worksheet/model":  ("foundation", "language", "calc"),
     "worksheet/window": ("foundation", "language", "calc", "worksheet/model"),
+    "comparison/window": ("foundation", "language", "calc", "comparison", "worksheet/model",
+                          "worksheet/window"),
     "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",

@@ -33,5 +33,18 @@ inline constexpr int ExportCommas = 1059;
 inline constexpr int ExportPdf = 1060;
 inline constexpr int ExportTitle = 1061;
 inline constexpr int ExportFailed = 1062; ///< %1: why
+// Durations and stretches of months; the number of months of each is a duration.
+inline constexpr int CompareMonth = 810;
+inline constexpr int CompareMonths = 811; ///< %1: how many, not used for one
+inline constexpr int CompareYear = 812;
+inline constexpr int CompareYears = 813;          ///< %1: how many, not used for one
+inline constexpr int CompareYearsAndMonths = 814; ///< %1: the years, %2: the months
+inline constexpr int CompareFromTheStart = 815;
+inline constexpr int CompareFromOn = 816;
+inline constexpr int CompareFromTo = 817;
+inline constexpr int CompareUpTo = 818;
+inline constexpr int CompareOnlyAt = 819;
+inline constexpr int CompareNever = 820;
+inline constexpr int CompareNextStretch = 821; ///< %1: one or more stretches, %2: another
 
 } // namespace quend::language::TextNumber

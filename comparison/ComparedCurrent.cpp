@@ -28,20 +28,31 @@ void Fill(CurrentLoanComparison& result, const ScheduleTerms& terms) {
     }
 }
 
-/// Raises OverflowFailure if the loan takes no part because it is never repaid.
-void RunCompared(const ComparisonInput& input, DatedLoan loan, ComparedCurrent& current) {
-    const int horizon = input.years * MonthsPerYear;
+DatedLoan WithComparedPayment(const ComparisonInput& input, const ScheduleTerms& terms) {
+    DatedLoan loan{.terms = terms, .accrual = Accrual::BeforePayment};
     if (input.choice == PaymentChoice::Monthly) {
-        loan.terms.payment = std::max(
-            loan.terms.payment,
-            PaymentOfMonthly(input.monthlyPayment, *loan.terms.frequency, loan.terms.escrowShare));
+        loan.terms.payment =
+            std::max(terms.payment,
+                     PaymentOfMonthly(input.monthlyPayment, *terms.frequency, terms.escrowShare));
     }
-    constexpr Money Cent = Money::FromTenThousandths(100);
-    current.costs = RunCosts(loan, Money(), input.today, horizon);
+    return loan;
+}
+
+/// Raises OverflowFailure if the loan takes no part because it is never repaid.
+void RunCompared(const ComparisonInput& input, ComparedCurrent& current) {
+    const int horizon = input.years * MonthsPerYear;
+    current.costs = RunCosts(*current.loan, Money(), input.today, horizon);
+    const ScheduleTerms& terms = current.loan->terms;
+    current.result->figures = {
+        .paymentCompared = terms.payment,
+        .monthlyEquivalent = MonthlyOfPayment(terms.payment, *terms.frequency, terms.escrowShare),
+        .totalCost = current.costs->last,
+        .payoff = current.costs->payoff.date,
+    };
     current.result->costByHorizon = current.costs->By(horizon);
     current.result->balanceAtHorizon = current.costs->balanceAtHorizon;
     current.result->paymentForHorizon =
-        LeastPaymentUntil(loan, MonthAfter(input.today, horizon), Cent);
+        LeastPaymentUntil(*current.loan, MonthAfter(input.today, horizon), LeastOfCurrent);
 }
 
 } // namespace
@@ -61,12 +72,16 @@ ComparedCurrent CompareCurrent(const ComparisonInput& input) {
         .start = held.nextPayment.IsNone() ? input.today : held.nextPayment,
     };
     Fill(current.result.emplace(), terms);
-    if (held.balance > Money() && held.actualPayment > Money() && terms.frequency != nullptr) {
-        try {
-            RunCompared(input, {.terms = terms, .accrual = Accrual::BeforePayment}, current);
-        } catch (const OverflowFailure&) {
-            current.costs.reset(); // it is never repaid: no part, and no failure beside its own
+    if (held.balance <= Money() || terms.frequency == nullptr) {
+        return current;
+    }
+    try {
+        current.loan = WithComparedPayment(input, terms);
+        if (held.actualPayment > Money()) {
+            RunCompared(input, current);
         }
+    } catch (const OverflowFailure&) {
+        current.costs.reset(); // it is never repaid: no part, and no failure beside its own
     }
     return current;
 }

@@ -10,8 +10,14 @@ namespace quend::comparison {
 /// The loan held today of a comparison.
 struct ComparedCurrent {
     std::optional<CurrentLoanComparison> result; ///< none where there is no such loan
-    std::optional<CostByMonth> costs;            ///< none where it takes no part
+    /// With the compared payment; none where nothing is owed or its frequency is unknown. Its
+    /// schedule may never end.
+    std::optional<DatedLoan> loan;
+    std::optional<CostByMonth> costs; ///< none where it takes no part
 };
+
+/// The least payment that a search for one considers: one cent.
+inline constexpr Money LeastOfCurrent = Money::FromTenThousandths(100);
 
 ComparedCurrent CompareCurrent(const ComparisonInput& input);
 

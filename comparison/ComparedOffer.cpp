@@ -149,6 +149,7 @@ void ComparedOffer::RunCompared() {
         m_figures.totalCost = m_closing + m_costs->payoff.interest;
         m_figures.costByHorizon = m_costs->By(Horizon());
         m_figures.balanceAtHorizon = m_costs->balanceAtHorizon;
+        m_figures.payoff = m_costs->payoff.date;
     } catch (const NeverRepaidFailure&) {
         m_result.leftOut = LeftOut::NeverEnds;
     } catch (const OverflowFailure&) {
@@ -167,9 +168,8 @@ void ComparedOffer::ComputeAmounts() {
     m_figures.upfront = m_offer->pointsFinanced ? m_offer->costs : m_closing;
     m_received = m_input->amount - m_figures.upfront;
     m_figures.paymentCompared = PaymentCompared(*m_result.payment, m_result.actualPayment);
-    const Money repaying = m_figures.paymentCompared - m_escrowShare;
     m_figures.monthlyEquivalent =
-        Money::FromDoubleInCents(repaying.ToDouble() * m_frequency->periodsPerYear / MonthsPerYear);
+        MonthlyOfPayment(m_figures.paymentCompared, *m_frequency, m_escrowShare);
     m_hasAmounts = true;
 }
 
@@ -211,10 +211,25 @@ OfferComparison ComparedOffer::Finish(const CostByMonth* current, int months, Mo
     if (m_figures.costByHorizon > cheapest) {
         m_figures.rateToMatch = FindRateToMatch(cheapest);
     }
-    m_figures.paymentForHorizon =
-        LeastPaymentUntil(Loan(m_offer->rate, Money()), HorizonDay(), *m_result.payment);
+    m_figures.paymentForHorizon = LeastPaymentBy(HorizonDay());
     m_result.figures = m_figures;
     return m_result;
+}
+
+std::optional<DatedLoan> ComparedOffer::Compared() const {
+    if (!m_costs) {
+        return std::nullopt;
+    }
+    return Loan(m_offer->rate, m_figures.paymentCompared);
+}
+
+std::optional<Money> ComparedOffer::LeastPaymentBy(Date day) const {
+    // Where the compared payment never ends, a greater one may.
+    const bool hasLoan = m_result.leftOut == LeftOut::No || m_result.leftOut == LeftOut::NeverEnds;
+    if (!hasLoan || !m_hasAmounts) {
+        return std::nullopt;
+    }
+    return LeastPaymentUntil(Loan(m_offer->rate, Money()), day, *m_result.payment);
 }
 
 std::optional<Payoff> ComparedOffer::RunRequired() const {
@@ -273,6 +288,22 @@ bool ComparedOffer::CostsNoMoreAt(Rate rate, Money most) const {
         return interest && m_closing + *interest <= most;
     } catch (const OverflowFailure&) {
         return false;
+    }
+}
+
+std::optional<RequiredAmounts> RequiredPayment(const ComparisonInput& input,
+                                               const OfferInput& offer) {
+    InputContext context(input);
+    try {
+        const CLoan loan = ToLoan(context, input, offer);
+        if (loan.InterestRate().IsZero() || loan.Term().IsZero() ||
+            FindFrequency(loan.FrequencyCode()) == nullptr) {
+            return std::nullopt;
+        }
+        const Money pAndI = loan.PandI();
+        return RequiredAmounts{pAndI, pAndI + EscrowShare(offer.frequency, input.escrowMonthly)};
+    } catch (const OverflowFailure&) {
+        return std::nullopt;
     }
 }
 

@@ -4,6 +4,7 @@
 #include "CostByMonth.h"
 #include "Frequency.h"
 
+#include <cstddef>
 #include <optional>
 
 namespace quend::comparison {
@@ -19,6 +20,13 @@ public:
     /// `current` is null where the loan held today takes no part. `cheapest` is the least cost by
     /// the horizon. For an offer that is left out, the result has no figures.
     OfferComparison Finish(const CostByMonth* current, int months, Money cheapest);
+
+    /// With the compared payment; none where the offer is left out.
+    std::optional<DatedLoan> Compared() const;
+    /// Points and costs, paid in cash or not.
+    Money Closing() const { return m_closing; }
+    /// As LeastPaymentBy does (Solving.h).
+    std::optional<Money> LeastPaymentBy(Date day) const;
 
 private:
     int Horizon() const { return m_input->years * MonthsPerYear; }
@@ -46,5 +54,21 @@ private:
     bool m_hasAmounts = false; ///< all of the above are within the range of money
     std::optional<CostByMonth> m_costs;
 };
+
+struct RequiredAmounts {
+    Money principalAndInterest; ///< zero where less than half a cent
+    Money payment;              ///< with its escrow share
+};
+
+/// What the offer requires. None where its rate, term or frequency is missing, or an amount is
+/// outside the range of money.
+std::optional<RequiredAmounts> RequiredPayment(const ComparisonInput& input,
+                                               const OfferInput& offer);
+
+/// Null where there is no such place.
+inline const OfferInput* OfferAt(const ComparisonInput& input, int place) {
+    const bool exists = place >= 1 && static_cast<std::size_t>(place) <= input.offers.size();
+    return exists ? &input.offers[static_cast<std::size_t>(place) - 1] : nullptr;
+}
 
 } // namespace quend::comparison

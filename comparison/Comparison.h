@@ -19,40 +19,42 @@ enum class PaymentChoice {
 };
 
 struct OfferInput {
-    Percent points;
+    Percent points{};
     bool pointsFinanced = false;
-    Money costs; ///< charges besides points, paid in cash; negative for a credit
-    Rate rate;
-    Months term; ///< zero: that of the worksheet
-    FrequencyCode frequency;
-    Money actualPayment; ///< the intended payment, escrow share included; zero: none
+    Money costs{}; ///< charges besides points, paid in cash; negative for a credit
+    Rate rate{};
+    Months term{}; ///< zero: that of the worksheet
+    FrequencyCode frequency{};
+    Money actualPayment{}; ///< the intended payment, escrow share included; zero: none
+
+    friend bool operator==(const OfferInput&, const OfferInput&) = default;
 };
 
 /// The loan held today. All values zero or empty: there is none.
 struct CurrentLoanInput {
-    Money amount;
-    Months term;
-    Rate rate;
-    FrequencyCode frequency;
-    Money balance;
-    Money actualPayment;
-    FrequencyCode actualFrequency;
-    Date nextPayment; ///< none: today
+    Money amount{};
+    Months term{};
+    Rate rate{};
+    FrequencyCode frequency{};
+    Money balance{};
+    Money actualPayment{};
+    FrequencyCode actualFrequency{};
+    Date nextPayment{}; ///< none: today
 
     friend bool operator==(const CurrentLoanInput&, const CurrentLoanInput&) = default;
 };
 
 /// Rates and terms are zero or more.
 struct ComparisonInput {
-    Date today;
+    Date today{};
     int years = 5; ///< how long the loan is kept, from 1 to 50
     PaymentChoice choice = PaymentChoice::Intended;
-    Money monthlyPayment; ///< principal and interest a month, for PaymentChoice::Monthly
-    Money amount;
-    Months term;
-    Money escrowMonthly;
-    CurrentLoanInput current;
-    std::vector<OfferInput> offers; ///< blank ones included: they count as places
+    Money monthlyPayment{}; ///< principal and interest a month, for PaymentChoice::Monthly
+    Money amount{};
+    Months term{};
+    Money escrowMonthly{};
+    CurrentLoanInput current{};
+    std::vector<OfferInput> offers{}; ///< blank ones included: they count as places
 };
 
 /// Why an offer takes no part; the first that holds.
@@ -77,6 +79,7 @@ struct OfferFigures {
     Money costByHorizon;
     Money balanceAtHorizon;
     Money monthlyEquivalent;           ///< of the compared payment without escrow, to the cent
+    Date payoff;                       ///< with the compared payment
     std::optional<Rate> apr;           ///< good to 1e-10; none: not between 0 and 10,000 %
     std::optional<Rate> effectiveRate; ///< none as apr
     // Against the schedule with the required payment; none where that never ends.
@@ -106,6 +109,14 @@ struct OfferComparison {
     std::optional<OfferFigures> figures; ///< none where it is left out
 };
 
+/// Further figures of the loan held today, as those of an offer.
+struct CurrentLoanFigures {
+    Money paymentCompared;
+    Money monthlyEquivalent;
+    Money totalCost; ///< the interest from today on
+    Date payoff;
+};
+
 struct CurrentLoanComparison {
     // Of the actual payment, counted from the next one; none where it never repays the loan.
     std::optional<Money> amountLeft;
@@ -116,6 +127,7 @@ struct CurrentLoanComparison {
     std::optional<Money> costByHorizon;
     std::optional<Money> balanceAtHorizon;
     std::optional<Money> paymentForHorizon;
+    std::optional<CurrentLoanFigures> figures;
 };
 
 struct ComparisonResult {

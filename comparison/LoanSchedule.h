@@ -14,13 +14,13 @@ inline constexpr int CurrentLoanPlace = 0;
 /// One payment of a schedule.
 struct ScheduleRow {
     std::int64_t number = 0; ///< from 1
-    Date date;
-    Money payment; ///< interest, principal and escrow
-    Money interest;
-    Money principal;
-    Money escrow;
-    Money balance; ///< afterwards
-    Money interestSoFar;
+    Date date{};
+    Money payment{}; ///< interest, principal and escrow
+    Money interest{};
+    Money principal{};
+    Money escrow{};
+    Money balance{}; ///< afterwards
+    Money interestSoFar{};
 
     friend bool operator==(const ScheduleRow&, const ScheduleRow&) = default;
 };

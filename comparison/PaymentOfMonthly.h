@@ -14,4 +14,11 @@ inline Money PaymentOfMonthly(Money monthly, const Frequency& frequency, Money e
            escrowShare;
 }
 
+/// The part of a payment that repays principal and interest, as an amount a month, to the cent.
+/// Raises as PaymentOfMonthly does.
+inline Money MonthlyOfPayment(Money payment, const Frequency& frequency, Money escrowShare) {
+    return Money::FromDoubleInCents((payment - escrowShare).ToDouble() * frequency.periodsPerYear /
+                                    MonthsPerYear);
+}
+
 } // namespace quend::comparison

@@ -34,13 +34,14 @@ Uses UsesOf(const std::vector<FormNumber>& numbers) {
     return uses;
 }
 
-/// In the order of the header.
+/// In the order of the headers.
 std::vector<int> NumbersOfCode() {
-    const QString header =
-        QString::fromUtf8(BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/TextNumbers.h")));
+    const QString headers = QString::fromUtf8(
+        BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/TextNumbers.h")) +
+        BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/CompareTextNumbers.h")));
     const QRegularExpression constant(QStringLiteral("constexpr int \\w+ = (\\d+);"));
     std::vector<int> numbers;
-    auto matches = constant.globalMatch(header);
+    auto matches = constant.globalMatch(headers);
     while (matches.hasNext()) {
         numbers.push_back(matches.next().captured(1).toInt());
     }

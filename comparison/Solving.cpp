@@ -1,0 +1,98 @@
+#include "Solving.h"
+
+#include "AccruedInterest.h"
+#include "ComparedCurrent.h"
+#include "ComparedOffer.h"
+#include "LoanSchedule.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <numeric>
+
+namespace quend::comparison {
+
+namespace {
+
+constexpr double ThousandthsOfAPercent = 100'000.0;
+
+/// The greatest whole number from one to `most` that holds, where none holds after one that does
+/// not; zero where one does not.
+template <typename Holds>
+std::int64_t Greatest(std::int64_t most, Holds holds) {
+    std::int64_t low = 0;
+    std::int64_t high = 1;
+    while (holds(high)) {
+        if (high == most) {
+            return most;
+        }
+        low = high;
+        high = std::min(high * 2, most);
+    }
+    while (high - low > 1) {
+        const std::int64_t middle = std::midpoint(low, high);
+        (holds(middle) ? low : high) = middle;
+    }
+    return low;
+}
+
+/// Without its intended payment, which would be raised to each payment tried.
+OfferInput WithoutIntendedPayment(OfferInput offer) {
+    offer.actualPayment = Money();
+    return offer;
+}
+
+} // namespace
+
+std::optional<Money> LeastPaymentBy(const ComparisonInput& input, int place, Date day) {
+    if (place == CurrentLoanPlace) {
+        const ComparedCurrent current = CompareCurrent(input);
+        return current.loan ? LeastPaymentUntil(*current.loan, day, LeastOfCurrent) : std::nullopt;
+    }
+    const OfferInput* const offer = OfferAt(input, place);
+    return offer != nullptr ? ComparedOffer(input, *offer).LeastPaymentBy(day) : std::nullopt;
+}
+
+std::optional<Money> LargestAmount(const ComparisonInput& input, int place, Money payment) {
+    const OfferInput* const offer = OfferAt(input, place);
+    if (offer == nullptr) {
+        return std::nullopt;
+    }
+    ComparisonInput tried{.term = input.term, .escrowMonthly = input.escrowMonthly};
+    const OfferInput asked = WithoutIntendedPayment(*offer);
+    constexpr std::int64_t PerCent = 100;
+    constexpr std::int64_t Most = std::numeric_limits<std::int64_t>::max() / PerCent;
+    const auto required = [&](std::int64_t cents) {
+        tried.amount = Money::FromTenThousandths(cents * PerCent);
+        return RequiredPayment(tried, asked);
+    };
+    const std::int64_t found = Greatest(Most, [&](std::int64_t cents) {
+        const std::optional<RequiredAmounts> amounts = required(cents);
+        return amounts && amounts->payment <= payment;
+    });
+    // So small an amount that nothing is repaid is no answer.
+    if (found == 0 || required(found)->principalAndInterest.IsZero()) {
+        return std::nullopt;
+    }
+    return Money::FromTenThousandths(found * PerCent);
+}
+
+std::optional<Rate> HighestRate(const ComparisonInput& input, int place, Money payment) {
+    const OfferInput* const offer = OfferAt(input, place);
+    if (offer == nullptr) {
+        return std::nullopt;
+    }
+    OfferInput tried = WithoutIntendedPayment(*offer);
+    const auto rateOf = [](std::int64_t thousandths) {
+        return Rate::FromFraction(static_cast<double>(thousandths) / ThousandthsOfAPercent);
+    };
+    constexpr std::int64_t Most = 10'000'000; // 10,000 %
+    const std::int64_t found = Greatest(Most, [&](std::int64_t thousandths) {
+        tried.rate = rateOf(thousandths);
+        const std::optional<RequiredAmounts> amounts = RequiredPayment(input, tried);
+        return amounts && amounts->payment <= payment;
+    });
+    return found > 0 ? std::optional(rateOf(found)) : std::nullopt;
+}
+
+} // namespace quend::comparison

@@ -48,8 +48,6 @@ void CompareCommands::mnuToolsCompare_Click() {
         connect(m_compare.get(), &frmCompare::CostsEntered, this, &CompareCommands::EnterCosts);
         connect(m_compare.get(), &frmCompare::ChoiceChanged, this,
                 &CompareCommands::FollowWorksheet);
-        connect(m_compare.get(), &frmCompare::PaymentAsked, this,
-                [this](int place) { FindPayment(place, *m_compare); });
     }
     m_compare->Show(m_reader.Compared());
     m_compare->Present();

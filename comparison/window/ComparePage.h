@@ -1,12 +1,12 @@
 #pragma once
 
 #include "ComparedWorksheet.h"
-#include "PrintedPage.h"
-#include "TextMetrics.h"
+#include "Drawing.h"
 
-#include <QSizeF>
 #include <QString>
 #include <QWidget>
+
+#include <memory>
 
 namespace quend::compare {
 
@@ -21,14 +21,11 @@ public:
 
     /// Shows the worksheet, which must live until the next call. Keeps what the user selected.
     virtual void Show(const ComparedWorksheet& worksheet) = 0;
-    /// Shows everything again in the current language.
-    virtual void RenewLanguage() = 0;
     /// What is copied and exported.
-    virtual FigureTable& Table() = 0;
+    virtual const FigureTable& Table() const = 0;
     virtual QString Title() const = 0;
-    /// On pages of this printable space, in twips.
-    virtual printing::PrintedPages Draw(QSizeF space,
-                                        const printing::TextMetrics& metrics) const = 0;
+    /// The page on paper. The result owns all that it draws.
+    virtual std::unique_ptr<printing::Drawing> Draw(const printing::Paper& paper) const = 0;
 };
 
 } // namespace quend::compare

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "PrintedPage.h"
-#include "TextMetrics.h"
+#include "Drawing.h"
 
-#include <QSizeF>
 #include <QString>
 #include <QStringList>
 
@@ -13,16 +11,14 @@ class QWidget;
 
 namespace quend::compare {
 
-/// Draws a document on pages of this printable space, in twips.
-using DrawDocument =
-    std::function<printing::PrintedPages(QSizeF space, const printing::TextMetrics& metrics)>;
-
 /// What the comparison window needs of the outside world.
 struct CompareWorld {
     /// Asks how to print, and prints in the background.
-    std::function<void(QWidget& parent, const QString& title, const DrawDocument& draw)> print;
+    std::function<void(QWidget& parent, const QString& title, const printing::DrawDocument& draw)>
+        print;
     /// Why the file could not be written; empty if it was.
-    std::function<QString(const QString& file, const QString& title, const DrawDocument& draw)>
+    std::function<QString(const QString& file, const QString& title,
+                          const printing::DrawDocument& draw)>
         exportPdf;
     /// The file to export to, and the chosen one of the name filters; an empty name: cancelled.
     struct ExportFile {

@@ -66,7 +66,6 @@ void frmCompare::WireChoice() {
     connect(m_monthly.get(), &AmountEntry::Entered, this, keep);
     connect(m_overTime, &OverTimePage::HorizonChanged, m_ui->udYears, &QSpinBox::setValue);
     connect(m_costs, &CostsPage::CostsEntered, this, &frmCompare::CostsEntered);
-    connect(m_costs, &CostsPage::PaymentAsked, this, &frmCompare::PaymentAsked);
 }
 
 void frmCompare::WireCommands() {
@@ -114,9 +113,6 @@ void frmCompare::RenewLanguage() {
         m_ui->tabPages->setTabText(i, m_ui->tabPages->widget(i)->windowTitle());
     }
     ShowYearsUnit();
-    for (ComparePage* page : std::initializer_list<ComparePage*>{m_costs, m_overTime, m_schedule}) {
-        page->RenewLanguage();
-    }
     if (m_worksheet != nullptr) {
         Show(*m_worksheet);
     }
@@ -154,21 +150,34 @@ void frmCompare::KeepChoice() {
     Q_EMIT ChoiceChanged();
 }
 
-void frmCompare::cmdCopy_Click() { Page().Table().CopyAll(); }
+void frmCompare::cmdCopy_Click() { Page().Table().Copy(); }
 
 void frmCompare::cmdExport_Click() {
-    ExportPage(Page(), *this, m_world, m_window->GetMessages(),
-               m_window->GetWorksheet().Texts().Formats().Locale());
+    if (!m_costs->CommitEntry()) {
+        return;
+    }
+    const QString fault =
+        ExportPage(Page(), *this, m_world, m_window->GetWorksheet().Texts().Formats().Locale());
+    if (!fault.isEmpty()) {
+        m_window->GetMessages().Post(fault);
+    }
 }
 
 void frmCompare::cmdPrint_Click() {
+    if (!m_costs->CommitEntry()) {
+        return;
+    }
     const ComparePage& page = Page();
-    m_world.print(*this, page.Title(), [&page](QSizeF space, const printing::TextMetrics& metrics) {
-        return page.Draw(space, metrics);
-    });
+    m_world.print(*this, page.Title(),
+                  [&page](const printing::Paper& paper) { return page.Draw(paper); });
 }
 
+/// Costs that are refused keep the window open, so that nothing typed is lost.
 void frmCompare::closeEvent(QCloseEvent* event) {
+    if (!m_costs->CommitEntry()) {
+        event->ignore();
+        return;
+    }
     m_world.saveGeometry(*this);
     event->accept();
 }

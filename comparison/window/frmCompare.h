@@ -45,7 +45,6 @@ Q_SIGNALS:
     void CostsEntered(int place, quend::calc::Money costs);
     /// The years or the payments that are compared; they are in the settings already.
     void ChoiceChanged();
-    void PaymentAsked(int place);
 
 protected:
     void closeEvent(QCloseEvent* event) override;

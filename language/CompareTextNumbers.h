@@ -33,6 +33,27 @@ inline constexpr int ExportCommas = 1059;
 inline constexpr int ExportPdf = 1060;
 inline constexpr int ExportTitle = 1061;
 inline constexpr int ExportFailed = 1062; ///< %1: why
+// The chart and its table. In sentences %1 is the month, where it is named, then the loan, then the
+// amount; those of the loan held today do not name it.
+inline constexpr int ChartCostSoFar = 870;
+inline constexpr int ChartBalance = 871;
+inline constexpr int ChartMonthsAxis = 872;
+inline constexpr int ChartYearsAxis = 873;
+inline constexpr int ChartHorizonOfOne = 874;
+inline constexpr int ChartHorizon = 875; ///< %1: the years
+inline constexpr int ChartToday = 876;
+inline constexpr int ChartMonth = 877; ///< %1: the month after today
+inline constexpr int ChartYear = 878;  ///< %1: the year after today
+inline constexpr int ChartCost = 879;
+inline constexpr int ChartOwed = 880;
+inline constexpr int ChartCurrentCost = 881;
+inline constexpr int ChartCurrentOwed = 882;
+inline constexpr int ChartCostToday = 883;
+inline constexpr int ChartOwedToday = 884;
+inline constexpr int ChartCurrentCostToday = 885;
+inline constexpr int ChartCurrentOwedToday = 886;
+inline constexpr int ChartWithoutLines = 887;
+inline constexpr int ChartKeys = 888; ///< for screen readers, until something is read
 // Durations and stretches of months; the number of months of each is a duration.
 inline constexpr int CompareMonth = 810;
 inline constexpr int CompareMonths = 811; ///< %1: how many, not used for one

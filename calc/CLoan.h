@@ -50,6 +50,10 @@ public:
     void SetFinanceClosingCosts(bool finance) { Change(m_financeClosingCosts, finance); }
     Money ClosingCosts() const { return m_closingCosts; }
     void SetClosingCosts(Money costs) { Change(m_closingCosts, costs); }
+    /// What the lender charges besides points, paid in cash; negative for a credit. No result
+    /// depends on it.
+    Money Costs() const { return m_costs; }
+    void SetCosts(Money costs) { Change(m_costs, costs); }
     void SetStartingAmount(Money amount) { m_startingAmount = amount; }
     Months Term() const { return m_term; }
     void SetTerm(Months term) { Change(m_term, term); }
@@ -108,6 +112,7 @@ private:
     Percent m_points;
     bool m_financeClosingCosts = false;
     Money m_closingCosts;
+    Money m_costs;
     Money m_startingAmount;
     Months m_term;
     Rate m_interestRate;

@@ -211,7 +211,7 @@ OfferComparison ComparedOffer::Finish(const CostByMonth* current, int months, Mo
     if (m_figures.costByHorizon > cheapest) {
         m_figures.rateToMatch = FindRateToMatch(cheapest);
     }
-    m_figures.paymentForHorizon = LeastPaymentBy(HorizonDay());
+    m_figures.paymentForHorizon = LeastPaymentBy(HorizonDay(m_input->today, m_input->years));
     m_result.figures = m_figures;
     return m_result;
 }
@@ -282,7 +282,7 @@ bool ComparedOffer::CostsNoMoreAt(Rate rate, Money most) const {
         const bool intends = m_result.actualPayment > *m_result.payment;
         const Money payment =
             PaymentCompared(pAndI + m_escrowShare, intends ? m_result.actualPayment : Money());
-        const Date horizon = HorizonDay();
+        const Date horizon = HorizonDay(m_input->today, m_input->years);
         const std::optional<Money> interest =
             AccruedInterest(Loan(rate, payment), m_input->today, horizon);
         return interest && m_closing + *interest <= most;

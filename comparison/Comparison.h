@@ -64,11 +64,15 @@ enum class LeftOut { No, NoAmount, NoRate, NoFrequency, NoTerm, NoPayment, Never
 struct CheaperStretch {
     int fromMonth = 0;
     std::optional<int> untilMonth; ///< the first month outside; none: it never ends
+
+    friend bool operator==(const CheaperStretch&, const CheaperStretch&) = default;
 };
 
 struct CheapestOffer {
     int fromMonth = 0;
     int offer = 0; ///< place, from 1
+
+    friend bool operator==(const CheapestOffer&, const CheapestOffer&) = default;
 };
 
 /// The figures of an offer that takes part.
@@ -91,6 +95,8 @@ struct OfferFigures {
     std::optional<Rate> rateToMatch;
     /// The least payment in whole cents with which nothing is owed at the horizon.
     std::optional<Money> paymentForHorizon;
+
+    friend bool operator==(const OfferFigures&, const OfferFigures&) = default;
 };
 
 /// An offer as the main window shows it, and its figures. A value is none where it could not be
@@ -107,6 +113,8 @@ struct OfferComparison {
     bool overflow = false; ///< a value is outside its range, or the schedule never ends
     LeftOut leftOut = LeftOut::No;
     std::optional<OfferFigures> figures; ///< none where it is left out
+
+    friend bool operator==(const OfferComparison&, const OfferComparison&) = default;
 };
 
 /// Further figures of the loan held today, as those of an offer.
@@ -115,6 +123,8 @@ struct CurrentLoanFigures {
     Money monthlyEquivalent;
     Money totalCost; ///< the interest from today on
     Date payoff;
+
+    friend bool operator==(const CurrentLoanFigures&, const CurrentLoanFigures&) = default;
 };
 
 struct CurrentLoanComparison {
@@ -128,6 +138,8 @@ struct CurrentLoanComparison {
     std::optional<Money> balanceAtHorizon;
     std::optional<Money> paymentForHorizon;
     std::optional<CurrentLoanFigures> figures;
+
+    friend bool operator==(const CurrentLoanComparison&, const CurrentLoanComparison&) = default;
 };
 
 struct ComparisonResult {
@@ -136,7 +148,13 @@ struct ComparisonResult {
     std::vector<CheapestOffer> cheapest;
     std::optional<int> cheapestByHorizon;         ///< place, from 1; none where no offer takes part
     std::optional<CurrentLoanComparison> current; ///< none where there is no such loan
+
+    friend bool operator==(const ComparisonResult&, const ComparisonResult&) = default;
 };
+
+/// The day up to which a loan is kept: so many years after today, cut to the month's last day; at
+/// most the last date.
+Date HorizonDay(Date today, int years);
 
 /// Computes all figures; nothing is kept between calls. A failure of one loan is its result, and
 /// does not raise.

@@ -60,6 +60,8 @@ constexpr auto OfferFieldTable = [] {
 }();
 // clang-format on
 
+constexpr FieldRule CostsRule{FieldId::Costs, {}, ValueKind::Amount, Access::Input, 2, true};
+
 } // namespace
 
 std::span<const FieldRule> LoanFields() { return LoanFieldTable; }
@@ -67,6 +69,9 @@ std::span<const FieldRule> LoanFields() { return LoanFieldTable; }
 std::span<const FieldRule> OfferFields() { return OfferFieldTable; }
 
 const FieldRule& RuleOf(FieldId id) {
+    if (id == FieldId::Costs) {
+        return CostsRule;
+    }
     const auto fields = id < FieldId::FinancePoints ? LoanFields() : OfferFields();
     return *std::ranges::find(fields, id, &FieldRule::id);
 }

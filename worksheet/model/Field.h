@@ -23,7 +23,7 @@ struct OfferIndex {
     friend constexpr auto operator<=>(OfferIndex, OfferIndex) = default;
 };
 
-/// Every control of the worksheet that shows a value, typed or computed.
+/// Every value of the worksheet that is shown, typed or computed.
 enum class FieldId {
     LoanName,
     LoanType,
@@ -56,6 +56,8 @@ enum class FieldId {
     PayoffDate,
     Interest,
     Who,
+    // Kept with an offer; the main window has no control for it.
+    Costs,
 };
 
 /// What a field holds; it decides how the text is read and shown.
@@ -86,7 +88,8 @@ struct Field {
 /// The fixed properties of a field.
 struct FieldRule {
     FieldId id = FieldId::LoanName;
-    QLatin1String control; ///< the name of its control; in a row, the name of the control array
+    /// The name of its control; in a row, that of the control array. Null: it has none.
+    QLatin1String control;
     ValueKind kind = ValueKind::Text;
     Access access = Access::Input;
     int decimals = 0;          ///< the most digits after the decimal symbol; 0 forbids the symbol
@@ -111,7 +114,8 @@ struct FieldRule {
 /// The fields above the offers, in tab order.
 std::span<const FieldRule> LoanFields();
 
-/// The fields of one row of offers, in the order of the columns.
+/// The fields of one row of offers, in the order of the columns; those without a column are not
+/// among them.
 std::span<const FieldRule> OfferFields();
 
 /// The rule of a field. Every identifier has one.

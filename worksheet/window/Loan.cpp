@@ -1,14 +1,13 @@
 #include "Loan.h"
 
-#include "CalendarDate.h"
 #include "Captions.h"
 #include "DatePicker.h"
+#include "DateWriting.h"
 #include "Language.h"
 #include "LenderEdit.h"
 #include "Lists.h"
 #include "LoanParts.h"
 #include "TextNumbers.h"
-#include "TypedDate.h"
 #include "ui_Loan.h"
 
 #include <QCheckBox>
@@ -51,20 +50,6 @@ ControlMap ControlsOf(const QWidget& window) {
     return controls;
 }
 
-DatePicker::Writing WritingOf(const Worksheet& worksheet) {
-    const DisplayFormats& formats = worksheet.Texts().Formats();
-    return {.locale = formats.Locale(),
-            .first = QDate(FirstTypedYear, 1, 1),
-            .last = ToCalendar(Date::Last()),
-            .write = [&](const QDate& date) { return formats.ShortDate(FromCalendar(date)); },
-            .read =
-                [&](const QString& text) {
-                    const auto date = ReadTypedDate(text, formats, worksheet.Today());
-                    return date ? ToCalendar(*date) : QDate();
-                },
-            .parts = [&](const QString& text) { return DateParts(text, formats); }};
-}
-
 TermUnit UnitOf(const Settings& settings) {
     return settings.termInMonths ? TermUnit::Months : TermUnit::Years;
 }
@@ -98,13 +83,13 @@ Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
       worksheet(display, {DisplayFormats(world.locale), settings.termInMonths}, world.today),
       columns(*window.m_ui->picHeadings, controls),
       rows({window.m_ui->picScroll, window.m_ui->picCanvas, window.m_ui->vsbLoans}, worksheet,
-           controls, columns),
+           controls, columns, report),
       size(window, *window.m_ui, controls, columns, rows, worksheet.Texts().Formats()),
       notice(window, worksheet, messages, [this] { worksheet.ClearRaisedMarks(); }),
       behaviour(worksheet, controls, rows, messages), handlers(worksheet, controls, behaviour),
       focus(handlers, controls, report), offers(window),
       values(worksheet, controls, focus, behaviour), dragHandlers(values, controls),
-      dragScroll(rows, *window.m_ui->picScroll),
+      dragScroll(rows, *window.m_ui->picScroll, report),
       dragging({&window, window.m_ui->picScroll}, dragHandlers, controls, dragScroll, report),
       clipboard(values, controls, messages, report),
       languages(*window.m_ui->mnuToolsLanguage,
@@ -139,7 +124,7 @@ void Loan::Form_Load() {
     m_parts->size.Measure();
     resize(sizeHint());
     LoadWallpaper();
-    m_ui->dtNextPayment->SetWriting(WritingOf(m_parts->worksheet));
+    m_ui->dtNextPayment->SetWriting(DateWritingOf(m_parts->worksheet));
     m_parts->worksheet.SetCurrentNextPayment(m_parts->worksheet.Today());
     m_parts->worksheet.SetPaymentNoticeShown(false);
     m_parts->worksheet.ClearDirty();

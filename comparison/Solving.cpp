@@ -44,6 +44,10 @@ OfferInput WithoutIntendedPayment(OfferInput offer) {
 
 } // namespace
 
+Date HorizonOf(const ComparisonInput& input) {
+    return MonthAfter(input.today, input.years * MonthsPerYear);
+}
+
 std::optional<Money> LeastPaymentBy(const ComparisonInput& input, int place, Date day) {
     if (place == CurrentLoanPlace) {
         const ComparedCurrent current = CompareCurrent(input);

@@ -2,6 +2,7 @@
 
 #include "Drawing.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -30,6 +31,9 @@ struct CompareWorld {
     /// Where the window was when it was last closed.
     std::function<void(QWidget& window)> restoreGeometry;
     std::function<void(const QWidget& window)> saveGeometry;
+    /// How the user has arranged the columns of the table of costs.
+    std::function<QByteArray()> restoreColumns;
+    std::function<void(const QByteArray& columns)> saveColumns;
 };
 
 } // namespace quend::compare

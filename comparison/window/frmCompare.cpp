@@ -42,7 +42,7 @@ frmCompare::frmCompare(Loan& window, CompareWorld world)
 
 frmCompare::~frmCompare() {
     if (isVisible()) {
-        m_world.saveGeometry(*this);
+        KeepArrangement();
     }
 }
 
@@ -50,7 +50,13 @@ void frmCompare::Form_Load() {
     RenewLanguage();
     resize(sizeHint());
     m_world.restoreGeometry(*this);
+    m_costs->RestoreColumns(m_world.restoreColumns());
     ShowChoice();
+}
+
+void frmCompare::KeepArrangement() const {
+    m_world.saveGeometry(*this);
+    m_world.saveColumns(m_costs->SaveColumns());
 }
 
 void frmCompare::WireChoice() {
@@ -178,7 +184,7 @@ void frmCompare::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    m_world.saveGeometry(*this);
+    KeepArrangement();
     event->accept();
 }
 

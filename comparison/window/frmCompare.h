@@ -51,6 +51,7 @@ protected:
 
 private:
     void Form_Load();
+    void KeepArrangement() const;
     void WireChoice();
     void WireCommands();
     void KeepChoice();

@@ -38,7 +38,7 @@ void TryRequest(const ComparisonRequest& request) {
     EXPECT_EQ(again.content->worksheet, request.worksheet) << written.toStdString();
 
     ComparisonInput input = ToInput(request, Date::FromCalendar(2026, 7, 21));
-    EXPECT_TRUE(input.years >= 1 && input.years <= 50);
+    EXPECT_TRUE(input.years >= 1 && input.years <= MostYears);
     constexpr std::size_t MostCompared = 2; // the longest schedules take long
     input.offers.resize(std::min(input.offers.size(), MostCompared));
     const QByteArray result = ToJson(Compare(input));

@@ -30,6 +30,17 @@ public:
     virtual void PaymentRefused() = 0;
 };
 
+/// What is entered for an offer and its worksheet's amount.
+struct OfferValues {
+    Money startingAmount;
+    Percent points;
+    bool financePoints = false;
+    Months term;
+    Rate rate;
+    FrequencyCode frequency;
+    Money actualPayment;
+};
+
 /// One loan offer: its inputs, and the payment, payoff date and interest that follow from them.
 /// It shows no message and does not know its row. Results are computed when read, not cached. The
 /// context must outlive it.
@@ -122,5 +133,9 @@ private:
     Money m_interest;
     QString m_who;
 };
+
+/// An offer with these values. A nonzero rate without a term gives it the default term; the actual
+/// payment is stored however low it is. The context must outlive the offer.
+CLoan MakeOffer(LoanContext& context, const OfferValues& values);
 
 } // namespace quend::calc

@@ -19,7 +19,6 @@ public:
 namespace {
 
 constexpr int Version = 1;
-constexpr int MostYears = 50;
 
 void WriteValue(SheetWriter& writer, const QString& text) { PutText(writer, text.toUtf8()); }
 void WriteValue(SheetWriter& writer, bool flag) { writer.Bool(flag); }

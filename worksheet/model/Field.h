@@ -63,8 +63,8 @@ enum class FieldId {
 /// What a field holds; it decides how the text is read and shown.
 enum class ValueKind {
     Amount,         ///< Money, shown as currency
-    Percent,        ///< a Rate, typed and shown in percent (6.5)
-    Decimal,        ///< points, a Percent
+    Rate,           ///< a Rate, typed and shown in percent (6.5)
+    Percent,        ///< a Percent, such as points, typed and shown as it is
     WholeTerm,      ///< whole months; typed in whole months or whole years
     FractionalTerm, ///< whole months; typed in whole months or in years and parts of years
     LoanType,       ///< a LoanTypeCode, picked from a list
@@ -96,9 +96,8 @@ struct FieldRule {
     bool separatorKey = false; ///< whether the decimal symbol can be typed
 
     constexpr bool IsNumber() const {
-        return kind == ValueKind::Amount || kind == ValueKind::Percent ||
-               kind == ValueKind::Decimal || kind == ValueKind::WholeTerm ||
-               kind == ValueKind::FractionalTerm;
+        return kind == ValueKind::Amount || kind == ValueKind::Rate || kind == ValueKind::Percent ||
+               kind == ValueKind::WholeTerm || kind == ValueKind::FractionalTerm;
     }
 
     constexpr bool IsChoice() const {

@@ -40,7 +40,7 @@ const std::vector<Expected> UpperBands{
     {MonthlyEscrow,       "txtMonthlyEscrow"_l1,       ValueKind::Amount,         Result, 2,       false, " nnnn.nn"_l1},
     {CurLoanAmount,       "txtCurLoanAmount"_l1,       ValueKind::Amount,         Input,  2,       true,  " nnnn.nn"_l1},
     {CurLoanTerm,         "txtCurLoanTerm"_l1,         ValueKind::FractionalTerm, Input,  0,       false, " nnn"_l1},
-    {CurInterestRate,     "txtCurInterestRate"_l1,     ValueKind::Percent,        Input,  3,       true,  " nnnn.nnn"_l1},
+    {CurInterestRate,     "txtCurInterestRate"_l1,     ValueKind::Rate,           Input,  3,       true,  " nnnn.nnn"_l1},
     {CurPaymentFrequency, "cboCurPaymentFrequency"_l1, ValueKind::Frequency,      Input,  0,       false, {}},
     {CurPayment,          "txtCurPayment"_l1,          ValueKind::Amount,         Result, 2,       false, " nnnn.nn"_l1},
     {CurActualPayment,    "txtCurActualPayment"_l1,    ValueKind::Amount,         Input,  2,       true,  " nnnn.nn"_l1},
@@ -54,8 +54,8 @@ const std::vector<Expected> UpperBands{
 
 const std::vector<Expected> OfferRow{
     {FinancePoints,       "chkPoints"_l1,              ValueKind::Flag,           Input,  0,       false, {}},
-    {Points,              "txtPoints"_l1,              ValueKind::Decimal,        Input,  3,       true,  " nnnn.nnn"_l1},
-    {InterestRate,        "txtInterestRate"_l1,        ValueKind::Percent,        Input,  3,       true,  " nnnn.nnn"_l1},
+    {Points,              "txtPoints"_l1,              ValueKind::Percent,        Input,  3,       true,  " nnnn.nnn"_l1},
+    {InterestRate,        "txtInterestRate"_l1,        ValueKind::Rate,           Input,  3,       true,  " nnnn.nnn"_l1},
     {Term,                "txtTerm"_l1,                ValueKind::WholeTerm,      Input,  3,       false, " nnnn.nnn"_l1},
     {Frequency,           "cboFrequency"_l1,           ValueKind::Frequency,      Input,  0,       false, {}},
     {PandI,               "txtPandI"_l1,               ValueKind::Amount,         Result, 2,       false, " nnnn.nn"_l1},

@@ -24,10 +24,6 @@ inline constexpr const char* ActiveAway     = "activeTextAway";     ///< true wh
 
 } // namespace TextProperty
 
-/// The role under which a table's model gives the number of a column's help topic, as the header's
-/// data; 0 for none.
-inline constexpr int HelpTopicRole = 0x0100 + 100; // Qt::UserRole, without its header
-
 /// Applies the texts of the current language to a window and everything in it (controls, menus,
 /// actions), as its text properties say.
 ///

@@ -1,14 +1,9 @@
 #include "HelpTopic.h"
 
-#include "Captions.h"
-
-#include <QAbstractItemModel>
 #include <QAction>
-#include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPoint>
-#include <QTableView>
 #include <QVariant>
 #include <QWidget>
 
@@ -18,40 +13,10 @@ namespace {
 
 int OwnTopicOf(const QObject& object) { return object.property("helpTopic").toInt(); }
 
-int TopicOfColumn(const QAbstractItemModel& model, int column) {
-    return column < 0 ? 0
-                      : model.headerData(column, Qt::Horizontal, language::HelpTopicRole).toInt();
-}
-
-/// The topic of the current cell's column, if the object is a table.
-int TopicOfCurrent(const QObject& object) {
-    const auto* table = qobject_cast<const QTableView*>(&object);
-    return table != nullptr && table->model() != nullptr
-               ? TopicOfColumn(*table->model(), table->currentIndex().column())
-               : 0;
-}
-
-/// The topic of the column at a position of the viewport of a table or of its header.
-int TopicOfColumnAt(const QWidget& widget, QPoint at) {
-    const QObject* const view = widget.parent();
-    if (const auto* header = qobject_cast<const QHeaderView*>(view)) {
-        return header->model() != nullptr
-                   ? TopicOfColumn(*header->model(), header->logicalIndexAt(at))
-                   : 0;
-    }
-    const auto* table = qobject_cast<const QTableView*>(view);
-    return table != nullptr && table->model() != nullptr
-               ? TopicOfColumn(*table->model(), table->columnAt(at.x()))
-               : 0;
-}
-
 } // namespace
 
 int TopicOf(const QObject* object) {
     for (; object; object = object->parent()) {
-        if (const int topic = TopicOfCurrent(*object)) {
-            return topic;
-        }
         if (const int topic = OwnTopicOf(*object)) {
             return topic;
         }
@@ -77,7 +42,7 @@ int TopicAt(const QWidget& widget, QPoint at) {
     if (entry && entry->menu()) {
         return TopicOf(entry->menu());
     }
-    const int topic = entry ? OwnTopicOf(*entry) : TopicOfColumnAt(widget, at);
+    const int topic = entry ? OwnTopicOf(*entry) : 0;
     return topic != 0 ? topic : TopicOf(&widget);
 }
 

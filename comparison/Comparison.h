@@ -11,6 +11,10 @@
 
 namespace quend::comparison {
 
+/// How long the user may expect to keep the loan, in years.
+inline constexpr int LeastYears = 1;
+inline constexpr int MostYears = 50;
+
 /// Which payment of each loan is compared.
 enum class PaymentChoice {
     Intended, ///< the intended one, raised to the required one where it is lower
@@ -47,7 +51,7 @@ struct CurrentLoanInput {
 /// Rates and terms are zero or more.
 struct ComparisonInput {
     Date today{};
-    int years = 5; ///< how long the loan is kept, from 1 to 50
+    int years = 5; ///< how long the loan is kept, LeastYears to MostYears
     PaymentChoice choice = PaymentChoice::Intended;
     Money monthlyPayment{}; ///< principal and interest a month, for PaymentChoice::Monthly
     Money amount{};

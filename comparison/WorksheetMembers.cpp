@@ -19,7 +19,6 @@ public:
 namespace {
 
 constexpr int Version = 1;
-constexpr int MostYears = 50;
 
 void WriteValue(SheetWriter& writer, const QString& text) { PutText(writer, text.toUtf8()); }
 void WriteValue(SheetWriter& writer, bool flag) { writer.Bool(flag); }
@@ -129,7 +128,7 @@ Fault ReadToday(ComparisonRequest& request, const JsonScalar& value) {
 
 Fault ReadYears(ComparisonRequest& request, const JsonScalar& value) {
     int years = 0;
-    const Fault fault = ReadWhole(value, 1, MostYears, years);
+    const Fault fault = ReadWhole(value, LeastYears, MostYears, years);
     if (!fault) {
         request.years = years;
     }

@@ -3,8 +3,6 @@
 #include "CommandTextNumbers.h"
 #include "Language.h"
 
-#include <QLocale>
-
 #include <array>
 
 namespace quend::comparison {
@@ -58,7 +56,7 @@ QString FileErrorText(const FileError& error) {
     case Second::Member:
         return sentence.arg(line, error.member);
     case Second::Bytes:
-        return sentence.arg(line, QLocale().toString(MostBytes));
+        return sentence.arg(line, QString::number(MostBytes));
     case Second::Offers:
         return sentence.arg(line, QString::number(MostOffers));
     case Second::Nothing:

@@ -36,7 +36,7 @@ struct WorksheetInFile {
 struct ComparisonRequest {
     WorksheetInFile worksheet;
     std::optional<Date> today;
-    std::optional<int> years; ///< 1 to 50
+    std::optional<int> years; ///< 1 to MostYears
     std::optional<PaymentChoice> payments;
     Money monthlyPayment; ///< for PaymentChoice::Monthly
 };

@@ -128,7 +128,7 @@ Fault ReadToday(ComparisonRequest& request, const JsonScalar& value) {
 
 Fault ReadYears(ComparisonRequest& request, const JsonScalar& value) {
     int years = 0;
-    const Fault fault = ReadWhole(value, LeastYears, MostYears, years);
+    const Fault fault = ReadWhole(value, 1, MostYears, years);
     if (!fault) {
         request.years = years;
     }

@@ -44,8 +44,7 @@ Error SetFormat(Options& options, const std::string& value) {
 
 Error SetYears(Options& options, const std::string& value) {
     options.years = WholeNumber(value);
-    const bool inRange =
-        options.years && *options.years >= LeastYears && *options.years <= MostYears;
+    const bool inRange = options.years && *options.years >= 1 && *options.years <= MostYears;
     return inRange ? Error() : UsageError{UsageFault::BadYears, value, {}};
 }
 

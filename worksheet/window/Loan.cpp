@@ -90,11 +90,11 @@ void ShowHint(const Ui::Loan& form, const ControlMap& controls, const OfferRows&
 Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
     : settings(std::move(initial)), messages(*world.messages), report(messages),
       controls(ControlsOf(window)),
-      display(controls,
-              {.raised = [this] { notice.Start(); },
-               .refused = [this] { notice.TellRefused(); },
-               .sorted = [this](SortOrder order) { offers.ShowSortOrder(order); },
-               .offerShown = [this, &window] { ShowHint(window.Form(), controls, rows); }}),
+      display(controls, {.raised = [this] { notice.Start(); },
+                         .refused = [this] { notice.TellRefused(); },
+                         .sorted = [this](SortOrder order) { offers.ShowSortOrder(order); },
+                         .offerShown = [this, &window] { ShowHint(window.Form(), controls, rows); },
+                         .changed = [&window] { Q_EMIT window.WorksheetChanged(); }}),
       worksheet(display, {DisplayFormats(world.locale), settings.termInMonths}, world.today),
       columns(*window.m_ui->picHeadings, controls),
       rows({window.m_ui->picScroll, window.m_ui->picCanvas, window.m_ui->vsbLoans}, worksheet,
@@ -185,6 +185,7 @@ void Loan::WireRow(int row, const QWidget* controls) {
     connect(m_parts->controls.ControlOf<QCheckBox>(points), &QCheckBox::clicked, this,
             [this, points] { m_parts->report.Guard([&] { m_parts->handlers.Click(points); }); });
     ApplyRowCaptions(Row{row});
+    Q_EMIT WorksheetChanged();
 }
 
 /// A choice from a list is stored at once, not only when the list is left.
@@ -222,6 +223,7 @@ void Loan::RenewLanguage() {
     ApplyCaptions();
     RefillLists();
     m_parts->size.MeasureAgain();
+    Q_EMIT LanguageChanged();
 }
 
 Worksheet& Loan::GetWorksheet() { return m_parts->worksheet; }
@@ -263,6 +265,12 @@ void Loan::ApplySettings(const Settings& settings) {
         m_parts->size.FitHeight();
     }
     Reenter();
+}
+
+void Loan::KeepComparison(int years, comparison::PaymentChoice payments, Money monthly) {
+    m_parts->settings.compareYears = years;
+    m_parts->settings.comparePayments = payments;
+    m_parts->settings.compareMonthly = monthly;
 }
 
 void Loan::changeEvent(QEvent* event) {

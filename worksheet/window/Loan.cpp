@@ -112,7 +112,7 @@ Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
                 {.commit = [this] { return focus.Commit(); },
                  .renew = [&window] { window.RenewLanguage(); }},
                 report),
-      resultKeys(window, controls, rows) {}
+      resultKeys(window, controls, rows), payoffAdvice(worksheet, controls, report) {}
 
 Loan::Loan(const World& world, Settings settings) : m_ui(FormOf(*this)) {
     m_parts = std::make_unique<Parts>(*this, world, std::move(settings));
@@ -162,6 +162,7 @@ void Loan::WireFields() {
     m_parts->focus.Watch(*this);
     m_parts->resultKeys.Watch(*this);
     m_parts->wholeText.Watch(*this);
+    m_parts->payoffAdvice.Watch({FieldId::CurPayoffDate});
     for (const FieldRule& rule : LoanFields()) {
         WireChoice({rule.id});
     }
@@ -176,6 +177,7 @@ void Loan::WireRow(int row, const QWidget* controls) {
     m_parts->focus.Watch(*controls);
     m_parts->resultKeys.Watch(*controls);
     m_parts->wholeText.Watch(*controls);
+    m_parts->payoffAdvice.Watch({FieldId::PayoffDate, Row{row}});
     m_parts->dragging.Watch(Row{row});
     m_parts->clipboard.Watch(Row{row});
     WireChoice({FieldId::Frequency, Row{row}});
@@ -237,6 +239,10 @@ const FailureReport& Loan::Report() const { return m_parts->report; }
 const Settings& Loan::GetSettings() const { return m_parts->settings; }
 
 void Loan::OnUnload(std::function<bool()> mayClose) { m_parts->mayClose = std::move(mayClose); }
+
+void Loan::OnNeverEnding(std::function<QString(Row)> advice) {
+    m_parts->payoffAdvice.Ask(std::move(advice));
+}
 
 bool Loan::Commit() { return m_parts->focus.Commit(); }
 

@@ -72,6 +72,10 @@ public:
     /// Called before the window closes, once the edited field is stored; false keeps it open.
     void OnUnload(std::function<bool()> mayClose);
 
+    /// Asked for the tooltip of a payoff date that is empty because the payment never repays the
+    /// loan: of an offer, or, for Field::NoRow, of the loan held today. An empty text: no tooltip.
+    void OnNeverEnding(std::function<QString(Row)> advice);
+
 Q_SIGNALS:
     /// A value of the worksheet, their unit, or the number or order of the rows may have changed;
     /// emitted many times for one edit, in the midst of it. Read the worksheet afterwards, once.

@@ -2,27 +2,17 @@
 
 #include "Comparison.h"
 #include "JsonReader.h"
+#include "ValueTexts.h"
 
-#include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 
 #include <cmath>
-#include <optional>
 
 namespace quend::comparison {
 
-// The values of a file: their texts, and how they are read from JSON and written to it. A value
+// The values of a file: how they are read from JSON and written to it. A value
 // that is read is changed only without a fault.
-
-/// With four decimals.
-QByteArray AmountText(Money amount);
-/// An optional minus, digits, and optionally a point with one to four digits; exact. None for any
-/// other text, and beyond the range of money.
-std::optional<Money> AmountFromText(QByteArrayView text);
-
-/// As an ISO date.
-QByteArray DateText(Date date);
 
 Fault ReadValue(const JsonScalar& value, QString& text);
 Fault ReadValue(const JsonScalar& value, bool& flag);

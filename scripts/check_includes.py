@@ -28,8 +28,8 @@ _LAYERS: dict[str, tuple[str, ...]] = {
     "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
                          "storage/registry"),
-    "storage":          ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
-                         "storage/registry"),
+    "storage":          ("foundation", "language", "calc", "comparison", "worksheet/model",
+                         "worksheet/window", "storage/registry"),
 }
 
 # Creates and connects everything, so it may use all.

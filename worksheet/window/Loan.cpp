@@ -75,11 +75,11 @@ void ShowHint(const Ui::Loan& form, const ControlMap& controls, const OfferRows&
 Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
     : settings(std::move(initial)), messages(*world.messages), report(messages),
       controls(ControlsOf(window)),
-      display(controls,
-              {.raised = [this] { notice.Start(); },
-               .refused = [this] { notice.TellRefused(); },
-               .sorted = [this](SortOrder order) { offers.ShowSortOrder(order); },
-               .offerShown = [this, &window] { ShowHint(window.Form(), controls, rows); }}),
+      display(controls, {.raised = [this] { notice.Start(); },
+                         .refused = [this] { notice.TellRefused(); },
+                         .sorted = [this](SortOrder order) { offers.ShowSortOrder(order); },
+                         .offerShown = [this, &window] { ShowHint(window.Form(), controls, rows); },
+                         .changed = [&window] { Q_EMIT window.WorksheetChanged(); }}),
       worksheet(display, {DisplayFormats(world.locale), settings.termInMonths}, world.today),
       columns(*window.m_ui->picHeadings, controls),
       rows({window.m_ui->picScroll, window.m_ui->picCanvas, window.m_ui->vsbLoans}, worksheet,
@@ -97,7 +97,7 @@ Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
                 {.commit = [this] { return focus.Commit(); },
                  .renew = [&window] { window.RenewLanguage(); }},
                 report),
-      resultKeys(window, controls, rows) {}
+      resultKeys(window, controls, rows), payoffAdvice(worksheet, controls, report) {}
 
 Loan::Loan(const World& world, Settings settings) : m_ui(FormOf(*this)) {
     m_parts = std::make_unique<Parts>(*this, world, std::move(settings));
@@ -147,6 +147,7 @@ void Loan::WireFields() {
     m_parts->focus.Watch(*this);
     m_parts->resultKeys.Watch(*this);
     m_parts->wholeText.Watch(*this);
+    m_parts->payoffAdvice.Watch({FieldId::CurPayoffDate});
     for (const FieldRule& rule : LoanFields()) {
         WireChoice({rule.id});
     }
@@ -161,6 +162,7 @@ void Loan::WireRow(int row, const QWidget* controls) {
     m_parts->focus.Watch(*controls);
     m_parts->resultKeys.Watch(*controls);
     m_parts->wholeText.Watch(*controls);
+    m_parts->payoffAdvice.Watch({FieldId::PayoffDate, Row{row}});
     m_parts->dragging.Watch(Row{row});
     m_parts->clipboard.Watch(Row{row});
     WireChoice({FieldId::Frequency, Row{row}});
@@ -170,6 +172,7 @@ void Loan::WireRow(int row, const QWidget* controls) {
     connect(m_parts->controls.ControlOf<QCheckBox>(points), &QCheckBox::clicked, this,
             [this, points] { m_parts->report.Guard([&] { m_parts->handlers.Click(points); }); });
     ApplyRowCaptions(Row{row});
+    Q_EMIT WorksheetChanged();
 }
 
 /// A choice from a list is stored at once, not only when the list is left.
@@ -207,6 +210,7 @@ void Loan::RenewLanguage() {
     ApplyCaptions();
     RefillLists();
     m_parts->size.MeasureAgain();
+    Q_EMIT LanguageChanged();
 }
 
 Worksheet& Loan::GetWorksheet() { return m_parts->worksheet; }
@@ -220,6 +224,10 @@ const FailureReport& Loan::Report() const { return m_parts->report; }
 const Settings& Loan::GetSettings() const { return m_parts->settings; }
 
 void Loan::OnUnload(std::function<bool()> mayClose) { m_parts->mayClose = std::move(mayClose); }
+
+void Loan::OnNeverEnding(std::function<QString(Row)> advice) {
+    m_parts->payoffAdvice.Ask(std::move(advice));
+}
 
 bool Loan::Commit() { return m_parts->focus.Commit(); }
 
@@ -248,6 +256,12 @@ void Loan::ApplySettings(const Settings& settings) {
         m_parts->size.FitHeight();
     }
     Reenter();
+}
+
+void Loan::KeepComparison(int years, comparison::PaymentChoice payments, Money monthly) {
+    m_parts->settings.compareYears = years;
+    m_parts->settings.comparePayments = payments;
+    m_parts->settings.compareMonthly = monthly;
 }
 
 void Loan::changeEvent(QEvent* event) {

@@ -3,6 +3,7 @@
 #include "FailureReport.h"
 #include "Loan.h"
 #include "LoanForm.h"
+#include "WhyLeftOut.h"
 #include "Worksheet.h"
 #include "frmCompare.h"
 #include "frmFindPayment.h"
@@ -18,6 +19,13 @@ namespace {
 /// The offer at a place, as a row of the main window.
 Row RowAt(const Worksheet& sheet, int place) {
     return sheet.RowOfOffer(OfferIndex{static_cast<std::size_t>(place) - 1});
+}
+
+/// For a question beside the comparison window, whose worksheet must change only when it shows it.
+ComparedWorksheet ReadOnce(Loan& window) {
+    ComparisonReader reader(window);
+    reader.Read();
+    return reader.Compared();
 }
 
 } // namespace
@@ -36,10 +44,11 @@ CompareCommands::CompareCommands(Loan& window, CompareWorld world)
     connect(&m_later, &QTimer::timeout, this,
             [this] { m_window->Report().Guard([this] { ShowChanges(); }); });
     connect(&window, &Loan::WorksheetChanged, this, &CompareCommands::FollowWorksheet);
+    window.OnNeverEnding([this](Row row) { return Enough(row); });
     connect(&window, &Loan::LanguageChanged, this, &CompareCommands::FollowLanguage);
 }
 
-CompareCommands::~CompareCommands() = default;
+CompareCommands::~CompareCommands() { m_window->OnNeverEnding({}); }
 
 void CompareCommands::mnuToolsCompare_Click() {
     m_reader.Read();
@@ -54,8 +63,7 @@ void CompareCommands::mnuToolsCompare_Click() {
 }
 
 void CompareCommands::mnuToolsFindPayment_Click() {
-    m_reader.Read();
-    const auto places = PlacesToAskAbout(m_reader.Compared());
+    const auto places = PlacesToAskAbout(ReadOnce(*m_window));
     FindPayment(places.empty() ? CurrentLoanPlace : places.front(), *m_window);
 }
 
@@ -64,9 +72,9 @@ void CompareCommands::FindPayment(int place, QWidget& parent) {
     if (!m_window->Commit()) {
         return;
     }
-    m_reader.Read();
     Worksheet& sheet = m_window->GetWorksheet();
-    frmFindPayment dialog(m_reader.Compared(), sheet, place, m_window->GetMessages(), &parent);
+    const ComparedWorksheet compared = ReadOnce(*m_window);
+    frmFindPayment dialog(compared, sheet, place, m_window->GetMessages(), &parent);
     if (dialog.exec() != QDialog::Accepted || !dialog.Answer().value) {
         return;
     }
@@ -75,6 +83,13 @@ void CompareCommands::FindPayment(int place, QWidget& parent) {
     sheet.Store(inRow ? Field{field, RowAt(sheet, dialog.Place())} : Field{field},
                 *dialog.Answer().value);
     m_window->Reenter();
+}
+
+QString CompareCommands::Enough(Row row) {
+    const Worksheet& sheet = m_window->GetWorksheet();
+    const int place = row == Field::NoRow ? CurrentLoanPlace
+                                          : static_cast<int>(sheet.OfferIndexOfRow(row).value) + 1;
+    return EnoughFor(ReadOnce(*m_window), place, sheet.Texts().Formats());
 }
 
 void CompareCommands::FollowWorksheet() {

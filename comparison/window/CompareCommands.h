@@ -2,6 +2,7 @@
 
 #include "CompareWorld.h"
 #include "ComparisonReader.h"
+#include "Field.h"
 
 #include <QObject>
 #include <QTimer>
@@ -31,6 +32,7 @@ private:
     void mnuToolsCompare_Click();
     void mnuToolsFindPayment_Click();
 
+    QString Enough(Row row);
     void FollowWorksheet();
     void FollowLanguage();
     void ShowChanges();

@@ -231,5 +231,14 @@ inline constexpr int DiskFull = 946;       ///< %1: the file
 inline constexpr int MayNotWrite = 947;    ///< %1: the file
 inline constexpr int FolderMissing = 948;  ///< %1: the file
 inline constexpr int FileNotWritten = 949; ///< %1: the file, %2: the reason in the system's words
+// Printing and saving what other windows than the main one show.
+inline constexpr int PrintingDocument = 950; ///< %1: the title of the document
+inline constexpr int PageTooSmall = 951;
+inline constexpr int StillPrinting = 952;
+inline constexpr int FileNoFolder = 953;   ///< %1: the path, as of all that follow
+inline constexpr int FileNotAllowed = 954;
+inline constexpr int FileIsNone = 955;
+inline constexpr int FileDiskFull = 956;
+inline constexpr int FileNotSaved = 957; ///< the system's reason follows
 
 } // namespace quend::language::TextNumber

@@ -1,10 +1,11 @@
 #pragma once
 
+// First, because moc 6.4 cannot read <concepts> as the first header of the standard library.
+#include <QObject>
+
 #include "CompareNames.h"
 #include "DisplayFormats.h"
 #include "Money.h"
-
-#include <QObject>
 
 #include <functional>
 #include <optional>

@@ -1,10 +1,12 @@
 #pragma once
 
+// First, because moc 6.4 cannot read <concepts> as the first header of the standard library.
+#include <QObject>
+
 #include "CompareWorld.h"
 #include "ComparisonReader.h"
 #include "Field.h"
 
-#include <QObject>
 #include <QTimer>
 
 #include <memory>

@@ -1,10 +1,12 @@
 #pragma once
 
+// First, because moc 6.4 cannot read <concepts> as the first header of the standard library.
+#include <QWidget>
+
 #include "ComparedWorksheet.h"
 #include "Drawing.h"
 
 #include <QString>
-#include <QWidget>
 
 #include <memory>
 

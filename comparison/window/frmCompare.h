@@ -1,9 +1,10 @@
 #pragma once
 
+// First, because moc 6.4 cannot read <concepts> as the first header of the standard library.
+#include <QWidget>
+
 #include "CompareWorld.h"
 #include "ComparedWorksheet.h"
-
-#include <QWidget>
 
 #include <array>
 #include <memory>

@@ -1,9 +1,10 @@
 #pragma once
 
+// First, because moc 6.4 cannot read <concepts> as the first header of the standard library.
+#include <QDialog>
+
 #include "AmountEntry.h"
 #include "FindPayment.h"
-
-#include <QDialog>
 
 #include <memory>
 #include <optional>

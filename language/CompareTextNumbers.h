@@ -240,5 +240,8 @@ inline constexpr int FileNotAllowed = 954;
 inline constexpr int FileIsNone = 955;
 inline constexpr int FileDiskFull = 956;
 inline constexpr int FileNotSaved = 957; ///< the system's reason follows
+inline constexpr int CompareNoCostsEntered = 1051;
+inline constexpr int CompareUpfrontNothing = 1052;
+inline constexpr int CompareAprEven = 1053; ///< as Apr, without a last payment
 
 } // namespace quend::language::TextNumber

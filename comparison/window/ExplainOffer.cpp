@@ -68,7 +68,8 @@ QString PaymentCompared(const ExplainedOffer& offer) {
 QString Upfront(const ExplainedOffer& offer) {
     const Money costs = offer.entered.costs;
     if (offer.entered.points.IsZero()) {
-        return offer.say(CompareUpfrontCosts, offer.name, costs);
+        return costs.IsZero() ? offer.say(CompareUpfrontNothing, offer.name)
+                              : offer.say(CompareUpfrontCosts, offer.name, costs);
     }
     if (offer.entered.pointsFinanced) {
         return offer.say(CompareUpfrontFinanced, offer.name, costs, offer.PointsCost());

@@ -59,15 +59,17 @@ QString ExplainApr(const ExplainedOffer& offer) {
     const Rate apr = *offer.figures.apr;
     const Money each = rows->front().payment;
     const Money last = rows->back().payment;
-    const std::int64_t full = rows->back().number - 1;
-    switch (full) {
-    case 0:
-        return offer.say(CompareAprOfOne, offer.name, received, last, apr);
-    case 1:
-        return offer.say(CompareAprOfTwo, offer.name, received, each, last, apr);
-    default:
-        return offer.say(CompareApr, offer.name, received, full, each, last, apr);
+    // A remainder of less than half a cent is no payment.
+    const bool isEven = last.RoundedToCents().IsZero() || last == each;
+    const std::int64_t equal = rows->back().number - (last == each ? 0 : 1);
+    if (isEven && equal > 1) {
+        return offer.say(CompareAprEven, offer.name, received, equal, each, apr);
     }
+    if (isEven || equal == 0) {
+        return offer.say(CompareAprOfOne, offer.name, received, each, apr);
+    }
+    return equal == 1 ? offer.say(CompareAprOfTwo, offer.name, received, each, last, apr)
+                      : offer.say(CompareApr, offer.name, received, equal, each, last, apr);
 }
 
 namespace {

@@ -26,7 +26,8 @@ EnoughPayments EnoughPaymentsFor(const ComparedWorksheet& worksheet, int place,
                                  const DisplayFormats& formats) {
     const ComparisonInput& input = worksheet.input;
     EnoughPayments enough{.atAll = LeastPaymentBy(input, place, Date::Last()),
-                          .byHorizon = LeastPaymentBy(input, place, HorizonOf(input)),
+                          .byHorizon =
+                              LeastPaymentBy(input, place, HorizonDay(input.today, input.years)),
                           .kept = Duration(input.years * MonthsPerYear, formats)};
     if (enough.byHorizon == enough.atAll) {
         enough.byHorizon.reset();

@@ -35,6 +35,20 @@ inline constexpr int ExportTitle = 1261;
 inline constexpr int CompareSelectFigure = 1263;
 inline constexpr int CostOverTimeTitle = 1264;
 inline constexpr int BalanceOverTimeTitle = 1265;
+// Durations and stretches of months; the number of months of each is a duration.
+inline constexpr int CompareMonth = 810;
+inline constexpr int CompareMonths = 811; ///< %1: how many, not used for one
+inline constexpr int CompareYear = 812;
+inline constexpr int CompareYears = 813;          ///< %1: how many, not used for one
+inline constexpr int CompareYearsAndMonths = 814; ///< %1: the years, %2: the months
+inline constexpr int CompareFromTheStart = 815;
+inline constexpr int CompareFromOn = 816;
+inline constexpr int CompareFromTo = 817;
+inline constexpr int CompareUpTo = 818;
+inline constexpr int CompareOnlyAt = 819;
+inline constexpr int CompareNever = 820;
+inline constexpr int CompareNextStretch = 821; ///< %1: one or more stretches, %2: another
+
 // The chart and its table. In sentences %1 is the month, where it is named, then the loan, then the
 // amount; those of the loan held today do not name it.
 inline constexpr int ChartCostSoFar = 870;
@@ -56,19 +70,6 @@ inline constexpr int ChartCurrentCostToday = 885;
 inline constexpr int ChartCurrentOwedToday = 886;
 inline constexpr int ChartWithoutLines = 887;
 inline constexpr int ChartKeys = 888; ///< for screen readers, until something is read
-// Durations and stretches of months; the number of months of each is a duration.
-inline constexpr int CompareMonth = 810;
-inline constexpr int CompareMonths = 811; ///< %1: how many, not used for one
-inline constexpr int CompareYear = 812;
-inline constexpr int CompareYears = 813;          ///< %1: how many, not used for one
-inline constexpr int CompareYearsAndMonths = 814; ///< %1: the years, %2: the months
-inline constexpr int CompareFromTheStart = 815;
-inline constexpr int CompareFromOn = 816;
-inline constexpr int CompareFromTo = 817;
-inline constexpr int CompareUpTo = 818;
-inline constexpr int CompareOnlyAt = 819;
-inline constexpr int CompareNever = 820;
-inline constexpr int CompareNextStretch = 821; ///< %1: one or more stretches, %2: another
 
 // The answer. A kept time is a duration; amounts are costs until then, or how much less or more.
 inline constexpr int CompareOnlyOffer = 822;  ///< %1: kept, %2: offer, %3: cost

@@ -25,6 +25,7 @@ public:
         m_painter.save();
         m_painter.setClipRect(layout.place, Qt::IntersectClip);
         m_painter.setRenderHint(QPainter::Antialiasing);
+        m_painter.setLayoutDirection(Qt::LeftToRight); // or texts would change sides
         m_painter.setPen(look.text);
         m_painter.setBrush(Qt::NoBrush);
     }

@@ -14,12 +14,18 @@ namespace {
 constexpr std::int64_t CountsPerUnit = 10'000;
 constexpr std::int64_t CountsPerCent = 100;
 constexpr std::int64_t GreatestStep = 5'000'000'000'000'000'000;
-constexpr std::array MonthSteps{1, 2, 3, 6, 12, 24, 60, 120, 240};
+constexpr std::array MonthSteps{1, 2, 3, 6, 12, 24, 60, 120, 240, 600, 1200};
 
 /// The first and the last tick, counted in steps from zero.
 struct TickRange {
     std::int64_t first;
     std::int64_t last;
+
+    static double EndAt(std::int64_t tick, std::int64_t step) {
+        return static_cast<double>(tick) * static_cast<double>(step);
+    }
+    /// Of great amounts a double does not distinguish cents.
+    bool HasLength(std::int64_t step) const { return EndAt(first, step) < EndAt(last, step); }
 };
 
 std::int64_t RoundedDown(std::int64_t count, std::int64_t step) {
@@ -58,12 +64,12 @@ AmountAxis AxisOfAmounts(Money least, Money greatest, int mostTicks) {
     const int most = std::max(mostTicks, fewest);
     std::int64_t step = CountsPerCent;
     TickRange range = TicksAround(least, greatest, step);
-    while (range.last - range.first >= most && step < GreatestStep) {
+    while ((range.last - range.first >= most || !range.HasLength(step)) && step < GreatestStep) {
         step = NextStep(step);
         range = TicksAround(least, greatest, step);
     }
-    AmountAxis axis{.low = static_cast<double>(range.first) * static_cast<double>(step),
-                    .high = static_cast<double>(range.last) * static_cast<double>(step),
+    AmountAxis axis{.low = TickRange::EndAt(range.first, step),
+                    .high = TickRange::EndAt(range.last, step),
                     .step = Money::FromTenThousandths(step),
                     .ticks = {}};
     for (std::int64_t tick = range.first; tick <= range.last; ++tick) {

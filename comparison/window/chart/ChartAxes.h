@@ -38,7 +38,7 @@ struct MonthAxis {
     int CountAt(int tick) const;
 };
 
-/// With the least step that needs no more ticks; of 20 years where none does.
+/// With the least step that needs no more ticks; of 100 years where none does.
 MonthAxis AxisOfMonths(int months, int mostTicks);
 
 } // namespace quend::compare

@@ -126,7 +126,7 @@ void ChartLayouter::PlaceAmounts() {
     }
 }
 
-/// Room for the names right of the plot, and a font of which all of them fit below one another.
+/// Space for the names right of the plot, and a font of which all of them fit below one another.
 void ChartLayouter::ReserveLabels() {
     const auto count = static_cast<double>(m_data.lines.size());
     m_layout.labelFont = ShrunkFont(m_layout.font, m_device, [&](const QFontMetricsF& metrics) {
@@ -194,7 +194,7 @@ void ChartLayouter::PlaceCurves() {
 }
 
 void ChartLayouter::PlaceLabels() {
-    constexpr double spacing = 1.15; // of the labels where there is room
+    constexpr double spacing = 1.15; // of the labels where there is space
     const double lines = Metrics(m_layout.labelFont).height();
     const double height = std::min(lines * spacing, m_layout.place.height() /
                                                         static_cast<double>(m_data.lines.size()));

@@ -28,8 +28,8 @@ double ContrastOf(const QColor& one, const QColor& other);
 /// What lines and marks need.
 inline constexpr double LeastContrast = 3;
 
-/// The pen of a loan's line. Dashes and width alone tell the loan held today and sixteen offers
-/// apart; further offers repeat them. `unit` is the width of a thin grid line.
+/// The pen of a loan's line. Dashes and width alone distinguish the loan held today and sixteen
+/// offers; further offers repeat them. `unit` is the width of a thin grid line.
 QPen PenOfLine(const ChartLook& look, int place, double unit);
 
 } // namespace quend::compare

@@ -93,7 +93,7 @@ int ReadingLayouter::HiddenBy(const QRectF& box) const {
     return hidden;
 }
 
-/// Beside the month that is read if there is room, at the top, the middle or the bottom.
+/// Beside the month that is read if there is space, at the top, the middle or the bottom.
 QRectF ReadingLayouter::PlaceOf(const QSizeF& size) const {
     const QRectF& place = m_layout.place;
     const QRectF& plot = m_layout.plot;

@@ -18,7 +18,7 @@ namespace quend::compare {
 /// What is read, in months after today.
 struct ChartMark {
     int month = 0;
-    int chosen = -1; ///< index of the line that stands out; none: -1
+    int chosen = -1; ///< index of the line that is highlighted; none: -1
 
     friend bool operator==(const ChartMark&, const ChartMark&) = default;
 };

@@ -71,7 +71,7 @@ const ChartLayout& ChartWidget::Layout() const {
 
 ChartLook ChartWidget::Look() const { return LookOfScreen(palette(), font()); }
 
-/// Room for seventeen names of small type, and for the axes.
+/// Fits seventeen names of small type, and the axes.
 QSize ChartWidget::minimumSizeHint() const {
     constexpr int letters = 36;
     constexpr int lines = 12;
@@ -90,6 +90,7 @@ void ChartWidget::paintEvent(QPaintEvent* /*event*/) {
     if (hasFocus()) {
         QStyleOptionFocusRect frame;
         frame.initFrom(this);
+        frame.state |= QStyle::State_KeyboardFocusChange; // after a click the keys work, too
         frame.backgroundColor = look.background;
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
     }
@@ -140,6 +141,9 @@ void ChartWidget::mousePressEvent(QMouseEvent* event) {
 }
 
 void ChartWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (m_drag && !event->buttons().testFlag(Qt::LeftButton)) {
+        EndDrag(); // released where the widget could not see it
+    }
     if (m_drag) {
         const double month = m_drag->scale.MonthAt(event->position().x() - m_drag->distance);
         const double years = std::clamp(month / MonthsPerYear, 1.0 * FewestYears, 1.0 * MostYears);
@@ -234,7 +238,11 @@ bool ChartWidget::MoveBy(const QKeyEvent& event) {
     switch (event.key()) {
     case Qt::Key_Left:
     case Qt::Key_Right:
-        byYears ? SetYears(m_data.years + direction) : ReadMonth(month + direction * months);
+        if (byYears) {
+            SetYears(m_data.years + direction);
+        } else {
+            ReadMonth(month + direction * months);
+        }
         return true;
     case Qt::Key_Up:
         ReadLine(1);

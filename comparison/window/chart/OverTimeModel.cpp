@@ -50,7 +50,7 @@ int OverTimeModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant OverTimeModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    if (!index.isValid()) {
         return {};
     }
     const ChartLine& line = m_data.lines[static_cast<std::size_t>(index.column())];

@@ -9,33 +9,7 @@ inline constexpr int CompareCurrentLoan = 800;
 inline constexpr int CompareOffer = 801;    ///< %1: the place of an offer without a lender
 inline constexpr int CompareNamesake = 802; ///< %1: the lender, %2: the place of the offer
 
-// The window, and finding a payment.
-inline constexpr int HorizonYear = 1240;
-inline constexpr int HorizonYears = 1241;
-inline constexpr int CompareTitle = 1242; ///< %1: the name of the worksheet
-inline constexpr int CompareTitleUnnamed = 1243;
-inline constexpr int CompareLeftOut = 1244; ///< One loan a line follows.
-inline constexpr int ScheduleFromToday = 1245;
-inline constexpr int ScheduleFromNextPayment = 1246;
-inline constexpr int ScheduleOfNone = 1247;
-inline constexpr int ScheduleTitle = 1248;    ///< %1: the loan
-inline constexpr int PaymentEnds = 1249;      ///< %1: the payment, %2: the loan, %3: a date
-inline constexpr int NoPaymentEnds = 1250;    ///< %1: the loan, %2: a date
-inline constexpr int AmountAfforded = 1251;   ///< %1: the payment, %2: the offer, %3: the amount
-inline constexpr int NoAmountAfforded = 1252; ///< %1: the payment, %2: the offer
-inline constexpr int RateNeeded = 1253;       ///< %1: the payment, %2: the offer, %3: the rate
-inline constexpr int NoRateNeeded = 1254;     ///< %1: the payment, %2: the offer
-inline constexpr int EnterAPayment = 1255;
-inline constexpr int EnterADate = 1256;
-inline constexpr int NoLoanToAskAbout = 1257;
-inline constexpr int ExportSemicolons = 1258;
-inline constexpr int ExportCommas = 1259;
-inline constexpr int ExportPdf = 1260;
-inline constexpr int ExportTitle = 1261;
-inline constexpr int CompareSelectFigure = 1263;
-inline constexpr int CostOverTimeTitle = 1264;
-inline constexpr int BalanceOverTimeTitle = 1265;
-// Durations and stretches of months; the number of months of each is a duration.
+// What the comparison says in words.
 inline constexpr int CompareMonth = 810;
 inline constexpr int CompareMonths = 811; ///< %1: how many, not used for one
 inline constexpr int CompareYear = 812;
@@ -48,9 +22,50 @@ inline constexpr int CompareUpTo = 818;
 inline constexpr int CompareOnlyAt = 819;
 inline constexpr int CompareNever = 820;
 inline constexpr int CompareNextStretch = 821; ///< %1: one or more stretches, %2: another
+inline constexpr int CompareOnlyOffer = 822;   ///< %1: kept, %2: offer, %3: cost
+inline constexpr int CompareLeast = 823;       ///< as above, %4: how much less than %5
+inline constexpr int CompareLeastTie = 824;    ///< as above, %4: the other offer
+inline constexpr int CompareLeastOfAll = 825; ///< as Least, %6: how much less than the current loan
+inline constexpr int CompareCurrentAsMuch = 826; ///< follows one of those above
+inline constexpr int CompareCurrentMore = 827;   ///< follows one of those above; %1: how much more
+inline constexpr int CompareCurrentLeast = 828;  ///< %1: kept, %2: cost, %3: how much less than %4
+inline constexpr int CompareCurrentLess = 829;   ///< the same where there is one offer
+inline constexpr int CompareOffersLeast = 830;   ///< %1: offer, %2: cost, %3: how much less than %4
+inline constexpr int CompareOffersTie = 831;     ///< %1: offer, %2: cost, %3: the other offer
+inline constexpr int CompareOfferCosts = 832;    ///< %1: offer, %2: cost
+inline constexpr int CompareCurrentAlone = 833;  ///< %1: kept, %2: cost
+inline constexpr int CompareEnterAmount = 834;
+inline constexpr int CompareEnterOffers = 835;
+inline constexpr int CompareNoneComplete = 836;
+inline constexpr int CompareCheapestUpTo = 837;
+inline constexpr int CompareCheapestBetween = 838;
+inline constexpr int CompareCheapestFromOn = 839;
+inline constexpr int CompareCheapestAt = 840;
+inline constexpr int CompareHardlyMore = 841;        ///< %1: offer
+inline constexpr int CompareNoMoreThanCurrent = 842; ///< %1: offer, %2: the stretches
+inline constexpr int CompareAlwaysMore = 843;        ///< %1: offer
+inline constexpr int CompareAlwaysLess = 844;        ///< %1: offer
+inline constexpr int CompareBorrowMore = 845;        ///< %1: how much more
+inline constexpr int CompareBorrowLess = 846;        ///< %1: how much less
+inline constexpr int CompareAccruesFrom = 847;       ///< %1: the day, %2: that of the next payment
+inline constexpr int CompareNextPaymentPassed = 848; ///< %1: the day
+inline constexpr int ComparePaysMore = 849;          ///< %1: offer, %2: amount
+inline constexpr int CompareNoAmount = 850;
+inline constexpr int CompareNoRate = 851; ///< %2: a rate of zero
+inline constexpr int CompareNoFrequency = 852;
+inline constexpr int CompareNoTerm = 853;
+inline constexpr int CompareNoPayment = 854;
+inline constexpr int CompareTooLarge = 855;
+inline constexpr int CompareNeverEnds = 856;
+inline constexpr int CompareNeverEndsEnough = 857;    ///< %2: payment
+inline constexpr int CompareNeverEndsEnoughFor = 858; ///< %2: payment, %3: payment by %4
+inline constexpr int CompareNoBalance = 859;
+inline constexpr int CompareNoActualPayment = 860;
+inline constexpr int CompareNoActualFrequency = 861;
+inline constexpr int CompareEnough = 862;    ///< %1: payment
+inline constexpr int CompareEnoughFor = 863; ///< %1: payment, %2: payment by %3
 
-// The chart and its table. In sentences %1 is the month, where it is named, then the loan, then the
-// amount; those of the loan held today do not name it.
+// The chart.
 inline constexpr int ChartCostSoFar = 870;
 inline constexpr int ChartBalance = 871;
 inline constexpr int ChartMonthsAxis = 872;
@@ -71,57 +86,69 @@ inline constexpr int ChartCurrentOwedToday = 886;
 inline constexpr int ChartWithoutLines = 887;
 inline constexpr int ChartKeys = 888; ///< for screen readers, until something is read
 
-// The answer. A kept time is a duration; amounts are costs until then, or how much less or more.
-inline constexpr int CompareOnlyOffer = 822;  ///< %1: kept, %2: offer, %3: cost
-inline constexpr int CompareLeast = 823;      ///< as above, %4: how much less than %5
-inline constexpr int CompareLeastTie = 824;   ///< as above, %4: the other offer
-inline constexpr int CompareLeastOfAll = 825; ///< as Least, %6: how much less than the current loan
-inline constexpr int CompareCurrentAsMuch = 826; ///< follows one of those above
-inline constexpr int CompareCurrentMore = 827;   ///< follows one of those above; %1: how much more
-inline constexpr int CompareCurrentLeast = 828;  ///< %1: kept, %2: cost, %3: how much less than %4
-inline constexpr int CompareCurrentLess = 829;   ///< the same where there is one offer
-inline constexpr int CompareOffersLeast = 830;   ///< %1: offer, %2: cost, %3: how much less than %4
-inline constexpr int CompareOffersTie = 831;     ///< %1: offer, %2: cost, %3: the other offer
-inline constexpr int CompareOfferCosts = 832;    ///< %1: offer, %2: cost
-inline constexpr int CompareCurrentAlone = 833;  ///< %1: kept, %2: cost
-inline constexpr int CompareEnterAmount = 834;
-inline constexpr int CompareEnterOffers = 835;
-inline constexpr int CompareNoneComplete = 836;
+// The tables.
+inline constexpr int HeadLender = 900;
+inline constexpr int HeadMonthlyEquivalent = 901;
+inline constexpr int HeadPayment = 902;
+inline constexpr int HeadUpfront = 903;
+inline constexpr int HeadCosts = 904;
+inline constexpr int HeadApr = 905;
+inline constexpr int HeadEffectiveRate = 906;
+inline constexpr int HeadCostByYears = 907; ///< %1: how many years, not used for one
+inline constexpr int HeadBalanceAtHorizon = 908;
+inline constexpr int HeadTotalCost = 909;
+inline constexpr int HeadPayoffDate = 910;
+inline constexpr int HeadInterestSaved = 911;
+inline constexpr int HeadPaymentsSaved = 912;
+inline constexpr int HeadCheaper = 913;
+inline constexpr int HeadRateToMatch = 914;
+inline constexpr int HeadPaymentForHorizon = 915;
+inline constexpr int HeadCostByYear = 916;
+inline constexpr int ExplainMonthlyEquivalent = 917;
+inline constexpr int ExplainPaymentCompared = 918;
+inline constexpr int ExplainUpfront = 919;
+inline constexpr int ExplainCosts = 920;
+inline constexpr int ExplainApr = 921;
+inline constexpr int ExplainEffectiveRate = 922;
+inline constexpr int ExplainCostByHorizon = 923;
+inline constexpr int ExplainBalanceAtHorizon = 924;
+inline constexpr int ExplainTotalCost = 925;
+inline constexpr int ExplainPayoffDate = 926;
+inline constexpr int ExplainInterestSaved = 927;
+inline constexpr int ExplainPaymentsSaved = 928;
+inline constexpr int ExplainCheaper = 929;
+inline constexpr int ExplainRateToMatch = 930;
+inline constexpr int ExplainPaymentForHorizon = 931;
+inline constexpr int HeadNumber = 932;
+inline constexpr int HeadYear = 933;
+inline constexpr int HeadDate = 934;
+inline constexpr int HeadInterest = 935;
+inline constexpr int HeadPrincipal = 936;
+inline constexpr int HeadEscrow = 937;
+inline constexpr int HeadBalance = 938;
+inline constexpr int HeadInterestSoFar = 939;
+inline constexpr int MarkedBest = 940; ///< %1: the value
+inline constexpr int SpokenBest = 941; ///< %1: the value
+inline constexpr int SortByColumn = 942;
+inline constexpr int MoveColumnLeft = 943;
+inline constexpr int MoveColumnRight = 944;
+inline constexpr int UsualColumns = 945;
+inline constexpr int DiskFull = 946;       ///< %1: the file
+inline constexpr int MayNotWrite = 947;    ///< %1: the file
+inline constexpr int FolderMissing = 948;  ///< %1: the file
+inline constexpr int FileNotWritten = 949; ///< %1: the file, %2: the reason in the system's words
 
-// Other stretches of time: durations, then the offer.
-inline constexpr int CompareCheapestUpTo = 837;
-inline constexpr int CompareCheapestBetween = 838;
-inline constexpr int CompareCheapestFromOn = 839;
-inline constexpr int CompareCheapestAt = 840;
-inline constexpr int CompareHardlyMore = 841;        ///< %1: offer
-inline constexpr int CompareNoMoreThanCurrent = 842; ///< %1: offer, %2: the stretches
-inline constexpr int CompareAlwaysMore = 843;        ///< %1: offer
-inline constexpr int CompareAlwaysLess = 844;        ///< %1: offer
+// Printing and saving.
+inline constexpr int PrintingDocument = 950; ///< %1: the title of the document
+inline constexpr int PageTooSmall = 951;
+inline constexpr int StillPrinting = 952;
+inline constexpr int FileNoFolder = 953; ///< %1: the path, as of all that follow
+inline constexpr int FileNotAllowed = 954;
+inline constexpr int FileIsNone = 955;
+inline constexpr int FileDiskFull = 956;
+inline constexpr int FileNotSaved = 957; ///< the system's reason follows
 
-// What else matters for the answer.
-inline constexpr int CompareBorrowMore = 845;        ///< %1: how much more
-inline constexpr int CompareBorrowLess = 846;        ///< %1: how much less
-inline constexpr int CompareAccruesFrom = 847;       ///< %1: the day, %2: that of the next payment
-inline constexpr int CompareNextPaymentPassed = 848; ///< %1: the day
-inline constexpr int ComparePaysMore = 849;          ///< %1: offer, %2: amount
-
-// Why a loan is left out, after its name %1.
-inline constexpr int CompareNoAmount = 850;
-inline constexpr int CompareNoRate = 851; ///< %2: a rate of zero
-inline constexpr int CompareNoFrequency = 852;
-inline constexpr int CompareNoTerm = 853;
-inline constexpr int CompareNoPayment = 854;
-inline constexpr int CompareTooLarge = 855;
-inline constexpr int CompareNeverEnds = 856;
-inline constexpr int CompareNeverEndsEnough = 857;    ///< %2: payment
-inline constexpr int CompareNeverEndsEnoughFor = 858; ///< %2: payment, %3: payment by %4
-inline constexpr int CompareNoBalance = 859;
-inline constexpr int CompareNoActualPayment = 860;
-inline constexpr int CompareNoActualFrequency = 861;
-inline constexpr int CompareEnough = 862;    ///< %1: payment
-inline constexpr int CompareEnoughFor = 863; ///< %1: payment, %2: payment by %3
-
-// How a figure came about. %1 is the offer; texts of the loan held today name it themselves.
+// How a figure came about.
 inline constexpr int CompareOfferTerms = 1000; ///< %2: amount, %3: rate, %4: term, %5: payments
 inline constexpr int CompareCurrentTerms = 1001;
 inline constexpr int CompareMonthlyOfOffer = 1002;
@@ -173,76 +200,35 @@ inline constexpr int CompareNotEnoughForOffer = 1047; ///< %2: kept
 inline constexpr int CompareEnoughForCurrent = 1048;  ///< %1: payment, %2: kept, %3: actual payment
 inline constexpr int CompareNotEnoughForCurrent = 1049; ///< %1: kept, %2: the next payment
 inline constexpr int CompareNoFigureOfCurrent = 1050;
-// Headings of the costs, and what they mean; in the order of Figure.
-inline constexpr int HeadLender = 900;
-inline constexpr int HeadMonthlyEquivalent = 901;
-inline constexpr int HeadPayment = 902;
-inline constexpr int HeadUpfront = 903;
-inline constexpr int HeadCosts = 904;
-inline constexpr int HeadApr = 905;
-inline constexpr int HeadEffectiveRate = 906;
-inline constexpr int HeadCostByYears = 907; ///< %1: how many years, not used for one
-inline constexpr int HeadBalanceAtHorizon = 908;
-inline constexpr int HeadTotalCost = 909;
-inline constexpr int HeadPayoffDate = 910;
-inline constexpr int HeadInterestSaved = 911;
-inline constexpr int HeadPaymentsSaved = 912;
-inline constexpr int HeadCheaper = 913;
-inline constexpr int HeadRateToMatch = 914;
-inline constexpr int HeadPaymentForHorizon = 915;
-inline constexpr int HeadCostByYear = 916;
-inline constexpr int ExplainMonthlyEquivalent = 917;
-inline constexpr int ExplainPaymentCompared = 918;
-inline constexpr int ExplainUpfront = 919;
-inline constexpr int ExplainCosts = 920;
-inline constexpr int ExplainApr = 921;
-inline constexpr int ExplainEffectiveRate = 922;
-inline constexpr int ExplainCostByHorizon = 923;
-inline constexpr int ExplainBalanceAtHorizon = 924;
-inline constexpr int ExplainTotalCost = 925;
-inline constexpr int ExplainPayoffDate = 926;
-inline constexpr int ExplainInterestSaved = 927;
-inline constexpr int ExplainPaymentsSaved = 928;
-inline constexpr int ExplainCheaper = 929;
-inline constexpr int ExplainRateToMatch = 930;
-inline constexpr int ExplainPaymentForHorizon = 931;
-
-// The columns of a schedule; its payment has the heading of the costs.
-inline constexpr int HeadNumber = 932;
-inline constexpr int HeadYear = 933;
-inline constexpr int HeadDate = 934;
-inline constexpr int HeadInterest = 935;
-inline constexpr int HeadPrincipal = 936;
-inline constexpr int HeadEscrow = 937;
-inline constexpr int HeadBalance = 938;
-inline constexpr int HeadInterestSoFar = 939;
-
-// The best of a column, as shown and as screen readers say it.
-inline constexpr int MarkedBest = 940; ///< %1: the value
-inline constexpr int SpokenBest = 941; ///< %1: the value
-
-// The menu of the columns, below a list of them.
-inline constexpr int SortByColumn = 942;
-inline constexpr int MoveColumnLeft = 943;
-inline constexpr int MoveColumnRight = 944;
-inline constexpr int UsualColumns = 945;
-
-// Why a file was not written.
-inline constexpr int DiskFull = 946;       ///< %1: the file
-inline constexpr int MayNotWrite = 947;    ///< %1: the file
-inline constexpr int FolderMissing = 948;  ///< %1: the file
-inline constexpr int FileNotWritten = 949; ///< %1: the file, %2: the reason in the system's words
-// Printing and saving what other windows than the main one show.
-inline constexpr int PrintingDocument = 950; ///< %1: the title of the document
-inline constexpr int PageTooSmall = 951;
-inline constexpr int StillPrinting = 952;
-inline constexpr int FileNoFolder = 953; ///< %1: the path, as of all that follow
-inline constexpr int FileNotAllowed = 954;
-inline constexpr int FileIsNone = 955;
-inline constexpr int FileDiskFull = 956;
-inline constexpr int FileNotSaved = 957; ///< the system's reason follows
 inline constexpr int CompareNoCostsEntered = 1051;
 inline constexpr int CompareUpfrontNothing = 1052;
 inline constexpr int CompareAprEven = 1053; ///< as Apr, without a last payment
+
+// The window, and finding a payment.
+inline constexpr int HorizonYear = 1240;
+inline constexpr int HorizonYears = 1241;
+inline constexpr int CompareTitle = 1242; ///< %1: the name of the worksheet
+inline constexpr int CompareTitleUnnamed = 1243;
+inline constexpr int CompareLeftOut = 1244; ///< One loan a line follows.
+inline constexpr int ScheduleFromToday = 1245;
+inline constexpr int ScheduleFromNextPayment = 1246;
+inline constexpr int ScheduleOfNone = 1247;
+inline constexpr int ScheduleTitle = 1248;    ///< %1: the loan
+inline constexpr int PaymentEnds = 1249;      ///< %1: the payment, %2: the loan, %3: a date
+inline constexpr int NoPaymentEnds = 1250;    ///< %1: the loan, %2: a date
+inline constexpr int AmountAfforded = 1251;   ///< %1: the payment, %2: the offer, %3: the amount
+inline constexpr int NoAmountAfforded = 1252; ///< %1: the payment, %2: the offer
+inline constexpr int RateNeeded = 1253;       ///< %1: the payment, %2: the offer, %3: the rate
+inline constexpr int NoRateNeeded = 1254;     ///< %1: the payment, %2: the offer
+inline constexpr int EnterAPayment = 1255;
+inline constexpr int EnterADate = 1256;
+inline constexpr int NoLoanToAskAbout = 1257;
+inline constexpr int ExportSemicolons = 1258;
+inline constexpr int ExportCommas = 1259;
+inline constexpr int ExportPdf = 1260;
+inline constexpr int ExportTitle = 1261;
+inline constexpr int CompareSelectFigure = 1263;
+inline constexpr int CostOverTimeTitle = 1264;
+inline constexpr int BalanceOverTimeTitle = 1265;
 
 } // namespace quend::language::TextNumber

@@ -18,12 +18,8 @@ QString OfOffer(const ComparedWorksheet& worksheet, Figure figure, int place,
     const Sentences say(formats);
     const QString name = NameOfLoan(worksheet, place);
     if (figure == Figure::Costs) {
-<<<<<<< HEAD
-        return say(TextNumber::CompareCostsEntered, name, entered.costs);
-=======
         return entered.costs.IsZero() ? say(TextNumber::CompareNoCostsEntered, name)
                                       : say(TextNumber::CompareCostsEntered, name, entered.costs);
->>>>>>> s16-w1
     }
     const OfferFigures* const figures = FiguresOf(worksheet, place);
     if (figures == nullptr) {

@@ -34,7 +34,8 @@ QStringList WhyLeftOutLines(const ComparedWorksheet& worksheet, const DisplayFor
 
 CostsPage::CostsPage(const Worksheet& sheet, MessageQueue& messages)
     : m_ui(std::make_unique<Ui::CostsPage>()), m_sheet(&sheet), m_messages(&messages),
-      m_model([this](int place, const QString& text) { return TakeCosts(place, text); }) {
+      m_model([this](int place, const QString& text) { return TakeCosts(place, text); }),
+      m_order(sheet.Texts().Formats().Locale()) {
     m_ui->setupUi(this);
     m_order.setSourceModel(&m_model);
     m_ui->tblCosts->setModel(&m_order);

@@ -43,10 +43,10 @@ void OverTimePage::ShowLines() {
     if (std::exchange(m_isDue, false)) {
         m_lines = OverTime(m_worksheet->input, m_worksheet->result.months);
     }
-    ChartData data = MakeChartData(
+    ChartData shown = MakeChartData(
         *m_worksheet, m_lines, m_ui->optCost->isChecked() ? ChartShows::Cost : ChartShows::Balance);
-    m_model.SetData(data, m_formats);
-    m_ui->chtOverTime->SetData(std::move(data), m_formats);
+    m_model.SetData(shown, m_formats);
+    m_ui->chtOverTime->SetData(std::move(shown), m_formats);
 }
 
 const FigureTable& OverTimePage::Table() const { return *m_ui->tblOverTime; }
@@ -57,9 +57,9 @@ QString OverTimePage::Title() const {
 }
 
 std::unique_ptr<printing::Drawing> OverTimePage::Draw(const printing::Paper& paper) const {
-    const auto paint = [data = m_ui->chtOverTime->Data(),
+    const auto paint = [shown = m_ui->chtOverTime->Data(),
                         formats = m_formats](QPainter& painter, const QRectF& place) {
-        PaintChart(painter, place, data, formats, LookOfPaper(painter.font()));
+        PaintChart(painter, place, shown, formats, LookOfPaper(painter.font()));
     };
     return printing::DrawingOf(
         printing::PictureOnPaper{.title = Title(),

@@ -1,7 +1,9 @@
 #pragma once
 
-#include "ChartData.h"
+// First, because moc 6.4 cannot read <concepts> as the first header of the standard library.
 #include "ComparePage.h"
+
+#include "ChartData.h"
 #include "OverTimeModel.h"
 
 #include <memory>

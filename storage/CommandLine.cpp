@@ -31,34 +31,34 @@ QString HelpText() {
 
 struct QuestionOption {
     const char16_t* option;
-    Question question;
+    AskedFor question;
 };
 
 constexpr std::array QuestionOptions{
-    QuestionOption{u"--help", Question::Help},
-    QuestionOption{u"-h", Question::Help},
-    QuestionOption{u"--version", Question::Version},
-    QuestionOption{u"-v", Question::Version},
+    QuestionOption{u"--help", AskedFor::Help},
+    QuestionOption{u"-h", AskedFor::Help},
+    QuestionOption{u"--version", AskedFor::Version},
+    QuestionOption{u"-v", AskedFor::Version},
 };
 
 } // namespace
 
-Question QuestionIn(const QStringList& arguments) {
+AskedFor FindAskedFor(const QStringList& arguments) {
     for (const QuestionOption& asked : QuestionOptions) {
         if (arguments.contains(QStringView(asked.option))) {
             return asked.question;
         }
     }
-    return Question::None;
+    return AskedFor::None;
 }
 
-QString AnswerTo(Question question) {
+QString AnswerOf(AskedFor question) {
     switch (question) {
-    case Question::Help:
+    case AskedFor::Help:
         return HelpText();
-    case Question::Version:
+    case AskedFor::Version:
         return VersionText();
-    case Question::None:
+    case AskedFor::None:
         break;
     }
     return {};

@@ -16,8 +16,6 @@ class FigureTable;
 
 /// A page of the comparison window. It shows figures and computes none of them.
 class ComparePage : public QWidget {
-    Q_OBJECT
-
 public:
     using QWidget::QWidget;
 

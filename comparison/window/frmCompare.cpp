@@ -18,10 +18,35 @@
 
 #include <QCloseEvent>
 #include <QScopedValueRollback>
+#include <QScreen>
 
+#include <algorithm>
 #include <utility>
 
 namespace quend::compare {
+
+namespace {
+
+/// At first the window is where it covers least of the other: beside or below it if the screen has
+/// room, otherwise at the screen's lower right.
+void PlaceBeside(QWidget& window, const QWidget& other) {
+    constexpr QSize usual(880, 600);
+    const QRect screen = other.screen()->availableGeometry();
+    const QRect frame = other.frameGeometry();
+    const QSize border = frame.size() - other.size();
+    const QSize size = usual.boundedTo(screen.size() - border);
+    const QSize whole = size + border;
+    QPoint place(screen.right() + 1 - whole.width(), screen.bottom() + 1 - whole.height());
+    if (frame.right() + whole.width() <= screen.right()) {
+        place = {frame.right() + 1, frame.top()};
+    } else if (frame.bottom() + whole.height() <= screen.bottom()) {
+        place = {frame.left(), frame.bottom() + 1};
+    }
+    window.resize(size);
+    window.move(place.x(), std::max(place.y(), screen.top()));
+}
+
+} // namespace
 
 frmCompare::frmCompare(Loan& window, CompareWorld world)
     : m_ui(std::make_unique<Ui::frmCompare>()), m_window(&window), m_world(std::move(world)),
@@ -48,7 +73,7 @@ frmCompare::~frmCompare() {
 
 void frmCompare::Form_Load() {
     RenewLanguage();
-    resize(sizeHint());
+    PlaceBeside(*this, *m_window);
     m_world.restoreGeometry(*this);
     m_costs->RestoreColumns(m_world.restoreColumns());
     ShowChoice();
@@ -93,7 +118,7 @@ void frmCompare::Show(const ComparedWorksheet& worksheet) {
     m_worksheet = &worksheet;
     setWindowTitle(WindowTitle());
     m_ui->lblAnswer->setText(
-        AnswerOf(worksheet, m_window->GetWorksheet().Texts().Formats()).join(u' '));
+        AnswerOf(worksheet, m_window->GetWorksheet().Texts().Formats()).join(u'\n'));
     ShowChoice();
     m_costs->Show(worksheet);
     m_overTime->Show(worksheet);

@@ -29,36 +29,36 @@ QString HelpText() {
            QStringLiteral("\n\n") + text(TextNumber::LoanQtOptions) + u'\n';
 }
 
-struct QuestionOption {
+struct AskingOption {
     const char16_t* option;
-    Question question;
+    Asked asked;
 };
 
-constexpr std::array QuestionOptions{
-    QuestionOption{u"--help", Question::Help},
-    QuestionOption{u"-h", Question::Help},
-    QuestionOption{u"--version", Question::Version},
-    QuestionOption{u"-v", Question::Version},
+constexpr std::array AskingOptions{
+    AskingOption{u"--help", Asked::Help},
+    AskingOption{u"-h", Asked::Help},
+    AskingOption{u"--version", Asked::Version},
+    AskingOption{u"-v", Asked::Version},
 };
 
 } // namespace
 
-Question QuestionIn(const QStringList& arguments) {
-    for (const QuestionOption& asked : QuestionOptions) {
-        if (arguments.contains(QStringView(asked.option))) {
-            return asked.question;
+Asked AskedBy(const QStringList& arguments) {
+    for (const AskingOption& asking : AskingOptions) {
+        if (arguments.contains(QStringView(asking.option))) {
+            return asking.asked;
         }
     }
-    return Question::None;
+    return Asked::None;
 }
 
-QString AnswerTo(Question question) {
-    switch (question) {
-    case Question::Help:
+QString AnswerTo(Asked asked) {
+    switch (asked) {
+    case Asked::Help:
         return HelpText();
-    case Question::Version:
+    case Asked::Version:
         return VersionText();
-    case Question::None:
+    case Asked::None:
         break;
     }
     return {};

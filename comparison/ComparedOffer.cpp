@@ -291,7 +291,7 @@ std::optional<RequiredAmounts> RequiredPayment(const ComparisonInput& input,
                                                const OfferInput& offer) {
     InputContext context(input);
     try {
-        const CLoan loan = ToLoan(context, input, offer);
+        const CLoan loan = MakeOffer(context, ValuesOf(input, offer));
         if (loan.InterestRate().IsZero() || loan.Term().IsZero() ||
             FindFrequency(loan.FrequencyCode()) == nullptr) {
             return std::nullopt;

@@ -24,6 +24,8 @@ _LAYERS: dict[str, tuple[str, ...]] = {
     "worksheet/window": ("foundation", "language", "calc", "comparison", "worksheet/model"),
     "comparison/window": ("foundation", "language", "calc", "comparison", "worksheet/model",
                           "worksheet/window", "printing"),
+    "comparison/tool":  ("foundation", "language", "calc", "comparison", "worksheet/model",
+                         "comparison/window"),
     "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
@@ -37,7 +39,7 @@ _COMPOSITION_ROOT = Path("storage/Main.cpp")
 
 # Layers without a window system.
 _WITHOUT_WIDGETS = ("foundation", "language", "storage/registry", "calc", "comparison",
-                    "worksheet/model")
+                    "worksheet/model", "comparison/tool")
 
 # The private headers of a layer, as its CMakeLists.txt names them.
 _PRIVATE = re.compile(r"PRIVATE_HEADERS\s+([^)]*?)\s+SOURCES")

@@ -25,6 +25,8 @@ _LAYERS: dict[str, tuple[str, ...]] = {
     "worksheet/window": ("foundation", "language", "calc", "comparison", "worksheet/model"),
     "comparison/window": ("foundation", "language", "calc", "comparison", "worksheet/model",
                           "worksheet/window", "printing/pages"),
+    "comparison/tool":  ("foundation", "language", "calc", "comparison", "worksheet/model",
+                          "comparison/window"),
     "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
                          "printing/pages"),
     "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
@@ -39,7 +41,7 @@ _COMPOSITION_ROOT = Path("storage/Main.cpp")
 
 # Layers without a window system.
 _WITHOUT_WIDGETS = ("foundation", "language", "storage/registry", "calc", "comparison",
-                    "worksheet/model", "printing/pages")
+                    "worksheet/model", "printing/pages", "comparison/tool")
 
 # The private headers of a layer, as its CMakeLists.txt names them.
 _PRIVATE = re.compile(r"PRIVATE_HEADERS\s+([^)]*?)\s+SOURCES")

@@ -29,36 +29,36 @@ QString HelpText() {
            QStringLiteral("\n\n") + text(TextNumber::LoanQtOptions) + u'\n';
 }
 
-struct QuestionOption {
+struct AskingOption {
     const char16_t* option;
-    AskedFor question;
+    Asked asked;
 };
 
-constexpr std::array QuestionOptions{
-    QuestionOption{u"--help", AskedFor::Help},
-    QuestionOption{u"-h", AskedFor::Help},
-    QuestionOption{u"--version", AskedFor::Version},
-    QuestionOption{u"-v", AskedFor::Version},
+constexpr std::array AskingOptions{
+    AskingOption{u"--help", Asked::Help},
+    AskingOption{u"-h", Asked::Help},
+    AskingOption{u"--version", Asked::Version},
+    AskingOption{u"-v", Asked::Version},
 };
 
 } // namespace
 
-AskedFor FindAskedFor(const QStringList& arguments) {
-    for (const QuestionOption& asked : QuestionOptions) {
-        if (arguments.contains(QStringView(asked.option))) {
-            return asked.question;
+Asked AskedBy(const QStringList& arguments) {
+    for (const AskingOption& asking : AskingOptions) {
+        if (arguments.contains(QStringView(asking.option))) {
+            return asking.asked;
         }
     }
-    return AskedFor::None;
+    return Asked::None;
 }
 
-QString AnswerOf(AskedFor question) {
-    switch (question) {
-    case AskedFor::Help:
+QString AnswerTo(Asked asked) {
+    switch (asked) {
+    case Asked::Help:
         return HelpText();
-    case AskedFor::Version:
+    case Asked::Version:
         return VersionText();
-    case AskedFor::None:
+    case Asked::None:
         break;
     }
     return {};

@@ -10,13 +10,13 @@ namespace quend::storage {
 // The command line of the window's program, in the current language. Qt's own options are not its
 // business: they are gone once the application object exists.
 
-enum class AskedFor { None, Help, Version };
+enum class Asked { None, Help, Version };
 
 /// What has to be answered instead of starting.
-AskedFor FindAskedFor(const QStringList& arguments);
+Asked AskedBy(const QStringList& arguments);
 
 /// Lines for standard output.
-QString AnswerOf(AskedFor question);
+QString AnswerTo(Asked asked);
 
 /// Why these arguments, at least one that Qt has left, cannot be used: lines for standard error.
 QString RefusalOf(const QStringList& arguments);

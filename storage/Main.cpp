@@ -193,14 +193,14 @@ std::optional<int> AnswerBeforeStart(int& argc, char* argv[]) {
     QStringList arguments;
     std::transform(argv + 1, argv + argc, std::back_inserter(arguments),
                    [](const char* argument) { return QString::fromLocal8Bit(argument); });
-    const AskedFor asked = FindAskedFor(arguments);
-    if (asked == AskedFor::None) {
+    const Asked asked = AskedBy(arguments);
+    if (asked == Asked::None) {
         return std::nullopt;
     }
     const QCoreApplication application(argc, argv); // finds the program's folder
     SetUpLanguage();
     DetectLanguage();
-    return Print(AnswerOf(asked), stdout, 0);
+    return Print(AnswerTo(asked), stdout, 0);
 }
 
 /// The exit code for arguments that Qt has not taken.

@@ -23,6 +23,7 @@ struct Ended {
 /// Runs it without a display, in a new home folder.
 Ended RunLoan(const QStringList& arguments, const char* locale = "en_US.UTF-8") {
     const QTemporaryDir home;
+    const QTemporaryDir runtime; // Qt warns without one
     QProcess program;
     program.setProcessEnvironment([&] {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -31,6 +32,7 @@ Ended RunLoan(const QStringList& arguments, const char* locale = "en_US.UTF-8") 
         }
         environment.insert(QStringLiteral("LC_ALL"), QLatin1String(locale));
         environment.insert(QStringLiteral("XDG_DATA_HOME"), home.path());
+        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime.path());
         return environment;
     }());
     program.start(QStringLiteral(QUEND_PROGRAM_DIR "/Loan"), arguments);

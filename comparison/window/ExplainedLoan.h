@@ -8,7 +8,7 @@
 
 #include <QString>
 
-#include <cstddef>
+#include <cstdint>
 
 namespace quend::compare {
 

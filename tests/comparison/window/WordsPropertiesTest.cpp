@@ -31,7 +31,7 @@ TEST(WordsProperty, EveryFigureOfEveryLoanIsExplained) {
     constexpr std::array Locales{std::pair(Texts::English, "en_US"),
                                  std::pair(Texts::Spanish, "es_ES"),
                                  std::pair(Texts::English, "ar_EG")};
-    ForRandomCases(60, [&](Random& random) {
+    ForRandomCases(30, [&](Random& random) {
         const auto [language, locale] = random.OneOf(Locales);
         const DisplayFormats formats = Switch(language, locale);
         const ComparedWorksheet worksheet = Compared(RandomWorksheet(random));
@@ -58,7 +58,7 @@ TEST(WordsProperty, EveryFigureOfEveryLoanIsExplained) {
 
 // What the sentence about the annual percentage rate claims.
 TEST(WordsProperty, PaymentsAtTheAprRepayWhatIsReceived) {
-    ForRandomCases(60, [](Random& random) {
+    ForRandomCases(30, [](Random& random) {
         const ComparedWorksheet worksheet = Compared(RandomWorksheet(random));
         ComparisonInput required = worksheet.input;
         required.choice = PaymentChoice::Required;

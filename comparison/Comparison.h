@@ -64,6 +64,8 @@ enum class LeftOut { No, NoAmount, NoRate, NoFrequency, NoTerm, NoPayment, Never
 struct CheaperStretch {
     int fromMonth = 0;
     std::optional<int> untilMonth; ///< the first month outside; none: it never ends
+
+    friend bool operator==(const CheaperStretch&, const CheaperStretch&) = default;
 };
 
 struct CheapestOffer {

@@ -24,6 +24,8 @@ _LAYERS: dict[str, tuple[str, ...]] = {
     "worksheet/window": ("foundation", "language", "calc", "worksheet/model"),
     "comparison/window": ("foundation", "language", "calc", "comparison", "worksheet/model",
                           "worksheet/window"),
+    "comparison/window/tables": ("foundation", "language", "calc", "comparison", "worksheet/model",
+                                 "worksheet/window", "comparison/window"),
     "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",

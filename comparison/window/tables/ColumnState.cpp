@@ -1,6 +1,7 @@
 #include "ColumnState.h"
 
 #include <QByteArrayView>
+#include <QList>
 
 #include <algorithm>
 
@@ -48,6 +49,10 @@ QByteArray WriteColumns(const std::vector<ColumnState>& columns) {
 }
 
 std::optional<std::vector<ColumnState>> ReadColumns(const QByteArray& bytes, int count) {
+    constexpr qsizetype mostPerColumn = 12; // characters
+    if (bytes.size() > Version.size() + count * mostPerColumn) {
+        return std::nullopt;
+    }
     const QList<QByteArray> words = bytes.split(' ');
     if (words.front() != Version || words.size() - 1 > count) {
         return std::nullopt;

@@ -97,6 +97,8 @@ QVariant CostsModel::TextAt(const QModelIndex& index, int role) const {
         return cell.isBest ? GetResourceText(TextNumber::MarkedBest).arg(cell.text) : cell.text;
     case Qt::AccessibleTextRole:
         return cell.isBest ? GetResourceText(TextNumber::SpokenBest).arg(cell.text) : cell.text;
+    case ValueTextRole:
+        return cell.text;
     case Qt::EditRole:
         return IsEntered(index) ? row.costsEntry : cell.text;
     case Qt::ToolTipRole:

@@ -1,5 +1,6 @@
 #include "FigureTable.h"
 
+#include "ColumnLayout.h"
 #include "ColumnMenu.h"
 #include "EntryDelegate.h"
 #include "Figures.h"
@@ -15,20 +16,16 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QSortFilterProxyModel>
-#include <QStyle>
-#include <QStyleOptionHeader>
 #include <QTimer>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace quend::compare {
 
 namespace {
 
-constexpr int MostCharacters = 30; ///< the initial width of a column for long texts
-constexpr int MostRowsMeasured = 64;
-constexpr int MostHeadingWidth = 1000;
 constexpr int RowMargin = 6;
 constexpr int LeastColumnWidth = 24;
 constexpr const char* HelpTopic = "helpTopic";
@@ -36,7 +33,8 @@ constexpr const char* HelpTopic = "helpTopic";
 } // namespace
 
 FigureTable::FigureTable(QWidget* parent)
-    : QTableView(parent), m_delegate(new EntryDelegate(this)) {
+    : QTableView(parent), m_delegate(new EntryDelegate(this)),
+      m_columns(std::make_unique<ColumnLayout>(*this)) {
     setItemDelegate(m_delegate);
     setSelectionBehavior(SelectItems);
     setSelectionMode(ExtendedSelection);
@@ -66,115 +64,26 @@ void FigureTable::SetUpHeader() {
     connect(header, &QWidget::customContextMenuRequested, this, [this, header](const QPoint& at) {
         ShowMenu(header->logicalIndexAt(at), header->viewport()->mapToGlobal(at));
     });
-    connect(header, &QHeaderView::sortIndicatorChanged, this, [this] { FitLater(Fit::Widen); });
-    connect(header, &QHeaderView::sectionResized, this, [this](int column, int before, int now) {
-        // A column that is hidden or shown is "resized", too.
-        if (!m_fitting && before > 0 && now > 0) {
-            m_widened.insert(column);
-        }
-    });
 }
+
+FigureTable::~FigureTable() = default;
 
 void FigureTable::setModel(QAbstractItemModel* model) {
     if (this->model() != nullptr) {
-        this->model()->disconnect(this);
+        this->model()->disconnect(m_columns.get());
     }
     QTableView::setModel(model);
     setSortingEnabled(qobject_cast<QSortFilterProxyModel*>(model) != nullptr);
     if (model != nullptr) {
-        WatchContent(*model);
+        m_columns->Follow(*model);
         ShowUsualColumns();
     }
 }
 
-void FigureTable::WatchContent(const QAbstractItemModel& model) {
-    const auto widen = [this] { FitLater(Fit::Widen); };
-    const auto exactly = [this] { FitLater(Fit::Exactly); };
-    connect(&model, &QAbstractItemModel::dataChanged, this, widen);
-    connect(&model, &QAbstractItemModel::rowsInserted, this, widen);
-    connect(&model, &QAbstractItemModel::modelReset, this, exactly);
-    connect(&model, &QAbstractItemModel::headerDataChanged, this, exactly);
-}
-
 // Columns
-
-/// A posted call precedes the next paint, which has a lower priority.
-void FigureTable::FitLater(Fit fit) {
-    if (std::exchange(m_fit, std::max(m_fit, fit)) == Fit::None) {
-        QMetaObject::invokeMethod(this, &FigureTable::FitColumns, Qt::QueuedConnection);
-    }
-}
-
-void FigureTable::FitColumns() {
-    const bool mayShrink = std::exchange(m_fit, Fit::None) == Fit::Exactly;
-    if (model() == nullptr) {
-        return;
-    }
-    m_fitting = true;
-    for (int column = 0; column < model()->columnCount(); ++column) {
-        if (!isColumnHidden(column) && !m_widened.contains(column)) {
-            const int width = WidthOfContent(column);
-            setColumnWidth(column, mayShrink ? width : std::max(width, columnWidth(column)));
-        }
-    }
-    m_fitting = false;
-}
-
-/// Of a long table some rows are measured, the last one included, where sums are largest.
-int FigureTable::WidthOfContent(int column) const {
-    const int rows = model()->rowCount();
-    const int step = std::max(1, rows / MostRowsMeasured);
-    int width = 0;
-    for (int row = rows - 1; row >= 0; row -= step) {
-        width = std::max(width, sizeHintForIndex(model()->index(row, column)).width());
-    }
-    const int most = fontMetrics().averageCharWidth() * MostCharacters;
-    return std::max(std::min(width, most) + (showGrid() ? 1 : 0), WidthOfHeading(column));
-}
-
-/// Only the sorted column has an arrow. The header's own hint reserves one everywhere, as wide as
-/// two lines are high.
-int FigureTable::WidthOfHeading(int column) const {
-    const QHeaderView* header = horizontalHeader();
-    QStyleOptionHeader option;
-    option.initFrom(header);
-    option.state |= QStyle::State_Horizontal;
-    option.rect = QRect(0, 0, MostHeadingWidth, header->sizeHint().height());
-    option.sortIndicator = header->sortIndicatorSection() == column ? QStyleOptionHeader::SortDown
-                                                                    : QStyleOptionHeader::None;
-    const QRect text = header->style()->subElementRect(QStyle::SE_HeaderLabel, &option, header);
-    const QString heading = model()->headerData(column, Qt::Horizontal).toString();
-    return header->fontMetrics().size(0, heading).width() + MostHeadingWidth - text.width();
-}
 
 void FigureTable::FitRows() {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + RowMargin);
-}
-
-std::vector<ColumnState> FigureTable::Columns() const {
-    std::vector<ColumnState> columns;
-    for (int place = 0; place < horizontalHeader()->count(); ++place) {
-        const int column = horizontalHeader()->logicalIndex(place);
-        const bool hidden = isColumnHidden(column);
-        const bool kept = m_widened.contains(column) && !hidden;
-        columns.push_back(
-            {.column = column, .width = kept ? columnWidth(column) : 0, .hidden = hidden});
-    }
-    return columns;
-}
-
-void FigureTable::Arrange(const std::vector<ColumnState>& columns) {
-    m_widened.clear();
-    int place = 0;
-    for (const ColumnState& state : columns) {
-        horizontalHeader()->moveSection(horizontalHeader()->visualIndex(state.column), place++);
-        setColumnHidden(state.column, state.hidden && state.column != 0);
-        if (state.width > 0) {
-            setColumnWidth(state.column, state.width);
-            m_widened.insert(state.column);
-        }
-    }
-    FitLater(Fit::Exactly);
 }
 
 void FigureTable::ShowUsualColumns() {
@@ -183,23 +92,23 @@ void FigureTable::ShowUsualColumns() {
         const bool hidden = model()->headerData(column, Qt::Horizontal, HiddenAtFirstRole).toBool();
         columns.push_back({.column = column, .hidden = hidden});
     }
-    Arrange(columns);
+    m_columns->Arrange(columns);
 }
 
-QByteArray FigureTable::SaveColumns() const { return WriteColumns(Columns()); }
+QByteArray FigureTable::SaveColumns() const { return WriteColumns(m_columns->Columns()); }
 
 bool FigureTable::RestoreColumns(const QByteArray& bytes) {
     const auto columns = ReadColumns(bytes, horizontalHeader()->count());
     if (columns) {
         ShowUsualColumns();
-        Arrange(*columns);
+        m_columns->Arrange(*columns);
     }
     return columns.has_value();
 }
 
 std::vector<int> FigureTable::ShownColumns() const {
     std::vector<int> columns;
-    for (const ColumnState& state : Columns()) {
+    for (const ColumnState& state : m_columns->Columns()) {
         if (!state.hidden) {
             columns.push_back(state.column);
         }
@@ -207,30 +116,15 @@ std::vector<int> FigureTable::ShownColumns() const {
     return columns;
 }
 
-void FigureTable::ShowColumn(int column, bool shown) {
-    setColumnHidden(column, !shown && column != 0);
-    FitLater(Fit::Widen);
-}
-
-/// The visual place of the next column that is shown; -1 if there is none.
-int FigureTable::NeighbourOf(int column, int direction) const {
-    const QHeaderView* header = horizontalHeader();
-    int place = header->visualIndex(column) + direction;
-    while (place >= 0 && place < header->count() &&
-           header->isSectionHidden(header->logicalIndex(place))) {
-        place += direction;
-    }
-    return place < header->count() ? place : -1;
-}
+void FigureTable::ShowColumn(int column, bool shown) { m_columns->Show(column, shown); }
 
 bool FigureTable::CanMove(int column, int direction) const {
-    return NeighbourOf(column, direction) >= 0;
+    return m_columns->NeighbourOf(column, direction) >= 0;
 }
 
 void FigureTable::MoveColumn(int column, int direction) {
-    if (CanMove(column, direction)) {
-        horizontalHeader()->moveSection(horizontalHeader()->visualIndex(column),
-                                        NeighbourOf(column, direction));
+    if (const int place = m_columns->NeighbourOf(column, direction); place >= 0) {
+        horizontalHeader()->moveSection(horizontalHeader()->visualIndex(column), place);
     }
 }
 
@@ -367,7 +261,7 @@ void FigureTable::changeEvent(QEvent* event) {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
         FitRows();
-        FitLater(Fit::Exactly);
+        m_columns->FitLater(ColumnLayout::Fit::Exactly);
     }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ColumnState.h"
 #include "CompareNames.h"
 #include "TableText.h"
 
@@ -8,11 +7,12 @@
 #include <QTableView>
 
 #include <functional>
-#include <set>
+#include <memory>
 #include <vector>
 
 namespace quend::compare {
 
+class ColumnLayout;
 class EntryDelegate;
 enum class Figure; // Qt's compiler of signals cannot read its header
 
@@ -27,6 +27,8 @@ class FigureTable : public QTableView {
 
 public:
     explicit FigureTable(QWidget* parent = nullptr);
+    Q_DISABLE_COPY_MOVE(FigureTable)
+    ~FigureTable() override;
 
     /// Shows the usual columns. Only a proxy can be sorted by the headings.
     void setModel(QAbstractItemModel* model) override;
@@ -74,27 +76,13 @@ protected:
 private:
     bool IsOpen(const QWidget& editor) const;
 
-    enum class Fit { None, Widen, Exactly };
-
     void SetUpHeader();
-    void WatchContent(const QAbstractItemModel& model);
-    /// Before the next paint.
-    void FitLater(Fit fit);
-    void FitColumns();
-    int WidthOfContent(int column) const;
-    int WidthOfHeading(int column) const;
     void FitRows();
-    /// How the columns are shown, from left to right.
-    std::vector<ColumnState> Columns() const;
-    void Arrange(const std::vector<ColumnState>& columns);
-    int NeighbourOf(int column, int direction) const;
     QVariant TopicOfColumn(int column) const;
     void ShowMenu(int column, const QPoint& at);
 
     EntryDelegate* m_delegate;
-    std::set<int> m_widened; ///< columns whose width the user has chosen
-    Fit m_fit = Fit::None;   ///< due
-    bool m_fitting = false;
+    std::unique_ptr<ColumnLayout> m_columns;
 };
 
 } // namespace quend::compare

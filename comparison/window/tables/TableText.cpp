@@ -3,6 +3,7 @@
 #include "TableRoles.h"
 
 #include <QAbstractItemModel>
+#include <QFont>
 #include <QItemSelectionModel>
 #include <QLocale>
 #include <QMimeData>
@@ -39,7 +40,8 @@ bool IsLeftOut(const TableCells& cells, const QModelIndex& index) {
 }
 
 QString ShownText(const QModelIndex& index) {
-    return WithoutFormula(index.data(Qt::DisplayRole).toString());
+    const QVariant unmarked = index.data(ValueTextRole);
+    return WithoutFormula((unmarked.isValid() ? unmarked : index.data()).toString());
 }
 
 QString Heading(const TableCells& cells, int column) {
@@ -102,11 +104,11 @@ QString Escaped(QString text) {
     return text.toHtmlEscaped();
 }
 
-QString HtmlCell(QLatin1StringView tag, const QVariant& alignment, const QString& text) {
+QString HtmlCell(QLatin1StringView tag, const QVariant& alignment, const QString& content) {
     const QString side = alignment.value<Qt::Alignment>().testFlag(Qt::AlignRight)
                              ? QStringLiteral(" align=\"right\"")
                              : QStringLiteral(" align=\"left\"");
-    return QStringLiteral("<%1%2>%3</%1>").arg(tag, side, Escaped(text));
+    return QStringLiteral("<%1%2>%3</%1>").arg(tag, side, content);
 }
 
 QString HtmlHeadings(const TableCells& cells) {
@@ -114,7 +116,7 @@ QString HtmlHeadings(const TableCells& cells) {
     for (const int column : cells.columns) {
         const QVariant side =
             cells.model->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole);
-        line += HtmlCell(QLatin1StringView("th"), side, Heading(cells, column));
+        line += HtmlCell(QLatin1StringView("th"), side, Escaped(Heading(cells, column)));
     }
     return QStringLiteral("<tr>%1</tr>\n").arg(line);
 }
@@ -123,8 +125,10 @@ QString HtmlRow(const TableCells& cells, int row) {
     QString line;
     for (const int column : cells.columns) {
         const QModelIndex index = cells.model->index(row, column);
+        const bool isBold = index.data(Qt::FontRole).value<QFont>().bold();
+        const QString text = IsLeftOut(cells, index) ? QString() : Escaped(ShownText(index));
         line += HtmlCell(QLatin1StringView("td"), index.data(Qt::TextAlignmentRole),
-                         IsLeftOut(cells, index) ? QString() : ShownText(index));
+                         isBold ? QStringLiteral("<b>%1</b>").arg(text) : text);
     }
     return QStringLiteral("<tr>%1</tr>\n").arg(line);
 }

@@ -48,7 +48,8 @@ TextSymbols SymbolsOf(const QLocale& locale);
 /// Lines of cells separated by tabs. Tabs and line breaks in a text become blanks.
 QString TabSeparated(const TableCells& cells, QChar decimal);
 
-/// A table with the texts as shown, headings as such, numbers at the right.
+/// A table with the texts as shown, headings as such, numbers at the right. The best values are
+/// bold and have no sign, so that a spreadsheet that takes this format has numbers, too.
 QString HtmlTable(const TableCells& cells);
 
 /// Both, for the clipboard.

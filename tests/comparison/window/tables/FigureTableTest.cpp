@@ -10,12 +10,14 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
@@ -143,10 +145,6 @@ TEST_F(FigureTables, ShowTheUsualColumnsWhole) {
         QCoreApplication::processEvents();
         EXPECT_EQ(usual, m_table->ShownColumns());
         EXPECT_LE(m_table->horizontalHeader()->length(), 1000 - 24);
-        for (int c : usual)
-            printf("%d:%d(%d) ", c, m_table->columnWidth(c),
-                   m_table->sizeHintForIndex(m_order.index(0, c)).width());
-        printf("%s\n", m_table->font().toString().toUtf8().constData());
         for (const int column : usual) {
             for (int row = 0; row < m_order.rowCount(); ++row) {
                 EXPECT_LE(m_table->sizeHintForIndex(m_order.index(row, column)).width(),
@@ -276,7 +274,7 @@ TEST_F(FigureTables, CopyTheSelectionOrEverything) {
         u"Lender\tAt closing\tCosts\tAPR (estimated)\tCost in 5 years\tBalance then\tTotal cost\tRate to match\nA\t0\t0\t5\t9\t0\t9\t\n"_s))
         << whole.toStdString();
     EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->html().contains(
-        u"<td align=\"right\">✓ $7.00</td>"_s));
+        u"<td align=\"right\"><b>$7.00</b></td>"_s));
     m_table->selectAll();
     Press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(whole, Clipped());
@@ -415,6 +413,29 @@ TEST_F(FigureTables, AreReadByScreenReaders) {
         table->tableInterface()->cellAt(2, ColumnNumber(Figure::TotalCost));
     ASSERT_NE(nullptr, best);
     EXPECT_EQ(u"$7.00, the best of its column"_s, best->text(QAccessible::Name));
+}
+
+TEST_F(FigureTables, ShowWholeTextsAndExplanationsInTooltips) {
+    const QString longName = u"<b>"_s + QString(60, u'x');
+    m_sheet.lenders[0] = longName;
+    m_model.Set(m_sheet, Dollars);
+    QCoreApplication::processEvents();
+    m_table->setColumnWidth(ColumnNumber(Figure::Upfront), 30);
+    const struct {
+        int row;
+        Figure figure;
+        QString tip;
+    } cases[] = {
+        {0, Figure::Lender, u"<p>&lt;b&gt;"_s + QString(60, u'x') + u"</p>"_s},
+        {0, Figure::Costs, Cell(0, Figure::Costs).data(Qt::ToolTipRole).toString()},
+        {0, Figure::Upfront, u"<p>$0.00</p><p>Points and costs that you pay at closing</p>"_s},
+    };
+    for (const auto& tested : cases) {
+        const QPoint at = m_table->visualRect(Cell(tested.row, tested.figure)).center();
+        QHelpEvent asked(QEvent::ToolTip, at, m_table->viewport()->mapToGlobal(at));
+        QCoreApplication::sendEvent(m_table->viewport(), &asked);
+        EXPECT_EQ(tested.tip.toStdString(), QToolTip::text().toStdString());
+    }
 }
 
 TEST_F(FigureTables, ShowLongSchedulesAtOnce) {

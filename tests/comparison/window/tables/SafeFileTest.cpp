@@ -8,8 +8,14 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <fstream>
+#include <functional>
+#include <sched.h>
+#include <string>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -50,6 +56,35 @@ private:
     uid_t m_before;
     bool m_is = false;
 };
+
+enum class Outcome { Right, Wrong, CannotMount };
+
+bool WriteText(const char* path, const std::string& text) {
+    std::ofstream file(path);
+    file << text << std::flush;
+    return file.good();
+}
+
+/// Runs a check in a child process, in which a small disk is mounted at this folder.
+Outcome OnSmallDisk(const QString& folder, const std::function<bool()>& check) {
+    const std::string user = "0 " + std::to_string(getuid()) + " 1";
+    const std::string group = "0 " + std::to_string(getgid()) + " 1";
+    const std::string at = folder.toStdString();
+    const pid_t child = fork();
+    if (child == 0) {
+        const bool mounted = unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 &&
+                             WriteText("/proc/self/setgroups", "deny") &&
+                             WriteText("/proc/self/uid_map", user) &&
+                             WriteText("/proc/self/gid_map", group) &&
+                             mount("tmpfs", at.c_str(), "tmpfs", 0, "size=64k") == 0;
+        const Outcome outcome =
+            mounted ? (check() ? Outcome::Right : Outcome::Wrong) : Outcome::CannotMount;
+        _exit(static_cast<int>(outcome));
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? static_cast<Outcome>(WEXITSTATUS(status)) : Outcome::Wrong;
+}
 
 class SafeFile : public testing::Test {
 protected:
@@ -98,6 +133,20 @@ TEST_F(SafeFile, LeavesNothingOfAFileThatDoesNotFit) {
     }
     EXPECT_EQ("old", ContentOf(Path(u"kept"_s)));
     EXPECT_EQ(QStringList{u"kept"_s}, Names());
+}
+
+TEST_F(SafeFile, SaysThatTheDiskIsFull) {
+    const QString path = Path(u"new"_s);
+    const Outcome outcome = OnSmallDisk(m_folder.path(), [&] {
+        return WriteFile(path, m_content) ==
+                   u"“"_s + path + u"” was not saved, because the disk is full."_s &&
+               Names().isEmpty() && WriteFile(path, "short").isEmpty() &&
+               !WriteFile(path, m_content).isEmpty() && ContentOf(path) == "short";
+    });
+    if (outcome == Outcome::CannotMount) {
+        GTEST_SKIP() << "this user cannot mount a disk";
+    }
+    EXPECT_EQ(Outcome::Right, outcome);
 }
 
 TEST_F(SafeFile, SaysThatTheFolderIsMissing) {

@@ -12,6 +12,15 @@ Date PlusDays(Date day, int days) {
     return Date::FromDays(std::clamp(day.Days() + days, earliest, latest));
 }
 
+/// The whole months from a day to another: the most with which MonthAfter is not later.
+int MonthsBetween(Date from, Date until) {
+    const auto first = from.Calendar();
+    const auto last = until.Calendar();
+    const auto months =
+        (last.year() / last.month() - first.year() / first.month()) / std::chrono::months(1);
+    return static_cast<int>(months) - (MonthAfter(from, static_cast<int>(months)) > until ? 1 : 0);
+}
+
 Date OnePeriodBefore(Date day, const Frequency& frequency) {
     switch (frequency.step) {
     case DateStep::Month:
@@ -66,6 +75,22 @@ Date AccrualPeriods::AfterDue() const {
         break;
     }
     return PlusDays(m_due, m_frequency->interestParts);
+}
+
+std::int64_t AccrualPeriods::StepsUntil(Date day) const {
+    switch (m_frequency->step) {
+    case DateStep::Month:
+        return MonthsBetween(m_due, day);
+    case DateStep::HalfMonth: {
+        const Date firstOfPair = m_secondOfPair ? m_before : m_due;
+        const int pairs = MonthsBetween(firstOfPair, day);
+        const bool both = day.Days() - MonthAfter(firstOfPair, pairs).Days() >= 14;
+        return 2 * pairs + (both ? 1 : 0) - (m_secondOfPair ? 1 : 0);
+    }
+    case DateStep::Days:
+        break;
+    }
+    return (day.Days() - m_due.Days()) / m_frequency->interestParts;
 }
 
 Money AccruedBetween(Date from, Date until, const AccrualPeriod& period, Money interest) {

@@ -4,6 +4,8 @@
 #include "Date.h"
 #include "Schedule.h"
 
+#include <cstdint>
+
 namespace quend::comparison {
 
 /// The same day so many months later (negative: earlier), cut to that month's last day; counted
@@ -37,6 +39,11 @@ public:
     /// period of the schedule, in order, with the date that the schedule reports. Past the last
     /// date an end is that date.
     AccrualPeriod Next(Date reported);
+
+    /// The number of date steps from the next payment to the last one due by that day, which is no
+    /// earlier. Exact up to Date::Last(); otherwise it may be too low by one where the dates have
+    /// been cut to a shorter month.
+    std::int64_t StepsUntil(Date day) const;
 
 private:
     Date AfterDue() const;

@@ -9,9 +9,9 @@ namespace quend::comparison {
 // Questions about one day, for searches: they keep no rows and run no further than the answer
 // needs.
 
-/// The interest that accrues from today to the day. None where the schedule never ends, or an
-/// amount is outside the range of money.
-std::optional<Money> AccruedInterest(const DatedLoan& loan, Date today, Date day);
+/// What a loan has cost by a day: its costs at closing and the interest accrued from today on. None
+/// where its schedule never ends, or an amount is outside the range of money.
+std::optional<Money> CostByDay(const DatedLoan& loan, Money closing, Date today, Date day);
 
 /// The least payment in whole cents, not below the given one raised to a whole cent, with which
 /// nothing is owed on that day; the loan's own payment is not read. None where no payment does

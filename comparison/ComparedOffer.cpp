@@ -45,8 +45,8 @@ OfferValues ValuesOf(const ComparisonInput& input, const OfferInput& offer) {
             .actualPayment = offer.actualPayment};
 }
 
-/// As the main window shows the offer; stops at the first result that is outside its range.
-void Fill(OfferComparison& result, CLoan& loan) {
+/// As the main window shows the offer; stops at the first amount that is outside its range.
+void FillAmounts(OfferComparison& result, CLoan& loan) {
     result.actualPayment = loan.ActualPayment();
     try {
         result.principal = loan.StartingPrinciple();
@@ -54,11 +54,6 @@ void Fill(OfferComparison& result, CLoan& loan) {
         result.payment = loan.Payment(*result.principalAndInterest);
         result.raised = loan.Forced();
         result.actualPayment = loan.ActualPayment();
-        const Date payoff = loan.PayoffDate();
-        if (!payoff.IsNone()) {
-            result.payoffDate = payoff;
-            result.interest = loan.Interest();
-        }
     } catch (const OverflowFailure&) {
         result.overflow = true;
     }
@@ -110,11 +105,18 @@ ComparedOffer::ComparedOffer(const ComparisonInput& input, const OfferInput& off
     : m_input(&input), m_offer(&offer), m_frequency(FindFrequency(offer.frequency)) {
     InputContext context(input);
     CLoan loan = MakeOffer(context, ValuesOf(input, offer));
-    Fill(m_result, loan);
+    FillAmounts(m_result, loan);
     m_term = loan.Term();
     m_result.leftOut = FindLeftOut();
     if (m_result.leftOut == LeftOut::No) {
         RunCompared();
+    }
+    if (!m_result.overflow) {
+        FillPayoff(loan);
+    }
+    if (m_result.leftOut == LeftOut::NeverEnds && !m_result.overflow) {
+        // The schedule either passes the last date, or an amount leaves the range of money.
+        m_result.overflow = !m_hasAmounts || RunUnlessEndless(ComparedLoan().terms);
     }
 }
 
@@ -140,20 +142,34 @@ LeftOut ComparedOffer::FindLeftOut() const {
 void ComparedOffer::RunCompared() {
     try {
         ComputeAmounts();
-        m_costs = RunCosts(Loan(m_offer->rate, m_figures.paymentCompared), m_closing,
-                           m_input->today, Horizon());
+        m_costs = RunCosts(ComparedLoan(), m_closing, m_input->today, Horizon());
         m_figures.totalCost = m_closing + m_costs->payoff.interest;
         m_figures.costByHorizon = m_costs->By(Horizon());
         m_figures.balanceAtHorizon = m_costs->balanceAtHorizon;
         m_figures.payoff = m_costs->payoff.date;
-    } catch (const NeverRepaidFailure&) {
-        m_result.leftOut = LeftOut::NeverEnds;
     } catch (const OverflowFailure&) {
         m_costs.reset();
         m_result.leftOut = LeftOut::NeverEnds;
-        // The schedule either passes the last date, or an amount leaves the range of money.
-        const ScheduleTerms terms = Loan(m_offer->rate, m_figures.paymentCompared).terms;
-        m_result.overflow = m_result.overflow || !m_hasAmounts || RunUnlessEndless(terms);
+    }
+}
+
+/// With the intended payment, raised to the required one. Where that is compared, its schedule has
+/// been run.
+void ComparedOffer::FillPayoff(CLoan& loan) {
+    const Money intended = m_result.actualPayment;
+    if (m_costs && m_figures.paymentCompared == intended && !intended.IsZero()) {
+        m_result.payoffDate = m_costs->payoff.date;
+        m_result.interest = m_costs->payoff.interest;
+        return;
+    }
+    try {
+        const Date payoff = loan.PayoffDate();
+        if (!payoff.IsNone()) {
+            m_result.payoffDate = payoff;
+            m_result.interest = loan.Interest();
+        }
+    } catch (const OverflowFailure&) {
+        m_result.overflow = true;
     }
 }
 
@@ -192,6 +208,10 @@ DatedLoan ComparedOffer::Loan(Rate rate, Money payment) const {
             .accrual = Accrual::AfterPayment};
 }
 
+DatedLoan ComparedOffer::ComparedLoan() const {
+    return Loan(m_offer->rate, m_figures.paymentCompared);
+}
+
 OfferComparison ComparedOffer::Finish(const CostByMonth* current, int months, Money cheapest) {
     if (!m_costs) {
         return m_result;
@@ -216,7 +236,7 @@ std::optional<DatedLoan> ComparedOffer::Compared() const {
     if (!m_costs) {
         return std::nullopt;
     }
-    return Loan(m_offer->rate, m_figures.paymentCompared);
+    return ComparedLoan();
 }
 
 std::optional<Money> ComparedOffer::LeastPaymentBy(Date day) const {
@@ -278,10 +298,9 @@ bool ComparedOffer::CostsNoMoreAt(Rate rate, Money most) const {
         const bool intends = m_result.actualPayment > *m_result.payment;
         const Money payment =
             PaymentCompared(pAndI + m_escrowShare, intends ? m_result.actualPayment : Money());
-        const Date horizon = HorizonDay(m_input->today, m_input->years);
-        const std::optional<Money> interest =
-            AccruedInterest(Loan(rate, payment), m_input->today, horizon);
-        return interest && m_closing + *interest <= most;
+        const std::optional<Money> cost = CostByDay(Loan(rate, payment), m_closing, m_input->today,
+                                                    HorizonDay(m_input->today, m_input->years));
+        return cost && *cost <= most;
     } catch (const OverflowFailure&) {
         return false;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CLoan.h"
 #include "Comparison.h"
 #include "CostByMonth.h"
 #include "Frequency.h"
@@ -33,8 +34,10 @@ private:
     LeftOut FindLeftOut() const;
     void RunCompared();
     void ComputeAmounts();
+    void FillPayoff(CLoan& loan);
     Money PaymentCompared(Money required, Money intended) const;
     DatedLoan Loan(Rate rate, Money payment) const;
+    DatedLoan ComparedLoan() const;
     /// Of the payment of principal and interest alone; none where it never ends.
     std::optional<Payoff> RunRequired() const;
     void AddRates(const Payoff& required);

@@ -12,7 +12,7 @@ import equivalent
 import quality_table
 import tested
 
-CALC, SORTS = "calc_tests", "worksheet_model_tests"
+CALC, COMPARISON, SORTS = "calc_tests", "comparison_tests", "worksheet_model_tests"
 SOURCES = {
     "calc/Money.h": CALC, "calc/Money.cpp": CALC, "calc/Date.h": CALC, "calc/Date.cpp": CALC,
     "calc/DueDates.h": CALC, "calc/Frequency.h": CALC, "calc/Frequency.cpp": CALC,

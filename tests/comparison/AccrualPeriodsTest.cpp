@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <limits>
 #include <vector>
 
 namespace {
@@ -108,25 +109,69 @@ TEST(AccrualPeriods, InterestOfAPart) {
     }
 }
 
-/// The search may stop before the end of a schedule, but must not miss that it has none.
-TEST(AccruedInterest, IsNoneExactlyWhereTheScheduleNeverEnds) {
+/// The steps from each due date on, counted one by one. Days of the month beyond 28 would be cut.
+TEST(AccrualPeriods, StepsUntil) {
+    for (const Frequency& frequency : Frequencies) {
+        for (const Date start : {Day(2026, 1, 15), Day(2028, 2, 28), Day(9998, 12, 18)}) {
+            const std::vector<AccrualPeriod> dates =
+                PeriodsOf(Undated(frequency, start, 13, Accrual::AfterPayment));
+            AccrualPeriods periods(Undated(frequency, start, 13, Accrual::AfterPayment));
+            for (std::size_t due = 0; due < dates.size(); ++due) {
+                for (std::size_t last = due; last + 1 < dates.size(); ++last) {
+                    const auto steps = static_cast<std::int64_t>(last - due);
+                    EXPECT_EQ(periods.StepsUntil(dates[last].start), steps);
+                    EXPECT_EQ(periods.StepsUntil(Date::FromDays(dates[last].end.Days() - 1)),
+                              steps);
+                }
+                periods.Next(dates[due].end);
+            }
+        }
+    }
+}
+
+TEST(AccrualPeriods, StepsUntilTheLastDate) {
+    struct Case {
+        std::size_t frequency;
+        Date due;
+        std::int64_t steps;
+    };
+    const std::array cases{
+        Case{0, Day(9999, 12, 1), 0},  Case{0, Day(9999, 11, 30), 1}, Case{0, Day(9998, 1, 31), 23},
+        Case{1, Day(9999, 12, 18), 0}, Case{1, Day(9999, 12, 17), 1}, Case{1, Day(9999, 10, 31), 4},
+        Case{2, Day(9999, 12, 18), 0}, Case{2, Day(9999, 12, 17), 1}, Case{2, Day(9999, 12, 3), 2},
+        Case{3, Day(9999, 12, 4), 0},  Case{3, Day(9999, 12, 3), 1},  Case{3, Day(9999, 11, 5), 2},
+    };
+    for (const Case& row : cases) {
+        const AccrualPeriods periods(
+            Undated(Frequencies.at(row.frequency), row.due, 1, Accrual::AfterPayment));
+        EXPECT_EQ(periods.StepsUntil(Date::Last()), row.steps) << row.due.Days();
+    }
+}
+
+/// A search may stop before the end of a schedule, but must not miss that it has none, or that it
+/// costs more than money can count.
+TEST(CostByDay, IsNoneExactlyWhereTheScheduleNeverEnds) {
     const Date today = Day(9985, 12, 31);
+    constexpr Money Closing = Money::FromTenThousandths(1'234);
+    constexpr Money Most = Money::FromTenThousandths(std::numeric_limits<std::int64_t>::max());
     for (const Frequency& frequency : Frequencies) {
         int endless = 0;
         for (int cents = 20'000; cents < 200'000; cents += 997) {
             DatedLoan loan = Undated(frequency, today, 100'000, Accrual::AfterPayment);
             loan.terms.rate = Rate::FromFraction(0.07);
             loan.terms.payment = Money::FromTenThousandths(cents * 100);
-            std::optional<Payoff> payoff;
+            const auto cost = CostByDay(loan, Closing, today, Day(9987, 1, 1));
+            const auto all = CostByDay(loan, Closing, today, Date::Last());
             try {
-                payoff = RunToPayoff(loan.terms);
+                const Money interest = RunToPayoff(loan.terms).interest;
+                EXPECT_TRUE(cost) << cents;
+                EXPECT_EQ(all, Closing + interest) << cents;
+                EXPECT_TRUE(CostByDay(loan, Most - interest, today, Day(9987, 1, 1)));
+                EXPECT_FALSE(CostByDay(loan, Most - interest + Closing, today, Day(9987, 1, 1)));
             } catch (const OverflowFailure&) {
                 ++endless;
+                EXPECT_FALSE(cost || all) << cents;
             }
-            EXPECT_EQ(AccruedInterest(loan, today, Day(9987, 1, 1)).has_value(), payoff.has_value())
-                << cents;
-            const auto all = AccruedInterest(loan, today, Date::Last());
-            EXPECT_EQ(all, payoff ? std::optional(payoff->interest) : std::nullopt) << cents;
         }
         EXPECT_GT(endless, 3);
         EXPECT_LT(endless, 178);

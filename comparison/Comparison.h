@@ -44,10 +44,13 @@ struct CurrentLoanInput {
     friend bool operator==(const CurrentLoanInput&, const CurrentLoanInput&) = default;
 };
 
+/// The longest time for which a loan is kept.
+inline constexpr int MostYears = 50;
+
 /// Rates and terms are zero or more.
 struct ComparisonInput {
     Date today{};
-    int years = 5; ///< how long the loan is kept, from 1 to 50
+    int years = 5; ///< how long the loan is kept, from 1 to MostYears
     PaymentChoice choice = PaymentChoice::Intended;
     Money monthlyPayment{}; ///< principal and interest a month, for PaymentChoice::Monthly
     Money amount{};
@@ -151,6 +154,10 @@ struct ComparisonResult {
 
     friend bool operator==(const ComparisonResult&, const ComparisonResult&) = default;
 };
+
+/// The day up to which a loan is kept: so many years after today, cut to the month's last day; at
+/// most the last date.
+Date HorizonDay(Date today, int years);
 
 /// Computes all figures; nothing is kept between calls. A failure of one loan is its result, and
 /// does not raise.

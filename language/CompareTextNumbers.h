@@ -9,4 +9,18 @@ inline constexpr int CompareCurrentLoan = 800;
 inline constexpr int CompareOffer = 801;    ///< %1: the place of an offer without a lender
 inline constexpr int CompareNamesake = 802; ///< %1: the lender, %2: the place of the offer
 
+// Durations and stretches of months; the number of months of each is a duration.
+inline constexpr int CompareMonth = 810;
+inline constexpr int CompareMonths = 811; ///< %1: how many, not used for one
+inline constexpr int CompareYear = 812;
+inline constexpr int CompareYears = 813;          ///< %1: how many, not used for one
+inline constexpr int CompareYearsAndMonths = 814; ///< %1: the years, %2: the months
+inline constexpr int CompareFromTheStart = 815;
+inline constexpr int CompareFromOn = 816;
+inline constexpr int CompareFromTo = 817;
+inline constexpr int CompareUpTo = 818;
+inline constexpr int CompareOnlyAt = 819;
+inline constexpr int CompareNever = 820;
+inline constexpr int CompareNextStretch = 821; ///< %1: one or more stretches, %2: another
+
 } // namespace quend::language::TextNumber

@@ -27,6 +27,7 @@ to sixteen competing offers, and see at once what each costs: the payment,
 the payment with escrow, the payoff date and the total interest.
 
 Offers are sorted by payoff date or interest, kept by name and printed.
+The command quend-compare compares the offers of a file without a window.
 Everything speaks English or Spanish.")
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)

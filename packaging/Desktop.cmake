@@ -1,10 +1,15 @@
-# Desktop integration on free systems: command, menu entry, icon, description, manual page.
+# Desktop integration on free systems: commands, menu entry, icon, description, manual pages.
 set(made "${CMAKE_CURRENT_BINARY_DIR}")
 set(data "${CMAKE_INSTALL_DATADIR}")
 
-file(RELATIVE_PATH from_command "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_PREFIX}/${program_folder}/Loan")
-file(CREATE_LINK "${from_command}" "${made}/quend-loan" SYMBOLIC)
-install(FILES "${made}/quend-loan" DESTINATION "${CMAKE_INSTALL_BINDIR}")
+# link_command(<command> <program>)
+function(link_command command program)
+  file(RELATIVE_PATH from_command "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_PREFIX}/${program_folder}/${program}")
+  file(CREATE_LINK "${from_command}" "${made}/${command}" SYMBOLIC)
+  install(FILES "${made}/${command}" DESTINATION "${CMAKE_INSTALL_BINDIR}")
+endfunction()
+link_command(quend-loan Loan)
+link_command(quend-compare quend-compare)
 
 # The last entry must be for this version; otherwise the number was changed in one place only.
 set(log "${CMAKE_CURRENT_SOURCE_DIR}/debian/changelog")
@@ -44,9 +49,12 @@ endfunction()
 add_custom_target(desktop_files ALL)
 add_dependencies(desktop_files icon_pictures)
 
-foreach(language en es)
-  configure_file(man/${language}.1.in "${made}/${language}.1" @ONLY)
-  pack("${made}/${language}.1" "${made}/${language}.1.gz")
+foreach(command quend-loan quend-compare)
+  foreach(language en es)
+    set(page "${command}.${language}.1")
+    configure_file(man/${page}.in "${made}/${page}" @ONLY)
+    pack("${made}/${page}" "${made}/${page}.gz")
+  endforeach()
+  install(FILES "${made}/${command}.en.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" RENAME ${command}.1.gz)
+  install(FILES "${made}/${command}.es.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/es/man1" RENAME ${command}.1.gz)
 endforeach()
-install(FILES "${made}/en.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" RENAME quend-loan.1.gz)
-install(FILES "${made}/es.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/es/man1" RENAME quend-loan.1.gz)

@@ -20,14 +20,18 @@ _LAYERS: dict[str, tuple[str, ...]] = {
     "storage/registry": ("foundation",),
     "calc":             ("foundation", "language"),
     "comparison":       ("foundation", "language", "calc"),
-    "worksheet/model":  ("foundation", "language", "calc"),
-    "worksheet/window": ("foundation", "language", "calc", "worksheet/model"),
+    "worksheet/model":  ("foundation", "language", "calc", "comparison"),
+    "worksheet/window": ("foundation", "language", "calc", "comparison", "worksheet/model"),
+    "comparison/window": ("foundation", "language", "calc", "comparison", "worksheet/model",
+                          "worksheet/window", "printing"),
+    "comparison/tool":  ("foundation", "language", "calc", "comparison", "worksheet/model",
+                         "comparison/window"),
     "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
                          "storage/registry"),
-    "storage":          ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
-                         "storage/registry"),
+    "storage":          ("foundation", "language", "calc", "comparison", "worksheet/model",
+                         "worksheet/window", "storage/registry"),
 }
 
 # Creates and connects everything, so it may use all.
@@ -35,7 +39,7 @@ _COMPOSITION_ROOT = Path("storage/Main.cpp")
 
 # Layers without a window system.
 _WITHOUT_WIDGETS = ("foundation", "language", "storage/registry", "calc", "comparison",
-                    "worksheet/model")
+                    "worksheet/model", "comparison/tool")
 
 # The private headers of a layer, as its CMakeLists.txt names them.
 _PRIVATE = re.compile(r"PRIVATE_HEADERS\s+([^)]*?)\s+SOURCES")

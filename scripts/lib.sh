@@ -59,8 +59,8 @@ quietly() {
 # Tests mostly wait for windows, so more run at once than there are processors.
 export CTEST_PARALLEL_LEVEL=${CTEST_PARALLEL_LEVEL:-$((3 * $(nproc)))}
 
-# build_program: the program as users run it, in build/release/bin.
+# build_program: the programs as users run them, in build/release/bin.
 build_program() {
     quietly "$log_dir/configure-release.log" cmake --preset release
-    quietly "$log_dir/build-release.log" cmake --build --preset release --target Loan
+    quietly "$log_dir/build-release.log" cmake --build --preset release --target Loan quend-compare
 }

@@ -27,7 +27,7 @@ QString NameOfLoan(const ComparedWorksheet& worksheet, int place) {
         return GetResourceText(TextNumber::CompareOffer).arg(place);
     }
     if (std::ranges::count(worksheet.lenders, lender) > 1) {
-        return GetResourceText(TextNumber::CompareNamesake).arg(lender).arg(place);
+        return GetResourceText(TextNumber::CompareNamesake).arg(lender, QString::number(place));
     }
     return lender;
 }

@@ -196,7 +196,7 @@ TEST_F(Surroundings, FilesAreWhereTheManualSays) {
     ExpectStarts(Start({}));
     ExpectStarts(
         Start({{"XDG_DATA_HOME", BytesOfPath(u"d"_s)}, {"XDG_CONFIG_HOME", BytesOfPath(u"c"_s)}}));
-    for (const char* const page : {"en.1.in", "es.1.in"}) {
+    for (const char* const page : {"quend-loan.en.1.in", "quend-loan.es.1.in"}) {
         QFile manual(QStringLiteral(QUEND_SOURCE_DIR "/packaging/man/") + QLatin1String(page));
         ASSERT_TRUE(manual.open(QIODevice::ReadOnly));
         int files = 0;

@@ -23,4 +23,14 @@ inline constexpr int CompareOnlyAt = 819;
 inline constexpr int CompareNever = 820;
 inline constexpr int CompareNextStretch = 821; ///< %1: one or more stretches, %2: another
 
+// Printing and saving what other windows than the main one show.
+inline constexpr int PrintingDocument = 950; ///< %1: the title of the document
+inline constexpr int PageTooSmall = 951;
+inline constexpr int StillPrinting = 952;
+inline constexpr int FileNoFolder = 953; ///< %1: the path, as of all that follow
+inline constexpr int FileNotAllowed = 954;
+inline constexpr int FileIsNone = 955;
+inline constexpr int FileDiskFull = 956;
+inline constexpr int FileNotSaved = 957; ///< the system's reason follows
+
 } // namespace quend::language::TextNumber

@@ -18,13 +18,15 @@ _LAYERS: dict[str, tuple[str, ...]] = {
     "foundation":       (),
     "language":         ("foundation",),
     "storage/registry": ("foundation",),
+    "printing/pages":   (),
     "calc":             ("foundation", "language"),
     "comparison":       ("foundation", "language", "calc"),
     "worksheet/model":  ("foundation", "language", "calc"),
     "worksheet/window": ("foundation", "language", "calc", "worksheet/model"),
     "comparison/window": ("foundation", "language", "calc", "comparison", "worksheet/model",
-                          "worksheet/window"),
-    "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
+                          "worksheet/window", "printing/pages"),
+    "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
+                         "printing/pages"),
     "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
                          "storage/registry"),
@@ -37,7 +39,7 @@ _COMPOSITION_ROOT = Path("storage/Main.cpp")
 
 # Layers without a window system.
 _WITHOUT_WIDGETS = ("foundation", "language", "storage/registry", "calc", "comparison",
-                    "worksheet/model")
+                    "worksheet/model", "printing/pages")
 
 # The private headers of a layer, as its CMakeLists.txt names them.
 _PRIVATE = re.compile(r"PRIVATE_HEADERS\s+([^)]*?)\s+SOURCES")

@@ -1,5 +1,7 @@
 #include "PageDrawing.h"
 
+#include "FitText.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -55,22 +57,7 @@ QString PageDrawing::FitInto(const QString& text, double width) {
     while (m_font.points > least && TextWidth(text) > width) {
         m_font.points = std::max(least, m_font.points - step);
     }
-    return TextWidth(text) <= width ? text : Shortened(text, width);
-}
-
-/// As much of the start as fits together with "…".
-QString PageDrawing::Shortened(const QString& text, double width) const {
-    const auto withEnd = [&](qsizetype length) { return text.left(length).trimmed() + u'…'; };
-    qsizetype fits = 0;
-    qsizetype tooLong = text.size();
-    while (fits + 1 < tooLong) {
-        const qsizetype middle = fits + (tooLong - fits) / 2;
-        (TextWidth(withEnd(middle)) <= width ? fits : tooLong) = middle;
-    }
-    if (fits > 0 && text.at(fits - 1).isHighSurrogate()) {
-        --fits;
-    }
-    return fits > 0 ? withEnd(fits) : QString();
+    return TextWidth(text) <= width ? text : CutToWidth(text, width, Measure());
 }
 
 void PageDrawing::PrintTextInBox(double left, double top, double width, double height,
@@ -125,6 +112,10 @@ void PageDrawing::PrintAt(QPointF place, const QString& text) {
     if (!text.isEmpty()) {
         Draw(PrintedText{place, text, m_font});
     }
+}
+
+void PageDrawing::PrintPicture(const QRectF& place, const QPicture& picture) {
+    Draw(PrintedPicture{place, picture});
 }
 
 void PageDrawing::NewPage() { m_pages.pages.emplace_back(); }

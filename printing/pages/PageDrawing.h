@@ -1,7 +1,7 @@
 #pragma once
 
+#include "FitText.h"
 #include "PrintedPage.h"
-#include "PrintingNames.h"
 #include "TextMetrics.h"
 
 #include <utility>
@@ -30,7 +30,11 @@ public:
     void SetItalic(bool italic) { m_font.italic = italic; }
     /// In twips, in the current font.
     double TextWidth(const QString& text) const { return m_metrics->Width(m_font, text); }
-    double TextHeight() const { return m_metrics->Height(m_font); }
+    MeasureText Measure() const {
+        return [this](const QString& text) { return TextWidth(text); };
+    }
+    double TextHeight() const { return HeightOf(m_font); }
+    double HeightOf(const PrintFont& font) const { return m_metrics->Height(font); }
 
     void PrintBox(double left, double top, double width, double height);
     void PrintLine(double x1, double y1, double x2, double y2, int penWidth);
@@ -45,6 +49,9 @@ public:
     /// The same at a position in twips, for texts that belong to the page and not to the window.
     void PrintAt(QPointF place, const QString& text);
 
+    /// A recorded picture, scaled into a place in twips.
+    void PrintPicture(const QRectF& place, const QPicture& picture);
+
     /// Fits the text into a width in twips: unchanged, or else in a smaller font, which becomes the
     /// current font, or else shortened.
     QString FitInto(const QString& text, double width);
@@ -52,12 +59,13 @@ public:
     double RoomInBox(double width) const;
 
     void NewPage();
+    /// The title of the document as its file or print job has it; not drawn.
+    void SetTitle(const QString& title) { m_pages.title = title; }
     int PageNumber() const { return static_cast<int>(m_pages.pages.size()); }
     const PrintedPages& Pages() const { return m_pages; }
 
 private:
     void Draw(PrintedItem item) { m_pages.pages.back().items.push_back(std::move(item)); }
-    QString Shortened(const QString& text, double width) const;
     void PrintLineInBox(double left, double right, double y, const QString& text,
                         bool rightAligned);
 

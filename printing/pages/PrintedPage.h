@@ -2,6 +2,7 @@
 
 #include <QLatin1String>
 #include <QLineF>
+#include <QPicture>
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
@@ -48,17 +49,25 @@ struct PrintedText {
     PrintFont font;
 };
 
-using PrintedItem = std::variant<PrintedBox, PrintedLine, PrintedText>;
+/// A recorded drawing in its own colours. Its bounding rectangle is scaled to the place, and
+/// nothing outside is painted.
+struct PrintedPicture {
+    QRectF place;
+    QPicture picture;
+};
 
-/// The items of a page, in drawing order. Black on white.
+using PrintedItem = std::variant<PrintedBox, PrintedLine, PrintedText, PrintedPicture>;
+
+/// The items of a page, in drawing order. Black on white, but for pictures.
 struct PrintedPage {
     std::vector<PrintedItem> items;
 };
 
-/// A report in memory. Nothing of it has been sent to a printer.
+/// A document in memory. Nothing of it has been sent to a printer.
 struct PrintedPages {
     QSizeF space; ///< the printable part of each page
     std::vector<PrintedPage> pages;
+    QString title = {}; ///< of the document; empty for the report, whose job has a fixed name
 };
 
 } // namespace quend::printing

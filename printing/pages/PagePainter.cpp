@@ -1,11 +1,13 @@
 #include "PagePainter.h"
 
 #include <QFont>
+#include <QFontInfo>
 #include <QGlyphRun>
 #include <QImage>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPicture>
 #include <QRawFont>
 #include <QTextLayout>
 
@@ -16,10 +18,10 @@ namespace quend::printing {
 
 namespace {
 
-/// Sized in whole twips, because a size in points would be scaled along with the painter.
-QFont FontOf(const PrintFont& print) {
+/// Sized in whole pixels, because a size in points would be scaled along with the painter.
+QFont FontOf(const PrintFont& print, double pixelsPerPoint = TwipsPerPoint) {
     QFont font(print.family);
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(print.points * TwipsPerPoint))));
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(print.points * pixelsPerPoint))));
     font.setBold(print.bold);
     font.setItalic(print.italic);
     font.setHintingPreference(QFont::PreferNoHinting);
@@ -112,6 +114,25 @@ void Paint(QPainter& painter, const PrintedText& text) {
     }
 }
 
+/// A recorded picture scales itself by the resolution of the device, which is undone here: the
+/// page's unit does not depend on it.
+void Paint(QPainter& painter, const PrintedPicture& drawn) {
+    const QPaintDevice& device = *painter.device();
+    const QRectF from = drawn.picture.boundingRect();
+    if (from.isEmpty()) {
+        return;
+    }
+    painter.save();
+    painter.setClipRect(drawn.place, Qt::IntersectClip);
+    painter.translate(drawn.place.topLeft());
+    painter.scale(drawn.place.width() / from.width(), drawn.place.height() / from.height());
+    painter.translate(-from.topLeft());
+    painter.scale(double{1} * drawn.picture.logicalDpiX() / device.logicalDpiX(),
+                  double{1} * drawn.picture.logicalDpiY() / device.logicalDpiY());
+    painter.drawPicture(0, 0, drawn.picture);
+    painter.restore();
+}
+
 /// Otherwise the next report would be laid out with the font sizes that this one left behind.
 void SetSizesAnew(const PrintedPages& pages) {
     for (const PrintedPage& page : pages.pages) {
@@ -145,6 +166,24 @@ double FontMetrics::Width(const PrintFont& font, const QString& text) const {
 }
 
 double FontMetrics::Height(const PrintFont& font) const { return Of(font).height(); }
+
+QPicture RecordPicture(QSize size, const PrintFont& font,
+                       const std::function<void(QPainter&, const QRectF&)>& paint) {
+    constexpr double unitsPerPoint = PictureUnitsPerInch / TwipsPerInch * TwipsPerPoint;
+    QFont type = FontOf(font, unitsPerPoint);
+    if (type.families().isEmpty()) { // Qt 6.4 fails to record such a font
+        type.setFamily(QFontInfo(type).family());
+    }
+    QPicture picture;
+    QPainter painter(&picture);
+    painter.setPen(Qt::black);
+    painter.setBrush(Qt::NoBrush);
+    painter.setFont(type);
+    paint(painter, QRectF(QPointF(0, 0), size));
+    painter.end();
+    picture.setBoundingRect(QRect(QPoint(0, 0), size));
+    return picture;
+}
 
 void PaintPage(QPainter& painter, const PrintedPage& page) {
     painter.setBrush(Qt::NoBrush);

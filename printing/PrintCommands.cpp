@@ -172,10 +172,9 @@ bool PrintCommands::ExportPdf(const QString& file, const QString& title, const D
         drawing = draw(PaperOf(SpaceOf(layout)));
     }
     const QByteArray pdf =
-        PdfOf(DrawWhole(*drawing),
-              {.title = title,
-               .creator = QString::fromUtf8(VersionRecord::ProductName),
-               .layout = layout});
+        PdfOf(DrawWhole(*drawing), {.title = title,
+                                    .creator = QString::fromUtf8(VersionRecord::ProductName),
+                                    .layout = layout});
     const SaveOutcome outcome =
         pdf.isEmpty() ? SaveOutcome{SaveFault::Failed} : SaveFile(file, pdf);
     error = NotSavedText(file, outcome);

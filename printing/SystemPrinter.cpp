@@ -139,9 +139,7 @@ void PrepareDocument(QPrinter& printer) {
     printer.setPageSize(OwnPageSize(printer));
 }
 
-QSizeF PageSpaceOf(const QPrinter& printer) {
-    return SpaceOf(printer.pageLayout());
-}
+QSizeF PageSpaceOf(const QPrinter& printer) { return SpaceOf(printer.pageLayout()); }
 
 /// If the chosen printer no longer exists, takes the default one.
 QPrinter& SystemPrinter::Chosen() {

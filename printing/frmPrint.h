@@ -51,7 +51,8 @@ public:
     /// The result of sending the document; a cancelled one has no fault.
     const PrintOutcome& Outcome() const { return m_outcome; }
 
-    /// The program is about to quit: sends the document as soon as it is drawn. Cancel keeps working.
+    /// The program is about to quit: sends the document as soon as it is drawn. Cancel keeps
+    /// working.
     void EndSoon();
 
     void reject() override { cmdCancel_Click(); }

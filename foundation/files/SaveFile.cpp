@@ -11,6 +11,20 @@ namespace {
 /// Renaming would replace a device by a file.
 bool IsTaken(const QFileInfo& place) { return place.exists() && !place.isFile(); }
 
+/// A disk that becomes full takes a part first and gives its reason only when asked to take the
+/// rest. Unbuffered, because commit() does not report what it fails to flush.
+bool WriteWhole(QSaveFile& file, const QByteArray& content) {
+    qint64 done = 0;
+    while (done < content.size()) {
+        const qint64 taken = file.write(content.constData() + done, content.size() - done);
+        if (taken <= 0) {
+            return false;
+        }
+        done += taken;
+    }
+    return true;
+}
+
 /// Qt reports most refusals as the same error, so the reason is looked up.
 SaveOutcome OutcomeOf(const QSaveFile& file, const QFileInfo& place) {
     const QFileInfo folder(place.absolutePath());
@@ -34,9 +48,8 @@ SaveOutcome SaveFile(const QString& path, const QByteArray& content) {
         return {SaveFault::NotAFile};
     }
     QSaveFile file(path);
-    // Flushed here, because commit() does not report what it fails to flush.
-    const bool written = file.open(QIODevice::WriteOnly) &&
-                         file.write(content) == content.size() && file.flush();
+    const bool written =
+        file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && WriteWhole(file, content);
     const SaveOutcome refused = OutcomeOf(file, place);
     if (!written) {
         file.cancelWriting();

@@ -21,7 +21,7 @@ struct Paper {
 class Drawing {
 public:
     virtual ~Drawing() = default;
-    /// Whether a page has room for it. Otherwise it is refused, and nothing is drawn.
+    /// Whether a page has space for it. Otherwise it is refused, and nothing is drawn.
     virtual bool Fits() const = 0;
     /// Whether paper in landscape orientation would show it larger or on fewer pages.
     virtual bool PrefersLandscape() const { return false; }

@@ -35,7 +35,7 @@ void PageFlow::PrintLines(const QString& text) {
     const double height = m_page.TextHeight();
     const PrintFont font = m_page.Font();
     for (const QString& line : LinesOfText(text, Width(), m_page.Measure())) {
-        if (height > Room() && !m_fresh) {
+        if (height > SpaceLeft() && !m_fresh) {
             NewPage();
             m_page.SetFont(font);
         }
@@ -61,6 +61,10 @@ void PageFlow::PrintHeading(const QString& text) {
     }
 }
 
+double PageFlow::HeightOfHeading() const {
+    return 2 * Gap() + m_page.HeightOf(TypeOf(HeadingScale, true));
+}
+
 void PageFlow::PrintParagraph(const QString& text) {
     if (!text.isEmpty()) {
         m_page.SetFont(m_font);
@@ -80,11 +84,11 @@ void PageFlow::NewPage() {
     m_page.SetFont(TypeOf(1, true));
     const QString number = QStringLiteral("Page ") + QString::number(m_page.PageNumber());
     const double numberWidth = m_page.TextWidth(number);
-    const double room = Width() - numberWidth - LineHeight();
+    const double space = Width() - numberWidth - LineHeight();
     const QString title = m_title.simplified();
-    m_page.PrintAt({0, 0}, m_page.TextWidth(title) <= room
+    m_page.PrintAt({0, 0}, m_page.TextWidth(title) <= space
                                ? title
-                               : CutToWidth(title, room, m_page.Measure()));
+                               : CutToWidth(title, space, m_page.Measure()));
     m_page.PrintAt({Width() - numberWidth, 0}, number);
     m_page.SetFont(m_font);
     m_top = NextPageTop();
@@ -94,9 +98,8 @@ void PageFlow::NewPage() {
 void PageFlow::PrintLegalNotice() {
     m_page.SetFont({.family = m_font.family, .points = NoticePoints, .italic = true});
     const QString text = m_page.FitInto(m_legalNotice, Width());
-    m_page.PrintAt({(Width() - m_page.TextWidth(text)) / 2,
-                    m_page.ScaleHeight() - m_page.TextHeight()},
-                   text);
+    m_page.PrintAt(
+        {(Width() - m_page.TextWidth(text)) / 2, m_page.ScaleHeight() - m_page.TextHeight()}, text);
     m_page.SetFont(m_font);
 }
 

@@ -17,9 +17,9 @@ public:
     double Width() const { return m_page.ScaleWidth(); }
     double Top() const { return m_top; }
     /// The height that is left on this page.
-    double Room() const { return m_bottom - m_top; }
+    double SpaceLeft() const { return m_bottom - m_top; }
     /// The height that is left on a further page below its title.
-    double RoomOfNextPage() const { return m_bottom - NextPageTop(); }
+    double SpaceOfNextPage() const { return m_bottom - NextPageTop(); }
     /// Whether nothing but the title is on this page.
     bool IsFresh() const { return m_fresh; }
 
@@ -28,6 +28,8 @@ public:
     /// A heading within the page, or a paragraph; pages break between its lines. Blank ones are
     /// left out.
     void PrintHeading(const QString& text);
+    /// Of one line, with the gaps around it.
+    double HeightOfHeading() const;
     void PrintParagraph(const QString& text);
     /// Goes down by a height that has been drawn.
     void Take(double height);

@@ -17,9 +17,9 @@ namespace {
 /// The countries of America that write on Letter although most of them measure in metres; all
 /// others use A4. From Unicode's table of paper sizes.
 constexpr std::array LetterCountries{
-    QLocale::UnitedStates, QLocale::Canada,     QLocale::Mexico,    QLocale::Belize,
-    QLocale::Chile,        QLocale::Colombia,   QLocale::CostaRica, QLocale::ElSalvador,
-    QLocale::Guatemala,    QLocale::Nicaragua,  QLocale::Panama,    QLocale::Philippines,
+    QLocale::UnitedStates, QLocale::Canada,    QLocale::Mexico,    QLocale::Belize,
+    QLocale::Chile,        QLocale::Colombia,  QLocale::CostaRica, QLocale::ElSalvador,
+    QLocale::Guatemala,    QLocale::Nicaragua, QLocale::Panama,    QLocale::Philippines,
     QLocale::PuertoRico,   QLocale::Venezuela,
 };
 
@@ -42,9 +42,9 @@ QSizeF SpaceOf(const QPageLayout& layout) {
 
 QPageLayout PageOfFile(const QLocale& locale, QPageLayout::Orientation orientation) {
     constexpr double margin = 36; // points
-    const bool letter = std::ranges::find(LetterCountries, locale.territory()) !=
-                            LetterCountries.end() ||
-                        locale.measurementSystem() == QLocale::ImperialUSSystem;
+    const bool letter =
+        std::ranges::find(LetterCountries, locale.territory()) != LetterCountries.end() ||
+        locale.measurementSystem() == QLocale::ImperialUSSystem;
     return {QPageSize(letter ? QPageSize::Letter : QPageSize::A4), orientation,
             QMarginsF(margin, margin, margin, margin)};
 }

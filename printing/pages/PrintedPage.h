@@ -49,8 +49,8 @@ struct PrintedText {
     PrintFont font;
 };
 
-/// A recorded drawing in its own colours. Its bounding rectangle is scaled to the place, and nothing
-/// outside is painted.
+/// A recorded drawing in its own colours. Its bounding rectangle is scaled to the place, and
+/// nothing outside is painted.
 struct PrintedPicture {
     QRectF place;
     QPicture picture;

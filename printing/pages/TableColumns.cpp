@@ -75,9 +75,9 @@ double SmallestType(const Paper& paper) { return std::min(LegiblePoints, paper.f
 double FittingPoints(const std::vector<Extent>& extents, const Paper& paper) {
     const double padding = 2 * CellPadding * static_cast<double>(extents.size());
     const double texts = std::max(Tolerance, LeastWidth(extents) - padding);
-    const double room = paper.space.width() - padding;
+    const double space = paper.space.width() - padding;
     constexpr double margin = 0.99; // type has no exact sizes
-    const double points = paper.font.points * margin * std::max(0.0, room) / texts;
+    const double points = paper.font.points * margin * std::max(0.0, space) / texts;
     return std::clamp(points, SmallestType(paper), paper.font.points);
 }
 
@@ -112,8 +112,7 @@ ColumnGroup Placed(const std::vector<std::size_t>& columns, const std::vector<Ex
     double left = 0;
     for (const std::size_t column : columns) {
         const Extent& extent = extents.at(column);
-        const double width =
-            (extent.least + part * (extent.natural - extent.least)) * stretch;
+        const double width = (extent.least + part * (extent.natural - extent.least)) * stretch;
         group.push_back({.column = column, .left = left, .width = width});
         left += width;
     }

@@ -21,7 +21,7 @@ using ColumnGroup = std::vector<ColumnPlace>;
 struct TableColumns {
     PrintFont font;
     std::vector<ColumnGroup> groups = {}; ///< empty for a table without headings
-    bool shrunk = false;             ///< in smaller type than the paper's, or in several groups
+    bool shrunk = false; ///< in smaller type than the paper's, or in several groups
 };
 
 /// Between the edge of a column and its text, in twips.

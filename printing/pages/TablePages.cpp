@@ -72,10 +72,10 @@ TableDrawing::TableDrawing(PictureOnPaper document, const Paper& paper)
       m_cells(m_document.table, m_paper, m_columns), m_flow(m_paper, m_document.title) {}
 
 bool TableDrawing::Fits() const {
-    const double room = m_flow.RoomOfNextPage();
-    const double side = std::min(m_flow.Width(), room);
-    return room >= m_cells.MostHeight() && (!m_document.paint || side >= LeastPictureSide) &&
-           m_cells.Fit(room);
+    const double space = m_flow.SpaceOfNextPage();
+    const double side = std::min(m_flow.Width(), space);
+    return space >= m_cells.MostHeight() && (!m_document.paint || side >= LeastPictureSide) &&
+           m_cells.Fit(space);
 }
 
 bool TableDrawing::DrawNext() {
@@ -108,25 +108,33 @@ void TableDrawing::PrintPicture() {
     constexpr double unit = TwipsPerInch / PictureUnitsPerInch;
     const double width = std::floor(m_flow.Width() / unit);
     const double height = std::floor(width * PictureHeight);
-    if (m_flow.Room() < height * unit * LeastPictureHeight && m_flow.RoomOfNextPage() > m_flow.Room()) {
+    if (m_flow.SpaceLeft() < height * unit * LeastPictureHeight &&
+        m_flow.SpaceOfNextPage() > m_flow.SpaceLeft()) {
         m_flow.NewPage();
     }
-    const QSizeF size(width, std::min(height, std::floor(m_flow.Room() / unit)));
+    const QSizeF size(width, std::min(height, std::floor(m_flow.SpaceLeft() / unit)));
     m_flow.Page().PrintPicture(QRectF(QPointF(0, m_flow.Top()), size * unit),
                                RecordPicture(size.toSize(), m_paper.font, m_document.paint));
     m_flow.Take(size.height() * unit);
 }
 
+/// Neither its title nor its headings are the last thing on a page.
 void TableDrawing::BeginTable() {
-    m_flow.PrintHeading(Table().title);
+    const double first = Table().rows.empty() ? 0 : m_cells.HeightOf(m_cells.Row(Group(), 0));
+    const double least = m_cells.HeightOf(m_cells.Headings(Group())) + first;
+    const auto ensureSpace = [&](double height) {
+        if (height > m_flow.SpaceLeft() && !m_flow.IsFresh()) {
+            m_flow.NewPage();
+        }
+    };
+    if (!Table().title.isEmpty()) {
+        ensureSpace(least + m_flow.HeightOfHeading());
+        m_flow.PrintHeading(Table().title);
+    }
     for (const QString& paragraph : Table().paragraphs) {
         m_flow.PrintParagraph(paragraph);
     }
-    const double first = Table().rows.empty() ? 0 : m_cells.HeightOf(m_cells.Row(Group(), 0));
-    if (m_cells.HeightOf(m_cells.Headings(Group())) + first > m_flow.Room() &&
-        !m_flow.IsFresh()) {
-        m_flow.NewPage();
-    }
+    ensureSpace(least);
     PrintHeadings();
 }
 
@@ -137,7 +145,7 @@ void TableDrawing::PrintHeadings() {
 
 void TableDrawing::PrintRow() {
     const CellRow cells = m_cells.Row(Group(), m_row);
-    if (m_cells.HeightOf(cells) > m_flow.Room()) {
+    if (m_cells.HeightOf(cells) > m_flow.SpaceLeft()) {
         m_flow.NewPage();
         PrintHeadings();
     }
@@ -164,8 +172,7 @@ void TableDrawing::PrintCells(const CellRow& cells, bool headings) {
     for (std::size_t at = 0; at < cells.size(); ++at) {
         const ColumnPlace& place = Group().at(at);
         const bool right = IsRightAligned(Table(), place.column);
-        m_flow.Page().SetFont(
-            m_cells.Font(headings || IsBold(Table(), {m_row, place.column})));
+        m_flow.Page().SetFont(m_cells.Font(headings || IsBold(Table(), {m_row, place.column})));
         double y = m_flow.Top() + TableCells::Padding;
         if (headings) {
             y = m_flow.Top() + height - TableCells::Padding -

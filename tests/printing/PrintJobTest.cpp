@@ -35,7 +35,8 @@ protected:
             frmPrint::Job{
                 .message = GetResourceText(TextNumber::Printing) + QStringLiteral("%1..."),
                 .name = loanName,
-                .drawing = std::make_unique<Report>(SampleForm(1), QSizeF(20000, 20000), m_metrics)},
+                .drawing =
+                    std::make_unique<Report>(SampleForm(1), QSizeF(20000, 20000), m_metrics)},
             m_printer, frmPrint::Pace{.shownAtLeast = shownAtLeast, .yield = std::move(yield)});
         m_ended = std::make_unique<QSignalSpy>(m_job.get(), &frmPrint::Unloaded);
         m_job->show();

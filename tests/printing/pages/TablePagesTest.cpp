@@ -226,7 +226,8 @@ TEST(TablePages, AWideTableWantsALandscapePage) {
         double width;
         int columns;
         bool landscape;
-    } const table[]{{9000, 2, false}, {1500, 3, false}, {1200, 3, true}, {1000, 6, true}, {1000, 0, false}};
+    } const table[]{
+        {9000, 2, false}, {1500, 3, false}, {1200, 3, true}, {1000, 6, true}, {1000, 0, false}};
     for (const auto& row : table) {
         const auto drawing = DrawingOf(TableOf(1, row.columns), PaperOf({row.width, 9000}));
         EXPECT_EQ(drawing->PrefersLandscape(), row.landscape) << row.width << ' ' << row.columns;
@@ -242,8 +243,8 @@ struct Squeezed {
 TEST(TablePages, HostileTablesEnd) {
     TableOnPaper table = TableOf(30, 12);
     table.title = QStringLiteral("A title of many words ").repeated(20);
-    table.paragraphs << QString() << QStringLiteral("sentence ").repeated(300)
-                     << QString(500, u'M') << QStringLiteral("one\ntwo\r\nthree\tfour");
+    table.paragraphs << QString() << QStringLiteral("sentence ").repeated(300) << QString(500, u'M')
+                     << QStringLiteral("one\ntwo\r\nthree\tfour");
     table.headings[3] = QString(200, u'H');
     table.headings[4] = QString();
     table.rightAligned.resize(5);
@@ -253,15 +254,13 @@ TEST(TablePages, HostileTablesEnd) {
     table.rows.at(4) << QStringLiteral("surplus");
     table.bold = {{1000, 1000}, {2, 5}, {2, 5}};
     const Squeezed pages[]{
-        {{11520, 15120}, true}, {{15120, 11520}, true}, {{5000, 6000}, true},
-        {{1000, 9000}, true},   {{900, 9000}, false},   {{9000, 1300}, false},
-        {{9000, 0}, false},     {{0, 9000}, false},     {{0, 0}, false},
-        {{-5, -5}, false},
+        {{11520, 15120}, true}, {{15120, 11520}, true}, {{5000, 6000}, true}, {{1000, 9000}, true},
+        {{900, 9000}, false},   {{9000, 1300}, false},  {{9000, 0}, false},   {{0, 9000}, false},
+        {{0, 0}, false},        {{-5, -5}, false},
     };
     for (const Squeezed& page : pages) {
         const auto drawing = DrawingOf(table, PaperOf(page.space));
-        EXPECT_EQ(drawing->Fits(), page.fits)
-            << page.space.width() << ' ' << page.space.height();
+        EXPECT_EQ(drawing->Fits(), page.fits) << page.space.width() << ' ' << page.space.height();
         const PrintedPages drawn = DrawWhole(*drawing);
         EXPECT_LT(drawn.pages.size(), 10000U);
         if (page.fits) {
@@ -271,12 +270,11 @@ TEST(TablePages, HostileTablesEnd) {
 }
 
 PictureOnPaper Chart(const TableOnPaper& table = {}) {
-    return {.title = QStringLiteral("Chart"),
-            .paragraphs = {QStringLiteral("Said")},
-            .paint = [](QPainter& painter, const QRectF& place) {
-                painter.fillRect(place, Qt::red);
-            },
-            .table = table};
+    return {
+        .title = QStringLiteral("Chart"),
+        .paragraphs = {QStringLiteral("Said")},
+        .paint = [](QPainter& painter, const QRectF& place) { painter.fillRect(place, Qt::red); },
+        .table = table};
 }
 
 TEST(PicturePages, APictureIsAsWideAsThePage) {
@@ -318,8 +316,11 @@ TEST(PicturePages, ATableFollowsUnderItsOwnTitle) {
 }
 
 TEST(PicturePages, NeedsAnInchEachWay) {
-    const Squeezed pages[]{{{9600, 12000}, true}, {{1440, 2400}, true}, {{1400, 9000}, false},
-                           {{9000, 1900}, false}, {{0, 0}, false}};
+    const Squeezed pages[]{{{9600, 12000}, true},
+                           {{1440, 2400}, true},
+                           {{1400, 9000}, false},
+                           {{9000, 1900}, false},
+                           {{0, 0}, false}};
     for (const Squeezed& page : pages) {
         EXPECT_EQ(DrawingOf(Chart(), PaperOf(page.space))->Fits(), page.fits)
             << page.space.width() << ' ' << page.space.height();

@@ -87,15 +87,15 @@ void SchedulePeriod(benchmark::State& state, std::size_t row) {
 void RecalculateOffers(benchmark::State& state, std::size_t row) {
     RecordingLoanContext context;
     context.escrowMonthly = Money::FromDouble(250.0);
-    std::vector<CLoan> offers(static_cast<std::size_t>(state.range(0)), CLoan(context));
-    double rate = 0.05;
-    for (CLoan& offer : offers) {
-        offer.SetStartingAmount(Money::FromDouble(100'000.0));
-        offer.SetPoints(Percent::FromPercent(1.25));
-        offer.SetFinancePoints(true);
-        offer.SetTerm(Months{360});
-        offer.SetInterestRate(Rate::FromFraction(rate += 0.00125));
-        offer.SetFrequencyCode(Frequencies.at(row).Code());
+    std::vector<CLoan> offers;
+    for (int number = 1; number <= state.range(0); ++number) {
+        offers.push_back(MakeOffer(context, {.startingAmount = Money::FromDouble(100'000.0),
+                                             .points = Percent::FromPercent(1.25),
+                                             .financePoints = true,
+                                             .term = {360},
+                                             .rate = Rate::FromFraction(0.05 + number * 0.00125),
+                                             .frequency = Frequencies.at(row).Code(),
+                                             .actualPayment = {}}));
     }
     for ([[maybe_unused]] auto turn : state) {
         for (CLoan& offer : offers) {
@@ -130,14 +130,7 @@ double SlowestAnswerTo(const HostileLoan& loan) {
     RecordingLoanContext context;
     context.escrowMonthly = loan.escrowMonthly;
     context.today = loan.start;
-    CLoan offer(context);
-    // While the other inputs are missing, any payment is accepted, however low.
-    offer.SetActualPayment(loan.actualPayment);
-    offer.SetStartingAmount(loan.amount);
-    offer.SetPoints(loan.points);
-    offer.SetTerm(loan.term);
-    offer.SetInterestRate(loan.rate);
-    offer.SetFrequencyCode(loan.code);
+    CLoan offer = MakeOffer(context, loan.Offer());
     return std::max({MillisecondsOf([&loan] { return RunSchedule(loan.Terms()); }),
                      MillisecondsOf([&offer] { return offer.PayoffDate(); }),
                      MillisecondsOf([&offer] { return offer.Payment(); }),

@@ -78,4 +78,18 @@ Date CLoan::PayoffDate() {
     return payoff.date;
 }
 
+CLoan MakeOffer(LoanContext& context, const OfferValues& values) {
+    CLoan offer(context);
+    // First, while there is no payment to refuse it by.
+    offer.SetActualPayment(values.actualPayment);
+    offer.SetStartingAmount(values.startingAmount);
+    offer.SetPoints(values.points);
+    offer.SetFinancePoints(values.financePoints);
+    // Before the rate, which sets a missing one.
+    offer.SetTerm(values.term);
+    offer.SetInterestRate(values.rate);
+    offer.SetFrequencyCode(values.frequency);
+    return offer;
+}
+
 } // namespace quend::calc

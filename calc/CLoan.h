@@ -30,6 +30,17 @@ public:
     virtual void PaymentRefused() = 0;
 };
 
+/// What is entered for an offer and its worksheet's amount.
+struct OfferValues {
+    Money startingAmount;
+    Percent points;
+    bool financePoints = false;
+    Months term;
+    Rate rate;
+    FrequencyCode frequency;
+    Money actualPayment;
+};
+
 /// One loan offer: its inputs, and the payment, payoff date and interest that follow from them.
 /// It shows no message and does not know its row. Results are computed when read, not cached. The
 /// context must outlive it.
@@ -50,6 +61,10 @@ public:
     void SetFinanceClosingCosts(bool finance) { Change(m_financeClosingCosts, finance); }
     Money ClosingCosts() const { return m_closingCosts; }
     void SetClosingCosts(Money costs) { Change(m_closingCosts, costs); }
+    /// What the lender charges besides points, paid in cash; negative for a credit. No result
+    /// depends on it.
+    Money Costs() const { return m_costs; }
+    void SetCosts(Money costs) { Change(m_costs, costs); }
     void SetStartingAmount(Money amount) { m_startingAmount = amount; }
     Months Term() const { return m_term; }
     void SetTerm(Months term) { Change(m_term, term); }
@@ -108,6 +123,7 @@ private:
     Percent m_points;
     bool m_financeClosingCosts = false;
     Money m_closingCosts;
+    Money m_costs;
     Money m_startingAmount;
     Months m_term;
     Rate m_interestRate;
@@ -117,5 +133,9 @@ private:
     Money m_interest;
     QString m_who;
 };
+
+/// An offer with these values. A nonzero rate without a term gives it the default term; the actual
+/// payment is stored however low it is. The context must outlive the offer.
+CLoan MakeOffer(LoanContext& context, const OfferValues& values);
 
 } // namespace quend::calc

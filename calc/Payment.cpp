@@ -17,4 +17,8 @@ Money PrincipalAndInterest(Money principal, Rate rate, Months term, const Freque
     return Money::FromDoubleInCents(principal.ToDouble() / annuity);
 }
 
+Money MonthlyEscrow(Money annualTaxes, Money annualInsurance) {
+    return Money::FromDoubleInCents((annualTaxes + annualInsurance).ToDouble() / MonthsPerYear);
+}
+
 } // namespace quend::calc

@@ -12,4 +12,8 @@ namespace quend::calc {
 /// range.
 Money PrincipalAndInterest(Money principal, Rate rate, Months term, const FrequencyCode& code);
 
+/// The escrow of a month for the taxes and the insurance of a year, to the nearest cent, halves to
+/// even. Raises OverflowFailure if their sum is outside the range of money.
+Money MonthlyEscrow(Money annualTaxes, Money annualInsurance);
+
 } // namespace quend::calc

@@ -12,18 +12,6 @@ Date PlusDays(Date day, int days) {
     return Date::FromDays(std::clamp(day.Days() + days, earliest, latest));
 }
 
-Date OnePeriodBefore(Date day, const Frequency& frequency) {
-    switch (frequency.step) {
-    case DateStep::Month:
-        return MonthAfter(day, -1);
-    case DateStep::HalfMonth:
-        return PlusDays(day, -15);
-    case DateStep::Days:
-        break;
-    }
-    return PlusDays(day, -frequency.interestParts);
-}
-
 } // namespace
 
 Date MonthAfter(Date day, int months) {
@@ -39,6 +27,18 @@ Date MonthAfter(Date day, int months) {
     return Date::FromCalendar(
         static_cast<int>(month.year()), static_cast<int>(static_cast<unsigned>(month.month())),
         static_cast<int>(static_cast<unsigned>(std::min(calendar.day(), last))));
+}
+
+Date OnePeriodBefore(Date day, const Frequency& frequency) {
+    switch (frequency.step) {
+    case DateStep::Month:
+        return MonthAfter(day, -1);
+    case DateStep::HalfMonth:
+        return PlusDays(day, -15);
+    case DateStep::Days:
+        break;
+    }
+    return PlusDays(day, -frequency.interestParts);
 }
 
 AccrualPeriods::AccrualPeriods(const DatedLoan& loan)

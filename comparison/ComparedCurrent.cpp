@@ -52,7 +52,7 @@ void RunCompared(const ComparisonInput& input, ComparedCurrent& current) {
     current.result->costByHorizon = current.costs->By(horizon);
     current.result->balanceAtHorizon = current.costs->balanceAtHorizon;
     current.result->paymentForHorizon =
-        LeastPaymentUntil(*current.loan, MonthAfter(input.today, horizon), LeastOfCurrent);
+        LeastPaymentUntil(*current.loan, HorizonDay(input.today, input.years), LeastOfCurrent);
 }
 
 } // namespace

@@ -35,18 +35,14 @@ private:
     const ComparisonInput* m_input;
 };
 
-/// The intended payment first, while there is nothing to refuse it by; the term before the rate,
-/// which sets a missing one.
-CLoan ToLoan(LoanContext& context, const ComparisonInput& input, const OfferInput& offer) {
-    CLoan loan(context);
-    loan.SetActualPayment(offer.actualPayment);
-    loan.SetStartingAmount(input.amount);
-    loan.SetPoints(offer.points);
-    loan.SetFinancePoints(offer.pointsFinanced);
-    loan.SetTerm(offer.term);
-    loan.SetInterestRate(offer.rate);
-    loan.SetFrequencyCode(offer.frequency);
-    return loan;
+OfferValues ValuesOf(const ComparisonInput& input, const OfferInput& offer) {
+    return {.startingAmount = input.amount,
+            .points = offer.points,
+            .financePoints = offer.pointsFinanced,
+            .term = offer.term,
+            .rate = offer.rate,
+            .frequency = offer.frequency,
+            .actualPayment = offer.actualPayment};
 }
 
 /// As the main window shows the offer; stops at the first result that is outside its range.
@@ -113,7 +109,7 @@ std::optional<double> PeriodRate(const Payoff& payoff, Money payment, Money rece
 ComparedOffer::ComparedOffer(const ComparisonInput& input, const OfferInput& offer)
     : m_input(&input), m_offer(&offer), m_frequency(FindFrequency(offer.frequency)) {
     InputContext context(input);
-    CLoan loan = ToLoan(context, input, offer);
+    CLoan loan = MakeOffer(context, ValuesOf(input, offer));
     Fill(m_result, loan);
     m_term = loan.Term();
     m_result.leftOut = FindLeftOut();
@@ -211,7 +207,7 @@ OfferComparison ComparedOffer::Finish(const CostByMonth* current, int months, Mo
     if (m_figures.costByHorizon > cheapest) {
         m_figures.rateToMatch = FindRateToMatch(cheapest);
     }
-    m_figures.paymentForHorizon = LeastPaymentBy(HorizonDay());
+    m_figures.paymentForHorizon = LeastPaymentBy(HorizonDay(m_input->today, m_input->years));
     m_result.figures = m_figures;
     return m_result;
 }
@@ -282,7 +278,7 @@ bool ComparedOffer::CostsNoMoreAt(Rate rate, Money most) const {
         const bool intends = m_result.actualPayment > *m_result.payment;
         const Money payment =
             PaymentCompared(pAndI + m_escrowShare, intends ? m_result.actualPayment : Money());
-        const Date horizon = HorizonDay();
+        const Date horizon = HorizonDay(m_input->today, m_input->years);
         const std::optional<Money> interest =
             AccruedInterest(Loan(rate, payment), m_input->today, horizon);
         return interest && m_closing + *interest <= most;
@@ -295,7 +291,7 @@ std::optional<RequiredAmounts> RequiredPayment(const ComparisonInput& input,
                                                const OfferInput& offer) {
     InputContext context(input);
     try {
-        const CLoan loan = ToLoan(context, input, offer);
+        const CLoan loan = MakeOffer(context, ValuesOf(input, offer));
         if (loan.InterestRate().IsZero() || loan.Term().IsZero() ||
             FindFrequency(loan.FrequencyCode()) == nullptr) {
             return std::nullopt;

@@ -30,7 +30,6 @@ public:
 
 private:
     int Horizon() const { return m_input->years * MonthsPerYear; }
-    Date HorizonDay() const { return MonthAfter(m_input->today, Horizon()); }
     LeftOut FindLeftOut() const;
     void RunCompared();
     void ComputeAmounts();

@@ -44,6 +44,8 @@ std::vector<PlacedCosts> ThatTakePart(const std::vector<ComparedOffer>& offers) 
 
 } // namespace
 
+Date HorizonDay(Date today, int years) { return MonthAfter(today, years * MonthsPerYear); }
+
 ComparisonResult Compare(const ComparisonInput& input) {
     std::vector<ComparedOffer> offers;
     offers.reserve(input.offers.size());

@@ -44,10 +44,13 @@ struct CurrentLoanInput {
     friend bool operator==(const CurrentLoanInput&, const CurrentLoanInput&) = default;
 };
 
+/// The longest time for which a loan is kept.
+inline constexpr int MostYears = 50;
+
 /// Rates and terms are zero or more.
 struct ComparisonInput {
     Date today{};
-    int years = 5; ///< how long the loan is kept, from 1 to 50
+    int years = 5; ///< how long the loan is kept, from 1 to MostYears
     PaymentChoice choice = PaymentChoice::Intended;
     Money monthlyPayment{}; ///< principal and interest a month, for PaymentChoice::Monthly
     Money amount{};
@@ -71,6 +74,8 @@ struct CheaperStretch {
 struct CheapestOffer {
     int fromMonth = 0;
     int offer = 0; ///< place, from 1
+
+    friend bool operator==(const CheapestOffer&, const CheapestOffer&) = default;
 };
 
 /// The figures of an offer that takes part.
@@ -93,6 +98,8 @@ struct OfferFigures {
     std::optional<Rate> rateToMatch;
     /// The least payment in whole cents with which nothing is owed at the horizon.
     std::optional<Money> paymentForHorizon;
+
+    friend bool operator==(const OfferFigures&, const OfferFigures&) = default;
 };
 
 /// An offer as the main window shows it, and its figures. A value is none where it could not be
@@ -109,6 +116,8 @@ struct OfferComparison {
     bool overflow = false; ///< a value is outside its range, or the schedule never ends
     LeftOut leftOut = LeftOut::No;
     std::optional<OfferFigures> figures; ///< none where it is left out
+
+    friend bool operator==(const OfferComparison&, const OfferComparison&) = default;
 };
 
 /// Further figures of the loan held today, as those of an offer.
@@ -117,6 +126,8 @@ struct CurrentLoanFigures {
     Money monthlyEquivalent;
     Money totalCost; ///< the interest from today on
     Date payoff;
+
+    friend bool operator==(const CurrentLoanFigures&, const CurrentLoanFigures&) = default;
 };
 
 struct CurrentLoanComparison {
@@ -130,6 +141,8 @@ struct CurrentLoanComparison {
     std::optional<Money> balanceAtHorizon;
     std::optional<Money> paymentForHorizon;
     std::optional<CurrentLoanFigures> figures;
+
+    friend bool operator==(const CurrentLoanComparison&, const CurrentLoanComparison&) = default;
 };
 
 struct ComparisonResult {
@@ -138,7 +151,13 @@ struct ComparisonResult {
     std::vector<CheapestOffer> cheapest;
     std::optional<int> cheapestByHorizon;         ///< place, from 1; none where no offer takes part
     std::optional<CurrentLoanComparison> current; ///< none where there is no such loan
+
+    friend bool operator==(const ComparisonResult&, const ComparisonResult&) = default;
 };
+
+/// The day up to which a loan is kept: so many years after today, cut to the month's last day; at
+/// most the last date.
+Date HorizonDay(Date today, int years);
 
 /// Computes all figures; nothing is kept between calls. A failure of one loan is its result, and
 /// does not raise.

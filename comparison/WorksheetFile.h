@@ -36,7 +36,7 @@ struct WorksheetInFile {
 struct ComparisonRequest {
     WorksheetInFile worksheet;
     std::optional<Date> today;
-    std::optional<int> years; ///< 1 to 50
+    std::optional<int> years; ///< 1 to MostYears
     std::optional<PaymentChoice> payments;
     Money monthlyPayment; ///< for PaymentChoice::Monthly
 };
@@ -73,15 +73,20 @@ struct ReadResult {
 };
 
 /// Reads a worksheet, or an object with one as its member "worksheet" and what else a request has.
-/// Nothing is taken from a file with an error. Raises nothing. The cost is linear in the bytes.
+/// Nothing is taken from a file with an error; taxes and insurance that add up to more than the
+/// range of money are one (OutOfRange, of the latter member). An unknown member is passed over,
+/// null is as if missing; in the list of offers it is a blank one, which keeps its place. Raises
+/// nothing. The cost is linear in the bytes.
 ReadResult<ComparisonRequest> ReadRequest(const QByteArray& json);
 
-/// As text for people and programs, indented; reading it gives the same worksheet. Raises nothing.
+/// As text for people and programs, indented. Reading it gives the same worksheet, if it holds only
+/// what a file may hold: what ReadRequest refuses (a negative rate, too many offers) is written as
+/// it is, a rate or points that are no number as null. Raises nothing.
 QByteArray WriteWorksheet(const WorksheetInFile& worksheet);
 
 /// The input of a comparison. What the request does not say is today as given, 5 years and the
-/// intended payments. Raises OverflowFailure where taxes and insurance add up to more than the
-/// range of money.
+/// intended payments. Raises nothing for a request that was read; otherwise OverflowFailure where
+/// taxes and insurance add up to more than the range of money.
 ComparisonInput ToInput(const ComparisonRequest& request, Date today);
 
 } // namespace quend::comparison

@@ -82,5 +82,110 @@ inline constexpr int DiskFull = 946;       ///< %1: the file
 inline constexpr int MayNotWrite = 947;    ///< %1: the file
 inline constexpr int FolderMissing = 948;  ///< %1: the file
 inline constexpr int FileNotWritten = 949; ///< %1: the file, %2: the reason in the system's words
+// The answer. A kept time is a duration; amounts are costs until then, or how much less or more.
+inline constexpr int CompareOnlyOffer = 822;  ///< %1: kept, %2: offer, %3: cost
+inline constexpr int CompareLeast = 823;      ///< as above, %4: how much less than %5
+inline constexpr int CompareLeastTie = 824;   ///< as above, %4: the other offer
+inline constexpr int CompareLeastOfAll = 825; ///< as Least, %6: how much less than the current loan
+inline constexpr int CompareCurrentAsMuch = 826; ///< follows one of those above
+inline constexpr int CompareCurrentMore = 827;   ///< follows one of those above; %1: how much more
+inline constexpr int CompareCurrentLeast = 828;  ///< %1: kept, %2: cost, %3: how much less than %4
+inline constexpr int CompareCurrentLess = 829;   ///< the same where there is one offer
+inline constexpr int CompareOffersLeast = 830;   ///< %1: offer, %2: cost, %3: how much less than %4
+inline constexpr int CompareOffersTie = 831;     ///< %1: offer, %2: cost, %3: the other offer
+inline constexpr int CompareOfferCosts = 832;    ///< %1: offer, %2: cost
+inline constexpr int CompareCurrentAlone = 833;  ///< %1: kept, %2: cost
+inline constexpr int CompareEnterAmount = 834;
+inline constexpr int CompareEnterOffers = 835;
+inline constexpr int CompareNoneComplete = 836;
+
+// Other stretches of time: durations, then the offer.
+inline constexpr int CompareCheapestUpTo = 837;
+inline constexpr int CompareCheapestBetween = 838;
+inline constexpr int CompareCheapestFromOn = 839;
+inline constexpr int CompareCheapestAt = 840;
+inline constexpr int CompareHardlyMore = 841;        ///< %1: offer
+inline constexpr int CompareNoMoreThanCurrent = 842; ///< %1: offer, %2: the stretches
+inline constexpr int CompareAlwaysMore = 843;        ///< %1: offer
+inline constexpr int CompareAlwaysLess = 844;        ///< %1: offer
+
+// What else matters for the answer.
+inline constexpr int CompareBorrowMore = 845;        ///< %1: how much more
+inline constexpr int CompareBorrowLess = 846;        ///< %1: how much less
+inline constexpr int CompareAccruesFrom = 847;       ///< %1: the day, %2: that of the next payment
+inline constexpr int CompareNextPaymentPassed = 848; ///< %1: the day
+inline constexpr int ComparePaysMore = 849;          ///< %1: offer, %2: amount
+
+// Why a loan is left out, after its name %1.
+inline constexpr int CompareNoAmount = 850;
+inline constexpr int CompareNoRate = 851; ///< %2: a rate of zero
+inline constexpr int CompareNoFrequency = 852;
+inline constexpr int CompareNoTerm = 853;
+inline constexpr int CompareNoPayment = 854;
+inline constexpr int CompareTooLarge = 855;
+inline constexpr int CompareNeverEnds = 856;
+inline constexpr int CompareNeverEndsEnough = 857;    ///< %2: payment
+inline constexpr int CompareNeverEndsEnoughFor = 858; ///< %2: payment, %3: payment by %4
+inline constexpr int CompareNoBalance = 859;
+inline constexpr int CompareNoActualPayment = 860;
+inline constexpr int CompareNoActualFrequency = 861;
+inline constexpr int CompareEnough = 862;    ///< %1: payment
+inline constexpr int CompareEnoughFor = 863; ///< %1: payment, %2: payment by %3
+
+// How a figure came about. %1 is the offer; texts of the loan held today name it themselves.
+inline constexpr int CompareOfferTerms = 1000; ///< %2: amount, %3: rate, %4: term, %5: payments
+inline constexpr int CompareCurrentTerms = 1001;
+inline constexpr int CompareMonthlyOfOffer = 1002;
+inline constexpr int CompareMonthlyOfCurrent = 1003;
+inline constexpr int CompareRequires = 1004; ///< %4: the sum
+inline constexpr int CompareRequiresNoEscrow = 1005;
+inline constexpr int CompareIntended = 1006;
+inline constexpr int CompareRaisedTo = 1007;
+inline constexpr int CompareSameForOffer = 1008; ///< %6: with escrow %5
+inline constexpr int CompareActualOfCurrent = 1009;
+inline constexpr int CompareSameForCurrent = 1010; ///< as SameForOffer without %1
+inline constexpr int CompareUpfrontPoints = 1011;
+inline constexpr int CompareUpfrontFinanced = 1012;
+inline constexpr int CompareUpfrontCosts = 1013;
+inline constexpr int CompareCostsEntered = 1014;
+inline constexpr int CompareApr = 1015;      ///< %2: received, %3 times %4, %5: the last, %6: rate
+inline constexpr int CompareAprOfTwo = 1016; ///< as above without %3
+inline constexpr int CompareAprOfOne = 1017;
+inline constexpr int CompareAprNothing = 1018;
+inline constexpr int CompareAprLess = 1019;
+inline constexpr int CompareAprTooHigh = 1020;
+inline constexpr int CompareAprEndless = 1021;
+inline constexpr int CompareEffective = 1022;
+inline constexpr int CompareEffectiveNone = 1023;
+inline constexpr int CompareCostOfOffer = 1024; ///< %2: kept, %3: cost
+inline constexpr int CompareCostOfCurrent = 1025;
+inline constexpr int CompareBalanceOfOffer = 1026; ///< %2: kept
+inline constexpr int CompareBalanceOfOfferZero = 1027;
+inline constexpr int CompareBalanceOfCurrent = 1028;
+inline constexpr int CompareBalanceOfCurrentZero = 1029;
+inline constexpr int CompareTotalOfOffer = 1030;
+inline constexpr int CompareTotalOfCurrent = 1031;
+inline constexpr int ComparePayoffOfOffer = 1032; ///< %3 payments from %4 on, %6: the last
+inline constexpr int ComparePayoffOfOfferAtOnce = 1033;
+inline constexpr int ComparePayoffOfCurrent = 1034; ///< as PayoffOfOffer without %1
+inline constexpr int ComparePayoffOfCurrentAtOnce = 1035;
+inline constexpr int CompareInterestSaved = 1036; ///< %4: interest, %5: with the required payment
+inline constexpr int ComparePaymentsSaved = 1037; ///< %4: payments, %5: with the required one
+inline constexpr int CompareNothingSaved = 1038;
+inline constexpr int CompareSavedNone = 1039;
+inline constexpr int CompareCheaperFrom = 1040;  ///< %2: points and costs, %3: the stretches
+inline constexpr int CompareCheaperNever = 1041; ///< as above, %3: kept, %4: more
+inline constexpr int CompareCheaperNone = 1042;
+inline constexpr int CompareRateToMatch = 1043;  ///< %4: kept, %5: the cheapest offer, %6: its cost
+inline constexpr int CompareRateCheapest = 1044; ///< %2: kept
+inline constexpr int CompareRateTooLow = 1045;   ///< %2: half its rate, %3: kept, %4: cheapest
+inline constexpr int CompareEnoughForOffer = 1046;    ///< %2: payment, %3: kept, %4: required
+inline constexpr int CompareNotEnoughForOffer = 1047; ///< %2: kept
+inline constexpr int CompareEnoughForCurrent = 1048;  ///< %1: payment, %2: kept, %3: actual payment
+inline constexpr int CompareNotEnoughForCurrent = 1049; ///< %1: kept, %2: the next payment
+inline constexpr int CompareNoFigureOfCurrent = 1050;
+inline constexpr int CompareNoCostsEntered = 1051;
+inline constexpr int CompareUpfrontNothing = 1052;
+inline constexpr int CompareAprEven = 1053; ///< as Apr, without a last payment
 
 } // namespace quend::language::TextNumber

@@ -20,18 +20,18 @@ _LAYERS: dict[str, tuple[str, ...]] = {
     "storage/registry": ("foundation",),
     "calc":             ("foundation", "language"),
     "comparison":       ("foundation", "language", "calc"),
-    "worksheet/model":  ("foundation", "language", "calc"),
-    "worksheet/window": ("foundation", "language", "calc", "worksheet/model"),
+    "worksheet/model":  ("foundation", "language", "calc", "comparison"),
+    "worksheet/window": ("foundation", "language", "calc", "comparison", "worksheet/model"),
     "comparison/window": ("foundation", "language", "calc", "comparison", "worksheet/model",
-                          "worksheet/window"),
+                          "worksheet/window", "printing"),
     "comparison/window/tables": ("foundation", "language", "calc", "comparison", "worksheet/model",
                                  "worksheet/window", "comparison/window"),
     "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
                          "storage/registry"),
-    "storage":          ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
-                         "storage/registry"),
+    "storage":          ("foundation", "language", "calc", "comparison", "worksheet/model",
+                         "worksheet/window", "storage/registry"),
 }
 
 # Creates and connects everything, so it may use all.

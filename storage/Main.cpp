@@ -3,6 +3,7 @@
 #include "AboutCommands.h"
 #include "CalendarDate.h"
 #include "ClearEdges.h"
+#include "CommandLine.h"
 #include "DesktopMail.h"
 #include "FailureReport.h"
 #include "FileCommands.h"
@@ -34,9 +35,12 @@
 #include <QFileInfo>
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
+#include <cstdio>
 #include <filesystem>
 #include <future>
+#include <iterator>
 #include <optional>
 
 using namespace quend;
@@ -62,9 +66,12 @@ void SetUpLanguage() {
     Language::Instance().SetUp(program.absolutePath(), program.completeBaseName());
 }
 
-/// A text about the store itself, before the language has been read from the store.
+/// For texts before the language has been read from the store.
+void DetectLanguage() { Language::Instance().DetectLanguage(UserDefaultLanguageIdentifier()); }
+
+/// A text about the store itself.
 QString StoreText(int number) {
-    Language::Instance().DetectLanguage(UserDefaultLanguageIdentifier());
+    DetectLanguage();
     return GetResourceText(number).arg(QString::fromStdString(RegistryAPI::UserStore().string()));
 }
 
@@ -147,11 +154,53 @@ int Start(const std::filesystem::path& place, std::future<StoreCondition> look,
     return result;
 }
 
+/// The exit code.
+int Print(const QString& text, std::FILE* stream, int code) {
+    const bool isWritten =
+        std::fputs(qUtf8Printable(text), stream) >= 0 && std::fflush(stream) == 0;
+    return isWritten ? code : 1;
+}
+
+constexpr int BadUsage = 2;
+
+/// Help and version are printed without a display; then the exit code.
+std::optional<int> AnswerBeforeStart(int& argc, char* argv[]) {
+    QStringList arguments;
+    std::transform(argv + 1, argv + argc, std::back_inserter(arguments),
+                   [](const char* argument) { return QString::fromLocal8Bit(argument); });
+    const Question question = QuestionIn(arguments);
+    if (question == Question::None) {
+        return std::nullopt;
+    }
+    const QCoreApplication application(argc, argv); // finds the program's folder
+    SetUpLanguage();
+    DetectLanguage();
+    return Print(AnswerTo(question), stdout, 0);
+}
+
+/// The exit code for arguments that Qt has not taken.
+std::optional<int> RefuseRest() {
+    const QStringList rest = QCoreApplication::arguments().mid(1);
+    if (rest.isEmpty()) {
+        return std::nullopt;
+    }
+    DetectLanguage();
+    return Print(RefusalOf(rest), stderr, BadUsage);
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
+    const bool hasArguments = argc > 1;
+    if (hasArguments) {
+        if (const auto code = AnswerBeforeStart(argc, argv)) {
+            return *code;
+        }
+    }
     const std::filesystem::path place = RegistryAPI::UserStore();
-    std::future<StoreCondition> look = BeginLook(place);
+    // With arguments later, because a start that is refused leaves the store alone.
+    std::future<StoreCondition> look =
+        hasArguments ? std::future<StoreCondition>() : BeginLook(place);
     const QApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Quend Halverworks"));
     QCoreApplication::setApplicationName(QStringLiteral("Loan"));
@@ -161,6 +210,12 @@ int main(int argc, char* argv[]) {
     QGuiApplication::setDesktopFileName(QString::fromUtf8(ApplicationId));
     ClearEdges::Install();
     SetUpLanguage();
+    if (hasArguments) {
+        if (const auto code = RefuseRest()) {
+            return *code;
+        }
+        look = BeginLook(place);
+    }
     // The last resort: a failure that no handler caught ends the program with a message.
     MessageBoxes messages;
     MessageQueue queue(messages);

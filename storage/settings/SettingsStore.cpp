@@ -1,9 +1,14 @@
 #include "SettingsStore.h"
 
+#include "Comparison.h"
+#include "DisplayFormats.h"
+#include "Failure.h"
 #include "Language.h"
 #include "RegistryAPI.h"
 #include "StoreNames.h"
+#include "StoredTexts.h"
 
+#include <QLocale>
 #include <QString>
 #include <QStringDecoder>
 
@@ -25,18 +30,19 @@ struct StoredValue {
     std::int16_t type;
     RegistryValue (*of)(const Settings& settings);
     /// Null for a value that is read elsewhere. Throws Failure for an invalid value.
-    void (*take)(Settings& settings, const RegistryValue& value, const char* name);
+    void (*take)(Settings& settings, const RegistryValue& value);
+    bool omitsZero = false; ///< number 0 is not written, as an empty text never is
 };
 
 RegistryValue OffersOf(const Settings& settings) { return settings.loansDisplayed + 1; }
 
-void TakeOffers(Settings& settings, const RegistryValue& value, const char* name) {
+void TakeOffers(Settings& settings, const RegistryValue& value) {
     const std::int32_t offers = std::get<std::int32_t>(value);
     if (offers == 0) {
         return;
     }
     if (offers < FewestOffersDisplayed || offers > MostOffersDisplayed) {
-        throw OverflowFailure(name);
+        throw OverflowFailure(ProgramSource);
     }
     settings.loansDisplayed = offers - 1;
 }
@@ -47,7 +53,7 @@ RegistryValue LanguageInUse(const Settings& /*settings*/) {
 
 RegistryValue TermUnitOf(const Settings& settings) { return RegistryFlag(settings.termInMonths); }
 
-void TakeTermUnit(Settings& settings, const RegistryValue& value, const char* /*name*/) {
+void TakeTermUnit(Settings& settings, const RegistryValue& value) {
     settings.termInMonths = std::get<std::int32_t>(value) != 0;
 }
 
@@ -58,7 +64,7 @@ RegistryValue TextOf(const Settings& settings) {
 
 /// A path with control characters or invalid UTF-8 counts as the wrong type.
 template <QString Settings::*Member>
-void TakeText(Settings& settings, const RegistryValue& value, const char* name) {
+void TakeText(Settings& settings, const RegistryValue& value) {
     const auto& bytes = std::get<std::string>(value);
     QStringDecoder decode(QStringDecoder::Utf8);
     const QString text = decode(QByteArrayView(bytes.data(), qsizetype(bytes.size())));
@@ -66,9 +72,51 @@ void TakeText(Settings& settings, const RegistryValue& value, const char* name) 
         return character.category() == QChar::Other_Control;
     };
     if (decode.hasError() || std::ranges::any_of(text, isControl)) {
-        throw ConversionFailure(name);
+        throw ConversionFailure(ProgramSource);
     }
     settings.*Member = text;
+}
+
+/// 0 for the default, so that the store of a user who compares nothing stays as it is.
+RegistryValue YearsOf(const Settings& settings) {
+    return settings.compareYears == Settings().compareYears ? 0 : settings.compareYears;
+}
+
+void TakeYears(Settings& settings, const RegistryValue& value) {
+    constexpr std::int32_t most = 50;
+    const std::int32_t years = std::get<std::int32_t>(value);
+    if (years < 0 || years > most) {
+        throw OverflowFailure(ProgramSource);
+    }
+    if (years != 0) {
+        settings.compareYears = years;
+    }
+}
+
+RegistryValue PaymentsOf(const Settings& settings) {
+    return static_cast<std::int32_t>(settings.comparePayments);
+}
+
+void TakePayments(Settings& settings, const RegistryValue& value) {
+    const std::int32_t payments = std::get<std::int32_t>(value);
+    if (payments < 0 || payments > static_cast<std::int32_t>(comparison::PaymentChoice::Monthly)) {
+        throw OverflowFailure(ProgramSource);
+    }
+    settings.comparePayments = static_cast<comparison::PaymentChoice>(payments);
+}
+
+/// The same in every locale.
+StoredTexts PlainTexts() { return StoredTexts(DisplayFormats(QLocale::c())); }
+
+RegistryValue MonthlyOf(const Settings& settings) {
+    return settings.compareMonthly.IsZero() ? RegistryValue(std::string())
+                                            : PlainTexts().Write(settings.compareMonthly);
+}
+
+void TakeMonthly(Settings& settings, const RegistryValue& value) {
+    if (const auto& text = std::get<std::string>(value); !text.empty()) {
+        settings.compareMonthly = PlainTexts().ReadAmount(text);
+    }
 }
 
 /// In writing order; they are read in the same order.
@@ -80,6 +128,9 @@ constexpr std::array StoredValues{
                 TakeText<&Settings::wallpaper>},
     StoredValue{"WallpaperDirectory", RegistryType::Text, TextOf<&Settings::wallpaperDirectory>,
                 TakeText<&Settings::wallpaperDirectory>},
+    StoredValue{"CompareYears", RegistryType::Number, YearsOf, TakeYears, true},
+    StoredValue{"ComparePayments", RegistryType::Number, PaymentsOf, TakePayments, true},
+    StoredValue{"CompareMonthly", RegistryType::Text, MonthlyOf, TakeMonthly},
 };
 
 RegistryValue NoValue(std::int16_t type) {
@@ -89,7 +140,8 @@ RegistryValue NoValue(std::int16_t type) {
 
 void Write(const RegistryAPI& store, const StoredValue& stored, const Settings& settings) {
     const RegistryValue value = stored.of(settings);
-    if (value == RegistryValue(std::string())) {
+    const bool omitsNone = stored.type == RegistryType::Text || stored.omitsZero;
+    if (omitsNone && value == NoValue(stored.type)) {
         store.DeleteValue(StoreRoot, BaseKey, stored.name);
     } else {
         store.SetValue(StoreRoot, BaseKey, stored.name, stored.type, value);
@@ -124,12 +176,10 @@ StoredSettings LoadSettings(const RegistryAPI& store) {
                 continue;
             }
             try {
-                stored.take(loaded.settings,
-                            reading.GetValue(StoreRoot, BaseKey, stored.name, stored.type,
-                                             NoValue(stored.type)),
-                            stored.name);
+                stored.take(loaded.settings, reading.GetValue(StoreRoot, BaseKey, stored.name,
+                                                              stored.type, NoValue(stored.type)));
             } catch (const Failure& failure) { // reported together, once the window is open
-                loaded.failures.push_back(failure);
+                loaded.failures.emplace_back(failure.Number(), stored.name, failure.Description());
             }
         }
     });

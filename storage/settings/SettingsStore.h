@@ -29,13 +29,14 @@ struct StoredSettings {
 };
 
 /// Reads the settings except the language, which is needed earlier. A missing value gets its
-/// default without a failure: 6 offers, terms in years, no picture, no folder. An invalid value
-/// gets its default with a failure: number 6 for a number of offers out of range, 13 for an invalid
-/// text. Does not check whether the picture exists.
+/// default without a failure: 6 offers, terms in years, no picture, no folder, and a comparison of
+/// the intended payments over 5 years. An invalid value gets its default with a failure: number 6
+/// for a number out of range, 13 for an invalid text. Does not check whether the picture exists.
 StoredSettings LoadSettings(const RegistryAPI& store);
 
-/// Writes the settings and the current language in one transaction. Empty texts are deleted. The
-/// key must exist. A read-only store stays unchanged; that is not a failure.
+/// Writes the settings and the current language in one transaction. Empty texts, and
+/// the defaults of the comparison, are deleted. The key must exist. A read-only store stays
+/// unchanged; that is not a failure.
 void SaveSettings(const RegistryAPI& store, const Settings& settings);
 
 } // namespace quend::storage

@@ -15,7 +15,7 @@ namespace {
 bool HasAll(const RegistryAPI& store, const std::string& key, const std::string& prefix,
             std::span<const KeptValue> values) {
     return std::ranges::all_of(values, [&](const KeptValue& value) {
-        return value.readPlace == 0 ||
+        return value.readPlace == 0 || value.written == Written::IfEntered ||
                store.GetValueType(StoreRoot, key, prefix + value.name) == value.type;
     });
 }

@@ -29,22 +29,24 @@ std::optional<std::string> KeyOf(const QString& name) {
 /// field.
 template <class ValueOf>
 void WriteValues(const RegistryAPI& store, const std::string& key, const std::string& prefix,
-                 std::span<const KeptValue> values, ValueOf valueOf) {
-    for (const KeptValue& value : values) {
-        store.SetValue(StoreRoot, key, prefix + value.name, value.type, valueOf(value.field));
+                 const StoredTexts& texts, std::span<const KeptValue> values, ValueOf valueOf) {
+    for (const KeptValue& kept : values) {
+        const FieldValue value = valueOf(kept.field);
+        if (kept.written == Written::Always || !IsZero(value)) {
+            store.SetValue(StoreRoot, key, prefix + kept.name, kept.type, ToStored(value, texts));
+        }
     }
 }
 
 void Write(const RegistryAPI& store, const std::string& key, const Worksheet& worksheet) {
     const StoredTexts texts(worksheet.Texts().Formats());
-    WriteValues(store, key, "", KeptWorksheetValues(),
-                [&](FieldId field) { return ToStored(worksheet.Value({field}), texts); });
+    WriteValues(store, key, "", texts, KeptWorksheetValues(),
+                [&](FieldId field) { return worksheet.Value({field}); });
     std::int32_t count = 0;
     for (OfferIndex offer{0}; offer.value < worksheet.OfferCount(); ++offer.value) {
         if (WorksheetStore::IsWorthKeeping(worksheet.Offer(offer))) {
-            WriteValues(store, key, OfferPrefix(++count), KeptOfferValues(), [&](FieldId field) {
-                return ToStored(worksheet.Value(field, offer), texts);
-            });
+            WriteValues(store, key, OfferPrefix(++count), texts, KeptOfferValues(),
+                        [&](FieldId field) { return worksheet.Value(field, offer); });
         }
     }
     store.SetValue(StoreRoot, key, LoanCountName, RegistryType::Number, count);
@@ -71,7 +73,7 @@ bool WorksheetStore::CanHoldLender(const QString& who) {
 
 bool WorksheetStore::IsWorthKeeping(const CLoan& offer) {
     return !offer.Who().isEmpty() || !offer.ActualPayment().IsZero() || offer.FinancePoints() ||
-           !offer.InterestRate().IsZero() || !offer.Points().IsZero();
+           !offer.InterestRate().IsZero() || !offer.Points().IsZero() || !offer.Costs().IsZero();
 }
 
 QStringList WorksheetStore::Names() const {

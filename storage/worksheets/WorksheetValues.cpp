@@ -41,6 +41,7 @@ constexpr std::array OfferValueTable{
     KeptValue{" Frequency",             FieldId::Frequency,           "",       6},
     KeptValue{" ActualPayment",         FieldId::ActualPayment,       "0",      1},
     KeptValue{" Who",                   FieldId::Who,                 "",       7},
+    KeptValue{" Costs",                 FieldId::Costs,               "0",      8, RegistryType::Text, Written::IfEntered},
 };
 // clang-format on
 

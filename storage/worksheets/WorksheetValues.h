@@ -12,6 +12,9 @@
 
 namespace quend::storage {
 
+/// Whether a save writes a value that is not entered.
+enum class Written { Always, IfEntered };
+
 /// One value of a saved worksheet: its name and its field.
 struct KeptValue {
     const char* name = "";
@@ -19,6 +22,7 @@ struct KeptValue {
     const char* missing = ""; ///< the text used when the value is missing; a missing number is 0
     int readPlace = 0;        ///< its position in the reading order, from 1; 0: not read back
     std::int16_t type = RegistryType::Text;
+    Written written = Written::Always;
 
     RegistryValue Missing() const {
         return type == RegistryType::Text ? RegistryValue(std::string(missing))

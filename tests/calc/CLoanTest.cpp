@@ -47,6 +47,7 @@ TEST_F(CLoanTest, StartsEmpty) {
     EXPECT_TRUE(fresh.Points().IsZero());
     EXPECT_FALSE(fresh.FinanceClosingCosts());
     EXPECT_EQ(fresh.ClosingCosts(), Money());
+    EXPECT_EQ(fresh.Costs(), Money());
     EXPECT_TRUE(fresh.Term().IsZero());
     EXPECT_TRUE(fresh.InterestRate().IsZero());
     EXPECT_TRUE(fresh.FrequencyCode().IsNone());
@@ -116,6 +117,7 @@ TEST_F(CLoanTest, BorrowsFinancedPointsAndCostsToo) {
         m_loan.SetPoints(Percent::FromPercent(row.points));
         m_loan.SetFinancePoints(row.financePoints);
         m_loan.SetClosingCosts(Units(row.costs));
+        m_loan.SetCosts(Units(row.costs + 1.0)); // never borrowed
         m_loan.SetFinanceClosingCosts(row.financeCosts);
         EXPECT_EQ(m_loan.StartingPrinciple(), Units(row.principal));
     }
@@ -134,6 +136,7 @@ TEST_F(CLoanTest, MarksTheWorksheetDirtyWhenAValueChanges) {
         {"Points", [](CLoan& loan) { loan.SetPoints(Percent::FromPercent(1.25)); }},
         {"FinanceClosingCosts", [](CLoan& loan) { loan.SetFinanceClosingCosts(true); }},
         {"ClosingCosts", [](CLoan& loan) { loan.SetClosingCosts(Units(1.0)); }},
+        {"Costs", [](CLoan& loan) { loan.SetCosts(Units(1.0)); }},
         {"Term", [](CLoan& loan) { loan.SetTerm(Months{180}); }},
         {"InterestRate", [](CLoan& loan) { loan.SetInterestRate(Rate::FromFraction(0.07)); }},
         {"FrequencyCode", [](CLoan& loan) { loan.SetFrequencyCode(FrequencyCode(u"B"_s)); }},

@@ -185,13 +185,10 @@ TEST(HostileLoans, RepayExactlyTheirPrincipal) {
 
 /// Asks an offer for every result. Anything but a result or an overflow ends the test.
 int AnswersOf(const HostileLoan& loan, RecordingLoanContext& context) {
-    CLoan offer(context);
-    offer.SetStartingAmount(loan.amount);
-    offer.SetPoints(loan.points);
-    offer.SetFinancePoints(!loan.points.IsZero());
-    offer.SetTerm(loan.term);
-    offer.SetInterestRate(loan.rate);
-    offer.SetFrequencyCode(loan.code);
+    OfferValues values = loan.Offer();
+    values.financePoints = !loan.points.IsZero();
+    values.actualPayment = Money();
+    CLoan offer = MakeOffer(context, values);
     int answers = 0;
     const auto ask = [&answers](const auto& question) {
         try {

@@ -19,17 +19,17 @@ struct RandomOffer {
     explicit RandomOffer(Random& random) : loan(RandomLoan::Make(random)) {
         context.escrowMonthly = loan.escrowMonthly;
         context.today = loan.start;
-        offer.SetStartingAmount(loan.amount);
-        offer.SetPoints(loan.points);
-        offer.SetFinancePoints(loan.financePoints);
-        offer.SetTerm(loan.term);
-        offer.SetInterestRate(loan.rate);
-        offer.SetFrequencyCode(loan.code);
     }
 
     RandomLoan loan;
     RecordingLoanContext context;
-    CLoan offer{context};
+    CLoan offer = MakeOffer(context, {.startingAmount = loan.amount,
+                                      .points = loan.points,
+                                      .financePoints = loan.financePoints,
+                                      .term = loan.term,
+                                      .rate = loan.rate,
+                                      .frequency = loan.code,
+                                      .actualPayment = {}});
 };
 
 /// Points are in eighths, so amount * eighths is a whole number. The exact points are that number

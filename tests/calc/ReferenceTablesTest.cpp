@@ -77,14 +77,14 @@ void CheckOffer(const Row& row) {
     RecordingLoanContext context;
     context.escrowMonthly = ToMoney(row.at("escrow_monthly"));
     context.today = ToDate(row.at("today"));
-    CLoan offer(context);
-    offer.SetActualPayment(ToMoney(row.at("actual_payment")));
-    offer.SetStartingAmount(ToMoney(row.at("starting_amount")));
-    offer.SetPoints(Percent::FromPercent(ToNumber<double>(row.at("points"))));
-    offer.SetFinancePoints(row.at("finance_points") == "1");
-    offer.SetInterestRate(Rate::FromFraction(ToNumber<double>(row.at("interest_rate"))));
-    offer.SetTerm(Months{ToNumber<int>(row.at("term"))});
-    offer.SetFrequencyCode(FrequencyCode(QString::fromStdString(row.at("frequency_code"))));
+    CLoan offer = MakeOffer(
+        context, {.startingAmount = ToMoney(row.at("starting_amount")),
+                  .points = Percent::FromPercent(ToNumber<double>(row.at("points"))),
+                  .financePoints = row.at("finance_points") == "1",
+                  .term = {ToNumber<int>(row.at("term"))},
+                  .rate = Rate::FromFraction(ToNumber<double>(row.at("interest_rate"))),
+                  .frequency = FrequencyCode(QString::fromStdString(row.at("frequency_code"))),
+                  .actualPayment = ToMoney(row.at("actual_payment"))});
 
     EXPECT_EQ(offer.StartingPrinciple(), ToMoney(row.at("starting_principle")));
     EXPECT_EQ(offer.PandI(), ToMoney(row.at("p_and_i")));

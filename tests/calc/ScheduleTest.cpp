@@ -186,6 +186,42 @@ TEST(Schedule, RunsOnWhileANegativeRateMayStillRepay) {
     EXPECT_EQ(overtaken.paid.TenThousandths(), -80'000);
 }
 
+TEST(Schedule, EndsEarlyWhereTheWatchReturnsFalse) {
+    struct Case {
+        const char* what;
+        TotalsCase loan; ///< the payoff, interest and periods until the end; nothing was paid
+        int wanted;      ///< the watch returns false from this call on
+        int calls;
+    };
+    const Date may = Day(2026, 5, 10);
+    const Date july = Day(2026, 7, 10);
+    const Date late = Day(9999, 11, 30);
+    const Date none;
+    // clang-format off
+    const std::vector<Case> cases{
+        // what                        balance  rate    payment  escrow code   start  until there                     wanted calls
+        {  "the first",           {"", 10'000'000, 0.12, 4'000'000, 0, u'M', may,  Totals(none, 100'000, 0, 1)},      1, 1 },
+        {  "the second",          {"", 10'000'000, 0.12, 4'000'000, 0, u'M', may,  Totals(none, 161'000, 0, 2)},      2, 2 },
+        {  "the last is no end",  {"", 10'000'000, 0.12, 4'000'000, 0, u'M', may,  Totals(july, 182'610, 0, 3)},      3, 3 },
+        {  "more than there are", {"", 10'000'000, 0.12, 4'000'000, 0, u'M', may,  Totals(july, 182'610, 0, 3)},      4, 3 },
+        {  "half a month",        {"", 10'000'000, 0.12, 4'000'000, 0, u'B', may,  Totals(none, 50'000, 0, 1)},       1, 1 },
+        {  "two weeks",           {"", 10'000'000, 0.12, 4'000'000, 0, u'W', may,  Totals(none, 46'027, 0, 1)},       1, 1 },
+        {  "before a date fails", {"", 10'000'000, 0.12, 4'000'000, 0, u'M', late, Totals(none, 100'000, 0, 1)},      1, 1 },
+        {  "no frequency",        {"", 25'000,     0.12,    10'000, 0, u' ', may,  Totals(may, 0, 0, 3)},             1, 2 },
+    };
+    // clang-format on
+    for (const Case& row : cases) {
+        SCOPED_TRACE(row.what);
+        int calls = 0;
+        const auto watch = [&](const SchedulePeriod&) { return ++calls < row.wanted; };
+        const Payoff payoff = RunToPayoff(TermsOf(row.loan), watch);
+        EXPECT_EQ(payoff.date.Days(), row.loan.totals->payoff.Days());
+        EXPECT_EQ(payoff.interest.TenThousandths(), row.loan.totals->interest.TenThousandths());
+        EXPECT_EQ(payoff.periods, row.loan.totals->periods);
+        EXPECT_EQ(calls, row.calls);
+    }
+}
+
 TEST(Schedule, ReportsEveryPeriodToTheObserver) {
     std::vector<SchedulePeriod> periods;
     const auto watch = [&periods](const SchedulePeriod& period) { periods.push_back(period); };

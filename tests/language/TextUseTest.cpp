@@ -38,6 +38,7 @@ Uses UsesOf(const std::vector<FormNumber>& numbers) {
 std::vector<int> NumbersOfCode() {
     const QString headers = QString::fromUtf8(
         BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/TextNumbers.h")) +
+        BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/CommandTextNumbers.h")) +
         BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/CompareTextNumbers.h")));
     const QRegularExpression constant(QStringLiteral("constexpr int \\w+ = (\\d+);"));
     std::vector<int> numbers;

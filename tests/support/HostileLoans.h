@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CLoan.h"
 #include "Date.h"
 #include "Frequency.h"
 #include "Money.h"
@@ -31,6 +32,16 @@ struct HostileLoan {
                 .escrowShare = EscrowShare(code, escrowMonthly),
                 .frequency = FindFrequency(code),
                 .start = start};
+    }
+    /// The points are paid in cash.
+    OfferValues Offer() const {
+        return {.startingAmount = amount,
+                .points = points,
+                .financePoints = false,
+                .term = term,
+                .rate = rate,
+                .frequency = code,
+                .actualPayment = actualPayment};
     }
 };
 

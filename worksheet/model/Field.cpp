@@ -26,7 +26,7 @@ constexpr auto LoanFieldTable = [] {
         FieldRule{MonthlyEscrow,       "txtMonthlyEscrow"_name,       ValueKind::Amount,         Result, 2, false},
         FieldRule{CurLoanAmount,       "txtCurLoanAmount"_name,       ValueKind::Amount,         Input,  2, true},
         FieldRule{CurLoanTerm,         "txtCurLoanTerm"_name,         ValueKind::FractionalTerm, Input,  0, false},
-        FieldRule{CurInterestRate,     "txtCurInterestRate"_name,     ValueKind::Percent,        Input,  3, true},
+        FieldRule{CurInterestRate,     "txtCurInterestRate"_name,     ValueKind::Rate,           Input,  3, true},
         FieldRule{CurPaymentFrequency, "cboCurPaymentFrequency"_name, ValueKind::Frequency,      Input,  0, false},
         FieldRule{CurPayment,          "txtCurPayment"_name,          ValueKind::Amount,         Result, 2, false},
         FieldRule{CurActualPayment,    "txtCurActualPayment"_name,    ValueKind::Amount,         Input,  2, true},
@@ -46,8 +46,8 @@ constexpr auto OfferFieldTable = [] {
     using enum Access;
     return std::array{
         FieldRule{FinancePoints,       "chkPoints"_name,              ValueKind::Flag,           Input,  0, false},
-        FieldRule{Points,              "txtPoints"_name,              ValueKind::Decimal,        Input,  3, true},
-        FieldRule{InterestRate,        "txtInterestRate"_name,        ValueKind::Percent,        Input,  3, true},
+        FieldRule{Points,              "txtPoints"_name,              ValueKind::Percent,        Input,  3, true},
+        FieldRule{InterestRate,        "txtInterestRate"_name,        ValueKind::Rate,           Input,  3, true},
         FieldRule{Term,                "txtTerm"_name,                ValueKind::WholeTerm,      Input,  3, false},
         FieldRule{Frequency,           "cboFrequency"_name,           ValueKind::Frequency,      Input,  0, false},
         FieldRule{PandI,               "txtPandI"_name,               ValueKind::Amount,         Result, 2, false},
@@ -60,6 +60,8 @@ constexpr auto OfferFieldTable = [] {
 }();
 // clang-format on
 
+constexpr FieldRule CostsRule{FieldId::Costs, {}, ValueKind::Amount, Access::Input, 2, true};
+
 } // namespace
 
 std::span<const FieldRule> LoanFields() { return LoanFieldTable; }
@@ -67,6 +69,9 @@ std::span<const FieldRule> LoanFields() { return LoanFieldTable; }
 std::span<const FieldRule> OfferFields() { return OfferFieldTable; }
 
 const FieldRule& RuleOf(FieldId id) {
+    if (id == FieldId::Costs) {
+        return CostsRule;
+    }
     const auto fields = id < FieldId::FinancePoints ? LoanFields() : OfferFields();
     return *std::ranges::find(fields, id, &FieldRule::id);
 }

@@ -23,7 +23,7 @@ struct OfferIndex {
     friend constexpr auto operator<=>(OfferIndex, OfferIndex) = default;
 };
 
-/// Every control of the worksheet that shows a value, typed or computed.
+/// Every value of the worksheet that is shown, typed or computed.
 enum class FieldId {
     LoanName,
     LoanType,
@@ -56,13 +56,15 @@ enum class FieldId {
     PayoffDate,
     Interest,
     Who,
+    // Kept with an offer; the main window has no control for it.
+    Costs,
 };
 
 /// What a field holds; it decides how the text is read and shown.
 enum class ValueKind {
     Amount,         ///< Money, shown as currency
-    Percent,        ///< a Rate, typed and shown in percent (6.5)
-    Decimal,        ///< points, a Percent
+    Rate,           ///< a Rate, typed and shown in percent (6.5)
+    Percent,        ///< a Percent, such as points, typed and shown as it is
     WholeTerm,      ///< whole months; typed in whole months or whole years
     FractionalTerm, ///< whole months; typed in whole months or in years and parts of years
     LoanType,       ///< a LoanTypeCode, picked from a list
@@ -86,16 +88,16 @@ struct Field {
 /// The fixed properties of a field.
 struct FieldRule {
     FieldId id = FieldId::LoanName;
-    QLatin1String control; ///< the name of its control; in a row, the name of the control array
+    /// The name of its control; in a row, that of the control array. Null: it has none.
+    QLatin1String control;
     ValueKind kind = ValueKind::Text;
     Access access = Access::Input;
     int decimals = 0;          ///< the most digits after the decimal symbol; 0 forbids the symbol
     bool separatorKey = false; ///< whether the decimal symbol can be typed
 
     constexpr bool IsNumber() const {
-        return kind == ValueKind::Amount || kind == ValueKind::Percent ||
-               kind == ValueKind::Decimal || kind == ValueKind::WholeTerm ||
-               kind == ValueKind::FractionalTerm;
+        return kind == ValueKind::Amount || kind == ValueKind::Rate || kind == ValueKind::Percent ||
+               kind == ValueKind::WholeTerm || kind == ValueKind::FractionalTerm;
     }
 
     constexpr bool IsChoice() const {
@@ -111,7 +113,8 @@ struct FieldRule {
 /// The fields above the offers, in tab order.
 std::span<const FieldRule> LoanFields();
 
-/// The fields of one row of offers, in the order of the columns.
+/// The fields of one row of offers, in the order of the columns; those without a column are not
+/// among them.
 std::span<const FieldRule> OfferFields();
 
 /// The rule of a field. Every identifier has one.

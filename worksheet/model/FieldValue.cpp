@@ -56,9 +56,9 @@ FieldValue FieldFormats::Read(ValueKind kind, const QString& text) const {
     switch (kind) {
     case ValueKind::Amount:
         return text.isEmpty() ? Money() : m_formats.ReadAmount(text);
-    case ValueKind::Percent:
+    case ValueKind::Rate:
         return percent().ToRate();
-    case ValueKind::Decimal:
+    case ValueKind::Percent:
         return percent();
     case ValueKind::WholeTerm:
     case ValueKind::FractionalTerm:

@@ -73,8 +73,7 @@ void Worksheet::ComputePending(const RunStep& run) {
 void Worksheet::RecalculateEscrow() {
     m_loan.escrowMonthly = Money();
     try {
-        m_loan.escrowMonthly =
-            Money::FromDoubleInCents((m_loan.taxes + m_loan.insurance).ToDouble() / MonthsPerYear);
+        m_loan.escrowMonthly = MonthlyEscrow(m_loan.taxes, m_loan.insurance);
     } catch (const Failure&) {
         Show({FieldId::MonthlyEscrow});
         throw;

@@ -143,6 +143,7 @@ const Worksheet::FieldAccess& Worksheet::FieldAccess::Of(FieldId id) {
         FieldAccess{Frequency,           OfferGet<&CLoan::FrequencyCode>,       OfferPut<const FrequencyCode&, &CLoan::SetFrequencyCode>, offer},
         FieldAccess{ActualPayment,       OfferGet<&CLoan::ActualPayment>,       PutActualPayment,                                         payoff},
         FieldAccess{Who,                 OfferGet<&CLoan::Who>,                 OfferPut<const QString&, &CLoan::SetWho>,                 nothing},
+        FieldAccess{Costs,               OfferGet<&CLoan::Costs>,               OfferPut<Money, &CLoan::SetCosts>,                        nothing},
     };
     // clang-format on
     return *std::ranges::find(table, id, &FieldAccess::id);

@@ -1,14 +1,13 @@
 #include "Loan.h"
 
-#include "CalendarDate.h"
 #include "Captions.h"
 #include "DatePicker.h"
+#include "DateWriting.h"
 #include "Language.h"
 #include "LenderEdit.h"
 #include "Lists.h"
 #include "LoanParts.h"
 #include "TextNumbers.h"
-#include "TypedDate.h"
 #include "ui_Loan.h"
 
 #include <QCheckBox>
@@ -51,20 +50,6 @@ ControlMap ControlsOf(const QWidget& window) {
     return controls;
 }
 
-DatePicker::Writing WritingOf(const Worksheet& worksheet) {
-    const DisplayFormats& formats = worksheet.Texts().Formats();
-    return {.locale = formats.Locale(),
-            .first = QDate(FirstTypedYear, 1, 1),
-            .last = ToCalendar(Date::Last()),
-            .write = [&](const QDate& date) { return formats.ShortDate(FromCalendar(date)); },
-            .read =
-                [&](const QString& text) {
-                    const auto date = ReadTypedDate(text, formats, worksheet.Today());
-                    return date ? ToCalendar(*date) : QDate();
-                },
-            .parts = [&](const QString& text) { return DateParts(text, formats); }};
-}
-
 TermUnit UnitOf(const Settings& settings) {
     return settings.termInMonths ? TermUnit::Months : TermUnit::Years;
 }
@@ -90,21 +75,21 @@ void ShowHint(const Ui::Loan& form, const ControlMap& controls, const OfferRows&
 Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
     : settings(std::move(initial)), messages(*world.messages), report(messages),
       controls(ControlsOf(window)),
-      display(controls,
-              {.raised = [this] { notice.Start(); },
-               .refused = [this] { notice.TellRefused(); },
-               .sorted = [this](SortOrder order) { offers.ShowSortOrder(order); },
-               .offerShown = [this, &window] { ShowHint(window.Form(), controls, rows); }}),
+      display(controls, {.raised = [this] { notice.Start(); },
+                         .refused = [this] { notice.TellRefused(); },
+                         .sorted = [this](SortOrder order) { offers.ShowSortOrder(order); },
+                         .offerShown = [this, &window] { ShowHint(window.Form(), controls, rows); },
+                         .changed = [&window] { Q_EMIT window.WorksheetChanged(); }}),
       worksheet(display, {DisplayFormats(world.locale), settings.termInMonths}, world.today),
       columns(*window.m_ui->picHeadings, controls),
       rows({window.m_ui->picScroll, window.m_ui->picCanvas, window.m_ui->vsbLoans}, worksheet,
-           controls, columns),
+           controls, columns, report),
       size(window, *window.m_ui, controls, columns, rows, worksheet.Texts().Formats()),
       notice(window, worksheet, messages, [this] { worksheet.ClearRaisedMarks(); }),
       behaviour(worksheet, controls, rows, messages), handlers(worksheet, controls, behaviour),
       focus(handlers, controls, report), offers(window),
       values(worksheet, controls, focus, behaviour), dragHandlers(values, controls),
-      dragScroll(rows, *window.m_ui->picScroll),
+      dragScroll(rows, *window.m_ui->picScroll, report),
       dragging({&window, window.m_ui->picScroll}, dragHandlers, controls, dragScroll, report),
       clipboard(values, controls, messages, report),
       languages(*window.m_ui->mnuToolsLanguage,
@@ -112,7 +97,7 @@ Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
                 {.commit = [this] { return focus.Commit(); },
                  .renew = [&window] { window.RenewLanguage(); }},
                 report),
-      resultKeys(window, controls, rows) {}
+      resultKeys(window, controls, rows), payoffAdvice(worksheet, controls, report) {}
 
 Loan::Loan(const World& world, Settings settings) : m_ui(FormOf(*this)) {
     m_parts = std::make_unique<Parts>(*this, world, std::move(settings));
@@ -139,7 +124,7 @@ void Loan::Form_Load() {
     m_parts->size.Measure();
     resize(sizeHint());
     LoadWallpaper();
-    m_ui->dtNextPayment->SetWriting(WritingOf(m_parts->worksheet));
+    m_ui->dtNextPayment->SetWriting(DateWritingOf(m_parts->worksheet));
     m_parts->worksheet.SetCurrentNextPayment(m_parts->worksheet.Today());
     m_parts->worksheet.SetPaymentNoticeShown(false);
     m_parts->worksheet.ClearDirty();
@@ -162,6 +147,7 @@ void Loan::WireFields() {
     m_parts->focus.Watch(*this);
     m_parts->resultKeys.Watch(*this);
     m_parts->wholeText.Watch(*this);
+    m_parts->payoffAdvice.Watch({FieldId::CurPayoffDate});
     for (const FieldRule& rule : LoanFields()) {
         WireChoice({rule.id});
     }
@@ -176,6 +162,7 @@ void Loan::WireRow(int row, const QWidget* controls) {
     m_parts->focus.Watch(*controls);
     m_parts->resultKeys.Watch(*controls);
     m_parts->wholeText.Watch(*controls);
+    m_parts->payoffAdvice.Watch({FieldId::PayoffDate, Row{row}});
     m_parts->dragging.Watch(Row{row});
     m_parts->clipboard.Watch(Row{row});
     WireChoice({FieldId::Frequency, Row{row}});
@@ -185,6 +172,7 @@ void Loan::WireRow(int row, const QWidget* controls) {
     connect(m_parts->controls.ControlOf<QCheckBox>(points), &QCheckBox::clicked, this,
             [this, points] { m_parts->report.Guard([&] { m_parts->handlers.Click(points); }); });
     ApplyRowCaptions(Row{row});
+    Q_EMIT WorksheetChanged();
 }
 
 /// A choice from a list is stored at once, not only when the list is left.
@@ -222,6 +210,7 @@ void Loan::RenewLanguage() {
     ApplyCaptions();
     RefillLists();
     m_parts->size.MeasureAgain();
+    Q_EMIT LanguageChanged();
 }
 
 Worksheet& Loan::GetWorksheet() { return m_parts->worksheet; }
@@ -235,6 +224,10 @@ const FailureReport& Loan::Report() const { return m_parts->report; }
 const Settings& Loan::GetSettings() const { return m_parts->settings; }
 
 void Loan::OnUnload(std::function<bool()> mayClose) { m_parts->mayClose = std::move(mayClose); }
+
+void Loan::OnNeverEnding(std::function<QString(Row)> advice) {
+    m_parts->payoffAdvice.Ask(std::move(advice));
+}
 
 bool Loan::Commit() { return m_parts->focus.Commit(); }
 
@@ -263,6 +256,12 @@ void Loan::ApplySettings(const Settings& settings) {
         m_parts->size.FitHeight();
     }
     Reenter();
+}
+
+void Loan::KeepComparison(int years, comparison::PaymentChoice payments, Money monthly) {
+    m_parts->settings.compareYears = years;
+    m_parts->settings.comparePayments = payments;
+    m_parts->settings.compareMonthly = monthly;
 }
 
 void Loan::changeEvent(QEvent* event) {

@@ -65,9 +65,23 @@ public:
     /// Applies other settings and shows their effects. If the picture cannot be loaded, the user is
     /// told and the path is dropped.
     void ApplySettings(const Settings& settings);
+    /// Keeps the settings of the comparison, `years` from 1 to 50; nothing in this window depends
+    /// on them.
+    void KeepComparison(int years, comparison::PaymentChoice payments, Money monthly);
 
     /// Called before the window closes, once the edited field is stored; false keeps it open.
     void OnUnload(std::function<bool()> mayClose);
+
+    /// Asked for the tooltip of a payoff date that is empty because the payment never repays the
+    /// loan: of an offer, or, for Field::NoRow, of the loan held today. An empty text: no tooltip.
+    void OnNeverEnding(std::function<QString(Row)> advice);
+
+Q_SIGNALS:
+    /// A value of the worksheet, their unit, or the number or order of the rows may have changed;
+    /// emitted many times for one edit, in the midst of it. Read the worksheet afterwards, once.
+    void WorksheetChanged();
+    /// After the window has switched to another language.
+    void LanguageChanged();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -16,6 +16,7 @@
 #include "OfferDragging.h"
 #include "OfferRows.h"
 #include "PaymentNotice.h"
+#include "PayoffAdvice.h"
 #include "QtTexts.h"
 #include "ResultKeys.h"
 #include "ValueTransfer.h"
@@ -57,6 +58,7 @@ struct Loan::Parts {
     Wallpaper wallpaper;
     ResultKeys resultKeys;
     WholeText wholeText;
+    PayoffAdvice payoffAdvice;
 };
 
 } // namespace quend::window

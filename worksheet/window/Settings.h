@@ -1,5 +1,9 @@
 #pragma once
 
+#include "Comparison.h"
+#include "Money.h"
+#include "WindowNames.h"
+
 #include <QString>
 
 namespace quend::window {
@@ -10,6 +14,10 @@ struct Settings {
     bool termInMonths = false;
     QString wallpaper;          ///< path of the background picture; empty: none
     QString wallpaperDirectory; ///< the folder to look for the next picture; empty: anywhere
+    // How offers are compared.
+    int compareYears = 5; ///< 1 to 50
+    comparison::PaymentChoice comparePayments = comparison::PaymentChoice::Intended;
+    Money compareMonthly{}; ///< for PaymentChoice::Monthly
 };
 
 } // namespace quend::window

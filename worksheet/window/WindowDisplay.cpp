@@ -36,18 +36,26 @@ void WindowDisplay::ShowText(Field field, const QString& text) {
     if (field.id == FieldId::PandI) {
         m_notices.offerShown();
     }
+    m_notices.changed();
 }
 
 void WindowDisplay::ShowTicked(Field field, bool ticked) {
     if (auto* box = m_controls->ControlOf<QCheckBox>(field)) {
         box->setChecked(ticked);
     }
+    m_notices.changed();
 }
 
 void WindowDisplay::ShowDate(Field field, Date date) {
     if (auto* picker = m_controls->ControlOf<DatePicker>(field)) {
         picker->ShowDate(ToCalendar(date));
     }
+    m_notices.changed();
+}
+
+void WindowDisplay::ShowSortOrder(SortOrder order) {
+    m_notices.sorted(order);
+    m_notices.changed();
 }
 
 void WindowDisplay::ShowMark(Field field, Mark mark) {

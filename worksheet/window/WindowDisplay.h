@@ -17,6 +17,7 @@ public:
         std::function<void()> refused;         ///< an intended payment was refused
         std::function<void(SortOrder)> sorted; ///< the new order of the rows
         std::function<void()> offerShown;      ///< an offer was recalculated, even if that failed
+        std::function<void()> changed; ///< a value or the order of the rows may have changed
     };
     WindowDisplay(const ControlMap& controls, Notices notices);
 
@@ -25,7 +26,7 @@ public:
     void ShowDate(Field field, Date date) override;
     void ShowMark(Field field, Mark mark) override;
     void ShowToolTip(Field field, bool shown) override;
-    void ShowSortOrder(SortOrder order) override { m_notices.sorted(order); }
+    void ShowSortOrder(SortOrder order) override;
     void PaymentRaised() override { m_notices.raised(); }
     void PaymentRefused() override { m_notices.refused(); }
 

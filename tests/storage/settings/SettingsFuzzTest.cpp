@@ -40,7 +40,8 @@ protected:
     void TryValues(const std::string& input) {
         const RegistryAPI store = m_store.Store();
         const auto number = static_cast<std::int32_t>(std::hash<std::string>()(input));
-        for (const char* const name : {"LoansDisplayed", "TermInMonths", "CurrentLanguage"}) {
+        for (const char* const name : {"LoansDisplayed", "TermInMonths", "CurrentLanguage",
+                                       "CompareYears", "ComparePayments"}) {
             if (input.size() % 3 == 0) {
                 store.SetValue(StoreFolder::Root, BaseKey, name, RegistryType::Text, input);
             } else {
@@ -50,14 +51,20 @@ protected:
         }
         store.SetValue(StoreFolder::Root, BaseKey, "Wallpaper", RegistryType::Text, input);
         store.SetValue(StoreFolder::Root, BaseKey, "WallpaperDirectory", RegistryType::Text, input);
+        store.SetValue(StoreFolder::Root, BaseKey, "CompareMonthly", RegistryType::Text, input);
         const auto [settings, failures] = LoadSettings(store);
         EXPECT_GE(settings.loansDisplayed, 0);
         EXPECT_LT(settings.loansDisplayed, 15);
+        EXPECT_GE(settings.compareYears, 1);
+        EXPECT_LE(settings.compareYears, 50);
         SaveSettings(store, settings);
         const auto [again, refused] = LoadSettings(store);
         EXPECT_TRUE(refused.empty()); // what was saved is valid
         EXPECT_EQ(again.loansDisplayed, settings.loansDisplayed);
         EXPECT_EQ(again.termInMonths, settings.termInMonths);
+        EXPECT_EQ(again.compareYears, settings.compareYears);
+        EXPECT_EQ(again.comparePayments, settings.comparePayments);
+        EXPECT_EQ(again.compareMonthly, settings.compareMonthly);
         EXPECT_EQ(again.wallpaper, settings.wallpaper);
         EXPECT_EQ(again.wallpaperDirectory, settings.wallpaperDirectory);
     }

@@ -84,6 +84,54 @@ TEST_F(SettingsInTheStore, NumberOfOffers) {
     }
 }
 
+TEST_F(SettingsInTheStore, OfTheComparison) {
+    using enum PaymentChoice;
+    struct Case {
+        const char* name;
+        RegistryValue stored;
+        int years;
+        PaymentChoice payments;
+        std::int64_t monthly; ///< in ten-thousandths
+        std::vector<int> failures;
+    };
+    const auto text = [](const char* stored) { return RegistryValue(std::string(stored)); };
+    const std::vector<Case> cases = {
+        {"CompareYears", 0, 5, Intended, 0, {}},
+        {"CompareYears", 1, 1, Intended, 0, {}},
+        {"CompareYears", 50, 50, Intended, 0, {}},
+        {"CompareYears", 51, 5, Intended, 0, {6}},
+        {"CompareYears", Lowest, 5, Intended, 0, {6}},
+        {"ComparePayments", 1, 5, Required, 0, {}},
+        {"ComparePayments", 2, 5, Monthly, 0, {}},
+        {"ComparePayments", 3, 5, Intended, 0, {6}},
+        {"ComparePayments", -1, 5, Intended, 0, {6}},
+        {"CompareMonthly", text("1580.17"), 5, Intended, 15'801'700, {}},
+        {"CompareMonthly", text("1580,1"), 5, Intended, 15'801'000, {}},
+        {"CompareMonthly", text("much"), 5, Intended, 0, {13}},
+        {"CompareMonthly", text("922337203685478"), 5, Intended, 0, {6}},
+    };
+    for (const Case& tested : cases) {
+        const bool isText = std::holds_alternative<std::string>(tested.stored);
+        m_store.SetValue(Root, BaseKey, tested.name,
+                         isText ? RegistryType::Text : RegistryType::Number, tested.stored);
+        const StoredSettings loaded = LoadSettings(m_store);
+        EXPECT_EQ(loaded.settings.compareYears, tested.years);
+        EXPECT_EQ(loaded.settings.comparePayments, tested.payments);
+        EXPECT_EQ(loaded.settings.compareMonthly.TenThousandths(), tested.monthly);
+        EXPECT_EQ(Failures(loaded, tested.name), tested.failures) << tested.name;
+        SaveSettings(m_store, loaded.settings);
+        const StoredSettings again = LoadSettings(m_store);
+        EXPECT_TRUE(again.failures.empty());
+        EXPECT_EQ(again.settings.compareYears, tested.years);
+        EXPECT_EQ(again.settings.comparePayments, tested.payments);
+        EXPECT_EQ(again.settings.compareMonthly, loaded.settings.compareMonthly);
+        SaveSettings(m_store, {});
+        for (const char* name : {"CompareYears", "ComparePayments", "CompareMonthly"}) {
+            EXPECT_EQ(m_store.GetValueType(Root, BaseKey, name), 0) << name;
+        }
+    }
+}
+
 TEST_F(SettingsInTheStore, UnitOfTerms) {
     for (const auto& [stored, months] : std::vector<std::pair<std::int32_t, bool>>{
              {0, false}, {-1, true}, {1, true}, {2, true}, {Lowest, true}, {Highest, true}}) {

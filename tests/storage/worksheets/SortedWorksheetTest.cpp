@@ -80,6 +80,7 @@ TEST_F(SortedWorksheet, KeepsWhatWasEnteredIntoSortedRowsWithItsOffer) {
     Fill(u"txtPoints(0)", u"1");
     Fill(u"txtWho(5)", u"new");
     Fill(u"txtPoints(6)", u"2");
+    EnterText(SheetToWrite(), {FieldId::Costs, Row{0}}, u"950"_s);
     SwitchLanguage(Spanish);
     Settings settings = Window().GetSettings();
     settings.loansDisplayed = 7;
@@ -91,6 +92,7 @@ TEST_F(SortedWorksheet, KeepsWhatWasEnteredIntoSortedRowsWithItsOffer) {
         return m_folder.Text(StoreFolder::LoanKey("Home"), value);
     };
     EXPECT_EQ(kept("Loan 3 Points"), "1");
+    EXPECT_EQ(kept("Loan 3 Costs"), "950");
     EXPECT_EQ(kept("Loan 1 Points"), "0");
     EXPECT_EQ(kept("Loan 1 ActualPayment"), "900");
     EXPECT_EQ(kept("Loan 4 Who"), "new");

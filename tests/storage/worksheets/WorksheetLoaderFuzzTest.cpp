@@ -41,7 +41,7 @@ constexpr std::array Names{"LoanName",
                            "LoanCount",
                            "DateFormat"};
 constexpr std::array OfferWords{" FinancePoints", " Points",        " Term", " InterestRate",
-                                " Frequency",     " ActualPayment", " Who"};
+                                " Frequency",     " ActualPayment", " Who",  " Costs"};
 constexpr std::array Pieces{"0",
                             "1",
                             "6.5",
@@ -177,6 +177,7 @@ protected:
             if (WorksheetStore::IsWorthKeeping(sheet.OfferOfRow(row))) {
                 figures.push_back(sheet.OfferOfRow(row).Term().count);
                 figures.push_back(sheet.OfferOfRow(row).ActualPayment().TenThousandths());
+                figures.push_back(sheet.OfferOfRow(row).Costs().TenThousandths());
             }
         }
         return figures;

@@ -43,6 +43,8 @@ TEST_F(WorksheetLoading, ABadValueIsReportedAndTheRestIsLoaded) {
              BadValue{"Loan 1 InterestRate", "inf", 13},
              BadValue{"Loan 1 Frequency", "m", 13},
              BadValue{"Loan 1 ActualPayment", "1.2.3", 13},
+             BadValue{"Loan 1 Costs", "free", 13},
+             BadValue{"Loan 1 Costs", "922337203685478", 6},
              // Valid values whose results cannot be computed.
              BadValue{"EscrowTaxes", "922337203685477", 6, "EscrowInsurance"},
              BadValue{"CurrentTerm", "2147483647", 6, "CurrentPayment"},

@@ -46,7 +46,8 @@ inline void FillOffer(Worksheet& w, Row row, const QString& who) {
                 {FieldId::InterestRate, Rate::FromFraction(0.0625)},
                 {FieldId::Frequency, FrequencyCode(QStringLiteral("Q"))},
                 {FieldId::ActualPayment, Units(5'000)},
-                {FieldId::Who, who}});
+                {FieldId::Who, who},
+                {FieldId::Costs, Units(-950.5)}});
 }
 
 /// A separate store for worksheets without a window.

@@ -1,6 +1,7 @@
 // Worksheets saved and loaded: every value by its name, in any language and locale.
 
 #include "QuendNames.h"
+#include "RepairedWorksheets.h"
 #include "WorksheetStoreFixture.h"
 
 #include <map>
@@ -37,6 +38,7 @@ const std::vector<KeptText> KeptTexts{
     {"Loan 1 Frequency", "Q", "Q"},
     {"Loan 1 ActualPayment", "5000", "5000"},
     {"Loan 1 Who", "First\r\nPrairie Bank", "First\r\nPrairie Bank"},
+    {"Loan 1 Costs", "-950.5", "-950,5"},
 };
 
 TEST_F(WorksheetStoreTest, WritesEachValueUnderItsName) {
@@ -67,6 +69,27 @@ TEST_F(WorksheetStoreTest, AnEmptyWorksheetIsKeptAsZeros) {
     }
     EXPECT_EQ(0, m_folder.Number(Key, "LoanCount"));
     EXPECT_EQ("(missing)", Kept("Loan 1 Who"));
+}
+
+TEST_F(WorksheetStoreTest, OnlyCostsThatAreNotZeroAreKept) {
+    Sheet sheet;
+    Fill(sheet.worksheet);
+    FillOffer(sheet.worksheet, Row{0}, u"First"_s);
+    for (const auto& [costs, kept] :
+         {std::pair{950.5, "950.5"}, {0.0, "(missing)"}, {0.01, "0.01"}, {0.0, "(missing)"}}) {
+        sheet.worksheet.Store({FieldId::Costs, Row{0}}, Units(costs));
+        EXPECT_TRUE(sheet.worksheet.Dirty());
+        Save(sheet);
+        EXPECT_EQ(kept, Kept("Loan 1 Costs"));
+        EXPECT_TRUE(FindIncomplete(m_folder.Store()).incomplete.isEmpty());
+        Sheet read;
+        EXPECT_TRUE(Load(read).empty());
+        EXPECT_EQ(Units(costs), read.worksheet.OfferOfRow(Row{0}).Costs());
+        read.worksheet.Clear();
+        EXPECT_EQ(Money(), read.worksheet.OfferOfRow(Row{0}).Costs());
+    }
+    m_folder.Store().DeleteValue(StoreFolder::Root, Key, "Loan 1 Points");
+    EXPECT_EQ(FindIncomplete(m_folder.Store()).incomplete, QStringList(u"Our new home"_s));
 }
 
 /// The values that this worksheet would save.
@@ -195,6 +218,7 @@ TEST_F(WorksheetStoreTest, WhatMakesAnOfferWorthKeeping) {
              Case{"financed", {FieldId::FinancePoints, true}, true},
              Case{"a rate", {FieldId::InterestRate, Rate::FromFraction(0.01)}, true},
              Case{"points", {FieldId::Points, Percent::FromPercent(-0.5)}, true},
+             Case{"costs", {FieldId::Costs, Units(-0.01)}, true},
          }) {
         Sheet sheet;
         sheet.worksheet.SetLoanName(u"Our new home"_s);

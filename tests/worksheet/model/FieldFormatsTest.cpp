@@ -26,7 +26,7 @@ FieldFormats TextsIn(const QString& locale, Unit unit) {
 }
 
 FieldValue Units(double units) { return Money::FromDouble(units); }
-FieldValue Yearly(double fraction) { return Rate::FromFraction(fraction); }
+FieldValue Yearly(double fraction) { return calc::Rate::FromFraction(fraction); }
 FieldValue Points(double percent) { return calc::Percent::FromPercent(percent); }
 
 struct ShowCase {
@@ -90,12 +90,12 @@ TEST(FieldFormats, ReadsWhatTheKindHolds) {
         {Amount,         u"1234.56"_s,    Unit::Months, Units(1234.56)},
         {Amount,         u"-5"_s,         Unit::Months, Units(-5)},
         {Amount,         u""_s,           Unit::Months, Units(0)},
-        {Percent,        u"6.5"_s,        Unit::Months, Yearly(6.5 / 100)},
-        {Percent,        u"6.875"_s,      Unit::Months, Yearly(6.875 / 100)},
-        {Percent,        u"-.5"_s,        Unit::Months, Yearly(-0.005)},
-        {Percent,        u""_s,           Unit::Months, Yearly(0.0)},
-        {Decimal,        u"1.25"_s,       Unit::Months, Points(1.25)},
-        {Decimal,        u""_s,           Unit::Months, Points(0.0)},
+        {Rate,           u"6.5"_s,        Unit::Months, Yearly(6.5 / 100)},
+        {Rate,           u"6.875"_s,      Unit::Months, Yearly(6.875 / 100)},
+        {Rate,           u"-.5"_s,        Unit::Months, Yearly(-0.005)},
+        {Rate,           u""_s,           Unit::Months, Yearly(0.0)},
+        {Percent,        u"1.25"_s,       Unit::Months, Points(1.25)},
+        {Percent,        u""_s,           Unit::Months, Points(0.0)},
         {WholeTerm,      u""_s,           Unit::Months, Months{0}},
         {WholeTerm,      u""_s,           Unit::Years,  Months{0}},
         {FractionalTerm, u""_s,           Unit::Years,  Months{0}},
@@ -128,9 +128,9 @@ TEST(FieldFormats, ReadsWhatTheKindHolds) {
 TEST(FieldFormats, ReadsTheDecimalSymbolOfTheLocale) {
     const FieldFormats texts = TextsIn(u"de_DE"_s, Unit::Years);
     EXPECT_TRUE(texts.Read(Amount, u"6,5"_s) == Units(6.5));
-    EXPECT_TRUE(texts.Read(Percent, u"6,5"_s) == Yearly(0.065));
+    EXPECT_TRUE(texts.Read(Rate, u"6,5"_s) == Yearly(0.065));
     EXPECT_TRUE(texts.Read(FractionalTerm, u"12,5"_s) == FieldValue(Months{150}));
-    EXPECT_THROW(static_cast<void>(texts.Read(Percent, u"6.5"_s)), ConversionFailure);
+    EXPECT_THROW(static_cast<void>(texts.Read(Rate, u"6.5"_s)), ConversionFailure);
 }
 
 struct BadCase {
@@ -147,10 +147,10 @@ TEST(FieldFormats, ReadingFailsWithItsReason) {
         {Amount,         u"."_s,                    Unit::Months, false},
         {Amount,         u"1,234"_s,                Unit::Months, false},
         {Amount,         u"922337203685477.5808"_s, Unit::Months, true},
-        {Percent,        u"6.5%"_s,                 Unit::Months, false},
+        {Rate,           u"6.5%"_s,                 Unit::Months, false},
+        {Rate,           u"9"_s.repeated(400),      Unit::Months, true},
+        {Percent,        u"+"_s,                    Unit::Months, false},
         {Percent,        u"9"_s.repeated(400),      Unit::Months, true},
-        {Decimal,        u"+"_s,                    Unit::Months, false},
-        {Decimal,        u"9"_s.repeated(400),      Unit::Months, true},
         {WholeTerm,      u"-"_s,                    Unit::Months, false},
         {WholeTerm,      u"2147483648"_s,           Unit::Months, true},
         {WholeTerm,      u"-2147483649"_s,          Unit::Months, true},

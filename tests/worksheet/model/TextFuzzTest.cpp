@@ -139,6 +139,7 @@ void TryIn(const QLocale& locale, const QString& text) {
             EnterInto(sheet, {rule.id}, text);
         }
     }
+    EnterInto(sheet, {FieldId::Costs, Row{0}}, text);
     for (const FieldRule& rule : OfferFields()) {
         if (rule.IsNumber() && rule.access == Access::Input) {
             EnterInto(sheet, {rule.id, Row{0}}, text);

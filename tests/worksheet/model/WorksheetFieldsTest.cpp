@@ -59,6 +59,7 @@ const std::vector<NumberCase>& NumberCases() {
         {{InterestRate, Row1},  u"7"_s,       u"7"_s,      u"7.000%"_s,      Sorted({{{Term, Row1}}, OfferResults(Row1)}), 1},
         {{Term, Row1},          u"180"_s,     u"180"_s,    u"180"_s,         OfferResults(Row1),                           1},
         {{ActualPayment, Row1}, u"6000"_s,    u"6000"_s,   u"$6,000.00"_s,   {{PayoffDate, Row1}, {Interest, Row1}},       1},
+        {{Costs, Row1},         u"-950.5"_s,  u"-950.5"_s, u"($950.50)"_s,   {},                                           0},
     };
     // clang-format on
     return cases;
@@ -132,6 +133,8 @@ TEST_F(WorksheetFieldsTest, AcceptsTheFormOfEachField) {
         {FieldId::Term,            u"30.5"_s,       true},
         {FieldId::Term,            u"30.5555"_s,    false},
         {FieldId::ActualPayment,   u"599.555"_s,    false},
+        {FieldId::Costs,           u"-950.5"_s,     true},
+        {FieldId::Costs,           u"950.555"_s,    false},
     };
     // clang-format on
     for (const auto& [id, text, accepted] : cases) {

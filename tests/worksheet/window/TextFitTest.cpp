@@ -96,9 +96,9 @@ private:
             switch (rule.kind) {
             case ValueKind::Amount:
                 return formats.Currency(::Money::FromDouble(888'888.88));
-            case ValueKind::Percent:
+            case ValueKind::Rate:
                 return formats.Percent(Rate::FromFraction(0.88888));
-            case ValueKind::Decimal:
+            case ValueKind::Percent:
                 return formats.ThreeDecimals(88.888);
             case ValueKind::Date:
                 return formats.ShortDate(Date::FromCalendar(2058, 12, 28));

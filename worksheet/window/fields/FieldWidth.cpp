@@ -16,9 +16,9 @@ QString SampleOf(FieldId field, const DisplayFormats& formats) {
     constexpr double loan = 8'888'888.88;
     constexpr double payment = 88'888.88;
     switch (RuleOf(field).kind) {
-    case ValueKind::Percent:
+    case ValueKind::Rate:
         return formats.Percent(Rate::FromFraction(0.88888));
-    case ValueKind::Decimal:
+    case ValueKind::Percent:
         return formats.ThreeDecimals(88.888);
     case ValueKind::WholeTerm:
     case ValueKind::FractionalTerm:

@@ -1,5 +1,7 @@
 #include "MessageQueue.h"
 
+#include "FailureReport.h"
+
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -56,7 +58,7 @@ void MessageQueue::ShowNext() {
         m_boxes->Show(message.text);
         m_waiting.pop_front();
         if (message.afterwards) {
-            message.afterwards();
+            FailureReport(*this).Guard(message.afterwards);
         }
     }
     m_showing = false;

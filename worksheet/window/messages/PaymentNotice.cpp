@@ -1,5 +1,6 @@
 #include "PaymentNotice.h"
 
+#include "FailureReport.h"
 #include "Language.h"
 #include "MessageQueue.h"
 #include "TextNumbers.h"
@@ -18,7 +19,8 @@ PaymentNotice::PaymentNotice(QObject& window, Worksheet& worksheet, MessageQueue
       m_timer(new QTimer(&window)) {
     m_timer->setObjectName(QStringLiteral("Timer1"));
     m_timer->setInterval(1000ms);
-    connect(m_timer, &QTimer::timeout, this, &PaymentNotice::Timer1_Timer);
+    connect(m_timer, &QTimer::timeout, this,
+            [this] { FailureReport(*m_messages).Guard([this] { Timer1_Timer(); }); });
 }
 
 void PaymentNotice::Start() {

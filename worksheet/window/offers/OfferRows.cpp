@@ -1,6 +1,7 @@
 #include "OfferRows.h"
 
 #include "ControlMap.h"
+#include "FailureReport.h"
 #include "Lists.h"
 #include "OfferColumns.h"
 #include "Worksheet.h"
@@ -16,18 +17,22 @@
 
 namespace quend::window {
 
-OfferRows::OfferRows(Place place, Worksheet& worksheet, ControlMap& controls, OfferColumns& columns)
+OfferRows::OfferRows(Place place, Worksheet& worksheet, ControlMap& controls, OfferColumns& columns,
+                     const FailureReport& report)
     : m_place(place), m_worksheet(&worksheet), m_controls(&controls), m_columns(&columns) {
     m_place.picScroll->installEventFilter(this);
     m_place.vsbLoans->installEventFilter(this);
-    connect(m_place.vsbLoans, &QScrollBar::valueChanged, this, [this] {
-        if (m_place.vsbLoans->isSliderDown()) {
-            vsbLoans_Scroll();
-        } else {
-            vsbLoans_Change();
-        }
+    connect(m_place.vsbLoans, &QScrollBar::valueChanged, this, [this, &report] {
+        report.Guard([this] {
+            if (m_place.vsbLoans->isSliderDown()) {
+                vsbLoans_Scroll();
+            } else {
+                vsbLoans_Change();
+            }
+        });
     });
-    connect(m_place.vsbLoans, &QScrollBar::sliderReleased, this, &OfferRows::vsbLoans_Change);
+    connect(m_place.vsbLoans, &QScrollBar::sliderReleased, this,
+            [this, &report] { report.Guard([this] { vsbLoans_Change(); }); });
 }
 
 void OfferRows::CreateRows(Row loansDisplayed) {

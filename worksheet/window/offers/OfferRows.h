@@ -18,6 +18,7 @@ class Worksheet;
 namespace quend::window {
 
 class ControlMap;
+class FailureReport;
 class OfferColumns;
 
 /// The rows of the offers and their scrolling: a canvas as high as all rows moves behind a frame as
@@ -31,7 +32,8 @@ public:
         QWidget* picCanvas;
         QScrollBar* vsbLoans;
     };
-    OfferRows(Place place, Worksheet& worksheet, ControlMap& controls, OfferColumns& columns);
+    OfferRows(Place place, Worksheet& worksheet, ControlMap& controls, OfferColumns& columns,
+              const FailureReport& report);
 
     /// Creates the rows that show without scrolling; `loansDisplayed` is the index of the last of
     /// them.

@@ -1,5 +1,6 @@
 #include "DragScroll.h"
 
+#include "FailureReport.h"
 #include "OfferRows.h"
 
 #include <QWidget>
@@ -17,11 +18,12 @@ constexpr auto Tick = 250ms;
 
 } // namespace
 
-DragScroll::DragScroll(const OfferRows& rows, QWidget& frame)
+DragScroll::DragScroll(const OfferRows& rows, QWidget& frame, const FailureReport& report)
     : m_rows(&rows), m_frame(&frame), m_timer(new QTimer(&frame)) {
     m_timer->setObjectName(QStringLiteral("tmrDragScroll"));
     m_timer->setInterval(Tick);
-    QObject::connect(m_timer, &QTimer::timeout, m_timer, [this] { m_rows->ScrollBy(m_direction); });
+    QObject::connect(m_timer, &QTimer::timeout, m_timer,
+                     [this, &report] { report.Guard([this] { m_rows->ScrollBy(m_direction); }); });
 }
 
 /// The edges are half a row high.

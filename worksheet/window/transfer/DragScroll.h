@@ -6,13 +6,14 @@ class QWidget;
 
 namespace quend::window {
 
+class FailureReport;
 class OfferRows;
 
 /// Scrolls the rows, one per timer tick, while something is dragged near the upper or lower edge of
 /// the frame. Does not know what is dragged or whether it may be dropped there.
 class DragScroll {
 public:
-    DragScroll(const OfferRows& rows, QWidget& frame);
+    DragScroll(const OfferRows& rows, QWidget& frame, const FailureReport& report);
 
     /// Something is dragged over this position of a control in the frame.
     void Over(const QWidget& control, QPoint at);

@@ -4,8 +4,13 @@
 
 #include "FakeMessages.h"
 #include "Language.h"
+#include "PaymentNotice.h"
 #include "QuendNames.h"
+#include "Sheet.h"
 #include "TextNumbers.h"
+
+#include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -48,6 +53,25 @@ TEST(FailureReport, ReportsEveryExceptionInItsWording) {
         queue.ShowRest();
         EXPECT_EQ(boxes.Texts(), row.shown.isEmpty() ? QStringList() : QStringList(row.shown));
     }
+}
+
+TEST(FailureReport, ReportsWhatFailsAfterAMessageAndInTheTimerOfTheNotice) {
+    const auto fail = Throwing(Failure(7, "a", "b"));
+    const QString failure = u"errn=7  src=a  desc=b"_s;
+    FakeMessages boxes;
+    MessageQueue queue(boxes);
+    queue.Post(u"read"_s, fail);
+    queue.ShowRest();
+    EXPECT_EQ(boxes.Texts(), QStringList({u"read"_s, failure}));
+
+    Sheet sheet;
+    sheet.worksheet.SetPaymentNoticeShown(true);
+    QObject window;
+    PaymentNotice notice(window, sheet.worksheet, queue, fail);
+    window.findChild<QTimer*>(u"Timer1"_s)->setInterval(0);
+    notice.Start();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return boxes.Texts().size() == 3; }));
+    EXPECT_EQ(boxes.Texts().last(), failure);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "CostsModel.h"
 #include "FigureColumns.h"
 #include "NoneLastOrder.h"
-#include "SampleComparison.h"
+#include "SampleTables.h"
 #include "TableRoles.h"
 
 #include <QAbstractItemModelTester>

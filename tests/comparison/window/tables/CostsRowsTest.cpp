@@ -1,6 +1,6 @@
 #include "CostsRows.h"
 #include "FigureColumns.h"
-#include "SampleComparison.h"
+#include "SampleTables.h"
 
 #include <gtest/gtest.h>
 

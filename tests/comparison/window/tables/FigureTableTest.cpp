@@ -2,7 +2,7 @@
 #include "CostsModel.h"
 #include "FigureColumns.h"
 #include "NoneLastOrder.h"
-#include "SampleComparison.h"
+#include "SampleTables.h"
 #include "ScheduleModel.h"
 
 #include <QAccessible>

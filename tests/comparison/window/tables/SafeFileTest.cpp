@@ -1,5 +1,5 @@
 #include "SafeFile.h"
-#include "SampleComparison.h"
+#include "SampleTables.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "ScheduleModel.h"
 #include "FigureColumns.h"
-#include "SampleComparison.h"
+#include "SampleTables.h"
 #include "TableRoles.h"
 #include "TableText.h"
 

@@ -1,7 +1,7 @@
 #include "TableText.h"
 #include "HostileTexts.h"
 #include "RandomCases.h"
-#include "SampleComparison.h"
+#include "SampleTables.h"
 #include "TableRoles.h"
 
 #include <QItemSelectionModel>

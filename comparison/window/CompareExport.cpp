@@ -3,7 +3,8 @@
 #include "CompareTextNumbers.h"
 #include "FigureTable.h"
 #include "Language.h"
-#include "SafeFile.h"
+#include "NotSaved.h"
+#include "SaveFile.h"
 
 namespace quend::compare {
 
@@ -50,7 +51,7 @@ QString ExportPage(const ComparePage& page, QWidget& parent, const CompareWorld&
     }
     const auto chosen = filters.indexOf(file.filter);
     const auto& format = formats.at(chosen < 0 ? 0U : static_cast<std::size_t>(chosen));
-    return WriteFile(file.name, TableOf(page, locale, format.separator));
+    return NotSavedText(file.name, SaveFile(file.name, TableOf(page, locale, format.separator)));
 }
 
 } // namespace quend::compare

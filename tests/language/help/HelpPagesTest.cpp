@@ -99,6 +99,15 @@ TEST_P(Pages, EveryControlHasItsTopic) {
     }
 }
 
+/// Their numbers are in tables of the program, not in forms.
+TEST_P(Pages, EveryColumnOfTheComparisonHasItsTopic) {
+    constexpr int first = 700;
+    constexpr int last = 723;
+    for (int topic = first; topic <= last; ++topic) {
+        EXPECT_TRUE(m_help.topics.contains(QString::number(topic))) << topic;
+    }
+}
+
 TEST_P(Pages, SaysWhatTheOtherLanguagesSay) {
     const HelpPages english(English);
     EXPECT_EQ(english.topics, m_help.topics);

@@ -3,7 +3,6 @@
 #include "Chart.h"
 #include "ChartSamples.h"
 
-#include <QElapsedTimer>
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
@@ -181,23 +180,4 @@ TEST(ChartPainting, PdfHoldsLinesAndTexts) {
 }
 
 /// 17 lines of 360 months in well under 10 ms; sanitizers and busy machines take their time.
-TEST(ChartPainting, PaintingIsQuick) {
-    constexpr int rounds = 15;
-    for (const int months : {360, 1200}) {
-        const ChartData data = MakeSample({.lines = 17, .months = months});
-        QImage image = Empty({700, 360});
-        QPainter painter(&image);
-        qint64 best = 1'000'000'000;
-        for (int round = 0; round < rounds; ++round) {
-            QElapsedTimer timer;
-            timer.start();
-            PaintChart(painter, image.rect(), data, Dollars(), Light());
-            best = std::min(best, timer.nsecsElapsed());
-        }
-        RecordProperty(months == 360 ? "microseconds" : "microseconds1200",
-                       std::to_string(best / 1000));
-        EXPECT_GT(50'000'000, best);
-    }
-}
-
 } // namespace

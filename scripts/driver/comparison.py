@@ -149,8 +149,7 @@ class Comparison:
         before = self.years()
         self._hands.move(x, y)
         self._hands.hold(1)
-        for distance in range(_STEP, 10 * _STEP, _STEP):
-            self._move(x + distance, y)
+        self._move(x + self._chart().box().width // 4, y)
         if self.years() != before:
             self._move(x, y)
             return True

@@ -133,8 +133,9 @@ TEST(SpanishWords, AreTheSameThroughout) {
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
     const HelpPages help("40a");
     QMap<QString, QString> written = help.pages;
-    for (const char* name : {"language/components/40a/texts.txt", "packaging/man/quend-loan.es.1.in",
-                             "packaging/man/quend-compare.es.1.in"}) {
+    for (const char* name :
+         {"language/components/40a/texts.txt", "packaging/man/quend-loan.es.1.in",
+          "packaging/man/quend-compare.es.1.in"}) {
         written.insert(QLatin1String(name),
                        TextOfFile(QStringLiteral(QUEND_SOURCE_DIR "/") + QLatin1String(name)));
     }

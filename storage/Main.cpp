@@ -189,7 +189,7 @@ int Print(const QString& text, std::FILE* stream, int code) {
 constexpr int BadUsage = 2;
 
 /// Help and version are printed without a display; then the exit code.
-std::optional<int> AnswerBeforeStart(int& argc, char* argv[]) {
+std::optional<int> AnswerBeforeStart(int& argc, char** argv) {
     QStringList arguments;
     std::transform(argv + 1, argv + argc, std::back_inserter(arguments),
                    [](const char* argument) { return QString::fromLocal8Bit(argument); });

@@ -87,7 +87,7 @@ QString WhyNothingSaved(const ExplainedOffer& offer) {
 } // namespace
 
 QString ExplainInterestSaved(const ExplainedOffer& offer) {
-    const QString nothing = WhyNothingSaved(offer);
+    QString nothing = WhyNothingSaved(offer);
     if (!nothing.isEmpty()) {
         return nothing;
     }
@@ -97,7 +97,7 @@ QString ExplainInterestSaved(const ExplainedOffer& offer) {
 }
 
 QString ExplainPaymentsSaved(const ExplainedOffer& offer) {
-    const QString nothing = WhyNothingSaved(offer);
+    QString nothing = WhyNothingSaved(offer);
     if (!nothing.isEmpty()) {
         return nothing;
     }

@@ -9,10 +9,12 @@
 #include "TablePages.h"
 #include "ui_OverTimePage.h"
 
+#include <utility>
+
 namespace quend::compare {
 
-OverTimePage::OverTimePage(const DisplayFormats& formats)
-    : m_ui(std::make_unique<Ui::OverTimePage>()), m_formats(formats) {
+OverTimePage::OverTimePage(DisplayFormats formats)
+    : m_ui(std::make_unique<Ui::OverTimePage>()), m_formats(std::move(formats)) {
     m_ui->setupUi(this);
     m_ui->tblOverTime->setModel(&m_model);
     connect(m_ui->optCost, &QRadioButton::toggled, this, [this] { ShowLines(); });

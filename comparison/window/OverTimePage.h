@@ -20,7 +20,7 @@ class OverTimePage : public ComparePage {
     Q_OBJECT
 
 public:
-    explicit OverTimePage(const DisplayFormats& formats);
+    explicit OverTimePage(DisplayFormats formats);
     Q_DISABLE_COPY_MOVE(OverTimePage)
     ~OverTimePage() override;
 

@@ -10,10 +10,12 @@
 
 #include <algorithm>
 
+#include <utility>
+
 namespace quend::compare {
 
-SchedulePage::SchedulePage(const DisplayFormats& formats)
-    : m_ui(std::make_unique<Ui::SchedulePage>()), m_formats(formats) {
+SchedulePage::SchedulePage(DisplayFormats formats)
+    : m_ui(std::make_unique<Ui::SchedulePage>()), m_formats(std::move(formats)) {
     m_ui->setupUi(this);
     m_ui->tblSchedule->setModel(&m_model);
     connect(m_ui->cboLoan, &QComboBox::currentIndexChanged, this, [this] { ShowSchedule(); });

@@ -16,7 +16,7 @@ class SchedulePage : public ComparePage {
     Q_OBJECT
 
 public:
-    explicit SchedulePage(const DisplayFormats& formats);
+    explicit SchedulePage(DisplayFormats formats);
     Q_DISABLE_COPY_MOVE(SchedulePage)
     ~SchedulePage() override;
 

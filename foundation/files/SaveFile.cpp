@@ -50,7 +50,7 @@ SaveOutcome SaveFile(const QString& path, const QByteArray& content) {
     QSaveFile file(path);
     const bool written =
         file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && WriteWhole(file, content);
-    const SaveOutcome refused = OutcomeOf(file, place);
+    SaveOutcome refused = OutcomeOf(file, place);
     if (!written) {
         file.cancelWriting();
         return refused;

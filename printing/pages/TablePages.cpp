@@ -27,7 +27,7 @@ constexpr double LeastPictureSide = TwipsPerInch;
 /// Draws title, paragraphs, picture and table, whichever there are.
 class TableDrawing : public Drawing {
 public:
-    TableDrawing(PictureOnPaper document, const Paper& paper);
+    TableDrawing(PictureOnPaper document, Paper paper);
     Q_DISABLE_COPY_MOVE(TableDrawing)
     ~TableDrawing() override = default;
 
@@ -66,8 +66,8 @@ PictureOnPaper WithSortedCells(PictureOnPaper document) {
     return document;
 }
 
-TableDrawing::TableDrawing(PictureOnPaper document, const Paper& paper)
-    : m_document(WithSortedCells(std::move(document))), m_paper(paper),
+TableDrawing::TableDrawing(PictureOnPaper document, Paper paper)
+    : m_document(WithSortedCells(std::move(document))), m_paper(std::move(paper)),
       m_columns(ColumnsOf(m_document.table, m_paper)),
       m_cells(m_document.table, m_paper, m_columns), m_flow(m_paper, m_document.title) {}
 
@@ -196,10 +196,10 @@ void TableDrawing::PrintRule(int pen) {
 } // namespace
 
 std::unique_ptr<Drawing> DrawingOf(TableOnPaper table, const Paper& paper) {
-    PictureOnPaper document{.title = std::exchange(table.title, {}),
-                            .paragraphs = std::exchange(table.paragraphs, {}),
-                            .paint = {},
-                            .table = std::move(table)};
+    PictureOnPaper document;
+    document.title = std::exchange(table.title, {});
+    document.paragraphs = std::exchange(table.paragraphs, {});
+    document.table = std::move(table);
     return std::make_unique<TableDrawing>(std::move(document), paper);
 }
 

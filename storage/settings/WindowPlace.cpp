@@ -32,10 +32,10 @@ QString UserFile(const QString& name) {
     return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + u'/' + name;
 }
 
-QByteArray KeptBytes(const QString& name, int most) {
-    QFile file(name);
-    const bool opened = QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly);
-    return opened ? file.read(most) : QByteArray();
+QByteArray KeptBytes(const QString& file, int most) {
+    QFile kept(file);
+    const bool opened = QFileInfo(file).isFile() && kept.open(QIODevice::ReadOnly);
+    return opened ? kept.read(most) : QByteArray();
 }
 
 void KeepBytes(const QByteArray& bytes, const QString& file) {

@@ -96,7 +96,7 @@ bool MonthAxis::IsInYears() const { return step >= MonthsPerYear; }
 int MonthAxis::CountAt(int tick) const { return IsInYears() ? tick / MonthsPerYear : tick; }
 
 MonthAxis AxisOfMonths(int months, int mostTicks) {
-    const auto found =
+    const auto* const found =
         std::ranges::find_if(MonthSteps, [&](int step) { return months / step < mostTicks; });
     MonthAxis axis{.step = found != MonthSteps.end() ? *found : MonthSteps.back(), .ticks = {}};
     for (int tick = 0; tick <= months; tick += axis.step) {

@@ -29,7 +29,10 @@ int NoneLastOrder::Compared(const QVariant& first, const QVariant& second) const
         return m_names.compare(first.toString(), second.toString());
     }
     const QPartialOrdering order = QVariant::compare(first, second);
-    return order == QPartialOrdering::Less ? -1 : int{order == QPartialOrdering::Greater};
+    if (order == QPartialOrdering::Less) {
+        return -1;
+    }
+    return order == QPartialOrdering::Greater ? 1 : 0;
 }
 
 } // namespace quend::compare

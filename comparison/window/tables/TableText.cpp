@@ -29,8 +29,8 @@ bool IsPassedOver(QChar c) {
 bool BeginsFormula(QChar c) { return QStringView(u"=+-@\uFF1D\uFF0B\uFF0D\uFF20").contains(c); }
 
 QString WithoutFormula(QString text) {
-    const auto first = std::ranges::find_if_not(text, IsPassedOver);
-    const bool isFormula = first != text.end() && BeginsFormula(*first);
+    const auto* const first = std::ranges::find_if_not(std::as_const(text), IsPassedOver);
+    const bool isFormula = first != text.cend() && BeginsFormula(*first);
     const bool isCut = text.startsWith(u'\t') || text.startsWith(u'\r');
     return isFormula || isCut ? text.prepend(u'\'') : text;
 }

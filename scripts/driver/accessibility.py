@@ -118,10 +118,6 @@ class Node:
         """The text of an entry field. Raises BusError for a control without text."""
         return str(self._ask(_PREFIX + "Text", "GetText", GLib.Variant("(ii)", (0, -1))))
 
-    def parent(self) -> Node:
-        owner, path = self._property("Accessible", "Parent")
-        return Node(self._bus, owner, path)
-
     # Of tables
 
     def rows(self) -> int:

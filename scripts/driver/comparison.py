@@ -92,13 +92,7 @@ class Comparison:
         operated = {"push button", "button", "radio button", "check box", "spin button",
                     "spin box", "text", "page tab", "table", "combo box", "chart"}
         return [part.role() for part in self._window().walk(PARTS_WITHOUT_CELLS)
-                if part.role() in operated and part.has(SHOWING) and not part.name()
-                and not self._is_inside_spin(part)]
-
-    def _is_inside_spin(self, part: Node) -> bool:
-        """The field of a number is read with the number's name."""
-        parent = part.parent()
-        return parent.role() in ("spin button", "spin box", "combo box")
+                if part.role() in operated and part.has(SHOWING) and not part.name()]
 
     # What the user does
 

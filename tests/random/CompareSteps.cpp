@@ -1,14 +1,15 @@
 // The comparison window beside the main one: opened and closed, asked for other years and payments,
 // given costs, sorted.
 
-#include "ComparisonOfWorksheet.h"
 #include "FigureTable.h"
 #include "Figures.h"
+#include "LoanSchedule.h"
 #include "QuendNames.h"
 #include "RandomUser.h"
 #include "StepTexts.h"
 #include "TableRoles.h"
 
+#include <QAbstractItemModel>
 #include <QApplication>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -23,8 +24,8 @@ using quend::compare::FigureTable;
 
 namespace {
 
-FigureTable& CostsIn(const QWidget& comparison) {
-    return *comparison.findChild<FigureTable*>(u"tblCosts"_s);
+FigureTable& CostsIn(const QWidget& window) {
+    return *window.findChild<FigureTable*>(u"tblCosts"_s);
 }
 
 } // namespace
@@ -41,29 +42,29 @@ QWidget* RandomUser::Comparison() {
 /// Opens the window, or brings it to the front. Painting it takes most of the time.
 void RandomUser::OpenComparison(unsigned a, unsigned /*b*/) {
     Trigger("mnuToolsCompare");
-    if (QWidget* comparison = Comparison()) {
-        comparison->setUpdatesEnabled(a % 8 == 0);
+    if (QWidget* window = Comparison()) {
+        window->setUpdatesEnabled(a % 8 == 0);
     } else {
         Complain(u"the comparison does not open"_s);
     }
 }
 
 void RandomUser::CloseComparison(unsigned /*a*/, unsigned /*b*/) {
-    if (QWidget* comparison = Comparison(); comparison != nullptr && !comparison->close()) {
+    if (QWidget* window = Comparison(); window != nullptr && !window->close()) {
         Complain(u"the comparison does not close"_s);
     }
 }
 
 void RandomUser::CompareOtherwise(unsigned a, unsigned b) {
     static constexpr std::array choices{"optIntended", "optRequired", "optMonthly"};
-    QWidget* comparison = Comparison();
-    if (comparison == nullptr) {
+    QWidget* window = Comparison();
+    if (window == nullptr) {
         return;
     }
-    comparison->findChild<QSpinBox*>(u"udYears"_s)->setValue(static_cast<int>(a % 50) + 1);
+    window->findChild<QSpinBox*>(u"udYears"_s)->setValue(static_cast<int>(a % 50) + 1);
     const char* choice = choices.at(b % choices.size());
-    comparison->findChild<QRadioButton*>(QString::fromLatin1(choice))->click();
-    auto* amount = comparison->findChild<QLineEdit*>(u"txtMonthly"_s);
+    window->findChild<QRadioButton*>(QString::fromLatin1(choice))->click();
+    auto* amount = window->findChild<QLineEdit*>(u"txtMonthly"_s);
     if (amount->isEnabled()) {
         amount->setFocus();
         amount->selectAll();
@@ -74,11 +75,11 @@ void RandomUser::CompareOtherwise(unsigned a, unsigned b) {
 
 /// As the table stores what was typed into it.
 void RandomUser::EnterCosts(unsigned a, unsigned b) {
-    const QWidget* comparison = Comparison();
-    if (comparison == nullptr) {
+    const QWidget* window = Comparison();
+    if (window == nullptr) {
         return;
     }
-    QAbstractItemModel& figures = *CostsIn(*comparison).model();
+    QAbstractItemModel& figures = *CostsIn(*window).model();
     if (figures.rowCount() == 0) {
         return;
     }
@@ -100,8 +101,8 @@ void RandomUser::EnterCosts(unsigned a, unsigned b) {
 }
 
 void RandomUser::SortCosts(unsigned a, unsigned /*b*/) {
-    if (const QWidget* comparison = Comparison()) {
-        FigureTable& table = CostsIn(*comparison);
+    if (const QWidget* window = Comparison()) {
+        FigureTable& table = CostsIn(*window);
         table.SortBy(static_cast<int>(a) % table.model()->columnCount());
     }
 }

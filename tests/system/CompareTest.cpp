@@ -78,6 +78,7 @@ const std::string Horizon = TwoOffers + R"(
 compare
 count 3 @990
 show 1201
+nameless
 chart Home ctrl+Right Up
 years
 dragyears 6
@@ -87,11 +88,13 @@ compare
 compared
 years
 show 1202
+nameless
 show 1200
 )";
 
 const std::string HorizonShown =
     Raised +
+    "nameless\t\n"
     "chart\tchart\n"
     "chart\tCost so far\n"
     "chart\tMonth 12: North has cost $5,966.59.\n"
@@ -99,7 +102,8 @@ const std::string HorizonShown =
     "title\tComparar ofertas: Home\n"
     "answer\tEn 6 años, South cuesta menos que las demás: $28,310, es decir, $6,256 menos que "
     "North.\n"
-    "years\t6\n";
+    "years\t6\n"
+    "nameless\t\n";
 
 /// The table is exported; a print is cancelled in its dialog; the comparison ends with the program.
 const std::string Export = TwoOffers + R"(

@@ -57,6 +57,8 @@ private:
     void WireCommands();
     void KeepChoice();
     void ShowChoice();
+    /// Stores what is being typed. False: it was refused, and is still being edited.
+    bool CommitEntries();
     void ShowYearsUnit();
     void cmdCopy_Click();
     void cmdExport_Click();

@@ -143,6 +143,7 @@ inline constexpr int FileNotAllowed = 954;
 inline constexpr int FileIsNone = 955;
 inline constexpr int FileDiskFull = 956;
 inline constexpr int FileNotSaved = 957; ///< the system's reason follows
+inline constexpr int ScheduleOfPayments = 999;
 
 // How a figure came about.
 inline constexpr int CompareOfferTerms = 1000; ///< %2: amount, %3: rate, %4: term, %5: payments
@@ -209,9 +210,9 @@ inline constexpr int CompareLeftOut = 1244; ///< One loan a line follows.
 inline constexpr int ScheduleFromToday = 1245;
 inline constexpr int ScheduleFromNextPayment = 1246;
 inline constexpr int ScheduleOfNone = 1247;
-inline constexpr int ScheduleTitle = 1248;    ///< %1: the loan
-inline constexpr int PaymentEnds = 1249;      ///< %1: the payment, %2: the loan, %3: a date
-inline constexpr int NoPaymentEnds = 1250;    ///< %1: the loan, %2: a date
+inline constexpr int ScheduleTitle = 1248;    ///< %1: the offer
+inline constexpr int PaymentEnds = 1249;      ///< %1: the payment, %2: the offer, %3: a date
+inline constexpr int NoPaymentEnds = 1250;    ///< %1: the offer, %2: a date
 inline constexpr int AmountAfforded = 1251;   ///< %1: the payment, %2: the offer, %3: the amount
 inline constexpr int NoAmountAfforded = 1252; ///< %1: the payment, %2: the offer
 inline constexpr int RateNeeded = 1253;       ///< %1: the payment, %2: the offer, %3: the rate
@@ -226,5 +227,9 @@ inline constexpr int ExportTitle = 1261;
 inline constexpr int CompareSelectFigure = 1263;
 inline constexpr int CostOverTimeTitle = 1264;
 inline constexpr int BalanceOverTimeTitle = 1265;
+inline constexpr int PaymentEndsCurrent = 1266;   ///< %1: the payment, %2: a date
+inline constexpr int NoPaymentEndsCurrent = 1267; ///< %1: a date
+inline constexpr int ScheduleTitleCurrent = 1268;
+inline constexpr int FindAPayment = 1271; ///< the entry of menus
 
 } // namespace quend::language::TextNumber

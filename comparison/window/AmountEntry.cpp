@@ -1,6 +1,7 @@
 #include "AmountEntry.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMetaObject>
 
@@ -10,7 +11,6 @@ namespace quend::compare {
 
 AmountEntry::AmountEntry(QLineEdit& edit, Rules rules) : m_edit(&edit), m_rules(std::move(rules)) {
     edit.installEventFilter(this);
-    connect(&edit, &QLineEdit::returnPressed, this, &AmountEntry::Commit);
 }
 
 void AmountEntry::SetValue(Money value) {
@@ -52,7 +52,21 @@ bool AmountEntry::Commit() {
     return true;
 }
 
+/// Return takes a new amount, and is nothing else then: a default button must not use an answer
+/// that has not been read yet.
+bool AmountEntry::OnKey(const QKeyEvent& key) {
+    const bool isReturn = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (!isReturn || !m_edit->isModified()) {
+        return false;
+    }
+    Commit();
+    return true;
+}
+
 bool AmountEntry::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_edit && event->type() == QEvent::KeyPress) {
+        return OnKey(*static_cast<QKeyEvent*>(event));
+    }
     const bool isFocus = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
     if (watched != m_edit || !isFocus) {
         return false;
@@ -61,7 +75,8 @@ bool AmountEntry::eventFilter(QObject* watched, QEvent* event) {
     if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason) {
         return false; // the field stays the edited one
     }
-    if (m_edit->isModified() && !Commit()) {
+    // Not when the focus comes back to a refused text: the user has been told why.
+    if (event->type() == QEvent::FocusOut && !Commit()) {
         return false;
     }
     // Queued, because the edit has not the focus yet, or has it still.

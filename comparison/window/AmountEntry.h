@@ -10,6 +10,7 @@
 #include <functional>
 #include <optional>
 
+class QKeyEvent;
 class QLineEdit;
 
 namespace quend::compare {
@@ -41,6 +42,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool OnKey(const QKeyEvent& key);
     void Show();
 
     QLineEdit* m_edit;

@@ -21,6 +21,12 @@ Row RowAt(const Worksheet& sheet, int place) {
     return sheet.RowOfOffer(OfferIndex{static_cast<std::size_t>(place) - 1});
 }
 
+/// The loan of a row of the main window; that held today for Field::NoRow.
+int PlaceOf(const Worksheet& sheet, Row row) {
+    return row == Field::NoRow ? CurrentLoanPlace
+                               : static_cast<int>(sheet.OfferIndexOfRow(row).value) + 1;
+}
+
 /// For a question beside the comparison window, whose worksheet must change only when it shows it.
 ComparedWorksheet ReadOnce(Loan& window) {
     ComparisonReader reader(window);
@@ -44,13 +50,33 @@ CompareCommands::CompareCommands(Loan& window, CompareWorld world)
     connect(&m_later, &QTimer::timeout, this,
             [this] { m_window->Report().Guard([this] { ShowChanges(); }); });
     connect(&window, &Loan::WorksheetChanged, this, &CompareCommands::FollowWorksheet);
+    window.installEventFilter(this);
     window.OnNeverEnding([this](Row row) { return Enough(row); });
+    window.OnFindPayment([this](Field field) {
+        FindPayment(PlaceOf(m_window->GetWorksheet(), field.row), *m_window);
+    });
     connect(&window, &Loan::LanguageChanged, this, &CompareCommands::FollowLanguage);
 }
 
-CompareCommands::~CompareCommands() { m_window->OnNeverEnding({}); }
+CompareCommands::~CompareCommands() {
+    m_window->OnNeverEnding({});
+    m_window->OnFindPayment({});
+}
 
+/// The comparison window closes with the main window: a program without that would be left over,
+/// because a refused entry may keep the comparison window open.
+bool CompareCommands::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_window && event->type() == QEvent::Hide && !event->spontaneous()) {
+        m_compare.reset();
+    }
+    return false;
+}
+
+/// What is being typed in the main window belongs to the worksheet.
 void CompareCommands::mnuToolsCompare_Click() {
+    if (!m_window->Commit()) {
+        return;
+    }
     m_reader.Read();
     if (!m_compare) {
         m_compare = std::make_unique<frmCompare>(*m_window, m_world);
@@ -87,9 +113,7 @@ void CompareCommands::FindPayment(int place, QWidget& parent) {
 
 QString CompareCommands::Enough(Row row) {
     const Worksheet& sheet = m_window->GetWorksheet();
-    const int place = row == Field::NoRow ? CurrentLoanPlace
-                                          : static_cast<int>(sheet.OfferIndexOfRow(row).value) + 1;
-    return EnoughFor(ReadOnce(*m_window), place, sheet.Texts().Formats());
+    return EnoughFor(ReadOnce(*m_window), PlaceOf(sheet, row), sheet.Texts().Formats());
 }
 
 void CompareCommands::FollowWorksheet() {

@@ -30,6 +30,9 @@ public:
     /// Asks what payment ends the loan at this place.
     void FindPayment(int place, QWidget& parent);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void mnuToolsCompare_Click();
     void mnuToolsFindPayment_Click();

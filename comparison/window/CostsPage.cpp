@@ -40,7 +40,10 @@ CostsPage::CostsPage(const Worksheet& sheet, MessageQueue& messages)
     m_order.setSourceModel(&m_model);
     m_ui->tblCosts->setModel(&m_order);
     m_ui->tblCosts->AllowKeys(
-        [this](QChar key) { return m_sheet->Texts().AllowsKey(FieldId::Costs, key); });
+        // A credit of the lender is negative.
+        [this](QChar key) {
+            return key == u'-' || m_sheet->Texts().AllowsKey(FieldId::Costs, key);
+        });
     connect(m_ui->tblCosts, &FigureTable::CurrentFigureChanged, this, &CostsPage::Explain);
 }
 

@@ -17,20 +17,32 @@ Date DayAsked(const PaymentQuestion& question, Date today) {
     return question.kind == Kind::PaymentByYears ? HorizonDay(today, question.years) : question.day;
 }
 
+PaymentAnswer PaymentThatEndsCurrent(Date day, const std::optional<Money>& payment,
+                                     const DisplayFormats& formats) {
+    const QString by = formats.ShortDate(day);
+    if (!payment) {
+        return {GetResourceText(TextNumber::NoPaymentEndsCurrent).arg(by), std::nullopt,
+                FieldId::CurActualPayment};
+    }
+    return {GetResourceText(TextNumber::PaymentEndsCurrent).arg(formats.Currency(*payment), by),
+            *payment, FieldId::CurActualPayment};
+}
+
 PaymentAnswer PaymentThatEnds(const PaymentQuestion& question, const ComparedWorksheet& worksheet,
                               const DisplayFormats& formats) {
     const Date day = DayAsked(question, worksheet.input.today);
     const auto payment = LeastPaymentBy(worksheet.input, question.place, day);
-    const FieldId field =
-        question.place == CurrentLoanPlace ? FieldId::CurActualPayment : FieldId::ActualPayment;
+    if (question.place == CurrentLoanPlace) {
+        return PaymentThatEndsCurrent(day, payment, formats);
+    }
     const QString name = NameOfLoan(worksheet, question.place);
     if (!payment) {
         return {GetResourceText(TextNumber::NoPaymentEnds).arg(name, formats.ShortDate(day)),
-                std::nullopt, field};
+                std::nullopt, FieldId::ActualPayment};
     }
     return {GetResourceText(TextNumber::PaymentEnds)
                 .arg(formats.Currency(*payment), name, formats.ShortDate(day)),
-            *payment, field};
+            *payment, FieldId::ActualPayment};
 }
 
 PaymentAnswer AmountAfforded(const PaymentQuestion& question, const ComparedWorksheet& worksheet,

@@ -79,6 +79,12 @@ QString SchedulePage::Note() const {
 const FigureTable& SchedulePage::Table() const { return *m_ui->tblSchedule; }
 
 QString SchedulePage::Title() const {
+    if (m_ui->cboLoan->currentIndex() < 0) {
+        return GetResourceText(TextNumber::ScheduleOfPayments);
+    }
+    if (m_ui->cboLoan->currentData() == CurrentLoanPlace) {
+        return GetResourceText(TextNumber::ScheduleTitleCurrent);
+    }
     return GetResourceText(TextNumber::ScheduleTitle).arg(m_ui->cboLoan->currentText());
 }
 

@@ -54,6 +54,7 @@ frmCompare::frmCompare(Loan& window, CompareWorld world)
       m_overTime(new OverTimePage(window.GetWorksheet().Texts().Formats())),
       m_schedule(new SchedulePage(window.GetWorksheet().Texts().Formats())) {
     m_ui->setupUi(this);
+    setWindowFlags(Qt::Window); // with all buttons of a window
     setAttribute(Qt::WA_QuitOnClose, false);
     for (ComparePage* page : std::initializer_list<ComparePage*>{m_costs, m_overTime, m_schedule}) {
         m_ui->tabPages->addTab(page, QString());
@@ -163,7 +164,9 @@ void frmCompare::ShowChoice() {
     m_ui->optRequired->setChecked(settings.comparePayments == PaymentChoice::Required);
     m_ui->optMonthly->setChecked(settings.comparePayments == PaymentChoice::Monthly);
     m_ui->txtMonthly->setEnabled(settings.comparePayments == PaymentChoice::Monthly);
-    if (m_monthly->Value() != settings.compareMonthly) {
+    // A refused text is given up with the choice that it belongs to.
+    if (settings.comparePayments != PaymentChoice::Monthly ||
+        m_monthly->Value() != settings.compareMonthly) {
         m_monthly->SetValue(settings.compareMonthly);
     }
     ShowYearsUnit();
@@ -181,10 +184,12 @@ void frmCompare::KeepChoice() {
     Q_EMIT ChoiceChanged();
 }
 
+bool frmCompare::CommitEntries() { return m_monthly->Commit() && m_costs->CommitEntry(); }
+
 void frmCompare::cmdCopy_Click() { Page().Table().Copy(); }
 
 void frmCompare::cmdExport_Click() {
-    if (!m_costs->CommitEntry()) {
+    if (!CommitEntries()) {
         return;
     }
     const QString fault =
@@ -195,7 +200,7 @@ void frmCompare::cmdExport_Click() {
 }
 
 void frmCompare::cmdPrint_Click() {
-    if (!m_costs->CommitEntry()) {
+    if (!CommitEntries()) {
         return;
     }
     const ComparePage& page = Page();
@@ -203,9 +208,9 @@ void frmCompare::cmdPrint_Click() {
                   [&page](const printing::Paper& paper) { return page.Draw(paper); });
 }
 
-/// Costs that are refused keep the window open, so that nothing typed is lost.
+/// An entry that is refused keeps the window open, so that nothing typed is lost.
 void frmCompare::closeEvent(QCloseEvent* event) {
-    if (!m_costs->CommitEntry()) {
+    if (!CommitEntries()) {
         event->ignore();
         return;
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 // First, because moc 6.4 cannot read <concepts> as the first header of the standard library.
-#include <QWidget>
+#include <QDialog>
 
 #include "CompareWorld.h"
 #include "ComparedWorksheet.h"
@@ -27,8 +27,8 @@ class SchedulePage;
 
 /// The comparison window: which offer to take, in words, and the pages that show why. It is beside
 /// the main window and reads what follows from the worksheet; it computes nothing and stores
-/// nothing in the worksheet.
-class frmCompare : public QWidget {
+/// nothing in the worksheet. A dialog for screen readers, which announce it by its title.
+class frmCompare : public QDialog {
     Q_OBJECT
 
 public:
@@ -41,6 +41,8 @@ public:
     /// Opens the window, or brings it to the front.
     void Present();
     void RenewLanguage();
+    /// Escape closes the window like its button.
+    void reject() override { close(); }
 
 Q_SIGNALS:
     void CostsEntered(int place, quend::calc::Money costs);
@@ -57,6 +59,8 @@ private:
     void WireCommands();
     void KeepChoice();
     void ShowChoice();
+    /// Stores what is being typed. False: it was refused, and is still being edited.
+    bool CommitEntries();
     void ShowYearsUnit();
     void cmdCopy_Click();
     void cmdExport_Click();

@@ -2,10 +2,12 @@
 
 #include "Comparison.h"
 #include "Frequency.h"
+#include "Payment.h"
 #include "QuendNames.h"
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -58,6 +60,54 @@ void CompareUsualOffers(benchmark::State& state) {
         benchmark::DoNotOptimize(Compare(input));
     }
 }
-BENCHMARK(CompareUsualOffers)->Arg(1)->Arg(2)->Arg(4)->Arg(6)->Arg(8)->Arg(16)->Unit(benchmark::kMillisecond);
+BENCHMARK(CompareUsualOffers)
+    ->Arg(1)
+    ->Arg(2)
+    ->Arg(4)
+    ->Arg(6)
+    ->Arg(8)
+    ->Arg(16)
+    ->Unit(benchmark::kMillisecond);
+
+/// Sixteen offers and a loan held today that nearly never end: from the first date to the last,
+/// with three different payments each. The worst that a random search found.
+ComparisonInput EndlessWorksheet() {
+    constexpr int Months = 119'597;
+    constexpr Money Cent = Money::FromTenThousandths(100);
+    constexpr Money FourCents = Money::FromTenThousandths(400); // nearly two a payment
+    const Frequency& everyTwoWeeks = Frequencies.at(2);
+    const Money amount = Units(195'395'796'967);
+    const Rate rate = Rate::FromFraction(7.677e-6);
+    const Money required = PrincipalAndInterest(amount, rate, {Months}, everyTwoWeeks.Code());
+    ComparisonInput input{.today = Date::FromCalendar(1, 1, 1),
+                          .years = 50,
+                          .choice = PaymentChoice::Monthly,
+                          .monthlyPayment = Money::FromDouble(required.ToDouble() * 26 / 12) +
+                                            Cent + Cent + Cent + Cent,
+                          .amount = amount};
+    input.offers.assign(16, {.costs = Units(1'000),
+                             .rate = rate,
+                             .term = {Months},
+                             .frequency = everyTwoWeeks.Code(),
+                             .actualPayment = required + Cent});
+    input.offers.front().costs = Money();
+    input.current = {.rate = rate,
+                     .balance = amount,
+                     .actualPayment = required,
+                     .actualFrequency = everyTwoWeeks.Code()};
+    return input;
+}
+
+/// All figures, and how many of the offers take part.
+void CompareEndlessOffers(benchmark::State& state) {
+    const ComparisonInput input = EndlessWorksheet();
+    for ([[maybe_unused]] auto turn : state) {
+        benchmark::DoNotOptimize(Compare(input));
+    }
+    const ComparisonResult result = Compare(input);
+    state.counters["compared"] = static_cast<double>(std::ranges::count_if(
+        result.offers, [](const OfferComparison& offer) { return offer.figures.has_value(); }));
+}
+BENCHMARK(CompareEndlessOffers)->Unit(benchmark::kMillisecond);
 
 } // namespace

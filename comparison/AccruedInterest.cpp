@@ -2,13 +2,12 @@
 
 #include "ActuarialRate.h"
 #include "Failure.h"
+#include "LeastNumber.h"
 #include "ScheduleEnd.h"
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <limits>
-#include <numeric>
 
 namespace quend::comparison {
 
@@ -39,48 +38,6 @@ std::int64_t CentsNotBelow(Money amount) {
     return count / PerCent + (count % PerCent > 0 ? 1 : 0);
 }
 
-/// With which the schedule repays the loan by the day, but for the rounding of each period.
-std::int64_t EstimateInCents(const DatedLoan& loan, Date day) {
-    const std::int64_t ended =
-        AccrualPeriods(loan).StepsUntil(day) + (loan.accrual == Accrual::BeforePayment ? 1 : 0);
-    const std::array<CashFlows, 1> unit{{{.amount = 1.0, .count = ended, .periods = 1}}};
-    const double units =
-        loan.terms.balance.ToDouble() / PresentValue(unit, RateOfPeriod(loan.terms)) +
-        loan.terms.escrowShare.ToDouble();
-    const double cents = std::ceil(units * PerCent);
-    const bool isInRange = std::abs(cents) < static_cast<double>(MostCents);
-    return isInRange ? static_cast<std::int64_t>(cents) : MostCents;
-}
-
-/// The least number that suffices, where `low` does not and no number above one that does fails;
-/// none up to the most. Searched outwards from a guess in growing steps.
-template <typename Suffices>
-std::optional<std::int64_t> LeastAbove(std::int64_t low, std::int64_t guess, Suffices suffices) {
-    std::int64_t high = std::max(guess, low + 1);
-    std::int64_t step = 1;
-    if (suffices(high)) {
-        while (high - low > step && suffices(high - step)) {
-            high -= step;
-            step *= 2;
-        }
-        low = std::max(low, high - step);
-    } else {
-        do {
-            if (high == MostCents) {
-                return std::nullopt;
-            }
-            low = high;
-            high = low > MostCents - step ? MostCents : low + step;
-            step *= 2;
-        } while (!suffices(high));
-    }
-    while (high - low > 1) {
-        const std::int64_t middle = std::midpoint(low, high);
-        (suffices(middle) ? high : low) = middle;
-    }
-    return high;
-}
-
 } // namespace
 
 std::optional<Money> CostByDay(const DatedLoan& loan, Money closing, Date today, Date day) {
@@ -107,6 +64,21 @@ std::optional<Money> CostByDay(const DatedLoan& loan, Money closing, Date today,
     return end == ScheduleEnd::TooLate ? std::nullopt : std::optional(byDay);
 }
 
+std::optional<Money> EstimatePaymentUntil(const DatedLoan& loan, Date day) {
+    const std::int64_t steps = AccrualPeriods(loan).StepsUntil(day);
+    // A period of an offer ends one date step after its payment, at the calendar's end without one.
+    const std::int64_t ended =
+        loan.accrual == Accrual::BeforePayment ? steps + 1 : std::max<std::int64_t>(steps, 1);
+    const std::array<CashFlows, 1> unit{{{.amount = 1.0, .count = ended, .periods = 1}}};
+    const double repaying =
+        loan.terms.balance.ToDouble() / PresentValue(unit, RateOfPeriod(loan.terms));
+    try {
+        return Money::FromDouble(repaying) + loan.terms.escrowShare;
+    } catch (const OverflowFailure&) {
+        return std::nullopt;
+    }
+}
+
 std::optional<Money> LeastPaymentUntil(const DatedLoan& loan, Date day, Money atLeast) {
     const auto suffices = [&](std::int64_t cents) {
         DatedLoan tried = loan;
@@ -121,7 +93,12 @@ std::optional<Money> LeastPaymentUntil(const DatedLoan& loan, Date day, Money at
     if (suffices(least)) {
         return OfCents(least);
     }
-    const auto found = LeastAbove(least, EstimateInCents(loan, day), suffices);
+    const std::optional<Money> estimate = EstimatePaymentUntil(loan, day);
+    if (!estimate) {
+        return std::nullopt;
+    }
+    const std::int64_t guess = std::clamp(CentsNotBelow(*estimate), least + 1, MostCents);
+    const auto found = LeastNumber(least, MostCents, guess, suffices);
     return found ? std::optional(OfCents(*found)) : std::nullopt;
 }
 

@@ -3,12 +3,11 @@
 #include "AccruedInterest.h"
 #include "ComparedCurrent.h"
 #include "ComparedOffer.h"
+#include "LeastNumber.h"
 #include "LoanSchedule.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <limits>
-#include <numeric>
 
 namespace quend::comparison {
 
@@ -20,20 +19,8 @@ constexpr double ThousandthsOfAPercent = 100'000.0;
 /// not; zero where one does not.
 template <typename Holds>
 std::int64_t Greatest(std::int64_t most, Holds holds) {
-    std::int64_t low = 0;
-    std::int64_t high = 1;
-    while (holds(high)) {
-        if (high == most) {
-            return most;
-        }
-        low = high;
-        high = std::min(high * 2, most);
-    }
-    while (high - low > 1) {
-        const std::int64_t middle = std::midpoint(low, high);
-        (holds(middle) ? low : high) = middle;
-    }
-    return low;
+    const auto fails = [&](std::int64_t number) { return !holds(number); };
+    return LeastNumber(0, most, 1, fails).value_or(most + 1) - 1;
 }
 
 /// Without its intended payment, which would be raised to each payment tried.

@@ -19,10 +19,21 @@ SOURCES = {
     "calc/Payment.cpp": CALC, "calc/Quantities.h": CALC, "calc/Quantities.cpp": CALC,
     "calc/Schedule.h": CALC, "calc/Schedule.cpp": CALC,
     "calc/CLoan.h": CALC, "calc/CLoan.cpp": CALC,
+    "comparison/AccrualPeriods.h": COMPARISON, "comparison/AccrualPeriods.cpp": COMPARISON,
+    "comparison/AccruedInterest.cpp": COMPARISON, "comparison/ActuarialRate.h": COMPARISON,
+    "comparison/ActuarialRate.cpp": COMPARISON, "comparison/ComparedCurrent.h": COMPARISON,
+    "comparison/ComparedCurrent.cpp": COMPARISON, "comparison/ComparedOffer.h": COMPARISON,
+    "comparison/ComparedOffer.cpp": COMPARISON, "comparison/Comparison.h": COMPARISON,
+    "comparison/Comparison.cpp": COMPARISON, "comparison/CostByMonth.h": COMPARISON,
+    "comparison/CostByMonth.cpp": COMPARISON, "comparison/LeastNumber.h": COMPARISON,
+    "comparison/LoanSchedule.h": COMPARISON, "comparison/LoanSchedule.cpp": COMPARISON,
+    "comparison/OverTime.h": COMPARISON, "comparison/OverTime.cpp": COMPARISON,
+    "comparison/PaymentOfMonthly.h": COMPARISON, "comparison/ScheduleEnd.cpp": COMPARISON,
+    "comparison/Solving.cpp": COMPARISON,
     "worksheet/model/OfferOrder.h": SORTS, "worksheet/model/SortKeys.cpp": SORTS,
     "worksheet/model/WorksheetSorting.cpp": SORTS,
 }
-JOBS = 2
+JOBS = 1
 
 
 def all_changes(files, tree):

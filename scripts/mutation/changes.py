@@ -28,10 +28,15 @@ NAMES = {
     "FromDoubleInCents": ("FromDouble",), "FromDouble": ("FromDoubleInCents",),
     "SumOverflows": ("DifferenceOverflows",), "DifferenceOverflows": ("SumOverflows",),
     "ProductOverflows": ("SumOverflows",),
-    "stable_sort": ("sort",), "max": ("min",), "min": ("max",),
+    "stable_sort": ("sort",), "max": ("min",), "min": ("max",), "min_element": ("max_element",),
+    "ceil": ("floor",), "expm1": ("exp",), "log1p": ("log",), "clamp": ("max",),
 }
 ENUMERATORS = {
+    "Accrual": ("AfterPayment", "BeforePayment"),
     "DateStep": ("Month", "HalfMonth", "Days"),
+    "LeftOut": ("No", "NeverEnds"),
+    "PaymentChoice": ("Intended", "Required", "Monthly"),
+    "ScheduleEnd": ("InTime", "TooLate", "Unclear"),
     "SortOrder": ("Entry", "Interest", "PayoffDate"),
     "TextNumber": ("FrequencyMonthly", "FrequencyTwiceAMonth", "FrequencyEveryTwoWeeks",
                    "FrequencyEveryFourWeeks"),
@@ -127,7 +132,7 @@ def replacements(text, all_tokens):
             start = all_tokens[at - 2][2]
             others = [f"{all_tokens[at - 2][1]}::{name}"
                       for name in ENUMERATORS[all_tokens[at - 2][1]] if name != token]
-        elif kind == "name" and text[start - 2:start] != "::" or token in ("llrint", "stable_sort") \
+        elif kind == "name" and (text[start - 2:start] != "::" or text[start - 5:start] == "std::") \
                 or token.startswith("FromDouble"):
             others = () if text.startswith("(double ", end) else NAMES.get(token, ())
         elif kind == "sign" and blank_before and blank_after:

@@ -15,6 +15,8 @@ WORK = ROOT / "build/mutation"
 COPY, BUILD = WORK / "tree", WORK / "build"
 CHOICE_FILE = WORK / "Mutant.h"
 
+# By folder, the lowest first. The tests of a layer are named after it.
+LAYERS = {"calc/": "calc", "comparison/": "comparison", "worksheet/model/": "worksheet_model"}
 # Quick tests first: they detect most changes.
 ORDER = ("-HostileLoans.*:*Properties.*", "HostileLoans.*:*Properties.*")
 MEMORY = 4 << 30
@@ -51,8 +53,9 @@ class Tree:
 
     def build_joined(self, changes):
         """Builds the tests with all changes. Returns the changes that do not compile."""
-        layers = ["calc"] if all(change.file.startswith("calc/") for change in changes) \
-            else ["calc", "worksheet_model"]
+        changed = {change.file for change in changes}
+        layers = [layer for folder, layer in LAYERS.items()
+                  if any(file.startswith(folder) for file in changed)]
         # The layers first: they reveal nearly all of those, and compile sooner.
         stages = [[layer] for layer in layers] + [[f"{layer}_tests" for layer in layers]]
         rejected = []

@@ -214,7 +214,9 @@ void FigureTable::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHin
 
 void FigureTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
-    setProperty(HelpTopic, current.isValid() ? TopicOfColumn(current.column()) : QVariant());
+    if (current.isValid()) { // otherwise that of the table stays
+        setProperty(HelpTopic, TopicOfColumn(current.column()));
+    }
     const QVariant place = current.data(PlaceRole);
     const QVariant figure = current.data(FigureRole);
     if (place.isValid() && figure.isValid()) {

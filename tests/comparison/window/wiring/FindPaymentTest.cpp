@@ -257,7 +257,7 @@ TEST_F(FindPayment, IsInTheMenuOfIntendedPayments) {
                    });
         EXPECT_EQ(FocusName(), row.field);
         Tab();
-        EXPECT_EQ(Text(row.field), Currency(Payment(row.loan % 3, 5)));
+        EXPECT_EQ(Text(row.field), Currency(Payment((row.loan + 1) % 4, 5)));
     }
     EXPECT_FALSE(PickInMenu(u"txtInterestRate(0)", entry));
     EndCommands();
@@ -268,16 +268,18 @@ TEST_F(FindPayment, IsInTheMenuOfIntendedPayments) {
 TEST_F(FindPayment, TooltipsSayWhatWouldBeEnough) {
     OpenMain();
     FillSheet();
-    EnterInto(FieldId::CurActualPayment, Field::NoRow, u"100");
-    EnterInto(FieldId::Term, Row{1}, u"0"); // so that the payment is not raised
-    EnterInto(FieldId::ActualPayment, Row{1}, u"500");
+    Fill(u"txtCurActualPayment", u"100");
+    Fill(u"txtLoanTerm", u""); // without a term a payment is not raised
+    Fill(u"txtInterestRate(3)", u"6");
+    Choose(u"cboFrequency(3)", 0);
+    Fill(u"txtActualPayment(3)", u"500");
     Settle();
     EXPECT_EQ(Text(u"txtCurPayoffDate"), QString());
     const QString current = Hover(u"txtCurPayoffDate");
     EXPECT_TRUE(current.contains(Currency(Payment(0, 5)))) << current.toStdString();
-    const QString offer = Hover(u"txtPayoffDate(1)");
-    EXPECT_EQ(Text(u"txtPayoffDate(1)"), QString());
-    EXPECT_TRUE(offer.contains(Currency(Payment(2, 5)))) << offer.toStdString();
+    const QString offer = Hover(u"txtPayoffDate(3)");
+    EXPECT_EQ(Text(u"txtPayoffDate(3)"), QString());
+    EXPECT_TRUE(offer.contains(Currency(Payment(4, 5)))) << offer.toStdString();
     QToolTip::hideText();
     EndCommands();
 }

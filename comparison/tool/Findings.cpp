@@ -4,9 +4,11 @@
 #include "Language.h"
 #include "LeftOutText.h"
 #include "LoanSchedule.h"
+#include "Overflow.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 
 namespace quend::tool {
@@ -17,8 +19,26 @@ const OfferComparison& OfferAt(const ComparedWorksheet& worksheet, int place) {
     return worksheet.result.offers.at(static_cast<std::size_t>(place) - 1);
 }
 
-/// Differences are said in cents.
-bool IsSame(Money difference) { return difference.RoundedToCents().IsZero(); }
+/// How two amounts differ, in either direction.
+class Difference {
+public:
+    Difference(Money left, Money right)
+        : m_isMore(left > right),
+          m_isOutOfRange(DifferenceOverflows(std::max(left, right).TenThousandths(),
+                                             std::min(left, right).TenThousandths(), m_count)) {}
+
+    /// Too large to be an amount: nothing is said then.
+    bool IsOutOfRange() const { return m_isOutOfRange; }
+    /// To the cent, as differences are said.
+    bool IsNone() const { return Size().RoundedToCents().IsZero(); }
+    bool IsMore() const { return m_isMore; }
+    Money Size() const { return Money::FromTenThousandths(m_count); }
+
+private:
+    std::int64_t m_count = 0;
+    bool m_isMore;
+    bool m_isOutOfRange;
+};
 
 /// The sentences about the offer that costs least by the horizon.
 class AboutTheLeast {
@@ -57,20 +77,26 @@ private:
 
     QString AgainstNext(int place) const {
         const QString name = NameOfLoan(*m_worksheet, place);
-        const Money difference = CostOf(place) - m_cost;
-        return IsSame(difference)
+        const Difference difference(CostOf(place), m_cost);
+        if (difference.IsOutOfRange()) {
+            return {};
+        }
+        return difference.IsNone()
                    ? GetResourceText(TextNumber::NextCostsAsMuch).arg(name)
-                   : GetResourceText(TextNumber::LessThanNext).arg(Amount(difference), name);
+                   : GetResourceText(TextNumber::LessThanNext).arg(Amount(difference.Size()), name);
     }
 
     QString AgainstCurrent(Money current) const {
-        const Money difference = current - m_cost;
-        if (IsSame(difference)) {
+        const Difference difference(current, m_cost);
+        if (difference.IsOutOfRange()) {
+            return {};
+        }
+        if (difference.IsNone()) {
             return GetResourceText(TextNumber::CurrentCostsAsMuch);
         }
-        return difference > Money()
-                   ? GetResourceText(TextNumber::LessThanCurrent).arg(Amount(difference))
-                   : GetResourceText(TextNumber::CurrentCostsLess).arg(Amount(-difference));
+        const int text =
+            difference.IsMore() ? TextNumber::LessThanCurrent : TextNumber::CurrentCostsLess;
+        return GetResourceText(text).arg(Amount(difference.Size()));
     }
 
     const ComparedWorksheet* m_worksheet;
@@ -85,12 +111,12 @@ QStringList AboutTheAmount(const ComparedWorksheet& worksheet, const DisplayForm
     if (!current || !current->costByHorizon) {
         return {};
     }
-    const Money more = worksheet.input.amount - worksheet.input.current.balance;
-    if (IsSame(more)) {
+    const Difference difference(worksheet.input.amount, worksheet.input.current.balance);
+    if (difference.IsOutOfRange() || difference.IsNone()) {
         return {};
     }
-    return {more > Money() ? GetResourceText(TextNumber::WantsMore).arg(formats.Currency(more))
-                           : GetResourceText(TextNumber::WantsLess).arg(formats.Currency(-more))};
+    const int text = difference.IsMore() ? TextNumber::WantsMore : TextNumber::WantsLess;
+    return {GetResourceText(text).arg(formats.Currency(difference.Size()))};
 }
 
 QStringList AboutTheTimes(const ComparedWorksheet& worksheet) {
@@ -109,7 +135,8 @@ QStringList AboutTheTimes(const ComparedWorksheet& worksheet) {
     return sentences;
 }
 
-/// Blank offers are passed over, and a loan held today that there is not.
+/// Blank offers are passed over, and a loan held today that there is not; empty for a loan that
+/// takes part.
 QStringList AboutTheLeftOut(const ComparedWorksheet& worksheet) {
     QStringList sentences;
     for (const int place : worksheet.rows) {
@@ -120,7 +147,6 @@ QStringList AboutTheLeftOut(const ComparedWorksheet& worksheet) {
     if (worksheet.result.current) {
         sentences.append(LeftOutSentence(worksheet, CurrentLoanPlace));
     }
-    sentences.removeAll(QString());
     return sentences;
 }
 
@@ -135,7 +161,9 @@ QStringList Findings(const ComparedWorksheet& worksheet, const DisplayFormats& f
     } else {
         sentences.append(GetResourceText(TextNumber::NoOfferCompared));
     }
-    return sentences + AboutTheLeftOut(worksheet);
+    sentences += AboutTheLeftOut(worksheet);
+    sentences.removeAll(QString());
+    return sentences;
 }
 
 QString LeftOutSentence(const ComparedWorksheet& worksheet, int place) {

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 namespace quend::tool {
 
@@ -14,12 +15,13 @@ constexpr const char* StandardInputName = "-";
 
 } // namespace
 
-InputFile::InputFile(const World& world, const std::string& name) : m_world(&world), m_name(name) {
-    if (name == StandardInputName) {
+InputFile::InputFile(const World& world, std::string name)
+    : m_world(&world), m_name(std::move(name)) {
+    if (m_name == StandardInputName) {
         m_stream = world.in;
         return;
     }
-    m_file.open(name, std::ios::in | std::ios::binary);
+    m_file.open(m_name, std::ios::in | std::ios::binary);
     if (m_file.is_open()) {
         m_stream = &m_file;
     }

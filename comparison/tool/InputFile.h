@@ -13,7 +13,7 @@ namespace quend::tool {
 /// A file named on the command line, or standard input for "-".
 class InputFile {
 public:
-    InputFile(const World& world, const std::string& name);
+    InputFile(const World& world, std::string name);
 
     /// Null where it cannot be opened.
     std::istream* Stream() const { return m_stream; }

@@ -9,8 +9,11 @@
 #include <QDate>
 #include <QLocale>
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
+#include <string>
+#include <vector>
 
 using namespace quend;
 using namespace quend::language;

@@ -2,13 +2,14 @@
 
 #include "CommandTextNumbers.h"
 #include "Language.h"
+#include "TerminalText.h"
 
 #include <cerrno>
 
 namespace quend::tool {
 
 void Complain(const World& world, const QString& sentence) {
-    *world.err << "quend-compare: " << sentence.toStdString() << '\n' << std::flush;
+    *world.err << "quend-compare: " << PlainText(sentence).toStdString() << '\n' << std::flush;
 }
 
 bool Put(const World& world, const QByteArray& bytes) {

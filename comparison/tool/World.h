@@ -26,7 +26,8 @@ struct World {
 /// The exit status.
 enum class Status { Well = 0, BadInput = 1, BadUsage = 2 };
 
-/// Writes a sentence to the error stream, after the program's name.
+/// Writes a sentence to the error stream, after the program's name and without what would control
+/// the terminal.
 void Complain(const World& world, const QString& sentence);
 
 /// Writes and flushes. False, after a complaint, where that failed; without one where nobody reads

@@ -237,14 +237,26 @@ TEST_F(Surroundings, OfAnyQtSettingsAreTaken) {
     ExpectStarts(Start(variables));
 }
 
-TEST_F(Surroundings, OfAnyArgumentsAreTaken) {
-    for (const QStringList& arguments : std::vector<QStringList>{
-             {u"--help"_s, u"-x"_s, u""_s, u"%n"_s, u"a\nb"_s, u"/dev/zero"_s, u"-reverse"_s},
-             {u"-qwindowgeometry"_s, u"9999999999x-1+%n"_s, u"-session"_s, u"../x"_s},
-             {u"-stylesheet"_s, PathOf(u"none"_s), u"-style"_s, u"nonsense"_s, u"-style"_s},
-             {u"ñ\xD83C"_s, QString(100'000, u'-')}}) {
+TEST_F(Surroundings, OfAnyArgumentsAreTakenOrRefused) {
+    const QStringList oddGeometry{u"-qwindowgeometry"_s, u"9999999999x-1+%n"_s, u"-session"_s,
+                                  u"../x"_s};
+    ExpectStarts(Start({}, oddGeometry));
+    ExpectStarts(Start({}, {u"-stylesheet"_s, PathOf(u"none"_s), u"-style"_s, u"nonsense"_s}));
+    struct Case {
+        QStringList arguments;
+        int exitCode;
+    };
+    for (const auto& [arguments, exitCode] :
+         std::vector<Case>{{{u"-x"_s, u""_s, u"%n"_s, u"a\nb"_s, u"-reverse"_s, u"--help"_s}, 0},
+                           {{u""_s}, 2},
+                           {{u"/dev/zero"_s, u"-reverse"_s}, 2},
+                           {{u"-style"_s}, 2},
+                           {{u"ñ\xD83C"_s, QString(100'000, u'-')}, 2},
+                           {{QString(100'000, u'-')}, 2}}) {
         SCOPED_TRACE(arguments.join(u'|').left(80).toStdString());
-        ExpectStarts(Start({}, arguments));
+        const Outcome outcome = Start({}, arguments);
+        EXPECT_EQ(outcome.exitCode, exitCode);
+        EXPECT_EQ(outcome.Of("shown"), QStringList());
     }
 }
 

@@ -6,14 +6,18 @@
 #include "Loan.h"
 #include "OfferRows.h"
 #include "PagePainter.h"
+#include "PdfDocument.h"
 #include "QuendNames.h"
 #include "Report.h"
 #include "ReportInputReader.h"
 #include "SystemPrinter.h"
+#include "TablePages.h"
 #include "Worksheet.h"
 
 #include <QApplication>
 #include <QBuffer>
+#include <QLocale>
+#include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
@@ -94,6 +98,38 @@ BENCHMARK(PrintedReport)
     ->ArgsProduct({{1, 2, 4, 8, 16}, {2}})
     ->Args({16, 180})
     ->Unit(benchmark::kMillisecond);
+
+/// A schedule of this many payments: laid out, and as a document.
+void PrintedSchedule(benchmark::State& state) {
+    TableOnPaper table{.title = QStringLiteral("Schedule")};
+    for (int column = 0; column < 8; ++column) {
+        table.headings << QStringLiteral("Column %1").arg(column);
+        table.rightAligned.push_back(true);
+    }
+    for (int row = 0; row < state.range(0); ++row) {
+        QStringList cells;
+        for (int column = 0; column < 8; ++column) {
+            cells << QStringLiteral("$%1,%2.00").arg(row).arg(100 + column);
+        }
+        table.rows.push_back(cells);
+    }
+    const FontMetrics metrics;
+    const QPageLayout layout = PageOfFile(QLocale::c(), QPageLayout::Portrait);
+    for ([[maybe_unused]] auto turn : state) {
+        const auto drawing =
+            DrawingOf(table, {.space = SpaceOf(layout),
+                              .metrics = &metrics,
+                              .font = {.family = QStringLiteral("DejaVu Sans"), .points = 9},
+                              .legalNotice = {}});
+        const PrintedPages pages = DrawWhole(*drawing);
+        if (state.range(1) != 0) {
+            benchmark::DoNotOptimize(
+                PdfOf(pages, {.title = {}, .creator = {}, .layout = layout}).size());
+        }
+        state.counters["pages"] = static_cast<double>(pages.pages.size());
+    }
+}
+BENCHMARK(PrintedSchedule)->ArgsProduct({{2'600}, {0, 1}})->Unit(benchmark::kMillisecond);
 
 /// Delivery to the print server of CUPS_SERVER; only the last step waits for it.
 void HandOver(benchmark::State& state) {

@@ -21,18 +21,6 @@ int MonthsBetween(Date from, Date until) {
     return static_cast<int>(months) - (MonthAfter(from, static_cast<int>(months)) > until ? 1 : 0);
 }
 
-Date OnePeriodBefore(Date day, const Frequency& frequency) {
-    switch (frequency.step) {
-    case DateStep::Month:
-        return MonthAfter(day, -1);
-    case DateStep::HalfMonth:
-        return PlusDays(day, -15);
-    case DateStep::Days:
-        break;
-    }
-    return PlusDays(day, -frequency.interestParts);
-}
-
 } // namespace
 
 Date MonthAfter(Date day, int months) {
@@ -48,6 +36,18 @@ Date MonthAfter(Date day, int months) {
     return Date::FromCalendar(
         static_cast<int>(month.year()), static_cast<int>(static_cast<unsigned>(month.month())),
         static_cast<int>(static_cast<unsigned>(std::min(calendar.day(), last))));
+}
+
+Date OnePeriodBefore(Date day, const Frequency& frequency) {
+    switch (frequency.step) {
+    case DateStep::Month:
+        return MonthAfter(day, -1);
+    case DateStep::HalfMonth:
+        return PlusDays(day, -15);
+    case DateStep::Days:
+        break;
+    }
+    return PlusDays(day, -frequency.interestParts);
 }
 
 AccrualPeriods::AccrualPeriods(const DatedLoan& loan)

@@ -12,6 +12,9 @@ namespace quend::comparison {
 /// from the given day, not month by month. Outside the range of dates the nearest date in it.
 Date MonthAfter(Date day, int months);
 
+/// A month, 15 days or the days of the frequency; not before the first date.
+Date OnePeriodBefore(Date day, const Frequency& frequency);
+
 /// When the interest of a payment accrues.
 enum class Accrual {
     AfterPayment, ///< until the next payment: an offer, whose first period begins today

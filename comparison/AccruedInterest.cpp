@@ -1,20 +1,17 @@
 #include "AccruedInterest.h"
 
 #include "ActuarialRate.h"
+#include "Cents.h"
 #include "Failure.h"
 #include "LeastNumber.h"
 #include "ScheduleEnd.h"
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace quend::comparison {
 
 namespace {
-
-constexpr std::int64_t PerCent = 100;
-constexpr std::int64_t MostCents = std::numeric_limits<std::int64_t>::max() / PerCent;
 
 bool IsRepaidBy(const DatedLoan& loan, Date day) {
     AccrualPeriods periods(loan);
@@ -29,13 +26,6 @@ bool IsRepaidBy(const DatedLoan& loan, Date day) {
         return false;
     }
     return repaid;
-}
-
-Money OfCents(std::int64_t cents) { return Money::FromTenThousandths(cents * PerCent); }
-
-std::int64_t CentsNotBelow(Money amount) {
-    const std::int64_t count = amount.TenThousandths();
-    return count / PerCent + (count % PerCent > 0 ? 1 : 0);
 }
 
 } // namespace
@@ -82,24 +72,24 @@ std::optional<Money> EstimatePaymentUntil(const DatedLoan& loan, Date day) {
 std::optional<Money> LeastPaymentUntil(const DatedLoan& loan, Date day, Money atLeast) {
     const auto suffices = [&](std::int64_t cents) {
         DatedLoan tried = loan;
-        tried.terms.payment = OfCents(cents);
+        tried.terms.payment = Cents::ToMoney(cents);
         return IsRepaidBy(tried, day);
     };
-    const std::int64_t least = CentsNotBelow(atLeast);
+    const std::int64_t least = Cents::NotBelow(atLeast);
     // Otherwise the search would go on to the greatest payment.
-    if (least > MostCents || AccrualPeriods(loan).Next(loan.terms.start).end > day) {
+    if (least > Cents::MostCents || AccrualPeriods(loan).Next(loan.terms.start).end > day) {
         return std::nullopt;
     }
     if (suffices(least)) {
-        return OfCents(least);
+        return Cents::ToMoney(least);
     }
     const std::optional<Money> estimate = EstimatePaymentUntil(loan, day);
     if (!estimate) {
         return std::nullopt;
     }
-    const std::int64_t guess = std::clamp(CentsNotBelow(*estimate), least + 1, MostCents);
-    const auto found = LeastNumber(least, MostCents, guess, suffices);
-    return found ? std::optional(OfCents(*found)) : std::nullopt;
+    const std::int64_t guess = std::clamp(Cents::NotBelow(*estimate), least + 1, Cents::MostCents);
+    const auto found = LeastNumber(least, Cents::MostCents, guess, suffices);
+    return found ? std::optional(Cents::ToMoney(*found)) : std::nullopt;
 }
 
 } // namespace quend::comparison

@@ -58,6 +58,8 @@ struct ComparisonInput {
     Money escrowMonthly{};
     CurrentLoanInput current{};
     std::vector<OfferInput> offers{}; ///< blank ones included: they count as places
+
+    friend bool operator==(const ComparisonInput&, const ComparisonInput&) = default;
 };
 
 /// Why an offer takes no part; the first that holds.

@@ -3,6 +3,8 @@
 #include "ComparedCurrent.h"
 #include "ComparedOffer.h"
 
+#include <algorithm>
+
 namespace quend::comparison {
 
 namespace {
@@ -43,6 +45,15 @@ std::optional<std::vector<ScheduleRow>> ScheduleOf(const ComparisonInput& input,
         return std::nullopt;
     }
     return RowsOf(loan->terms);
+}
+
+Date CurrentAccruesFrom(const ComparisonInput& input) {
+    const Frequency* const frequency = FindFrequency(input.current.actualFrequency);
+    const Date next = input.current.nextPayment;
+    if (frequency == nullptr || next.IsNone()) {
+        return input.today;
+    }
+    return std::max(input.today, OnePeriodBefore(next, *frequency));
 }
 
 std::vector<ScheduleRow> ByYear(const std::vector<ScheduleRow>& rows) {

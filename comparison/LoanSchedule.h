@@ -30,6 +30,10 @@ struct ScheduleRow {
 /// loan takes no part; empty where there is no such place.
 std::optional<std::vector<ScheduleRow>> ScheduleOf(const ComparisonInput& input, int place);
 
+/// The day from which the interest of the loan held today is counted: today, or one period before
+/// its next payment where that is later.
+Date CurrentAccruesFrom(const ComparisonInput& input);
+
 /// The same rows added up by calendar year: number is the year, the date that of its last payment,
 /// balance and interest so far are those after it.
 std::vector<ScheduleRow> ByYear(const std::vector<ScheduleRow>& rows);

@@ -1,13 +1,13 @@
 #include "Solving.h"
 
 #include "AccruedInterest.h"
+#include "Cents.h"
 #include "ComparedCurrent.h"
 #include "ComparedOffer.h"
 #include "LeastNumber.h"
 #include "LoanSchedule.h"
 
 #include <cstdint>
-#include <limits>
 
 namespace quend::comparison {
 
@@ -31,6 +31,10 @@ OfferInput WithoutIntendedPayment(OfferInput offer) {
 
 } // namespace
 
+Date HorizonOf(const ComparisonInput& input) {
+    return MonthAfter(input.today, input.years * MonthsPerYear);
+}
+
 std::optional<Money> LeastPaymentBy(const ComparisonInput& input, int place, Date day) {
     if (place == CurrentLoanPlace) {
         const ComparedCurrent current = CompareCurrent(input);
@@ -47,13 +51,11 @@ std::optional<Money> LargestAmount(const ComparisonInput& input, int place, Mone
     }
     ComparisonInput tried{.term = input.term, .escrowMonthly = input.escrowMonthly};
     const OfferInput asked = WithoutIntendedPayment(*offer);
-    constexpr std::int64_t PerCent = 100;
-    constexpr std::int64_t Most = std::numeric_limits<std::int64_t>::max() / PerCent;
     const auto required = [&](std::int64_t cents) {
-        tried.amount = Money::FromTenThousandths(cents * PerCent);
+        tried.amount = Cents::ToMoney(cents);
         return RequiredPayment(tried, asked);
     };
-    const std::int64_t found = Greatest(Most, [&](std::int64_t cents) {
+    const std::int64_t found = Greatest(Cents::MostCents, [&](std::int64_t cents) {
         const std::optional<RequiredAmounts> amounts = required(cents);
         return amounts && amounts->payment <= payment;
     });
@@ -61,7 +63,7 @@ std::optional<Money> LargestAmount(const ComparisonInput& input, int place, Mone
     if (found == 0 || required(found)->principalAndInterest.IsZero()) {
         return std::nullopt;
     }
-    return Money::FromTenThousandths(found * PerCent);
+    return Cents::ToMoney(found);
 }
 
 std::optional<Rate> HighestRate(const ComparisonInput& input, int place, Money payment) {

@@ -9,6 +9,9 @@ namespace quend::comparison {
 // Questions that a borrower asks the other way round. A place is that of an offer, from 1, or
 // CurrentLoanPlace. None also where there is no such place.
 
+/// The day up to which the loan is kept: the given years after today, cut to the month's last day.
+Date HorizonOf(const ComparisonInput& input);
+
 /// The least payment in whole cents, escrow share included and not below the required one (for the
 /// loan held today: one cent), with which nothing is owed on that day: the period of the last
 /// payment has ended by then. None where no payment does that, and where the loan takes no part

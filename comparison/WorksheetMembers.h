@@ -18,7 +18,7 @@ class SheetWriter;
 /// A member of an object of the file: a value, or a container.
 template <typename Owner>
 struct Member {
-    const char* name;
+    const char* name = nullptr;
     Fault (*read)(Owner& owner, const JsonScalar& value) = nullptr;   ///< null: a container
     void (*write)(SheetWriter& writer, const Owner& owner) = nullptr; ///< null: never written
     Target (*open)(Owner& owner) = nullptr;                           ///< null: a value

@@ -1,19 +1,27 @@
 #include "PrintCommands.h"
 
+#include "CompareTextNumbers.h"
 #include "FailureReport.h"
 #include "Language.h"
 #include "Loan.h"
 #include "LoanForm.h"
 #include "MessageQueue.h"
+#include "NotSaved.h"
+#include "PdfDocument.h"
 #include "Plugin.h"
 #include "PrinterInterface.h"
+#include "Report.h"
 #include "ReportInputReader.h"
+#include "SaveFile.h"
 #include "TextNumbers.h"
+#include "VersionRecord.h"
 
 #include <QAction>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QEventLoop>
+#include <QLocale>
+#include <QPageLayout>
 
 #include <utility>
 
@@ -58,7 +66,7 @@ PrintCommands::PrintCommands(Loan& window, PrinterInterface& printer, frmPrint::
         m_window->Report().Guard([this] { mnuFilePrintSetup_Click(); }, MissingPart);
     });
     QCoreApplication::instance()->installEventFilter(this);
-    EnableEntries(true);
+    SetBusy(false);
 }
 
 PrintCommands::~PrintCommands() {
@@ -73,7 +81,7 @@ PrintCommands::~PrintCommands() {
 }
 
 /// Quitting would close the progress window, which would cancel the job without the user wanting
-/// it. Quitting therefore waits until the report is sent.
+/// it. Quitting therefore waits until the document is sent.
 bool PrintCommands::eventFilter(QObject* watched, QEvent* event) {
     if (m_job && event->type() == QEvent::Quit && watched == QCoreApplication::instance()) {
         m_quits = true;
@@ -84,9 +92,10 @@ bool PrintCommands::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-void PrintCommands::EnableEntries(bool enabled) {
-    m_window->Form().mnuFilePrint->setEnabled(enabled);
-    m_window->Form().mnuFilePrintSetup->setEnabled(enabled);
+void PrintCommands::SetBusy(bool busy) {
+    m_window->Form().mnuFilePrint->setEnabled(!busy);
+    m_window->Form().mnuFilePrintSetup->setEnabled(!busy);
+    Q_EMIT Busy(busy);
 }
 
 /// Reports what went wrong, if anything.
@@ -98,14 +107,20 @@ bool PrintCommands::MayGoOn(const PrintOutcome& outcome) const {
     return false;
 }
 
+/// Whether the user wants to print and the printer accepts a document.
+bool PrintCommands::Ask(QWidget& parent) {
+    const auto answer = m_printer->AskHowToPrint(parent);
+    return answer && MayGoOn(*answer);
+}
+
 /// A refused field stops the command, because the offers were not computed from the text it shows.
 void PrintCommands::mnuFilePrint_Click() {
-    if (m_job || !m_window->Commit()) {
-        return;
-    }
-    const auto answer = m_printer->AskHowToPrint(*m_window);
-    if (answer && MayGoOn(*answer)) {
-        StartJob();
+    if (!m_job && m_window->Commit() && Ask(*m_window)) {
+        StartJob(*m_window,
+                 {.message = GetResourceText(TextNumber::Printing) + QStringLiteral("%1..."),
+                  .name = m_window->Form().cboLoanName->currentText(),
+                  .drawing = BeginReport()},
+                 TextNumber::MarginsTooWide);
     }
 }
 
@@ -115,34 +130,89 @@ void PrintCommands::mnuFilePrintSetup_Click() {
     }
 }
 
-void PrintCommands::StartJob() {
+void PrintCommands::Print(QWidget& parent, const QString& title, const DrawDocument& draw) {
+    if (m_job) {
+        m_window->GetMessages().Post(GetResourceText(TextNumber::StillPrinting));
+        return;
+    }
+    m_window->Report().Guard(
+        [&] {
+            if (Ask(parent)) {
+                StartJob(parent,
+                         {.message = GetResourceText(TextNumber::PrintingDocument),
+                          .name = title,
+                          .drawing = draw(PaperOf(m_printer->PageSpace()))},
+                         TextNumber::PageTooSmall);
+            }
+        },
+        MissingPart);
+}
+
+std::unique_ptr<Report> PrintCommands::BeginReport() const {
     const QSizeF space = m_printer->PageSpace();
     const double widest =
         Report::WidestWindow(space.width(), LabelPoints(*m_window), PixelsPerPoint(*m_window));
-    Report report(ReadForm(*m_window, widest), space, m_metrics);
-    if (!report.HasRoomForARow()) {
-        m_window->GetMessages().Post(GetResourceText(TextNumber::MarginsTooWide));
+    return std::make_unique<printing::Report>(ReadForm(*m_window, widest), space, m_metrics);
+}
+
+/// Documents have the type of the main window, as its report does.
+Paper PrintCommands::PaperOf(QSizeF space) const {
+    return {.space = space,
+            .metrics = &m_metrics,
+            .font = {.family = LabelFamily(*m_window), .points = LabelPoints(*m_window)},
+            .legalNotice = GetResourceText(TextNumber::LegalNotice)};
+}
+
+bool PrintCommands::ExportPdf(const QString& file, const QString& title, const DrawDocument& draw,
+                              QString& error) const {
+    QPageLayout layout = PageOfFile(QLocale(), QPageLayout::Portrait);
+    std::unique_ptr<Drawing> drawing = draw(PaperOf(SpaceOf(layout)));
+    if (drawing->PrefersLandscape()) {
+        layout = PageOfFile(QLocale(), QPageLayout::Landscape);
+        drawing = draw(PaperOf(SpaceOf(layout)));
+    }
+    const QByteArray pdf =
+        PdfOf(DrawWhole(*drawing), {.title = title,
+                                    .creator = QString::fromUtf8(VersionRecord::ProductName),
+                                    .layout = layout});
+    const SaveOutcome outcome =
+        pdf.isEmpty() ? SaveOutcome{SaveFault::Failed} : SaveFile(file, pdf);
+    error = NotSavedText(file, outcome);
+    return outcome.fault == SaveFault::None;
+}
+
+/// The job belongs to its window, which may be destroyed before it ends.
+void PrintCommands::StartJob(QWidget& parent, frmPrint::Job job, int refusal) {
+    if (!job.drawing->Fits()) {
+        m_window->GetMessages().Post(GetResourceText(refusal));
         return;
     }
-    m_job = std::make_unique<frmPrint>(
-        *m_window,
-        frmPrint::Job{.loanName = m_window->Form().cboLoanName->currentText(),
-                      .report = std::move(report)},
-        *m_printer, m_pace);
-    connect(m_job.get(), &frmPrint::Unloaded, this, &PrintCommands::EndJob, Qt::QueuedConnection);
-    EnableEntries(false);
+    m_job = std::make_unique<frmPrint>(parent, std::move(job), *m_printer, m_pace);
+    const auto endJob = [this, job = m_job.get()] {
+        if (m_job.get() == job) {
+            EndJob();
+        }
+    };
+    connect(m_job.get(), &frmPrint::Unloaded, this, endJob, Qt::QueuedConnection);
+    connect(m_job.get(), &QObject::destroyed, this, &PrintCommands::JobIsGone);
+    SetBusy(true);
     m_job->show();
 }
 
 void PrintCommands::EndJob() {
     const PrintOutcome outcome = m_job->Outcome();
     m_job.reset();
-    EnableEntries(true);
     MayGoOn(outcome);
     if (std::exchange(m_quits, false)) {
         m_window->GetMessages().ShowRest(); // later the event loop no longer runs
         QCoreApplication::quit();
     }
+}
+
+/// The job was deleted, here or by its window; after that it must not be deleted again.
+void PrintCommands::JobIsGone() {
+    static_cast<void>(m_job.release());
+    SetBusy(false);
 }
 
 } // namespace quend::printing

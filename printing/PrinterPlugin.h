@@ -42,5 +42,5 @@ private:
 } // namespace quend::printing
 
 // A macro, because moc reads it.
-#define PrinterPlugin_iid "quend.loan.PrinterPlugin/2"
+#define PrinterPlugin_iid "quend.loan.PrinterPlugin/3"
 Q_DECLARE_INTERFACE(quend::printing::PrinterPlugin, PrinterPlugin_iid)

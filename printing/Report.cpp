@@ -96,6 +96,11 @@ bool Report::HasRoomForARow() const {
            m_form.offersTop + HeightOf(1) <= RowLimit();
 }
 
+bool Report::DrawNext() {
+    (this->*Sections.at(m_sectionsDrawn))();
+    return ++m_sectionsDrawn < Sections.size();
+}
+
 void Report::PrintLoanHeader() {
     PrintCaption(m_form.current, m_form.current.place.top());
     PrintEntries(m_form.header);

@@ -1,16 +1,18 @@
 #pragma once
 
+#include "Drawing.h"
 #include "PageDrawing.h"
 #include "ReportInput.h"
 
 #include <array>
+#include <cstddef>
 
 namespace quend::printing {
 
 /// Draws the report of a worksheet on pages in memory: the window on paper, black on white, its
 /// offers split over as many pages as they need. Computes nothing and reads nothing from the
 /// window. The job (frmPrint) decides when to draw, when to stop and whether anything is printed.
-class Report {
+class Report : public Drawing {
 public:
     /// `space`: the printable part of a page in twips. The metrics must outlive the report.
     Report(ReportInput form, QSizeF space, const TextMetrics& metrics);
@@ -32,7 +34,10 @@ public:
     /// The legal notice at the foot of the page; call for the last page after everything is drawn.
     void PrintPageFooter();
 
-    const PrintedPages& Pages() const { return m_page.Pages(); }
+    bool Fits() const override { return HasRoomForARow(); }
+    bool DrawNext() override;
+    void Finish() override { PrintPageFooter(); }
+    const PrintedPages& Pages() const override { return m_page.Pages(); }
 
     /// The widest window whose text is still legible on a page of this printable width (twips).
     static double WidestWindow(double scaleWidth, double points, double pixelsPerPoint);
@@ -61,6 +66,7 @@ private:
 
     ReportInput m_form;
     PageDrawing m_page;
+    std::size_t m_sectionsDrawn = 0;
     double m_footerReserve = 0; ///< twips
     double m_rowTop = 0;        ///< window units, like all that follow
     double m_rowHeight = 0;

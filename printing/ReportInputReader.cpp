@@ -193,7 +193,7 @@ ReportInput Read(const Loan& window, int highestRow) {
     ReportInput form;
     form.width = window.Form().centralWidget->width();
     form.pixelsPerPoint = PixelsPerPoint(window);
-    form.fontFamily = QFontInfo(reader.Control("lblLoanName").font()).family();
+    form.fontFamily = LabelFamily(window);
     form.fontHeight = QFontMetricsF(window.font()).height();
     form.current = reader.Label("lblCurrent");
     form.header = reader.Entries(Header);
@@ -242,6 +242,10 @@ double PixelsPerPoint(const Loan& window) { return window.logicalDpiX() / 72.0; 
 
 double LabelPoints(const Loan& window) {
     return QFontInfo(window.Form().lblLoanName->font()).pointSizeF();
+}
+
+QString LabelFamily(const Loan& window) {
+    return QFontInfo(window.Form().lblLoanName->font()).family();
 }
 
 QString ShownCaption(const QString& caption) {

@@ -14,9 +14,10 @@ namespace quend::printing {
 /// The field being edited is read as it looks after it is left.
 ReportInput ReadForm(Loan& window, double widest);
 
-/// Screen pixels of the window per point, and the font size of the window's labels in points.
+/// Screen pixels of the window per point, and the font of the window's labels, its size in points.
 double PixelsPerPoint(const Loan& window);
 double LabelPoints(const Loan& window);
+QString LabelFamily(const Loan& window);
 
 /// A caption as it is shown: "&Loan" reads "Loan", "P && I" reads "P & I".
 QString ShownCaption(const QString& caption);

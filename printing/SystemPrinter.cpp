@@ -2,15 +2,14 @@
 
 #include "ChosenPage.h"
 #include "PagePainter.h"
+#include "PdfDocument.h"
 #include "PrintQueue.h"
 #include "PrintingNames.h"
 #include "TextNumbers.h"
 #include "VersionRecord.h"
 
-#include <QBuffer>
 #include <QDialogButtonBox>
 #include <QLocale>
-#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrintEngine>
 #include <QPrinterInfo>
@@ -60,8 +59,7 @@ void NameOk(const QPrintDialog& dialog, const QString& text) {
 /// The printer's default page size; Qt would use another one.
 QPageSize OwnPageSize(const QPrinter& printer) {
     const QPageSize own = QPrinterInfo(printer).defaultPageSize();
-    const bool metric = QLocale().measurementSystem() == QLocale::MetricSystem;
-    return own.isValid() ? own : QPageSize(metric ? QPageSize::A4 : QPageSize::Letter);
+    return own.isValid() ? own : PageOfFile(QLocale(), QPageLayout::Portrait).pageSize();
 }
 
 bool IsThere(const QPrinter& printer) {
@@ -124,16 +122,9 @@ ServerOptions OptionsOf(const QPrinter& printer, int copies) {
     return options;
 }
 
-/// Empty if it cannot be painted.
-QByteArray PdfOf(const PrintedPages& pages, const QPrinter& printer) {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setTitle(printer.docName());
-    writer.setCreator(printer.creator());
-    writer.setResolution(printer.resolution());
-    writer.setPageLayout(printer.pageLayout());
-    return PaintPages(writer, pages) ? buffer.data() : QByteArray();
+/// The report has the printer's own document name.
+QString TitleOf(const PrintedPages& pages, const QPrinter& printer) {
+    return pages.title.isEmpty() ? printer.docName() : pages.title;
 }
 
 HandOver Finished(const PrintOutcome& outcome) {
@@ -148,9 +139,7 @@ void PrepareDocument(QPrinter& printer) {
     printer.setPageSize(OwnPageSize(printer));
 }
 
-QSizeF PageSpaceOf(const QPrinter& printer) {
-    return printer.pageLayout().paintRect(QPageLayout::Point).size() * TwipsPerPoint;
-}
+QSizeF PageSpaceOf(const QPrinter& printer) { return SpaceOf(printer.pageLayout()); }
 
 /// If the chosen printer no longer exists, takes the default one.
 QPrinter& SystemPrinter::Chosen() {
@@ -206,14 +195,20 @@ QSizeF SystemPrinter::PageSpace() { return PageSpaceOf(m_printer ? *m_printer : 
 HandOver SystemPrinter::Document(const PrintedPages& pages) {
     QPrinter& printer = m_printer ? *m_printer : Chosen();
     if (!HasPrintServer()) {
+        const QString usualName = printer.docName();
+        printer.setDocName(TitleOf(pages, printer));
         printer.setCopyCount(m_copies);
         const bool printed = PaintPages(printer, pages);
         printer.setCopyCount(1);
+        printer.setDocName(usualName);
         return Finished({printed ? PrintFault::None : PrintFault::Failed});
     }
     QueuedDocument document{.queue = QueueOf(printer),
-                            .title = printer.docName(),
-                            .pdf = PdfOf(pages, printer),
+                            .title = TitleOf(pages, printer),
+                            .pdf = PdfOf(pages, {.title = TitleOf(pages, printer),
+                                                 .creator = printer.creator(),
+                                                 .layout = printer.pageLayout(),
+                                                 .resolution = printer.resolution()}),
                             .options = OptionsOf(printer, m_copies)};
     if (document.pdf.isEmpty()) {
         return Finished({PrintFault::Failed});

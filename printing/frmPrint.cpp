@@ -4,7 +4,6 @@
 #include "Captions.h"
 #include "FailureReport.h"
 #include "Language.h"
-#include "TextNumbers.h"
 #include "ui_frmPrint.h"
 
 #include <QCloseEvent>
@@ -61,8 +60,7 @@ frmPrint::~frmPrint() = default;
 
 void frmPrint::Form_Load() {
     QLabel& message = *m_ui->lblPrintingText;
-    message.setText(GetResourceText(TextNumber::Printing) +
-                    Shortened(m_job.loanName, message.fontMetrics()) + QStringLiteral("..."));
+    message.setText(m_job.message.arg(Shortened(m_job.name, message.fontMetrics())));
     adjustSize();
     const QRect main = m_owner->frameGeometry();
     move(main.left() + (main.width() - width()) / 2, main.top() + (main.height() - height()) / 2);
@@ -104,7 +102,7 @@ void frmPrint::Form_Activate() {
         m_tmrPrint->start();
     }
     m_drawing = true;
-    const PrintOutcome drawn = OutcomeOf([this] { return DrawReport(); });
+    const PrintOutcome drawn = OutcomeOf([this] { return DrawDocument(); });
     m_drawing = false;
     if (m_unloaded) {
         Q_EMIT Unloaded();
@@ -121,13 +119,11 @@ void frmPrint::Form_Activate() {
 void frmPrint::ApplyPrintCaptions() { ApplyTexts(*this, TermUnit::Years); }
 
 /// Stops when it is cancelled.
-PrintOutcome frmPrint::DrawReport() {
-    for (const Report::Section section : Report::Sections) {
-        (m_job.report.*section)();
+PrintOutcome frmPrint::DrawDocument() {
+    bool more = true;
+    while (more && !m_printCancelled) {
+        more = m_job.drawing->DrawNext();
         Yield();
-        if (m_printCancelled) {
-            break;
-        }
     }
     return {};
 }
@@ -179,8 +175,8 @@ void frmPrint::Form_Unload() {
 void frmPrint::GiveToPrinter() {
     HandOver handOver;
     const PrintOutcome prepared = OutcomeOf([&]() -> PrintOutcome {
-        m_job.report.PrintPageFooter();
-        handOver = m_printer->Document(m_job.report.Pages());
+        m_job.drawing->Finish();
+        handOver = m_printer->Document(m_job.drawing->Pages());
         return {};
     });
     if (prepared.fault != PrintFault::None) {

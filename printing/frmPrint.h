@@ -1,8 +1,8 @@
 #pragma once
 
+#include "Drawing.h"
 #include "PrinterInterface.h"
 #include "PrintingNames.h"
-#include "Report.h"
 
 #include <QDialog>
 
@@ -17,10 +17,10 @@ class frmPrint;
 
 namespace quend::printing {
 
-/// One print job and its progress window. Draws the report section by section and allows Cancel in
-/// between; stays open for at least three seconds; then sends the pages to the printer in a
+/// One print job and its progress window. Draws the document section by section and allows Cancel
+/// in between; stays open for at least three seconds; then sends the pages to the printer in a
 /// separate thread, because a print server may take minutes, and closes when they have been sent.
-/// Does not know what the report looks like and reports no errors: they are in the outcome.
+/// Does not know what is drawn and reports no errors: they are in the outcome.
 ///
 /// Closing the window by other means than the job's end is Cancel.
 class frmPrint : public QDialog {
@@ -34,8 +34,9 @@ public:
         std::function<void()> yield;
     };
     struct Job {
-        QString loanName;
-        Report report;
+        QString message; ///< shown meanwhile; %1: the name, shortened
+        QString name;
+        std::unique_ptr<Drawing> drawing;
     };
     /// Window and printer must outlive the job. The job starts when the window is shown.
     frmPrint(QWidget& owner, Job job, PrinterInterface& printer, Pace pace);
@@ -44,13 +45,14 @@ public:
 
     /// The user pressed Cancel.
     bool PrintCancelled() const { return m_printCancelled; }
-    /// The whole report has been drawn.
+    /// The whole document has been drawn.
     bool PrintFinished() const { return m_printFinished; }
 
     /// The result of sending the document; a cancelled one has no fault.
     const PrintOutcome& Outcome() const { return m_outcome; }
 
-    /// The program is about to quit: sends the report as soon as it is drawn. Cancel keeps working.
+    /// The program is about to quit: sends the document as soon as it is drawn. Cancel keeps
+    /// working.
     void EndSoon();
 
     void reject() override { cmdCancel_Click(); }
@@ -73,7 +75,7 @@ private:
     void cmdCancel_Click();
 
     void ApplyPrintCaptions();
-    PrintOutcome DrawReport();
+    PrintOutcome DrawDocument();
     void Yield() const;
     void GiveToPrinter();
     void Arrived(const PrintOutcome& outcome);

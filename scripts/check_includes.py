@@ -18,15 +18,17 @@ _LAYERS: dict[str, tuple[str, ...]] = {
     "foundation":       (),
     "language":         ("foundation",),
     "storage/registry": ("foundation",),
+    "printing/pages":   (),
     "calc":             ("foundation", "language"),
     "comparison":       ("foundation", "language", "calc"),
     "worksheet/model":  ("foundation", "language", "calc", "comparison"),
     "worksheet/window": ("foundation", "language", "calc", "comparison", "worksheet/model"),
     "comparison/window": ("foundation", "language", "calc", "comparison", "worksheet/model",
-                          "worksheet/window", "printing"),
+                          "worksheet/window", "printing/pages"),
     "comparison/tool":  ("foundation", "language", "calc", "comparison", "worksheet/model",
                          "comparison/window"),
-    "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
+    "printing":         ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
+                         "printing/pages"),
     "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
                          "storage/registry"),
@@ -39,7 +41,7 @@ _COMPOSITION_ROOT = Path("storage/Main.cpp")
 
 # Layers without a window system.
 _WITHOUT_WIDGETS = ("foundation", "language", "storage/registry", "calc", "comparison",
-                    "worksheet/model", "comparison/tool")
+                    "worksheet/model", "printing/pages", "comparison/tool")
 
 # The private headers of a layer, as its CMakeLists.txt names them.
 _PRIVATE = re.compile(r"PRIVATE_HEADERS\s+([^)]*?)\s+SOURCES")

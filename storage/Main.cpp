@@ -4,7 +4,9 @@
 #include "CalendarDate.h"
 #include "ClearEdges.h"
 #include "CommandLine.h"
+#include "CompareCommands.h"
 #include "DesktopMail.h"
+#include "ExportDialog.h"
 #include "FailureReport.h"
 #include "FileCommands.h"
 #include "HelpCommands.h"
@@ -45,6 +47,7 @@
 
 using namespace quend;
 using namespace quend::calc;
+using namespace quend::compare;
 using namespace quend::extras;
 using namespace quend::help;
 using namespace quend::language;
@@ -100,6 +103,26 @@ void ReportStore(MessageQueue& messages, const RegistryAPI& store, const StoreCo
     }
 }
 
+/// The comparison window prints and saves through the path of the report, and keeps its place in a
+/// file beside that of the main window.
+CompareWorld WorldOfComparison(PrintCommands& printing) {
+    const QString place = UserFile(QStringLiteral("compare.place"));
+    const QString columns = UserFile(QStringLiteral("compare.columns"));
+    return {.print = [&printing](QWidget& parent, const QString& title,
+                                 const DrawDocument& draw) { printing.Print(parent, title, draw); },
+            .exportPdf =
+                [&printing](const QString& file, const QString& title, const DrawDocument& draw) {
+                    QString error;
+                    printing.ExportPdf(file, title, draw, error);
+                    return error;
+                },
+            .askForFile = AskForExportFile,
+            .restoreGeometry = [place](QWidget& window) { RestoreGeometry(window, place); },
+            .saveGeometry = [place](const QWidget& window) { SaveGeometry(window, place); },
+            .restoreColumns = [columns] { return KeptBytes(columns); },
+            .saveColumns = [columns](const QByteArray& bytes) { KeepBytes(bytes, columns); }};
+}
+
 int Run(const std::filesystem::path& place, const StoreCondition& condition,
         MessageBoxes& messages) {
     const auto [settings, refused] = LoadSettings(RegistryAPI(place));
@@ -109,22 +132,24 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
     PictureDialog pictures;
     const OptionsCommands options(window, store, pictures);
     PrinterOfPlugin printer;
-    const PrintCommands printing(window, printer);
+    PrintCommands printing(window, printer);
+    const CompareCommands comparing(window, WorldOfComparison(printing));
     const HelpCommands help(window, OpenByPlugin);
     DesktopMail mail;
     const ShareCommands share(window, mail);
     const AboutCommands about(window, store, InstalledSystemInfo());
+    const QString geometry = UserFile(QStringLiteral("window.place"));
     window.OnUnload([&] {
         if (!files.MayDrop()) {
             return false;
         }
         SaveSettings(store, window.GetSettings());
-        SaveGeometry(window, UserPlace());
+        SaveGeometry(window, geometry);
         window.GetMessages().ShowRest(); // nobody answers after the window has closed
         return true;
     });
     FitToScreen(window);
-    RestoreGeometry(window, UserPlace());
+    RestoreGeometry(window, geometry);
     ReportStore(window.GetMessages(), store, condition, refused);
     window.show();
     // The icon loads Qt's plugins of all picture formats, so it follows when the window can be
@@ -164,7 +189,7 @@ int Print(const QString& text, std::FILE* stream, int code) {
 constexpr int BadUsage = 2;
 
 /// Help and version are printed without a display; then the exit code.
-std::optional<int> AnswerBeforeStart(int& argc, char* argv[]) {
+std::optional<int> AnswerBeforeStart(int& argc, char** argv) {
     QStringList arguments;
     std::transform(argv + 1, argv + argc, std::back_inserter(arguments),
                    [](const char* argument) { return QString::fromLocal8Bit(argument); });

@@ -13,18 +13,21 @@ import time
 import traceback
 from dataclasses import replace
 
-from . import benches, report, start_up, tables, window, worksheets
+from . import benches, compare, report, start_up, tables, window, worksheets
 from .programs import PEERS, ROOT, Program, empty_window, own
 from .screen import Screen
 
 _BUILD = ROOT / "build/release"
 _BENCH = _BUILD / "bench"
 _OFFERS = (1, 2, 4, 8, 16)
+_COMPARED_OFFERS = (1, 2, 4, 6, 8, 16)
 _MONTHS = (12, 60, 120, 360, 1200)
 _WARM_ROUNDS = 11
 _COLD_ROUNDS = 3
 _NEW_SCREENS = 3
 _KEYS = 21
+_COMPARE_STARTS = 41
+_LINES = 20  # times the reference worksheets
 
 
 def _say(what: str) -> None:
@@ -130,6 +133,30 @@ def _offers(_: pathlib.Path) -> dict[str, str]:
     return {"offers": report.growth(_OFFERS, "ms by offers", rows)}
 
 
+def _comparison(folder: pathlib.Path) -> dict[str, str]:
+    _say("comparison")
+    found = benches.run(_BENCH / "loan_bench_comparison", clock="cpu_time")
+    usual = report.by_size(found, "CompareUsualOffers")
+    most = found["CompareEndlessOffers"]
+    rows = [["ms for the worksheet that costs most", tables.number(most.median), f"{most.spread:.0f} %"]]
+    lines, spread = compare.middle(compare.lines_a_second(_BUILD / "bin", folder, _LINES, _WARM_ROUNDS))
+    rows += [["worksheets a second by `quend-compare --lines`", tables.number(lines), f"{spread:.0f} %"]]
+    return {"comparison": report.growth(_COMPARED_OFFERS, "ms by offers",
+                                        {"all figures of a usual worksheet": usual}),
+            "comparison limits": tables.table(["", "", "spread"], rows),
+            "comparison starts": _starts_of_compare()}
+
+
+def _starts_of_compare() -> str:
+    starts = compare.starts(_BUILD / "bin", _BENCH, _COMPARE_STARTS)
+    empty = next(iter(starts.values()))
+    rows = [[name, tables.number(compare.middle(times)[0]), report.spread(times),
+             f"{compare.middle([time / bare for time, bare in zip(times, empty)])[0]:.2f}"]
+            for name, times in starts.items()]
+    return tables.table(["ms from the start of the process to its end", "median", "middle half",
+                         "times the empty one"], rows)
+
+
 def _worksheets(_: pathlib.Path) -> dict[str, str]:
     _say("worksheets")
     found = benches.run(_BENCH / "loan_bench_worksheets", "TenThousand", 3)
@@ -162,7 +189,8 @@ def _printing(_: pathlib.Path) -> dict[str, str]:
 
 
 _SECTIONS = {"starts": _starts, "screens": _screens, "window": _window,
-             "arithmetic": _arithmetic, "offers": _offers, "worksheets": _worksheets, "printing": _printing}
+             "arithmetic": _arithmetic, "offers": _offers, "comparison": _comparison,
+             "worksheets": _worksheets, "printing": _printing}
 
 
 def _arguments() -> argparse.Namespace:

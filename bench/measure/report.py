@@ -35,7 +35,8 @@ def _system() -> str:
     return "?"
 
 
-def _spread(values: Sequence[float]) -> str:
+def spread(values: Sequence[float]) -> str:
+    """The middle half."""
     ordered = sorted(values)
     quarter = len(ordered) // 4
     return f"{number(ordered[quarter])}–{number(ordered[-1 - quarter])}"
@@ -55,7 +56,7 @@ def starts(programs: Sequence[Program], measured: Starts) -> str:
             against = [f"{statistics.median(pairs):.2f}", f"{slower} of {len(pairs)}"]
         rows.append([f"{program.name} {program.version()}".strip(),
                      *(number(median(all_of, what)) for what in ("window", "main", "usable")),
-                     _spread(usable), number(median(all_of, "finished")),
+                     spread(usable), number(median(all_of, "finished")),
                      number(median(all_of, "processor")), *against])
     return table(["", "first window", "main window", "usable", "middle half", "finished",
                   "processor", "times ours", "slower in"], rows)

@@ -67,7 +67,7 @@ QByteArray FailureOf(const Loan& loan) {
 }
 
 struct Column {
-    const char* name;
+    const char* name = nullptr;
     OfOffer offer = Nothing;
     OfCurrent current = Nothing;
 };

@@ -18,7 +18,7 @@ bool NeedsQuotes(const QByteArray& text) {
 } // namespace
 
 QByteArray CsvText(const QString& text) {
-    const QByteArray cell = (IsFormula(text) ? QByteArray("'") : QByteArray()) + text.toUtf8();
+    QByteArray cell = (IsFormula(text) ? QByteArray("'") : QByteArray()) + text.toUtf8();
     if (!NeedsQuotes(cell)) {
         return cell;
     }

@@ -73,6 +73,7 @@ bool IsLess(const FigureValue& left, const FigureValue& right) {
 std::vector<FigureValue> ValuesOf(const ComparedWorksheet& worksheet, Figure figure,
                                   const std::vector<int>& places) {
     std::vector<FigureValue> values;
+    values.reserve(places.size());
     for (const int place : places) {
         values.push_back(ValueOf(worksheet, figure, place));
     }
@@ -102,6 +103,7 @@ QString Table(const ComparedWorksheet& worksheet, const DisplayFormats& formats)
     const std::vector<int> places = PlacesThatTakePart(worksheet);
     std::vector<TextColumn> columns{{GetResourceText(TextNumber::ColumnLender), Align::Left}};
     std::vector<QStringList> rows;
+    rows.reserve(places.size());
     for (const int place : places) {
         rows.push_back({ShownName(worksheet, place)});
     }

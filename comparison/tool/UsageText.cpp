@@ -48,7 +48,7 @@ QString HelpText() {
 }
 
 QString UsageErrorText(const UsageError& error) {
-    const QString sentence = GetResourceText(Faults.at(static_cast<std::size_t>(error.fault)));
+    QString sentence = GetResourceText(Faults.at(static_cast<std::size_t>(error.fault)));
     const QString subject = QString::fromStdString(error.subject);
     switch (error.fault) {
     case UsageFault::NoFile:

@@ -50,8 +50,7 @@ QString Duration(int months, const DisplayFormats& formats) {
     const int rest = months % MonthsPerYear;
     const QString inYears =
         Counted(years, TextNumber::CompareYear, TextNumber::CompareYears, formats);
-    const QString inMonths =
-        Counted(rest, TextNumber::CompareMonth, TextNumber::CompareMonths, formats);
+    QString inMonths = Counted(rest, TextNumber::CompareMonth, TextNumber::CompareMonths, formats);
     if (years == 0) {
         return inMonths;
     }

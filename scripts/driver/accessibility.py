@@ -118,15 +118,31 @@ class Node:
         """The text of an entry field. Raises BusError for a control without text."""
         return str(self._ask(_PREFIX + "Text", "GetText", GLib.Variant("(ii)", (0, -1))))
 
-    def walk(self) -> Iterator[Node]:
-        """This node and all its descendants, parents first; nodes that disappear meanwhile are skipped."""
+    # Of tables
+
+    def rows(self) -> int:
+        return int(self._property("Table", "NRows"))
+
+    def columns(self) -> int:
+        return int(self._property("Table", "NColumns"))
+
+    def heading(self, column: int) -> str:
+        return str(self._ask(_PREFIX + "Table", "GetColumnDescription", GLib.Variant("(i)", (column,))))
+
+    def cell(self, row: int, column: int) -> Node:
+        owner, path = self._ask(_PREFIX + "Table", "GetAccessibleAt", GLib.Variant("(ii)", (row, column)))
+        return Node(self._bus, owner, path)
+
+    def walk(self, closed: frozenset[str] = frozenset()) -> Iterator[Node]:
+        """This node and all its descendants, parents first; nodes that disappear meanwhile are skipped,
+        and so is the inside of nodes with a closed role."""
         yield self
         try:
-            below = self.children()
+            below = [] if closed and self.role() in closed else self.children()
         except BusError:
             return
         for child in below:
-            yield from child.walk()
+            yield from child.walk(closed)
 
 
 def _connect(address: str) -> Gio.DBusConnection:

@@ -1,5 +1,5 @@
 """Demonstrates the program: fills its window with a sample, takes screenshots, prints what it reads, and
-prints the worksheet on a printer that writes files.
+prints the worksheet on a printer that writes files, and opens the comparison window.
 
 Nothing is computed here: every printed figure is read from the window.
 """
@@ -14,6 +14,7 @@ from contextlib import ExitStack
 from pathlib import Path
 
 from accessibility import BusError
+from comparison import COSTS, OVER_TIME, SCHEDULE
 from controls import Texts
 from printlab import PrintLab
 from scenario import parse, play
@@ -139,6 +140,19 @@ def _sort(window: Window, heading: str, file: Path) -> None:
     print(f"picture: {file}")
 
 
+def _compare(window: Window, language: int, pictures: Path, name: str) -> None:
+    """Opens the comparison window in a language and takes a screenshot of each of its pages."""
+    window.comparison.back()
+    window.menu(["mnuTools", "mnuToolsLanguage", f"mnuToolsLanguageOpt({language})"])
+    window.comparison.open()
+    print(f"\n{window.comparison.title()}\n{window.comparison.answer()}")
+    for page, part in ((COSTS, "costs"), (OVER_TIME, "over-time"), (SCHEDULE, "schedule")):
+        window.comparison.show(page)
+        file = pictures / f"compare-{part}-{name}.png"
+        window.screenshot(file)
+        print(f"picture: {file}")
+
+
 def _show(window: Window, pictures: Path, locale: str) -> None:
     window.menu(["mnuTools", "mnuToolsLanguage", "mnuToolsLanguageOpt(1)"])
     for reading in play(window, parse(_SAMPLE.read_text(encoding="utf-8").splitlines())):
@@ -166,6 +180,8 @@ def main() -> int:
                 return 1
             window.menu(["mnuTools", "mnuToolsLanguage", "mnuToolsLanguageOpt(1)"])
             _print(window, lab, pictures / "report.pdf")
+            _compare(window, 1, pictures, "english")
+            _compare(window, 2, pictures, "spanish")
         except (Refused, Expired, BusError, OSError) as error:
             print(f"demo: {error}", file=sys.stderr)
             return 1

@@ -14,6 +14,7 @@ from pointer import Hands
 from waiting import wait_for
 
 _PRESSED = frozenset({"push button", "button", "radio button", "page tab", "check box"})
+PARTS_WITHOUT_CELLS = frozenset({"table", "tree table"})  # long tables have thousands of cells
 _COUNTS = frozenset({"spin button", "spin box"})
 _MAIN = "frame"  # the role of the main window
 _HELP_PAGE = 597  # the accessible name of a help page
@@ -89,7 +90,7 @@ class Dialogs:
 
         def found() -> Node | None:
             dialog = self._active()
-            parts = dialog.walk() if dialog else iter(())
+            parts = dialog.walk(PARTS_WITHOUT_CELLS) if dialog else iter(())
             return next((part for part in parts if part.role() in roles and part.has(SHOWING)
                          and part.name().replace("&", "") in names), None)
 

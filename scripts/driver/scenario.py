@@ -52,6 +52,17 @@
     quit                            closes the window and waits for exit code 0
     close                           closes the window; a question may follow
     ended                           waits for exit code 0
+    compare                         opens the comparison window by Ctrl+K, or brings it to the front
+    back                            activates the main window again
+    show <n>                        shows the page of the comparison with that caption
+    compared                        prints the title of the comparison and its first sentence
+    figure <n> <loan>               prints a figure of a loan, by the text number of its heading
+    costs <amount> <loan>           types costs into the table of costs
+    years                           prints the years that the loan is kept
+    dragyears <years>               drags the horizon of the chart until it is there
+    chart <key> ...                 reads the chart by keys, prints its role, name and sentence
+    nameless                        prints the roles of controls that have no name
+    export <file>                   exports the page to a file, prints what was written
     kill                            kills the program at once
     start <locale>                  starts the program again, with its saved data
 
@@ -125,6 +136,10 @@ def _two(rest: str) -> tuple[str, str]:
     return control, text.strip()
 
 
+def _figure(window: Window, heading: str, loan: str) -> str:
+    return window.comparison.figure(int(heading), loan)
+
+
 def _deed(act: Callable[[Window, str, str], None]) -> Handler:
     def handle(window: Window, rest: str) -> list[Reading]:
         act(window, *_two(rest))
@@ -173,6 +188,21 @@ _HANDLERS: dict[str, Handler] = {
     "dragright": _deed(lambda window, *ends: window.drag_nothing(*ends, button=3)),
     "dragin": lambda window, field: [Reading("drag", window.drag_in(field))],
     "got": _note("got", Window.got),
+    "compare": _deed(lambda window, *_: window.comparison.open()),
+    "back": _deed(lambda window, *_: window.comparison.back()),
+    "show": _deed(lambda window, page, _: window.comparison.show(int(page))),
+    "compared": lambda window, _: [
+        Reading("title", window.comparison.title()),
+        Reading("answer", window.comparison.answer().partition("\n")[0])],
+    "figure": lambda window, rest: [Reading(rest, _figure(window, *_two(rest)))],
+    "costs": _deed(lambda window, amount, loan: window.comparison.costs(amount, loan)),
+    "years": _note("years", lambda window: window.comparison.years()),
+    "dragyears": _deed(lambda window, years, _: window.comparison.drag_years(years)),
+    "chart": lambda window, keys: [
+        Reading("chart", text) for text in window.comparison.chart(keys.split())],
+    "nameless": _note("nameless", lambda window: " ".join(window.comparison.nameless())),
+    "export": lambda window, file: [Reading("export", window.comparison.export(
+        window.session.folder / file))],
     "answer": lambda window, rest: [Reading("answer", window.answer(rest))],
     "look": _note("look", lambda window: window.dialogs.look()),
     "push": _deed(lambda window, *text: window.dialogs.push(" ".join(text).strip())),

@@ -13,6 +13,7 @@ from pathlib import Path
 
 from accessibility import (ACTIVE, CHECKED, EXPANDED, FOCUSED, SHOWING, Bus, BusError,
                            Node)
+from comparison import Comparison
 from controls import Texts, active_text_of, kind_of
 from dialogs import Dialogs, words_of
 from dragging import Drag, Neighbour
@@ -43,6 +44,7 @@ class Window:
         self._seconds = seconds
         self._hands = Hands(session.environment)
         self.dialogs = Dialogs(self._hands, texts, self._active, seconds)
+        self.comparison = Comparison(self._hands, texts, lambda: self._frame, self._active, seconds)
         self._log = session.folder / "program.log"
         self._bus = Bus(session.environment["DBUS_SESSION_BUS_ADDRESS"])
         self.start(session.environment["LC_ALL"])

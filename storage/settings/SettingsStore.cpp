@@ -26,11 +26,11 @@ constexpr const char* CurrentLanguageName = "CurrentLanguage";
 
 /// One value of the base key. Number 0 and the empty text mean that the value is missing.
 struct StoredValue {
-    const char* name;
-    std::int16_t type;
-    RegistryValue (*of)(const Settings& settings);
+    const char* name = nullptr;
+    std::int16_t type = RegistryType::Number;
+    RegistryValue (*of)(const Settings& settings) = nullptr;
     /// Null for a value that is read elsewhere. Throws Failure for an invalid value.
-    void (*take)(Settings& settings, const RegistryValue& value);
+    void (*take)(Settings& settings, const RegistryValue& value) = nullptr;
     bool omitsZero = false; ///< number 0 is not written, as an empty text never is
 };
 

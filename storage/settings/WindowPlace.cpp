@@ -13,13 +13,7 @@ namespace quend::storage {
 
 namespace {
 
-constexpr qint64 LongestPlace = 1'000; // bytes; Qt writes 66
-
-QByteArray KeptPlace(const QString& name) {
-    QFile file(name);
-    const bool opened = QFileInfo(name).isFile() && file.open(QIODevice::ReadOnly);
-    return opened ? file.read(LongestPlace) : QByteArray();
-}
+constexpr int LongestPlace = 1'000; // bytes; Qt writes 66
 
 /// Whether a window can have this geometry. Uses wider integers than Qt, because a damaged file can
 /// overflow them.
@@ -34,9 +28,23 @@ bool CanBe(const QRect& place, const QRect& screens) {
 
 } // namespace
 
-QString UserPlace() {
-    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
-           QStringLiteral("/window.place");
+QString UserFile(const QString& name) {
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + u'/' + name;
+}
+
+QByteArray KeptBytes(const QString& file, int most) {
+    QFile kept(file);
+    const bool opened = QFileInfo(file).isFile() && kept.open(QIODevice::ReadOnly);
+    return opened ? kept.read(most) : QByteArray();
+}
+
+void KeepBytes(const QByteArray& bytes, const QString& file) {
+    QDir().mkpath(QFileInfo(file).path());
+    QSaveFile kept(file);
+    if (kept.open(QIODevice::WriteOnly)) {
+        kept.write(bytes);
+        kept.commit();
+    }
 }
 
 void FitToScreen(QWidget& window) {
@@ -51,7 +59,7 @@ void FitToScreen(QWidget& window) {
 
 void RestoreGeometry(QWidget& window, const QString& file) {
     // Qt moves the window onto an existing screen, except for an impossible position or size.
-    window.restoreGeometry(KeptPlace(file));
+    window.restoreGeometry(KeptBytes(file, LongestPlace));
     const QRect screens = window.screen()->virtualGeometry();
     if (!CanBe(window.geometry(), screens)) {
         FitToScreen(window);
@@ -60,12 +68,7 @@ void RestoreGeometry(QWidget& window, const QString& file) {
 }
 
 void SaveGeometry(const QWidget& window, const QString& file) {
-    QDir().mkpath(QFileInfo(file).path());
-    QSaveFile kept(file);
-    if (kept.open(QIODevice::WriteOnly)) {
-        kept.write(window.saveGeometry());
-        kept.commit();
-    }
+    KeepBytes(window.saveGeometry(), file);
 }
 
 } // namespace quend::storage

@@ -121,6 +121,31 @@ TEST(OverTime, AgreesWithTheFiguresOfEveryHorizon) {
     }
 }
 
+TEST(LoanSchedule, InterestOfTheLoanHeldTodayIsCountedFromOnePeriodBeforeItsNextPayment) {
+    struct Case {
+        const char* frequency;
+        Date next;
+        Date from;
+    };
+    const auto day = [](int month, int ofMonth) {
+        return Date::FromCalendar(2026, month, ofMonth);
+    };
+    const std::array cases{
+        // frequency, next payment, counted from; today is 31 January
+        Case{"M", day(2, 28), day(1, 31)}, Case{"M", day(3, 1), day(2, 1)},
+        Case{"M", day(3, 31), day(2, 28)}, Case{"B", day(2, 15), day(1, 31)},
+        Case{"B", day(2, 16), day(2, 1)},  Case{"W", day(2, 14), day(1, 31)},
+        Case{"W", day(2, 15), day(2, 1)},  Case{"Q", day(2, 28), day(1, 31)},
+        Case{"Q", day(3, 1), day(2, 1)},   Case{"M", day(1, 1), day(1, 31)},
+        Case{"M", {}, day(1, 31)},         Case{"X", day(5, 1), day(1, 31)},
+    };
+    for (const Case& row : cases) {
+        ComparisonInput input = Sheet(row.frequency);
+        input.current.nextPayment = row.next;
+        EXPECT_EQ(CurrentAccruesFrom(input), row.from) << row.frequency << row.next.Days();
+    }
+}
+
 TEST(LoanSchedule, NoneWhereTheLoanTakesNoPart) {
     ComparisonInput input = Sheet("M");
     input.choice = PaymentChoice::Intended;

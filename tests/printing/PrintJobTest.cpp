@@ -5,6 +5,7 @@
 #include "FakePrinter.h"
 #include "Language.h"
 #include "QuendNames.h"
+#include "Report.h"
 #include "RulerMetrics.h"
 #include "SampleForm.h"
 #include "TextNumbers.h"
@@ -31,8 +32,11 @@ protected:
                const QString& loanName = QStringLiteral("Home")) {
         m_job = std::make_unique<frmPrint>(
             Window(),
-            frmPrint::Job{.loanName = loanName,
-                          .report = Report(SampleForm(1), QSizeF(20000, 20000), m_metrics)},
+            frmPrint::Job{
+                .message = GetResourceText(TextNumber::Printing) + QStringLiteral("%1..."),
+                .name = loanName,
+                .drawing =
+                    std::make_unique<Report>(SampleForm(1), QSizeF(20000, 20000), m_metrics)},
             m_printer, frmPrint::Pace{.shownAtLeast = shownAtLeast, .yield = std::move(yield)});
         m_ended = std::make_unique<QSignalSpy>(m_job.get(), &frmPrint::Unloaded);
         m_job->show();

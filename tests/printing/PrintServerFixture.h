@@ -45,6 +45,7 @@ protected:
     void Begin(std::chrono::milliseconds shownAtLeast = {}, std::function<void()> yield = {});
     void FillRows(int count);
     void Print(const std::function<void(QPrintDialog&)>& answer = Accept);
+    PrintCommands& Commands() { return *m_commands; }
     frmPrint* Job() { return Window().findChild<frmPrint*>(); }
     QTimer& JobTimer();
     /// Begins a job of one offer; its pages are sent once it is hurried. False if it does not draw.

@@ -4,12 +4,14 @@
 #include "Language.h"
 #include "PrintServerFixture.h"
 #include "QuendNames.h"
+#include "TablePages.h"
 #include "TextNumbers.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPrintDialog>
 #include <QPushButton>
 
@@ -54,6 +56,32 @@ TEST_F(PrintServerTest, AJobArrivesAsOneDocument) {
     if (Server() != nullptr) {
         EXPECT_EQ(PrintServer::Jobs(), QStringList{QStringLiteral("Lab-1")});
     }
+}
+
+TEST_F(PrintServerTest, ADocumentOfAnotherWindowArrivesUnderItsTitle) {
+    const PictureOnPaper chart{
+        .title = QStringLiteral("Over time"),
+        .paint =
+            [](QPainter& painter, const QRectF& place) {
+                painter.drawLine(place.topLeft(), place.bottomRight());
+                painter.drawText(place, Qt::AlignCenter, QStringLiteral("Balance"));
+            },
+        .table = {.headings = {QStringLiteral("Year")}, .rows = {{QStringLiteral("2031")}}}};
+    Begin();
+    const DialogAnswer dialog(Accept);
+    Commands().Print(Window(), QStringLiteral("Chart"),
+                     [&](const Paper& paper) { return DrawingOf(chart, paper); });
+    ASSERT_TRUE(WaitForEnd());
+    ASSERT_TRUE(WaitForPaper(1));
+    const QString document = Printed().front();
+    EXPECT_EQ(Title(document), Server() != nullptr ? u"Over time" : u"Test Job");
+    EXPECT_EQ(PageCount(document), 1);
+    EXPECT_EQ(PictureCount(document), 0);
+    const QString page = PageText(document, 1);
+    for (const char* text : {"Over time", "Balance", "Year", "2031", "Copyright 2026"}) {
+        EXPECT_TRUE(page.contains(QLatin1String(text))) << text;
+    }
+    EXPECT_TRUE(SettledMessages().isEmpty());
 }
 
 class CancelAt : public PrintServerTest, public testing::WithParamInterface<int> {};

@@ -18,12 +18,13 @@ using namespace Qt::StringLiterals;
 
 std::span<const Checks::Check> Checks::All() {
     static constexpr std::array checks{
-        Check{"messages", &Checks::Messages}, Check{"questions", &Checks::Questions},
-        Check{"rows", &Checks::RowsAreThere}, Check{"bands", &Checks::BandsShow},
-        Check{"offers", &Checks::OffersShow}, Check{"marks", &Checks::Marks},
-        Check{"dirty", &Checks::Dirty},       Check{"focus", &Checks::Focus},
-        Check{"order", &Checks::Order},       Check{"scrolling", &Checks::Scrolling},
-        Check{"captions", &Checks::Captions}, Check{"names", &Checks::NamesKept},
+        Check{"messages", &Checks::Messages},     Check{"questions", &Checks::Questions},
+        Check{"rows", &Checks::RowsAreThere},     Check{"bands", &Checks::BandsShow},
+        Check{"offers", &Checks::OffersShow},     Check{"marks", &Checks::Marks},
+        Check{"dirty", &Checks::Dirty},           Check{"focus", &Checks::Focus},
+        Check{"order", &Checks::Order},           Check{"scrolling", &Checks::Scrolling},
+        Check{"captions", &Checks::Captions},     Check{"names", &Checks::NamesKept},
+        Check{"comparison", &Checks::Comparison},
     };
     return checks;
 }
@@ -256,5 +257,11 @@ void Checks::NamesKept(RandomUser& user) {
     if (kept != user.Model().Names()) {
         Say(u"the store holds %1 instead of %2"_s.arg(kept.join(u'|'),
                                                       user.Model().Names().join(u'|')));
+    }
+}
+
+void Checks::Comparison(RandomUser& user) {
+    for (const QString& complaint : m_comparison.Complaints(user)) {
+        Say(complaint);
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ComparisonCheck.h"
 #include "QuendNames.h"
 #include "ReferenceModel.h"
 #include "WindowTexts.h"
@@ -37,6 +38,7 @@ private:
     void Scrolling(RandomUser& user);
     void Captions(RandomUser& user);
     void NamesKept(RandomUser& user);
+    void Comparison(RandomUser& user);
 
     /// The expected texts of an offer's fields in the order of the columns. They are cached while
     /// their inputs are unchanged.
@@ -53,6 +55,7 @@ private:
 
     std::array<Row, MostRows> m_rows;
     WindowTexts m_texts;
+    ComparisonCheck m_comparison;
     QStringList m_complaints;
     int m_looks = 0;
 };

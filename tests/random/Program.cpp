@@ -1,5 +1,7 @@
 #include "Program.h"
 
+#include "CompareCommands.h"
+#include "CompareWorld.h"
 #include "CompiledHelp.h"
 #include "Language.h"
 #include "SettingsStore.h"
@@ -23,6 +25,19 @@ SystemInfoInterface NoSystemInfo() {
             .start = [](const QString&) { return false; }};
 }
 
+/// The comparison is neither printed nor exported, and has its usual place.
+compare::CompareWorld NoOutsideWorld() {
+    return {.print = [](QWidget&, const QString&, const printing::DrawDocument&) {},
+            .exportPdf = [](const QString&, const QString&,
+                            const printing::DrawDocument&) { return QString(); },
+            .askForFile = [](QWidget&, const QString&,
+                             const QStringList&) { return compare::CompareWorld::ExportFile(); },
+            .restoreGeometry = [](QWidget&) {},
+            .saveGeometry = [](const QWidget&) {},
+            .restoreColumns = [] { return QByteArray(); },
+            .saveColumns = [](const QByteArray&) {}};
+}
+
 std::shared_ptr<HelpCollection> OpenDirectly(const QString& file) {
     return std::make_shared<CompiledHelp>(file);
 }
@@ -38,7 +53,7 @@ struct Program::Parts {
                    frmPrint::Pace{.shownAtLeast = 0ms,
                                   .yield = [&program] { program.whilePrinting(); }}),
           help(window, OpenDirectly), share(window, program.mail),
-          about(window, store, NoSystemInfo()) {
+          about(window, store, NoSystemInfo()), comparing(window, NoOutsideWorld()) {
         window.OnUnload([this, store] {
             if (!files.MayDrop()) {
                 return false;
@@ -55,6 +70,7 @@ struct Program::Parts {
     HelpCommands help;
     ShareCommands share;
     AboutCommands about;
+    compare::CompareCommands comparing;
 };
 
 Program::Program() : whilePrinting([] {}) {

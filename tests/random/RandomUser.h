@@ -34,6 +34,8 @@ public:
     const ReferenceModel& Model() const { return m_model; }
     Program& TheProgram() { return m_program; }
     QWidget* Control(Field field) const;
+    /// The comparison window; null while it is closed.
+    static QWidget* Comparison();
     std::optional<Field> Edited() const { return m_edited; }
     /// The expected text of the number field being edited.
     const QString& EditedText() const { return m_text; }
@@ -82,6 +84,11 @@ public:
     void OpenHelp(unsigned a, unsigned b);
     void AskWhatsThis(unsigned a, unsigned b);
     void Share(unsigned a, unsigned b);
+    void OpenComparison(unsigned a, unsigned b);
+    void CloseComparison(unsigned a, unsigned b);
+    void CompareOtherwise(unsigned a, unsigned b);
+    void EnterCosts(unsigned a, unsigned b);
+    void SortCosts(unsigned a, unsigned b);
     void Resize(unsigned a, unsigned b);
     void ClickAnywhere(unsigned a, unsigned b);
 

@@ -27,6 +27,7 @@ struct ModelOffer {
     int term = 0;
     QChar frequency;
     Plain::Count actual = 0;
+    Plain::Count costs = 0; ///< entered in the comparison window
     QString who;
     Plain::Count interest = 0; ///< of the last schedule, for sorting
 
@@ -100,6 +101,8 @@ public:
     void LeaveTick(int row, bool ticked);
     void StoreTick(int row, bool ticked);
     void StoreDay(QDate day);
+    /// The place of the offer in the worksheet, from 1.
+    void StoreCosts(int place, Plain::Count costs);
     void StoreWho(int row, const QString& who);
     /// A value dropped or pasted on an offer's field. False if the text is no number in range: then
     /// nothing changes.

@@ -300,6 +300,10 @@ void ReferenceModel::StoreDay(QDate day) {
     });
 }
 
+void ReferenceModel::StoreCosts(int place, Count costs) {
+    Put(offers.at(Place(place - 1)).costs, costs);
+}
+
 void ReferenceModel::StoreWho(int row, const QString& who) { Put(OfferIn(row).who, who); }
 
 bool ReferenceModel::Drop(Field field, const QString& text) {

@@ -35,7 +35,7 @@ namespace {
 
 bool IsWorthKeeping(const ModelOffer& offer) {
     return !offer.who.isEmpty() || offer.actual != 0 || offer.financed || offer.rate != 0 ||
-           offer.points != 0;
+           offer.points != 0 || offer.costs != 0;
 }
 
 } // namespace

@@ -77,6 +77,8 @@ inline constexpr std::array TextsOfTheLoan{
     TextsOfControl{"mnuToolsLanguage", 259, 0},
     TextsOfControl{"mnuToolsLanguageOpt(1)", 260, 0},
     TextsOfControl{"mnuToolsLanguageOpt(2)", 261, 0},
+    TextsOfControl{"mnuToolsCompare", 1270, 0},
+    TextsOfControl{"mnuToolsFindPayment", 1271, 0},
     TextsOfControl{"mnuHelp", 262, 0},
     TextsOfControl{"mnuHelpContents", 263, 0},
     TextsOfControl{"mnuHelpSearch", 264, 0},

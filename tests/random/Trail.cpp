@@ -50,6 +50,12 @@ constexpr std::array KindTable{
     StepKind{"New", 4, &User::New},
     StepKind{"Delete", 4, &User::Delete},
     StepKind{"Close", 2, &User::CloseAndStart},
+    // The comparison
+    StepKind{"Compare", 4, &User::OpenComparison}, // followed by steps in it and beside it
+    StepKind{"Otherwise", 1, &User::CompareOtherwise},
+    StepKind{"Costs", 1, &User::EnterCosts},
+    StepKind{"SortCosts", 1, &User::SortCosts},
+    StepKind{"Shut", 2, &User::CloseComparison},
     // Other features
     StepKind{"Language", 3, &User::SwitchLanguage},
     StepKind{"Options", 3, &User::OpenOptions},
@@ -112,6 +118,9 @@ void StepMaker::Plan(std::string_view begun, const Step& step) {
     } else if (begun == "Elsewhere") {
         m_planned = {Of("Reload"), Of("Close"), Of("Reload"), Of("Language"), Of("Save"), name()};
         m_planned.at(3).a = 2; // the other language
+    } else if (begun == "Compare") {
+        m_planned = {Of("Shut"),  Of("Reload"), Of("Save"),      name(),      Of("Sort"),
+                     Of("Offer"), Of("Costs"),  Of("SortCosts"), Of("Costs"), Of("Otherwise")};
     } else if (begun == "Options" && step.b % 8 < 2) {
         m_planned = {Of("Close")};
     }

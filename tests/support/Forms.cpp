@@ -28,7 +28,8 @@ std::vector<FormNumber> NumbersOfForm(const QString& form, const QByteArray& con
 
 std::vector<FormNumber> NumbersOfForms(const std::set<QString>& properties) {
     std::vector<FormNumber> numbers;
-    for (const char* folder : {"worksheet", "storage", "printing", "extras", "language"}) {
+    for (const char* folder :
+         {"worksheet", "comparison", "storage", "printing", "extras", "language"}) {
         QDirIterator files(QStringLiteral(QUEND_SOURCE_DIR "/") + QString::fromUtf8(folder),
                            {QStringLiteral("*.ui")}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {

@@ -75,15 +75,30 @@ QString DisplayFormats::GeneralNumber(double value) const {
     return WithSeparator(WithoutTrailingZeros(QString::number(value, 'f', decimals)));
 }
 
+QString DisplayFormats::WithSymbol(const QString& number, bool negative, int decimals) const {
+    // The locale places symbol and sign around one unit; the exact digits then replace the one.
+    const QString one = m_locale.toString(1.0, 'f', decimals);
+    QString shown = m_locale.toCurrencyString(negative ? -1.0 : 1.0, QString(), decimals);
+    return shown.replace(one, number);
+}
+
 QString DisplayFormats::Currency(Money amount) const {
     constexpr std::int64_t perCent = 100;
     const std::int64_t cents = amount.RoundedToCents().TenThousandths() / perCent;
     const QString digits = QString::number(std::abs(cents)).rightJustified(3, QLatin1Char('0'));
-    // The locale places symbol and sign around one unit; the exact digits then replace the one.
-    const QString one = m_locale.toString(1.0, 'f', 2);
-    QString shown = m_locale.toCurrencyString(cents < 0 ? -1.0 : 1.0, QString(), 2);
-    return shown.replace(one, m_groups.Grouped(digits.chopped(2)) + m_locale.decimalPoint() +
-                                  m_groups.Localized(digits.last(2)));
+    const QString number = m_groups.Grouped(digits.chopped(2)) + m_locale.decimalPoint() +
+                           m_groups.Localized(digits.last(2));
+    return WithSymbol(number, cents < 0, 2);
+}
+
+QString DisplayFormats::WholeCurrency(Money amount) const {
+    constexpr std::int64_t perUnit = 10'000;
+    const std::int64_t rest = std::abs(amount.TenThousandths() % perUnit);
+    std::int64_t units = std::abs(amount.TenThousandths() / perUnit);
+    if (rest > perUnit / 2 || (rest == perUnit / 2 && units % 2 == 1)) {
+        ++units;
+    }
+    return WithSymbol(m_groups.Grouped(QString::number(units)), amount < Money() && units > 0, 0);
 }
 
 QString DisplayFormats::ThreeDecimals(double value) const {

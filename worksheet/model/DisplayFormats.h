@@ -33,6 +33,8 @@ public:
 
     /// "currency": rounded to the cent (halves to even), with symbol and grouping.
     QString Currency(Money amount) const;
+    /// The same rounded to the unit (halves to even), without decimals.
+    QString WholeCurrency(Money amount) const;
 
     /// "#.000": three decimals, and no zero in front of the symbol (".500").
     QString ThreeDecimals(double value) const;
@@ -52,6 +54,8 @@ public:
     double ReadReal(const QString& text) const;
 
 private:
+    /// The number of so many decimals, without a sign, with the locale's symbol and sign around it.
+    QString WithSymbol(const QString& number, bool negative, int decimals) const;
     QString WithSeparator(QString plainNumber) const;
     /// With a point for the decimal symbol and without a plus sign. Throws ConversionFailure.
     QString PlainNumber(const QString& text) const;

@@ -148,6 +148,7 @@ void Loan::WireFields() {
     m_parts->resultKeys.Watch(*this);
     m_parts->wholeText.Watch(*this);
     m_parts->payoffAdvice.Watch({FieldId::CurPayoffDate});
+    m_parts->clipboard.WatchCurrentPayment();
     for (const FieldRule& rule : LoanFields()) {
         WireChoice({rule.id});
     }
@@ -227,6 +228,10 @@ void Loan::OnUnload(std::function<bool()> mayClose) { m_parts->mayClose = std::m
 
 void Loan::OnNeverEnding(std::function<QString(Row)> advice) {
     m_parts->payoffAdvice.Ask(std::move(advice));
+}
+
+void Loan::OnFindPayment(std::function<void(Field)> find) {
+    m_parts->clipboard.OnFindPayment(std::move(find));
 }
 
 bool Loan::Commit() { return m_parts->focus.Commit(); }

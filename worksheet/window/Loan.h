@@ -76,6 +76,10 @@ public:
     /// loan: of an offer, or, for Field::NoRow, of the loan held today. An empty text: no tooltip.
     void OnNeverEnding(std::function<QString(Row)> advice);
 
+    /// Called by the menu of an intended payment, of an offer or of the loan held today, to find
+    /// one. Without it (pass {}) the menus do not offer that.
+    void OnFindPayment(std::function<void(Field)> find);
+
 Q_SIGNALS:
     /// A value of the worksheet, their unit, or the number or order of the rows may have changed;
     /// emitted many times for one edit, in the midst of it. Read the worksheet afterwards, once.

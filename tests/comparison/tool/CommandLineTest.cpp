@@ -77,7 +77,7 @@ TEST(CommandLine, IsRefusedInWords) {
         Case{{"--payments", "1,500.00", "a"}, "“1,500.00” is neither"},
         Case{{"--today", "2026-02-29", "a"}, "“2026-02-29” is not a date such as"},
         Case{{"--today", "2026-2-9", "a"}, "“2026-2-9” is not a date"},
-        Case{{"--today", "1899-12-30", "a"}, "“1899-12-30” is not a date"}, // stands for no date
+        Case{{"--today", "1899-12-30", "a"}, "“1899-12-30” is not a date"}, // means no date
         Case{{"--payment-by", "soon", "a"}, "“soon” is not a date"},
         Case{{"--schedule", "0", "a"}, "“0” is neither the number of an offer nor “current”."},
         Case{{"--schedule", "-1", "a"}, "“-1” is neither"},

@@ -21,8 +21,8 @@ struct ToolResult {
     std::string err;
 
     friend bool operator==(const ToolResult&, const ToolResult&) = default;
-    friend void PrintTo(const ToolResult& result, std::ostream* out) {
-        *out << result.status << '\n' << result.out << '\n' << result.err;
+    friend void PrintTo(const ToolResult& result, std::ostream* stream) {
+        *stream << result.status << '\n' << result.out << '\n' << result.err;
     }
 };
 

@@ -99,6 +99,15 @@ TEST_P(Pages, EveryControlHasItsTopic) {
     }
 }
 
+/// Their numbers are in tables of the program, not in forms.
+TEST_P(Pages, EveryColumnOfTheComparisonHasItsTopic) {
+    constexpr int first = 700;
+    constexpr int last = 723;
+    for (int topic = first; topic <= last; ++topic) {
+        EXPECT_TRUE(m_help.topics.contains(QString::number(topic))) << topic;
+    }
+}
+
 TEST_P(Pages, SaysWhatTheOtherLanguagesSay) {
     const HelpPages english(English);
     EXPECT_EQ(english.topics, m_help.topics);
@@ -124,8 +133,9 @@ TEST(SpanishWords, AreTheSameThroughout) {
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
     const HelpPages help("40a");
     QMap<QString, QString> written = help.pages;
-    for (const char* name : {"language/components/40a/texts.txt", "packaging/man/quend-loan.es.1.in",
-                             "packaging/man/quend-compare.es.1.in"}) {
+    for (const char* name :
+         {"language/components/40a/texts.txt", "packaging/man/quend-loan.es.1.in",
+          "packaging/man/quend-compare.es.1.in"}) {
         written.insert(QLatin1String(name),
                        TextOfFile(QStringLiteral(QUEND_SOURCE_DIR "/") + QLatin1String(name)));
     }

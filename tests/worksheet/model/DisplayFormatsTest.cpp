@@ -164,6 +164,28 @@ TEST(DisplayFormats, CurrencyIsExactToTheLargestAmount) {
     EXPECT_EQ(formats.Currency(Money::FromTenThousandths(Lowest)), u"($922,337,203,685,477.58)"_s);
 }
 
+TEST(DisplayFormats, WholeCurrencyRoundsToUnits) {
+    // clang-format off
+    const std::vector<AmountCase> cases{
+        {u"en_US"_s, 643'104'900,  u"$64,310"_s},
+        {u"en_US"_s, 643'105'000,  u"$64,310"_s}, // halves to even
+        {u"en_US"_s, 643'115'000,  u"$64,312"_s},
+        {u"en_US"_s, -643'105'001, u"($64,311)"_s},
+        {u"en_US"_s, -5'000,       u"$0"_s}, // zero has no sign
+        {u"en_US"_s, Largest,      u"$922,337,203,685,478"_s},
+        {u"en_US"_s, Lowest,       u"($922,337,203,685,478)"_s},
+        {u"es_ES"_s, 12'345'000,   u"1234 €"_s},
+        {u"es_ES"_s, 643'104'900,  u"64.310 €"_s},
+        {u"es_MX"_s, -12'345'000,  u"$-1,234"_s},
+        {u"ar_EG"_s, 12'345'000,   u"١٬٢٣٤ ج.م."_s},
+    };
+    // clang-format on
+    for (const auto& [locale, count, text] : cases) {
+        EXPECT_EQ(Plain(FormatsOf(locale).WholeCurrency(Money::FromTenThousandths(count))), text)
+            << locale.toStdString();
+    }
+}
+
 TEST(DisplayFormats, ThreeDecimalsDropsTheZeroInFront) {
     // clang-format off
     const std::vector<RealCase> cases{

@@ -1,5 +1,6 @@
 #include "FieldClipboard.h"
 
+#include "CompareTextNumbers.h"
 #include "ControlMap.h"
 #include "FailureReport.h"
 #include "FieldEdits.h"
@@ -18,6 +19,7 @@
 #include <QMimeData>
 
 #include <memory>
+#include <utility>
 
 namespace quend::window {
 
@@ -62,12 +64,21 @@ void FieldClipboard::Watch(Row row) {
     }
 }
 
+void FieldClipboard::WatchCurrentPayment() {
+    EditOf({FieldId::CurActualPayment}).installEventFilter(this);
+}
+
+void FieldClipboard::OnFindPayment(std::function<void(Field)> find) {
+    m_findPayment = std::move(find);
+}
+
 bool FieldClipboard::eventFilter(QObject* watched, QEvent* event) {
     const auto field = m_controls->FieldOf(watched);
-    if (field && event->type() == QEvent::KeyPress) {
+    const bool isOfOffer = field && field->row != Field::NoRow;
+    if (isOfOffer && event->type() == QEvent::KeyPress) {
         return OnKey(*field, *static_cast<QKeyEvent*>(event));
     }
-    if (field && event->type() == QEvent::ContextMenu) {
+    if (field && (isOfOffer || m_findPayment) && event->type() == QEvent::ContextMenu) {
         OpenMenu(*field, *static_cast<QContextMenuEvent*>(event));
         return true;
     }
@@ -117,20 +128,37 @@ void FieldClipboard::PasteValue(Field field) {
     m_report->Guard([&] { m_values->Take(field, text); });
 }
 
-/// Qt's own menu, followed by the value commands. Unavailable commands are disabled.
+/// Qt's own menu, followed by the commands of the field.
 void FieldClipboard::OpenMenu(Field field, const QContextMenuEvent& event) {
     QMenu* menu = EditOf(field).createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addSeparator();
-    auto* copy = menu->addAction(GetResourceText(TextNumber::CopyValue), this,
-                                 [this, field] { CopyValue(field); });
+    if (field.row != Field::NoRow) {
+        AddValueCommands(*menu, field);
+    }
+    if (m_findPayment &&
+        (field.id == FieldId::ActualPayment || field.id == FieldId::CurActualPayment)) {
+        AddFindPayment(*menu, field);
+    }
+    menu->popup(event.globalPos());
+}
+
+/// Unavailable commands are disabled.
+void FieldClipboard::AddValueCommands(QMenu& menu, Field field) {
+    menu.addSeparator();
+    auto* copy = menu.addAction(GetResourceText(TextNumber::CopyValue), this,
+                                [this, field] { CopyValue(field); });
     copy->setEnabled(m_values->CanGive(field));
     const QMimeData* clipped = Clipped();
-    auto* paste = menu->addAction(GetResourceText(TextNumber::PasteValue), this,
-                                  [this, field] { PasteValue(field); });
+    auto* paste = menu.addAction(GetResourceText(TextNumber::PasteValue), this,
+                                 [this, field] { PasteValue(field); });
     paste->setEnabled(clipped != nullptr && clipped->hasText() &&
                       m_values->MayTake(field, ValueOn(*clipped)));
-    menu->popup(event.globalPos());
+}
+
+void FieldClipboard::AddFindPayment(QMenu& menu, Field field) {
+    menu.addSeparator();
+    menu.addAction(GetResourceText(TextNumber::FindAPayment), this,
+                   [this, field] { m_report->Guard([&] { m_findPayment(field); }); });
 }
 
 } // namespace quend::window

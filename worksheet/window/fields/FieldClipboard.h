@@ -5,9 +5,12 @@
 
 #include <QObject>
 
+#include <functional>
+
 class QContextMenuEvent;
 class QKeyEvent;
 class QLineEdit;
+class QMenu;
 
 namespace quend::window {
 
@@ -22,6 +25,8 @@ class ValueTransfer;
 /// The shortcuts act on the value while all or none of a field is selected. With a partial
 /// selection, or while a number is being typed, they act on the text. A text that was not copied
 /// from such a field is pasted as if it were typed: 6.5 from elsewhere is a rate in percent.
+///
+/// The menus of intended payments also offer to find one.
 class FieldClipboard : public QObject {
     Q_OBJECT
 
@@ -31,6 +36,11 @@ public:
 
     /// Call when the row has been created.
     void Watch(Row row);
+    /// The intended payment of the loan held today, which is neither copied nor pasted here.
+    void WatchCurrentPayment();
+    /// Without it (pass {}) no menu offers to find a payment, and that of the loan held today is
+    /// Qt's own.
+    void OnFindPayment(std::function<void(Field)> find);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -38,6 +48,8 @@ protected:
 private:
     bool OnKey(Field field, const QKeyEvent& event);
     void OpenMenu(Field field, const QContextMenuEvent& event);
+    void AddValueCommands(QMenu& menu, Field field);
+    void AddFindPayment(QMenu& menu, Field field);
     void CopyValue(Field field);
     void PasteValue(Field field);
     QLineEdit& EditOf(Field field) const;
@@ -46,6 +58,7 @@ private:
     const ControlMap* m_controls;
     MessageQueue* m_messages;
     const FailureReport* m_report;
+    std::function<void(Field)> m_findPayment;
 };
 
 } // namespace quend::window

@@ -1,4 +1,5 @@
 // Real faults: killed processes, full disks, locked folders, held locks.
+#include "ChildProcess.h"
 #include "QuendNames.h"
 #include "StoreCheck.h"
 #include "StoreFile.h"
@@ -8,7 +9,6 @@
 #include <csignal>
 #include <ctime>
 #include <random>
-#include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -277,12 +277,6 @@ void FillDisk(const fs::path& store) {
     EXPECT_EQ(PrepareStore(store, "today").state, State::Sound);
 }
 
-/// A disk of one megabyte, for this process only.
-bool MountSmallDisk(const fs::path& folder) {
-    return unshare(CLONE_NEWNS) == 0 && mount("", "/", "", MS_REC | MS_PRIVATE, "") == 0 &&
-           mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=1m") == 0;
-}
-
 class SmallDisk : public StoreFaultTest {
 protected:
     void SetUp() override {
@@ -326,18 +320,6 @@ TEST_F(StoreFaultTest, AFullQuotaMakesTheSaveFailAndNothingElse) {
         ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
         FillDisk(store);
     }));
-}
-
-/// Root may write everywhere: the expectations are for a user without permission.
-bool HoldsForAnotherUser(const std::function<void()>& expectations) {
-    constexpr uid_t Nobody = 65'534;
-    return HoldsInChild([&] {
-        if (geteuid() == 0) {
-            ASSERT_EQ(setgid(Nobody), 0);
-            ASSERT_EQ(setuid(Nobody), 0);
-        }
-        expectations();
-    });
 }
 
 struct ClosedCase {

@@ -7,7 +7,6 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -94,18 +93,4 @@ void MakeOneFile(const std::filesystem::path& store) {
     Connection(store, std::chrono::milliseconds(1'000)).Execute("PRAGMA wal_checkpoint(TRUNCATE)");
     std::filesystem::remove(StoreFile::LogOf(store));
     std::filesystem::remove(StoreFile::SharedOf(store));
-}
-
-bool HoldsInChild(const std::function<void()>& expectations) {
-    const pid_t child = fork();
-    if (child == 0) {
-        try {
-            expectations();
-        } catch (const std::exception& failure) {
-            ADD_FAILURE() << failure.what();
-        }
-        _exit(testing::Test::HasFailure() ? 1 : 0);
-    }
-    int status = 0;
-    return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }

@@ -46,6 +46,3 @@ void WriteBytes(const std::filesystem::path& file, const std::string& bytes);
 
 /// Checkpoints the log into the store and removes the files beside it.
 void MakeOneFile(const std::filesystem::path& store);
-
-/// Runs the expectations in a separate process; false when one failed or the process died.
-bool HoldsInChild(const std::function<void()>& expectations);

@@ -1,0 +1,46 @@
+#include "ExportDialog.h"
+
+#include "CompareNames.h"
+#include "CompareTextNumbers.h"
+#include "Language.h"
+
+#include <QFileDialog>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+namespace quend::compare {
+
+namespace {
+
+/// The ending in a filter such as "PDF (*.pdf)".
+QString EndingOf(const QString& filter) {
+    static const QRegularExpression ending(QStringLiteral("\\*\\.(\\w+)\\)"));
+    return ending.match(filter).captured(1);
+}
+
+/// Without the characters that no file name may have somewhere.
+QString FileNameOf(QString name) {
+    static const QRegularExpression refused(QStringLiteral("[\\x00-\\x1f/\\\\:*?\"<>|]+"));
+    constexpr int longest = 80;
+    return name.replace(refused, QStringLiteral(" ")).simplified().left(longest);
+}
+
+} // namespace
+
+CompareWorld::ExportFile AskForExportFile(QWidget& parent, const QString& name,
+                                          const QStringList& filters) {
+    QFileDialog dialog(&parent, GetResourceText(TextNumber::ExportTitle));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog.setNameFilters(filters);
+    dialog.setDefaultSuffix(EndingOf(filters.value(0)));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&](const QString& filter) { dialog.setDefaultSuffix(EndingOf(filter)); });
+    dialog.selectFile(FileNameOf(name));
+    if (dialog.exec() != QDialog::Accepted) {
+        return {};
+    }
+    return {dialog.selectedFiles().value(0), dialog.selectedNameFilter()};
+}
+
+} // namespace quend::compare

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "CompareNames.h"
+#include "FigureTexts.h"
+#include "Language.h"
+
+#include <QString>
+
+#include <cstdint>
+
+namespace quend::compare {
+
+/// Fills the places of texts with values, all at once: a lender's name may contain "%1".
+class Sentences {
+public:
+    explicit Sentences(const DisplayFormats& formats) : m_formats(&formats) {}
+
+    const DisplayFormats& Formats() const { return *m_formats; }
+
+    template <typename... Values>
+    QString operator()(int number, const Values&... values) const {
+        return GetResourceText(number).arg(TextOf(FigureValue(values), *m_formats)...);
+    }
+
+    /// Without decimals where the amount has none.
+    QString ShortAmount(Money amount) const {
+        constexpr std::int64_t PerUnit = 10'000;
+        return amount.RoundedToCents().TenThousandths() % PerUnit == 0
+                   ? m_formats->WholeCurrency(amount)
+                   : m_formats->Currency(amount);
+    }
+
+private:
+    const DisplayFormats* m_formats;
+};
+
+} // namespace quend::compare

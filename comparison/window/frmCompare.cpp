@@ -54,7 +54,6 @@ frmCompare::frmCompare(Loan& window, CompareWorld world)
       m_overTime(new OverTimePage(window.GetWorksheet().Texts().Formats())),
       m_schedule(new SchedulePage(window.GetWorksheet().Texts().Formats())) {
     m_ui->setupUi(this);
-    setWindowFlags(Qt::Window); // with all buttons of a window
     setAttribute(Qt::WA_QuitOnClose, false);
     for (ComparePage* page : std::initializer_list<ComparePage*>{m_costs, m_overTime, m_schedule}) {
         m_ui->tabPages->addTab(page, QString());

@@ -1,7 +1,7 @@
 #pragma once
 
 // First, because moc 6.4 cannot read <concepts> as the first header of the standard library.
-#include <QDialog>
+#include <QWidget>
 
 #include "CompareWorld.h"
 #include "ComparedWorksheet.h"
@@ -27,8 +27,8 @@ class SchedulePage;
 
 /// The comparison window: which offer to take, in words, and the pages that show why. It is beside
 /// the main window and reads what follows from the worksheet; it computes nothing and stores
-/// nothing in the worksheet. A dialog for screen readers, which announce it by its title.
-class frmCompare : public QDialog {
+/// nothing in the worksheet.
+class frmCompare : public QWidget {
     Q_OBJECT
 
 public:
@@ -41,8 +41,6 @@ public:
     /// Opens the window, or brings it to the front.
     void Present();
     void RenewLanguage();
-    /// Escape closes the window like its button.
-    void reject() override { close(); }
 
 Q_SIGNALS:
     void CostsEntered(int place, quend::calc::Money costs);

@@ -18,8 +18,8 @@ PageFlow::PageFlow(const Paper& paper, const QString& title)
       m_page(paper.space, *paper.metrics) {
     m_page.SetTitle(title);
     m_page.SetFont({.family = m_font.family, .points = NoticePoints, .italic = true});
-    // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer): it depends on the font set
-    // before
+    // It depends on the font that was set before.
+    // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer)
     m_bottom = m_page.ScaleHeight() - 2 * m_page.TextHeight();
     m_page.SetFont(m_font);
 }

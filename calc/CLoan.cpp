@@ -4,6 +4,7 @@
 #include "Payment.h"
 #include "Schedule.h"
 
+#include <tuple>
 #include <utility>
 
 namespace quend::calc {
@@ -18,6 +19,16 @@ void CLoan::SetInterestRate(Rate rate) {
 QString CLoan::Frequency() const { return FrequencyCodeToText(m_frequencyCode); }
 
 void CLoan::SetFrequency(const QString& text) { SetFrequencyCode(FrequencyTextToCode(text)); }
+
+bool CLoan::HasSameEntries(const CLoan& other) const {
+    const auto entries = [](const CLoan& loan) {
+        return std::tie(loan.m_financePoints, loan.m_points, loan.m_financeClosingCosts,
+                        loan.m_closingCosts, loan.m_costs, loan.m_startingAmount, loan.m_term,
+                        loan.m_interestRate, loan.m_frequencyCode, loan.m_actualPayment,
+                        loan.m_who);
+    };
+    return entries(*this) == entries(other);
+}
 
 Money CLoan::StartingPrinciple() const {
     Money principal = m_startingAmount;

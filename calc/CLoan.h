@@ -80,6 +80,8 @@ public:
     void SetFrequency(const QString& text);
     const QString& Who() const { return m_who; }
     void SetWho(const QString& lender) { Change(m_who, lender); }
+    /// Whether the same was entered for both; results do not count.
+    bool HasSameEntries(const CLoan& other) const;
 
     /// The amount that the payments repay: the starting amount plus financed points (to the nearest
     /// ten-thousandth) and financed closing costs.

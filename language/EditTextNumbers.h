@@ -1,7 +1,7 @@
 #pragma once
 
-/// The numbers of the texts of editing and of files of worksheets, as TextNumbers.h has those of the
-/// others; a separate file, because most sources do without them.
+/// The numbers of the texts of editing and of files of worksheets, as TextNumbers.h has those of
+/// the others; a separate file, because most sources do without them.
 namespace quend::language::TextNumber {
 
 // The menus.
@@ -22,5 +22,45 @@ inline constexpr int Rename = 1313;
 inline constexpr int BringBack = 1314; ///< %1: the worksheet
 inline constexpr int PrintPreview = 1315;
 inline constexpr int ExportAsPdf = 1316;
+
+// What a step changes, after the words of UndoStep and RedoStep. %1: the number of the offer.
+inline constexpr int StepLoanName = 1320;
+inline constexpr int StepLoanType = 1321;
+inline constexpr int StepLoanAmount = 1322;
+inline constexpr int StepLoanTerm = 1323;
+inline constexpr int StepTaxes = 1324;
+inline constexpr int StepInsurance = 1325;
+inline constexpr int StepCurrentAmount = 1326;
+inline constexpr int StepCurrentTerm = 1327;
+inline constexpr int StepCurrentRate = 1328;
+inline constexpr int StepCurrentFrequency = 1329;
+inline constexpr int StepCurrentPayment = 1330;
+inline constexpr int StepCurrentBalance = 1331;
+inline constexpr int StepCurrentActualPayment = 1332;
+inline constexpr int StepCurrentActualFrequency = 1333;
+inline constexpr int StepNextPayment = 1334;
+inline constexpr int StepFinancePoints = 1335;
+inline constexpr int StepPoints = 1336;
+inline constexpr int StepRate = 1337;
+inline constexpr int StepTerm = 1338;
+inline constexpr int StepFrequency = 1339;
+inline constexpr int StepActualPayment = 1340;
+inline constexpr int StepLender = 1341;
+inline constexpr int StepCosts = 1342;
+inline constexpr int StepClear = 1343;
+inline constexpr int StepDuplicate = 1344;
+inline constexpr int StepMove = 1345;
+inline constexpr int StepPasteCells = 1346;
+
+// Tables and cells.
+inline constexpr int CellYes = 1380;
+inline constexpr int CellNo = 1381;
+inline constexpr int CellFinanced = 1382;
+inline constexpr int CellPoints = 1383;
+inline constexpr int CellsNotTaken = 1384;
+inline constexpr int CellRefused = 1385;      ///< %1: the cell, %2: the field
+inline constexpr int CellFailed = 1386;       ///< %1: the cell, %2: the field, %3: why
+inline constexpr int CellWithoutField = 1387; ///< %1: the cell
+inline constexpr int MoreCells = 1388;        ///< %1: how many
 
 } // namespace quend::language::TextNumber

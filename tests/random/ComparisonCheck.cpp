@@ -52,7 +52,7 @@ void ComparisonCheck::CompareRow(const QAbstractItemModel& shown, int row,
     for (int column = 0; column < shown.columnCount(); ++column) {
         const QModelIndex cell = shown.index(row, column);
         const int place = cell.data(compare::PlaceRole).toInt();
-        const QString text = cell.data(compare::ValueTextRole).toString();
+        const QString text = cell.data(quend::window::ValueTextRole).toString();
         const QString expected = compare::TextOf(
             compare::ValueOf(m_expected, static_cast<Figure>(column), place), formats);
         if (text != expected) {

@@ -20,6 +20,8 @@ struct WantedLoan {
     Money taxes; ///< a year, as the insurance
     Money insurance;
     Money escrowMonthly; ///< a result
+
+    friend bool operator==(const WantedLoan&, const WantedLoan&) = default;
 };
 
 struct CurrentLoan {
@@ -37,6 +39,8 @@ struct CurrentLoan {
     Money amountLeft;
     Money interestLeft;
     Date payoffDate;
+
+    friend bool operator==(const CurrentLoan&, const CurrentLoan&) = default;
 };
 
 } // namespace quend::model

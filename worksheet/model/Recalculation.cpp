@@ -138,12 +138,8 @@ void Worksheet::RecalculateCurrentPayment() {
     const bool noAmount = m_current.amount.IsZero();
     const bool noTerm = m_current.term.IsZero();
     const bool noRate = m_current.rate.IsZero();
-    const bool none = noAmount && noTerm && noRate;
-    // If nobody entered a current loan, nothing is missing.
-    MarkMissing(FieldId::CurLoanAmount, noAmount && !none);
-    MarkMissing(FieldId::CurLoanTerm, noTerm && !none);
-    MarkMissing(FieldId::CurInterestRate, noRate && !none);
-    if (!none && m_current.frequency.IsNone()) {
+    ShowMissing();
+    if (!(noAmount && noTerm && noRate) && m_current.frequency.IsNone()) {
         Write(m_current.frequency, FrequencyCode(QStringLiteral("M")),
               FieldId::CurPaymentFrequency);
     }
@@ -165,6 +161,17 @@ void Worksheet::RecalculateCurrentPayment() {
         Show({FieldId::CurPayment});
         throw;
     }
+}
+
+/// If nobody entered a current loan, nothing is missing.
+void Worksheet::ShowMissing() {
+    const bool noAmount = m_current.amount.IsZero();
+    const bool noTerm = m_current.term.IsZero();
+    const bool noRate = m_current.rate.IsZero();
+    const bool none = noAmount && noTerm && noRate;
+    MarkMissing(FieldId::CurLoanAmount, noAmount && !none);
+    MarkMissing(FieldId::CurLoanTerm, noTerm && !none);
+    MarkMissing(FieldId::CurInterestRate, noRate && !none);
 }
 
 void Worksheet::MarkMissing(FieldId field, bool missing) {

@@ -40,14 +40,12 @@ void Worksheet::Clear() {
     GrowOfferArrays(Row{-1}, highest);
     ClearRaisedMarks();
     m_display->ShowSortOrder(Order());
-    for (const FieldRule& rule : LoanFields()) {
-        Show({rule.id});
-    }
-    for (Row row{0}; row <= highest; ++row.value) {
-        ShowRow(row);
-    }
+    ShowAll();
     Recalculate(Pending::Payment | Pending::Schedule);
-    m_dirty = false;
+    ClearDirty();
+    if (m_onEmptied) {
+        m_onEmptied();
+    }
 }
 
 void Worksheet::PaymentRefused() {

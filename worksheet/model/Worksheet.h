@@ -7,8 +7,10 @@
 #include "OfferOrder.h"
 #include "Pending.h"
 #include "WorksheetDisplay.h"
+#include "WorksheetState.h"
 
 #include <functional>
+#include <optional>
 #include <set>
 #include <vector>
 
@@ -125,9 +127,45 @@ public:
     /// Removes the marks of raised payments.
     void ClearRaisedMarks();
 
-    /// Restores the initial state: nothing entered, the next payment today, nothing to save. The
-    /// rows stay, empty.
+    /// Restores the initial state: nothing entered, the next payment today, nothing to save, no
+    /// step to undo. The rows stay, empty.
     void Clear();
+
+    // Whole offers, by their places in the order of entry. Each change is one step.
+    bool IsBlank(OfferIndex offer);
+    /// The offer of the first blank row. None: every row is used.
+    std::optional<OfferIndex> FirstBlankOffer();
+    void ClearOffer(OfferIndex offer);
+    /// Copies all that was entered for `from`, the lender, too.
+    void CopyOffer(OfferIndex from, OfferIndex to);
+    /// `offer` takes the place of `other`; the rows keep the places that they show.
+    void ExchangeOffers(OfferIndex offer, OfferIndex other);
+
+    /// While it lives, all that is stored is one step: of the outermost one, if several live.
+    /// Without a name it takes that of the last value stored. Every value stored alone is a step of
+    /// its own; values that StoreTogether stores, such as a loaded worksheet, are none.
+    class Step {
+    public:
+        explicit Step(Worksheet& sheet, std::optional<StepName> name = std::nullopt);
+        Step(const Step&) = delete;
+        Step& operator=(const Step&) = delete;
+        Step(Step&&) = delete;
+        Step& operator=(Step&&) = delete;
+        ~Step();
+
+    private:
+        Worksheet* m_sheet;
+        std::optional<WorksheetState> m_before; ///< none inside another step
+        StepName m_name;
+        bool m_fixed = false;
+    };
+    /// `step` is called after each step that changed a value, `emptied` by Clear, after which no
+    /// earlier step can be undone.
+    void OnStep(std::function<void(WorksheetStep)> step, std::function<void()> emptied);
+    WorksheetState State();
+    /// Shows a state of this worksheet. Nothing is entered, raised or told. Dirty afterwards,
+    /// unless a save would store what was last saved.
+    void Restore(const WorksheetState& state);
 
     // The four recalculations.
     void RecalculateEscrow();
@@ -137,7 +175,10 @@ public:
 
     /// Whether anything has changed that a save would store.
     bool Dirty() const { return m_dirty; }
-    void ClearDirty() { m_dirty = false; }
+    /// The values are now the ones last saved.
+    void ClearDirty();
+    /// None of the values is saved anywhere, also if all are undone.
+    void MarkUnsaved();
     /// Whether the user has been told that intended payments are raised.
     bool PaymentNoticeShown() const { return m_paymentNoticeShown; }
     void SetPaymentNoticeShown(bool shown) { m_paymentNoticeShown = shown; }
@@ -159,6 +200,7 @@ private:
         }
         Show({field});
     }
+    StepName NameOf(Field field) const;
     void Recalculate(unsigned steps, Row row = Field::NoRow);
     void ComputePending(const RunStep& run);
     void RecalculatePayoff(Row row);
@@ -168,6 +210,10 @@ private:
     void ShowPayoff(CLoan& offer, Row row);
     void MarkRaised(Row row);
     void MarkMissing(FieldId field, bool missing);
+    void ShowMissing();
+    void ShowAll();
+    CLoan BlankOffer();
+    void ReplaceOffer(OfferIndex offer, const CLoan& other);
     template <class Key, class KeyOf>
     void SortBy(SortOrder order, KeyOf keyOf);
 
@@ -184,6 +230,11 @@ private:
     bool m_dirty = false;
     bool m_paymentNoticeShown = false;
     bool m_paymentRefused = false;
+    std::optional<WorksheetState> m_saved;
+    std::function<void(WorksheetStep)> m_onStep;
+    std::function<void()> m_onEmptied;
+    StepName m_step; ///< of the last value stored
+    bool m_inStep = false;
 };
 
 } // namespace quend::model

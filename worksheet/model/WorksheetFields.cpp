@@ -158,13 +158,23 @@ FieldValue Worksheet::Value(FieldId field, OfferIndex offer) const {
     return FieldAccess::Of(field).get(*this, &Offer(offer));
 }
 
+StepName Worksheet::NameOf(Field field) const {
+    StepName name{StepKind::Field, field.id, std::nullopt};
+    if (field.row != Field::NoRow) {
+        name.offer = OfferIndexOfRow(field.row);
+    }
+    return name;
+}
+
 void Worksheet::Store(Field field, const FieldValue& value) {
+    const Step step(*this, NameOf(field));
     const FieldAccess& access = FieldAccess::Of(field.id);
     access.put(*this, field, value);
     Recalculate(access.due, field.row);
 }
 
 void Worksheet::StoreAgain(Field field, const FieldValue& value) {
+    const Step step(*this, NameOf(field));
     const FieldAccess& access = FieldAccess::Of(field.id);
     const bool unchanged = value == Value(field);
     const bool wasDirty = std::exchange(m_dirty, false);

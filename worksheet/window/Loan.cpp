@@ -90,14 +90,17 @@ Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
       focus(handlers, controls, report), offers(window),
       values(worksheet, controls, focus, behaviour), dragHandlers(values, controls),
       dragScroll(rows, *window.m_ui->picScroll, report),
-      dragging({&window, window.m_ui->picScroll}, dragHandlers, controls, dragScroll, report),
+      dragging({&window, window.m_ui->picScroll}, worksheet, dragHandlers, controls, dragScroll,
+               report),
       clipboard(values, controls, messages, report),
       languages(*window.m_ui->mnuToolsLanguage,
                 {window.m_ui->mnuToolsLanguageOpt1, window.m_ui->mnuToolsLanguageOpt2},
                 {.commit = [this] { return focus.Commit(); },
                  .renew = [&window] { window.RenewLanguage(); }},
                 report),
-      resultKeys(window, controls, rows), payoffAdvice(worksheet, controls, report) {}
+      resultKeys(window, controls, rows), payoffAdvice(worksheet, controls, report),
+      undo(window, worksheet, controls, focus, rows), rowCommands(window, controls),
+      table(window, controls) {}
 
 Loan::Loan(const World& world, Settings settings) : m_ui(FormOf(*this)) {
     m_parts = std::make_unique<Parts>(*this, world, std::move(settings));
@@ -128,6 +131,7 @@ void Loan::Form_Load() {
     m_parts->worksheet.SetCurrentNextPayment(m_parts->worksheet.Today());
     m_parts->worksheet.SetPaymentNoticeShown(false);
     m_parts->worksheet.ClearDirty();
+    m_parts->undo.Empty();
 }
 
 /// A field that cannot be stored keeps the window open, so that nothing typed is lost.
@@ -149,6 +153,8 @@ void Loan::WireFields() {
     m_parts->wholeText.Watch(*this);
     m_parts->payoffAdvice.Watch({FieldId::CurPayoffDate});
     m_parts->clipboard.WatchCurrentPayment();
+    m_parts->clipboard.OnRowMenu(
+        [this](QMenu& menu, Row row) { m_parts->rowCommands.AddTo(menu, row); });
     for (const FieldRule& rule : LoanFields()) {
         WireChoice({rule.id});
     }
@@ -159,13 +165,16 @@ void Loan::WireFields() {
     connect(m_ui->mnuFileExit, &QAction::triggered, this, &Loan::mnuFileExit_Click);
 }
 
-void Loan::WireRow(int row, const QWidget* controls) {
+void Loan::WireRow(int row, QWidget* controls) {
     m_parts->focus.Watch(*controls);
     m_parts->resultKeys.Watch(*controls);
     m_parts->wholeText.Watch(*controls);
     m_parts->payoffAdvice.Watch({FieldId::PayoffDate, Row{row}});
     m_parts->dragging.Watch(Row{row});
     m_parts->clipboard.Watch(Row{row});
+    m_parts->undo.Watch(*controls);
+    m_parts->rowCommands.Watch(Row{row}, *controls);
+    m_parts->table.Watch(Row{row});
     WireChoice({FieldId::Frequency, Row{row}});
     m_parts->offers.Watch(*m_parts->controls.ControlOf<LenderEdit>({FieldId::Who, Row{row}}),
                           Row{row});

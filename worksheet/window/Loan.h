@@ -100,7 +100,7 @@ private:
     void mnuFileExit_Click();
 
     void WireFields();
-    void WireRow(int row, const QWidget* controls);
+    void WireRow(int row, QWidget* controls);
     void WireChoice(Field field);
     void ApplyCaptions();
     void ApplyRowCaptions(Row row);

@@ -19,6 +19,9 @@
 #include "PayoffAdvice.h"
 #include "QtTexts.h"
 #include "ResultKeys.h"
+#include "RowCommands.h"
+#include "TableClipboard.h"
+#include "UndoCommands.h"
 #include "ValueTransfer.h"
 #include "Wallpaper.h"
 #include "WholeText.h"
@@ -59,6 +62,9 @@ struct Loan::Parts {
     ResultKeys resultKeys;
     WholeText wholeText;
     PayoffAdvice payoffAdvice;
+    UndoCommands undo;
+    RowCommands rowCommands;
+    TableClipboard table;
 };
 
 } // namespace quend::window

@@ -139,6 +139,9 @@ void FieldClipboard::OpenMenu(Field field, const QContextMenuEvent& event) {
         (field.id == FieldId::ActualPayment || field.id == FieldId::CurActualPayment)) {
         AddFindPayment(*menu, field);
     }
+    if (m_addRowCommands && field.row != Field::NoRow) {
+        m_addRowCommands(*menu, field.row);
+    }
     menu->popup(event.globalPos());
 }
 

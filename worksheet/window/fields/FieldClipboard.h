@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include <functional>
+#include <utility>
 
 class QContextMenuEvent;
 class QKeyEvent;
@@ -41,6 +42,8 @@ public:
     /// Without it (pass {}) no menu offers to find a payment, and that of the loan held today is
     /// Qt's own.
     void OnFindPayment(std::function<void(Field)> find);
+    /// Adds the commands of the row to the menu of one of its fields.
+    void OnRowMenu(std::function<void(QMenu&, Row)> add) { m_addRowCommands = std::move(add); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -59,6 +62,7 @@ private:
     MessageQueue* m_messages;
     const FailureReport* m_report;
     std::function<void(Field)> m_findPayment;
+    std::function<void(QMenu&, Row)> m_addRowCommands;
 };
 
 } // namespace quend::window

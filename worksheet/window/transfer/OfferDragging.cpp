@@ -5,6 +5,7 @@
 #include "DragScroll.h"
 #include "FailureReport.h"
 #include "TransferRules.h"
+#include "Worksheet.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -49,10 +50,11 @@ QPixmap SlipOf(const QString& text, const QLineEdit& edit) {
 
 } // namespace
 
-OfferDragging::OfferDragging(Place place, DragHandlers& handlers, const ControlMap& controls,
-                             DragScroll& scroll, const FailureReport& report)
-    : m_handlers(&handlers), m_controls(&controls), m_scroll(&scroll), m_frame(place.frame),
-      m_report(&report) {
+OfferDragging::OfferDragging(Place place, Worksheet& worksheet, DragHandlers& handlers,
+                             const ControlMap& controls, DragScroll& scroll,
+                             const FailureReport& report)
+    : m_worksheet(&worksheet), m_handlers(&handlers), m_controls(&controls), m_scroll(&scroll),
+      m_frame(place.frame), m_report(&report) {
     for (QLineEdit* edit : place.window->findChildren<QLineEdit*>()) {
         edit->setAcceptDrops(false);
     }
@@ -163,8 +165,10 @@ bool OfferDragging::OnMove(Field field, const QMouseEvent& event) {
     return Drag(field);
 }
 
-/// False when there is nothing to drag.
+/// False when there is nothing to drag. A number stored because it is dragged and the field that it
+/// is dropped on are one step.
 bool OfferDragging::Drag(Field field) {
+    const Worksheet::Step step(*m_worksheet);
     auto data = std::make_unique<QMimeData>();
     Qt::DropActions allowed;
     m_report->Guard([&] { allowed = m_handlers->OLEStartDrag(field, *data); });

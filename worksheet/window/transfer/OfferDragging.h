@@ -12,6 +12,10 @@ class QDropEvent;
 class QLineEdit;
 class QMouseEvent;
 
+namespace quend::model {
+class Worksheet;
+}
+
 namespace quend::window {
 
 class ControlMap;
@@ -34,8 +38,8 @@ public:
         const QWidget* window;
         QWidget* frame;
     };
-    OfferDragging(Place place, DragHandlers& handlers, const ControlMap& controls,
-                  DragScroll& scroll, const FailureReport& report);
+    OfferDragging(Place place, Worksheet& worksheet, DragHandlers& handlers,
+                  const ControlMap& controls, DragScroll& scroll, const FailureReport& report);
 
     /// Call when the row has been created.
     void Watch(Row row);
@@ -61,6 +65,7 @@ private:
     void OnDrop(Field field, QDropEvent& event);
     QLineEdit& EditOf(Field field) const;
 
+    Worksheet* m_worksheet;
     DragHandlers* m_handlers;
     const ControlMap* m_controls;
     DragScroll* m_scroll;

@@ -229,15 +229,20 @@ TEST_F(FieldClipboard, TheMenuStoresWhatIsBeingTypedBeforeItIsCopied) {
 
 TEST_F(FieldClipboard, TheMenuSpeaksTheUsersLanguage) {
     InMenu(u"txtPoints(0)", [](const QMenu& menu) {
-        EXPECT_EQ(Entries(menu),
-                  (QStringList{u"&Undo"_s, u"&Redo"_s, u"Cu&t"_s, u"&Copy"_s, u"&Paste"_s,
-                               u"Delete"_s, u"Select All"_s, u"Copy &Value"_s, u"Paste Va&lue"_s}));
+        EXPECT_EQ(
+            Entries(menu),
+            (QStringList{u"&Undo"_s, u"&Redo"_s, u"Cu&t"_s, u"&Copy"_s, u"&Paste"_s, u"Delete"_s,
+                         u"Select All"_s, u"Copy &Value"_s, u"Paste Va&lue"_s, u"C&lear Offer"_s,
+                         u"&Duplicate Offer"_s, u"Move Offer U&p"_s, u"Move Offer Dow&n"_s}));
     });
     SwitchLanguage(Spanish);
     const QStringList text{u"&Deshacer"_s, u"&Rehacer"_s, u"Cor&tar"_s,         u"&Copiar"_s,
                            u"&Pegar"_s,    u"Borrar"_s,   u"Seleccionar todo"_s};
     InMenu(u"txtPoints(0)", [&](const QMenu& menu) {
-        EXPECT_EQ(Entries(menu), text + QStringList({u"Copiar &valor"_s, u"Pegar va&lor"_s}));
+        EXPECT_EQ(Entries(menu),
+                  text + QStringList({u"Copiar &valor"_s, u"Pegar va&lor"_s, u"&Vaciar la oferta"_s,
+                                      u"D&uplicar la oferta"_s, u"&Subir la oferta"_s,
+                                      u"&Bajar la oferta"_s}));
     });
     InMenu(u"txtTerm(0)", [&](const QMenu& menu) { EXPECT_EQ(Entries(menu), text); });
 }

@@ -69,10 +69,11 @@ TEST_P(FieldEntry, ACellIsPastedAsItsText) {
         EXPECT_EQ(Field().text(), u"132");
     }
     Press(Qt::Key_A, Qt::ControlModifier);
-    Paste(u"1\n2\n"); // two cells are not a number
+    Paste(u"1\n2\n"); // two cells are not a number, but two rows have a field for each
+    const bool isInRow = GetParam().name.contains(u'(');
     Tab();
-    EXPECT_EQ(FocusName(), GetParam().name);
-    EXPECT_EQ(SettledMessages().size(), 1);
+    EXPECT_EQ(FocusName() == GetParam().name, !isInRow);
+    EXPECT_EQ(SettledMessages().size(), isInRow ? 0 : 1);
     Press(Qt::Key_Delete);
 }
 

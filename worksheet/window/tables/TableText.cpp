@@ -1,7 +1,5 @@
 #include "TableText.h"
 
-#include "TableRoles.h"
-
 #include <QAbstractItemModel>
 #include <QFont>
 #include <QItemSelectionModel>
@@ -15,7 +13,7 @@
 #include <numeric>
 #include <utility>
 
-namespace quend::compare {
+namespace quend::window {
 
 namespace {
 
@@ -54,8 +52,8 @@ QString PlainText(const QModelIndex& index, QChar decimal) {
 }
 
 /// Each line ends as given; `adapt` makes a text fit between the separators.
-QString Lines(const TableCells& cells, TextSymbols symbols, QLatin1StringView end,
-              const std::function<QString(const QString&)>& adapt) {
+QString TableLines(const TableCells& cells, TextSymbols symbols, QLatin1StringView end,
+                   const std::function<QString(const QString&)>& adapt) {
     QString lines;
     const auto add = [&](const std::function<QString(int column)>& textOf) {
         QStringList texts;
@@ -153,8 +151,8 @@ TextSymbols SymbolsOf(const QLocale& locale) {
 }
 
 QString TabSeparated(const TableCells& cells, QChar decimal) {
-    return Lines(cells, {.separator = u'\t', .decimal = decimal}, QLatin1StringView("\n"),
-                 OnOneLine);
+    return TableLines(cells, {.separator = u'\t', .decimal = decimal}, QLatin1StringView("\n"),
+                      OnOneLine);
 }
 
 QString HtmlTable(const TableCells& cells) {
@@ -176,8 +174,9 @@ std::unique_ptr<QMimeData> TableMime(const TableCells& cells, QChar decimal) {
 
 QByteArray SeparatedValues(const TableCells& cells, TextSymbols symbols) {
     const auto quoted = [&](const QString& text) { return Quoted(text, symbols.separator); };
-    return (QChar(QChar::ByteOrderMark) + Lines(cells, symbols, QLatin1StringView("\r\n"), quoted))
+    return (QChar(QChar::ByteOrderMark) +
+            TableLines(cells, symbols, QLatin1StringView("\r\n"), quoted))
         .toUtf8();
 }
 
-} // namespace quend::compare
+} // namespace quend::window

@@ -1,8 +1,7 @@
 #include "TableText.h"
 #include "HostileTexts.h"
 #include "RandomCases.h"
-#include "SampleTables.h"
-#include "TableRoles.h"
+#include "QuendNames.h"
 
 #include <QItemSelectionModel>
 #include <QMimeData>

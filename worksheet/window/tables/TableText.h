@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CompareNames.h"
+#include "WindowNames.h"
 
 #include <QByteArray>
 #include <QChar>
@@ -14,7 +14,15 @@ class QItemSelectionModel;
 class QLocale;
 class QMimeData;
 
-namespace quend::compare {
+namespace quend::window {
+
+/// What a table says about a cell besides Qt's roles, if it is copied or exported.
+enum CellRole : int {
+    NumberRole = Qt::UserRole, ///< a number as an exact decimal, with a point and digits 0 to 9;
+                               ///< invalid: no number
+    ValueTextRole,             ///< the text without the mark of the best; invalid: there is no mark
+    FirstTableRole             ///< from here on a table has roles of its model
+};
 
 /// The heading of a column on one line.
 QString HeadingIn(const QAbstractItemModel& model, int column);
@@ -59,4 +67,4 @@ std::unique_ptr<QMimeData> TableMime(const TableCells& cells, QChar decimal);
 /// separator, a quote or a line break are quoted.
 QByteArray SeparatedValues(const TableCells& cells, TextSymbols symbols);
 
-} // namespace quend::compare
+} // namespace quend::window

@@ -1,7 +1,7 @@
 #pragma once
 
-/// The numbers of the texts of editing and of files of worksheets, as TextNumbers.h has those of the
-/// others; a separate file, because most sources do without them.
+/// The numbers of the texts of editing and of files of worksheets, as TextNumbers.h has those of
+/// the others; a separate file, because most sources do without them.
 namespace quend::language::TextNumber {
 
 // The menus.
@@ -22,5 +22,17 @@ inline constexpr int Rename = 1313;
 inline constexpr int BringBack = 1314; ///< %1: the worksheet
 inline constexpr int PrintPreview = 1315;
 inline constexpr int ExportAsPdf = 1316;
+
+// Files of worksheets. %1: a file, or for ValueNotForFile a member such as offers[2].rate.
+inline constexpr int OpenFileTitle = 1410;
+inline constexpr int SaveFileTitle = 1411;
+inline constexpr int WorksheetFilter = 1412;
+inline constexpr int AllFilesFilter = 1413;
+inline constexpr int UnnamedWorksheet = 1414;
+inline constexpr int ReplaceFile = 1415;
+inline constexpr int FileNotOpened = 1416;
+inline constexpr int FileIncomplete = 1417;
+inline constexpr int NoFileOfThis = 1418;
+inline constexpr int ValueNotForFile = 1419;
 
 } // namespace quend::language::TextNumber

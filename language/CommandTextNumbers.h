@@ -43,7 +43,7 @@ inline constexpr int OutputFailed = 730;
 inline constexpr int LoanUsage = 731;
 inline constexpr int LoanAbout = 732;
 inline constexpr int LoanQtOptions = 733;
-inline constexpr int LoanTakesNoFile = 734; ///< %1: what was given
+inline constexpr int LoanTakesOneFile = 734; ///< %1: the second one
 
 inline constexpr int LeastPayment = 735;
 inline constexpr int NothingOwedOn = 736; ///< %1: the day

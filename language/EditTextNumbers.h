@@ -63,4 +63,16 @@ inline constexpr int CellFailed = 1386;       ///< %1: the cell, %2: the field, 
 inline constexpr int CellWithoutField = 1387; ///< %1: the cell
 inline constexpr int MoreCells = 1388;        ///< %1: how many
 
+// Files of worksheets. %1: a file, or for ValueNotForFile a member such as offers[2].rate.
+inline constexpr int OpenFileTitle = 1410;
+inline constexpr int SaveFileTitle = 1411;
+inline constexpr int WorksheetFilter = 1412;
+inline constexpr int AllFilesFilter = 1413;
+inline constexpr int UnnamedWorksheet = 1414;
+inline constexpr int ReplaceFile = 1415;
+inline constexpr int FileNotOpened = 1416;
+inline constexpr int FileIncomplete = 1417;
+inline constexpr int NoFileOfThis = 1418;
+inline constexpr int ValueNotForFile = 1419;
+
 } // namespace quend::language::TextNumber

@@ -1,4 +1,4 @@
-# Desktop integration on free systems: commands, menu entry, icon, description, manual pages.
+# Desktop integration on free systems: commands, menu entry, icon, type of files, description, manual pages.
 set(made "${CMAKE_CURRENT_BINARY_DIR}")
 set(data "${CMAKE_INSTALL_DATADIR}")
 
@@ -34,11 +34,17 @@ install(FILES "${made}/${QUEND_APPLICATION_ID}.metainfo.xml" DESTINATION "${data
 get_target_property(drawing icon_pictures QUEND_DRAWING)
 get_target_property(pictures icon_pictures QUEND_PICTURES)
 set(icons "${data}/icons/hicolor")
-install(FILES "${drawing}" DESTINATION "${icons}/scalable/apps" RENAME "${QUEND_APPLICATION_ID}.svg")
-foreach(picture IN LISTS pictures)
-  string(REGEX REPLACE ".*-([0-9]+)[.]png$" "\\1" size "${picture}")
-  install(FILES "${picture}" DESTINATION "${icons}/${size}x${size}/apps" RENAME "${QUEND_APPLICATION_ID}.png")
-endforeach()
+# install_icon(<kind> <name>): the program and its files have the same drawing.
+function(install_icon kind name)
+  install(FILES "${drawing}" DESTINATION "${icons}/scalable/${kind}" RENAME "${name}.svg")
+  foreach(picture IN LISTS pictures)
+    string(REGEX REPLACE ".*-([0-9]+)[.]png$" "\\1" size "${picture}")
+    install(FILES "${picture}" DESTINATION "${icons}/${size}x${size}/${kind}" RENAME "${name}.png")
+  endforeach()
+endfunction()
+install_icon(apps "${QUEND_APPLICATION_ID}")
+install_icon(mimetypes application-x-quend-loan)
+install(FILES mime.xml DESTINATION "${data}/mime/packages" RENAME "${QUEND_APPLICATION_ID}.xml")
 
 # pack(<file> <packed>): compresses as packages require, reproducibly.
 find_program(GZIP gzip REQUIRED)

@@ -32,6 +32,8 @@ _LAYERS: dict[str, tuple[str, ...]] = {
     "language/help":    ("foundation", "language", "calc", "worksheet/model", "worksheet/window"),
     "extras":           ("foundation", "language", "calc", "worksheet/model", "worksheet/window",
                          "storage/registry"),
+    "exchange":         ("foundation", "language", "calc", "comparison", "worksheet/model",
+                         "worksheet/window"),
     "storage":          ("foundation", "language", "calc", "comparison", "worksheet/model",
                          "worksheet/window", "storage/registry"),
 }

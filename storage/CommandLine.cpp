@@ -4,6 +4,7 @@
 #include "Language.h"
 #include "VersionRecord.h"
 
+#include <algorithm>
 #include <array>
 
 namespace quend::storage {
@@ -28,6 +29,8 @@ QString HelpText() {
            QStringLiteral("\n  -v, --version\n") + indent + text(TextNumber::OptionVersion) +
            QStringLiteral("\n\n") + text(TextNumber::LoanQtOptions) + u'\n';
 }
+
+bool IsOption(const QString& argument) { return argument.startsWith(u'-'); }
 
 struct AskingOption {
     const char16_t* option;
@@ -64,13 +67,19 @@ QString AnswerTo(Asked asked) {
     return {};
 }
 
+bool CanStartWith(const QStringList& arguments) {
+    return arguments.size() <= 1 && std::ranges::none_of(arguments, IsOption);
+}
+
 QString RefusalOf(const QStringList& arguments) {
-    const QString& first = arguments.front();
-    const int text =
-        first.startsWith(u'-') ? TextNumber::UnknownOption : TextNumber::LoanTakesNoFile;
-    return QStringLiteral("%1: %2\n%1: %3\n")
-        .arg(Command(), GetResourceText(text).arg(first),
-             GetResourceText(TextNumber::SeeHelp).arg(Command()));
+    const auto refuse = [](int text, const QString& argument) {
+        return QStringLiteral("%1: %2\n%1: %3\n")
+            .arg(Command(), GetResourceText(text).arg(argument),
+                 GetResourceText(TextNumber::SeeHelp).arg(Command()));
+    };
+    const auto option = std::ranges::find_if(arguments, IsOption);
+    return option != arguments.end() ? refuse(TextNumber::UnknownOption, *option)
+                                     : refuse(TextNumber::LoanTakesOneFile, arguments.at(1));
 }
 
 } // namespace quend::storage

@@ -18,7 +18,10 @@ Asked AskedBy(const QStringList& arguments);
 /// Lines for standard output.
 QString AnswerTo(Asked asked);
 
-/// Why these arguments, at least one that Qt has left, cannot be used: lines for standard error.
+/// Whether the program starts with these arguments, which Qt has left: none, or one file to open.
+bool CanStartWith(const QStringList& arguments);
+
+/// Why it does not: lines for standard error.
 QString RefusalOf(const QStringList& arguments);
 
 } // namespace quend::storage

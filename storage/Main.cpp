@@ -6,9 +6,11 @@
 #include "CommandLine.h"
 #include "CompareCommands.h"
 #include "DesktopMail.h"
+#include "ExchangeCommands.h"
 #include "ExportDialog.h"
 #include "FailureReport.h"
 #include "FileCommands.h"
+#include "FileDialogs.h"
 #include "HelpCommands.h"
 #include "HelpPlugin.h"
 #include "Language.h"
@@ -31,6 +33,7 @@
 #include "TextNumbers.h"
 #include "VersionRecord.h"
 #include "WindowPlace.h"
+#include "WorksheetFiles.h"
 
 #include <QApplication>
 #include <QDate>
@@ -48,6 +51,7 @@
 using namespace quend;
 using namespace quend::calc;
 using namespace quend::compare;
+using namespace quend::exchange;
 using namespace quend::extras;
 using namespace quend::help;
 using namespace quend::language;
@@ -123,12 +127,23 @@ CompareWorld WorldOfComparison(PrintCommands& printing) {
             .saveColumns = [columns](const QByteArray& bytes) { KeepBytes(bytes, columns); }};
 }
 
+/// The file of the command line, once the window shows: why it cannot be opened is told over it.
+void OpenNamedFile(ExchangeCommands& exchanging) {
+    const QStringList named = QCoreApplication::arguments().mid(1);
+    if (!named.isEmpty()) {
+        QTimer::singleShot(0, &exchanging, [&exchanging, path = PathOfArgument(named.front())] {
+            exchanging.OpenFile(path);
+        });
+    }
+}
+
 int Run(const std::filesystem::path& place, const StoreCondition& condition,
         MessageBoxes& messages) {
     const auto [settings, refused] = LoadSettings(RegistryAPI(place));
     Loan window({.messages = &messages, .locale = QLocale::system(), .today = Today}, settings);
     const RegistryAPI store = ReportingStore(place, window.GetMessages(), TodayInWords);
     FileCommands files(window, WorksheetStore(store));
+    ExchangeCommands exchanging(window, FileDialogs(), [&files] { return files.MayDrop(); });
     PictureDialog pictures;
     const OptionsCommands options(window, store, pictures);
     PrinterOfPlugin printer;
@@ -152,6 +167,7 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
     RestoreGeometry(window, geometry);
     ReportStore(window.GetMessages(), store, condition, refused);
     window.show();
+    OpenNamedFile(exchanging);
     // The icon loads Qt's plugins of all picture formats, so it follows when the window can be
     // used.
     constexpr auto afterFirstPaint = std::chrono::milliseconds(100);
@@ -206,7 +222,7 @@ std::optional<int> AnswerBeforeStart(int& argc, char** argv) {
 /// The exit code for arguments that Qt has not taken.
 std::optional<int> RefuseRest() {
     const QStringList rest = QCoreApplication::arguments().mid(1);
-    if (rest.isEmpty()) {
+    if (CanStartWith(rest)) {
         return std::nullopt;
     }
     DetectLanguage();

@@ -2,6 +2,7 @@
 
 #include "CompareNames.h"
 #include "CompareTextNumbers.h"
+#include "FileNames.h"
 #include "Language.h"
 
 #include <QFileDialog>
@@ -18,13 +19,6 @@ QString EndingOf(const QString& filter) {
     return ending.match(filter).captured(1);
 }
 
-/// Without the characters that no file name may have somewhere.
-QString FileNameOf(QString name) {
-    static const QRegularExpression refused(QStringLiteral("[\\x00-\\x1f/\\\\:*?\"<>|]+"));
-    constexpr int longest = 80;
-    return name.replace(refused, QStringLiteral(" ")).simplified().left(longest);
-}
-
 } // namespace
 
 CompareWorld::ExportFile AskForExportFile(QWidget& parent, const QString& name,
@@ -36,7 +30,7 @@ CompareWorld::ExportFile AskForExportFile(QWidget& parent, const QString& name,
     dialog.setDefaultSuffix(EndingOf(filters.value(0)));
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
                      [&](const QString& filter) { dialog.setDefaultSuffix(EndingOf(filter)); });
-    dialog.selectFile(FileNameOf(name));
+    dialog.selectFile(SafeFileName(name));
     if (dialog.exec() != QDialog::Accepted) {
         return {};
     }

@@ -72,6 +72,19 @@ class Dialogs:
         self._hands.text(number)
         wait_for(f"{wanted!r} to show {number}", lambda: field.text() == number, self._seconds)
 
+    def name_file(self, file: str) -> None:
+        """Types the name into the dialog that asks for a file, and waits until the dialog is gone."""
+        titles = self._names("@1410") | self._names("@1411")
+        dialog = wait_for("the dialog of the file", lambda: self._titled(titles), self._seconds)
+        self._hands.keys("ctrl+a")
+        self._hands.text(file)
+        self._hands.keys("Return")
+        wait_for("the dialog to close", lambda: self._active() not in (None, dialog), self._seconds)
+
+    def _titled(self, names: frozenset[str]) -> Node | None:
+        front = self._active()
+        return front if front and front.name() in names else None
+
     def page(self) -> str:
         """Waits until the help is in front, and returns the first line of its page."""
         def first_line() -> str:

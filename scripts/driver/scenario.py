@@ -63,8 +63,10 @@
     chart <key> ...                 reads the chart by keys, prints its role, name and sentence
     nameless                        prints the roles of controls that have no name
     export <file>                   exports the page to a file, prints what was written
+    file <file>                     names a file of the session's folder in the dialog that asks for it
+    same <file> <file>              prints whether two files of that folder have the same content
     kill                            kills the program at once
-    start <locale>                  starts the program again, with its saved data
+    start <locale> [file]           starts the program again, with its saved data, to open that file
 
 Prints one line per result: the control, a tab, the text.
 """
@@ -140,6 +142,11 @@ def _figure(window: Window, heading: str, loan: str) -> str:
     return window.comparison.figure(int(heading), loan)
 
 
+def _same(window: Window, one: str, other: str) -> str:
+    folder = window.session.folder
+    return "yes" if (folder / one).read_bytes() == (folder / other).read_bytes() else "no"
+
+
 def _deed(act: Callable[[Window, str, str], None]) -> Handler:
     def handle(window: Window, rest: str) -> list[Reading]:
         act(window, *_two(rest))
@@ -179,7 +186,10 @@ _HANDLERS: dict[str, Handler] = {
     "close": _deed(lambda window, *_: window.close()),
     "ended": _deed(lambda window, *_: window.ended()),
     "kill": _deed(lambda window, *_: window.kill()),
-    "start": _deed(lambda window, locale, _: window.start(locale)),
+    "start": _deed(Window.start),
+    "file": _deed(lambda window, file, _: window.dialogs.name_file(
+        str(window.session.folder / file))),
+    "same": lambda window, files: [Reading("same", _same(window, *_two(files)))],
     "meet": _deed(lambda window, *text: window.meet(" ".join(text).strip())),
     "drag": _deed(Window.drag),
     "dragescape": _deed(lambda window, *ends: window.drag(*ends, escape=True)),

@@ -49,18 +49,19 @@ class Window:
         self._bus = Bus(session.environment["DBUS_SESSION_BUS_ADDRESS"])
         self.start(session.environment["LC_ALL"])
 
-    def start(self, locale: str) -> None:
-        """Starts the program with the data of earlier runs in the session's folders."""
+    def start(self, locale: str, file: str = "") -> None:
+        """Starts the program with the data of earlier runs, and with a file of the session's folder."""
         self._locale = locale
         self._known: dict[str, Node] = {}
         with self._log.open("ab") as log:
             self._process = self.session.start(
-                [str(self._program)],
+                [str(self._program), *([str(self.session.folder / file)] if file else [])],
                 {"LC_ALL": locale, "QT_QPA_PLATFORM": "xcb",
                  "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"},
                 output=log.fileno())
         self._frame = wait_for("the window to become active",
-                               lambda: self._top(_WINDOW_ROLES, ACTIVE), 3 * self._seconds)
+                               lambda: self._top(_WINDOW_ROLES, SHOWING if file else ACTIVE),
+                               3 * self._seconds)  # a file in error is reported at once
         self._wait("the window manager to know that", self._hands.window_in_hand)
         self._look_around()
 

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <vector>
 
 namespace {
 
@@ -64,26 +65,35 @@ TEST(LoanCommandLine, AnswersWithoutADisplay) {
 
 TEST(LoanCommandLine, RefusesWhatNeitherQtNorTheProgramKnows) {
     struct Case {
-        const char* argument;
+        std::vector<const char*> arguments;
         const char* locale;
         const char* words;
     };
     const std::array cases{
-        Case{"--no-such", "en_US.UTF-8",
+        Case{{"--no-such"},
+             "en_US.UTF-8",
              "quend-loan: There is no option --no-such.\n"
              "quend-loan: “quend-loan --help” lists the options.\n"},
-        Case{"home.quendloan", "en_US.UTF-8",
-             "quend-loan: The program takes no file: home.quendloan\n"
+        Case{{"home.quendloan", "-y"},
+             "en_US.UTF-8",
+             "quend-loan: There is no option -y.\n"
              "quend-loan: “quend-loan --help” lists the options.\n"},
-        Case{"-x%1", "es_MX.UTF-8",
+        Case{{"home.quendloan", "%1 b"},
+             "en_US.UTF-8",
+             "quend-loan: Only one file can be opened: %1 b\n"
+             "quend-loan: “quend-loan --help” lists the options.\n"},
+        Case{{"-x%1"},
+             "es_MX.UTF-8",
              "quend-loan: No existe la opción -x%1.\n"
              "quend-loan: «quend-loan --help» muestra las opciones.\n"},
     };
     for (const Case& refused : cases) {
-        const Ended ended = RunLoan({QStringLiteral("-platform"), QStringLiteral("offscreen"),
-                                     QStringLiteral("-style"), QStringLiteral("fusion"),
-                                     QString::fromUtf8(refused.argument)},
-                                    refused.locale);
+        QStringList arguments{QStringLiteral("-platform"), QStringLiteral("offscreen"),
+                              QStringLiteral("-style"), QStringLiteral("fusion")};
+        for (const char* argument : refused.arguments) {
+            arguments << QString::fromUtf8(argument);
+        }
+        const Ended ended = RunLoan(arguments, refused.locale);
         EXPECT_EQ(ended.status, 2);
         EXPECT_EQ(ended.out, "");
         EXPECT_EQ(ended.err.toStdString(), refused.words);

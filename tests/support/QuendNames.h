@@ -2,6 +2,7 @@
 
 namespace quend::calc {}
 namespace quend::comparison {}
+namespace quend::exchange {}
 namespace quend::extras {}
 namespace quend::help {}
 namespace quend::language {}
@@ -15,6 +16,7 @@ namespace quend::window {}
 using namespace quend;
 using namespace quend::calc;
 using namespace quend::comparison;
+using namespace quend::exchange;
 using namespace quend::extras;
 using namespace quend::help;
 using namespace quend::language;

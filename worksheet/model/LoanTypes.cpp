@@ -26,6 +26,14 @@ constexpr std::array LoanTypes{
     TypeEntry{u'M', TextNumber::LoanTypeMortgage, 0},
 };
 
+/// Null for an unknown letter.
+const TypeEntry* TypeOf(const LoanTypeCode& code) {
+    const QString& letter = code.Text();
+    const auto* type = std::ranges::find_if(
+        LoanTypes, [&](const TypeEntry& t) { return letter.size() == 1 && letter[0] == t.code; });
+    return type == LoanTypes.end() ? nullptr : type;
+}
+
 /// The letter of the first matching type; none if none matches.
 template <class IsMeant>
 LoanTypeCode CodeOf(IsMeant isMeant) {
@@ -36,10 +44,13 @@ LoanTypeCode CodeOf(IsMeant isMeant) {
 } // namespace
 
 QString LoanTypeCodeToText(const LoanTypeCode& code) {
-    const QString& letter = code.Text();
-    const auto* type = std::ranges::find_if(
-        LoanTypes, [&](const TypeEntry& t) { return letter.size() == 1 && letter[0] == t.code; });
-    return type == LoanTypes.end() ? QString() : GetResourceText(type->text);
+    const TypeEntry* const type = TypeOf(code);
+    return type == nullptr ? QString() : GetResourceText(type->text);
+}
+
+QString LoanTypeCodeToEnglish(const LoanTypeCode& code) {
+    const TypeEntry* const type = TypeOf(code);
+    return type == nullptr ? QString() : Language::Instance().DefaultText(type->text);
 }
 
 LoanTypeCode LoanTypeTextToCode(const QString& text) {

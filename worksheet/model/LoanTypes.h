@@ -16,6 +16,9 @@ using LoanTypeCode = StoredCode<struct LoanTypeCodeKind>;
 QString LoanTypeCodeToText(const LoanTypeCode& code);
 LoanTypeCode LoanTypeTextToCode(const QString& text);
 
+/// The text that is the same in every language, for what leaves the program.
+QString LoanTypeCodeToEnglish(const LoanTypeCode& code);
+
 /// The letter for a text of any installed language; none if no language has the text.
 LoanTypeCode LoanTypeTextToCodeInAnyLanguage(const QString& text);
 

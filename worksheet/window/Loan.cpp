@@ -92,7 +92,7 @@ Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
       dragScroll(rows, *window.m_ui->picScroll, report),
       dragging({&window, window.m_ui->picScroll}, worksheet, dragHandlers, controls, dragScroll,
                report),
-      clipboard(values, controls, messages, report),
+      fileDrop(window, report), clipboard(values, controls, messages, report),
       languages(*window.m_ui->mnuToolsLanguage,
                 {window.m_ui->mnuToolsLanguageOpt1, window.m_ui->mnuToolsLanguageOpt2},
                 {.commit = [this] { return focus.Commit(); },
@@ -241,6 +241,10 @@ void Loan::OnNeverEnding(std::function<QString(Row)> advice) {
 
 void Loan::OnFindPayment(std::function<void(Field)> find) {
     m_parts->clipboard.OnFindPayment(std::move(find));
+}
+
+void Loan::OnFileDropped(std::function<void(const QString&)> open) {
+    m_parts->fileDrop.OnDropped(std::move(open));
 }
 
 bool Loan::Commit() { return m_parts->focus.Commit(); }

@@ -80,6 +80,10 @@ public:
     /// one. Without it (pass {}) the menus do not offer that.
     void OnFindPayment(std::function<void(Field)> find);
 
+    /// Called with the path of a file of worksheets that was dropped on the window, once the drop
+    /// is over. Without it (pass {}) no file is accepted.
+    void OnFileDropped(std::function<void(const QString& path)> open);
+
 Q_SIGNALS:
     /// A value of the worksheet, their unit, or the number or order of the rows may have changed;
     /// emitted many times for one edit, in the midst of it. Read the worksheet afterwards, once.

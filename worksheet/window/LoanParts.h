@@ -7,6 +7,7 @@
 #include "FieldBehaviour.h"
 #include "FieldClipboard.h"
 #include "FieldHandlers.h"
+#include "FileDrop.h"
 #include "FocusTranslator.h"
 #include "LanguageMenu.h"
 #include "Loan.h"
@@ -55,6 +56,7 @@ struct Loan::Parts {
     DragHandlers dragHandlers;
     DragScroll dragScroll;
     OfferDragging dragging;
+    FileDrop fileDrop;
     FieldClipboard clipboard;
     QtTexts qtTexts;
     LanguageMenu languages;

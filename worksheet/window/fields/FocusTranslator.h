@@ -38,8 +38,8 @@ public:
     /// The field being edited, if any, even while the window is inactive.
     std::optional<Field> Edited() const { return m_edited; }
 
-    /// The field being edited is no longer; nothing is stored. For a worksheet whose values have been
-    /// replaced.
+    /// The field being edited is no longer; nothing is stored. For a worksheet whose values have
+    /// been replaced.
     void Forget() { m_edited.reset(); }
 
     /// Shows the field being edited, if any, in entry form again: its value may have changed.

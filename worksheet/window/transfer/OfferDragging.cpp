@@ -4,6 +4,7 @@
 #include "DragHandlers.h"
 #include "DragScroll.h"
 #include "FailureReport.h"
+#include "FileDrop.h"
 #include "TransferRules.h"
 #include "Worksheet.h"
 
@@ -78,6 +79,10 @@ void OfferDragging::Watch(Row row) {
 }
 
 bool OfferDragging::eventFilter(QObject* watched, QEvent* event) {
+    if (IsFileDrag(*event)) {
+        event->ignore(); // goes on to the window
+        return true;
+    }
     const auto field = m_controls->FieldOf(watched);
     if (field || watched == m_frame) {
         Scroll(*static_cast<QWidget*>(watched), *event);

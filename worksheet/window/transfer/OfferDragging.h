@@ -28,7 +28,8 @@ class FailureReport;
 /// A press starts a drag if it enters the field or if everything is selected, once the mouse has
 /// moved the platform's drag distance. Otherwise it sets the caret and selects as usual. Other
 /// fields accept no drop, because a dropped text would show without being stored. Near the edges of
-/// the frame the rows scroll, whatever control is under the mouse.
+/// the frame the rows scroll, whatever control is under the mouse. A file of worksheets is left to
+/// the window.
 class OfferDragging : public QObject {
     Q_OBJECT
 

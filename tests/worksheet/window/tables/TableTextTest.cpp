@@ -1,7 +1,7 @@
 #include "TableText.h"
 #include "HostileTexts.h"
-#include "RandomCases.h"
 #include "QuendNames.h"
+#include "RandomCases.h"
 
 #include <QItemSelectionModel>
 #include <QMimeData>

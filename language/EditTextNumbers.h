@@ -1,7 +1,7 @@
 #pragma once
 
-/// The numbers of the texts of editing and of files of worksheets, as TextNumbers.h has those of the
-/// others; a separate file, because most sources do without them.
+/// The numbers of the texts of editing and of files of worksheets, as TextNumbers.h has those of
+/// the others; a separate file, because most sources do without them.
 namespace quend::language::TextNumber {
 
 // The menus.
@@ -22,5 +22,11 @@ inline constexpr int Rename = 1313;
 inline constexpr int BringBack = 1314; ///< %1: the worksheet
 inline constexpr int PrintPreview = 1315;
 inline constexpr int ExportAsPdf = 1316;
+
+// The print preview.
+inline constexpr int PreviewOf = 1440; ///< %1: the worksheet
+inline constexpr int PreviewPage = 1441;
+inline constexpr int PreviewZoom = 1442;
+inline constexpr int UnnamedWorksheet = 1443;
 
 } // namespace quend::language::TextNumber

@@ -1,14 +1,14 @@
 #include "ExportDialog.h"
 
-#include "CompareNames.h"
 #include "CompareTextNumbers.h"
 #include "Language.h"
+#include "WindowNames.h"
 
 #include <QFileDialog>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
-namespace quend::compare {
+namespace quend::window {
 
 namespace {
 
@@ -27,8 +27,7 @@ QString FileNameOf(QString name) {
 
 } // namespace
 
-CompareWorld::ExportFile AskForExportFile(QWidget& parent, const QString& name,
-                                          const QStringList& filters) {
+ExportFile AskForExportFile(QWidget& parent, const QString& name, const QStringList& filters) {
     QFileDialog dialog(&parent, GetResourceText(TextNumber::ExportTitle));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
@@ -43,4 +42,4 @@ CompareWorld::ExportFile AskForExportFile(QWidget& parent, const QString& name,
     return {dialog.selectedFiles().value(0), dialog.selectedNameFilter()};
 }
 
-} // namespace quend::compare
+} // namespace quend::window

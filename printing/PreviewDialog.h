@@ -6,9 +6,6 @@
 
 #include <functional>
 
-class QAction;
-class QString;
-
 namespace quend::printing {
 
 /// Qt's preview of a document on a printer's page. Its Print goes through the preview's own

@@ -291,7 +291,7 @@ TEST_F(PreviewTest, APageWithoutRoomIsReported) {
 TEST_F(PreviewTest, AFileThatCannotBeSavedIsReportedAndNothingIsLeft) {
     const QString device = u"/dev/full"_s;
     const QString folder = In(u"missing/report.pdf"_s);
-    const QString long_ = In(QString(300, u'x'));
+    const QString longName = In(QString(300, u'x'));
     struct {
         QString file;
         QString reported; // its beginning
@@ -299,7 +299,7 @@ TEST_F(PreviewTest, AFileThatCannotBeSavedIsReportedAndNothingIsLeft) {
         {QString(), QString()}, // cancelled
         {folder, GetResourceText(TextNumber::FileNoFolder).arg(folder)},
         {device, GetResourceText(TextNumber::FileIsNone).arg(device)},
-        {long_, GetResourceText(TextNumber::FileNotSaved).arg(long_) + u"\n\n"_s},
+        {longName, GetResourceText(TextNumber::FileNotSaved).arg(longName) + u"\n\n"_s},
     };
     Begin();
     for (const auto& row : table) {

@@ -75,4 +75,10 @@ inline constexpr int FileIncomplete = 1417;
 inline constexpr int NoFileOfThis = 1418;
 inline constexpr int ValueNotForFile = 1419;
 
+// The print preview.
+inline constexpr int PreviewOf = 1440; ///< %1: the worksheet
+inline constexpr int PreviewPage = 1441;
+inline constexpr int PreviewZoom = 1442;
+inline constexpr int UnnamedWorksheet = 1443;
+
 } // namespace quend::language::TextNumber

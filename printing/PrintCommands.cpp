@@ -1,6 +1,7 @@
 #include "PrintCommands.h"
 
 #include "CompareTextNumbers.h"
+#include "EditTextNumbers.h"
 #include "FailureReport.h"
 #include "Language.h"
 #include "Loan.h"
@@ -15,6 +16,7 @@
 #include "SaveFile.h"
 #include "TextNumbers.h"
 #include "VersionRecord.h"
+#include "Worksheet.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -28,6 +30,8 @@
 namespace quend::printing {
 
 namespace {
+
+constexpr int PreviewTopic = 1141; // of the help
 
 QString TextOf(const PrintOutcome& outcome) {
     switch (outcome.fault) {
@@ -55,16 +59,38 @@ QString MissingPart(const std::exception& failure) {
                                     .arg(PluginFile(QString::fromStdString(missing->Source())));
 }
 
+/// A file that is not saved is always reported.
+QString MissingPartOrFailure(const std::exception& failure) {
+    const QString missing = MissingPart(failure);
+    return missing.isEmpty() ? FailureMessage(failure) : missing;
+}
+
+/// Saves pages; the error if that fails, otherwise empty.
+QString SavePdf(const QString& file, const PrintedPages& pages, const QString& title,
+                const QPageLayout& layout) {
+    const QByteArray pdf = PdfOf(pages, {.title = title,
+                                         .creator = QString::fromUtf8(VersionRecord::ProductName),
+                                         .layout = layout});
+    return NotSavedText(file, pdf.isEmpty() ? SaveOutcome{SaveFault::Failed} : SaveFile(file, pdf));
+}
+
 } // namespace
 
-PrintCommands::PrintCommands(Loan& window, PrinterInterface& printer, frmPrint::Pace pace)
-    : m_window(&window), m_printer(&printer), m_pace(std::move(pace)) {
+PrintCommands::PrintCommands(Loan& window, PrinterInterface& printer, frmPrint::Pace pace,
+                             AskForFile askForFile)
+    : m_window(&window), m_printer(&printer), m_pace(std::move(pace)),
+      m_askForFile(std::move(askForFile)) {
     const Ui::Loan& form = window.Form();
-    connect(form.mnuFilePrint, &QAction::triggered, this,
-            [this] { m_window->Report().Guard([this] { mnuFilePrint_Click(); }, MissingPart); });
-    connect(form.mnuFilePrintSetup, &QAction::triggered, this, [this] {
-        m_window->Report().Guard([this] { mnuFilePrintSetup_Click(); }, MissingPart);
-    });
+    const auto wire = [this](const QAction& entry, void (PrintCommands::*handler)(),
+                             FailureReport::Wording wording = MissingPart) {
+        connect(&entry, &QAction::triggered, this, [this, handler, wording] {
+            m_window->Report().Guard([&] { (this->*handler)(); }, wording);
+        });
+    };
+    wire(*form.mnuFilePrint, &PrintCommands::mnuFilePrint_Click);
+    wire(*form.mnuFilePrintSetup, &PrintCommands::mnuFilePrintSetup_Click);
+    wire(*form.mnuFilePrintPreview, &PrintCommands::mnuFilePrintPreview_Click);
+    wire(*form.mnuFileExportPdf, &PrintCommands::mnuFileExportPdf_Click, MissingPartOrFailure);
     QCoreApplication::instance()->installEventFilter(this);
     SetBusy(false);
 }
@@ -93,8 +119,11 @@ bool PrintCommands::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void PrintCommands::SetBusy(bool busy) {
-    m_window->Form().mnuFilePrint->setEnabled(!busy);
-    m_window->Form().mnuFilePrintSetup->setEnabled(!busy);
+    const Ui::Loan& form = m_window->Form();
+    for (QAction* entry : {form.mnuFilePrint, form.mnuFilePrintSetup, form.mnuFilePrintPreview,
+                           form.mnuFileExportPdf}) {
+        entry->setEnabled(!busy);
+    }
     Q_EMIT Busy(busy);
 }
 
@@ -116,17 +145,63 @@ bool PrintCommands::Ask(QWidget& parent) {
 /// A refused field stops the command, because the offers were not computed from the text it shows.
 void PrintCommands::mnuFilePrint_Click() {
     if (!m_job && m_window->Commit() && Ask(*m_window)) {
-        StartJob(*m_window,
-                 {.message = GetResourceText(TextNumber::Printing) + QStringLiteral("%1..."),
-                  .name = m_window->Form().cboLoanName->currentText(),
-                  .drawing = BeginReport()},
-                 TextNumber::MarginsTooWide);
+        PrintReport();
     }
+}
+
+void PrintCommands::PrintReport() {
+    StartJob(*m_window,
+             {.message = GetResourceText(TextNumber::Printing) + QStringLiteral("%1..."),
+              .name = m_window->Form().cboLoanName->currentText(),
+              .drawing = BeginReport(m_printer->PageSpace())},
+             TextNumber::MarginsTooWide);
 }
 
 void PrintCommands::mnuFilePrintSetup_Click() {
     if (!m_job) {
         MayGoOn(m_printer->AskSetUp(*m_window));
+    }
+}
+
+void PrintCommands::mnuFilePrintPreview_Click() {
+    if (m_job || !m_window->Commit()) {
+        return;
+    }
+    const auto ask = [this](QWidget& parent) {
+        bool prints = false;
+        m_window->Report().Guard([&] { prints = Ask(parent); }, MissingPart);
+        return prints;
+    };
+    const auto draw = [this](QSizeF space) {
+        PrintedPages pages{.space = space, .pages = {}};
+        m_window->Report().Guard([&] { pages = ReportPages(space); });
+        return pages;
+    };
+    const Preview preview{.title = GetResourceText(TextNumber::PreviewOf).arg(WorksheetName()),
+                          .helpTopic = PreviewTopic,
+                          .draw = draw,
+                          .print = ask};
+    if (m_printer->ShowPreview(*m_window, preview)) {
+        PrintReport();
+    }
+}
+
+/// The page is that of the preview and of the paper.
+void PrintCommands::mnuFileExportPdf_Click() {
+    if (m_job || !m_window->Commit()) {
+        return;
+    }
+    const QString name = WorksheetName();
+    const ExportFile file = m_askForFile(*m_window, name + QStringLiteral(".pdf"),
+                                         {GetResourceText(TextNumber::ExportPdf)});
+    if (file.name.isEmpty()) {
+        return;
+    }
+    const QPageLayout page = m_printer->Page();
+    const PrintedPages pages = ReportPages(SpaceOf(page));
+    const QString error = pages.pages.empty() ? QString() : SavePdf(file.name, pages, name, page);
+    if (!error.isEmpty()) {
+        m_window->GetMessages().Post(error);
     }
 }
 
@@ -148,8 +223,23 @@ void PrintCommands::Print(QWidget& parent, const QString& title, const DrawDocum
         MissingPart);
 }
 
-std::unique_ptr<Report> PrintCommands::BeginReport() const {
-    const QSizeF space = m_printer->PageSpace();
+/// For windows and files, which need a name.
+QString PrintCommands::WorksheetName() const {
+    const QString name = m_window->Form().cboLoanName->currentText();
+    return Worksheet::IsEmptyName(name) ? GetResourceText(TextNumber::UnnamedWorksheet) : name;
+}
+
+/// None if the page is too small, which is reported.
+PrintedPages PrintCommands::ReportPages(QSizeF space) const {
+    const std::unique_ptr<printing::Report> report = BeginReport(space);
+    if (report->Fits()) {
+        return DrawWhole(*report);
+    }
+    m_window->GetMessages().Post(GetResourceText(TextNumber::MarginsTooWide));
+    return {.space = space, .pages = {}};
+}
+
+std::unique_ptr<Report> PrintCommands::BeginReport(QSizeF space) const {
     const double widest =
         Report::WidestWindow(space.width(), LabelPoints(*m_window), PixelsPerPoint(*m_window));
     return std::make_unique<printing::Report>(ReadForm(*m_window, widest), space, m_metrics);
@@ -171,14 +261,8 @@ bool PrintCommands::ExportPdf(const QString& file, const QString& title, const D
         layout = PageOfFile(QLocale(), QPageLayout::Landscape);
         drawing = draw(PaperOf(SpaceOf(layout)));
     }
-    const QByteArray pdf =
-        PdfOf(DrawWhole(*drawing), {.title = title,
-                                    .creator = QString::fromUtf8(VersionRecord::ProductName),
-                                    .layout = layout});
-    const SaveOutcome outcome =
-        pdf.isEmpty() ? SaveOutcome{SaveFault::Failed} : SaveFile(file, pdf);
-    error = NotSavedText(file, outcome);
-    return outcome.fault == SaveFault::None;
+    error = SavePdf(file, DrawWhole(*drawing), title, layout);
+    return error.isEmpty();
 }
 
 /// The job belongs to its window, which may be destroyed before it ends.

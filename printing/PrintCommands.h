@@ -1,12 +1,14 @@
 #pragma once
 
 #include "Drawing.h"
+#include "ExportDialog.h"
 #include "PagePainter.h"
 #include "PrintingNames.h"
 #include "frmPrint.h"
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 namespace quend::window {
@@ -17,16 +19,22 @@ namespace quend::printing {
 
 class Report;
 
-/// The File menu's Print and Print Setup, and the same for the documents of other windows, of which
-/// it knows only how to begin them. One document is printed at a time: until it is sent the entries
-/// are disabled and the program does not quit. A document that cannot be printed is reported once;
-/// a dialog that was cancelled or that failed is not.
+/// The File menu's Print, Print Setup, Print Preview and Export as PDF, all with the same pages,
+/// and the first of them also for the documents of other windows, of which it knows only how to
+/// begin them. One document is printed at a time: until it is sent the entries are disabled and the
+/// program does not quit. A document that cannot be printed is reported once; a dialog that was
+/// cancelled or that failed is not.
 class PrintCommands : public QObject {
     Q_OBJECT
 
 public:
+    /// Asks for the file to export to.
+    using AskForFile =
+        std::function<ExportFile(QWidget& parent, const QString& name, const QStringList& filters)>;
+
     /// Window and printer must outlive this object. Enables the entries.
-    PrintCommands(Loan& window, PrinterInterface& printer, frmPrint::Pace pace = {});
+    PrintCommands(Loan& window, PrinterInterface& printer, frmPrint::Pace pace = {},
+                  AskForFile askForFile = AskForExportFile);
     Q_DISABLE_COPY_MOVE(PrintCommands)
     /// Finishes printing the current document first, unless the user cancels it.
     ~PrintCommands() override;
@@ -54,9 +62,14 @@ protected:
 private:
     void mnuFilePrint_Click();
     void mnuFilePrintSetup_Click();
+    void mnuFilePrintPreview_Click();
+    void mnuFileExportPdf_Click();
 
     bool Ask(QWidget& parent);
-    std::unique_ptr<Report> BeginReport() const;
+    QString WorksheetName() const;
+    std::unique_ptr<Report> BeginReport(QSizeF space) const;
+    PrintedPages ReportPages(QSizeF space) const;
+    void PrintReport();
     void StartJob(QWidget& parent, frmPrint::Job job, int refusal);
     void EndJob();
     void JobIsGone();
@@ -67,6 +80,7 @@ private:
     Loan* m_window;
     PrinterInterface* m_printer;
     frmPrint::Pace m_pace;
+    AskForFile m_askForFile;
     FontMetrics m_metrics; ///< outlives the job, which measures with it
     std::unique_ptr<frmPrint> m_job;
     bool m_quits = false; ///< the program was asked to quit during the job

@@ -169,6 +169,15 @@ void TakeBack(const QByteArray& queue, int job) {
 
 bool HasPrintServer() { return true; }
 
+void WithoutServer(const std::function<void()>& run) {
+    struct Hidden {
+        Hidden() { cupsSetServer("/nonexistent/cups.sock"); }
+        Q_DISABLE_COPY_MOVE(Hidden)
+        ~Hidden() { cupsSetServer(nullptr); } // the configured one again
+    } const hidden;
+    run();
+}
+
 PrintOutcome AskServer() {
     const Connection server(ServerPatience, {});
     const Message answer = Ask(server, ippNewRequest(IPP_OP_CUPS_GET_DEFAULT));
@@ -222,6 +231,7 @@ void ChooseUserPrinter(const QString& queue) {
 
 bool HasPrintServer() { return false; }
 PrintOutcome AskServer() { return {}; }
+void WithoutServer(const std::function<void()>& run) { run(); }
 PrintOutcome AskQueue(const QString& /*queue*/) { return {}; }
 PrintOutcome Send(const QueuedDocument& /*document*/, const std::stop_token& /*stop*/) {
     return {PrintFault::NoServer};

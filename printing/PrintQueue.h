@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <chrono>
+#include <functional>
 #include <stop_token>
 #include <utility>
 #include <vector>
@@ -32,6 +33,10 @@ inline constexpr std::chrono::milliseconds ServerPatience{2000};
 
 /// NoServer or None, within ServerPatience.
 PrintOutcome AskServer();
+
+/// Runs something while the calling thread finds no server, because Qt looks for one without a time
+/// limit.
+void WithoutServer(const std::function<void()>& run);
 
 /// Whether a queue accepts documents: NoServer, Rejects or None, within ServerPatience. A printer
 /// for which the server has not yet created a queue counts as accepting.

@@ -2,6 +2,7 @@
 
 #include "PrintedPage.h"
 
+#include <QPageLayout>
 #include <QSizeF>
 #include <QString>
 
@@ -33,6 +34,16 @@ struct PrintOutcome {
 /// Returns soon after a stop was requested, and then nothing of the document is printed.
 using HandOver = std::function<PrintOutcome(const std::stop_token& stop)>;
 
+/// A document shown on the screen as it would be printed. Its functions throw nothing.
+struct Preview {
+    QString title;     ///< of the window
+    int helpTopic = 0; ///< of the window
+    /// The pages for a page with this printable part, in twips. Called again when the page changes.
+    std::function<PrintedPages(QSizeF space)> draw;
+    /// The user wants to print. True if the document is to be printed, and the preview closes.
+    std::function<bool(QWidget& preview)> print;
+};
+
 /// The interface to printing: dialogs, page size, print queue. Shows nothing but the dialogs.
 ///
 /// A refusal is expected and returned. A failure is an exception, and nothing is printed:
@@ -49,6 +60,12 @@ public:
     /// Asks the same without printing afterwards; cancelling is no refusal. Refusals: NoPrinter,
     /// NoServer.
     virtual PrintOutcome AskSetUp(QWidget& parent) = 0;
+    /// Shows a preview until the user closes it or prints; true if the document is to be printed.
+    /// Its page is that of Print Setup, and the user may change it. Refuses nothing: without a
+    /// printer or a server the page is that of a file.
+    virtual bool ShowPreview(QWidget& parent, const Preview& preview) = 0;
+    /// The page that a preview begins with. Refuses nothing.
+    virtual QPageLayout Page() = 0;
     /// The printable part of a page, in twips. Refuses nothing.
     virtual QSizeF PageSpace() = 0;
     /// Prepares a document for the chosen printer. Pages reach the printer only when the returned

@@ -30,6 +30,10 @@ public:
         return Printer().AskHowToPrint(parent);
     }
     PrintOutcome AskSetUp(QWidget& parent) override { return Printer().AskSetUp(parent); }
+    bool ShowPreview(QWidget& parent, const Preview& preview) override {
+        return Printer().ShowPreview(parent, preview);
+    }
+    QPageLayout Page() override { return Printer().Page(); }
     QSizeF PageSpace() override { return Printer().PageSpace(); }
     HandOver Document(const PrintedPages& pages) override { return Printer().Document(pages); }
 
@@ -42,5 +46,5 @@ private:
 } // namespace quend::printing
 
 // A macro, because moc reads it.
-#define PrinterPlugin_iid "quend.loan.PrinterPlugin/3"
+#define PrinterPlugin_iid "quend.loan.PrinterPlugin/4"
 Q_DECLARE_INTERFACE(quend::printing::PrinterPlugin, PrinterPlugin_iid)

@@ -3,6 +3,7 @@
 #include "ChosenPage.h"
 #include "PagePainter.h"
 #include "PdfDocument.h"
+#include "PreviewDialog.h"
 #include "PrintQueue.h"
 #include "PrintingNames.h"
 #include "TextNumbers.h"
@@ -62,8 +63,11 @@ QPageSize OwnPageSize(const QPrinter& printer) {
     return own.isValid() ? own : PageOfFile(QLocale(), QPageLayout::Portrait).pageSize();
 }
 
+/// Without a name it is the page of a file, which serves while there are no printers.
 bool IsThere(const QPrinter& printer) {
-    return QPrinterInfo::availablePrinterNames().contains(printer.printerName());
+    const QStringList names = QPrinterInfo::availablePrinterNames();
+    return printer.printerName().isEmpty() ? names.isEmpty()
+                                           : names.contains(printer.printerName());
 }
 
 /// A hanging server would block the dialog, and without printers there is nothing to choose.
@@ -136,7 +140,11 @@ HandOver Finished(const PrintOutcome& outcome) {
 void PrepareDocument(QPrinter& printer) {
     printer.setDocName(QStringLiteral("Test Job"));
     printer.setCreator(QString::fromUtf8(VersionRecord::ProductName));
-    printer.setPageSize(OwnPageSize(printer));
+    if (printer.printerName().isEmpty()) {
+        printer.setPageLayout(PageOfFile(QLocale(), QPageLayout::Portrait));
+    } else {
+        printer.setPageSize(OwnPageSize(printer));
+    }
 }
 
 QSizeF PageSpaceOf(const QPrinter& printer) { return SpaceOf(printer.pageLayout()); }
@@ -144,10 +152,20 @@ QSizeF PageSpaceOf(const QPrinter& printer) { return SpaceOf(printer.pageLayout(
 /// If the chosen printer no longer exists, takes the default one.
 QPrinter& SystemPrinter::Chosen() {
     if (!m_printer || !IsThere(*m_printer)) {
-        m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        m_printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
         PrepareDocument(*m_printer);
     }
     return *m_printer;
+}
+
+/// The chosen printer, or the last one while the server does not answer.
+std::shared_ptr<QPrinter> SystemPrinter::Reachable() {
+    if (AskServer().fault == PrintFault::None) {
+        Chosen();
+    } else if (!m_printer) {
+        WithoutServer([this] { Chosen(); });
+    }
+    return m_printer;
 }
 
 bool SystemPrinter::Ask(QPrintDialog& dialog) {
@@ -187,6 +205,14 @@ PrintOutcome SystemPrinter::AskSetUp(QWidget& parent) {
     Ask(dialog);
     return {};
 }
+
+bool SystemPrinter::ShowPreview(QWidget& parent, const Preview& preview) {
+    const std::shared_ptr<QPrinter> printer = Reachable(); // printing may replace the chosen one
+    PreviewDialog dialog(*printer, preview, m_words, parent);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+QPageLayout SystemPrinter::Page() { return Reachable()->pageLayout(); }
 
 QSizeF SystemPrinter::PageSpace() { return PageSpaceOf(m_printer ? *m_printer : Chosen()); }
 

@@ -24,20 +24,24 @@ public:
 
     std::optional<PrintOutcome> AskHowToPrint(QWidget& parent) override;
     PrintOutcome AskSetUp(QWidget& parent) override;
+    bool ShowPreview(QWidget& parent, const Preview& preview) override;
+    QPageLayout Page() override;
     QSizeF PageSpace() override;
     HandOver Document(const PrintedPages& pages) override;
 
 private:
     QPrinter& Chosen();
+    std::shared_ptr<QPrinter> Reachable();
     bool Ask(QPrintDialog& dialog);
 
     Words m_words;
-    // Created on first use, because finding printers takes time.
-    std::unique_ptr<QPrinter> m_printer;
+    // Created on first use, because finding printers takes time. A preview shares it.
+    std::shared_ptr<QPrinter> m_printer;
     int m_copies = 1; ///< of the next document
 };
 
-/// Sets the document's name and the printer's own default page size.
+/// Sets the document's name and the printer's own default page size; without a printer, the page of
+/// a file.
 void PrepareDocument(QPrinter& printer);
 /// The printable part of the current page, in twips.
 QSizeF PageSpaceOf(const QPrinter& printer);

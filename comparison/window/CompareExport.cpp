@@ -1,6 +1,7 @@
 #include "CompareExport.h"
 
 #include "CompareTextNumbers.h"
+#include "ExportDialog.h"
 #include "FigureTable.h"
 #include "Language.h"
 #include "NotSaved.h"
@@ -41,7 +42,7 @@ QString ExportPage(const ComparePage& page, QWidget& parent, const CompareWorld&
     }
     const QString pdf = GetResourceText(TextNumber::ExportPdf);
     filters << pdf;
-    const CompareWorld::ExportFile file = world.askForFile(parent, page.Title(), filters);
+    const ExportFile file = world.askForFile(parent, page.Title(), filters);
     if (file.name.isEmpty()) {
         return {};
     }

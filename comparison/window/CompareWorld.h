@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Drawing.h"
+#include "ExportDialog.h"
 
 #include <QByteArray>
 #include <QString>
@@ -21,12 +22,8 @@ struct CompareWorld {
     std::function<QString(const QString& file, const QString& title,
                           const printing::DrawDocument& draw)>
         exportPdf;
-    /// The file to export to, and the chosen one of the name filters; an empty name: cancelled.
-    struct ExportFile {
-        QString name;
-        QString filter;
-    };
-    std::function<ExportFile(QWidget& parent, const QString& name, const QStringList& filters)>
+    std::function<window::ExportFile(QWidget& parent, const QString& name,
+                                     const QStringList& filters)>
         askForFile;
     /// Where the window was when it was last closed.
     std::function<void(QWidget& window)> restoreGeometry;

@@ -14,6 +14,7 @@ from contextlib import ExitStack
 from pathlib import Path
 
 from accessibility import BusError
+from compositor import WaylandSession
 from controls import Texts
 from printlab import PrintLab
 from scenario import Malformed, Reading, parse, play, prints
@@ -36,6 +37,8 @@ def _arguments() -> argparse.Namespace:
     parser.add_argument("--locale", default="en_US.UTF-8")
     parser.add_argument("--deadline", type=float, default=10.0, metavar="SECONDS",
                         help="how long to wait for each thing to happen (default: %(default)s)")
+    parser.add_argument("--wayland", action="store_true",
+                        help="start the program in a Wayland compositor")
     parser.add_argument("--noisy", action="store_true",
                         help="let the X server, the window manager and the bus speak")
     return parser.parse_args()
@@ -62,7 +65,8 @@ def main() -> int:
     except (OSError, Malformed) as error:
         print(f"driver: {error}", file=sys.stderr)
         return 2
-    with Session(given.locale, noisy=given.noisy) as session, ExitStack() as ending:
+    desktop = WaylandSession if given.wayland else Session
+    with desktop(given.locale, noisy=given.noisy) as session, ExitStack() as ending:
         try:
             lab = ending.enter_context(PrintLab(session)) if prints(steps) else None
             window = Window(session, given.program, texts, given.deadline, lab)

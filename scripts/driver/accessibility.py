@@ -65,6 +65,17 @@ class Bus:
             raise BusError(f"{method} on {path}: {error.message}") from error
         return answer.unpack()[0]
 
+    def send(self, owner: str, path: str, interface: str, method: str, arguments: GLib.Variant) -> None:
+        """Calls without waiting for a reply. Raises BusError."""
+        message = Gio.DBusMessage.new_method_call(owner, path, interface, method)
+        message.set_flags(Gio.DBusMessageFlags.NO_REPLY_EXPECTED)
+        message.set_body(arguments)
+        try:
+            self._connection.send_message(message, Gio.DBusSendMessageFlags.NONE)
+            self._connection.flush_sync(None)
+        except GLib.Error as error:
+            raise BusError(f"{method} on {path}: {error.message}") from error
+
     def programs(self) -> list[Node]:
         """The registered accessible programs, the newest last."""
         children = self.call(_PREFIX + "Registry", _ROOT, _PREFIX + "Accessible", "GetChildren")
@@ -117,6 +128,10 @@ class Node:
     def text(self) -> str:
         """The text of an entry field. Raises BusError for a control without text."""
         return str(self._ask(_PREFIX + "Text", "GetText", GLib.Variant("(ii)", (0, -1))))
+
+    def act(self) -> None:
+        """Performs its first action. Does not wait, because a dialog may open."""
+        self._bus.send(self._owner, self.path, _PREFIX + "Action", "DoAction", GLib.Variant("(i)", (0,)))
 
     # Of tables
 

@@ -24,7 +24,8 @@ class Dialogs:
     """Operates the active dialog or window; `active` returns it, or None."""
 
     def __init__(self, hands: Hands, texts: Texts, active: Callable[[], Node | None],
-                 seconds: float) -> None:
+                 seconds: float, places_known: bool) -> None:
+        self._places_known = places_known
         self._hands = hands
         self._texts = texts
         self._active = active
@@ -32,21 +33,31 @@ class Dialogs:
 
     def push(self, wanted: str) -> None:
         """Clicks on a button, a choice or a tab, without waiting."""
-        self._hands.click(*self._find(wanted, _PRESSED).box().middle())
+        self.press(self._find(wanted, _PRESSED))
+
+    def press(self, button: Node) -> None:
+        """Clicks on a control of a dialog; where that has no known place, performs its action."""
+        if self._places_known:
+            self._hands.click(*button.box().middle())
+        else:
+            button.act()
 
     def end(self, wanted: str) -> None:
         """Clicks on a button and waits until its dialog is no longer in front."""
         button = self._find(wanted, _PRESSED)
         dialog = self._active()
-        self._hands.click(*button.box().middle())
-        wait_for("the dialog to close", lambda: self._active() not in (None, dialog), self._seconds)
+        self.press(button)
+        wait_for("the dialog to close", lambda: self._left(dialog), self._seconds)
+
+    def _left(self, dialog: Node | None) -> bool:
+        now = self._active()
+        return now != dialog and (now is not None or not self._places_known)
 
     def leave(self) -> None:
         """Closes the window in front (not the main one) by Escape."""
         window = self._active()
         self._hands.keys("Escape")
-        wait_for("the window in front to close", lambda: self._active() not in (None, window),
-                 self._seconds)
+        wait_for("the window in front to close", lambda: self._left(window), self._seconds)
 
     def look(self) -> str:
         """The text of the dialog in front."""

@@ -44,6 +44,7 @@
     helped                          waits for the help window, prints its title and closes it
     components                      prints the language components in use: by name if they are beside
                                     the program, else by path
+    platform                        prints the plugins by which the program uses the desktop
     class                           prints the window class by which desktops identify the program
     title                           prints the title of the window
     screenshot <file>               takes a screenshot of the window
@@ -231,7 +232,10 @@ _HANDLERS: dict[str, Handler] = {
     "dialog": _note("dialog", Window.dialog),
     "progress": _note("progress", Window.progress),
     "helped": _note("help", lambda window: window.dialogs.helped()),
-    "components": lambda window, _: [Reading("component", name) for name in window.components()],
+    "components": lambda window, _: [
+        Reading("component", name) for name in window.session.components(window.process())],
+    "platform": _note("platform",
+                      lambda window: window.session.platform_of(window.process())),
     "class": _note("class", Window.desktop_class),
     "title": _note("title", Window.title),
     "tree": _note("tree", Window.tree),

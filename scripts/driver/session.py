@@ -8,6 +8,7 @@ from __future__ import annotations
 
 import ctypes
 import os
+import re
 import secrets
 import signal
 import sqlite3
@@ -89,6 +90,8 @@ def _end_children() -> None:
 class Session:
     """Starts the desktop on entering and ends it on leaving."""
 
+    places_known = True  # whether the places of dialogs are those on the screen
+
     def __init__(self, locale: str, screen: str = "1400x900x24", noisy: bool = False) -> None:
         self._locale = locale
         self._screen = screen
@@ -116,6 +119,10 @@ class Session:
                  trace: TracebackType | None) -> None:
         self._cleanup.close()
 
+    def platform(self) -> Mapping[str, str]:
+        """What makes the program use this desktop."""
+        return {"QT_QPA_PLATFORM": "xcb"}
+
     def start(self, command: Sequence[str], extra: Mapping[str, str] | None = None,
               output: int | None = None, pass_fds: Sequence[int] = ()) -> subprocess.Popen[bytes]:
         """Starts a child in this session's environment; the caller need not end it."""
@@ -124,6 +131,14 @@ class Session:
             stdout=self._output if output is None else output,
             stderr=self._output if output is None else output,
             pass_fds=pass_fds, preexec_fn=_die_with_parent)
+
+    def screenshot(self, file: Path) -> None:
+        """Takes a screenshot of the active window with its frame."""
+        self._photograph("--focused", "--border", str(file))
+
+    def _photograph(self, *how: str) -> None:
+        subprocess.run(["scrot", "--overwrite", *how], check=True, timeout=60, env=self.environment,
+                       stdin=subprocess.DEVNULL)
 
     def install(self, tool: str) -> None:
         """Installs a program of that name first in PATH; it records its start."""
@@ -153,6 +168,12 @@ class Session:
         used = {line.split(maxsplit=5)[-1] for line in (place / "maps").read_text().splitlines()}
         return sorted(Path(file).name if Path(file).parent == folder else file
                       for file in used if file.endswith(".Resources.so"))
+
+    @staticmethod
+    def platform_of(process: int) -> str:
+        """The plugins by which a process uses a desktop, such as "xcb"."""
+        used = (Path("/proc", str(process)) / "maps").read_text()
+        return " ".join(sorted(set(re.findall(r"platforms/libq(\w+)", used))))
 
     def _fresh_environment(self) -> dict[str, str]:
         """The caller's environment with this locale and new, empty folders."""

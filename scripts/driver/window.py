@@ -6,7 +6,6 @@ its text is read through the accessibility bus. No method sets a value by anothe
 
 from __future__ import annotations
 
-import subprocess
 from collections.abc import Callable
 from functools import partial
 from pathlib import Path
@@ -43,7 +42,7 @@ class Window:
         self._texts = texts
         self._seconds = seconds
         self._hands = Hands(session.environment)
-        self.dialogs = Dialogs(self._hands, texts, self._active, seconds)
+        self.dialogs = Dialogs(self._hands, texts, self._active, seconds, session.places_known)
         self.comparison = Comparison(self._hands, texts, lambda: self._frame, self._active, seconds)
         self._log = session.folder / "program.log"
         self._bus = Bus(session.environment["DBUS_SESSION_BUS_ADDRESS"])
@@ -56,13 +55,13 @@ class Window:
         with self._log.open("ab") as log:
             self._process = self.session.start(
                 [str(self._program), *([str(self.session.folder / file)] if file else [])],
-                {"LC_ALL": locale, "QT_QPA_PLATFORM": "xcb",
-                 "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"},
+                {"LC_ALL": locale, **self.session.platform(), "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"},
                 output=log.fileno())
         self._frame = wait_for("the window to become active",
                                lambda: self._top(_WINDOW_ROLES, SHOWING if file else ACTIVE),
                                3 * self._seconds)  # a file in error is reported at once
-        self._wait("the window manager to know that", self._hands.window_in_hand)
+        if self.session.places_known:
+            self._wait("the window manager to know that", self._hands.window_in_hand)
         self._look_around()
 
     # What is on the screen
@@ -177,7 +176,8 @@ class Window:
     def drag(self, start: str, end: str, escape: bool = False) -> None:
         """Drags from one field to another or to the "neighbour"."""
         drag = self._begin(start)
-        drag.must_begin()
+        if self.session.places_known:  # else the compositor draws the drag image
+            drag.must_begin()
         if end == "neighbour":
             self._neighbour.listen()
         drag.over(self._place(end, "takes"))
@@ -333,7 +333,7 @@ class Window:
         button = next((part for part in buttons if part.name() in names), None)
         if button is None:
             raise Refused(f"no {wanted!r} among {[part.name() for part in buttons]}")
-        self._hands.click(*button.box().middle())
+        self.dialogs.press(button)
         self._wait_gone(box)
         return words
 
@@ -413,12 +413,14 @@ class Window:
         """Takes a screenshot of the window with its frame; moves the mouse away first."""
         file.parent.mkdir(parents=True, exist_ok=True)
         self._hands.rest()
-        subprocess.run(["scrot", "--overwrite", "--focused", "--border", str(file)], check=True, timeout=60,
-                       env=self.session.environment, stdin=subprocess.DEVNULL)
+        self.session.screenshot(file)
 
     def close(self) -> None:
-        """Closes the window by Alt+F4. A question may follow."""
-        self._hands.keys("alt+F4")
+        """Closes the window by Alt+F4, in a compositor by its menu. A question may follow."""
+        if self.session.places_known:
+            self._hands.keys("alt+F4")
+        else:
+            self.find("mnuFileExit").act()
 
     def ended(self) -> None:
         """Waits for the program to end with exit code 0."""
@@ -436,9 +438,8 @@ class Window:
         self.title()
         self.session.damage()
 
-    def components(self) -> list[str]:
-        """The loaded language components, as reported by the session."""
-        return self.session.components(self._process.pid)
+    def process(self) -> int:
+        return self._process.pid
 
     def kill(self) -> None:
         """Kills the program, like a power failure."""

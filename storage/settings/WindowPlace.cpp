@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QSaveFile>
 #include <QScreen>
 #include <QStandardPaths>
@@ -25,6 +26,10 @@ bool CanBe(const QRect& place, const QRect& screens) {
     return screens.intersects(place) && isLength(place.left(), place.right(), screens.width()) &&
            isLength(place.top(), place.bottom(), screens.height());
 }
+
+/// A Wayland compositor places the windows and reveals no place. One that Qt believed in would
+/// mislead it where it fits menus and lists onto the screen.
+bool HasPlaces() { return !QGuiApplication::platformName().startsWith(QLatin1String("wayland")); }
 
 } // namespace
 
@@ -61,6 +66,9 @@ void RestoreGeometry(QWidget& window, const QString& file) {
     // Qt moves the window onto an existing screen, except for an impossible position or size.
     window.restoreGeometry(KeptBytes(file, LongestPlace));
     const QRect screens = window.screen()->virtualGeometry();
+    if (!HasPlaces()) {
+        window.move(screens.topLeft());
+    }
     if (!CanBe(window.geometry(), screens)) {
         FitToScreen(window);
         window.move(screens.topLeft());

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "PdfDocument.h"
 #include "PrinterInterface.h"
 #include "QuendNames.h"
+
+#include <QStringList>
 
 #include <atomic>
 #include <functional>
@@ -24,6 +27,13 @@ public:
         ++setUp;
         return chance;
     }
+    /// Takes the first pages and lets the test go on from there; prints only if that says so.
+    bool ShowPreview(QWidget& parent, const Preview& preview) override {
+        titles << preview.title;
+        previewed.push_back(preview.draw(SpaceOf(page)));
+        return whilePreviewing && whilePreviewing(parent, preview);
+    }
+    QPageLayout Page() override { return page; }
     QSizeF PageSpace() override { return space; }
     HandOver Document(const PrintedPages& pages) override {
         return [this, pages](const std::stop_token& stop) {
@@ -39,6 +49,8 @@ public:
 
     bool answer = true;
     std::function<void()> whileAsking;
+    std::function<bool(QWidget& parent, const Preview& preview)> whilePreviewing;
+    QPageLayout page{QPageSize(QPageSize::Letter), QPageLayout::Portrait, {18, 18, 18, 18}};
     QSizeF space{8 * TwipsPerInch, 10.5 * TwipsPerInch};
     PrintOutcome chance;  ///< the state of the printer's queue before a document is sent
     PrintOutcome outcome; ///< the result of sending a document
@@ -46,7 +58,9 @@ public:
     std::function<void(const std::stop_token& stop)> whileHandingOver;
     int asked = 0;
     int setUp = 0;
-    std::vector<PrintedPages> printed; ///< read it only after the job has ended
+    QStringList titles;                  ///< of the previews
+    std::vector<PrintedPages> previewed; ///< their first pages
+    std::vector<PrintedPages> printed;   ///< read it only after the job has ended
 };
 
 /// A server that accepts a document and does not answer until it is stopped.

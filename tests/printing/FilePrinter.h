@@ -24,6 +24,8 @@ public:
         return PrintOutcome();
     }
     PrintOutcome AskSetUp(QWidget& /*parent*/) override { return {}; }
+    bool ShowPreview(QWidget& /*parent*/, const Preview& /*preview*/) override { return false; }
+    QPageLayout Page() override { return m_printer.pageLayout(); }
     QSizeF PageSpace() override { return PageSpaceOf(m_printer); }
     HandOver Document(const PrintedPages& pages) override {
         const PrintFault fault = Print(pages) ? PrintFault::None : PrintFault::Failed;

@@ -15,6 +15,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
 #include <QPrinterInfo>
 #include <QPushButton>
 #include <QRadioButton>
@@ -25,6 +26,7 @@
 #include <cmath>
 #include <span>
 #include <stdexcept>
+#include <string>
 
 using namespace Qt::StringLiterals;
 
@@ -293,6 +295,38 @@ TEST_F(ServerOnlyTest, CopiesAreThoseOfOneJob) {
     ASSERT_TRUE(WaitForEnd());
     EXPECT_EQ(CopiesOf(1), 3);
     EXPECT_EQ(CopiesOf(2), 1);
+}
+
+QAction* ActionOf(const QObject& preview, const char* text) {
+    for (auto* action : preview.findChildren<QAction*>()) {
+        if (action->text() == QLatin1String(text)) {
+            return action;
+        }
+    }
+    throw std::runtime_error(std::string("there is no action ") + text);
+}
+
+TEST_F(ServerOnlyTest, WhatIsTurnedInThePreviewIsPrintedFromIt) {
+    Begin();
+    FillRows(1);
+    const AnswerTo<QPrintPreviewDialog> answer([](QPrintPreviewDialog& preview) {
+        EXPECT_EQ(PageOf(*preview.printer()), u"Letter upright 18");
+        ActionOf(preview, "Landscape")->trigger();
+        const DialogAnswer cancel([](QPrintDialog& dialog) { dialog.reject(); });
+        ActionOf(preview, "Print")->trigger();
+        EXPECT_TRUE(preview.isVisible());
+        const DialogAnswer print([](QPrintDialog& dialog) {
+            EXPECT_EQ(PageOf(*dialog.printer()), u"Letter lying 18");
+            Accept(dialog);
+        });
+        ActionOf(preview, "Print")->trigger();
+        EXPECT_FALSE(preview.isVisible());
+    });
+    Window().Form().mnuFilePrintPreview->trigger();
+    EXPECT_EQ(answer.Count(), 1);
+    ASSERT_TRUE(WaitForEnd());
+    ASSERT_TRUE(WaitForPaper(1));
+    EXPECT_EQ(PageSizeOf(Printed().front()), u"792 x 612");
 }
 
 TEST_F(ServerOnlyTest, NoPrinterAtAllIsReportedInsteadOfAsking) {

@@ -43,17 +43,6 @@ public:
 
 PrintServer* Server() { return TheServer.get(); }
 
-DialogAnswer::DialogAnswer(std::function<void(QPrintDialog&)> answer) {
-    connect(&m_timer, &QTimer::timeout, this, [this, answer = std::move(answer)] {
-        if (auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget())) {
-            m_timer.stop();
-            ++m_count;
-            answer(*dialog);
-        }
-    });
-    m_timer.start(10ms);
-}
-
 void Accept(QPrintDialog& dialog) {
     dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
 }

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "AnswerTo.h"
 #include "PrintCommands.h"
 #include "PrintServer.h"
 #include "PrinterInterface.h"
 #include "QuendNames.h"
 #include "WindowFixture.h"
 
-#include <QObject>
+#include <QPrintDialog>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -14,21 +15,10 @@
 #include <functional>
 #include <memory>
 
-class QPrintDialog;
-
 /// Null if none is installed. It lives until the test program ends.
 PrintServer* Server();
 
-/// Answers the next print dialog as a user would.
-class DialogAnswer : public QObject {
-public:
-    explicit DialogAnswer(std::function<void(QPrintDialog&)> answer);
-    int Count() const { return m_count; }
-
-private:
-    QTimer m_timer;
-    int m_count = 0;
-};
+using DialogAnswer = AnswerTo<QPrintDialog>;
 
 /// Clicks the dialog's own button.
 void Accept(QPrintDialog& dialog);

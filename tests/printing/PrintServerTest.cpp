@@ -2,17 +2,21 @@
 // is installed, with a file.
 
 #include "Language.h"
+#include "LoanForm.h"
 #include "PrintServerFixture.h"
 #include "QuendNames.h"
 #include "TablePages.h"
 #include "TextNumbers.h"
 
+#include <QAction>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPushButton>
 
 #include <stdexcept>
@@ -195,6 +199,22 @@ TEST_F(ServerOnlyTest, AServerThatHangsIsReportedInsteadOfAsking) {
     EXPECT_EQ(answer.Count(), 0);
     EXPECT_EQ(Job(), nullptr);
     EXPECT_EQ(SettledMessages(), QStringList{GetResourceText(TextNumber::NoPrintServer)});
+}
+
+TEST_F(ServerOnlyTest, AServerThatHangsKeepsNoPreviewWaiting) {
+    Begin();
+    FillRows(1);
+    const HungServer hung;
+    QElapsedTimer clock;
+    clock.start();
+    const AnswerTo<QPrintPreviewDialog> answer([](QPrintPreviewDialog& preview) {
+        EXPECT_EQ(preview.findChild<QPrintPreviewWidget*>()->pageCount(), 1);
+        preview.close();
+    });
+    Window().Form().mnuFilePrintPreview->trigger();
+    EXPECT_LT(clock.elapsed(), 10'000) << "of two seconds";
+    EXPECT_EQ(answer.Count(), 1);
+    EXPECT_TRUE(SettledMessages().isEmpty());
 }
 
 TEST_F(ServerOnlyTest, AServerThatHangsIsWaitedFor) {

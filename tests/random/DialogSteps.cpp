@@ -96,8 +96,9 @@ void RandomUser::OpenOptions(unsigned a, unsigned b) {
     Reenter();
 }
 
-/// Prints to the end, cancels at one of the possible moments, or does not start.
-void RandomUser::Print(unsigned a, unsigned /*b*/) {
+/// Prints, with or without a preview, to the end, cancels at one of the possible moments, or does
+/// not start.
+void RandomUser::Print(unsigned a, unsigned b) {
     const View before = Look();
     const unsigned cancelAt = a % 8; // 1 to 4: while printing
     unsigned yields = 0;
@@ -108,7 +109,10 @@ void RandomUser::Print(unsigned a, unsigned /*b*/) {
             m_program.Job()->reject();
         }
     };
-    Trigger("mnuFilePrint");
+    m_program.printer.whilePreviewing = [](QWidget& parent, const Preview& preview) {
+        return preview.print(parent);
+    };
+    Trigger(b % 2 == 0 ? "mnuFilePrint" : "mnuFilePrintPreview");
     const bool starts = Commit(before) && cancelAt != 0;
     if ((m_program.Job() != nullptr) != starts) {
         Complain(u"a job is %1"_s.arg(starts ? u"missing"_s : u"there"_s));
@@ -122,6 +126,8 @@ void RandomUser::Print(unsigned a, unsigned /*b*/) {
         Complain(u"%1 documents were printed"_s.arg(m_program.printer.printed.size()));
     }
     m_program.printer.printed.clear();
+    m_program.printer.previewed.clear();
+    m_program.printer.titles.clear();
 }
 
 void RandomUser::OpenAbout(unsigned a, unsigned /*b*/) {

@@ -3,6 +3,7 @@
 #include "CompareCommands.h"
 #include "CompareWorld.h"
 #include "CompiledHelp.h"
+#include "ExportDialog.h"
 #include "Language.h"
 #include "SettingsStore.h"
 
@@ -30,8 +31,7 @@ compare::CompareWorld NoOutsideWorld() {
     return {.print = [](QWidget&, const QString&, const printing::DrawDocument&) {},
             .exportPdf = [](const QString&, const QString&,
                             const printing::DrawDocument&) { return QString(); },
-            .askForFile = [](QWidget&, const QString&,
-                             const QStringList&) { return compare::CompareWorld::ExportFile(); },
+            .askForFile = [](QWidget&, const QString&, const QStringList&) { return ExportFile(); },
             .restoreGeometry = [](QWidget&) {},
             .saveGeometry = [](const QWidget&) {},
             .restoreColumns = [] { return QByteArray(); },

@@ -1,6 +1,7 @@
 #include "Drive.h"
 
 #include <QProcess>
+#include <QStringList>
 
 namespace {
 
@@ -16,11 +17,15 @@ const QString& Interpreter() {
 } // namespace
 
 DriveResult Drive(const std::string& locale, const std::string& scenario,
-                  const std::string& program) {
+                  const std::string& program, Desktop desktop) {
+    QStringList arguments{QStringLiteral(QUEND_SOURCE_DIR "/scripts/driver"),
+                          QStringLiteral("--program"), QString::fromStdString(program),
+                          QStringLiteral("--locale"), QString::fromStdString(locale)};
+    if (desktop == Desktop::Wayland) {
+        arguments << QStringLiteral("--wayland");
+    }
     QProcess driver;
-    driver.start(Interpreter(), {QStringLiteral(QUEND_SOURCE_DIR "/scripts/driver"),
-                                 QStringLiteral("--program"), QString::fromStdString(program),
-                                 QStringLiteral("--locale"), QString::fromStdString(locale)});
+    driver.start(Interpreter(), arguments);
     driver.write(QByteArray::fromStdString(scenario));
     driver.closeWriteChannel();
     const bool ended = driver.waitForFinished(PatienceMs);

@@ -10,8 +10,12 @@ struct DriveResult {
     std::string complaints;
 };
 
+/// What shows the program's windows.
+enum class Desktop { XServer, Wayland };
+
 /// Starts the program, by default the one just built, with the locale on a separate desktop, plays
 /// the scenario in its window and ends it. The steps are those of scripts/driver. Does not judge
 /// the results.
 DriveResult Drive(const std::string& locale, const std::string& scenario,
-                  const std::string& program = QUEND_PROGRAM_DIR "/Loan");
+                  const std::string& program = QUEND_PROGRAM_DIR "/Loan",
+                  Desktop desktop = Desktop::XServer);

@@ -90,6 +90,8 @@ std::vector<Step> Work() {
             [] { Choose("mnuHelpAbout"); },
             [] { Choose("mnuFilePrintSetup"); },
             [] { Choose("mnuFilePrint"); },
+            [] { Choose("mnuFilePrintPreview"); },
+            [] { Choose("mnuFileExportPdf"); },
             [] { Named<QPushButton>("cmdInterest").click(); },
             [] { Choose("mnuFileNew"); },
             [] { Choose("mnuToolsLanguageOpt(1)"); }};

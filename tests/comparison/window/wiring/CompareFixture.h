@@ -93,7 +93,7 @@ protected:
 
     /// What the window asked of the world.
     struct Outside {
-        CompareWorld::ExportFile file; ///< the answer of the dialog
+        ExportFile file; ///< the answer of the dialog
         QString suggested;
         QStringList filters;
         QStringList printed; ///< titles

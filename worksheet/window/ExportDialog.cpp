@@ -1,15 +1,15 @@
 #include "ExportDialog.h"
 
-#include "CompareNames.h"
 #include "CompareTextNumbers.h"
 #include "FileNames.h"
 #include "Language.h"
+#include "WindowNames.h"
 
 #include <QFileDialog>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
-namespace quend::compare {
+namespace quend::window {
 
 namespace {
 
@@ -21,8 +21,7 @@ QString EndingOf(const QString& filter) {
 
 } // namespace
 
-CompareWorld::ExportFile AskForExportFile(QWidget& parent, const QString& name,
-                                          const QStringList& filters) {
+ExportFile AskForExportFile(QWidget& parent, const QString& name, const QStringList& filters) {
     QFileDialog dialog(&parent, GetResourceText(TextNumber::ExportTitle));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
@@ -37,4 +36,4 @@ CompareWorld::ExportFile AskForExportFile(QWidget& parent, const QString& name,
     return {dialog.selectedFiles().value(0), dialog.selectedNameFilter()};
 }
 
-} // namespace quend::compare
+} // namespace quend::window

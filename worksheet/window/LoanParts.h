@@ -8,6 +8,7 @@
 #include "FieldClipboard.h"
 #include "FieldHandlers.h"
 #include "FocusTranslator.h"
+#include "HintLine.h"
 #include "LanguageMenu.h"
 #include "Loan.h"
 #include "MessageQueue.h"
@@ -25,6 +26,7 @@
 #include "WindowDisplay.h"
 #include "WindowSize.h"
 #include "Worksheet.h"
+#include "WorksheetTitle.h"
 
 namespace quend::window {
 
@@ -38,6 +40,8 @@ struct Loan::Parts {
     MessageQueue messages;
     FailureReport report;
     ControlMap controls;
+    HintLine hint;
+    WorksheetTitle title;
     WindowDisplay display;
     Worksheet worksheet;
     OfferColumns columns;

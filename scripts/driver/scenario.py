@@ -64,6 +64,7 @@
     nameless                        prints the roles of controls that have no name
     export <file>                   exports the page to a file, prints what was written
     kill                            kills the program at once
+    terminate                       ends the program by SIGTERM, waits for exit code 0
     start <locale>                  starts the program again, with its saved data
 
 Prints one line per result: the control, a tab, the text.
@@ -179,6 +180,7 @@ _HANDLERS: dict[str, Handler] = {
     "close": _deed(lambda window, *_: window.close()),
     "ended": _deed(lambda window, *_: window.ended()),
     "kill": _deed(lambda window, *_: window.kill()),
+    "terminate": _deed(lambda window, *_: window.terminate()),
     "start": _deed(lambda window, locale, _: window.start(locale)),
     "meet": _deed(lambda window, *text: window.meet(" ".join(text).strip())),
     "drag": _deed(Window.drag),

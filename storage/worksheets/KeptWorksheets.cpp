@@ -1,8 +1,25 @@
 #include "KeptWorksheets.h"
 
+#include "StoreNames.h"
+
+#include <algorithm>
 #include <utility>
 
 namespace quend::storage {
+
+namespace {
+
+/// The name as stored, which may differ in case from the one that found it.
+QString NameIn(const AllValues& values, const QString& name) {
+    const auto stored = std::ranges::find(values, LoanNameName, &NamedValue::name);
+    if (stored == values.end() || stored->type != RegistryType::Text) {
+        return name;
+    }
+    const QString text = QString::fromStdString(std::get<std::string>(stored->value));
+    return text.compare(name, Qt::CaseInsensitive) == 0 ? text : name;
+}
+
+} // namespace
 
 bool KeptWorksheets::Save(Worksheet& worksheet) {
     SaveResult outcome = m_store.Save(worksheet, m_known);
@@ -10,7 +27,8 @@ bool KeptWorksheets::Save(Worksheet& worksheet) {
     if (outcome.lost.empty()) {
         return false;
     }
-    Keep({worksheet.LoanName(), std::move(outcome.lost)});
+    const QString name = NameIn(outcome.lost, worksheet.LoanName());
+    Keep({name, std::move(outcome.lost)});
     return true;
 }
 
@@ -28,7 +46,8 @@ bool KeptWorksheets::Delete(const QString& name) {
     if (deleted.empty()) {
         return false;
     }
-    Keep({name, std::move(deleted)});
+    const QString stored = NameIn(deleted, name);
+    Keep({stored, std::move(deleted)});
     return true;
 }
 
@@ -50,7 +69,8 @@ void KeptWorksheets::BringBack(const KeptWorksheet& worksheet) {
         return kept.name == back.name && kept.values == back.values;
     });
     if (!replaced.empty()) {
-        Keep({back.name, std::move(replaced)});
+        const QString name = NameIn(replaced, back.name);
+        Keep({name, std::move(replaced)});
     }
 }
 

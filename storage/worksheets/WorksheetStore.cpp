@@ -213,6 +213,11 @@ RenameOutcome WorksheetStore::Rename(const QString& from, const QString& to) con
         outcome.before = store.GetValues(StoreRoot, *old);
         outcome.after = WithName(outcome.before, to);
         Remove(store, *old);
+        if (store.KeyExists(StoreRoot, key)) { // equal for Qt, but not for the store
+            Replace(store, *old, outcome.before);
+            outcome.kind = RenameOutcome::Kind::Taken;
+            return;
+        }
         Replace(store, key, outcome.after);
     });
     return outcome;

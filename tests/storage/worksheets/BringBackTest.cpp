@@ -105,6 +105,16 @@ TEST_F(BringBack, RestoresADeletedWorksheetWhole) {
     EXPECT_EQ(Offered(), u"");
 }
 
+TEST_F(BringBack, KeepsTheNameAsItWasStored) {
+    KeepLoan(u"Home", u"7");
+    TypeName(u"HOME");
+    Messages().WillAnswer({Answer::Yes});
+    Trigger(u"mnuFileDelete");
+    Trigger(u"mnuFileBringBack");
+    EXPECT_EQ(Kept(), QStringList(u"Home"_s));
+    EXPECT_EQ(Sheet().LoanName(), u"Home");
+}
+
 TEST_F(BringBack, TheLastOneKeptComesFirst) {
     for (const QStringView name : {u"One", u"Two"}) {
         SaveAs(name, u"7");

@@ -111,6 +111,17 @@ TEST_F(Rename, MovesAllValuesAndLeavesTheRestAsItIs) {
     EXPECT_FALSE(Window().findChild<QAction*>(u"mnuFileBringBack"_s)->isVisible());
 }
 
+/// The sign of the kelvin is a k for Qt, but another character for the store.
+TEST_F(Rename, ReplacesNoneThatOnlyLooksLikeTheSameName) {
+    KeepLoan(u"\u212A", u"7");
+    KeepLoan(u"k", u"8");
+    m_answer = u"\u212A"_s;
+    Trigger(u"mnuFileRename");
+    EXPECT_EQ(SettledMessages().size(), 1);
+    EXPECT_EQ(KeptText("\u212A", "LoanAmount"), "7");
+    EXPECT_EQ(KeptText("k", "LoanAmount"), "8");
+}
+
 TEST_F(Rename, AStoreThatCannotBeWrittenIsReported) {
     KeepLoan(u"Home", u"7");
     m_answer = u"Other"_s;

@@ -39,7 +39,8 @@ std::vector<int> NumbersOfCode() {
     const QString headers = QString::fromUtf8(
         BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/TextNumbers.h")) +
         BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/CommandTextNumbers.h")) +
-        BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/CompareTextNumbers.h")));
+        BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/CompareTextNumbers.h")) +
+        BytesOf(QStringLiteral(QUEND_SOURCE_DIR "/language/EditTextNumbers.h")));
     const QRegularExpression constant(QStringLiteral("constexpr int \\w+ = (\\d+);"));
     std::vector<int> numbers;
     auto matches = constant.globalMatch(headers);

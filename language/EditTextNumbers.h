@@ -81,4 +81,21 @@ inline constexpr int PreviewPage = 1441;
 inline constexpr int PreviewZoom = 1442;
 inline constexpr int UnnamedWorksheet = 1443;
 
+// The worksheet's name, saving, and the end of the session. %1: the worksheet
+inline constexpr int TitleWithName = 1460; ///< %2: the program; [*]: the mark of unsaved changes
+inline constexpr int Saved = 1461;
+inline constexpr int SavedOver = 1462;
+inline constexpr int DeletedAndKept = 1463;
+inline constexpr int NotBroughtBack = 1464; ///< the failure follows it on a separate line
+inline constexpr int RenameTitle = 1465;
+inline constexpr int RenameTo = 1466;
+inline constexpr int NothingToRename = 1467;
+inline constexpr int NameTaken = 1468;
+inline constexpr int NotRenamed = 1469; ///< the failure follows it on a separate line
+inline constexpr int UnsavedTitle = 1470;
+inline constexpr int OpenUnsaved = 1471;
+inline constexpr int OpenUnsavedUnnamed = 1472;
+inline constexpr int WithoutName = 1473;
+inline constexpr int UnsavedNotKept = 1474;
+
 } // namespace quend::language::TextNumber

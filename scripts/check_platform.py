@@ -18,6 +18,7 @@ _FILES = frozenset({
     "language/ComponentFile.cpp",
     "language/LanguageIdentifier.cpp",
     "printing/PrintQueue.cpp",
+    "storage/EndSignals.cpp",
     "storage/registry/sqlite/StoreFile.cpp",
     "storage/registry/sqlite/StoreTrouble.cpp",
     "storage/registry/sqlite/UserStore.cpp",

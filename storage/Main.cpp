@@ -6,6 +6,7 @@
 #include "CommandLine.h"
 #include "CompareCommands.h"
 #include "DesktopMail.h"
+#include "EndSignals.h"
 #include "ExchangeCommands.h"
 #include "ExportDialog.h"
 #include "FailureReport.h"
@@ -24,6 +25,7 @@
 #include "PrinterPlugin.h"
 #include "ProgramIcon.h"
 #include "RepairedWorksheets.h"
+#include "SessionEnd.h"
 #include "SettingsStore.h"
 #include "ShareCommands.h"
 #include "StoreCheck.h"
@@ -31,6 +33,7 @@
 #include "StoreNotice.h"
 #include "SystemInfo.h"
 #include "TextNumbers.h"
+#include "UnsavedWorksheets.h"
 #include "VersionRecord.h"
 #include "WindowPlace.h"
 #include "WorksheetFiles.h"
@@ -137,6 +140,16 @@ void OpenNamedFile(ExchangeCommands& exchanging) {
     }
 }
 
+/// The exit code.
+int Print(const QString& text, std::FILE* stream, int code) {
+    const bool isWritten =
+        std::fputs(qUtf8Printable(text), stream) >= 0 && std::fflush(stream) == 0;
+    return isWritten ? code : 1;
+}
+
+/// A message that nobody can be shown any more.
+void PrintUnseen(const QString& message) { Print(message + u'\n', stderr, 0); }
+
 int Run(const std::filesystem::path& place, const StoreCondition& condition,
         MessageBoxes& messages) {
     const auto [settings, refused] = LoadSettings(RegistryAPI(place));
@@ -154,12 +167,21 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
     const ShareCommands share(window, mail);
     const AboutCommands about(window, store, InstalledSystemInfo());
     const QString geometry = UserFile(QStringLiteral("window.place"));
+    const auto keepSettings = [&] {
+        SaveSettings(store, window.GetSettings());
+        SaveGeometry(window, geometry);
+    };
+    SessionEnd ending(window, files, UnsavedWorksheets(store),
+                      {.print = PrintUnseen, .keepSettings = keepSettings, .exit = [] {
+                           QApplication::exit(0);
+                       }});
+    const EndSignals signals([&ending] { ending.EndNow(); });
     window.OnUnload([&] {
         if (!files.MayDrop()) {
             return false;
         }
-        SaveSettings(store, window.GetSettings());
-        SaveGeometry(window, geometry);
+        keepSettings();
+        ending.Forget();
         window.GetMessages().ShowRest(); // nobody answers after the window has closed
         return true;
     });
@@ -168,11 +190,13 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
     ReportStore(window.GetMessages(), store, condition, refused);
     window.show();
     OpenNamedFile(exchanging);
-    // The icon loads Qt's plugins of all picture formats, so it follows when the window can be
-    // used.
+    // The icon loads Qt's plugins of all picture formats, and looking for an unsaved worksheet
+    // opens the store, so they follow when the window can be used.
     constexpr auto afterFirstPaint = std::chrono::milliseconds(100);
-    QTimer::singleShot(afterFirstPaint, &window,
-                       [] { QApplication::setWindowIcon(ProgramIcon()); });
+    QTimer::singleShot(afterFirstPaint, &window, [&ending] {
+        QApplication::setWindowIcon(ProgramIcon());
+        ending.OfferUnsaved();
+    });
     return QApplication::exec();
 }
 
@@ -193,13 +217,6 @@ int Start(const std::filesystem::path& place, std::future<StoreCondition> look,
     const int result = Run(place, condition, messages);
     TidyStore(place);
     return result;
-}
-
-/// The exit code.
-int Print(const QString& text, std::FILE* stream, int code) {
-    const bool isWritten =
-        std::fputs(qUtf8Printable(text), stream) >= 0 && std::fflush(stream) == 0;
-    return isWritten ? code : 1;
 }
 
 constexpr int BadUsage = 2;

@@ -12,6 +12,9 @@ inline constexpr RegistryRoot StoreRoot = RegistryRoot::CurrentUser;
 /// worksheets.
 inline constexpr const char* BaseKey = "Software\\Quend Halverworks\\Loan";
 
+/// Its subkeys are worksheets that were closed unsaved, for the next start.
+inline constexpr const char* UnsavedKey = "Software\\Quend Halverworks\\Loan.Unsaved";
+
 /// Each worksheet repeats its name in this value, so that recovery can find it again.
 inline constexpr const char* LoanNameName = "LoanName";
 inline NamedKeys NamedLoans() { return {StoreRoot, BaseKey, LoanNameName}; }

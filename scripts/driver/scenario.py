@@ -67,6 +67,7 @@
     file <file>                     names a file of the session's folder in the dialog that asks for it
     same <file> <file>              prints whether two files of that folder have the same content
     kill                            kills the program at once
+    terminate                       ends the program by SIGTERM, waits for exit code 0
     start <locale> [file]           starts the program again, with its saved data, to open that file
 
 Prints one line per result: the control, a tab, the text.
@@ -187,6 +188,7 @@ _HANDLERS: dict[str, Handler] = {
     "close": _deed(lambda window, *_: window.close()),
     "ended": _deed(lambda window, *_: window.ended()),
     "kill": _deed(lambda window, *_: window.kill()),
+    "terminate": _deed(lambda window, *_: window.terminate()),
     "start": _deed(Window.start),
     "file": _deed(lambda window, file, _: window.dialogs.name_file(
         str(window.session.folder / file))),

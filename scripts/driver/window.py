@@ -441,6 +441,12 @@ class Window:
     def process(self) -> int:
         return self._process.pid
 
+    def terminate(self) -> None:
+        """Asks the program to end by a signal, after it has processed all input, and waits for exit code 0."""
+        self.title()
+        self._process.terminate()
+        self.ended()
+
     def kill(self) -> None:
         """Kills the program, like a power failure."""
         self._process.kill()

@@ -32,6 +32,15 @@ using RegistryValue = std::variant<std::string, std::vector<std::byte>, std::int
 
 constexpr std::int32_t RegistryFlag(bool set) { return set ? -1 : 0; }
 
+/// One value of a key.
+struct NamedValue {
+    std::string name;
+    std::int16_t type = RegistryType::Text;
+    RegistryValue value;
+
+    bool operator==(const NamedValue&) const = default;
+};
+
 /// Which keys a recovery can restore from their values alone: those below `parent` that repeat
 /// their name in the text value `nameValue`. None when `nameValue` is empty.
 struct NamedKeys {
@@ -123,6 +132,10 @@ public:
 
     void DeleteValue(RegistryRoot keyRoot, const std::string& keyName,
                      const std::string& valueName) const;
+
+    /// All values of a key, sorted by their names; none when the key is missing or inaccessible.
+    /// Values of another type or too long (RegistryLimits.h) are left out.
+    std::vector<NamedValue> GetValues(RegistryRoot keyRoot, const std::string& keyName) const;
 
     /// The names of the direct subkeys, sorted alphabetically without regard to case; of the root
     /// for an empty path. One element of NoSubkeysLength blanks means that there are none; no

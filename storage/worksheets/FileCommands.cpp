@@ -1,6 +1,8 @@
 #include "FileCommands.h"
 
 #include "CMouse.h"
+#include "Captions.h"
+#include "EditTextNumbers.h"
 #include "FailureReport.h"
 #include "Language.h"
 #include "Loan.h"
@@ -13,8 +15,8 @@
 #include "Worksheet.h"
 
 #include <QAction>
+#include <QVariant>
 
-#include <array>
 #include <utility>
 
 namespace quend::storage {
@@ -26,10 +28,17 @@ QString WithName(int question, const QString& name) {
     return GetResourceText(question) + name + GetResourceText(TextNumber::NameEnd);
 }
 
+/// The name as a menu entry or the line below the rows quotes it.
+QString ShownName(const QString& name) {
+    return Worksheet::IsEmptyName(name) ? GetResourceText(TextNumber::WithoutName)
+                                        : Shortened(name);
+}
+
 } // namespace
 
-FileCommands::FileCommands(Loan& window, WorksheetStore store)
-    : m_window(&window), m_store(std::move(store)), m_worksheet(&window.GetWorksheet()),
+FileCommands::FileCommands(Loan& window, WorksheetStore store, AskForName askForName)
+    : m_window(&window), m_store(std::move(store)),
+      m_rename(window, m_store, std::move(askForName)), m_worksheet(&window.GetWorksheet()),
       m_cboLoanName(window.Form().cboLoanName) {
     struct Command {
         QAction* entry;
@@ -39,7 +48,8 @@ FileCommands::FileCommands(Loan& window, WorksheetStore store)
     for (const Command& command :
          {Command{form.mnuFileNew, &FileCommands::mnuFileNew_Click},
           Command{form.mnuFileSave, &FileCommands::mnuFileSave_Click},
-          Command{form.mnuFileDelete, &FileCommands::mnuFileDelete_Click}}) {
+          Command{form.mnuFileDelete, &FileCommands::mnuFileDelete_Click},
+          Command{form.mnuFileBringBack, &FileCommands::mnuFileBringBack_Click}}) {
         command.entry->setEnabled(true);
         connect(command.entry, &QAction::triggered, this, [this, run = command.run] {
             m_window->Report().Guard([&] {
@@ -54,6 +64,23 @@ FileCommands::FileCommands(Loan& window, WorksheetStore store)
     connect(m_cboLoanName, &LoanNameBox::Picked, this, [this](const QString& picked) {
         m_window->Report().Guard([&] { cboLoanName_Click(picked); });
     });
+    // Its caption holds a name, so it is set here in every language.
+    form.mnuFileBringBack->setProperty(TextProperty::Caption, QVariant());
+    connect(m_window, &Loan::LanguageChanged, this, &FileCommands::ShowKept);
+    ShowKept();
+}
+
+/// The entry brings back what was kept last.
+void FileCommands::ShowKept() {
+    QAction* const entry = m_window->Form().mnuFileBringBack;
+    const bool any = !m_store.Kept().empty();
+    entry->setEnabled(any);
+    entry->setVisible(any);
+    if (any) {
+        entry->setText(
+            GetResourceText(TextNumber::BringBack)
+                .arg(ShownName(m_store.Kept().back().name).replace(u'&', QStringLiteral("&&"))));
+    }
 }
 
 /// The question and the save use the name typed, even if another is selected afterwards.
@@ -130,9 +157,7 @@ void FileCommands::cboLoanName_Click(const QString& picked) {
 bool FileCommands::CanSave() const {
     const NameFault fault = WorksheetStore::FaultOf(m_worksheet->LoanName());
     if (fault != NameFault::None) {
-        Report(GetResourceText(fault == NameFault::Empty     ? TextNumber::NoNameToSave
-                               : fault == NameFault::NewLoan ? TextNumber::NameOfNewLoan
-                                                             : TextNumber::NameNotPossible));
+        Report(NameFaultText(fault));
         return false;
     }
     for (Row row{0}; row <= m_worksheet->HighestOfferRow(); ++row.value) {
@@ -150,12 +175,18 @@ bool FileCommands::SaveLoan() {
     }
     CMouse mouse;
     mouse.SetPointer(MousePointer::Hourglass);
+    bool replaced = false;
     try {
-        m_store.Save(*m_worksheet);
+        replaced = m_store.Save(*m_worksheet);
     } catch (const Failure& failure) { // its message says what became of the worksheet
         Report(GetResourceText(TextNumber::NotSaved), StoreFailureText(failure));
         return false;
     }
+    m_window->ShowTitle();
+    m_window->Announce(
+        replaced ? GetResourceText(TextNumber::SavedOver).arg(ShownName(m_worksheet->LoanName()))
+                 : GetResourceText(TextNumber::Saved));
+    ShowKept();
     return true;
 }
 
@@ -212,17 +243,70 @@ bool FileCommands::DeleteLoan() {
     }
     CMouse mouse;
     mouse.SetPointer(MousePointer::Hourglass);
+    const QString name = m_worksheet->LoanName();
+    bool deleted = false;
     try {
-        m_store.Delete(m_worksheet->LoanName());
+        deleted = m_store.Delete(name);
     } catch (const StoreFailure& failure) { // as above
         Report(GetResourceText(TextNumber::NotDeleted), ErrorText(failure.Trouble()));
         return false;
     }
+    if (deleted) {
+        m_window->Announce(GetResourceText(TextNumber::DeletedAndKept).arg(ShownName(name)));
+    }
+    ShowKept();
     return true;
+}
+
+/// What is brought back is chosen first, because answering the question may keep more.
+void FileCommands::mnuFileBringBack_Click() {
+    const KeptWorksheet back = m_store.Kept().back();
+    if (!MayDrop()) {
+        return;
+    }
+    try {
+        m_store.BringBack(back);
+    } catch (const Failure& failure) { // as above
+        return Report(GetResourceText(TextNumber::NotBroughtBack), StoreFailureText(failure));
+    }
+    if (back.wasStored) {
+        LoadLoan(back.name);
+    } else {
+        Show(back);
+    }
+    ShowKept();
+    m_window->Reenter();
+}
+
+void FileCommands::Keep(const KeptWorksheet& worksheet) {
+    m_store.Keep(worksheet);
+    ShowKept();
+}
+
+void FileCommands::OpenUnsaved(const KeptWorksheet& worksheet) {
+    if (!m_window->Commit() || !MayDrop()) {
+        return Keep(worksheet);
+    }
+    Show(worksheet);
+    m_window->Reenter();
+}
+
+void FileCommands::Show(const KeptWorksheet& unsaved) {
+    const LoadOutcome outcome =
+        WorksheetStore::Load(*m_worksheet, unsaved.name, unsaved.values,
+                             [this](Row last) { m_window->Rows().GrowTo(last); });
+    m_store.Forget();
+    m_worksheet->MarkDirty();
+    m_window->ShowTitle();
+    m_window->ClearNameMark();
+    if (!outcome.failures.empty()) {
+        Report(GetResourceText(TextNumber::ValuesNotLoaded), FailureLines(outcome.failures));
+    }
 }
 
 void FileCommands::ClearWorksheet() {
     m_worksheet->Clear();
+    m_store.Forget();
     m_window->ClearNameMark();
 }
 

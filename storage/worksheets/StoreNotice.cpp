@@ -6,6 +6,7 @@
 #include "RepairedWorksheets.h"
 #include "StoreNames.h"
 #include "TextNumbers.h"
+#include "WorksheetStore.h"
 
 #include <algorithm>
 #include <utility>
@@ -37,6 +38,12 @@ QString RepairNotice(const RepairedWorksheets& loans, const std::filesystem::pat
                ? notice
                : notice + QStringLiteral("\n\n") +
                      GetResourceText(TextNumber::LoansIncomplete).arg(Names(loans.incomplete));
+}
+
+QString NameFaultText(NameFault fault) {
+    return GetResourceText(fault == NameFault::Empty     ? TextNumber::NoNameToSave
+                           : fault == NameFault::NewLoan ? TextNumber::NameOfNewLoan
+                                                         : TextNumber::NameNotPossible);
 }
 
 QString ErrorText(StoreTrouble trouble) {

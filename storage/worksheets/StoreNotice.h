@@ -15,11 +15,15 @@ class MessageQueue;
 namespace quend::storage {
 
 struct RepairedWorksheets;
+enum class NameFault;
 
 /// The message about a recovery, in the current language: where the damaged file is, how many
 /// worksheets of the new store are complete, and which are not (if many: the first ones and their
 /// number).
 QString RepairNotice(const RepairedWorksheets& loans, const std::filesystem::path& keptAs);
+
+/// Why a worksheet cannot be saved under a name, in the current language.
+QString NameFaultText(NameFault fault);
 
 /// Why the store could not be used, in the current language; empty when unknown.
 QString ErrorText(StoreTrouble trouble);

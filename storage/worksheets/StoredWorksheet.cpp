@@ -1,7 +1,6 @@
 #include "StoredWorksheet.h"
 
 #include "StoreNames.h"
-#include "WorksheetValues.h"
 
 #include <algorithm>
 #include <string_view>
@@ -23,30 +22,41 @@ const KeptValue& CauseOf(FieldId result) {
     });
 }
 
-std::vector<RegistryValue> ReadValues(const RegistryAPI& store, const std::string& key,
-                                      const std::string& prefix,
-                                      std::span<const KeptValue> values) {
-    std::vector<RegistryValue> read;
-    for (const KeptValue& value : InOrderOfReading(values)) {
-        read.push_back(
-            store.GetValue(StoreRoot, key, prefix + value.name, value.type, value.Missing()));
-    }
-    return read;
-}
-
 } // namespace
 
 std::string OfferPrefix(int number) { return "Loan " + std::to_string(number); }
 
-void StoredWorksheet::Read(const RegistryAPI& store, const std::string& key) {
-    m_loan = ReadValues(store, key, "", KeptWorksheetValues());
-    m_count = std::get<std::int32_t>(
-        store.GetValue(StoreRoot, key, LoanCountName, RegistryType::Number, std::int32_t{0}));
-    m_dateFormat = std::get<std::string>(
-        store.GetValue(StoreRoot, key, DateFormatName, RegistryType::Text, std::string()));
-    for (int number = 1; number <= std::min(m_count, MostOffers); ++number) {
-        m_offers.push_back(ReadValues(store, key, OfferPrefix(number), KeptOfferValues()));
+StoredWorksheet::Values StoredWorksheet::ReadGroup(const ReadValue& read, const std::string& prefix,
+                                                   std::span<const KeptValue> values) {
+    Values group;
+    for (const KeptValue& value : InOrderOfReading(values)) {
+        group.push_back(read(prefix + value.name, value.type, value.Missing()));
     }
+    return group;
+}
+
+void StoredWorksheet::ReadBy(const ReadValue& read) {
+    m_loan = ReadGroup(read, "", KeptWorksheetValues());
+    m_count = std::get<std::int32_t>(read(LoanCountName, RegistryType::Number, std::int32_t{0}));
+    m_dateFormat = std::get<std::string>(read(DateFormatName, RegistryType::Text, std::string()));
+    for (int number = 1; number <= std::min(m_count, MostOffers); ++number) {
+        m_offers.push_back(ReadGroup(read, OfferPrefix(number), KeptOfferValues()));
+    }
+}
+
+void StoredWorksheet::Read(const RegistryAPI& store, const std::string& key) {
+    ReadBy([&](const std::string& name, std::int16_t type, const RegistryValue& missing) {
+        return store.GetValue(StoreRoot, key, name, type, missing);
+    });
+}
+
+void StoredWorksheet::Read(const std::vector<NamedValue>& values) {
+    ReadBy([&](const std::string& name, std::int16_t type, const RegistryValue& missing) {
+        const auto found = std::ranges::find_if(values, [&](const NamedValue& value) {
+            return value.name == name && value.type == type;
+        });
+        return found == values.end() ? missing : found->value;
+    });
 }
 
 template <class Step>

@@ -5,12 +5,14 @@
 #include "RegistryAPI.h"
 #include "StorageNames.h"
 #include "Worksheet.h"
+#include "WorksheetValues.h"
 
 #include <QString>
 
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -40,6 +42,8 @@ public:
     explicit StoredWorksheet(DisplayFormats formats) : m_formats(std::move(formats)) {}
 
     void Read(const RegistryAPI& store, const std::string& key);
+    /// From all values of a worksheet.
+    void Read(const std::vector<NamedValue>& values);
 
     /// Replaces the contents of the worksheet and clears Dirty. Returns the failures of values that
     /// could not be stored or computed; their sources are the names of the values.
@@ -48,6 +52,12 @@ public:
 
 private:
     using Values = std::vector<RegistryValue>;
+    /// The value of this name and type, or `missing`.
+    using ReadValue = std::function<RegistryValue(const std::string& name, std::int16_t type,
+                                                  const RegistryValue& missing)>;
+    void ReadBy(const ReadValue& read);
+    static Values ReadGroup(const ReadValue& read, const std::string& prefix,
+                            std::span<const KeptValue> values);
     /// Orders the failures: the values of the loan, then those of each offer, as they are read.
     struct Place {
         int offer = 0; ///< its number; 0 for the loan

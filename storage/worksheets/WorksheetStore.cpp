@@ -7,6 +7,7 @@
 #include "TextNumbers.h"
 #include "WorksheetValues.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace quend::storage {
@@ -25,32 +26,49 @@ std::optional<std::string> KeyOf(const QString& name) {
                            : std::nullopt;
 }
 
-/// Writes the values of the loan, or of the offer with this prefix; `valueOf` gives that of a
-/// field.
+/// Adds the values of the loan, or of the offer with this prefix; `valueOf` gives that of a field.
 template <class ValueOf>
-void WriteValues(const RegistryAPI& store, const std::string& key, const std::string& prefix,
-                 const StoredTexts& texts, std::span<const KeptValue> values, ValueOf valueOf) {
+void AddValues(AllValues& added, const std::string& prefix, const StoredTexts& texts,
+               std::span<const KeptValue> values, ValueOf valueOf) {
     for (const KeptValue& kept : values) {
         const FieldValue value = valueOf(kept.field);
         if (kept.written == Written::Always || !IsZero(value)) {
-            store.SetValue(StoreRoot, key, prefix + kept.name, kept.type, ToStored(value, texts));
+            added.push_back({prefix + kept.name, kept.type, ToStored(value, texts)});
         }
     }
 }
 
-void Write(const RegistryAPI& store, const std::string& key, const Worksheet& worksheet) {
-    const StoredTexts texts(worksheet.Texts().Formats());
-    WriteValues(store, key, "", texts, KeptWorksheetValues(),
-                [&](FieldId field) { return worksheet.Value({field}); });
-    std::int32_t count = 0;
-    for (OfferIndex offer{0}; offer.value < worksheet.OfferCount(); ++offer.value) {
-        if (WorksheetStore::IsWorthKeeping(worksheet.Offer(offer))) {
-            WriteValues(store, key, OfferPrefix(++count), texts, KeptOfferValues(),
-                        [&](FieldId field) { return worksheet.Value(field, offer); });
+/// Deletes the whole key first, so that no offer of an earlier, longer save remains.
+void Replace(const RegistryAPI& store, const std::string& key, const AllValues& values) {
+    store.DeleteKey(StoreRoot, key);
+    store.CreateKey(StoreRoot, key);
+    for (const NamedValue& value : values) {
+        store.SetValue(StoreRoot, key, value.name, value.type, value.value);
+    }
+}
+
+/// A store that cannot be read looks empty, so only a committed transaction proves the deletion.
+void Remove(const RegistryAPI& store, const std::string& key) {
+    store.DeleteKey(StoreRoot, key);
+    if (store.KeyExists(StoreRoot, key)) {
+        throw StoreFailure(StoreTrouble::Unknown);
+    }
+}
+
+/// Throws for an invalid name.
+std::string NeededKeyOf(const QString& name) {
+    const auto key = KeyOf(name);
+    return key ? *key : throw StoreFailure(StoreTrouble::Unknown);
+}
+
+/// The worksheet repeats its name in a value.
+AllValues WithName(AllValues values, const QString& name) {
+    for (NamedValue& value : values) {
+        if (value.name == LoanNameName) {
+            value = {LoanNameName, RegistryType::Text, name.toStdString()};
         }
     }
-    store.SetValue(StoreRoot, key, LoanCountName, RegistryType::Number, count);
-    store.SetValue(StoreRoot, key, DateFormatName, RegistryType::Text, texts.DateFormat());
+    return values;
 }
 
 } // namespace
@@ -89,18 +107,39 @@ QStringList WorksheetStore::Names() const {
     return names;
 }
 
-void WorksheetStore::Save(Worksheet& worksheet) const {
-    const auto key = KeyOf(worksheet.LoanName());
-    if (!key) {
-        throw StoreFailure(StoreTrouble::Unknown);
+bool WorksheetStore::Holds(const QString& name) const {
+    const auto key = KeyOf(name);
+    return key && m_store.KeyExists(StoreRoot, *key);
+}
+
+AllValues WorksheetStore::ValuesOf(const Worksheet& worksheet) {
+    const StoredTexts texts(worksheet.Texts().Formats());
+    AllValues values;
+    AddValues(values, "", texts, KeptWorksheetValues(),
+              [&](FieldId field) { return worksheet.Value({field}); });
+    std::int32_t count = 0;
+    for (OfferIndex offer{0}; offer.value < worksheet.OfferCount(); ++offer.value) {
+        if (IsWorthKeeping(worksheet.Offer(offer))) {
+            AddValues(values, OfferPrefix(++count), texts, KeptOfferValues(),
+                      [&](FieldId field) { return worksheet.Value(field, offer); });
+        }
     }
+    values.push_back({LoanCountName, RegistryType::Number, count});
+    values.push_back({DateFormatName, RegistryType::Text, texts.DateFormat()});
+    std::ranges::sort(values, {}, &NamedValue::name);
+    return values;
+}
+
+SaveResult WorksheetStore::Save(Worksheet& worksheet, const AllValues& known) const {
+    const std::string key = NeededKeyOf(worksheet.LoanName());
+    SaveResult outcome{ValuesOf(worksheet), {}};
     m_store.InTransaction([&](const RegistryAPI& store) {
-        // Delete the whole key first, so that no offer of an earlier, longer save remains.
-        store.DeleteKey(StoreRoot, *key);
-        store.CreateKey(StoreRoot, *key);
-        Write(store, *key, worksheet);
+        const AllValues before = store.GetValues(StoreRoot, key);
+        outcome.lost = before == known || before == outcome.written ? AllValues() : before;
+        Replace(store, key, outcome.written);
     });
     worksheet.ClearDirty();
+    return outcome;
 }
 
 LoadOutcome WorksheetStore::Load(Worksheet& worksheet, const QString& name,
@@ -113,6 +152,7 @@ LoadOutcome WorksheetStore::Load(Worksheet& worksheet, const QString& name,
         if (outcome.exists) {
             loaded.Read(store, *key);
             outcome.incomplete = store.GetValueType(StoreRoot, *key, IncompleteName) != 0;
+            outcome.stored = store.GetValues(StoreRoot, *key);
         }
     });
     outcome.exists = outcome.exists && outcome.trouble == StoreTrouble::None;
@@ -122,18 +162,65 @@ LoadOutcome WorksheetStore::Load(Worksheet& worksheet, const QString& name,
     return outcome;
 }
 
-/// A store that cannot be read looks empty, so only a committed transaction proves the deletion.
-void WorksheetStore::Delete(const QString& name) const {
+LoadOutcome WorksheetStore::Load(Worksheet& worksheet, const QString& name, const AllValues& values,
+                                 const std::function<void(Row)>& growTo) {
+    StoredWorksheet loaded(worksheet.Texts().Formats());
+    loaded.Read(values);
+    LoadOutcome outcome;
+    outcome.exists = true;
+    outcome.failures = loaded.Put(worksheet, name, growTo);
+    outcome.stored = values;
+    return outcome;
+}
+
+AllValues WorksheetStore::Delete(const QString& name) const {
     const auto key = KeyOf(name);
-    if (!key) {
-        return;
+    AllValues deleted;
+    if (key) {
+        m_store.InTransaction([&](const RegistryAPI& store) {
+            deleted = store.GetValues(StoreRoot, *key);
+            Remove(store, *key);
+        });
     }
+    return deleted;
+}
+
+AllValues WorksheetStore::Restore(const QString& name, const AllValues& values) const {
+    const std::string key = NeededKeyOf(name);
+    AllValues replaced;
     m_store.InTransaction([&](const RegistryAPI& store) {
-        store.DeleteKey(StoreRoot, *key);
-        if (store.KeyExists(StoreRoot, *key)) {
-            throw StoreFailure(StoreTrouble::Unknown);
-        }
+        replaced = store.GetValues(StoreRoot, key);
+        Replace(store, key, values);
     });
+    return replaced == values ? AllValues() : replaced;
+}
+
+RenameOutcome WorksheetStore::Rename(const QString& from, const QString& to) const {
+    const auto old = KeyOf(from);
+    const std::string key = NeededKeyOf(to);
+    const bool sameKey = from.compare(to, Qt::CaseInsensitive) == 0;
+    RenameOutcome outcome;
+    m_store.InTransaction([&](const RegistryAPI& store) {
+        outcome = {RenameOutcome::Kind::Missing, {}, {}};
+        if (!old || !store.KeyExists(StoreRoot, *old)) {
+            return;
+        }
+        if (!sameKey && store.KeyExists(StoreRoot, key)) {
+            outcome.kind = RenameOutcome::Kind::Taken;
+            return;
+        }
+        outcome.kind = RenameOutcome::Kind::Renamed;
+        outcome.before = store.GetValues(StoreRoot, *old);
+        outcome.after = WithName(outcome.before, to);
+        Remove(store, *old);
+        if (store.KeyExists(StoreRoot, key)) { // equal for Qt, but not for the store
+            Replace(store, *old, outcome.before);
+            outcome.kind = RenameOutcome::Kind::Taken;
+            return;
+        }
+        Replace(store, key, outcome.after);
+    });
+    return outcome;
 }
 
 } // namespace quend::storage

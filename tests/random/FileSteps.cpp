@@ -1,5 +1,6 @@
 // Worksheets are named, saved, picked, deleted and created; the program is closed and restarted.
 
+#include "EditTextNumbers.h"
 #include "Language.h"
 #include "QuendNames.h"
 #include "RandomUser.h"
@@ -217,6 +218,57 @@ void RandomUser::Delete(unsigned a, unsigned /*b*/) {
     m_model.Clear();
     Reenter();
     Refocus({FieldId::LoanName});
+}
+
+/// Deletes the current worksheet and brings it back at once.
+void RandomUser::BringBack(unsigned /*a*/, unsigned /*b*/) {
+    std::map<QString, SavedWorksheet> deleted = m_model.saved;
+    Delete(0, 0);
+    for (const auto& [folded, page] : m_model.saved) {
+        deleted.erase(folded);
+    }
+    if (deleted.empty()) {
+        return;
+    }
+    Settle();
+    const View before = Look();
+    Trigger("mnuFileBringBack");
+    Commit(before);
+    const QString name = deleted.begin()->second.name;
+    m_model.saved.merge(deleted);
+    m_model.Load(name);
+    Reenter();
+}
+
+void RandomUser::Rename(unsigned /*a*/, unsigned b) {
+    const View before = Look();
+    m_program.newName = NameText(b);
+    Trigger("mnuFileRename");
+    if (Commit(before) && RenameInModel(m_program.newName)) {
+        keptChanged = true;
+        Reenter();
+    }
+}
+
+/// False when the worksheet keeps its name.
+bool RandomUser::RenameInModel(const QString& to) {
+    const QString from = m_model.loan.name;
+    if (!CanBeKey(from) || !m_model.Holds(from)) {
+        m_model.Expect(TextNumber::NothingToRename);
+    } else if (to.isEmpty() || to == u" ") {
+        m_model.Expect(TextNumber::NoNameToSave);
+    } else if (to != from && (!CanBeKey(to) || IsNewLoan(to))) {
+        m_model.Expect(IsNewLoan(to) ? TextNumber::NameOfNewLoan : TextNumber::NameNotPossible);
+    } else if (FoldedName(to) != FoldedName(from) && m_model.Holds(to)) {
+        m_model.expected.append(GetResourceText(TextNumber::NameTaken).arg(to));
+    } else if (to != from) {
+        SavedWorksheet page = m_model.saved.extract(FoldedName(from)).mapped();
+        page.name = page.loan.name = to;
+        m_model.saved.insert_or_assign(FoldedName(to), page);
+        m_model.loan.name = to;
+        return true;
+    }
+    return false;
 }
 
 /// Closes the window and restarts the program on the same store, perhaps in another country.

@@ -48,7 +48,9 @@ struct Program::Parts {
     Parts(Program& program, const RegistryAPI& store, const QLocale& locale)
         : window({.messages = &program.messages, .locale = locale, .today = FixedDay},
                  LoadSettings(store).settings),
-          files(window, WorksheetStore(store)), options(window, store, program.pictures),
+          files(window, WorksheetStore(store),
+                [&program](QWidget&, const QString&) { return std::optional(program.newName); }),
+          options(window, store, program.pictures),
           printing(window, program.printer,
                    frmPrint::Pace{.shownAtLeast = 0ms,
                                   .yield = [&program] { program.whilePrinting(); }}),

@@ -60,6 +60,7 @@ public:
     FakePrinter printer;
     CountingMail mail;
     FoundPicture pictures;
+    QString newName; ///< what the user answers to File, Rename
     std::function<void()> whilePrinting;
 
 private:

@@ -75,6 +75,8 @@ public:
     void Reload(unsigned a, unsigned b);
     void New(unsigned a, unsigned b);
     void Delete(unsigned a, unsigned b);
+    void BringBack(unsigned a, unsigned b);
+    void Rename(unsigned a, unsigned b);
     void CloseAndStart(unsigned a, unsigned b);
     void CloseUnnamed(unsigned a, unsigned b);
     void SwitchLanguage(unsigned a, unsigned b);
@@ -153,6 +155,7 @@ private:
     Answer PrepareAnswer(unsigned number, bool mayCancel);
     bool MayDrop(Answer answer);
     bool SaveInModel();
+    bool RenameInModel(const QString& to);
     void PickInModel(const QString& name, Answer answer);
     void Complain(const QString& complaint) { complaints.append(complaint); }
 

@@ -110,6 +110,9 @@ void RandomUser::ClickBar(unsigned a, unsigned b) {
     }
     const int at = static_cast<int>(b % static_cast<unsigned>(bar.height()));
     const QPoint place = bar.mapTo(&Window(), QPoint(bar.width() / 2, at));
+    if (!Window().rect().contains(place)) { // a small window scrolls as a whole
+        return;
+    }
     if (a % 3 != 0) {
         ClickAt(place);
         return;

@@ -49,6 +49,8 @@ constexpr std::array KindTable{
     StepKind{"Unnamed", 4, &User::CloseUnnamed},
     StepKind{"New", 4, &User::New},
     StepKind{"Delete", 4, &User::Delete},
+    StepKind{"BringBack", 2, &User::BringBack},
+    StepKind{"Rename", 4, &User::Rename},
     StepKind{"Close", 2, &User::CloseAndStart},
     // The comparison
     StepKind{"Compare", 4, &User::OpenComparison}, // followed by steps in it and beside it

@@ -51,7 +51,7 @@ template <class Kind>
 QString TextOf(const QObject& object) {
     return static_cast<const Kind&>(object).text();
 }
-QString TitleOf(const QObject& object) { return static_cast<const QMenu&>(object).title(); }
+QString MenuTitle(const QObject& object) { return static_cast<const QMenu&>(object).title(); }
 QString None(const QObject& /*object*/) { return {}; }
 
 /// Returns the function that reads a control's caption.
@@ -63,14 +63,13 @@ auto CaptionReader(const QObject& object) {
         return &TextOf<QAbstractButton>;
     }
     if (qobject_cast<const QMenu*>(&object) != nullptr) {
-        return &TitleOf;
+        return &MenuTitle;
     }
     const auto* action = qobject_cast<const QAction*>(&object);
     return action != nullptr && action->menu() == nullptr ? &TextOf<QAction> : &None;
 }
 
 const QWidget& AsWidget(const QObject& object) { return static_cast<const QWidget&>(object); }
-QString Title(const QObject& object) { return AsWidget(object).windowTitle(); }
 QString Tip(const QObject& object) { return AsWidget(object).toolTip(); }
 QString Name(const QObject& object) { return AsWidget(object).accessibleName(); }
 QString Description(const QObject& object) { return AsWidget(object).accessibleDescription(); }
@@ -92,6 +91,10 @@ QStringList WindowTexts::Complaints(const QWidget& window, const ReferenceModel&
         ListAll(window, model);
     }
     QStringList complaints = m_unaccounted + ComplaintsOfSorting(model.sorted);
+    const QString title = TitleOf(model);
+    if (window.windowTitle() != title || window.isWindowModified() != model.dirty) {
+        complaints.append(u"the title is “%1” instead of “%2”"_s.arg(window.windowTitle(), title));
+    }
     const auto compare = [&](const Seen& seen) {
         const QString shown = seen.read(*seen.object);
         if (shown != seen.text && !(shown.isEmpty() && seen.mayBeAway)) {
@@ -105,6 +108,16 @@ QStringList WindowTexts::Complaints(const QWidget& window, const ReferenceModel&
         complaints += ComplaintsOfLists(window);
     }
     return complaints;
+}
+
+/// With the place of the mark of unsaved changes.
+QString WindowTexts::TitleOf(const ReferenceModel& model) const {
+    const QString program = Text(TextNumber::WindowTitle);
+    QString name = model.loan.name;
+    if (model.IsUnnamed()) {
+        return model.dirty ? program + u"[*]"_s : program;
+    }
+    return name.replace(u"[*]"_s, u"[*][*]"_s) + u"[*] — "_s + program;
 }
 
 const QObject& WindowTexts::Named(const QString& name) const {
@@ -127,15 +140,14 @@ void WindowTexts::ListAll(const QWidget& window, const ReferenceModel& model) {
     for (const QObject* object : window.findChildren<QObject*>()) {
         m_objects.insert(object->objectName(), object);
     }
-    ListLoan(window);
+    ListLoan();
     ListUnaccounted(window);
     for (std::size_t row = 0; row < m_rows; ++row) {
         ListRow(static_cast<int>(row));
     }
 }
 
-void WindowTexts::ListLoan(const QWidget& window) {
-    m_written.push_back({&window, "title", Title, Text(TextNumber::WindowTitle)});
+void WindowTexts::ListLoan() {
     for (const TextsOfControl& texts : TextsOfTheLoan) {
         const QObject& object = Named(QString::fromLatin1(texts.control));
         const bool inYears = texts.writtenInYears != 0 && !m_inMonths;
@@ -175,6 +187,11 @@ void WindowTexts::ListUnaccounted(const QWidget& window) {
     QSet<const QObject*> known;
     for (const Seen& seen : m_written) {
         known.insert(seen.object);
+    }
+    // These change with what was done.
+    for (const char* const name :
+         {"lblAnnounced", "mnuFileBringBack", "mnuEditUndo", "mnuEditRedo"}) {
+        known.insert(&Named(QString::fromLatin1(name)));
     }
     for (const QObject* object : window.findChildren<QObject*>()) {
         const QString text = CaptionReader(*object)(*object);

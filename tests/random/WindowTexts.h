@@ -34,9 +34,10 @@ private:
     };
 
     QString Text(int number) const { return m_tables.at(m_spanish ? 1 : 0).value(number); }
+    QString TitleOf(const ReferenceModel& model) const;
     const QObject& Named(const QString& name) const;
     void ListAll(const QWidget& window, const ReferenceModel& model);
-    void ListLoan(const QWidget& window);
+    void ListLoan();
     void ListRow(int row);
     void ListUnaccounted(const QWidget& window);
     void ListTold(const QObject& object, int tip, int name, int ordinal);

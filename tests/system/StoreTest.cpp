@@ -107,6 +107,20 @@ INSTANTIATE_TEST_SUITE_P(
                   "choose cboLoanName Our home\n" +
                   Figures,
               Raised + Shown},
+        Story{"KeptForTheNextStartWhenTerminated", "en_US.UTF-8",
+              Enter + "title\nterminate\nstart en_US.UTF-8\nanswer @125\n" + Figures +
+                  "title\nmenu mnuFile mnuFileSave\ntitle\nquit\nstart en_US.UTF-8\ntitle\nquit",
+              Raised + "title\tOur home* — Quend Loan\n" +
+                  "answer\tQuend Loan was closed while “Our home” was not saved. Open it again?\n" +
+                  Shown +
+                  "title\tOur home* — Quend Loan\ntitle\tOur home — Quend Loan\n"
+                  "title\tQuend Loan\n"},
+        Story{"TerminatedWhileAQuestionIsOpen", "en_US.UTF-8",
+              Enter + "close\nlook\nterminate\nstart en_US.UTF-8\nanswer @126\n"
+                      "read cboLoanName\nquit",
+              Raised + "look\tDo you want to save the changes to “Our home”?\n"
+                       "answer\tQuend Loan was closed while “Our home” was not saved. "
+                       "Open it again?\ncboLoanName\t\n"},
         Story{"DeletedForGood", "en_US.UTF-8",
               Enter + "menu mnuFile mnuFileSave\nmenu mnuFile mnuFileDelete\nanswer @125\n"
                       "quit\nstart en_US.UTF-8\nread cboLoanName txtLoanAmount",

@@ -55,7 +55,7 @@ TermUnit UnitOf(const Settings& settings) {
 }
 
 /// The hint below the rows disappears once every started offer is complete.
-void ShowHint(const Ui::Loan& form, const ControlMap& controls, const OfferRows& rows) {
+void ShowHint(HintLine& hint, const ControlMap& controls, const OfferRows& rows) {
     bool anyComplete = false;
     bool anyLacking = false;
     for (Row row{0}; row <= rows.HighestOfferRow(); ++row.value) {
@@ -67,19 +67,23 @@ void ShowHint(const Ui::Loan& form, const ControlMap& controls, const OfferRows&
         anyComplete = anyComplete || isComplete;
         anyLacking = anyLacking || (isBegun && !isComplete);
     }
-    form.lblHint->setVisible(anyLacking || !anyComplete);
+    hint.ShowHint(anyLacking || !anyComplete);
 }
 
 } // namespace
 
 Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
     : settings(std::move(initial)), messages(*world.messages), report(messages),
-      controls(ControlsOf(window)),
+      controls(ControlsOf(window)), hint(*window.m_ui->lblHint), title(window, worksheet),
       display(controls, {.raised = [this] { notice.Start(); },
                          .refused = [this] { notice.TellRefused(); },
                          .sorted = [this](SortOrder order) { offers.ShowSortOrder(order); },
-                         .offerShown = [this, &window] { ShowHint(window.Form(), controls, rows); },
-                         .changed = [&window] { Q_EMIT window.WorksheetChanged(); }}),
+                         .offerShown = [this] { ShowHint(hint, controls, rows); },
+                         .changed =
+                             [this, &window] {
+                                 title.ShowLater();
+                                 Q_EMIT window.WorksheetChanged();
+                             }}),
       worksheet(display, {DisplayFormats(world.locale), settings.termInMonths}, world.today),
       columns(*window.m_ui->picHeadings, controls),
       rows({window.m_ui->picScroll, window.m_ui->picCanvas, window.m_ui->vsbLoans}, worksheet,
@@ -193,7 +197,10 @@ void Loan::WireChoice(Field field) {
     }
 }
 
-void Loan::ApplyCaptions() { ApplyTexts(*this, UnitOf(m_parts->settings)); }
+void Loan::ApplyCaptions() {
+    ApplyTexts(*this, UnitOf(m_parts->settings));
+    ShowTitle();
+}
 
 void Loan::ApplyRowCaptions(Row row) {
     QWidget* controls = m_parts->controls.ControlOf({FieldId::Who, row})->parentWidget();
@@ -260,6 +267,10 @@ void Loan::ShowEdited() const {
 void Loan::MarkNameMissing() { m_parts->display.ShowMark({FieldId::LoanName}, Mark::Missing); }
 
 void Loan::ClearNameMark() { m_parts->display.ShowMark({FieldId::LoanName}, Mark::None); }
+
+void Loan::ShowTitle() { m_parts->title.Show(); }
+
+void Loan::Announce(const QString& text) { m_parts->hint.Announce(text); }
 
 void Loan::ApplySettings(const Settings& settings) {
     const Settings before = std::exchange(m_parts->settings, settings);

@@ -60,6 +60,11 @@ public:
     /// A worksheet without a name cannot be saved: marks the name box.
     void MarkNameMissing();
     void ClearNameMark();
+    /// After a change of Dirty alone, such as a save; other changes show in the title by
+    /// themselves.
+    void ShowTitle();
+    /// Says for a few seconds, in the line below the rows, what a command has done.
+    void Announce(const QString& text);
 
     const Settings& GetSettings() const;
     /// Applies other settings and shows their effects. If the picture cannot be loaded, the user is

@@ -9,6 +9,7 @@
 #include "FieldHandlers.h"
 #include "FileDrop.h"
 #include "FocusTranslator.h"
+#include "HintLine.h"
 #include "LanguageMenu.h"
 #include "Loan.h"
 #include "MessageQueue.h"
@@ -29,6 +30,7 @@
 #include "WindowDisplay.h"
 #include "WindowSize.h"
 #include "Worksheet.h"
+#include "WorksheetTitle.h"
 
 namespace quend::window {
 
@@ -42,6 +44,8 @@ struct Loan::Parts {
     MessageQueue messages;
     FailureReport report;
     ControlMap controls;
+    HintLine hint;
+    WorksheetTitle title;
     WindowDisplay display;
     Worksheet worksheet;
     OfferColumns columns;

@@ -15,6 +15,7 @@ constexpr const char* AnyChild = "SELECT 1 FROM Keys WHERE parent=? LIMIT 1";
 constexpr const char* DropValues = "DELETE FROM KeyValues WHERE key=?";
 constexpr const char* DropKey = "DELETE FROM Keys WHERE id=?";
 constexpr const char* ListChildren = "SELECT name FROM Keys WHERE parent=? ORDER BY folded";
+constexpr const char* ListValues = "SELECT name, type, data FROM KeyValues WHERE key=?";
 constexpr const char* GetValue = "SELECT type, data FROM KeyValues WHERE key=? AND folded=?";
 // A value keeps the name that it was first written with.
 constexpr const char* SetValue =
@@ -90,6 +91,14 @@ std::vector<std::string> KeyTree::Subkeys(std::int64_t key) {
         names.push_back(list.Bytes(0));
     }
     return names;
+}
+
+std::map<std::string, KeyTree::Value> KeyTree::Values(std::int64_t key) {
+    std::map<std::string, Value> values;
+    for (Statement& list = Prepared(ListValues).With(key); list.Next();) {
+        values.insert_or_assign(list.Bytes(0), Value{list.Number(1), list.Bytes(2)});
+    }
+    return values;
 }
 
 std::optional<KeyTree::Value> KeyTree::Get(std::int64_t key, const std::string& name) {

@@ -33,6 +33,8 @@ public:
     void Delete(std::int64_t key);
     std::vector<std::string> Subkeys(std::int64_t key);
 
+    /// The values of the key, by name.
+    std::map<std::string, Value> Values(std::int64_t key);
     std::optional<Value> Get(std::int64_t key, const std::string& name);
     void Set(std::int64_t key, const std::string& name, const Value& value);
     void Remove(std::int64_t key, const std::string& name);

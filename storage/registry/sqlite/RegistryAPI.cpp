@@ -7,6 +7,8 @@
 #include "StoreTrouble.h"
 #include "ValueBytes.h"
 
+#include <map>
+
 namespace quend::registry {
 
 namespace {
@@ -188,6 +190,25 @@ void RegistryAPI::DeleteValue(RegistryRoot keyRoot, const std::string& keyName,
         Write(OnKey(keyRoot, *path,
                     [&](KeyTree& keys, std::int64_t key) { keys.Remove(key, *name); }));
     }
+}
+
+std::vector<NamedValue> RegistryAPI::GetValues(RegistryRoot keyRoot,
+                                               const std::string& keyName) const {
+    const auto path = PathElements(keyName);
+    std::map<std::string, KeyTree::Value> stored;
+    if (path) {
+        Read(OnKey(keyRoot, *path,
+                   [&](KeyTree& keys, std::int64_t key) { stored = keys.Values(key); }));
+    }
+    std::vector<NamedValue> values;
+    for (const auto& [name, value] : stored) {
+        const auto type = static_cast<std::int16_t>(value.type);
+        if (const auto read =
+                IsKnownType(type) ? ValueOfBytes(type, ReadBytes(value)) : std::nullopt) {
+            values.push_back({name, type, *read});
+        }
+    }
+    return values;
 }
 
 std::vector<std::string> RegistryAPI::GetSubKeys(RegistryRoot keyRoot,

@@ -1,4 +1,4 @@
-// The seven functions on the platform's own registry. Its calls take texts in the program's code
+// The functions on the platform's own registry. Its calls take texts in the program's code
 // page, which the program's manifest sets to UTF-8.
 #include "RegistryAPI.h"
 
@@ -115,6 +115,22 @@ std::vector<std::string> NamesBelow(HKEY key) {
     return names;
 }
 
+/// The names of the values of an open key, sorted.
+std::vector<std::string> ValueNamesOf(HKEY key) {
+    std::vector<std::string> names;
+    std::vector<char> buffer(LongestValueName * MostBytesOfCharacter + 1);
+    for (DWORD index = 0; index < MostSubkeys; ++index) {
+        auto size = static_cast<DWORD>(buffer.size());
+        if (RegEnumValueA(key, index, buffer.data(), &size, nullptr, nullptr, nullptr, nullptr) !=
+            ERROR_SUCCESS) {
+            break;
+        }
+        names.emplace_back(buffer.data(), size);
+    }
+    std::ranges::sort(names);
+    return names;
+}
+
 } // namespace
 
 RegistryAPI::RegistryAPI(std::filesystem::path store, std::chrono::milliseconds wait,
@@ -212,6 +228,20 @@ void RegistryAPI::DeleteValue(RegistryRoot keyRoot, const std::string& keyName,
     if (key && name) {
         RegDeleteValueA(key.get(), name->c_str());
     }
+}
+
+std::vector<NamedValue> RegistryAPI::GetValues(RegistryRoot keyRoot,
+                                               const std::string& keyName) const {
+    const OpenKey key = Open(keyRoot, keyName, KEY_READ);
+    std::vector<NamedValue> values;
+    for (const std::string& name : key ? ValueNamesOf(key.get()) : std::vector<std::string>()) {
+        const auto type = static_cast<std::int16_t>(GetValueType(keyRoot, keyName, name));
+        const auto bytes = IsKnownType(type) ? Query(key.get(), name) : std::nullopt;
+        if (const auto read = bytes ? ValueOfBytes(type, *bytes) : std::nullopt) {
+            values.push_back({name, type, *read});
+        }
+    }
+    return values;
 }
 
 std::vector<std::string> RegistryAPI::GetSubKeys(RegistryRoot keyRoot,

@@ -1,4 +1,4 @@
-// The seven functions, the same on every platform: tested on the store file and, cross-compiled for
+// The functions, the same on every platform: tested on the store file and, cross-compiled for
 // the platform that has a registry, on that registry.
 #include "RegistryAPI.h"
 #include "QuendNames.h"
@@ -247,6 +247,27 @@ TEST_F(RegistryAPITest, SubkeysComeAlphabeticallyWithoutRegardToCase) {
     std::vector<std::string> expected = sorted;
     std::swap(expected[3], expected[4]); // "a horse" comes before "A house"
     EXPECT_EQ(registry.GetSubKeys(User, BaseKey), expected);
+}
+
+TEST_F(RegistryAPITest, AllReadableValuesOfAKeyAreListedByName) {
+    using Values = std::vector<NamedValue>;
+    EXPECT_EQ(registry.GetValues(User, BaseKey), Values());
+    EXPECT_EQ(registry.GetValues(User, Absent), Values());
+    EXPECT_EQ(registry.GetValues(User, BaseKey + '\\'), Values());
+    const Values expected{{"Bytes", RegistryType::Binary, Bytes(3)},
+                          {"Empty", RegistryType::Text, std::string()},
+                          {"Number", RegistryType::Number, std::int32_t{-1}},
+                          {"Text É", RegistryType::Text, std::string("é\0b", 4)}};
+    for (const NamedValue& value : expected) {
+        registry.SetValue(User, BaseKey, value.name, value.type, value.value);
+    }
+    registry.SetValue(User, BaseKey, "Long", RegistryType::Text, Repeated(1'024, "x"));
+    registry.CreateKey(User, KeyOf("Sub"));
+    EXPECT_EQ(registry.GetValues(User, BaseKey), expected);
+    registry.InTransaction([&](const RegistryAPI& step) {
+        step.DeleteValue(User, BaseKey, "Bytes");
+        EXPECT_EQ(step.GetValues(User, BaseKey), Values(expected.begin() + 1, expected.end()));
+    });
 }
 
 TEST_F(RegistryAPITest, ManySubkeysAreAllListed) {

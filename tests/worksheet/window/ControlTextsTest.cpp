@@ -56,7 +56,8 @@ enum Need : unsigned {
 
 unsigned NeedsOf(const QObject& object) {
     if (const auto* label = qobject_cast<const QLabel*>(&object)) {
-        return Caption | HelpTopic | (label->buddy() ? ToolTip : None);
+        const bool announces = label->objectName() == u"lblAnnounced"; // what a command has done
+        return HelpTopic | (announces ? None : Caption) | (label->buddy() ? ToolTip : None);
     }
     if (qobject_cast<const QPushButton*>(&object)) {
         return CaptionOrName | ToolTip | HelpTopic;

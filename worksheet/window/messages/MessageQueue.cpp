@@ -47,6 +47,17 @@ void MessageQueue::ShowRest() {
     }
 }
 
+QStringList MessageQueue::TakeRest() {
+    QStringList texts;
+    for (const Message& message : m_waiting) {
+        texts.append(message.text);
+    }
+    // The one being shown is removed when its box closes.
+    m_waiting.resize(m_showing ? 1 : 0);
+    m_later.stop();
+    return texts;
+}
+
 void MessageQueue::ShowNext() {
     if (QGuiApplication::mouseButtons() != Qt::NoButton) {
         m_later.start(MouseReleaseCheck);

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QTimer>
 
 #include <deque>
@@ -44,6 +45,8 @@ public:
     void Post(const QString& text, const std::function<void()>& afterwards = {});
     /// Shows all waiting messages at once, before the window closes.
     void ShowRest();
+    /// The texts of all messages that the user has not closed, which are no longer shown.
+    QStringList TakeRest();
 
     /// Asks at once, because the next step depends on the answer.
     Answer Ask(const Question& question) { return m_boxes->Ask(question); }

@@ -24,7 +24,7 @@ enum class Accrual {
 /// A schedule and when its interest accrues. The frequency is known, the rate zero or more.
 struct DatedLoan {
     ScheduleTerms terms; ///< its start is the date of the first payment
-    Accrual accrual = Accrual::AfterPayment;
+    Accrual accrual;
 };
 
 /// The days from `start` to `end`.

@@ -15,7 +15,7 @@ namespace {
 
 bool IsRepaidBy(const DatedLoan& loan, Date day) {
     AccrualPeriods periods(loan);
-    bool repaid = false;
+    bool repaid = true; // where nothing is owed, no period says so
     try {
         RunToPayoff(loan.terms, [&](const SchedulePeriod& period) {
             const bool inTime = periods.Next(period.date).end <= day;
@@ -59,7 +59,7 @@ std::optional<Money> EstimatePaymentUntil(const DatedLoan& loan, Date day) {
     // A period of an offer ends one date step after its payment, at the calendar's end without one.
     const std::int64_t ended =
         loan.accrual == Accrual::BeforePayment ? steps + 1 : std::max<std::int64_t>(steps, 1);
-    const std::array<CashFlows, 1> unit{{{.amount = 1.0, .count = ended, .periods = 1}}};
+    const std::array unit{CashFlows{.amount = 1.0, .count = ended, .periods = 1}};
     const double repaying =
         loan.terms.balance.ToDouble() / PresentValue(unit, RateOfPeriod(loan.terms));
     try {
@@ -80,15 +80,12 @@ std::optional<Money> LeastPaymentUntil(const DatedLoan& loan, Date day, Money at
     if (least > Cents::MostCents || AccrualPeriods(loan).Next(loan.terms.start).end > day) {
         return std::nullopt;
     }
-    if (suffices(least)) {
-        return Cents::ToMoney(least);
-    }
     const std::optional<Money> estimate = EstimatePaymentUntil(loan, day);
     if (!estimate) {
         return std::nullopt;
     }
-    const std::int64_t guess = std::clamp(Cents::NotBelow(*estimate), least + 1, Cents::MostCents);
-    const auto found = LeastNumber(least, Cents::MostCents, guess, suffices);
+    const std::int64_t guess = std::clamp(Cents::NotBelow(*estimate), least, Cents::MostCents);
+    const auto found = LeastNumber(least - 1, Cents::MostCents, guess, suffices);
     return found ? std::optional(Cents::ToMoney(*found)) : std::nullopt;
 }
 

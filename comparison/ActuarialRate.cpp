@@ -18,9 +18,6 @@ double Annuity(double rate, double count) {
 }
 
 double PresentValue(const CashFlows& flows, double rate) {
-    if (flows.count <= 0) {
-        return 0.0;
-    }
     const double first = (1.0 + flows.fraction * rate) *
                          std::exp(static_cast<double>(flows.periods) * std::log1p(rate));
     return flows.amount * Annuity(rate, static_cast<double>(flows.count)) / first;
@@ -38,25 +35,22 @@ double PresentValue(std::span<const CashFlows> flows, double rate) {
 
 std::optional<double> ActuarialRate(std::span<const CashFlows> advances,
                                     std::span<const CashFlows> payments, double highest) {
+    constexpr double Usual = 0.015625; // few loans have a higher rate; an exact double
     const auto excess = [&](double rate) {
         return PresentValue(payments, rate) - PresentValue(advances, rate);
     };
     const double sum = excess(0.0);
-    if (sum == 0.0) {
-        return 0.0;
-    }
     if (!(sum > 0.0)) {
-        return std::nullopt;
+        return sum == 0.0 ? std::optional(0.0) : std::nullopt;
     }
-    double low = 0.0;
-    double high = std::min(1.0 / 64.0, highest);
+    double high = std::min(Usual, highest);
     while (excess(high) > 0.0) {
         if (high >= highest) {
             return std::nullopt;
         }
-        low = high;
         high = std::min(high * 2.0, highest);
     }
+    double low = 0.0;
     // Halving always ends and needs no slope; each step costs a few logarithms only.
     for (double middle = std::midpoint(low, high);
          high - low > 1e-16 && middle > low && middle < high; middle = std::midpoint(low, high)) {

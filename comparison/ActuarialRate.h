@@ -8,8 +8,8 @@ namespace quend::comparison {
 
 /// Equal cash flows, one at the end of each unit period.
 struct CashFlows {
-    double amount = 0.0;      ///< of each, in any unit that all flows of a loan share
-    std::int64_t count = 1;   ///< zero or less: none
+    double amount;            ///< of each, in any unit that all flows of a loan share
+    std::int64_t count = 1;   ///< zero or more
     std::int64_t periods = 0; ///< whole unit periods before the first
     double fraction = 0.0;    ///< of a further period before the first, from 0 to below 1
 };

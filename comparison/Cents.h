@@ -12,6 +12,7 @@ namespace quend::comparison {
 class Cents {
 public:
     static constexpr std::int64_t SizeOfCent = 100; ///< in ten-thousandths
+    static constexpr Money One = Money::FromTenThousandths(SizeOfCent);
     /// In the largest amount of whole cents.
     static constexpr std::int64_t MostCents = std::numeric_limits<std::int64_t>::max() / SizeOfCent;
 

@@ -1,6 +1,7 @@
 #include "ComparedCurrent.h"
 
 #include "AccruedInterest.h"
+#include "Cents.h"
 #include "Failure.h"
 #include "Frequency.h"
 #include "PaymentOfMonthly.h"
@@ -52,7 +53,7 @@ void RunCompared(const ComparisonInput& input, ComparedCurrent& current) {
     current.result->costByHorizon = current.costs->By(horizon);
     current.result->balanceAtHorizon = current.costs->balanceAtHorizon;
     current.result->paymentForHorizon =
-        LeastPaymentUntil(*current.loan, HorizonDay(input.today, input.years), LeastOfCurrent);
+        LeastPaymentUntil(*current.loan, HorizonDay(input.today, input.years), Cents::One);
 }
 
 } // namespace

@@ -16,9 +16,6 @@ struct ComparedCurrent {
     std::optional<CostByMonth> costs; ///< none where it takes no part
 };
 
-/// The least payment that a search for one considers: one cent.
-inline constexpr Money LeastOfCurrent = Money::FromTenThousandths(100);
-
 ComparedCurrent CompareCurrent(const ComparisonInput& input);
 
 } // namespace quend::comparison

@@ -3,6 +3,7 @@
 #include "AccruedInterest.h"
 #include "ActuarialRate.h"
 #include "CLoan.h"
+#include "Cents.h"
 #include "Failure.h"
 #include "Frequency.h"
 #include "Overflow.h"
@@ -17,8 +18,6 @@
 namespace quend::comparison {
 
 namespace {
-
-constexpr Money Cent = Money::FromTenThousandths(100);
 
 /// The worksheet of an offer, which only reads it.
 class InputContext : public LoanContext {
@@ -47,16 +46,15 @@ OfferValues ValuesOf(const ComparisonInput& input, const OfferInput& offer) {
 
 /// As the main window shows the offer; stops at the first amount that is outside its range.
 void FillAmounts(OfferComparison& result, CLoan& loan) {
-    result.actualPayment = loan.ActualPayment();
     try {
         result.principal = loan.StartingPrinciple();
         result.principalAndInterest = loan.PandI();
         result.payment = loan.Payment(*result.principalAndInterest);
         result.raised = loan.Forced();
-        result.actualPayment = loan.ActualPayment();
     } catch (const OverflowFailure&) {
         result.overflow = true;
     }
+    result.actualPayment = loan.ActualPayment();
 }
 
 std::optional<Payoff> RunUnlessEndless(const ScheduleTerms& terms) {
@@ -77,24 +75,22 @@ std::optional<Money> SumOfPayments(std::int64_t full, Money payment, Money last)
     return Money::FromTenThousandths(sum);
 }
 
-/// The rate of one period; none where nothing is received, and above 10,000 % a year.
+/// The rate of one period; none where less is repaid than received, where nothing is received (no
+/// rate is high enough), and above 10,000 % a year.
 std::optional<double> PeriodRate(const Payoff& payoff, Money payment, Money received,
                                  int periodsPerYear) {
     const std::int64_t full = payoff.periods - 1;
     const Money last = payoff.lastPrincipal + payoff.lastInterest;
     const std::optional<Money> sum = SumOfPayments(full, payment, last);
     // In money, because sums in double may differ where these agree.
-    if (received <= Money() || (sum && *sum < received)) {
-        return std::nullopt;
+    if (sum && *sum <= received) {
+        return *sum == received ? std::optional(0.0) : std::nullopt;
     }
-    if (sum && *sum == received) {
-        return 0.0;
-    }
-    const std::array<CashFlows, 1> advances{{{.amount = received.ToDouble()}}};
-    const std::array<CashFlows, 2> payments{{
-        {.amount = payment.ToDouble(), .count = full, .periods = 1},
-        {.amount = last.ToDouble(), .periods = payoff.periods},
-    }};
+    const std::array advances{CashFlows{.amount = received.ToDouble()}};
+    const std::array payments{
+        CashFlows{.amount = payment.ToDouble(), .count = full, .periods = 1},
+        CashFlows{.amount = last.ToDouble(), .periods = payoff.periods},
+    };
     constexpr double Highest = 100.0;
     return ActuarialRate(advances, payments, Highest / periodsPerYear);
 }
@@ -136,19 +132,18 @@ LeftOut ComparedOffer::FindLeftOut() const {
     if (m_term.IsZero()) {
         return LeftOut::NoTerm;
     }
-    return *m_result.principalAndInterest < Cent ? LeftOut::NoPayment : LeftOut::No;
+    return *m_result.principalAndInterest < Cents::One ? LeftOut::NoPayment : LeftOut::No;
 }
 
 void ComparedOffer::RunCompared() {
     try {
         ComputeAmounts();
         m_costs = RunCosts(ComparedLoan(), m_closing, m_input->today, Horizon());
-        m_figures.totalCost = m_closing + m_costs->payoff.interest;
+        m_figures.totalCost = m_costs->last;
         m_figures.costByHorizon = m_costs->By(Horizon());
         m_figures.balanceAtHorizon = m_costs->balanceAtHorizon;
         m_figures.payoff = m_costs->payoff.date;
     } catch (const OverflowFailure&) {
-        m_costs.reset();
         m_result.leftOut = LeftOut::NeverEnds;
     }
 }
@@ -241,8 +236,7 @@ std::optional<DatedLoan> ComparedOffer::Compared() const {
 
 std::optional<Money> ComparedOffer::LeastPaymentBy(Date day) const {
     // Where the compared payment never ends, a greater one may.
-    const bool hasLoan = m_result.leftOut == LeftOut::No || m_result.leftOut == LeftOut::NeverEnds;
-    if (!hasLoan || !m_hasAmounts) {
+    if (!m_hasAmounts) {
         return std::nullopt;
     }
     return LeastPaymentUntil(Loan(m_offer->rate, Money()), day, *m_result.payment);
@@ -274,14 +268,14 @@ std::optional<Rate> ComparedOffer::FindRateToMatch(Money cheapest) const {
         return std::nullopt;
     }
     std::int64_t low = 0;
-    std::int64_t high = std::llrint(std::ceil(own * Steps - 1e-9));
+    auto high = static_cast<std::int64_t>(std::ceil(own * Steps - 1e-9));
     while (high - low > 1) {
         const std::int64_t middle = std::midpoint(low, high);
         const Rate rate = Rate::FromFraction(static_cast<double>(middle) / Steps);
         (CostsNoMoreAt(rate, cheapest) ? low : high) = middle;
     }
     const double found = static_cast<double>(low) / Steps;
-    if (low == 0 || found < own / 2.0) {
+    if (found < own / 2.0) {
         return std::nullopt;
     }
     return Rate::FromFraction(found);
@@ -291,7 +285,7 @@ bool ComparedOffer::CostsNoMoreAt(Rate rate, Money most) const {
     try {
         const Money pAndI =
             PrincipalAndInterest(*m_result.principal, rate, m_term, m_offer->frequency);
-        if (pAndI < Cent) {
+        if (pAndI < Cents::One) {
             return false;
         }
         // An intended payment that its own rate requires is none.

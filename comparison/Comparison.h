@@ -67,15 +67,15 @@ enum class LeftOut { No, NoAmount, NoRate, NoFrequency, NoTerm, NoPayment, Never
 
 /// Months after today in which an offer has cost no more than the loan held today.
 struct CheaperStretch {
-    int fromMonth = 0;
+    int fromMonth;
     std::optional<int> untilMonth; ///< the first month outside; none: it never ends
 
     friend bool operator==(const CheaperStretch&, const CheaperStretch&) = default;
 };
 
 struct CheapestOffer {
-    int fromMonth = 0;
-    int offer = 0; ///< place, from 1
+    int fromMonth;
+    int offer; ///< place, from 1
 
     friend bool operator==(const CheapestOffer&, const CheapestOffer&) = default;
 };
@@ -116,7 +116,7 @@ struct OfferComparison {
     std::optional<Date> payoffDate;
     std::optional<Money> interest;
     bool overflow = false; ///< a value is outside its range, or the schedule never ends
-    LeftOut leftOut = LeftOut::No;
+    LeftOut leftOut{};
     std::optional<OfferFigures> figures; ///< none where it is left out
 
     friend bool operator==(const OfferComparison&, const OfferComparison&) = default;

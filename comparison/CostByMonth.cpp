@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <utility>
 
 namespace quend::comparison {
@@ -51,7 +52,7 @@ private:
 Money ClearMargin(Money amount) {
     constexpr std::int64_t Least = 10'000;
     const std::int64_t thousandth = amount.TenThousandths() / 1'000;
-    return Money::FromTenThousandths(std::max(Least, thousandth < 0 ? -thousandth : thousandth));
+    return Money::FromTenThousandths(std::max(Least, std::abs(thousandth)));
 }
 
 } // namespace

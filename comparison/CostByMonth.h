@@ -37,8 +37,8 @@ std::vector<CheaperStretch> FindCheaper(const CostByMonth& offer, const CostByMo
 
 /// An offer that takes part, and its place from 1.
 struct PlacedCosts {
-    int place = 0;
-    const CostByMonth* costs = nullptr;
+    int place;
+    const CostByMonth* costs;
 };
 
 /// The offers that have cost least, in the order of the months.

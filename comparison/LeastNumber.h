@@ -7,9 +7,9 @@
 
 namespace quend::comparison {
 
-/// The least whole number above `low`, up to `most`, that suffices; none if none does. `low` does
-/// not suffice, and above a number that does, every one does. Searches outwards from the guess,
-/// which is above `low`, in doubling steps: two calls confirm a guess that is right.
+/// The least whole number above `low`, up to `most`, that suffices; none if none does. Above a
+/// number that does, every one does. Searches outwards from the guess, which is above `low`, in
+/// doubling steps: two calls confirm a guess that is right.
 template <typename Suffices>
 std::optional<std::int64_t> LeastNumber(std::int64_t low, std::int64_t most, std::int64_t guess,
                                         Suffices suffices) {
@@ -26,7 +26,7 @@ std::optional<std::int64_t> LeastNumber(std::int64_t low, std::int64_t most, std
                 return std::nullopt;
             }
             low = high;
-            high = most - low > step ? low + step : most;
+            high = low + std::min(step, most - low);
             step *= 2;
         } while (!suffices(high));
     }

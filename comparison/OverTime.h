@@ -8,7 +8,7 @@ namespace quend::comparison {
 
 /// What a loan has cost and what it still owes, by months after today.
 struct LoanOverTime {
-    int place = 0;              ///< CurrentLoanPlace, or that of the offer
+    int place;                  ///< CurrentLoanPlace, or that of the offer
     std::vector<Money> cost;    ///< by month 0, 1, 2, …; by month 0 the costs at closing
     std::vector<Money> balance; ///< as long as the costs; by month 0 the starting balance
 };

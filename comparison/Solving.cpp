@@ -23,22 +23,14 @@ std::int64_t Greatest(std::int64_t most, Holds holds) {
     return LeastNumber(0, most, 1, fails).value_or(most + 1) - 1;
 }
 
-/// Without its intended payment, which would be raised to each payment tried.
-OfferInput WithoutIntendedPayment(OfferInput offer) {
-    offer.actualPayment = Money();
-    return offer;
-}
-
 } // namespace
 
-Date HorizonOf(const ComparisonInput& input) {
-    return MonthAfter(input.today, input.years * MonthsPerYear);
-}
+Date HorizonOf(const ComparisonInput& input) { return HorizonDay(input.today, input.years); }
 
 std::optional<Money> LeastPaymentBy(const ComparisonInput& input, int place, Date day) {
     if (place == CurrentLoanPlace) {
         const ComparedCurrent current = CompareCurrent(input);
-        return current.loan ? LeastPaymentUntil(*current.loan, day, LeastOfCurrent) : std::nullopt;
+        return current.loan ? LeastPaymentUntil(*current.loan, day, Cents::One) : std::nullopt;
     }
     const OfferInput* const offer = OfferAt(input, place);
     return offer != nullptr ? ComparedOffer(input, *offer).LeastPaymentBy(day) : std::nullopt;
@@ -50,10 +42,9 @@ std::optional<Money> LargestAmount(const ComparisonInput& input, int place, Mone
         return std::nullopt;
     }
     ComparisonInput tried{.term = input.term, .escrowMonthly = input.escrowMonthly};
-    const OfferInput asked = WithoutIntendedPayment(*offer);
     const auto required = [&](std::int64_t cents) {
         tried.amount = Cents::ToMoney(cents);
-        return RequiredPayment(tried, asked);
+        return RequiredPayment(tried, *offer);
     };
     const std::int64_t found = Greatest(Cents::MostCents, [&](std::int64_t cents) {
         const std::optional<RequiredAmounts> amounts = required(cents);
@@ -71,7 +62,7 @@ std::optional<Rate> HighestRate(const ComparisonInput& input, int place, Money p
     if (offer == nullptr) {
         return std::nullopt;
     }
-    OfferInput tried = WithoutIntendedPayment(*offer);
+    OfferInput tried = *offer;
     const auto rateOf = [](std::int64_t thousandths) {
         return Rate::FromFraction(static_cast<double>(thousandths) / ThousandthsOfAPercent);
     };

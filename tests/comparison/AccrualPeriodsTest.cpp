@@ -1,12 +1,9 @@
 #include "AccrualPeriods.h"
-#include "AccruedInterest.h"
-#include "Failure.h"
 #include "QuendNames.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <limits>
 #include <vector>
 
 namespace {
@@ -29,10 +26,29 @@ TEST(AccrualPeriods, MonthAfter) {
         Case{Day(9999, 12, 5), 1, Date::Last()},
         Case{Day(9990, 12, 5), 600, Date::Last()},
         Case{Day(1, 1, 5), -1, Day(1, 1, 1)},
+        Case{Day(1, 3, 31), -1, Day(1, 2, 28)},
     };
     for (const Case& row : cases) {
         EXPECT_EQ(MonthAfter(row.day, row.months), row.expected)
             << row.day.Days() << " + " << row.months;
+    }
+}
+
+TEST(AccrualPeriods, OnePeriodBeforeTheFirstDates) {
+    struct Case {
+        std::size_t frequency;
+        Date day;
+        Date expected;
+    };
+    const std::array cases{
+        Case{0, Day(1, 2, 2), Day(1, 1, 2)},  Case{0, Day(1, 1, 31), Day(1, 1, 1)},
+        Case{1, Day(1, 1, 17), Day(1, 1, 2)}, Case{1, Day(1, 1, 15), Day(1, 1, 1)},
+        Case{2, Day(1, 1, 16), Day(1, 1, 2)}, Case{2, Day(1, 1, 14), Day(1, 1, 1)},
+        Case{3, Day(1, 1, 30), Day(1, 1, 2)}, Case{3, Day(1, 1, 28), Day(1, 1, 1)},
+    };
+    for (const Case& row : cases) {
+        EXPECT_EQ(OnePeriodBefore(row.day, Frequencies.at(row.frequency)), row.expected)
+            << row.frequency << " " << row.day.Days();
     }
 }
 
@@ -145,36 +161,6 @@ TEST(AccrualPeriods, StepsUntilTheLastDate) {
         const AccrualPeriods periods(
             Undated(Frequencies.at(row.frequency), row.due, 1, Accrual::AfterPayment));
         EXPECT_EQ(periods.StepsUntil(Date::Last()), row.steps) << row.due.Days();
-    }
-}
-
-/// A search may stop before the end of a schedule, but must not miss that it has none, or that it
-/// costs more than money can count.
-TEST(CostByDay, IsNoneExactlyWhereTheScheduleNeverEnds) {
-    const Date today = Day(9985, 12, 31);
-    constexpr Money Closing = Money::FromTenThousandths(1'234);
-    constexpr Money Most = Money::FromTenThousandths(std::numeric_limits<std::int64_t>::max());
-    for (const Frequency& frequency : Frequencies) {
-        int endless = 0;
-        for (int cents = 20'000; cents < 200'000; cents += 997) {
-            DatedLoan loan = Undated(frequency, today, 100'000, Accrual::AfterPayment);
-            loan.terms.rate = Rate::FromFraction(0.07);
-            loan.terms.payment = Money::FromTenThousandths(cents * 100);
-            const auto cost = CostByDay(loan, Closing, today, Day(9987, 1, 1));
-            const auto all = CostByDay(loan, Closing, today, Date::Last());
-            try {
-                const Money interest = RunToPayoff(loan.terms).interest;
-                EXPECT_TRUE(cost) << cents;
-                EXPECT_EQ(all, Closing + interest) << cents;
-                EXPECT_TRUE(CostByDay(loan, Most - interest, today, Day(9987, 1, 1)));
-                EXPECT_FALSE(CostByDay(loan, Most - interest + Closing, today, Day(9987, 1, 1)));
-            } catch (const OverflowFailure&) {
-                ++endless;
-                EXPECT_FALSE(cost || all) << cents;
-            }
-        }
-        EXPECT_GT(endless, 3);
-        EXPECT_LT(endless, 178);
     }
 }
 

@@ -44,6 +44,7 @@ TEST(ActuarialRate, AtItsLimits) {
         double advance;
         CashFlows payments;
         std::optional<double> rate;
+        double highest = 8.0;
     };
     const std::vector<Case> cases{
         // advance  amount  count     periods fraction   rate
@@ -51,6 +52,7 @@ TEST(ActuarialRate, AtItsLimits) {
         {100.0, {99.0, 1, 1, 0.0}, std::nullopt}, // less is repaid
         {100.0, {200.0, 1, 1, 0.0}, 1.0},
         {100.0, {200.0, 1, 0, 0.5}, 2.0},
+        {100.0, {200.0, 1, 0, 0.5}, 2.0, 2.0},     // exactly the highest
         {100.0, {900.0, 1, 1, 0.0}, 8.0},          // the highest
         {100.0, {901.0, 1, 1, 0.0}, std::nullopt}, // above it
         {100.0, {100.0, 0, 1, 0.0}, std::nullopt}, // no payment
@@ -61,10 +63,10 @@ TEST(ActuarialRate, AtItsLimits) {
     };
     for (const Case& row : cases) {
         const std::vector<CashFlows> advances{{.amount = row.advance}};
-        const auto rate = ActuarialRate(advances, std::vector{row.payments}, 8.0);
+        const auto rate = ActuarialRate(advances, std::vector{row.payments}, row.highest);
         ASSERT_EQ(rate.has_value(), row.rate.has_value()) << row.payments.amount;
         if (rate) {
-            EXPECT_NEAR(*rate, *row.rate, 1e-12) << row.payments.amount;
+            EXPECT_NEAR(*rate, *row.rate, *row.rate * 1e-12) << row.payments.amount;
         }
     }
 }

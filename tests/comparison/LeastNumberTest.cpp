@@ -1,4 +1,5 @@
 #include "LeastNumber.h"
+#include "Cents.h"
 
 #include "QuendNames.h"
 
@@ -9,6 +10,21 @@
 #include <optional>
 
 namespace {
+
+TEST(Cents, NotBelow) {
+    constexpr std::int64_t Last = std::numeric_limits<std::int64_t>::max();
+    struct Case {
+        std::int64_t amount; ///< in ten-thousandths
+        std::int64_t cents;
+    };
+    const std::array cases{
+        Case{0, 0},  Case{1, 1},   Case{99, 1},    Case{100, 1},   Case{101, 2},
+        Case{-1, 0}, Case{-99, 0}, Case{-100, -1}, Case{-199, -1}, Case{Last, Cents::MostCents + 1},
+    };
+    for (const Case& row : cases) {
+        EXPECT_EQ(Cents::NotBelow(Money::FromTenThousandths(row.amount)), row.cents) << row.amount;
+    }
+}
 
 TEST(LeastNumber, OutwardsFromAGuess) {
     constexpr std::int64_t Huge = std::numeric_limits<std::int64_t>::max() / 100;

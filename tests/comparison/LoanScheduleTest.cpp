@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <iterator>
 
 namespace {
 
@@ -81,15 +82,22 @@ TEST(LoanSchedule, ByYear) {
             paid += row.payment;
         }
         std::int64_t year = 2026;
+        auto next = rows.begin();
         for (const ScheduleRow& row : years) {
             EXPECT_EQ(row.number, year++);
             EXPECT_EQ(row.payment, row.interest + row.principal + row.escrow);
             paid -= row.payment;
+            while (next != rows.end() &&
+                   static_cast<int>(next->date.Calendar().year()) == row.number) {
+                ++next;
+            }
+            const ScheduleRow& last = *std::prev(next);
+            EXPECT_EQ(row.date, last.date);
+            EXPECT_EQ(row.balance, last.balance);
+            EXPECT_EQ(row.interestSoFar, last.interestSoFar);
         }
+        EXPECT_EQ(next, rows.end());
         EXPECT_EQ(paid, Money());
-        EXPECT_EQ(years.back().interestSoFar, rows.back().interestSoFar);
-        EXPECT_EQ(years.back().balance, Money());
-        EXPECT_EQ(years.back().date, rows.back().date);
     }
     EXPECT_TRUE(ByYear({}).empty());
 }
@@ -118,6 +126,22 @@ TEST(OverTime, AgreesWithTheFiguresOfEveryHorizon) {
             EXPECT_EQ(lines.back().cost.at(month), result.current->costByHorizon);
             EXPECT_EQ(lines.back().balance.at(month), result.current->balanceAtHorizon);
         }
+    }
+}
+
+/// A loan that is repaid after the longest comparison.
+TEST(OverTime, UpToTheLastMonth) {
+    ComparisonInput input = Sheet("M");
+    input.today = Date::FromCalendar(2026, 1, 15);
+    input.choice = PaymentChoice::Required;
+    input.offers.back().rate = Rate::FromFraction(0.01);
+    input.offers.back().term = {1'300};
+    ASSERT_EQ(Compare(input).months, 1'200);
+    const auto rows = ScheduleOf(input, 2).value();
+    const LoanOverTime line = OverTime(input, 1'200).front();
+    for (const std::size_t month : {1U, 2U, 1'199U, 1'200U}) {
+        EXPECT_EQ(line.cost.at(month), rows.at(month - 1).interestSoFar) << month;
+        EXPECT_EQ(line.balance.at(month), rows.at(month - 1).balance) << month;
     }
 }
 

@@ -38,6 +38,8 @@ TEST(ScheduleEnd, AtItsLimits) {
         Case{"not grown", 1'000, 900, 8'500, 0.1, 5, 0, ScheduleEnd::TooLate},
         Case{"for ever", 1'000, 900, 1'000'000, 0.1, 1'000'000, 0, ScheduleEnd::InTime},
         Case{"a fortune", 100, MostCount / 10, 500, 0.1, 8, 0, ScheduleEnd::Unclear},
+        Case{"nearly one", 100, MostCount / 11, 500, 0.1, 8, 0, ScheduleEnd::InTime},
+        Case{"too near", 100, MostCount / 10 - 1'383'500'000, 500, 0.1, 8, 0, ScheduleEnd::Unclear},
         Case{"added", 100, 10, 500, 0.1, 8, MostCount - 50, ScheduleEnd::Unclear},
         Case{"lent", 100, 10, 500, 0.1, 8, -MostCount, ScheduleEnd::InTime},
     };
@@ -60,7 +62,7 @@ ScheduleTerms LateSchedule(Random& random) {
                         .escrowShare = Money(),
                         .frequency = FindFrequency(random.OneOf(Frequencies).Code()),
                         .start = Date::FromDays(Date::Last().Days() - random.Int(100, 20'000))};
-    const AccrualPeriods periods({.terms = terms});
+    const AccrualPeriods periods({.terms = terms, .accrual = Accrual::AfterPayment});
     const std::array<CashFlows, 1> unit{
         {{.amount = 1.0,
           .count = periods.StepsUntil(Date::Last()) + random.Int(-2, 4),
@@ -75,7 +77,7 @@ ScheduleTerms LateSchedule(Random& random) {
 TEST(ScheduleEnd, IsThatOfTheSchedule) {
     std::array<int, 3> said{};
     ForRandomCases(300, [&said](Random& random) {
-        const DatedLoan loan{.terms = LateSchedule(random)};
+        const DatedLoan loan{.terms = LateSchedule(random), .accrual = Accrual::AfterPayment};
         const double rate = RateOfPeriod(loan.terms);
         AccrualPeriods periods(loan);
         Money interest;

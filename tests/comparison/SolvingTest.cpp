@@ -1,5 +1,6 @@
 #include "Solving.h"
 #include "Comparison.h"
+#include "Frequency.h"
 #include "LoanSchedule.h"
 #include "QuendNames.h"
 
@@ -84,6 +85,10 @@ TEST(Solving, LeastPaymentWhereTheLoanTakesNoPart) {
     for (const int place : {-1, CurrentLoanPlace, 1, 2}) {
         EXPECT_FALSE(LeastPaymentBy(incomplete, place, day)) << place;
     }
+    ComparisonInput costly = Sheet();
+    costly.offers.front().costs = GreatestAmount;
+    costly.offers.front().points = Percent::FromPercent(1.0);
+    EXPECT_FALSE(LeastPaymentBy(costly, 1, day));            // its costs are beyond the range
     EXPECT_FALSE(LeastPaymentBy(Sheet(), 1, Sheet().today)); // its first period has not ended
 }
 
@@ -160,6 +165,8 @@ TEST(Solving, WithoutAnAnswer) {
         EXPECT_FALSE(LargestAmount(Sheet(), place, GreatestAmount)) << place;
         EXPECT_FALSE(HighestRate(Sheet(), place, GreatestAmount)) << place;
     }
+    EXPECT_EQ(HighestRate(Sheet(), 1, Cents(95'564)), Rate::FromFraction(0.00001)); // 555.639
+    EXPECT_FALSE(HighestRate(Sheet(), 1, Cents(95'563)));
     EXPECT_EQ(HighestRate(Sheet(), 1, GreatestAmount),
               Rate::FromFraction(100.0)); // as far as it searches
 }

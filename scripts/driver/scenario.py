@@ -72,6 +72,7 @@ Prints one line per result: the control, a tab, the text.
 
 from __future__ import annotations
 
+import signal
 from collections.abc import Callable, Iterable, Iterator
 from dataclasses import dataclass
 from pathlib import Path
@@ -160,6 +161,12 @@ def _note(what: str, read: Callable[[Window], str]) -> Handler:
     return handle
 
 
+def _terminate(window: Window) -> list[Reading]:
+    window.end_by(signal.SIGTERM)
+    window.ended()
+    return []
+
+
 _HANDLERS: dict[str, Handler] = {
     "type": _deed(Window.type),
     "number": _deed(Window.number),
@@ -179,8 +186,8 @@ _HANDLERS: dict[str, Handler] = {
     "quit": _deed(lambda window, *_: window.quit()),
     "close": _deed(lambda window, *_: window.close()),
     "ended": _deed(lambda window, *_: window.ended()),
-    "kill": _deed(lambda window, *_: window.kill()),
-    "terminate": _deed(lambda window, *_: window.terminate()),
+    "kill": _deed(lambda window, *_: window.end_by(signal.SIGKILL)),
+    "terminate": lambda window, _: _terminate(window),
     "start": _deed(lambda window, locale, _: window.start(locale)),
     "meet": _deed(lambda window, *text: window.meet(" ".join(text).strip())),
     "drag": _deed(Window.drag),

@@ -14,7 +14,6 @@
 
 #include <QAction>
 #include <QInputDialog>
-#include <QLineEdit>
 
 #include <utility>
 

@@ -6,6 +6,7 @@ its text is read through the accessibility bus. No method sets a value by anothe
 
 from __future__ import annotations
 
+import signal
 from collections.abc import Callable
 from functools import partial
 from pathlib import Path
@@ -441,15 +442,10 @@ class Window:
     def process(self) -> int:
         return self._process.pid
 
-    def terminate(self) -> None:
-        """Asks the program to end by a signal, after it has processed all input, and waits for exit code 0."""
+    def end_by(self, number: signal.Signals) -> None:
+        """Sends the program a signal after it has processed all input, and waits for its end."""
         self.title()
-        self._process.terminate()
-        self.ended()
-
-    def kill(self) -> None:
-        """Kills the program, like a power failure."""
-        self._process.kill()
+        self._process.send_signal(number)
         self._process.wait()
 
     # Lists

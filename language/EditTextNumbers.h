@@ -79,7 +79,6 @@ inline constexpr int ValueNotForFile = 1419;
 inline constexpr int PreviewOf = 1440; ///< %1: the worksheet
 inline constexpr int PreviewPage = 1441;
 inline constexpr int PreviewZoom = 1442;
-inline constexpr int UnnamedWorksheet = 1443;
 
 // The worksheet's name, saving, and the end of the session. %1: the worksheet
 inline constexpr int TitleWithName = 1460; ///< %2: the program; [*]: the mark of unsaved changes

@@ -1,12 +1,10 @@
 #include "Checks.h"
 
 #include "Colours.h"
-#include "DatePicker.h"
 #include "RandomUser.h"
 #include "RegistryLimits.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -83,17 +81,7 @@ void Checks::RowsAreThere(RandomUser& user) {
 }
 
 void Checks::Compare(RandomUser& user, Field field, const QString& expected) {
-    const QWidget* control = user.Control(field);
-    QString shown;
-    if (const auto* edit = qobject_cast<const QLineEdit*>(control)) {
-        shown = edit->text();
-    } else if (const auto* list = qobject_cast<const QComboBox*>(control)) {
-        shown = list->currentText();
-    } else if (const auto* picker = qobject_cast<const DatePicker*>(control)) {
-        shown = picker->text();
-    } else if (const auto* box = qobject_cast<const QCheckBox*>(control)) {
-        shown = box->isChecked() ? u"ticked"_s : QString();
-    }
+    const QString shown = user.ShownIn(field);
     if (shown != expected) {
         Say(u"%1(%2) shows “%3” instead of “%4”"_s.arg(QString(RuleOf(field.id).control))
                 .arg(field.row.value)

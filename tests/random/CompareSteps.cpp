@@ -41,7 +41,11 @@ QWidget* RandomUser::Comparison() {
 
 /// Opens the window, or brings it to the front. Painting it takes most of the time.
 void RandomUser::OpenComparison(unsigned a, unsigned /*b*/) {
+    const View before = Look();
     Trigger("mnuToolsCompare");
+    if (!Commit(before)) {
+        return;
+    }
     if (QWidget* window = Comparison()) {
         window->setUpdatesEnabled(a % 8 == 0);
     } else {

@@ -88,8 +88,14 @@ void RandomUser::Paste(unsigned a, unsigned b) {
     if (a % 2 == 0) {
         Press(Qt::Key_A, Qt::ControlModifier);
     }
+    const QString text = QGuiApplication::clipboard()->text();
+    const View before = Look();
     Press(Qt::Key_V, Qt::ControlModifier);
-    m_text = Look().text;
+    if (IsBlockFor(m_edited, text)) {
+        PasteInModel(text, before);
+    } else {
+        m_text = Look().text;
+    }
 }
 
 void RandomUser::EditText(unsigned a, unsigned /*b*/) {
@@ -103,7 +109,6 @@ void RandomUser::EditText(unsigned a, unsigned /*b*/) {
         Keys{Qt::Key_Left, Qt::NoModifier},      Keys{Qt::Key_Right, Qt::NoModifier},
         Keys{Qt::Key_Home, Qt::ShiftModifier},   Keys{Qt::Key_End, Qt::ShiftModifier},
         Keys{Qt::Key_Left, Qt::ShiftModifier},   Keys{Qt::Key_A, Qt::ControlModifier},
-        Keys{Qt::Key_Z, Qt::ControlModifier},    Keys{Qt::Key_Y, Qt::ControlModifier},
         Keys{Qt::Key_X, Qt::ControlModifier},    Keys{Qt::Key_Escape, Qt::NoModifier},
     };
     if (!m_edited || (!EditOf(*m_edited) && m_edited->id != FieldId::LoanName)) {
@@ -154,8 +159,11 @@ void RandomUser::UseClipboard(unsigned a, unsigned /*b*/) {
     }
     const QString text = QGuiApplication::clipboard()->text();
     const bool takesValue = isValue && whole && HoldsValue();
+    const View before = Look();
     Press(Qt::Key_V, Qt::ControlModifier);
-    if (!takesValue) {
+    if (IsBlockFor(field, text)) {
+        PasteInModel(text, before);
+    } else if (!takesValue) {
         m_text = Look().text;
     } else if (m_model.MayDrop(field.id, text)) {
         TakeValue(field, text);

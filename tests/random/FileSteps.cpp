@@ -85,8 +85,10 @@ bool RandomUser::MayDrop(Answer answer) {
 void RandomUser::PickInModel(const QString& name, Answer answer) {
     if (MayDrop(answer)) {
         if (name == GetResourceText(TextNumber::NewLoan)) {
+            m_history.Clear();
             m_model.Clear();
         } else if (m_model.Holds(name)) {
+            m_history.Clear();
             m_model.Load(name);
             m_model.nameMissing = false;
         } else {
@@ -215,6 +217,7 @@ void RandomUser::Delete(unsigned a, unsigned /*b*/) {
             keptChanged = true;
         }
     }
+    m_history.Clear();
     m_model.Clear();
     Reenter();
     Refocus({FieldId::LoanName});
@@ -235,6 +238,7 @@ void RandomUser::BringBack(unsigned /*a*/, unsigned /*b*/) {
     Trigger("mnuFileBringBack");
     Commit(before);
     const QString name = deleted.begin()->second.name;
+    m_history.Clear();
     m_model.saved.merge(deleted);
     m_model.Load(name);
     Reenter();
@@ -284,6 +288,8 @@ void RandomUser::CloseAndStart(unsigned a, unsigned b) {
     if (!closed) {
         return;
     }
+    m_history.Clear();
+    m_saved.reset();
     m_program.Shut();
     Settle();
     const ReferenceModel left = m_model;

@@ -26,13 +26,17 @@ struct Habits {
     const char16_t* beforeNegative;
     const char16_t* afterNegative;
     const char16_t* day;
+    const char16_t* symbol;
+    const char16_t* code;
 };
 
 const std::array<Habits, Forms::Countries> AllHabits{{
-    {QLocale::English, QLocale::UnitedStates, u'.', u',', u"$", u"", u"($", u")", u"M/d/yyyy"},
-    {QLocale::Spanish, QLocale::Mexico, u'.', u',', u"$", u"", u"$-", u"", u"dd/MM/yyyy"},
+    {QLocale::English, QLocale::UnitedStates, u'.', u',', u"$", u"", u"($", u")", u"M/d/yyyy", u"$",
+     u"USD"},
+    {QLocale::Spanish, QLocale::Mexico, u'.', u',', u"$", u"", u"$-", u"", u"dd/MM/yyyy", u"$",
+     u"MXN"},
     {QLocale::German, QLocale::Germany, u',', u'.', u"", u"\u00a0€", u"-", u"\u00a0€",
-     u"dd.MM.yyyy"},
+     u"dd.MM.yyyy", u"€", u"EUR"},
 }};
 
 QString Said(const char16_t* text) { return QString::fromUtf16(text); }
@@ -248,4 +252,37 @@ Plain::Count Forms::ReadAmount(const QString& text) const {
         throw Plain::TooLarge{};
     }
     return static_cast<Plain::Count>(count);
+}
+
+std::optional<QString> Forms::FromCell(QString cell, bool isAmount, bool isPercent) const {
+    const Habits& habits = AllHabits.at(m_country);
+    if (isAmount) {
+        cell.remove(Said(habits.symbol)).remove(Said(habits.code));
+    } else if (isPercent) {
+        cell.remove(u'%');
+    }
+    cell = cell.trimmed();
+    if (cell.size() > 2 && cell.startsWith(u'(') && cell.endsWith(u')')) {
+        cell = u'-' + cell.mid(1).chopped(1).trimmed();
+    }
+    cell.replace(u'−', u'-');
+    QStringList groups = cell.split(QChar(habits.group));
+    if (groups.size() == 1) {
+        return cell;
+    }
+    const auto digitsAtStart = [](const QString& text) {
+        return std::ranges::find_if(text, [](QChar c) { return c < u'0' || c > u'9'; }) -
+               text.begin();
+    };
+    const auto isGroup = [&](const QString& group, qsizetype least, qsizetype most) {
+        return digitsAtStart(group) == group.size() && group.size() >= least &&
+               group.size() <= most;
+    };
+    QString first = groups.takeFirst();
+    const QString last = groups.takeLast();
+    first.remove(0, first.startsWith(u'-') || first.startsWith(u'+') ? 1 : 0);
+    const bool areGroups =
+        isGroup(first, 1, 3) && digitsAtStart(last) == 3 &&
+        std::ranges::all_of(groups, [&](const QString& group) { return isGroup(group, 2, 3); });
+    return areGroups ? std::optional(cell.remove(QChar(habits.group))) : std::nullopt;
 }

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringView>
 
+#include <optional>
+
 /// How a country writes numbers, amounts and days: a separate implementation of its few rules.
 class Forms {
 public:
@@ -36,6 +38,10 @@ public:
     /// Throws NoNumber or TooLarge. The empty text is zero.
     double ReadReal(const QString& text) const;
     Plain::Count ReadAmount(const QString& text) const;
+
+    /// A number as a spreadsheet shows it, in the form in which it is typed; none if its groups
+    /// have wrong lengths.
+    std::optional<QString> FromCell(QString cell, bool isAmount, bool isPercent) const;
 
     struct NoNumber {};
 

@@ -32,6 +32,7 @@ RandomUser::RandomUser(std::size_t country) : m_model(country) {
     Settle();
     WatchDay();
     EnterInModel(FocusField());
+    Remember();
 }
 
 RandomUser::~RandomUser() {
@@ -58,6 +59,7 @@ void RandomUser::Take(const Step& step) {
     if (auto* timer = Window().findChild<QTimer*>(u"Timer1"_s); timer && timer->isActive()) {
         timer->start(1h);
     }
+    Remember();
 }
 
 // Input
@@ -90,9 +92,11 @@ bool RandomUser::ClickAt(QPoint place) {
     return true;
 }
 
-void RandomUser::Trigger(const char* entry) {
-    Window().findChild<QAction*>(QString::fromLatin1(entry))->trigger();
+QAction& RandomUser::Entry(const char* name) const {
+    return *Window().findChild<QAction*>(QString::fromLatin1(name));
 }
+
+void RandomUser::Trigger(const char* entry) { Entry(entry).trigger(); }
 
 void RandomUser::PickEntry(QComboBox& list, int entry) {
     list.showPopup();
@@ -199,6 +203,11 @@ RandomUser::View RandomUser::LookAt(Field field) const {
         view.text = picker->text();
     }
     return view;
+}
+
+QString RandomUser::ShownIn(Field field) const {
+    const View view = LookAt(field);
+    return view.ticked ? u"ticked"_s : view.text;
 }
 
 RandomUser::View RandomUser::Look() const { return m_edited ? LookAt(*m_edited) : View(); }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "History.h"
 #include "Program.h"
 #include "QuendNames.h"
 #include "ReferenceModel.h"
@@ -10,6 +11,7 @@
 #include <array>
 #include <map>
 #include <optional>
+#include <utility>
 
 class QAction;
 class QComboBox;
@@ -34,6 +36,7 @@ public:
     const ReferenceModel& Model() const { return m_model; }
     Program& TheProgram() { return m_program; }
     QWidget* Control(Field field) const;
+    QString ShownIn(Field field) const;
     /// The comparison window; null while it is closed.
     static QWidget* Comparison();
     std::optional<Field> Edited() const { return m_edited; }
@@ -86,6 +89,11 @@ public:
     void OpenHelp(unsigned a, unsigned b);
     void AskWhatsThis(unsigned a, unsigned b);
     void Share(unsigned a, unsigned b);
+    void Undo(unsigned a, unsigned b);
+    void Redo(unsigned a, unsigned b);
+    void UseRow(unsigned a, unsigned b);
+    void PasteCells(unsigned a, unsigned b);
+    void CopyTable(unsigned a, unsigned b);
     void OpenComparison(unsigned a, unsigned b);
     void CloseComparison(unsigned a, unsigned b);
     void CompareOtherwise(unsigned a, unsigned b);
@@ -122,8 +130,7 @@ private:
 
     // Inspection
     Loan& Window() const { return m_program.Window(); }
-    template <class Kind>
-    Kind* Find(const QString& name) const;
+    QAction& Entry(const char* name) const;
     QWidget* Named(const QString& name) const;
     bool IsVisible(const QWidget& control) const;
     std::optional<Field> FieldOf(const QWidget* control) const;
@@ -134,6 +141,14 @@ private:
     Field AnyInput(unsigned number) const;
     std::optional<Row> ComputedRow(unsigned number) const;
     QString CopiedText(Field field, const QString& shown) const;
+
+    // Undo
+    Picture TakePicture() const;
+    void Remember();
+    QLineEdit* InnerEdit() const;
+    void PressUndo(bool redo, unsigned manner);
+    int GoTo(const Picture& picture, bool redo, unsigned manner);
+    void Compare(const Picture& picture);
 
     // The reference model
     bool IsRefused(const View& before) const;
@@ -151,6 +166,9 @@ private:
     void WatchDay();
     void ObserveDay();
     void TakeValue(Field field, const QString& text);
+    static bool IsBlockFor(std::optional<Field> field, const QString& text);
+    void PasteInModel(const QString& text, const View& before);
+    void RestoreInModel();
     QString WithName(int question) const;
     Answer PrepareAnswer(unsigned number, bool mayCancel);
     bool MayDrop(Answer answer);
@@ -164,6 +182,9 @@ private:
     std::optional<Field> m_edited;
     QString m_text;
     QStringList m_questions;
+    History m_history;
+    std::pair<bool, bool> m_manner; ///< language and unit of terms of the history
+    std::optional<model::WorksheetState> m_saved;
     QList<QDate> m_days; ///< days that the date picker reported since the last check
     std::size_t m_displayed = 6;
     int m_taken = 0;

@@ -291,9 +291,13 @@ void ReferenceModel::SortByInterest() {
 /// Shows the stored payments; raises nothing.
 void ReferenceModel::ShowOffers() {
     for (ModelOffer& offer : offers) {
-        Try([&] {
-            static_cast<void>(LeastPayment(offer));
-            RunPayoff(offer);
-        });
+        ShowOffer(offer);
     }
+}
+
+void ReferenceModel::ShowOffer(ModelOffer& offer) {
+    Try([&] {
+        static_cast<void>(LeastPayment(offer));
+        RunPayoff(offer);
+    });
 }

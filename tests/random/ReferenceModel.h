@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <variant>
 #include <vector>
@@ -68,6 +69,14 @@ struct ModelCurrentLoan {
     QDate payoff;
 };
 
+/// All values that undo and redo give back.
+struct ModelValues {
+    ModelLoan loan;
+    ModelCurrentLoan current;
+    std::vector<ModelOffer> offers;
+    std::set<FieldId> missing;
+};
+
 /// A worksheet as saved.
 struct SavedWorksheet {
     QString name;
@@ -107,12 +116,23 @@ public:
     /// A value dropped or pasted on an offer's field. False if the text is no number in range: then
     /// nothing changes.
     bool Drop(Field field, const QString& text);
+    /// Stores cells to the right and down from a field. False if some are not taken.
+    bool PasteCells(Field from, const std::vector<QStringList>& rows);
+    void ClearOffer(int row);
+    /// The row of the copy; none if there is no room.
+    std::optional<int> DuplicateOffer(int row);
+    /// By one place in the order of entry. The row that then shows the offer; none if it stays.
+    std::optional<int> MoveOffer(int row, int by);
     void EnterRow(int row);
     void GrowTo(std::size_t rows);
     void SortByPayoff();
     void SortByInterest();
     /// The timer of the notice has expired.
     void NoticeIsDue();
+
+    ModelValues Values() const { return {loan, current, offers, missing}; }
+    /// Undo and redo mark no raised payments.
+    void Restore(const ModelValues& values);
 
     // The saved worksheets.
     void Clear();
@@ -150,6 +170,7 @@ public:
     std::set<std::size_t> raised;
     std::set<FieldId> missing;
     bool nameMissing = false;
+    bool IsBlank(int row) const;
     bool IsUnnamed() const { return loan.name.isEmpty() || loan.name == u" "; }
     bool dirty = false;
     bool noticeShown = false;
@@ -199,6 +220,9 @@ private:
     template <class KeyOf>
     void SortBy(char by, KeyOf keyOf);
     void ShowOffers();
+    void ShowOffer(ModelOffer& offer);
+    void Replace(std::size_t index, const ModelOffer& offer);
+    bool PasteCell(Field field, const QString& cell);
 
     Number NumberOf(Field field) const;
     QString ShownResult(Field field) const;

@@ -108,9 +108,18 @@ void RandomUser::ClickBar(unsigned a, unsigned b) {
     if (!bar.isVisible() || !bar.isEnabled()) {
         return;
     }
-    const int at = static_cast<int>(b % static_cast<unsigned>(bar.height()));
-    const QPoint place = bar.mapTo(&Window(), QPoint(bar.width() / 2, at));
-    if (!Window().rect().contains(place)) { // a small window scrolls as a whole
+    QWindow* window = Window().windowHandle();
+    const auto placeOn = [&](unsigned number) {
+        const int at = static_cast<int>(number % static_cast<unsigned>(bar.height()));
+        return bar.mapTo(&Window(), QPoint(bar.width() / 2, at));
+    };
+    // A small window scrolls as a whole. After a switch of the language it may be larger than its
+    // frame for a moment.
+    const auto isInside = [&](QPoint place) {
+        return Window().rect().contains(place) && QRect({}, window->size()).contains(place);
+    };
+    const QPoint place = placeOn(b);
+    if (!isInside(place) || !isInside(placeOn(a))) {
         return;
     }
     if (a % 3 != 0) {
@@ -118,12 +127,9 @@ void RandomUser::ClickBar(unsigned a, unsigned b) {
         return;
     }
     // Drags the thumb.
-    QWindow* window = Window().windowHandle();
-    const int to = static_cast<int>(a % static_cast<unsigned>(bar.height()));
     QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, place);
-    QTest::mouseMove(window, bar.mapTo(&Window(), QPoint(bar.width() / 2, to)));
-    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier,
-                        bar.mapTo(&Window(), QPoint(bar.width() / 2, to)));
+    QTest::mouseMove(window, placeOn(a));
+    QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, placeOn(a));
 }
 
 /// Opens a lender's dialog by its key or a double click. It may paste another text, and then

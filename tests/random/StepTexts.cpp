@@ -59,6 +59,24 @@ const std::array NameTexts{
     u"🏦"_s,    u"Loan 1"_s, u"Zweite"_s, u"Tercera vez"_s, u"'x' \"y\""_s,
 };
 
+/// As in the United States; the other countries exchange the point and the comma.
+const std::array BlockTexts{
+    u"0.5\t6.25%\t30\tMonthly\t$1,500.00\tFirst Bank\n1\t5.875%\t15\tMonthly\t$2,000.00\tBank\n"_s,
+    u"1\t7\n2\t8\n3\t9\n4\t10\n5\t11\n6\t12\n7\t13\n8\t14\n9\t15\n10\t1\n11\t2\n12\t3\n"_s,
+    u"yes\t1\t5\nSí\t2\t6\nfalse\t3\t7\nX\t\t\nmaybe\t1\t1"_s,
+    u"6.5\r\n7.25\r\n\r\n8"_s,
+    u"\t\t\t\t\t\n\t\t\t\t\t\t\t\n"_s,
+    u"1,234.5\t1,23\t12,34,567\t1,234,5\t(5)\t−7\n"_s,
+    u"1e3\tnan\t99999999999999999999\t5%\t$5\t#DIV/0!\tmore\tand more"_s,
+    u"922337203685477.58\t922337203685478\n-100000\t178956971"_s,
+    u" 2 \t\u00a03\u00a0\tMensual\tCada dos semanas\t1,00\t'=1+1\n'+5\t-5\t+5\t--5"_s,
+    u"EUR 5\t5 USD\t$ 1,000\t€1,000.00\t1.000,00 €\t5 MXN\tlender\r\t"_s,
+    u"12.5\t1\t0\n.5\t5.\t.\n-\t+\t%\n()\t(\t$"_s,
+    u"Monthly\t1,200.00\t=cmd\nEvery two weeks\t650.5\t@x\nTwice a month\t1\t'-"_s,
+    u"6"_s,
+    u""_s,
+};
+
 template <class Texts>
 QString OneOf(const Texts& texts, unsigned number) {
     return texts.at(number % texts.size());
@@ -120,6 +138,26 @@ QString AnyText(unsigned number, QChar point) {
     default:
         return Fraction(which, which % 2'000, static_cast<int>(which % 4), point);
     }
+}
+
+QString BlockText(unsigned number, QChar point) {
+    QString text = OneOf(BlockTexts, number);
+    for (QChar& c : text) {
+        if (point == u',' && (c == u',' || c == u'.')) {
+            c = c == u',' ? u'.' : u',';
+        }
+    }
+    return text;
+}
+
+std::vector<QStringList> CellsIn(QString text) {
+    std::vector<QStringList> rows;
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+    text.chop(text.endsWith(u'\n') ? 1 : 0);
+    for (const QString& row : text.split(u'\n')) {
+        rows.push_back(row.split(u'\t'));
+    }
+    return rows;
 }
 
 QString TextFor(FieldId field, unsigned number, QChar point) {

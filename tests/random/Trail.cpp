@@ -15,74 +15,80 @@ using User = RandomUser;
 
 constexpr std::array KindTable{
     // Fields
-    StepKind{"Enter", 60, &User::EnterField},
-    StepKind{"Fill", 200, &User::EnterField}, // followed by typing and the Tab key
-    StepKind{"Type", 60, &User::Type},
-    StepKind{"Paste", 40, &User::Paste},
-    StepKind{"Edit", 60, &User::EditText},
-    StepKind{"Clipboard", 30, &User::UseClipboard},
-    StepKind{"Tab", 80, &User::Tab},
-    StepKind{"Return", 20, &User::Return},
-    StepKind{"Arrow", 50, &User::Arrow},
-    StepKind{"Choose", 40, &User::Choose},
-    StepKind{"Day", 15, &User::TypeDay},
-    StepKind{"Offer", 40, &User::FillOffer},
-    StepKind{"Current", 8, &User::FillCurrent},
-    StepKind{"Intend", 8, &User::Intend},
-    StepKind{"Clear", 6, &User::ClearIntended}, // followed by a save and entering a value again
-    StepKind{"Again", 6, &User::EnterAgain},
+    KindOfStep{"Enter", 60, &User::EnterField},
+    KindOfStep{"Fill", 200, &User::EnterField}, // followed by typing and the Tab key
+    KindOfStep{"Type", 60, &User::Type},
+    KindOfStep{"Paste", 40, &User::Paste},
+    KindOfStep{"Edit", 60, &User::EditText},
+    KindOfStep{"Clipboard", 30, &User::UseClipboard},
+    KindOfStep{"Tab", 80, &User::Tab},
+    KindOfStep{"Return", 20, &User::Return},
+    KindOfStep{"Arrow", 50, &User::Arrow},
+    KindOfStep{"Choose", 40, &User::Choose},
+    KindOfStep{"Day", 15, &User::TypeDay},
+    KindOfStep{"Offer", 40, &User::FillOffer},
+    KindOfStep{"Current", 8, &User::FillCurrent},
+    KindOfStep{"Intend", 8, &User::Intend},
+    KindOfStep{"Clear", 6, &User::ClearIntended}, // followed by a save and entering a value again
+    KindOfStep{"Again", 6, &User::EnterAgain},
     // Rows
-    StepKind{"Tick", 20, &User::Tick},
-    StepKind{"Drop", 40, &User::Drop},
-    StepKind{"Sort", 20, &User::Sort},
-    StepKind{"Wheel", 20, &User::Wheel},
-    StepKind{"Bar", 15, &User::ClickBar},
-    StepKind{"Lender", 4, &User::OpenLender},
-    StepKind{"Second", 20, &User::LetSecondPass},
+    KindOfStep{"Tick", 20, &User::Tick},
+    KindOfStep{"Drop", 40, &User::Drop},
+    KindOfStep{"Sort", 20, &User::Sort},
+    KindOfStep{"Wheel", 20, &User::Wheel},
+    KindOfStep{"Bar", 15, &User::ClickBar},
+    KindOfStep{"Lender", 4, &User::OpenLender},
+    KindOfStep{"Second", 20, &User::LetSecondPass},
+    // The Edit menu
+    KindOfStep{"Undo", 40, &User::Undo},
+    KindOfStep{"Redo", 15, &User::Redo},
+    KindOfStep{"Row", 15, &User::UseRow},
+    KindOfStep{"Cells", 15, &User::PasteCells},
+    KindOfStep{"Table", 3, &User::CopyTable},
     // Files
-    StepKind{"Name", 15, &User::TypeName},
-    StepKind{"Save", 10, &User::Save},
-    StepKind{"Pick", 10, &User::PickName},
-    StepKind{"Keep", 5, &User::LeaveOut}, // followed by a save and loading the worksheet again
-    StepKind{"Elsewhere", 2, &User::ChooseType}, // loaded again in another language and country
-    StepKind{"Reload", 2, &User::Reload},
-    StepKind{"Unnamed", 4, &User::CloseUnnamed},
-    StepKind{"New", 4, &User::New},
-    StepKind{"Delete", 4, &User::Delete},
-    StepKind{"BringBack", 2, &User::BringBack},
-    StepKind{"Rename", 4, &User::Rename},
-    StepKind{"Close", 2, &User::CloseAndStart},
+    KindOfStep{"Name", 15, &User::TypeName},
+    KindOfStep{"Save", 10, &User::Save},
+    KindOfStep{"Pick", 10, &User::PickName},
+    KindOfStep{"Keep", 5, &User::LeaveOut}, // followed by a save and loading the worksheet again
+    KindOfStep{"Elsewhere", 2, &User::ChooseType}, // loaded again in another language and country
+    KindOfStep{"Reload", 2, &User::Reload},
+    KindOfStep{"Unnamed", 4, &User::CloseUnnamed},
+    KindOfStep{"New", 4, &User::New},
+    KindOfStep{"Delete", 4, &User::Delete},
+    KindOfStep{"BringBack", 2, &User::BringBack},
+    KindOfStep{"Rename", 4, &User::Rename},
+    KindOfStep{"Close", 2, &User::CloseAndStart},
     // The comparison
-    StepKind{"Compare", 4, &User::OpenComparison}, // followed by steps in it and beside it
-    StepKind{"Otherwise", 1, &User::CompareOtherwise},
-    StepKind{"Costs", 1, &User::EnterCosts},
-    StepKind{"SortCosts", 1, &User::SortCosts},
-    StepKind{"Shut", 2, &User::CloseComparison},
+    KindOfStep{"Compare", 4, &User::OpenComparison}, // followed by steps in it and beside it
+    KindOfStep{"Otherwise", 1, &User::CompareOtherwise},
+    KindOfStep{"Costs", 1, &User::EnterCosts},
+    KindOfStep{"SortCosts", 1, &User::SortCosts},
+    KindOfStep{"Shut", 2, &User::CloseComparison},
     // Other features
-    StepKind{"Language", 3, &User::SwitchLanguage},
-    StepKind{"Options", 3, &User::OpenOptions},
-    StepKind{"Print", 2, &User::Print},
-    StepKind{"About", 1, &User::OpenAbout},
-    StepKind{"Help", 1, &User::OpenHelp},
-    StepKind{"WhatsThis", 2, &User::AskWhatsThis},
-    StepKind{"Share", 2, &User::Share},
-    StepKind{"Resize", 3, &User::Resize},
-    StepKind{"Click", 20, &User::ClickAnywhere},
+    KindOfStep{"Language", 3, &User::SwitchLanguage},
+    KindOfStep{"Options", 3, &User::OpenOptions},
+    KindOfStep{"Print", 2, &User::Print},
+    KindOfStep{"About", 1, &User::OpenAbout},
+    KindOfStep{"Help", 1, &User::OpenHelp},
+    KindOfStep{"WhatsThis", 2, &User::AskWhatsThis},
+    KindOfStep{"Share", 2, &User::Share},
+    KindOfStep{"Resize", 3, &User::Resize},
+    KindOfStep{"Click", 20, &User::ClickAnywhere},
 };
 
 } // namespace
 
-std::span<const StepKind> Kinds() { return KindTable; }
+std::span<const KindOfStep> Kinds() { return KindTable; }
 
 StepMaker::StepMaker(std::uint64_t seed) : m_random(seed) {
-    for (const StepKind& kind : KindTable) {
+    for (const KindOfStep& kind : KindTable) {
         m_all += kind.weight;
     }
 }
 
 Step StepMaker::Of(const char* name) {
     const auto* const found = std::ranges::find_if(
-        KindTable, [name](const StepKind& kind) { return std::strcmp(kind.name, name) == 0; });
+        KindTable, [name](const KindOfStep& kind) { return std::strcmp(kind.name, name) == 0; });
     return {static_cast<std::size_t>(found - KindTable.begin()),
             static_cast<unsigned>(m_random() % 10'000), static_cast<unsigned>(m_random() % 10'000)};
 }
@@ -143,7 +149,7 @@ Trail ReadTrail(const QString& text) {
     Trail trail;
     for (const QString& written : text.split(u';', Qt::SkipEmptyParts)) {
         const QStringList words = written.simplified().split(u' ');
-        const auto* const kind = std::ranges::find_if(KindTable, [&](const StepKind& row) {
+        const auto* const kind = std::ranges::find_if(KindTable, [&](const KindOfStep& row) {
             return words.front() == QLatin1String(row.name);
         });
         if (kind == KindTable.end() || words.size() != 3) {

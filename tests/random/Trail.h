@@ -19,13 +19,13 @@ struct Step {
 };
 using Trail = std::vector<Step>;
 
-struct StepKind {
+struct KindOfStep {
     const char* name;
     int weight; ///< how often, relative to the others
     void (RandomUser::*act)(unsigned a, unsigned b);
 };
 
-std::span<const StepKind> Kinds();
+std::span<const KindOfStep> Kinds();
 
 /// An endless sequence of steps, always the same for the same seed.
 class StepMaker {

@@ -106,9 +106,12 @@ std::optional<QString> TypedForm(QString cell, const FieldRule& rule, const QLoc
     return Ungrouped(std::move(cell), locale);
 }
 
-/// An apostrophe keeps a spreadsheet from taking the text for a formula.
-bool IsGuarded(const QString& cell) {
-    return cell.size() > 1 && cell.front() == u'\'' && QStringView(u"=+-@").contains(cell[1]);
+/// An apostrophe keeps a spreadsheet from taking the text for a formula; copied tables have it,
+/// too.
+QString Unguarded(const QString& cell) {
+    const bool isGuarded =
+        cell.size() > 1 && cell.front() == u'\'' && QStringView(u"=+-@").contains(cell[1]);
+    return isGuarded ? cell.mid(1) : cell;
 }
 
 std::optional<FieldValue> ReadFlag(const QString& cell) {
@@ -158,14 +161,14 @@ std::optional<FieldValue> ReadCell(const Worksheet& worksheet, FieldId field, co
     const FieldRule& rule = RuleOf(field);
     const FieldFormats& texts = worksheet.Texts();
     if (rule.kind == ValueKind::Text) {
-        return WithLenderLines(IsGuarded(cell) ? cell.mid(1) : cell);
+        return WithLenderLines(Unguarded(cell));
     }
     const QString text = cell.trimmed();
     if (rule.kind == ValueKind::Flag) {
         return text.isEmpty() ? FieldValue(false) : ReadFlag(text);
     }
     if (rule.IsNumber()) {
-        const auto number = TypedForm(text, rule, texts.Formats().Locale());
+        const auto number = TypedForm(Unguarded(text), rule, texts.Formats().Locale());
         return number ? texts.ReadTyped(field, *number, worksheet.Today()) : std::nullopt;
     }
     const auto value = texts.ReadTyped(field, text, worksheet.Today());

@@ -90,6 +90,7 @@ TEST(CellBlocks, AreReadAsSpreadsheetsShowThem) {
         {Points,        u"1.5"_s,           Percent::FromPercent(1.5)},
         {Points,        u"1.500%"_s,        Percent::FromPercent(1.5)},
         {Points,        u"\u22120.5"_s,     Percent::FromPercent(-0.5)},
+        {Points,        u"'-0.5"_s,         Percent::FromPercent(-0.5)}, // as Copy Table writes it
         {Term,          u"30"_s,            Months{360}},
         {Term,          u"thirty"_s,        std::nullopt},
         {Frequency,     u"Monthly"_s,       Code(u"M"_s)},

@@ -2,6 +2,7 @@
 
 #include "ControlMap.h"
 #include "FailureReport.h"
+#include "FocusTranslator.h"
 #include "Loan.h"
 #include "LoanForm.h"
 #include "OfferRows.h"
@@ -32,8 +33,8 @@ const std::array<RowCommands::Entry, 4>& RowCommands::Entries() {
     return entries;
 }
 
-RowCommands::RowCommands(Loan& window, const ControlMap& controls)
-    : m_window(&window), m_controls(&controls) {
+RowCommands::RowCommands(Loan& window, const ControlMap& controls, const FocusTranslator& focus)
+    : m_window(&window), m_controls(&controls), m_focus(&focus) {
     for (const Entry& entry : Entries()) {
         QAction* action = window.Form().*entry.action;
         action->setEnabled(true);
@@ -73,8 +74,10 @@ bool RowCommands::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
+/// A menu that was opened by keys has the focus itself.
 std::optional<Row> RowCommands::RowWithFocus() const {
-    const auto field = m_controls->FieldOf(m_window->focusWidget());
+    const auto focused = m_controls->FieldOf(m_window->focusWidget());
+    const auto field = focused ? focused : m_focus->Edited();
     return field && field->row != Field::NoRow ? std::optional(field->row) : std::nullopt;
 }
 

@@ -14,6 +14,7 @@ class QWidget;
 namespace quend::window {
 
 class ControlMap;
+class FocusTranslator;
 class Loan;
 
 /// Clears, duplicates and moves whole offers: those of the row with the focus by the Edit menu and
@@ -23,8 +24,8 @@ class RowCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// Both outlive this object. Enables the menu entries.
-    RowCommands(Loan& window, const ControlMap& controls);
+    /// All of them outlive this object. Enables the menu entries.
+    RowCommands(Loan& window, const ControlMap& controls, const FocusTranslator& focus);
 
     /// The row's context menu, outside its fields.
     void Watch(Row row, QWidget& controls);
@@ -56,6 +57,7 @@ private:
 
     Loan* m_window;
     const ControlMap* m_controls;
+    const FocusTranslator* m_focus;
 };
 
 } // namespace quend::window

@@ -85,6 +85,9 @@ bool FocusTranslator::eventFilter(QObject* watched, QEvent* event) {
         return false;
     }
     switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        m_keyDownIn.reset(); // a key press follows unless the key is a shortcut
+        return false;
     case QEvent::FocusIn:
         return OnFocusIn(*field, *static_cast<QFocusEvent*>(event));
     case QEvent::FocusOut:
@@ -193,7 +196,8 @@ bool FocusTranslator::OnTypedKey(Field field, const QKeyEvent& event) {
     return !std::ranges::all_of(typed, [&](QChar key) { return m_handlers->KeyPress(field, key); });
 }
 
-/// Only for a key pressed in the same field: a key that closed a list or menu is released here.
+/// Only for a key pressed in the same field: a key that closed a list or menu is released here, and
+/// so is a shortcut with an arrow key.
 bool FocusTranslator::OnKeyRelease(Field field, const QKeyEvent& event) {
     bool used = false;
     if (m_keyDownIn == field) {

@@ -10,6 +10,7 @@
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 
 using namespace Qt::StringLiterals;
 
@@ -82,6 +83,9 @@ TEST_F(RowCommands, StoreWhatIsBeingTypedFirst) {
     EXPECT_EQ(Sheet().OfferOfRow(Row{0}).InterestRate(), Rate::FromFraction(0.04));
     EXPECT_EQ(FocusName(), u"txtInterestRate(0)");
     EXPECT_EQ(Text(u"txtInterestRate(0)"), u"4");
+    Press(Qt::Key_Down, Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Lenders().first(3), u"ABC");
+    EXPECT_EQ(FocusName(), u"txtInterestRate(1)"); // the released key is no arrow key of its field
 }
 
 TEST_F(RowCommands, CopyEverythingEntered) {
@@ -98,8 +102,11 @@ TEST_F(RowCommands, AreOfferedOnlyWherePossible) {
     OpenThree();
     Window().Rows().GrowTo(Row{15});
     auto& menu = *Window().findChild<QMenu*>(u"mnuEdit"_s);
-    const auto enabled = [&](QStringView focus) {
+    const auto enabled = [&](QStringView focus, bool byKeys = false) {
         Enter(focus);
+        if (byKeys) { // the menu bar takes the focus
+            Window().menuBar()->setFocus(Qt::MenuBarFocusReason);
+        }
         Q_EMIT menu.aboutToShow();
         QString flags;
         for (const QStringView entry : {u"mnuEditClearOffer", u"mnuEditDuplicateOffer",
@@ -111,6 +118,7 @@ TEST_F(RowCommands, AreOfferedOnlyWherePossible) {
     };
     EXPECT_EQ(enabled(u"txtPoints(0)"), u"1101");
     EXPECT_EQ(enabled(u"txtPoints(1)"), u"1111");
+    EXPECT_EQ(enabled(u"txtPoints(1)", true), u"1111");
     EXPECT_EQ(enabled(u"txtPoints(3)"), u"0010");
     EXPECT_EQ(enabled(u"txtPoints(4)"), u"0000");
     EXPECT_EQ(enabled(u"txtLoanAmount"), u"0000");

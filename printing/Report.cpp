@@ -15,7 +15,7 @@ namespace {
 constexpr int SeparatorPen = 5;
 constexpr double FooterPoints = 6;
 /// The font shrinks with a window that is wider than the page, but not below this size.
-constexpr double LegiblePoints = 6;
+constexpr double LeastTypePoints = 6;
 /// The total padding above and below a text of several lines, in window units.
 constexpr double LinesPadding = 4;
 /// The distance of the lender's lines from the right edge, in twips.
@@ -50,13 +50,13 @@ double Report::TypeScale() const {
 }
 
 double Report::WidestWindow(double scaleWidth, double points, double pixelsPerPoint) {
-    const double leastTypeScale = std::min(1.0, LegiblePoints / points);
+    const double leastTypeScale = std::min(1.0, LeastTypePoints / points);
     return scaleWidth * pixelsPerPoint / (TwipsPerPoint * leastTypeScale);
 }
 
 void Report::TakeLabelFont(const FormLabel& label) {
     const double points =
-        std::max(label.points * TypeScale(), std::min(label.points, LegiblePoints));
+        std::max(label.points * TypeScale(), std::min(label.points, LeastTypePoints));
     m_page.SetType(points, label.bold);
 }
 

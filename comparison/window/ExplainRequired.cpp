@@ -50,7 +50,7 @@ QString WhyNoApr(const ExplainedOffer& offer, Money received,
 
 } // namespace
 
-QString ExplainApr(const ExplainedOffer& offer) {
+QString AprSentences(const ExplainedOffer& offer) {
     const Money received = offer.worksheet.input.amount - offer.figures.upfront;
     const auto rows = RequiredPayments(offer);
     if (!offer.figures.apr || !rows) {
@@ -86,7 +86,7 @@ QString WhyNothingSaved(const ExplainedOffer& offer) {
 
 } // namespace
 
-QString ExplainInterestSaved(const ExplainedOffer& offer) {
+QString InterestSavedSentences(const ExplainedOffer& offer) {
     QString nothing = WhyNothingSaved(offer);
     if (!nothing.isEmpty()) {
         return nothing;
@@ -96,7 +96,7 @@ QString ExplainInterestSaved(const ExplainedOffer& offer) {
                      *offer.result.payment, interest, interest + *offer.figures.interestSaved);
 }
 
-QString ExplainPaymentsSaved(const ExplainedOffer& offer) {
+QString PaymentsSavedSentences(const ExplainedOffer& offer) {
     QString nothing = WhyNothingSaved(offer);
     if (!nothing.isEmpty()) {
         return nothing;

@@ -57,8 +57,8 @@ QString ExplainCurrent(const ExplainedCurrent& loan, Figure figure);
 QString ExplainOffer(const ExplainedOffer& offer, Figure figure);
 
 // Those of ExplainOffer that need the schedule with the required payment.
-QString ExplainApr(const ExplainedOffer& offer);
-QString ExplainInterestSaved(const ExplainedOffer& offer);
-QString ExplainPaymentsSaved(const ExplainedOffer& offer);
+QString AprSentences(const ExplainedOffer& offer);
+QString InterestSavedSentences(const ExplainedOffer& offer);
+QString PaymentsSavedSentences(const ExplainedOffer& offer);
 
 } // namespace quend::compare

@@ -1,4 +1,5 @@
-"""Dragging with the mouse, within the window and to and from another program (neighbour.py)."""
+"""Dragging with the mouse, within the window and to and from another program (neighbour.py), which also shares
+the clipboard."""
 
 from __future__ import annotations
 
@@ -21,15 +22,18 @@ _START = 24   # pixels, more than the drag distance of any GUI library
 class Neighbour:
     """The other program, started next to the window; the session ends it."""
 
-    def __init__(self, session: Session, text: str, seconds: float) -> None:
+    def __init__(self, session: Session, text: str, seconds: float, copy: Path | None = None) -> None:
+        """With a `copy` of a spreadsheet's cells (without the ending of a file) it owns the clipboard."""
         self._seconds = seconds
         self._heard = 0
         self._said = session.folder / "neighbour.log"
         with self._said.open("wb") as said:
             self._process: subprocess.Popen[bytes] = session.start(
-                [sys.executable, str(_NEIGHBOUR), text], {"GDK_BACKEND": "x11", "NO_AT_BRIDGE": "1"},
-                output=said.fileno())
+                [sys.executable, str(_NEIGHBOUR), text, *([str(copy)] if copy else [])],
+                {"GDK_BACKEND": "x11", "NO_AT_BRIDGE": "1"}, output=said.fileno())
         self.place("gives")
+        if copy:
+            self.wait_for("owns")
 
     def lines(self) -> list[str]:
         """The output so far, without an incomplete last line."""
@@ -58,6 +62,13 @@ class Neighbour:
             self._process.send_signal(signal.SIGUSR1)
             wait_for("the neighbour to answer", lambda: self.lines().count("here") > before,
                      self._seconds)
+
+    def clipboard(self) -> tuple[str, str]:
+        """The text and the HTML on the clipboard, with \\n for line ends."""
+        self.listen()
+        self._process.send_signal(signal.SIGUSR2)
+        html = self.wait_for("html")
+        return self.last("text") or "", html
 
     def place(self, what: str) -> tuple[int, int]:
         """The centre of the widget that "gives" or "takes"."""

@@ -6,8 +6,10 @@ its text is read through the accessibility bus. No method sets a value by anothe
 
 from __future__ import annotations
 
+import re
 from collections.abc import Callable
 from functools import partial
+from html import escape
 from pathlib import Path
 
 from accessibility import (ACTIVE, CHECKED, EXPANDED, FOCUSED, SHOWING, Bus, BusError,
@@ -22,6 +24,7 @@ from printlab import PrintLab
 from session import Session
 from waiting import Expired, Found, wait_for
 
+_COPIES = Path(__file__).resolve().parents[2] / "tests/data/spreadsheet"
 _EDGE = 5  # pixels below the middle of a row's field: nearer to the edge, but still in the field
 _DIALOG_ROLES = frozenset({"alert", "alert message", "dialog"})
 _WINDOW_ROLES = frozenset({"frame", "window"})
@@ -38,6 +41,7 @@ class Window:
                  lab: PrintLab | None = None) -> None:
         self.session = session
         self.lab = lab
+        self._neighbour: Neighbour | None = None
         self._program = program
         self._texts = texts
         self._seconds = seconds
@@ -172,6 +176,33 @@ class Window:
     def meet(self, text: str) -> None:
         """Starts another program next to the window that provides this text to drag."""
         self._neighbour = Neighbour(self.session, text, self._seconds)
+
+    def clip(self, name: str) -> None:
+        """Another program copies cells of a spreadsheet, by the name of a real copy."""
+        self._neighbour = Neighbour(self.session, name, self._seconds, _COPIES / name)
+
+    def clipped(self, column: int) -> str:
+        """What another program gets from the clipboard: a column of a table, the same as text and in HTML."""
+        if self._neighbour is None:
+            self.meet("nothing")
+        text, html = self._neighbour.clipboard()
+        lines = [line.split("\t")[column] for line in text.split("\\n") if line]
+        rows = [re.findall("<t[hd][^>]*>(.*?)</t[hd]>", row)[column] for row in html.split("<tr>")[1:]]
+        if [escape(line, quote=False) for line in lines] != rows:
+            raise Refused(f"the text has {lines}, but the HTML {rows}")
+        return "; ".join(lines)
+
+    def entries(self, menu: str, count: int) -> str:
+        """Opens a menu, returns the names of its first entries, and closes it."""
+        self._must_be_free()
+        node = self.find(menu)
+        self._hands.click(*node.box().middle())
+        shown = self._wait(f"{menu} to open",
+                           lambda: [entry.name() for entry in list(node.walk())[1:]
+                                    if _is_shown(entry) and entry.name()])
+        self._hands.keys("Escape")
+        self._wait(f"{menu} to close", lambda: not any(map(_is_shown, node.children())))
+        return "; ".join(shown[:count])
 
     def drag(self, start: str, end: str, escape: bool = False) -> None:
         """Drags from one field to another or to the "neighbour"."""

@@ -3,15 +3,11 @@
 // bench/measure times the same from outside.
 
 #include "ControlMap.h"
-#include "EnterValues.h"
 #include "FakeMessages.h"
-#include "Frequency.h"
 #include "Loan.h"
 #include "LoanForm.h"
-#include "OfferRows.h"
 #include "QuendNames.h"
 #include "WindowMain.h"
-#include "Worksheet.h"
 
 #include <benchmark/benchmark.h>
 
@@ -34,28 +30,13 @@ private:
     int m_count = 0;
 };
 
-void Fill(Loan& window, int offers) {
-    window.Rows().GrowTo(Row{offers - 1});
-    Worksheet& sheet = window.GetWorksheet();
-    sheet.SetLoanAmount(Money::FromDouble(250'000));
-    for (Row row{0}; row < Row{offers}; ++row.value) {
-        EnterOffer(sheet, row,
-                   {{FieldId::Term, Months{360}},
-                    {FieldId::InterestRate, Rate::FromFraction(0.055 + 0.00125 * row.value)},
-                    {FieldId::Frequency, FrequencyCode(QStringLiteral("M"))}});
-    }
-}
-
 /// The key that stores the loan amount; every offer is recalculated and repainted.
 void KeyToPaintedResult(benchmark::State& state) {
     FakeMessages messages;
     Settings settings;
     settings.loansDisplayed = 15;
-    Loan window({.messages = &messages,
-                 .locale = QLocale(QLocale::English, QLocale::UnitedStates),
-                 .today = [] { return Date::FromCalendar(2026, 11, 21); }},
-                settings);
-    Fill(window, static_cast<int>(state.range(0)));
+    Loan window(BenchWorld(messages), settings);
+    FillOffers(window, static_cast<int>(state.range(0)));
     window.show();
     window.activateWindow();
     QCoreApplication::processEvents();

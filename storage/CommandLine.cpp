@@ -68,7 +68,9 @@ QString AnswerTo(Asked asked) {
 }
 
 bool CanStartWith(const QStringList& arguments) {
-    return arguments.size() <= 1 && std::ranges::none_of(arguments, IsOption);
+    return arguments.size() <= 1 && std::ranges::none_of(arguments, [](const QString& argument) {
+               return argument.isEmpty() || IsOption(argument);
+           });
 }
 
 QString RefusalOf(const QStringList& arguments) {
@@ -79,7 +81,7 @@ QString RefusalOf(const QStringList& arguments) {
     };
     const auto option = std::ranges::find_if(arguments, IsOption);
     return option != arguments.end() ? refuse(TextNumber::UnknownOption, *option)
-                                     : refuse(TextNumber::LoanTakesOneFile, arguments.at(1));
+                                     : refuse(TextNumber::LoanTakesOneFile, arguments.last());
 }
 
 } // namespace quend::storage

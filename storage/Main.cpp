@@ -156,7 +156,13 @@ int Run(const std::filesystem::path& place, const StoreCondition& condition,
     Loan window({.messages = &messages, .locale = QLocale::system(), .today = Today}, settings);
     const RegistryAPI store = ReportingStore(place, window.GetMessages(), TodayInWords);
     FileCommands files(window, WorksheetStore(store));
-    ExchangeCommands exchanging(window, FileDialogs(), [&files] { return files.MayDrop(); });
+    ExchangeCommands exchanging(window, FileDialogs(), [&files] {
+        const bool mayDrop = files.MayDrop();
+        if (mayDrop) { // the file's worksheet is none of the stored ones
+            files.ForgetStored();
+        }
+        return mayDrop;
+    });
     PictureDialog pictures;
     const OptionsCommands options(window, store, pictures);
     PrinterOfPlugin printer;

@@ -141,8 +141,10 @@ def _comparison(folder: pathlib.Path) -> dict[str, str]:
     rows = [["ms for the worksheet that costs most", tables.number(most.median), f"{most.spread:.0f} %"]]
     lines, spread = compare.middle(compare.lines_a_second(_BUILD / "bin", folder, _LINES, _WARM_ROUNDS))
     rows += [["worksheets a second by `quend-compare --lines`", tables.number(lines), f"{spread:.0f} %"]]
+    opened = report.by_size(benches.run(_BENCH / "loan_bench_compare_window"), "OpenComparison")
     return {"comparison": report.growth(_COMPARED_OFFERS, "ms by offers",
-                                        {"all figures of a usual worksheet": usual}),
+                                        {"all figures of a usual worksheet": usual,
+                                         "the window opened and painted, offscreen": opened}),
             "comparison limits": tables.table(["", "", "spread"], rows),
             "comparison starts": _starts_of_compare()}
 

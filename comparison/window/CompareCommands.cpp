@@ -10,6 +10,7 @@
 
 #include <QAction>
 
+#include <initializer_list>
 #include <utility>
 
 namespace quend::compare {
@@ -32,6 +33,16 @@ ComparedWorksheet ReadOnce(Loan& window) {
     ComparisonReader reader(window);
     reader.Read();
     return reader.Compared();
+}
+
+/// The keys of these entries work in the other window, too, for what is entered there.
+void ShareKeys(std::initializer_list<QAction*> entries, QWidget& other) {
+    for (QAction* entry : entries) {
+        auto* key = new QAction(&other);
+        key->setShortcuts(entry->shortcuts());
+        QObject::connect(key, &QAction::triggered, entry, &QAction::trigger);
+        other.addAction(key);
+    }
 }
 
 } // namespace
@@ -80,6 +91,7 @@ void CompareCommands::mnuToolsCompare_Click() {
     m_reader.Read();
     if (!m_compare) {
         m_compare = std::make_unique<frmCompare>(*m_window, m_world);
+        ShareKeys({m_window->Form().mnuEditUndo, m_window->Form().mnuEditRedo}, *m_compare);
         connect(m_compare.get(), &frmCompare::CostsEntered, this, &CompareCommands::EnterCosts);
         connect(m_compare.get(), &frmCompare::ChoiceChanged, this,
                 &CompareCommands::FollowWorksheet);

@@ -16,6 +16,7 @@
 #include "Worksheet.h"
 #include "ui_frmCompare.h"
 
+#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
@@ -46,6 +47,13 @@ void PlaceBeside(QWidget& window, const QWidget& other) {
     window.move(place.x(), std::max(place.y(), screen.top()));
 }
 
+/// To screen readers a plain widget is no window.
+QAccessibleInterface* AccessibleWindow(const QString& name, QObject* object) {
+    const bool isThis = name == QLatin1StringView("quend::compare::frmCompare");
+    return isThis ? new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Window)
+                  : nullptr;
+}
+
 } // namespace
 
 frmCompare::frmCompare(Loan& window, CompareWorld world)
@@ -53,6 +61,7 @@ frmCompare::frmCompare(Loan& window, CompareWorld world)
       m_costs(new CostsPage(window.GetWorksheet(), window.GetMessages())),
       m_overTime(new OverTimePage(window.GetWorksheet().Texts().Formats())),
       m_schedule(new SchedulePage(window.GetWorksheet().Texts().Formats())) {
+    QAccessible::installFactory(AccessibleWindow); // once, however often
     m_ui->setupUi(this);
     setAttribute(Qt::WA_QuitOnClose, false);
     for (ComparePage* page : std::initializer_list<ComparePage*>{m_costs, m_overTime, m_schedule}) {

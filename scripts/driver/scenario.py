@@ -24,7 +24,7 @@
     got                             prints what has been dropped on the neighbour
     clip <name>                     starts the neighbour, which owns the clipboard and offers the copy of a
                                     spreadsheet's cells of that name (tests/data/spreadsheet)
-    clipped <n>                     prints column n, from 0, of the table on the clipboard
+    clipped <n>                     prints column n, from 0, of the table on the clipboard that the neighbour gets
     entries <menu> <n>              prints the first n entries of a menu
     dialog                          waits for a message box, prints its text and closes it
     answer <text>|@<n>              waits for a question, prints it and presses that button
@@ -79,6 +79,7 @@ Prints one line per result: the control, a tab, the text.
 
 from __future__ import annotations
 
+import signal
 from collections.abc import Callable, Iterable, Iterator
 from dataclasses import dataclass
 from pathlib import Path
@@ -172,6 +173,12 @@ def _note(what: str, read: Callable[[Window], str]) -> Handler:
     return handle
 
 
+def _terminate(window: Window) -> list[Reading]:
+    window.end_by(signal.SIGTERM)
+    window.ended()
+    return []
+
+
 _HANDLERS: dict[str, Handler] = {
     "type": _deed(Window.type),
     "number": _deed(Window.number),
@@ -191,8 +198,8 @@ _HANDLERS: dict[str, Handler] = {
     "quit": _deed(lambda window, *_: window.quit()),
     "close": _deed(lambda window, *_: window.close()),
     "ended": _deed(lambda window, *_: window.ended()),
-    "kill": _deed(lambda window, *_: window.kill()),
-    "terminate": _deed(lambda window, *_: window.terminate()),
+    "kill": _deed(lambda window, *_: window.end_by(signal.SIGKILL)),
+    "terminate": lambda window, _: _terminate(window),
     "start": _deed(Window.start),
     "file": _deed(lambda window, file, _: window.dialogs.name_file(
         str(window.session.folder / file))),

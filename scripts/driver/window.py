@@ -6,10 +6,9 @@ its text is read through the accessibility bus. No method sets a value by anothe
 
 from __future__ import annotations
 
-import re
+import signal
 from collections.abc import Callable
 from functools import partial
-from html import escape
 from pathlib import Path
 
 from accessibility import (ACTIVE, CHECKED, EXPANDED, FOCUSED, SHOWING, Bus, BusError,
@@ -24,7 +23,6 @@ from printlab import PrintLab
 from session import Session
 from waiting import Expired, Found, wait_for
 
-_COPIES = Path(__file__).resolve().parents[2] / "tests/data/spreadsheet"
 _EDGE = 5  # pixels below the middle of a row's field: nearer to the edge, but still in the field
 _DIALOG_ROLES = frozenset({"alert", "alert message", "dialog"})
 _WINDOW_ROLES = frozenset({"frame", "window"})
@@ -41,7 +39,6 @@ class Window:
                  lab: PrintLab | None = None) -> None:
         self.session = session
         self.lab = lab
-        self._neighbour: Neighbour | None = None
         self._program = program
         self._texts = texts
         self._seconds = seconds
@@ -178,19 +175,12 @@ class Window:
         self._neighbour = Neighbour(self.session, text, self._seconds)
 
     def clip(self, name: str) -> None:
-        """Another program copies cells of a spreadsheet, by the name of a real copy."""
-        self._neighbour = Neighbour(self.session, name, self._seconds, _COPIES / name)
+        """Another program copies cells of a spreadsheet."""
+        self._neighbour = Neighbour(self.session, name, self._seconds, name)
 
     def clipped(self, column: int) -> str:
-        """What another program gets from the clipboard: a column of a table, the same as text and in HTML."""
-        if self._neighbour is None:
-            self.meet("nothing")
-        text, html = self._neighbour.clipboard()
-        lines = [line.split("\t")[column] for line in text.split("\\n") if line]
-        rows = [re.findall("<t[hd][^>]*>(.*?)</t[hd]>", row)[column] for row in html.split("<tr>")[1:]]
-        if [escape(line, quote=False) for line in lines] != rows:
-            raise Refused(f"the text has {lines}, but the HTML {rows}")
-        return "; ".join(lines)
+        """What the other program gets from the clipboard: a column of a table."""
+        return "; ".join(self._neighbour.copied(column))
 
     def entries(self, menu: str, count: int) -> str:
         """Opens a menu, returns the names of its first entries, and closes it."""
@@ -472,15 +462,10 @@ class Window:
     def process(self) -> int:
         return self._process.pid
 
-    def terminate(self) -> None:
-        """Asks the program to end by a signal, after it has processed all input, and waits for exit code 0."""
+    def end_by(self, number: signal.Signals) -> None:
+        """Sends the program a signal after it has processed all input, and waits for its end."""
         self.title()
-        self._process.terminate()
-        self.ended()
-
-    def kill(self) -> None:
-        """Kills the program, like a power failure."""
-        self._process.kill()
+        self._process.send_signal(number)
         self._process.wait()
 
     # Lists

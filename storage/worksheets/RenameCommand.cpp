@@ -14,7 +14,6 @@
 
 #include <QAction>
 #include <QInputDialog>
-#include <QLineEdit>
 
 #include <utility>
 
@@ -81,6 +80,7 @@ void RenameCommand::Rename(const QString& from, const QString& to) {
     if (!wasDirty) {
         worksheet.ClearDirty();
     }
+    m_window->ForgetSteps(); // undone, they would bring the old name back
     m_window->ShowTitle();
     m_window->Reenter();
 }

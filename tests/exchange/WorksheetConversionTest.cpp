@@ -2,6 +2,7 @@
 
 #include "WorksheetConversion.h"
 #include "EnterValues.h"
+#include "Language.h"
 #include "QuendNames.h"
 #include "SampleSheet.h"
 #include "Sheet.h"
@@ -156,6 +157,8 @@ TEST(WorksheetConversion, WhatCannotBeStoredIsNamed) {
              "actualFrequency": "M"}})",
          "6 current.actualPayment\n"},
     };
+    // A loan type may be written in any language.
+    Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
     for (const auto& row : table) {
         Sheet sheet;
         EXPECT_EQ(Put(sheet, Read(row.json)), row.failures) << row.json;

@@ -256,6 +256,8 @@ void Loan::OnFileDropped(std::function<void(const QString&)> open) {
 
 bool Loan::Commit() { return m_parts->focus.Commit(); }
 
+void Loan::ForgetSteps() { m_parts->undo.Empty(); }
+
 void Loan::Reenter() { m_parts->focus.Reenter(); }
 
 void Loan::ShowEdited() const {

@@ -57,6 +57,8 @@ public:
     void ShowEdited() const;
     /// After a change of the whole worksheet: shows the edited field's new value in entry form.
     void Reenter();
+    /// Nothing that was done before can be undone.
+    void ForgetSteps();
     /// A worksheet without a name cannot be saved: marks the name box.
     void MarkNameMissing();
     void ClearNameMark();

@@ -60,7 +60,7 @@ TEST_P(HelpRead, ContentsFollowThePage) {
 TEST_P(HelpRead, ContentsKeepTheMarkOfTheUser) {
     auto& contents = InHelp<QTreeView>(QStringLiteral("treContents"));
     ASSERT_TRUE(WaitFor([&] { return contents.model()->rowCount() == 1; }));
-    const QModelIndex fields = contents.model()->index(11, 0, contents.model()->index(0, 0));
+    const QModelIndex fields = contents.model()->index(12, 0, contents.model()->index(0, 0));
     contents.setCurrentIndex(fields);
     ASSERT_TRUE(QTest::qWaitForWindowActive(&Help()));
     QTest::keyClick(Help().windowHandle(), Qt::Key_Return);

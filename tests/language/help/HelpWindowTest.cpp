@@ -71,7 +71,7 @@ TEST_P(HelpShown, OpensOnContentsAtItsPlace) {
     EXPECT_FALSE(Help().testAttribute(Qt::WA_QuitOnClose));
     auto* contents = InHelp<QTreeView>(QStringLiteral("treContents")).model();
     ASSERT_TRUE(WaitFor([&] { return contents->rowCount() == 1; }));
-    EXPECT_EQ(contents->rowCount(contents->index(0, 0)), 13);
+    EXPECT_EQ(contents->rowCount(contents->index(0, 0)), 14);
 }
 
 /// Where even half of the window is too narrow for a title, the user can scroll to its end.

@@ -123,7 +123,7 @@ TEST_F(BringBack, TheLastOneKeptComesFirst) {
     }
     EXPECT_EQ(Offered(), u"&Bring Back “Two”");
     SwitchLanguage(Spanish);
-    EXPECT_EQ(Offered(), u"&Recuperar “Two”");
+    EXPECT_EQ(Offered(), u"Rec&uperar “Two”");
     SwitchLanguage(English);
     Window().ApplySettings(Window().GetSettings());
     Trigger(u"mnuFileBringBack");

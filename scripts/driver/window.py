@@ -170,13 +170,9 @@ class Window:
         self._hands.keys("Return")
         self._wait(f"the list of {control} to close", lambda: not node.has(EXPANDED))
 
-    def meet(self, text: str) -> None:
-        """Starts another program next to the window that provides this text to drag."""
-        self._neighbour = Neighbour(self.session, text, self._seconds)
-
-    def clip(self, name: str) -> None:
-        """Another program copies cells of a spreadsheet."""
-        self._neighbour = Neighbour(self.session, name, self._seconds, name)
+    def meet(self, text: str, copy: str = "") -> None:
+        """Starts another program next to the window that provides this text to drag, and perhaps a copy of cells."""
+        self._neighbour = Neighbour(self.session, text, self._seconds, copy)
 
     def clipped(self, column: int) -> str:
         """What the other program gets from the clipboard: a column of a table."""

@@ -1,11 +1,14 @@
-"""Dragging with the mouse, within the window and to and from another program (neighbour.py)."""
+"""Dragging with the mouse, within the window and to and from another program (neighbour.py), which also shares
+the clipboard."""
 
 from __future__ import annotations
 
+import re
 import signal
 import subprocess
 import sys
 from collections.abc import Callable
+from html import escape
 from pathlib import Path
 
 from pointer import Hands
@@ -13,6 +16,7 @@ from session import Session
 from waiting import wait_for
 
 _NEIGHBOUR = Path(__file__).with_name("neighbour.py")
+_COPIES = Path(__file__).resolve().parents[2] / "tests/data/spreadsheet"
 _ROUNDS = 10  # round trips, after which a program has processed all earlier events
 _BESIDE = 8   # pixels: a press at this distance from the previous one is not a double click
 _START = 24   # pixels, more than the drag distance of any GUI library
@@ -21,15 +25,18 @@ _START = 24   # pixels, more than the drag distance of any GUI library
 class Neighbour:
     """The other program, started next to the window; the session ends it."""
 
-    def __init__(self, session: Session, text: str, seconds: float) -> None:
+    def __init__(self, session: Session, text: str, seconds: float, copy: str = "") -> None:
+        """With the name of a spreadsheet's real `copy` it owns the clipboard."""
         self._seconds = seconds
         self._heard = 0
         self._said = session.folder / "neighbour.log"
         with self._said.open("wb") as said:
             self._process: subprocess.Popen[bytes] = session.start(
-                [sys.executable, str(_NEIGHBOUR), text], {"GDK_BACKEND": "x11", "NO_AT_BRIDGE": "1"},
-                output=said.fileno())
+                [sys.executable, str(_NEIGHBOUR), text, *([str(_COPIES / copy)] if copy else [])],
+                {"GDK_BACKEND": "x11", "NO_AT_BRIDGE": "1"}, output=said.fileno())
         self.place("gives")
+        if copy:
+            self.wait_for("owns")
 
     def lines(self) -> list[str]:
         """The output so far, without an incomplete last line."""
@@ -58,6 +65,17 @@ class Neighbour:
             self._process.send_signal(signal.SIGUSR1)
             wait_for("the neighbour to answer", lambda: self.lines().count("here") > before,
                      self._seconds)
+
+    def copied(self, column: int) -> list[str]:
+        """A column of the table on the clipboard. Raises ValueError unless it is the same in HTML."""
+        self.listen()
+        self._process.send_signal(signal.SIGUSR2)
+        rows = self.wait_for("html").split("<tr>")[1:]
+        cells = [line.split("\t")[column] for line in (self.last("text") or "").split("\\n") if line]
+        shown = [re.findall("<t[hd][^>]*>(.*?)</t[hd]>", row)[column] for row in rows]
+        if [escape(cell, quote=False) for cell in cells] != shown:
+            raise ValueError(f"the text has {cells}, but the HTML {shown}")
+        return cells
 
     def place(self, what: str) -> tuple[int, int]:
         """The centre of the widget that "gives" or "takes"."""

@@ -1,7 +1,8 @@
 """Another program on the same desktop, which uses GTK: it provides a text to drag, and shows what is dropped
-on it.
+on it. It can own the clipboard, as a spreadsheet does.
 
-Argument: the text to provide. Prints one line per event:
+Arguments: the text to provide; and, to own the clipboard, the path of the copy of a spreadsheet's cells without
+the endings .txt and .html. Prints one line per event:
 
     at <what> <x> <y>       the centre of "gives" and "takes" on the screen
     action <none|copy|move> what the target field would do with its text
@@ -9,12 +10,15 @@ Argument: the text to provide. Prints one line per event:
     got <text>              what was dropped on it
     begin, end              its drag has begun, has ended
     here                    the reply to the signal USR1, once all earlier events are processed
+    owns                    the clipboard is its own
+    text, html <text>       the reply to the signal USR2: the clipboard in these formats, with \\n for line ends
 """
 
 from __future__ import annotations
 
 import signal
 import sys
+from pathlib import Path
 
 import gi
 
@@ -23,6 +27,8 @@ from gi.repository import Gdk, GLib, Gtk  # noqa: E402
 
 _WIDTH = 200
 _HEIGHT = 60
+_TEXT = ("UTF8_STRING", "text/plain;charset=utf-8", "TEXT", "STRING")
+_HTML = ("text/html",)
 
 
 def _say(*words: object) -> None:
@@ -41,6 +47,30 @@ def _begin(_giver: Gtk.Widget, context: Gdk.DragContext) -> None:
 
 def _answer() -> bool:
     _say("here")
+    return True
+
+
+def _own_clipboard(window: Gtk.Window, copy: str) -> None:
+    """Offers the cells in the formats of a spreadsheet."""
+    offered = [(Path(copy + ending).read_bytes(), formats)
+               for ending, formats in ((".txt", _TEXT), (".html", _HTML))]
+
+    def give(_window: Gtk.Window, data: Gtk.SelectionData, info: int, _time: int) -> None:
+        data.set(data.get_target(), 8, offered[info][0])
+
+    for info, (_, formats) in enumerate(offered):
+        for name in formats:
+            Gtk.selection_add_target(window, Gdk.SELECTION_CLIPBOARD, Gdk.Atom.intern(name, False), info)
+    window.connect("selection-get", give)
+    if Gtk.selection_owner_set(window, Gdk.SELECTION_CLIPBOARD, Gdk.CURRENT_TIME):
+        _say("owns")
+
+
+def _tell_clipboard() -> bool:
+    clipboard = Gtk.Clipboard.get(Gdk.SELECTION_CLIPBOARD)
+    for word, formats in (("text", _TEXT), ("html", _HTML)):
+        held = clipboard.wait_for_contents(Gdk.Atom.intern(formats[0], False))
+        _say(word, (held.get_data().decode() if held else "").replace("\n", "\\n"))
     return True
 
 
@@ -93,6 +123,9 @@ def main() -> None:
     window.connect("destroy", Gtk.main_quit)
     window.connect("configure-event", lambda *_: _tell_places(window, giver, taker))
     window.show_all()
+    for copy in sys.argv[2:]:
+        _own_clipboard(window, copy)
+    GLib.unix_signal_add(GLib.PRIORITY_LOW, signal.SIGUSR2, _tell_clipboard)
     GLib.unix_signal_add(GLib.PRIORITY_LOW, signal.SIGUSR1, _answer)
     window.move(*_corner(window))
     Gtk.main()

@@ -22,6 +22,10 @@
     dragin <to>                     drags the neighbour's text to a field; prints the action that is
                                     reported to the neighbour: copy, move or none
     got                             prints what has been dropped on the neighbour
+    clip <name>                     starts the neighbour, which owns the clipboard and offers the copy of a
+                                    spreadsheet's cells of that name (tests/data/spreadsheet)
+    clipped <n>                     prints column n, from 0, of the table that the neighbour gets
+    entries <menu> <n>              prints the first n entries of a menu
     dialog                          waits for a message box, prints its text and closes it
     answer <text>|@<n>              waits for a question, prints it and presses that button
     progress                        waits for a window that closes by itself, prints its text
@@ -208,6 +212,10 @@ _HANDLERS: dict[str, Handler] = {
     "dragright": _deed(lambda window, *ends: window.drag_nothing(*ends, button=3)),
     "dragin": lambda window, field: [Reading("drag", window.drag_in(field))],
     "got": _note("got", Window.got),
+    "clip": _deed(lambda window, name, _: window.meet(name, name)),
+    "clipped": lambda window, column: [Reading("clipped", window.clipped(int(column)))],
+    "entries": lambda window, rest: [
+        Reading("entries", window.entries(_two(rest)[0], int(_two(rest)[1])))],
     "compare": _deed(lambda window, *_: window.comparison.open()),
     "back": _deed(lambda window, *_: window.comparison.back()),
     "show": _deed(lambda window, page, _: window.comparison.show(int(page))),

@@ -28,6 +28,7 @@ _LIBC = ctypes.CDLL(None, use_errno=True)
 _PR_SET_PDEATHSIG = 1
 _PR_SET_CHILD_SUBREAPER = 36
 _GRACE_SECONDS = 3.0
+_OPENBOX = Path("/etc/xdg/openbox/rc.xml")
 
 
 def _die_with_parent() -> None:
@@ -227,9 +228,12 @@ class Session:
         """A window that is mapped before the window manager runs would never become active.
 
         At the first key from a new keyboard the manager reloads its shortcuts and may miss that key, so
-        send one without effect first.
+        send one without effect first. Its keys that send a window to another desktop would take those that move
+        an offer.
         """
-        self.start(["openbox"])
+        settings = self.folder / "rc.xml"
+        settings.write_text(_OPENBOX.read_text(encoding="utf-8").replace('"S-A-', '"W-S-A-'), encoding="utf-8")
+        self.start(["openbox", "--config-file", str(settings)])
 
         def ready() -> bool:
             return subprocess.run(["xdotool", "get_num_desktops"], env=self.environment,

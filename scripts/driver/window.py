@@ -170,9 +170,25 @@ class Window:
         self._hands.keys("Return")
         self._wait(f"the list of {control} to close", lambda: not node.has(EXPANDED))
 
-    def meet(self, text: str) -> None:
-        """Starts another program next to the window that provides this text to drag."""
-        self._neighbour = Neighbour(self.session, text, self._seconds)
+    def meet(self, text: str, copy: str = "") -> None:
+        """Starts another program next to the window that provides this text to drag, and perhaps a copy of cells."""
+        self._neighbour = Neighbour(self.session, text, self._seconds, copy)
+
+    def clipped(self, column: int) -> str:
+        """What the other program gets from the clipboard: a column of a table."""
+        return "; ".join(self._neighbour.copied(column))
+
+    def entries(self, menu: str, count: int) -> str:
+        """Opens a menu, returns the names of its first entries, and closes it."""
+        self._must_be_free()
+        node = self.find(menu)
+        self._hands.click(*node.box().middle())
+        shown = self._wait(f"{menu} to open",
+                           lambda: [entry.name() for entry in list(node.walk())[1:]
+                                    if _is_shown(entry) and entry.name()])
+        self._hands.keys("Escape")
+        self._wait(f"{menu} to close", lambda: not any(map(_is_shown, node.children())))
+        return "; ".join(shown[:count])
 
     def drag(self, start: str, end: str, escape: bool = False) -> None:
         """Drags from one field to another or to the "neighbour"."""

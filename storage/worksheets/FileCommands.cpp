@@ -296,7 +296,7 @@ void FileCommands::Show(const KeptWorksheet& unsaved) {
         WorksheetStore::Load(*m_worksheet, unsaved.name, unsaved.values,
                              [this](Row last) { m_window->Rows().GrowTo(last); });
     m_store.Forget();
-    m_worksheet->MarkDirty();
+    m_worksheet->MarkUnsaved();
     m_window->ShowTitle();
     m_window->ClearNameMark();
     if (!outcome.failures.empty()) {

@@ -154,6 +154,10 @@ TEST_F(SessionEndTest, TheNextStartOffersWhatASignalEnded) {
         EXPECT_TRUE(Window().isWindowModified());
         EXPECT_EQ(KeptText("Home", "LoanAmount"), "5");
         EXPECT_EQ(Offered(Answer::Yes), u""); // only once
+        Fill(u"txtAnnualTaxes", u"5");
+        Trigger(u"mnuEditUndo");
+        EXPECT_EQ(Text(u"txtMonthlyEscrow"), u"");
+        EXPECT_TRUE(Sheet().Dirty()); // what was opened is not saved either
     }
 }
 

@@ -103,7 +103,7 @@ Loan::Parts::Parts(Loan& window, const World& world, Settings initial)
                  .renew = [&window] { window.RenewLanguage(); }},
                 report),
       resultKeys(window, controls, rows), payoffAdvice(worksheet, controls, report),
-      undo(window, worksheet, controls, focus, rows), rowCommands(window, controls, focus),
+      undo(window, worksheet, controls, focus, rows, notice), rowCommands(window, controls, focus),
       table(window, controls) {}
 
 Loan::Loan(const World& world, Settings settings) : m_ui(FormOf(*this)) {

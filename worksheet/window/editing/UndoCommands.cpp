@@ -8,6 +8,7 @@
 #include "Loan.h"
 #include "LoanForm.h"
 #include "OfferRows.h"
+#include "PaymentNotice.h"
 #include "StepTexts.h"
 #include "Worksheet.h"
 
@@ -60,9 +61,9 @@ private:
 };
 
 UndoCommands::UndoCommands(Loan& window, Worksheet& worksheet, const ControlMap& controls,
-                           FocusTranslator& focus, OfferRows& rows)
+                           FocusTranslator& focus, OfferRows& rows, PaymentNotice& notice)
     : m_window(&window), m_worksheet(&worksheet), m_controls(&controls), m_focus(&focus),
-      m_rows(&rows) {
+      m_rows(&rows), m_notice(&notice) {
     m_steps.setUndoLimit(MostSteps);
     const Ui::Loan& form = window.Form();
     const auto wire = [this](QAction& entry, void (UndoCommands::*handler)()) {
@@ -165,6 +166,7 @@ void UndoCommands::Run(int index, void (QUndoStack::*run)()) {
     }
     const StepName name = command->Name();
     (m_steps.*run)();
+    m_notice->Withdraw();
     GoTo(name);
 }
 

@@ -18,6 +18,7 @@ class ControlMap;
 class FocusTranslator;
 class Loan;
 class OfferRows;
+class PaymentNotice;
 
 /// Undoes and redoes the steps of the worksheet. In a field with something typed, undo is the
 /// text's. After a step the field concerned has the focus, and its row is in view.
@@ -27,7 +28,7 @@ class UndoCommands : public QObject {
 public:
     /// All of them outlive this object. Enables the menu entries while there is a step.
     UndoCommands(Loan& window, Worksheet& worksheet, const ControlMap& controls,
-                 FocusTranslator& focus, OfferRows& rows);
+                 FocusTranslator& focus, OfferRows& rows, PaymentNotice& notice);
     Q_DISABLE_COPY_MOVE(UndoCommands)
     ~UndoCommands() override;
 
@@ -57,6 +58,7 @@ private:
     const ControlMap* m_controls;
     FocusTranslator* m_focus;
     OfferRows* m_rows;
+    PaymentNotice* m_notice;
     QUndoStack m_steps;
 };
 

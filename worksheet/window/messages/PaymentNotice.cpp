@@ -29,6 +29,8 @@ void PaymentNotice::Start() {
     }
 }
 
+void PaymentNotice::Withdraw() { m_timer->stop(); }
+
 void PaymentNotice::TellRefused() { m_messages->Post(GetResourceText(TextNumber::PaymentRaised)); }
 
 void PaymentNotice::Timer1_Timer() {

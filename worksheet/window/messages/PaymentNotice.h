@@ -27,6 +27,8 @@ public:
 
     /// An intended payment has been marked.
     void Start();
+    /// The marks are gone because the payments were undone; there is nothing to tell any more.
+    void Withdraw();
     /// An intended payment was refused.
     void TellRefused();
 

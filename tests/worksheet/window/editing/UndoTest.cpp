@@ -98,6 +98,16 @@ TEST_F(Undo, TakesARaisedPaymentBackInSilence) {
     EXPECT_EQ(SettledMessages().size(), 1) << "no second notice";
 }
 
+/// The notice comes a second later, when the payment may be the earlier one again.
+TEST_F(Undo, WithdrawsTheNoticeOfAPayment) {
+    Open();
+    FillFirstOffer();
+    ASSERT_TRUE(Timer1().isActive());
+    PressUndo();
+    EXPECT_FALSE(Timer1().isActive());
+    EXPECT_FALSE(Sheet().PaymentNoticeShown());
+}
+
 TEST_F(Undo, ShowsTheRowConcernedWhereverItIsNow) {
     Open();
     SheetToWrite().SetLoanAmount(Money::FromDouble(100'000));

@@ -44,6 +44,7 @@ TEST_F(CLoanTest, StartsEmpty) {
     m_context.loanTerm = Months{360};
     CLoan fresh(m_context);
     EXPECT_FALSE(fresh.FinancePoints());
+    EXPECT_FALSE(MakeOffer(m_context, {}).FinancePoints());
     EXPECT_TRUE(fresh.Points().IsZero());
     EXPECT_FALSE(fresh.FinanceClosingCosts());
     EXPECT_EQ(fresh.ClosingCosts(), Money());

@@ -67,4 +67,23 @@ TEST(Payment, RepaysALoanWithinItsTerm) {
     }
 }
 
+TEST(Payment, MonthlyEscrowIsATwelfthInWholeCents) {
+    struct Case {
+        double taxes;
+        double insurance;
+        std::int64_t cents;
+    };
+    const std::vector<Case> cases{
+        {3'600.0, 1'200.0, 40'000},
+        {1'000.0, 0.0, 8'333},
+        {0.0, 1'001.0, 8'342},
+        {-12.0, 0.0, -100},
+    };
+    for (const auto& [taxes, insurance, cents] : cases) {
+        EXPECT_EQ(MonthlyEscrow(Money::FromDouble(taxes), Money::FromDouble(insurance)),
+                  Money::FromTenThousandths(cents * 100))
+            << taxes << " " << insurance;
+    }
+}
+
 } // namespace

@@ -1,4 +1,5 @@
 #include "Solving.h"
+#include "ComparedOffer.h"
 #include "Comparison.h"
 #include "Frequency.h"
 #include "LoanSchedule.h"
@@ -37,6 +38,14 @@ ComparisonInput Sheet() {
 /// What the offer requires, as the comparison says it.
 Money Required(const ComparisonInput& input) {
     return Compare(input).offers.front().payment.value_or(GreatestAmount);
+}
+
+TEST(Solving, PlacesOfOffers) {
+    const ComparisonInput input = Sheet();
+    EXPECT_EQ(OfferAt(input, 1), &input.offers.front());
+    for (const int place : {-1, CurrentLoanPlace, 2}) {
+        EXPECT_EQ(OfferAt(input, place), nullptr) << place;
+    }
 }
 
 TEST(Solving, LeastPaymentEndsByTheDayAndACentLessDoesNot) {

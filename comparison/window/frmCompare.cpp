@@ -35,7 +35,7 @@ void PlaceBeside(QWidget& window, const QWidget& other) {
     const QRect screen = other.screen()->availableGeometry();
     const QRect frame = other.frameGeometry();
     const QSize border = frame.size() - other.size();
-    const QSize size = usual.boundedTo(screen.size() - border);
+    const QSize size = usual.expandedTo(window.minimumSizeHint()).boundedTo(screen.size() - border);
     const QSize whole = size + border;
     QPoint place(screen.right() + 1 - whole.width(), screen.bottom() + 1 - whole.height());
     if (frame.right() + whole.width() <= screen.right()) {

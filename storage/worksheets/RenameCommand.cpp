@@ -24,6 +24,8 @@ std::optional<QString> AskForNewName(QWidget& parent, const QString& name) {
     dialog.setWindowTitle(GetResourceText(TextNumber::RenameTitle));
     dialog.setLabelText(GetResourceText(TextNumber::RenameTo));
     dialog.setTextValue(name);
+    constexpr int characters = 50; // the title is whole, too
+    dialog.setMinimumWidth(dialog.fontMetrics().averageCharWidth() * characters);
     dialog.setOkButtonText(GetResourceText(TextNumber::Ok));
     dialog.setCancelButtonText(GetResourceText(TextNumber::Cancel));
     return dialog.exec() == QDialog::Accepted ? std::optional(dialog.textValue()) : std::nullopt;

@@ -124,11 +124,12 @@ void RandomUser::Compare(const Picture& picture) {
     }
 }
 
-/// Undo and redo leave no field and raise no payment.
+/// Undo and redo leave no field, raise no payment and withdraw the notice of a raised one.
 void RandomUser::RestoreInModel() {
     m_model.GrowTo(Window().GetWorksheet().OfferCount());
     m_model.Restore(m_history.Now().values);
     m_model.dirty = !m_saved || !model::SameToSave(*m_saved, m_history.Now().state);
+    m_model.noticeComes = false;
     EnterInModel(FocusField());
 }
 

@@ -167,3 +167,30 @@ def _connect(address: str) -> Gio.DBusConnection:
         return Gio.DBusConnection.new_for_address_sync(address, flags, None, None)
     except GLib.Error as error:
         raise BusError(f"cannot reach the bus {address}: {error.message}") from error
+
+
+def is_there(node: Node) -> bool:
+    try:
+        return bool(node.role())
+    except BusError:
+        return False
+
+
+def is_shown(node: Node) -> bool:
+    return node.has(SHOWING) and node.box().width > 0
+
+
+def field_of(node: Node) -> Node:
+    """The entry field inside an editable list; otherwise the control itself."""
+    return next((child for child in node.children() if child.role() == "text"), node)
+
+
+def has_focus(node: Node) -> bool:
+    return node.has(FOCUSED) or field_of(node).has(FOCUSED)
+
+
+def open_items(node: Node) -> list[Node]:
+    """The entries of an open list; none while it is closed or has no current entry."""
+    if not node.has(EXPANDED):
+        return []
+    return [item for part in node.children() if part.role() == "list" for item in part.children()]

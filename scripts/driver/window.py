@@ -11,8 +11,8 @@ from collections.abc import Callable
 from functools import partial
 from pathlib import Path
 
-from accessibility import (ACTIVE, CHECKED, EXPANDED, FOCUSED, SHOWING, Bus, BusError,
-                           Node)
+from accessibility import (ACTIVE, CHECKED, EXPANDED, FOCUSED, SHOWING, Bus, BusError, Node, field_of,
+                           has_focus, is_shown, is_there, open_items)
 from comparison import Comparison
 from controls import Texts, active_text_of, kind_of
 from dialogs import Dialogs, words_of
@@ -109,7 +109,7 @@ class Window:
                 continue
             seen.append(f"{role} {name!r}")
             control = self._texts.control_of(role, name)
-            if control and not (control in self._known and _is_there(self._known[control])):
+            if control and not (control in self._known and is_there(self._known[control])):
                 self._known[control] = node
         return seen
 
@@ -117,7 +117,7 @@ class Window:
         """The control with that name. Raises Refused with the existing names."""
         kind_of(control)
         self._alive()
-        if not (control in self._known and _is_there(self._known[control])):
+        if not (control in self._known and is_there(self._known[control])):
             self._known.pop(control, None)
             seen = self._look_around()
             if control not in self._known:
@@ -129,21 +129,21 @@ class Window:
     def focus(self, control: str) -> Node:
         """Clicks on the control and waits until it has the focus."""
         node = self.find(control)
-        if not _has_focus(node):
+        if not has_focus(node):
             self._must_be_free()
             self._hands.click(*node.box().middle())
-            self._wait(f"{control} to take the focus", lambda: _has_focus(node))
+            self._wait(f"{control} to take the focus", lambda: has_focus(node))
         return node
 
     def type(self, control: str, text: str) -> None:
         """Replaces the text of the field and leaves it by Tab."""
-        node = _field_of(self.focus(control))
+        node = field_of(self.focus(control))
         self._hands.keys("ctrl+a", "Delete")
         self._hands.text(text)
         self._wait(f"{control} to show {text!r}", lambda: node.text() == text)
         self._hands.keys("Tab")
         self._wait(f"{control} to be left or a message",
-                   lambda: self._dialog_now() or not _has_focus(node))
+                   lambda: self._dialog_now() or not has_focus(node))
 
     def number(self, control: str, text: str) -> None:
         """Types a number, given with a decimal point, in the locale's format."""
@@ -185,9 +185,9 @@ class Window:
         self._hands.click(*node.box().middle())
         shown = self._wait(f"{menu} to open",
                            lambda: [entry.name() for entry in list(node.walk())[1:]
-                                    if _is_shown(entry) and entry.name()])
+                                    if is_shown(entry) and entry.name()])
         self._hands.keys("Escape")
-        self._wait(f"{menu} to close", lambda: not any(map(_is_shown, node.children())))
+        self._wait(f"{menu} to close", lambda: not any(map(is_shown, node.children())))
         return "; ".join(shown[:count])
 
     def drag(self, start: str, end: str, escape: bool = False) -> None:
@@ -316,7 +316,7 @@ class Window:
         self._must_be_free()
         for entry in path:
             node = self.find(entry)
-            self._wait(f"{entry} to be shown", partial(_is_shown, node))
+            self._wait(f"{entry} to be shown", partial(is_shown, node))
             self._hands.click(*node.box().middle())
         if len(path) > 1:
             last = self.find(path[-1])
@@ -328,7 +328,7 @@ class Window:
         self._hands.keys("ctrl+a")  # it may have been entered before
         self._hands.text(typed_date(self._locale, day))
         self._hands.keys("Tab")
-        self._wait(f"{control} to be left", lambda: not _has_focus(node))
+        self._wait(f"{control} to be left", lambda: not has_focus(node))
 
     def dialog(self, seconds: float | None = None) -> str:
         """Waits for a message box, closes it by Return and returns its text, with paths relative to the
@@ -385,7 +385,7 @@ class Window:
 
     def _read_list(self, control: str, node: Node) -> str:
         """The value of a list: its field's text, or the entry that it reports instead of its name."""
-        field = _field_of(node)
+        field = field_of(node)
         if field is not node:
             return field.text()
         name = node.name()
@@ -472,7 +472,7 @@ class Window:
         self._must_be_free()
         box = node.box()
         self._hands.click(box.x + box.width - 8, box.middle()[1])
-        return self._wait(f"the list of {control} to open", lambda: _open_items(node))
+        return self._wait(f"the list of {control} to open", lambda: open_items(node))
 
     def _index_of(self, wanted: str, entries: list[str]) -> int:
         named = {wanted}
@@ -489,30 +489,3 @@ class Window:
         except Expired:
             self._must_be_free()
             raise
-
-
-def _is_there(node: Node) -> bool:
-    try:
-        return bool(node.role())
-    except BusError:
-        return False
-
-
-def _is_shown(node: Node) -> bool:
-    return node.has(SHOWING) and node.box().width > 0
-
-
-def _field_of(node: Node) -> Node:
-    """The entry field inside an editable list; otherwise the control itself."""
-    return next((child for child in node.children() if child.role() == "text"), node)
-
-
-def _has_focus(node: Node) -> bool:
-    return node.has(FOCUSED) or _field_of(node).has(FOCUSED)
-
-
-def _open_items(node: Node) -> list[Node]:
-    """The entries of an open list; none while it is closed or has no current entry."""
-    if not node.has(EXPANDED):
-        return []
-    return [item for part in node.children() if part.role() == "list" for item in part.children()]

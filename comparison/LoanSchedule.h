@@ -13,7 +13,7 @@ inline constexpr int CurrentLoanPlace = 0;
 
 /// One payment of a schedule.
 struct ScheduleRow {
-    std::int64_t number; ///< from 1
+    std::int64_t number{}; ///< from 1
     Date date{};
     Money payment{}; ///< interest, principal and escrow
     Money interest{};

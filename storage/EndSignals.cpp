@@ -3,11 +3,11 @@
 #include <QSocketNotifier>
 
 #include <fcntl.h>
-#include <signal.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <utility>
 
 namespace quend::storage {

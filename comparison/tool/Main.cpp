@@ -10,6 +10,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <cstdio>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -48,9 +49,8 @@ private:
     std::unique_ptr<QCoreApplication> m_application;
 };
 
-} // namespace
-
-int main(int argc, char* argv[]) {
+/// The exit code.
+int Run(int argc, char** argv) {
     std::ios::sync_with_stdio(false); // otherwise standard input is read byte by byte
     std::cin.tie(nullptr);
     const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
@@ -64,4 +64,15 @@ int main(int argc, char* argv[]) {
         .loadLanguage = [&loader] { loader.Load(); },
     };
     return static_cast<int>(RunProgram(arguments, world));
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    try {
+        return Run(argc, argv);
+    } catch (...) { // all other failures are reported where they happen
+        static_cast<void>(std::fputs("quend-compare: out of memory\n", stderr));
+        return 1;
+    }
 }

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QUrl>
 #include <QUrlQuery>
 
@@ -85,7 +86,14 @@ QString WithMailLineEnds(QString text) {
     return text.replace(QLatin1String("\n"), QLatin1String("\r\n"));
 }
 
-class MailClient : public WindowTest {};
+class MailClient : public WindowTest {
+protected:
+    /// The system's script that finds the client is slow on a busy machine.
+    static bool WaitForMail(const Desktop& desktop) {
+        constexpr int longest = 60'000;
+        return QTest::qWaitFor([&] { return QFile::exists(desktop.Got()); }, longest);
+    }
+};
 
 TEST_F(MailClient, GetsTheMessageWhole) {
     QString longText;
@@ -105,7 +113,7 @@ TEST_F(MailClient, GetsTheMessageWhole) {
         const Desktop desktop(WritesAddress);
         ASSERT_NE(mail.SignOn(), 0) << "xdg-email is not installed";
         mail.Send(1, message);
-        ASSERT_TRUE(WaitFor([&] { return QFile::exists(desktop.Got()); }));
+        ASSERT_TRUE(WaitForMail(desktop));
         EXPECT_EQ(desktop.Address().scheme(), u"mailto");
         EXPECT_EQ(PartOf(desktop.Address(), "subject"), message.subject);
         EXPECT_EQ(PartOf(desktop.Address(), "body"), WithMailLineEnds(message.body));
@@ -119,7 +127,7 @@ TEST_F(MailClient, GetsTheRecommendationInBothLanguages) {
         Open({.language = language});
         const ShareCommands share(Window(), mail);
         Click(u"cmdShare");
-        ASSERT_TRUE(WaitFor([&] { return QFile::exists(desktop.Got()); }));
+        ASSERT_TRUE(WaitForMail(desktop));
         EXPECT_EQ(PartOf(desktop.Address(), "subject"), GetResourceText(TextNumber::MailSubject));
         EXPECT_EQ(PartOf(desktop.Address(), "body"),
                   WithMailLineEnds(ShareBody(GetResourceText(TextNumber::MailBody), QString())));
@@ -135,7 +143,7 @@ TEST_F(MailClient, ThatFailsIsMetWithSilence) {
     Open();
     const ShareCommands share(Window(), mail);
     Click(u"cmdShare");
-    EXPECT_TRUE(WaitFor([&] { return QFile::exists(desktop.Got()); }));
+    EXPECT_TRUE(WaitForMail(desktop));
     EXPECT_EQ(SettledMessages(), QStringList());
 }
 

@@ -17,7 +17,7 @@ namespace {
 /// Reads the cells of a text one after the other.
 class CellReader {
 public:
-    explicit CellReader(const QString& text) : m_text(text) {}
+    explicit CellReader(QString text) : m_text(std::move(text)) {}
 
     bool AtEnd() const { return m_at >= m_text.size(); }
 

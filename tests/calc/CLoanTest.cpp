@@ -70,6 +70,31 @@ struct PaymentCase {
     double payment;
 };
 
+/// Each entry tells two offers apart; what follows from the entries does not.
+TEST_F(CLoanTest, HasTheEntriesOfItsCopyUntilOneChanges) {
+    const CLoan same = m_loan;
+    static_cast<void>(m_loan.PayoffDate());
+    EXPECT_TRUE(m_loan.HasSameEntries(same));
+    const std::vector<std::function<void(CLoan&)>> changes{
+        [](CLoan& loan) { loan.SetFinancePoints(true); },
+        [](CLoan& loan) { loan.SetPoints(Percent::FromPercent(1)); },
+        [](CLoan& loan) { loan.SetFinanceClosingCosts(true); },
+        [](CLoan& loan) { loan.SetClosingCosts(Units(1)); },
+        [](CLoan& loan) { loan.SetCosts(Units(1)); },
+        [](CLoan& loan) { loan.SetStartingAmount(Units(1)); },
+        [](CLoan& loan) { loan.SetTerm(Months{1}); },
+        [](CLoan& loan) { loan.SetInterestRate(Rate::FromFraction(0.01)); },
+        [](CLoan& loan) { loan.SetFrequencyCode(FrequencyCode(u"B"_s)); },
+        [](CLoan& loan) { loan.SetActualPayment(Units(1'000)); },
+        [](CLoan& loan) { loan.SetWho(u"Bank"_s); },
+    };
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+        CLoan other = same;
+        changes[i](other);
+        EXPECT_FALSE(other.HasSameEntries(same)) << "change " << i;
+    }
+}
+
 TEST_F(CLoanTest, AddsTheEscrowShareToThePayment) {
     // clang-format off
     const std::vector<PaymentCase> cases{

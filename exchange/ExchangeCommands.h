@@ -27,7 +27,7 @@ public:
     /// The window takes no more files.
     ~ExchangeCommands() override;
 
-    /// Replaces the worksheet by that of a file. If it cannot be read, the user is told why and
+    /// Replaces the worksheet by that of a file. If it cannot be read, a message says why and
     /// nothing changes. Throws nothing: failures are reported to the user.
     void OpenFile(const QString& path);
 

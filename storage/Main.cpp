@@ -130,7 +130,8 @@ CompareWorld WorldOfComparison(PrintCommands& printing) {
             .saveColumns = [columns](const QByteArray& bytes) { KeepBytes(bytes, columns); }};
 }
 
-/// The file of the command line, once the window shows: why it cannot be opened is told over it.
+/// Opens the file of the command line after the window is shown, so that an error message has it
+/// as parent.
 void OpenNamedFile(ExchangeCommands& exchanging) {
     const QStringList named = QCoreApplication::arguments().mid(1);
     if (!named.isEmpty()) {

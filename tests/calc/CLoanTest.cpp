@@ -70,7 +70,7 @@ struct PaymentCase {
     double payment;
 };
 
-/// Each entry tells two offers apart; what follows from the entries does not.
+/// Every entry is compared; results are not.
 TEST_F(CLoanTest, HasTheEntriesOfItsCopyUntilOneChanges) {
     const CLoan same = m_loan;
     static_cast<void>(m_loan.PayoffDate());

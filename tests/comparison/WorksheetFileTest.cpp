@@ -176,15 +176,17 @@ TEST(WorksheetFile, WhatIsMissingOrUnknownIsPassedOver) {
     EXPECT_EQ(Read(R"({"name":"\ufeffa\ud83d\ude00"})").name, QStringLiteral("\ufeffa\U0001F600"));
 }
 
-TEST(WorksheetFile, AFaultNamesLineAndMember) {
-    struct Case {
-        QByteArray json;
-        FileFault fault;
-        int line;
-        const char* member;
-    };
+struct FaultCase {
+    QByteArray json;
+    FileFault fault;
+    int line;
+    const char* member;
+};
+
+const auto FaultCases = [] {
     using enum FileFault;
-    const std::array cases{
+    using Case = FaultCase;
+    return std::array{
         // json                                    fault        line member
         Case{"", NotJson, 1, ""},
         Case{" \n ", NotJson, 2, ""},
@@ -269,7 +271,10 @@ TEST(WorksheetFile, AFaultNamesLineAndMember) {
         Case{"{\n\"worksheet\":{\"offers\":[{\n\"rate\":-1}]}}", NotANumber, 3,
              "worksheet.offers[1].rate"},
     };
-    for (const Case& row : cases) {
+}();
+
+TEST(WorksheetFile, AFaultNamesLineAndMember) {
+    for (const FaultCase& row : FaultCases) {
         const ReadResult<ComparisonRequest> read = ReadRequest(row.json);
         const std::string shown = row.json.left(60).toStdString();
         EXPECT_FALSE(read.content) << shown;

@@ -245,7 +245,7 @@ TEST_F(Surroundings, OfAnyArgumentsAreTakenOrRefused) {
     struct Case {
         QStringList arguments;
         int exitCode;
-        bool starts = false; ///< a file that cannot be opened is told over the window
+        bool starts = false; ///< with an error message over the window
     };
     for (const auto& [arguments, exitCode, starts] :
          std::vector<Case>{{{u"-x"_s, u""_s, u"%n"_s, u"a\nb"_s, u"-reverse"_s, u"--help"_s}, 0},

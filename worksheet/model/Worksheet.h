@@ -156,14 +156,13 @@ public:
     private:
         Worksheet* m_sheet;
         std::optional<WorksheetState> m_before; ///< none inside another step
-        StepName m_name;
-        bool m_fixed = false;
+        std::optional<StepName> m_name;
     };
     /// `step` is called after each step that changed a value, `emptied` by Clear, after which no
     /// earlier step can be undone.
     void OnStep(std::function<void(WorksheetStep)> step, std::function<void()> emptied);
     WorksheetState State();
-    /// Shows a state of this worksheet. Nothing is entered, raised or told. Dirty afterwards,
+    /// Shows a state of this worksheet. Raises no payment, shows no message. Dirty afterwards,
     /// unless a save would store what was last saved.
     void Restore(const WorksheetState& state);
 

@@ -24,8 +24,7 @@ Worksheet::Step::Step(Worksheet& sheet, std::optional<StepName> name) : m_sheet(
     }
     if (sheet.m_onStep && !sheet.m_inStep && !sheet.m_deferred) {
         m_before = sheet.State();
-        m_fixed = name.has_value();
-        m_name = name.value_or(StepName{});
+        m_name = name;
         sheet.m_inStep = true;
     }
 }
@@ -38,7 +37,7 @@ Worksheet::Step::~Step() {
     WorksheetState after = m_sheet->State();
     if (*m_before != after) {
         m_sheet->m_onStep(
-            {m_fixed ? m_name : m_sheet->m_step, *std::move(m_before), std::move(after)});
+            {m_name.value_or(m_sheet->m_step), *std::move(m_before), std::move(after)});
     }
 }
 

@@ -25,7 +25,7 @@ QString WorksheetTitle::Text() const {
     if (Worksheet::IsEmptyName(name)) {
         return m_worksheet->Dirty() ? program + Place() : program;
     }
-    name.replace(Place(), Place() + Place()); // twice stands for the characters themselves
+    name.replace(Place(), Place() + Place()); // Qt shows a doubled placeholder literally
     return GetResourceText(TextNumber::TitleWithName).arg(name, program);
 }
 

@@ -106,6 +106,12 @@ TEST(CellBlocks, AreReadAsSpreadsheetsShowThem) {
         {Who,           u"'s Bank"_s,       u"'s Bank"_s},
         {Who,           u"$5"_s,            u"$5"_s},
     });
+    // clang-format on
+}
+
+TEST(CellBlocks, AreReadInTheUsersLocale) {
+    using enum FieldId;
+    // clang-format off
     Check(QLocale(QLocale::German, QLocale::Germany), {
         {ActualPayment, u"1.580,17 €"_s,      Amount(1580.17)},
         {ActualPayment, u"1.580,17\u00a0€"_s, Amount(1580.17)},

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Shown and stored: all that a user or a save can tell apart. The marks of raised payments pass by
+/// All that is shown and stored. The marks of raised payments are left out, because they pass by
 /// themselves.
 struct Picture {
     std::vector<std::tuple<Field, QString, bool, bool, Date>> shown;
@@ -122,7 +122,7 @@ TEST_F(WorksheetStepsTest, AreWhatChangesAValue) {
     }
 }
 
-/// A payment that the step raised is the earlier one again; nobody is told of it.
+/// Undo restores the payment that the step raised, without a message.
 TEST_F(WorksheetStepsTest, RestoreWithoutRaisingPayments) {
     Begin(1);
     EnterOffers(1);

@@ -8,8 +8,6 @@
 
 #include <vector>
 
-class QLineEdit;
-
 namespace quend::window {
 
 class ControlMap;
@@ -18,8 +16,8 @@ class Loan;
 /// Copies the offers as a table for spreadsheets and letters, and pastes cells of a spreadsheet
 /// into the fields from one on to the right and down. A block whose first row is the headings of
 /// the copied table goes into the columns that they name, without the computed ones; any other goes
-/// into entry fields only. Each cell is checked as if typed; the ones refused are told in one
-/// message, and one step undoes the block.
+/// into entry fields only. Each cell is checked as if typed; one message lists the refused
+/// ones, and one step undoes the block.
 class TableClipboard : public QObject {
     Q_OBJECT
 

@@ -27,7 +27,7 @@ public:
 
     /// An intended payment has been marked.
     void Start();
-    /// The marks are gone because the payments were undone; there is nothing to tell any more.
+    /// Stops the timer: undo has restored the payments and removed their marks.
     void Withdraw();
     /// An intended payment was refused.
     void TellRefused();

@@ -1,29 +1,30 @@
 set(QUEND_LANGUAGE_DIR "${CMAKE_CURRENT_LIST_DIR}/../language")
 
-# configure_texts(<texts.txt> <template> <source> <check variable>)
-# Generates a source from a template, with the table of texts as @texts@, and a Component.json beside it,
-# with the language and tag of the table's head as @language@ and @tag@. Add the file named by the check
-# variable to the target's sources: making it checks the table, so that an invalid table stops the build
-# with the line number.
-function(configure_texts table template source check)
+# compile_texts(<texts.txt> <rows>)
+# Compiles a table of texts into rows of a constant array. Add the rows to the sources of the target that includes
+# them. An invalid table stops the build with the line number.
+function(compile_texts table rows)
+  get_filename_component(texts_file "${table}" ABSOLUTE)
+  add_custom_command(OUTPUT "${rows}"
+    COMMAND compiletexts "${texts_file}" "${rows}"
+    DEPENDS compiletexts "${texts_file}"
+    COMMENT "Compiling ${texts_file}"
+    VERBATIM)
+endfunction()
+
+# configure_component(<texts.txt> <folder>)
+# Generates the source of a component in the folder, and a Component.json with the language and tag of the table's head.
+function(configure_component table folder)
   get_filename_component(texts_file "${table}" ABSOLUTE)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${texts_file}")
-  file(READ "${texts_file}" texts)
   foreach(header language tag)
-    string(REGEX MATCH "\n${header}[ \t]*=[ \t]*([^\r\n]*)" line "\n${texts}")
-    string(STRIP "${CMAKE_MATCH_1}" ${header})
-    string(REGEX REPLACE "([\"\\\\])" "\\\\\\1" ${header} "${${header}}")
+    file(STRINGS "${texts_file}" line REGEX "^${header}[ \t]*=" LIMIT_COUNT 1)
+    string(REGEX REPLACE "^[^=]*=[ \t]*" "" line "${line}")
+    string(STRIP "${line}" line)
+    string(REGEX REPLACE "([\"\\\\])" "\\\\\\1" ${header} "${line}")
   endforeach()
-  get_filename_component(folder "${source}" DIRECTORY)
-  configure_file("${QUEND_LANGUAGE_DIR}/${template}" "${source}" @ONLY)
+  configure_file("${QUEND_LANGUAGE_DIR}/LanguageComponent.cpp.in" "${folder}/Component.cpp" @ONLY)
   configure_file("${QUEND_LANGUAGE_DIR}/Component.json.in" "${folder}/Component.json" @ONLY)
-
-  add_custom_command(OUTPUT "${source}.checked"
-    COMMAND checktexts "${texts_file}"
-    COMMAND ${CMAKE_COMMAND} -E touch "${source}.checked"
-    DEPENDS checktexts "${texts_file}"
-    COMMENT "Checking ${texts_file}")
-  set(${check} "${source}.checked" PARENT_SCOPE)
 endfunction()
 
 # add_language_components(<target> FOLDER <folder> PROGRAM <name> DESTINATION <folder>)
@@ -38,9 +39,10 @@ function(add_language_components target)
     get_filename_component(folder "${table}" DIRECTORY)
     get_filename_component(identifier "${folder}" NAME)
     set(component "${target}_${identifier}")
-    set(source "${CMAKE_CURRENT_BINARY_DIR}/${component}/Component.cpp")
-    configure_texts("${table}" LanguageComponent.cpp.in "${source}" check)
-    add_library(${component} MODULE "${source}" "${check}")
+    set(folder "${CMAKE_CURRENT_BINARY_DIR}/${component}")
+    configure_component("${table}" "${folder}")
+    compile_texts("${table}" "${folder}/Texts.inc")
+    add_library(${component} MODULE "${folder}/Component.cpp" "${folder}/Texts.inc")
     set_target_properties(${component} PROPERTIES
       AUTOMOC ON
       PREFIX ""

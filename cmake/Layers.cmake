@@ -1,15 +1,18 @@
-# add_layer(<name> HEADERS … [PRIVATE_HEADERS …] SOURCES … USES …)
+# add_layer(<name> [COMPUTES] HEADERS … [PRIVATE_HEADERS …] SOURCES … USES …)
 # One layer: a static library that exposes only the folders of its public headers to its users, so that an
 # include in the wrong direction does not compile. Private headers are for the layer itself and its tests,
 # which link <name>_private; scripts/check_includes.py keeps other layers from those that share a folder with
-# public ones.
+# public ones. COMPUTES: its speed counts, not its size.
 function(add_layer name)
-  cmake_parse_arguments(LAYER "" "" "HEADERS;PRIVATE_HEADERS;SOURCES;USES" ${ARGN})
+  cmake_parse_arguments(LAYER "COMPUTES" "" "HEADERS;PRIVATE_HEADERS;SOURCES;USES" ${ARGN})
   add_library(${name} STATIC ${LAYER_SOURCES})
   add_headers(${name} PUBLIC ${LAYER_HEADERS})
   # Public, because headers are also compiled alone and by users of the layer.
   target_compile_features(${name} PUBLIC cxx_std_20)
   target_link_libraries(${name} PUBLIC ${LAYER_USES} PRIVATE strictness)
+  if(LAYER_COMPUTES AND CMAKE_BUILD_TYPE STREQUAL "Release")
+    target_compile_options(${name} PRIVATE -O3)
+  endif()
   if(LAYER_PRIVATE_HEADERS)
     add_library(${name}_private INTERFACE)
     add_headers(${name}_private INTERFACE ${LAYER_PRIVATE_HEADERS})

@@ -1,7 +1,6 @@
 #include "Language.h"
 
 #include "ComponentFile.h"
-#include "DefaultTexts.h"
 #include "Failure.h"
 #include "LanguageComponent.h"
 
@@ -44,7 +43,6 @@ Language& Language::Instance() {
 }
 
 Language::Language() { SetUp(QString(), QStringLiteral("Loan")); }
-Language::~Language() = default;
 
 void Language::SetUp(const QString& programFolder, const QString& programName) {
     m_programFolder = programFolder;
@@ -64,9 +62,12 @@ void Language::FindEntries() {
     }
     for (const QString& identifier : ComponentFile::Identifiers(m_programFolder, m_programName)) {
         const QString component = ComponentFile::ComponentName(m_programName, identifier);
+        if (EntryOfComponent(component) != nullptr) {
+            continue; // its file need not be read
+        }
         const std::optional<LanguageLabel> label =
             ComponentFile::Label(ComponentFile::Find(m_programFolder, component));
-        if (label && EntryOfComponent(component) == nullptr) {
+        if (label) {
             AddEntry(identifier, component, *label);
         }
     }
@@ -142,13 +143,6 @@ QString Language::Text(int id) {
     return m_component != nullptr ? m_component->Text(id) : DefaultText(id);
 }
 
-QString Language::DefaultText(int id) {
-    if (!m_defaultTexts) {
-        m_defaultTexts = std::make_unique<const DefaultTexts>();
-    }
-    return m_defaultTexts->Text(id);
-}
-
 QStringList Language::TextInEveryLanguage(int id) {
     QStringList texts{Text(id), DefaultText(id)};
     for (const LanguageEntry& entry : m_entries) {
@@ -164,7 +158,7 @@ QStringList Language::TextInEveryLanguage(int id) {
 QString GetResourceText(int id) {
     Language& language = Language::Instance();
     const QString text = language.Text(id);
-    return text.isNull() ? language.DefaultText(id) : text;
+    return text.isNull() ? Language::DefaultText(id) : text;
 }
 
 } // namespace quend::language

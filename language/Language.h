@@ -4,12 +4,10 @@
 #include <QStringList>
 
 #include <cstdint>
-#include <memory>
 #include <vector>
 
 namespace quend::language {
 
-class DefaultTexts;
 class LanguageComponent;
 struct LanguageLabel;
 
@@ -71,14 +69,14 @@ public:
     /// English has it. Captions use this, and show their design-time text then.
     QString Text(int id);
     /// The built-in English text; a null QString for an unknown number.
-    QString DefaultText(int id);
+    static QString DefaultText(int id);
     /// The text in every available language that has it, the current one first. Slow, because it
     /// loads the components of the others.
     QStringList TextInEveryLanguage(int id);
 
 private:
     Language();
-    ~Language();
+    ~Language() = default;
 
     void FindEntries();
     void AddEntry(const QString& identifier, const QString& component, const LanguageLabel& label);
@@ -94,7 +92,6 @@ private:
     QString m_helpFile;
     // Owned by the loaded library, which stays in memory until the process ends.
     const LanguageComponent* m_component = nullptr;
-    std::unique_ptr<const DefaultTexts> m_defaultTexts;
 };
 
 /// The text of this number in the current language, else in English, else (for an unknown number) a

@@ -52,7 +52,7 @@ bool Load(QTranslator& texts, const QString& catalogue) {
 void QtTexts::Renew() {
     QCoreApplication::removeTranslator(this);
     const QString catalogue = GetResourceText(TextNumber::QtTexts);
-    if (catalogue != Language::Instance().DefaultText(TextNumber::QtTexts)) {
+    if (catalogue != Language::DefaultText(TextNumber::QtTexts)) {
         static_cast<void>(Load(*this, catalogue)); // the program's own texts work without it
         QCoreApplication::installTranslator(this);
     }

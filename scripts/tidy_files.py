@@ -27,7 +27,7 @@ def kind_of(source, command):
     if EXPORTS.search(command):
         return "plugin"
     included = re.findall(r'^#include "(/.*)"', Path(source).read_text(), re.M)
-    if any(Path(name).name == "Main.cpp" or name.endswith("CheckTexts.cpp") for name in [source, *included]):
+    if any(Path(name).name == "Main.cpp" or name.endswith("CompileTexts.cpp") for name in [source, *included]):
         return "main"
     return re.search(r"([^/]+)\.dir/", OUTPUT.search(command).group(1)).group(1)
 

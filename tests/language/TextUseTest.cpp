@@ -88,7 +88,7 @@ TEST(TextUse, NumbersOfCodeAscend) {
 TEST(TextUse, BuiltInTextsAreThoseOfTheEnglishTable) {
     const TextTable table = EnglishTable();
     for (const auto& [number, text] : table.Texts()) {
-        EXPECT_EQ(text, Language::Instance().DefaultText(number));
+        EXPECT_EQ(text, Language::DefaultText(number));
     }
 }
 

@@ -50,7 +50,7 @@ QString LoanTypeCodeToText(const LoanTypeCode& code) {
 
 QString LoanTypeCodeToEnglish(const LoanTypeCode& code) {
     const TypeEntry* const type = TypeOf(code);
-    return type == nullptr ? QString() : Language::Instance().DefaultText(type->text);
+    return type == nullptr ? QString() : Language::DefaultText(type->text);
 }
 
 LoanTypeCode LoanTypeTextToCode(const QString& text) {

@@ -202,6 +202,7 @@ inline constexpr int CompareUpfrontNothing = 1052;
 inline constexpr int CompareAprEven = 1053; ///< as Apr, without a last payment
 
 // The window, and finding a payment.
+inline constexpr int OverTimeTable = 1215;
 inline constexpr int HorizonYear = 1240;
 inline constexpr int HorizonYears = 1241;
 inline constexpr int CompareTitle = 1242; ///< %1: the name of the worksheet

@@ -25,7 +25,7 @@ QByteArray TableOf(const ComparePage& page, const QLocale& locale, QChar separat
     if (symbols.decimal == separator) {
         symbols.decimal = u'.';
     }
-    return SeparatedValues(WholeTable(*page.Table().model(), page.Table().ShownColumns()), symbols);
+    return SeparatedValues(page.Table().AllCells(), symbols);
 }
 
 } // namespace

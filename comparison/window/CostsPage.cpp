@@ -59,10 +59,8 @@ void CostsPage::Show(const ComparedWorksheet& worksheet) {
 void CostsPage::ShowLeftOut() {
     const QStringList lines = WhyLeftOutLines(*m_worksheet, m_sheet->Texts().Formats());
     m_ui->lblLeftOut->setVisible(!lines.isEmpty());
-    // A lender whose name is written from right to left must not turn the line round.
-    const QString nextLine = QStringLiteral("\n\u200E");
-    m_ui->lblLeftOut->setText(GetResourceText(TextNumber::CompareLeftOut) + nextLine +
-                              lines.join(nextLine));
+    m_ui->lblLeftOut->setText(GetResourceText(TextNumber::CompareLeftOut) + u'\n' +
+                              lines.join(u'\n'));
 }
 
 void CostsPage::ExplainCurrent() {

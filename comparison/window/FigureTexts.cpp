@@ -1,7 +1,13 @@
 #include "FigureTexts.h"
 
 #include "CompareTextNumbers.h"
+#include "FieldValue.h"
 #include "Language.h"
+
+#include <QLocale>
+
+#include <cmath>
+#include <variant>
 
 namespace quend::compare {
 
@@ -75,6 +81,21 @@ QString StretchText(const CheaperStretch& stretch, const DisplayFormats& formats
 
 QString TextOf(const FigureValue& value, const DisplayFormats& formats) {
     return std::visit(Writer(formats), value);
+}
+
+QString PlainNumberOf(const FigureValue& value) {
+    static const DisplayFormats plain(QLocale::c());
+    constexpr double precision = 1e8;
+    const ByType number{
+        [](Money amount) { return plain.GeneralNumber(amount); },
+        [](Rate rate) {
+            const double percent = Percent::FromRate(rate).Value();
+            return plain.GeneralNumber(std::round(percent * precision) / precision);
+        },
+        [](std::int64_t count) { return QString::number(count); },
+        [](const auto& /*other*/) { return QString(); },
+    };
+    return std::visit(number, value);
 }
 
 } // namespace quend::compare

@@ -19,4 +19,8 @@ QString StretchText(const CheaperStretch& stretch, const DisplayFormats& formats
 /// decimals, both as the main window does. No value is an empty text; no stretch says "never".
 QString TextOf(const FigureValue& value, const DisplayFormats& formats);
 
+/// Amounts and counts as exact decimals, rates in percent to eight decimals, with a point and the
+/// digits 0 to 9; a null text for what is no number.
+QString PlainNumberOf(const FigureValue& value);
+
 } // namespace quend::compare

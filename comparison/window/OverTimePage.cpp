@@ -17,6 +17,7 @@ OverTimePage::OverTimePage(DisplayFormats formats)
     : m_ui(std::make_unique<Ui::OverTimePage>()), m_formats(std::move(formats)) {
     m_ui->setupUi(this);
     m_ui->tblOverTime->setModel(&m_model);
+    m_ui->tblOverTime->ShowRowHeadings();
     connect(m_ui->optCost, &QRadioButton::toggled, this, [this] { ShowLines(); });
     connect(m_ui->chkTable, &QCheckBox::toggled, m_ui->stkOverTime,
             [this](bool table) { m_ui->stkOverTime->setCurrentIndex(table ? 1 : 0); });
@@ -64,10 +65,12 @@ std::unique_ptr<printing::Drawing> OverTimePage::Draw(const printing::Paper& pap
         PaintChart(painter, place, shown, formats, LookOfPaper(painter.font()));
     };
     return printing::DrawingOf(
-        printing::PictureOnPaper{.title = Title(),
-                                 .paragraphs = {},
-                                 .paint = paint,
-                                 .table = PaperTableOf(*m_ui->tblOverTime, Title(), {})},
+        printing::PictureOnPaper{
+            .title = Title(),
+            .paragraphs = {},
+            .paint = paint,
+            .table =
+                PaperTableOf(*m_ui->tblOverTime, GetResourceText(TextNumber::OverTimeTable), {})},
         paper);
 }
 

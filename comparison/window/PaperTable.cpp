@@ -10,21 +10,29 @@ namespace quend::compare {
 printing::TableOnPaper PaperTableOf(const FigureTable& table, const QString& title,
                                     const QStringList& paragraphs) {
     printing::TableOnPaper paper{.title = title, .paragraphs = paragraphs};
-    const QAbstractItemModel& model = *table.model();
-    const std::vector<int> columns = table.ShownColumns();
-    for (const int column : columns) {
+    const TableCells cells = table.AllCells();
+    const QAbstractItemModel& model = *cells.model;
+    if (cells.rowHeadings) {
+        paper.headings << QString();
+        paper.rightAligned.push_back(false);
+    }
+    for (const int column : cells.columns) {
         paper.headings << model.headerData(column, Qt::Horizontal).toString();
         const QVariant side = model.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole);
         paper.rightAligned.push_back((side.toInt() & Qt::AlignRight) != 0);
     }
-    for (int row = 0; row < model.rowCount(); ++row) {
+    for (const int row : cells.rows) {
         QStringList texts;
-        for (std::size_t i = 0; i < columns.size(); ++i) {
-            const QModelIndex cell = model.index(row, columns[i]);
-            texts << cell.data().toString();
+        if (cells.rowHeadings) {
+            texts << model.headerData(row, Qt::Vertical).toString();
+        }
+        for (const int column : cells.columns) {
+            const QModelIndex cell = model.index(row, column);
             if (cell.data(Qt::FontRole).value<QFont>().bold()) {
-                paper.bold.push_back({static_cast<std::size_t>(row), i});
+                paper.bold.push_back({.row = static_cast<std::size_t>(row),
+                                      .column = static_cast<std::size_t>(texts.size())});
             }
+            texts << cell.data().toString();
         }
         paper.rows.push_back(texts);
     }

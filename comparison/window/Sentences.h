@@ -19,7 +19,11 @@ public:
 
     template <typename... Values>
     QString operator()(int number, const Values&... values) const {
-        return GetResourceText(number).arg(TextOf(FigureValue(values), *m_formats)...);
+        const QString text = GetResourceText(number);
+        const QString sentence = text.arg(TextOf(FigureValue(values), *m_formats)...);
+        // A lender's name that is written from right to left must not turn the sentence round.
+        const bool isTurned = sentence.isRightToLeft() && !text.isRightToLeft();
+        return isTurned ? LeftToRightMark + sentence : sentence;
     }
 
     /// Without decimals where the amount has none.
@@ -31,6 +35,8 @@ public:
     }
 
 private:
+    static constexpr QChar LeftToRightMark{0x200E};
+
     const DisplayFormats* m_formats;
 };
 

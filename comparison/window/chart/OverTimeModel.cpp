@@ -1,7 +1,9 @@
 #include "OverTimeModel.h"
 
 #include "ChartWords.h"
+#include "FigureTexts.h"
 #include "Quantities.h"
+#include "TableText.h"
 
 #include <cstddef>
 #include <utility>
@@ -9,6 +11,8 @@
 namespace quend::compare {
 
 namespace {
+
+QVariant AtTheRight() { return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter); }
 
 int RowsOf(const ChartData& data, int monthsPerRow) {
     return 1 + (data.Span() + monthsPerRow - 1) / monthsPerRow;
@@ -61,9 +65,9 @@ QVariant OverTimeModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleTextRole:
         return SentenceOf(m_data, m_formats, line, month);
     case Qt::TextAlignmentRole:
-        return int(Qt::AlignRight | Qt::AlignVCenter);
-    case AmountRole:
-        return qlonglong(line.By(month).TenThousandths());
+        return AtTheRight();
+    case NumberRole:
+        return PlainNumberOf(line.By(month));
     default:
         return {};
     }
@@ -71,7 +75,13 @@ QVariant OverTimeModel::data(const QModelIndex& index, int role) const {
 
 QVariant OverTimeModel::headerData(int section, Qt::Orientation orientation, int role) const {
     const int sections = orientation == Qt::Horizontal ? columnCount() : rowCount();
-    if (role != Qt::DisplayRole || section < 0 || section >= sections) {
+    if (section < 0 || section >= sections) {
+        return {};
+    }
+    if (role == Qt::TextAlignmentRole && orientation == Qt::Horizontal) {
+        return AtTheRight();
+    }
+    if (role != Qt::DisplayRole) {
         return {};
     }
     if (orientation == Qt::Horizontal) {

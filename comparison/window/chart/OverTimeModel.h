@@ -12,14 +12,12 @@
 namespace quend::compare {
 
 /// The values of the chart as a table, for screen readers and for export: a column a loan, a row a
-/// year, or a month where less than three years are shown. The first row is today.
+/// year, or a month where less than three years are shown. The first row is today. The headings of
+/// the rows name their time.
 class OverTimeModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    /// The value in ten-thousandths, a qlonglong.
-    static constexpr int AmountRole = Qt::UserRole;
-
     using QAbstractTableModel::QAbstractTableModel;
 
     /// Selections stay where there are as many loans and rows as before.

@@ -2,6 +2,7 @@
 
 #include "CompareTextNumbers.h"
 #include "FigureColumns.h"
+#include "FigureTexts.h"
 #include "Language.h"
 #include "TableRoles.h"
 

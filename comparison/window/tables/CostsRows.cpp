@@ -4,10 +4,7 @@
 #include "FigureColumns.h"
 #include "FigureTexts.h"
 
-#include <QLocale>
-
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <utility>
 #include <variant>
@@ -98,21 +95,6 @@ QVariant SortKeyOf(const FigureValue& value) {
         [](const std::vector<CheaperStretch>& stretches) { return QVariant(KeyOf(stretches)); },
     };
     return std::visit(key, value);
-}
-
-QString PlainNumberOf(const FigureValue& value) {
-    static const DisplayFormats plain(QLocale::c());
-    constexpr double precision = 1e8;
-    const ByType number{
-        [](Money amount) { return plain.GeneralNumber(amount); },
-        [](Rate rate) {
-            const double percent = Percent::FromRate(rate).Value();
-            return plain.GeneralNumber(std::round(percent * precision) / precision);
-        },
-        [](std::int64_t count) { return QString::number(count); },
-        [](const auto& /*other*/) { return QString(); },
-    };
-    return std::visit(number, value);
 }
 
 } // namespace quend::compare

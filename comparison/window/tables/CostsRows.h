@@ -38,8 +38,4 @@ std::vector<CostsRow> CostsRows(const ComparedWorksheet& worksheet, const Displa
 /// first month, those that end later first; none at all comes last.
 QVariant SortKeyOf(const FigureValue& value);
 
-/// Amounts and counts as exact decimals, rates in percent to eight decimals, with a point and the
-/// digits 0 to 9; a null text for what is no number.
-QString PlainNumberOf(const FigureValue& value);
-
 } // namespace quend::compare

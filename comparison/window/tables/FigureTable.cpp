@@ -80,6 +80,8 @@ void FigureTable::setModel(QAbstractItemModel* model) {
     }
 }
 
+void FigureTable::ShowRowHeadings() { verticalHeader()->show(); }
+
 // Columns
 
 void FigureTable::FitRows() {
@@ -141,8 +143,14 @@ void FigureTable::SortBy(int column) {
 
 // Copying and editing
 
-TableCells FigureTable::CellsToCopy() const {
+TableCells FigureTable::AllCells() const {
     TableCells all = WholeTable(*model(), ShownColumns());
+    all.rowHeadings = !verticalHeader()->isHidden();
+    return all;
+}
+
+TableCells FigureTable::CellsToCopy() const {
+    TableCells all = AllCells();
     const auto isSelected = [this](int row, int column) {
         return selectionModel()->isSelected(model()->index(row, column));
     };

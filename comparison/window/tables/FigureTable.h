@@ -33,6 +33,9 @@ public:
     /// Shows the usual columns. Only a proxy can be sorted by the headings.
     void setModel(QAbstractItemModel* model) override;
 
+    /// Shows the headings that the model has for rows. They are copied and exported, too.
+    void ShowRowHeadings();
+
     /// Characters that may be typed into a cell; at first all.
     void AllowKeys(std::function<bool(QChar)> allows);
     /// Stores the entry being typed, if any. False: it was refused, and is still being edited.
@@ -40,6 +43,8 @@ public:
 
     /// The columns that are shown, from left to right.
     std::vector<int> ShownColumns() const;
+    /// All rows of them, with headings.
+    TableCells AllCells() const;
     /// The selected cells, without headings; with headings all cells, where none is selected or
     /// all are.
     TableCells CellsToCopy() const;

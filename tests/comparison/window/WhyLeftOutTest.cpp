@@ -84,6 +84,10 @@ TEST(WhyLeftOut, EachReason) {
                           .toStdString());
         }
     }
+    ComparedWorksheet turned = Compared({.offers = {{}}});
+    turned.lenders = {u"بنك"_s};
+    EXPECT_EQ(WhyLeftOut(turned, 1, Switch(Texts::English, "en_US")),
+              u"\u200Eبنك (enter the loan amount)"_s);
     ComparedWorksheet blank = Compared({.offers = {{}}});
     blank.lenders = {QString()};
     EXPECT_EQ(WhyLeftOut(blank, 1, Switch(Texts::English, "en_US")), QString());

@@ -46,6 +46,10 @@ QString Heading(const TableCells& cells, int column) {
     return WithoutFormula(HeadingIn(*cells.model, column));
 }
 
+QString RowHeading(const TableCells& cells, int row) {
+    return WithoutFormula(cells.model->headerData(row, Qt::Vertical).toString());
+}
+
 QString PlainText(const QModelIndex& index, QChar decimal) {
     const QVariant number = index.data(NumberRole);
     return number.isValid() ? number.toString().replace(u'.', decimal) : ShownText(index);
@@ -55,18 +59,22 @@ QString PlainText(const QModelIndex& index, QChar decimal) {
 QString TableLines(const TableCells& cells, TextSymbols symbols, QLatin1StringView end,
                    const std::function<QString(const QString&)>& adapt) {
     QString lines;
-    const auto add = [&](const std::function<QString(int column)>& textOf) {
+    const auto add = [&](const QString& rowHeading,
+                         const std::function<QString(int column)>& textOf) {
         QStringList texts;
+        if (cells.rowHeadings) {
+            texts.append(adapt(rowHeading));
+        }
         for (const int column : cells.columns) {
             texts.append(adapt(textOf(column)));
         }
         lines += texts.join(symbols.separator) + end;
     };
     if (cells.headings) {
-        add([&](int column) { return Heading(cells, column); });
+        add(QString(), [&](int column) { return Heading(cells, column); });
     }
     for (const int row : cells.rows) {
-        add([&](int column) {
+        add(RowHeading(cells, row), [&](int column) {
             const QModelIndex index = cells.model->index(row, column);
             return IsLeftOut(cells, index) ? QString() : PlainText(index, symbols.decimal);
         });
@@ -110,7 +118,7 @@ QString HtmlCell(QLatin1StringView tag, const QVariant& alignment, const QString
 }
 
 QString HtmlHeadings(const TableCells& cells) {
-    QString line;
+    QString line = cells.rowHeadings ? HtmlCell(QLatin1StringView("th"), {}, QString()) : QString();
     for (const int column : cells.columns) {
         const QVariant side =
             cells.model->headerData(column, Qt::Horizontal, Qt::TextAlignmentRole);
@@ -120,7 +128,9 @@ QString HtmlHeadings(const TableCells& cells) {
 }
 
 QString HtmlRow(const TableCells& cells, int row) {
-    QString line;
+    QString line = cells.rowHeadings
+                       ? HtmlCell(QLatin1StringView("th"), {}, Escaped(RowHeading(cells, row)))
+                       : QString();
     for (const int column : cells.columns) {
         const QModelIndex index = cells.model->index(row, column);
         const bool isBold = index.data(Qt::FontRole).value<QFont>().bold();

@@ -33,6 +33,7 @@ struct TableCells {
     std::vector<int> columns{}; ///< of the model, in the order in which they are shown
     std::vector<int> rows{};
     bool headings = true;
+    bool rowHeadings = false; ///< those of the rows, as texts in front of them
     /// Cells that it does not hold are left empty; null: none is.
     const QItemSelectionModel* selection = nullptr;
 };

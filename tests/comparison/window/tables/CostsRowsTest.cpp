@@ -1,5 +1,6 @@
 #include "CostsRows.h"
 #include "FigureColumns.h"
+#include "FigureTexts.h"
 #include "SampleTables.h"
 
 #include <gtest/gtest.h>

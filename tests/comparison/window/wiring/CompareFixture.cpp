@@ -2,6 +2,7 @@
 
 #include "ComparisonOfWorksheet.h"
 #include "Drawing.h"
+#include "DrawnItems.h"
 #include "EnterValues.h"
 #include "FigureColumns.h"
 #include "FigureTable.h"
@@ -16,13 +17,13 @@ using quend::printing::DrawDocument;
 
 namespace {
 
-std::size_t PagesOf(const DrawDocument& draw) {
+quend::printing::PrintedPages PagesOf(const DrawDocument& draw) {
     const quend::printing::FontMetrics metrics;
     const auto drawing = draw({.space = QSizeF(9000, 13000),
                                .metrics = &metrics,
                                .font = {.family = QApplication::font().family(), .points = 9},
                                .legalNotice = {}});
-    return quend::printing::DrawWhole(*drawing).pages.size();
+    return quend::printing::DrawWhole(*drawing);
 }
 
 } // namespace
@@ -35,12 +36,17 @@ CompareWorld CompareTest::World() {
                 [this](QWidget& parent, const QString& title, const DrawDocument& draw) {
                     EXPECT_EQ(&parent, CompareWindow());
                     m_outside.printed << title;
-                    m_outside.pages = PagesOf(draw);
+                    const auto pages = PagesOf(draw).pages;
+                    m_outside.pages = pages.size();
+                    m_outside.texts.clear();
+                    for (const auto& page : pages) {
+                        m_outside.texts << TextsOf(page);
+                    }
                 },
             .exportPdf =
                 [this](const QString& file, const QString&, const DrawDocument& draw) {
                     m_outside.pdfs << file;
-                    m_outside.pages = PagesOf(draw);
+                    m_outside.pages = PagesOf(draw).pages.size();
                     return m_outside.pdfFault;
                 },
             .askForFile =

@@ -99,6 +99,7 @@ protected:
         QStringList printed; ///< titles
         QStringList pdfs;    ///< files
         std::size_t pages = 0;
+        QStringList texts; ///< on the pages
         QString pdfFault;
         int restored = 0;
         int saved = 0;

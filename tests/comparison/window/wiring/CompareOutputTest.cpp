@@ -1,7 +1,9 @@
 // Copying, exporting and printing, and what is kept of the window.
 
+#include "ChartWidget.h"
 #include "CompareFixture.h"
 #include "FigureTable.h"
+#include "FigureTexts.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -104,6 +106,25 @@ TEST_F(CompareOutput, OfEachPageIsPrintedExportedAndCopied) {
         EXPECT_GT(copied->text().count(u'\n'), 2) << page;
     }
     EXPECT_TRUE(SettledMessages().isEmpty());
+}
+
+TEST_F(CompareOutput, OverTimeNamesTheTimeOfEachRow) {
+    OpenCompare();
+    ShowPage(1);
+    const quend::compare::ChartLine& first =
+        User().Get<quend::compare::ChartWidget>(u"chtOverTime").Data().lines.front();
+    const QList<QByteArray> lines =
+        Export(u"a.csv"_s, u"CSV separated by commas (*.csv)"_s).split('\n');
+    EXPECT_EQ(lines.at(0), "\xEF\xBB\xBF,Cedar & Sons,Lakeside,The loan held today\r");
+    EXPECT_TRUE(lines.at(1).startsWith("Today,")) << lines.at(1).toStdString();
+    const QByteArray third = "Year 3," + quend::compare::PlainNumberOf(first.By(36)).toUtf8() + ',';
+    EXPECT_TRUE(lines.at(4).startsWith(third)) << lines.at(4).toStdString();
+    Click(u"cmdCopy");
+    EXPECT_TRUE(QApplication::clipboard()->mimeData()->text().contains(
+        QString::fromUtf8(third).replace(u',', u'\t')));
+    Click(u"cmdPrint");
+    EXPECT_TRUE(m_outside.texts.contains(u"Year 3"));
+    EXPECT_TRUE(m_outside.texts.contains(u"The same figures as a table"));
 }
 
 TEST_F(CompareOutput, OfAnEmptyWorksheetIsPossible) {

@@ -111,6 +111,18 @@ TEST_F(TableTexts, HaveTheColumnsShownInTheirOrder) {
     EXPECT_EQ(u"Lender\nFirst Prairie\n"_s, TabSeparated(WholeTable(m_model, {0}), u'.'));
 }
 
+TEST_F(TableTexts, HaveTheHeadingsOfRowsInFront) {
+    m_model.setVerticalHeaderLabels({u"=Year <1>"_s});
+    TableCells cells = Table();
+    cells.rowHeadings = true;
+    EXPECT_EQ(u"\tLender\tCosts\n'=Year <1>\tFirst Prairie\t-1234.5\n"_s,
+              TabSeparated(cells, u'.'));
+    const QString html = HtmlTable(cells);
+    EXPECT_TRUE(html.contains(u"<tr><th align=\"left\"></th><th"_s)) << html.toStdString();
+    EXPECT_TRUE(html.contains(u"<tr><th align=\"left\">'=Year &lt;1&gt;</th><td"_s))
+        << html.toStdString();
+}
+
 TEST_F(TableTexts, LeaveOutWhatIsNotSelected) {
     m_model.appendRow({new QStandardItem(u"B"_s), new QStandardItem(u"C"_s)});
     QItemSelectionModel selection(&m_model);

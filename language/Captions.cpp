@@ -75,7 +75,7 @@ QString DesignText(QObject& object, const char* property) {
 /// The text to use if the language has none: the form's own, or English if the form has none
 /// either.
 QString TextInstead(int number, const QString& designText) {
-    const QString english = Language::Instance().DefaultText(number);
+    const QString english = Language::DefaultText(number);
     return designText.isEmpty() && !english.isNull() ? english : designText;
 }
 
@@ -147,6 +147,17 @@ void ApplyTexts(QObject& window, TermUnit unit, int ordinal) {
         window.setProperty(Ordinal, ordinal);
     }
     ApplyToTree(window, unit, 0);
+}
+
+QString WithoutAccessKey(const QString& caption) {
+    QString shown;
+    for (qsizetype at = 0; at < caption.size(); ++at) {
+        if (caption.at(at) == u'&' && at + 1 < caption.size()) {
+            ++at;
+        }
+        shown += caption.at(at);
+    }
+    return shown;
 }
 
 } // namespace quend::language

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class QObject;
 
 namespace quend::language {
@@ -36,5 +38,8 @@ inline constexpr const char* ActiveAway     = "activeTextAway";     ///< true wh
 /// An `ordinal` above 0 replaces "%1" in accessible names. It is stored in `window`, so that a
 /// later call for an enclosing window finds it.
 void ApplyTexts(QObject& window, TermUnit unit, int ordinal = 0);
+
+/// A caption as it is shown: "&Loan" reads "Loan", "P && I" reads "P & I".
+QString WithoutAccessKey(const QString& caption);
 
 } // namespace quend::language

@@ -1,5 +1,6 @@
 #include "ReportInputReader.h"
 
+#include "Captions.h"
 #include "Field.h"
 #include "Language.h"
 #include "Loan.h"
@@ -121,7 +122,7 @@ public:
 
     FormLabel Label(const char* name) const {
         const QWidget& control = Control(name);
-        return {.caption = ShownCaption(control.property("text").toString()),
+        return {.caption = WithoutAccessKey(control.property("text").toString()),
                 .place = PlaceOf(control),
                 .side = SideOf(control),
                 .points = QFontInfo(control.font()).pointSizeF(),
@@ -246,17 +247,6 @@ double LabelPoints(const Loan& window) {
 
 QString LabelFamily(const Loan& window) {
     return QFontInfo(window.Form().lblLoanName->font()).family();
-}
-
-QString ShownCaption(const QString& caption) {
-    QString shown;
-    for (qsizetype at = 0; at < caption.size(); ++at) {
-        if (caption.at(at) == u'&' && at + 1 < caption.size()) {
-            ++at;
-        }
-        shown += caption.at(at);
-    }
-    return shown;
 }
 
 ReportInput ReadForm(Loan& window, double widest) {

@@ -19,7 +19,4 @@ double PixelsPerPoint(const Loan& window);
 double LabelPoints(const Loan& window);
 QString LabelFamily(const Loan& window);
 
-/// A caption as it is shown: "&Loan" reads "Loan", "P && I" reads "P & I".
-QString ShownCaption(const QString& caption);
-
 } // namespace quend::printing

@@ -248,4 +248,15 @@ TEST_F(Captions, ObjectsThatCannotShowATextAreLeftAlone) {
     EXPECT_EQ(before, nothing.dynamicPropertyNames());
 }
 
+TEST(CaptionText, IsShownWithoutItsAccessKey) {
+    const struct {
+        const char* caption;
+        const char* shown;
+    } cases[] = {{"P && I", "P & I"}, {"&Interest", "Interest"}, {"Pay&off Date", "Payoff Date"},
+                 {"&&&A", "&A"},      {"end&", "end&"},          {"", ""}};
+    for (const auto& text : cases) {
+        EXPECT_EQ(WithoutAccessKey(QString::fromUtf8(text.caption)).toStdString(), text.shown);
+    }
+}
+
 } // namespace

@@ -1,3 +1,4 @@
+#include "Captions.h"
 #include "ProgramFolder.h"
 #include "QuendNames.h"
 #include "TextNumbers.h"
@@ -46,15 +47,6 @@ std::string AccessKeys(const QString& text) {
         }
     }
     return keys.toStdString();
-}
-
-QString WithoutAccessKey(QString text) {
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == u'&') {
-            text.remove(i, 1);
-        }
-    }
-    return text;
 }
 
 /// One test for each existing table, so that a new language is checked without a change here.

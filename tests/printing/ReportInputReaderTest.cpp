@@ -217,15 +217,4 @@ TEST_F(ReportInputReaderTest, BreaksAndStrayCharactersAreCleaned) {
     }
 }
 
-TEST(Caption, IsShownWithoutItsAccessKey) {
-    const struct {
-        const char* caption;
-        const char* shown;
-    } cases[] = {{"P && I", "P & I"}, {"&Interest", "Interest"}, {"Pay&off Date", "Payoff Date"},
-                 {"&&&A", "&A"},      {"end&", "end&"},          {"", ""}};
-    for (const auto& text : cases) {
-        EXPECT_EQ(ShownCaption(QString::fromUtf8(text.caption)).toStdString(), text.shown);
-    }
-}
-
 } // namespace

@@ -1,5 +1,6 @@
 // The captions in the forms equal the English texts, except for access keys.
 
+#include "Captions.h"
 #include "Language.h"
 #include "QuendNames.h"
 
@@ -42,21 +43,13 @@ QList<Drawn> ObjectsOf(const char* form) {
     return all;
 }
 
-/// The text without access key marks; "&&" is a letter and stays.
-QString WithoutAccessKey(QString text) {
-    constexpr QChar kept(u'\x1');
-    return text.replace(QStringLiteral("&&"), kept)
-        .remove(u'&')
-        .replace(kept, QStringLiteral("&&"));
-}
-
 class DesignTexts : public ::testing::TestWithParam<const char*> {
 protected:
     DesignTexts() {
         Language::Instance().SetUp(QStringLiteral(QUEND_PROGRAM_DIR), QStringLiteral("Loan"));
     }
     static QString EnglishText(const QString& number) {
-        return Language::Instance().DefaultText(number.toInt());
+        return Language::DefaultText(number.toInt());
     }
 };
 

@@ -1,5 +1,6 @@
 #include "TableClipboard.h"
 
+#include "Captions.h"
 #include "CellBlock.h"
 #include "ControlMap.h"
 #include "EditTextNumbers.h"
@@ -41,10 +42,7 @@ QString HeadingOf(const Loan& window, FieldId field) {
     }
     const auto heading = std::ranges::find(OfferHeadings(), field, &OfferHeading::first);
     const auto* control = window.findChild<QWidget*>(QString::fromLatin1(heading->control));
-    QString text = control->property("text").toString();
-    return text.replace(QStringLiteral("&&"), QString(QChar(1)))
-        .remove(u'&')
-        .replace(QChar(1), u'&');
+    return WithoutAccessKey(control->property("text").toString());
 }
 
 QString ShownIn(const QWidget& control) {

@@ -24,8 +24,7 @@
 namespace quend::exchange {
 
 ExchangeCommands::ExchangeCommands(Loan& window, ExchangeWorld world, std::function<bool()> mayDrop)
-    : m_window(&window), m_world(std::move(world)), m_mayDrop(std::move(mayDrop)),
-      m_folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {
+    : m_window(&window), m_world(std::move(world)), m_mayDrop(std::move(mayDrop)) {
     const auto wire = [this](QAction& entry, void (ExchangeCommands::*handler)()) {
         entry.setEnabled(true);
         connect(&entry, &QAction::triggered, this, [this, handler] {
@@ -43,9 +42,13 @@ ExchangeCommands::ExchangeCommands(Loan& window, ExchangeWorld world, std::funct
 
 ExchangeCommands::~ExchangeCommands() { m_window->OnFileDropped({}); }
 
-/// Folders go, and the one for documents need not be there.
+/// Folders go, and the one for documents need not be there. It is looked up late, because Qt reads
+/// a file for it.
 QString ExchangeCommands::Folder() const {
-    return QFileInfo(m_folder).isDir() ? m_folder : QDir::homePath();
+    const QString folder = m_folder.isEmpty()
+                               ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                               : m_folder;
+    return QFileInfo(folder).isDir() ? folder : QDir::homePath();
 }
 
 void ExchangeCommands::mnuFileOpen_Click() {
@@ -108,8 +111,10 @@ void ExchangeCommands::Save(const QString& path, const QByteArray& bytes) {
     }
     const QString trouble = NotSavedText(file, SaveFile(file, bytes));
     if (!trouble.isEmpty()) {
-        m_window->GetMessages().Post(trouble);
+        return m_window->GetMessages().Post(trouble);
     }
+    m_window->Announce(
+        GetResourceText(TextNumber::SavedAsFile).arg(QDir::toNativeSeparators(file)));
 }
 
 /// The dialog has asked about the name as it was typed, without the ending.

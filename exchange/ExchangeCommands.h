@@ -44,7 +44,7 @@ private:
     Loan* m_window;
     ExchangeWorld m_world;
     std::function<bool()> m_mayDrop;
-    QString m_folder; ///< the one used last
+    QString m_folder; ///< the one used last; empty before
 };
 
 } // namespace quend::exchange

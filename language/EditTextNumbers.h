@@ -74,6 +74,7 @@ inline constexpr int FileNotOpened = 1416;
 inline constexpr int FileIncomplete = 1417;
 inline constexpr int NoFileOfThis = 1418;
 inline constexpr int ValueNotForFile = 1419;
+inline constexpr int SavedAsFile = 1420;
 
 // The print preview.
 inline constexpr int PreviewOf = 1440; ///< %1: the worksheet
@@ -96,5 +97,7 @@ inline constexpr int OpenUnsaved = 1471;
 inline constexpr int OpenUnsavedUnnamed = 1472;
 inline constexpr int WithoutName = 1473;
 inline constexpr int UnsavedNotKept = 1474;
+inline constexpr int BroughtBack = 1475;
+inline constexpr int Renamed = 1476;
 
 } // namespace quend::language::TextNumber

@@ -20,6 +20,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QDir>
 #include <QEvent>
 #include <QEventLoop>
 #include <QLocale>
@@ -199,10 +200,15 @@ void PrintCommands::mnuFileExportPdf_Click() {
     }
     const QPageLayout page = m_printer->Page();
     const PrintedPages pages = ReportPages(SpaceOf(page));
-    const QString error = pages.pages.empty() ? QString() : SavePdf(file.name, pages, name, page);
-    if (!error.isEmpty()) {
-        m_window->GetMessages().Post(error);
+    if (pages.pages.empty()) {
+        return;
     }
+    const QString error = SavePdf(file.name, pages, name, page);
+    if (!error.isEmpty()) {
+        return m_window->GetMessages().Post(error);
+    }
+    m_window->Announce(
+        GetResourceText(TextNumber::SavedAsFile).arg(QDir::toNativeSeparators(file.name)));
 }
 
 void PrintCommands::Print(QWidget& parent, const QString& title, const DrawDocument& draw) {

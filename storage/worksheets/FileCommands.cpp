@@ -274,6 +274,7 @@ void FileCommands::mnuFileBringBack_Click() {
     } else {
         Show(back);
     }
+    m_window->Announce(GetResourceText(TextNumber::BroughtBack));
     ShowKept();
     m_window->Reenter();
 }

@@ -14,6 +14,7 @@
 
 #include <QAction>
 #include <QInputDialog>
+#include <QLineEdit>
 
 #include <utility>
 
@@ -24,8 +25,10 @@ std::optional<QString> AskForNewName(QWidget& parent, const QString& name) {
     dialog.setWindowTitle(GetResourceText(TextNumber::RenameTitle));
     dialog.setLabelText(GetResourceText(TextNumber::RenameTo));
     dialog.setTextValue(name);
-    constexpr int characters = 50; // the title is whole, too
-    dialog.setMinimumWidth(dialog.fontMetrics().averageCharWidth() * characters);
+    // So that the title is whole, too. The dialog derives its own least width from its contents.
+    constexpr int characters = 50;
+    dialog.findChild<QLineEdit*>()->setMinimumWidth(dialog.fontMetrics().averageCharWidth() *
+                                                    characters);
     dialog.setOkButtonText(GetResourceText(TextNumber::Ok));
     dialog.setCancelButtonText(GetResourceText(TextNumber::Cancel));
     return dialog.exec() == QDialog::Accepted ? std::optional(dialog.textValue()) : std::nullopt;
@@ -84,6 +87,7 @@ void RenameCommand::Rename(const QString& from, const QString& to) {
     }
     m_window->ForgetSteps(); // undone, they would bring the old name back
     m_window->ShowTitle();
+    m_window->Announce(GetResourceText(TextNumber::Renamed));
     m_window->Reenter();
 }
 

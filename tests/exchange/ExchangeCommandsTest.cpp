@@ -149,6 +149,7 @@ TEST_F(ExchangeCommandsTest, SavingProposesANameAndTakesTheFieldBeingEdited) {
     EXPECT_EQ(m_proposed, first + u"/Home 2.5.quendloan"_s);
     Trigger(u"mnuFileSaveAs", In(u"v2.5"_s));
     EXPECT_TRUE(BytesOf(In(u"v2.5.quendloan"_s)).contains("\"amount\": \"250000.50\""));
+    EXPECT_EQ(Announced(), u"Saved as “%1”."_s.arg(In(u"v2.5.quendloan"_s)));
     EXPECT_TRUE(Sheet().Dirty());
     EXPECT_EQ(Text(u"txtLoanAmount"), u"250000.5");
     Trigger(u"mnuFileOpen", {});
@@ -198,6 +199,7 @@ TEST_F(ExchangeCommandsTest, WhatIsNotSavedIsReported) {
         ASSERT_EQ(SettledMessages().size(), 1) << row.path.toStdString();
         EXPECT_TRUE(Messages().Texts().front().contains(row.words))
             << Messages().Texts().front().toStdString();
+        EXPECT_EQ(Announced(), u"");
     }
     if (geteuid() != 0) {
         QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::ExeOwner);

@@ -184,6 +184,7 @@ TEST_F(PreviewTest, TheFieldBeingEditedIsStoredFirst) {
     Type(u"2600");
     Export(In(u"report.pdf"_s));
     EXPECT_TRUE(PageText(In(u"report.pdf"_s), 1).contains(u"$2,600.00"));
+    EXPECT_EQ(Announced(), u"Saved as “%1”."_s.arg(In(u"report.pdf"_s)));
 }
 
 TEST_F(PreviewTest, ARefusedFieldStopsThem) {
@@ -307,6 +308,7 @@ TEST_F(PreviewTest, AFileThatCannotBeSavedIsReportedAndNothingIsLeft) {
         EXPECT_TRUE(SettledMessages().join(u'|').startsWith(row.reported))
             << row.reported.toStdString();
         EXPECT_EQ(SettledMessages().isEmpty(), row.reported.isEmpty());
+        EXPECT_EQ(Announced(), u"");
         Messages().Clear();
     }
     EXPECT_TRUE(Files().isEmpty());

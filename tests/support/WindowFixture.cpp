@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -130,6 +131,11 @@ bool WindowTest::WaitFor(const std::function<bool()>& condition) {
 QStringList WindowTest::SettledMessages() {
     Settle();
     return m_messages.Texts();
+}
+
+QString WindowTest::Announced() {
+    const auto& line = Get<QLabel>(u"lblAnnounced");
+    return line.isVisible() ? line.accessibleName() : QString();
 }
 
 void WindowTest::OpenContextMenu(QStringView name) {

@@ -96,6 +96,8 @@ protected:
     void OpenContextMenu(QStringView name);
     /// The messages after all pending events.
     QStringList SettledMessages();
+    /// What the line below the rows says that a command has done; empty while it shows the hint.
+    QString Announced();
 
     static QString RowName(QStringView control, int row);
     /// The distance of two rows.

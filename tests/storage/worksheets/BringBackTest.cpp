@@ -3,8 +3,6 @@
 #include "FileCommandsFixture.h"
 #include "QuendNames.h"
 
-#include <QLabel>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -16,10 +14,6 @@ protected:
     QString Offered() {
         EXPECT_EQ(Entry().isVisible(), Entry().isEnabled());
         return Entry().isVisible() ? Entry().text() : QString();
-    }
-    QString Announced() {
-        const auto& line = Get<QLabel>(u"lblAnnounced");
-        return line.isVisible() ? line.accessibleName() : QString();
     }
     void WriteElsewhere(const std::string& amount) {
         m_folder.Store().SetValue(StoreFolder::Root, StoreFolder::LoanKey("Home"), "LoanAmount",
@@ -99,6 +93,7 @@ TEST_F(BringBack, RestoresADeletedWorksheetWhole) {
               u"Deleted. It is kept until you leave the program: File, Bring Back “Home & garden”");
     EXPECT_EQ(Offered(), u"&Bring Back “Home && garden”");
     Trigger(u"mnuFileBringBack");
+    EXPECT_EQ(Announced(), u"Brought back.");
     EXPECT_EQ(m_folder.Store().GetValues(StoreFolder::Root, key), stored);
     EXPECT_EQ(Sheet().LoanName(), u"Home & garden");
     EXPECT_EQ(Text(u"txtPandI(0)"), u"$0.04");
@@ -123,7 +118,7 @@ TEST_F(BringBack, TheLastOneKeptComesFirst) {
     }
     EXPECT_EQ(Offered(), u"&Bring Back “Two”");
     SwitchLanguage(Spanish);
-    EXPECT_EQ(Offered(), u"Rec&uperar “Two”");
+    EXPECT_EQ(Offered(), u"Rec&uperar «Two»");
     SwitchLanguage(English);
     Window().ApplySettings(Window().GetSettings());
     Trigger(u"mnuFileBringBack");

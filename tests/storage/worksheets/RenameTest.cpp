@@ -100,6 +100,7 @@ TEST_F(Rename, MovesAllValuesAndLeavesTheRestAsItIs) {
             EXPECT_EQ(Values(to), expected);
             EXPECT_EQ(Kept(), QStringList(*m_answer));
             EXPECT_EQ(Text(u"cboLoanName"), *m_answer);
+            EXPECT_EQ(Announced(), u"Renamed.");
             EXPECT_EQ(Window().windowTitle(), *m_answer + u"[*] — Quend Loan"_s);
             EXPECT_EQ(Sheet().Dirty(), dirty);
             EXPECT_EQ(Window().isWindowModified(), dirty);
@@ -168,6 +169,8 @@ TEST_F(Rename, TheDialogAsksInTheCurrentLanguage) {
                 shown = {dialog->windowTitle(), dialog->labelText(), dialog->okButtonText(),
                          dialog->cancelButtonText()};
                 EXPECT_EQ(dialog->textValue(), u"Home");
+                EXPECT_GE(dialog->width(),
+                          dialog->fontMetrics().horizontalAdvance(shown.front()) * 3 / 2);
                 dialog->setTextValue(u"Other"_s);
                 accepts ? dialog->accept() : dialog->reject();
             });

@@ -15,8 +15,6 @@ class Signs : public FileCommandsTest {
 protected:
     QLabel& Line() { return Get<QLabel>(u"lblAnnounced"); }
     QLabel& Hint() { return Get<QLabel>(u"lblHint"); }
-    /// What the line shows; empty when it shows the hint or nothing.
-    QString Announced() { return Line().isVisible() ? Line().accessibleName() : QString(); }
     void LetItPass() {
         Window().findChild<QTimer*>(u"tmrAnnounced"_s)->start(1);
         ASSERT_TRUE(WaitFor([this] { return !Line().isVisible(); }));

@@ -20,6 +20,6 @@ if(QUEND_SANITIZE)
 endif()
 # Most of the program is windows, whose speed is Qt's; small code leaves more of it unread at the start. What computes
 # asks for speed (add_layer).
-set(CMAKE_CXX_FLAGS_RELEASE "-Os -DNDEBUG")
+set(CMAKE_CXX_FLAGS_RELEASE "${QUEND_OPTIMISE} -DNDEBUG")
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)

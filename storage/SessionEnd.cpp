@@ -10,6 +10,7 @@
 #include "Worksheet.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QSessionManager>
 
 #include <utility>
@@ -45,10 +46,21 @@ void SessionEnd::OnSessionEnd(QSessionManager& session) {
 
 /// A dialog that is open would cover the question.
 bool SessionEnd::MayEnd(bool hasTimeToAsk) {
+    qApp->removeEventFilter(this);
     if (hasTimeToAsk && QApplication::activeModalWidget() == nullptr) {
         return m_window->close();
     }
     KeepUnsaved();
+    qApp->installEventFilter(this);
+    return true;
+}
+
+/// When the session has ended, Qt closes all windows, as if the user did.
+bool SessionEnd::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != qApp || event->type() != QEvent::Quit) {
+        return false;
+    }
+    EndNow();
     return true;
 }
 

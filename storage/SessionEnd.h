@@ -37,7 +37,8 @@ public:
     /// Window and commands must outlive this object.
     SessionEnd(Loan& window, FileCommands& files, UnsavedWorksheets unsaved, World world);
 
-    /// The desktop asks whether its session may end. False when the user cancels.
+    /// The desktop asks whether its session may end. False when the user cancels. Without time to
+    /// ask, the end that follows does not ask either.
     bool MayEnd(bool hasTimeToAsk);
     /// Leaves the event loop without asking.
     void EndNow();
@@ -45,6 +46,9 @@ public:
     void Forget();
     /// Asks whether to open a worksheet that was closed unsaved, if there is one.
     void OfferUnsaved();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void OnSessionEnd(QSessionManager& session);

@@ -110,6 +110,24 @@ TEST_F(SessionEndTest, AsksOrKeeps) {
     }
 }
 
+TEST_F(SessionEndTest, TheEndThatFollowsAsksOnlyIfTheUserWasAsked) {
+    TypeName(u"Home"_s);
+    Fill(u"txtLoanAmount", u"7");
+    for (const bool hasTimeToAsk : {false, true, false}) {
+        SCOPED_TRACE(hasTimeToAsk);
+        Messages().Clear();
+        Messages().WillAnswer({Answer::Cancel, Answer::Cancel});
+        EXPECT_EQ(m_ending->MayEnd(hasTimeToAsk), !hasTimeToAsk);
+        m_exited = false;
+        QEvent quit(QEvent::Quit);
+        QCoreApplication::sendEvent(qApp, &quit);
+        EXPECT_EQ(m_exited, !hasTimeToAsk);
+        EXPECT_EQ(Messages().Questions().size(), hasTimeToAsk ? 2U : 0U);
+        EXPECT_TRUE(Window().isVisible());
+        EXPECT_TRUE(KeepsUnsaved());
+    }
+}
+
 TEST_F(SessionEndTest, TheNextStartOffersWhatASignalEnded) {
     struct Case {
         QString loan;

@@ -3,13 +3,15 @@
 #include "Language.h"
 #include "NumberedText.h"
 
+#include <array>
+
 namespace quend::language {
 
 namespace {
 
-constexpr NumberedText Texts[]{
+constexpr auto Texts = std::to_array<NumberedText>({
 #include "DefaultTexts.inc"
-};
+});
 
 } // namespace
 

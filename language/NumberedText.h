@@ -11,7 +11,7 @@ namespace quend::language {
 /// A text of a table that the build has compiled, so that the program need not read the table
 /// whenever it starts.
 struct NumberedText {
-    int number;
+    int number = 0;
     QStringView text;
 };
 

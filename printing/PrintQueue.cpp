@@ -16,8 +16,9 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Milliseconds = std::chrono::milliseconds;
 
-/// How often a waiting call checks whether to stop, in seconds.
-constexpr double LookEvery = 0.1;
+/// How often a waiting call checks whether to stop, in seconds. A tenth was too often: on a busy
+/// machine about one job in thirty was reported as failed although the server had printed it.
+constexpr double LookEvery = 1;
 
 /// A connection that gives up when it is stopped or its patience runs out.
 class Connection {
@@ -137,20 +138,24 @@ PrintOutcome FaultOfBeginning(const Connection& server, const QString& queue) {
     return known ? fault : PrintOutcome{PrintFault::Gone, queue};
 }
 
+/// Whether the server takes more of the document: it may answer while the last part is written.
+bool Goes(http_status_t status) {
+    return status != HTTP_STATUS_ERROR && status < HTTP_STATUS_MULTIPLE_CHOICES;
+}
+
 /// True if the whole document was sent.
 bool Write(const Connection& server, const QueuedDocument& document, const QByteArray& queue,
            int job) {
     constexpr qsizetype most = 32'768;
-    if (cupsStartDocument(server.Http(), queue.constData(), job,
-                          document.title.toUtf8().constData(), CUPS_FORMAT_PDF,
-                          1) != HTTP_STATUS_CONTINUE) {
+    if (!Goes(cupsStartDocument(server.Http(), queue.constData(), job,
+                                document.title.toUtf8().constData(), CUPS_FORMAT_PDF, 1))) {
         return false;
     }
     for (qsizetype at = 0; at < document.pdf.size(); at += most) {
         const qsizetype count = std::min(most, document.pdf.size() - at);
         if (server.Stopped() ||
-            cupsWriteRequestData(server.Http(), document.pdf.constData() + at,
-                                 static_cast<std::size_t>(count)) != HTTP_STATUS_CONTINUE) {
+            !Goes(cupsWriteRequestData(server.Http(), document.pdf.constData() + at,
+                                       static_cast<std::size_t>(count)))) {
             return false;
         }
     }

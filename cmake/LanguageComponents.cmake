@@ -42,9 +42,13 @@ function(add_language_components target)
     set(folder "${CMAKE_CURRENT_BINARY_DIR}/${component}")
     configure_component("${table}" "${folder}")
     compile_texts("${table}" "${folder}/Texts.inc")
-    add_library(${component} MODULE "${folder}/Component.cpp" "${folder}/Texts.inc")
+    # A separate target: as a source of the component the rows would wait for moc, which reads them.
+    add_custom_target(${component}_texts DEPENDS "${folder}/Texts.inc")
+    add_library(${component} MODULE "${folder}/Component.cpp")
+    add_dependencies(${component} ${component}_texts)
     set_target_properties(${component} PROPERTIES
       AUTOMOC ON
+      AUTOGEN_TARGET_DEPENDS ${component}_texts
       PREFIX ""
       OUTPUT_NAME "${LANGUAGES_PROGRAM}${identifier}.Resources"
       LIBRARY_OUTPUT_DIRECTORY "${LANGUAGES_DESTINATION}")

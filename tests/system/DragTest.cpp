@@ -29,13 +29,6 @@ type txtTerm(1) 30
 choose cboFrequency(1) @114
 )";
 
-const std::string Notice =
-    "dialog\tThe payment you intend to make cannot be lower than the payment calculated for the "
-    "offer. It has been set to the calculated payment; you can enter a higher one.\n";
-const std::string NoticeInSpanish =
-    "dialog\tEl pago que piensa hacer no puede ser menor que el pago calculado para la oferta. Se "
-    "fijó en el pago calculado; puede escribir uno mayor.\n";
-
 const std::string BetweenRows = R"(
 drag txtPoints(0) txtPoints(3)
 expect txtPoints(3) 1.500

@@ -13,13 +13,6 @@ class EditStory : public testing::TestWithParam<Story> {};
 
 TEST_P(EditStory, IsShown) { ExpectShown(GetParam()); }
 
-const std::string Notice =
-    "dialog\tThe payment you intend to make cannot be lower than the payment calculated for the "
-    "offer. It has been set to the calculated payment; you can enter a higher one.\n";
-const std::string NoticeInSpanish =
-    "dialog\tEl pago que piensa hacer no puede ser menor que el pago calculado para la oferta. Se "
-    "fijó en el pago calculado; puede escribir uno mayor.\n";
-
 /// The block goes back and comes again as one step; then it leaves as a table and comes in again.
 std::string PastedBlock(const std::string& copy) {
     return "type txtLoanAmount 250000\nclip " + copy + R"(
